@@ -1,0 +1,76 @@
+# Targets of this project: how a library of a floor, a test and a program are declared.
+
+find_program(DYEWORKS_CCACHE ccache)
+
+# Settings every target of ours is built with; projects that include this one keep their own.
+function(dyeworks_target_settings target)
+  target_compile_features(${target} PUBLIC cxx_std_20)
+  set_target_properties(${target} PROPERTIES
+    CXX_EXTENSIONS OFF
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON
+    POSITION_INDEPENDENT_CODE ON)
+  if(DYEWORKS_CCACHE)
+    set_target_properties(${target} PROPERTIES
+      C_COMPILER_LAUNCHER "${DYEWORKS_CCACHE}" CXX_COMPILER_LAUNCHER "${DYEWORKS_CCACHE}")
+  endif()
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+  if(DYEWORKS_WARNINGS_AS_ERRORS)
+    target_compile_options(${target} PRIVATE -Werror)
+  endif()
+  if(DYEWORKS_SANITIZE)
+    target_compile_options(${target} PUBLIC -fsanitize=address,undefined -fno-sanitize-recover=undefined
+      -fno-omit-frame-pointer)
+    target_link_options(${target} PUBLIC -fsanitize=address,undefined)
+  endif()
+  if(DYEWORKS_COVERAGE)
+    target_compile_options(${target} PUBLIC --coverage)
+    target_link_options(${target} PUBLIC --coverage)
+  endif()
+endfunction()
+
+# dyeworks_library(<target> FOLDER <folder below src> LINK <libraries>... [QT])
+#
+# One library for one folder. LINK names what the folder may include; anything else does not link, and
+# tools/check-layers refuses it before that. Libraries without QT see no Qt include folder.
+function(dyeworks_library target)
+  cmake_parse_arguments(arg "QT" "FOLDER" "LINK" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS
+    "${PROJECT_SOURCE_DIR}/src/${arg_FOLDER}/*.cpp" "${PROJECT_SOURCE_DIR}/src/${arg_FOLDER}/*.h")
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  set(compiled ${sources})
+  list(FILTER compiled INCLUDE REGEX "\\.cpp$")
+  if(compiled)
+    add_library(${target} STATIC ${sources})
+    target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}/src")
+    target_link_libraries(${target} PUBLIC ${arg_LINK})
+    dyeworks_target_settings(${target})
+    if(arg_QT)
+      set_target_properties(${target} PROPERTIES AUTOMOC ON)
+      target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+    endif()
+    add_dependencies(${target} dyeworks_check_layers)
+  endif()
+endfunction()
+
+# dyeworks_test(<name> LINK <libraries>...): tests/<name>/*.cpp as one program, each case a test of its own.
+function(dyeworks_test name)
+  cmake_parse_arguments(arg "QT" "" "LINK" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS
+    "${PROJECT_SOURCE_DIR}/tests/${name}/*.cpp" "${PROJECT_SOURCE_DIR}/tests/${name}/*.h")
+  if(NOT sources)
+    return()
+  endif()
+  set(target dyeworks_test_${name})
+  add_executable(${target} ${sources})
+  target_link_libraries(${target} PRIVATE ${arg_LINK} GTest::gmock)
+  if(arg_QT)
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+  else()
+    target_link_libraries(${target} PRIVATE GTest::gmock_main)
+  endif()
+  dyeworks_target_settings(${target})
+  target_precompile_headers(${target} PRIVATE <gmock/gmock.h> <gtest/gtest.h>)
+  target_compile_definitions(${target} PRIVATE DYEWORKS_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  gtest_discover_tests(${target} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+endfunction()

@@ -1,0 +1,16 @@
+#pragma once
+
+namespace dyeworks {
+
+/// Learns of changes in the palette set: the palette bar.
+class PaletteSetListener {
+public:
+    virtual ~PaletteSetListener() = default;
+
+    /// Palettes came, went or were renamed, or another one is current: the tabs are out of date.
+    virtual void tabsChanged() = 0;
+    /// The controls must show the current palette anew.
+    virtual void currentPaletteChanged() = 0;
+};
+
+} // namespace dyeworks

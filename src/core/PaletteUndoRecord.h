@@ -1,0 +1,24 @@
+#pragma once
+
+#include "core/TlutData.h"
+#include "core/UndoHistory.h"
+
+#include <memory>
+
+namespace dyeworks {
+
+/// An edit of a palette as its whole table before and after. The target is the palette's `TlutData`. Either
+/// table may be missing; undoing to (redoing) a missing table changes nothing.
+class PaletteUndoRecord : public UndoRecord {
+public:
+    PaletteUndoRecord(const TlutData* before, const TlutData* after);
+
+    bool undo(void* target) override;
+    bool redo(void* target) override;
+    [[nodiscard]] std::unique_ptr<UndoRecord> inverse() const override;
+
+    std::unique_ptr<TlutData> before;
+    std::unique_ptr<TlutData> after;
+};
+
+} // namespace dyeworks

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "core/TlutData.h"
+#include "core/UndoHistory.h"
+#include "platform/DisplayPalette.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace dyeworks {
+
+/// A palette: its table, its name and file, and the history of its edits.
+class TextureLookupTable {
+public:
+    TextureLookupTable();
+    /// Copies table, names and modified state; the copy starts a history of its own.
+    TextureLookupTable(const TextureLookupTable& other);
+    explicit TextureLookupTable(const TlutData& table);
+    TextureLookupTable& operator=(const TextureLookupTable&) = delete;
+
+    virtual ~TextureLookupTable();
+
+    /// Names the palette "palette%d" after the process-wide counter and builds default entries. A failure is
+    /// shown in a message box and leaves the new names in place.
+    virtual bool create(std::int32_t count, ColourType colourType);
+
+    /// Writes the palette to `name`. Without a name (null, empty, or one that begins with "*") it goes to the
+    /// palette's own file, or to one that the user is asked for when it has none or `forceDialog` is set.
+    /// False when the user cancelled or the file could not be written (which has been reported).
+    virtual bool save(const char* name, bool forceDialog);
+
+    /// Reads the palette from `name`, from its own path when there is no name, or from a file that the user
+    /// is asked for when there is neither. A modified palette refuses.
+    virtual bool open(const char* name);
+
+    // As the setters of TlutData; a change marks the palette modified.
+    virtual bool setRed(std::int32_t index, std::int32_t value);
+    virtual bool setGreen(std::int32_t index, std::int32_t value);
+    virtual bool setBlue(std::int32_t index, std::int32_t value);
+    virtual bool setIntensity(std::int32_t index, std::int32_t value);
+    virtual bool setAlpha(std::int32_t index, std::int32_t value);
+    virtual bool setEntry(std::int32_t index, std::uint16_t entry);
+    virtual bool setEntryAlias(std::int32_t index, std::uint16_t entry);
+
+    /// Brings `modified` and the title's " * " in step with the history: no edit in effect is unmodified.
+    virtual void updateTitle();
+
+    /// The display colour of an entry, 8 bits a channel; flags (reserved) is 0. False, setting nothing, for
+    /// an index out of range or an unknown colour type. Reads the palette set's alpha-view flag.
+    bool toPaletteEntry(std::int32_t index, std::uint8_t& red, std::uint8_t& green, std::uint8_t& blue,
+                        std::uint8_t& flags) const;
+    bool toRgbQuad(std::int32_t index, std::uint8_t& blue, std::uint8_t& green, std::uint8_t& red,
+                   std::uint8_t& reserved) const;
+
+    /// A description of all entries' display colours, or null (reported) when one of them has none.
+    [[nodiscard]] std::unique_ptr<LogPalette> newLogPalette() const;
+    /// Makes `palette` show the entries' display colours.
+    bool createPalette(DisplayPalette& palette) const;
+
+    /// Asks whether to save unsaved changes. True: the caller may go on.
+    bool querySave();
+
+    /// Bracket every undoable edit: keep the table as it is, then record what became of it.
+    bool beginEdit();
+    bool commitEdit();
+
+    bool undo();
+    bool redo();
+    [[nodiscard]] bool canUndo() const;
+    [[nodiscard]] bool canRedo() const;
+    /// Starts a new, empty history.
+    void resetHistory();
+
+    TlutData table;
+    std::string path;  ///< Full path of the file, or "*palette%d" as long as there is none.
+    std::string title; ///< Name shown to the user.
+    bool modified = false;
+    std::unique_ptr<UndoHistory> history;
+    std::unique_ptr<TlutData> snapshot; ///< The table at `beginEdit`.
+
+private:
+    [[nodiscard]] bool standsAtSavedPosition() const;
+    void titleFromPath();
+
+    std::int32_t savedPosition_ = 0; ///< History position that the file holds; -1 when none can be reached.
+};
+
+} // namespace dyeworks

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "framework/CommandTarget.h"
+#include "framework/DocumentView.h"
+
+#include <string>
+#include <vector>
+
+namespace dyeworks {
+
+class DocumentTemplate;
+
+/// A document: something that is opened, shown in views, changed and saved. Needs no window.
+class CDocument : public CommandTarget {
+public:
+    explicit CDocument(DocumentTemplate* documentTemplate = nullptr);
+    ~CDocument() override;
+
+    [[nodiscard]] const std::string& title() const noexcept { return title_; }
+    void setTitle(const std::string& title);
+    /// Full path of the file; empty for a document that has none yet.
+    [[nodiscard]] const std::string& pathName() const noexcept { return pathName_; }
+    /// Also names the document after the file, without its folder.
+    virtual void setPathName(const std::string& path);
+    [[nodiscard]] bool isModified() const noexcept { return modified_; }
+    virtual void setModified(bool modified);
+
+    [[nodiscard]] DocumentTemplate* documentTemplate() const noexcept { return template_; }
+
+    /// Views are not owned.
+    void addView(DocumentView& view);
+    void removeView(DocumentView& view);
+    [[nodiscard]] const std::vector<DocumentView*>& views() const noexcept { return views_; }
+    /// Tells all views but the sender.
+    void updateAllViews(DocumentView* sender, int hint);
+
+    /// Empties the document for a fresh start. False abandons it.
+    virtual bool onNewDocument();
+    /// Reads the file. False when it could not be read, which has been reported.
+    virtual bool onOpenDocument(const std::string& path);
+    /// Writes the document to `path`, asking for a name when it is empty. False when it could not be written
+    /// (which has been reported) or the user cancelled; the document then stays as it was.
+    virtual bool onSaveDocument(const std::string& path);
+    virtual void onCloseDocument();
+
+    /// Whether closing would lose something.
+    [[nodiscard]] virtual bool hasUnsavedChanges() const { return modified_; }
+    /// Asks "save?" when there are unsaved changes and saves on Yes. True: the caller may go on.
+    virtual bool saveModified();
+
+    /// Save: to the document's file, or to one that is asked for. Save As: always asks.
+    bool save();
+    bool saveAs();
+
+private:
+    void OnFileSave();
+    void OnFileSaveAs();
+    void tellRenamed();
+
+    DocumentTemplate* template_;
+    std::string title_;
+    std::string pathName_;
+    bool modified_ = false;
+    std::vector<DocumentView*> views_;
+};
+
+} // namespace dyeworks

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+
+namespace dyeworks {
+
+/// Number of a command. Those below 32768 + 300 and from 57344 on are given; 33100 to 57343 is the range for
+/// commands of our own.
+using CommandId = std::uint32_t;
+
+// NOLINTBEGIN(readability-identifier-naming)
+inline constexpr CommandId ID_FILE_NEW = 57600;
+inline constexpr CommandId ID_FILE_OPEN = 57601;
+inline constexpr CommandId ID_FILE_CLOSE = 57602;
+inline constexpr CommandId ID_FILE_SAVE = 57603;
+inline constexpr CommandId ID_FILE_SAVE_AS = 57604;
+inline constexpr CommandId ID_EDIT_UNDO = 57643;
+inline constexpr CommandId ID_EDIT_REDO = 57644;
+inline constexpr CommandId ID_WINDOW_ARRANGE = 57649;
+inline constexpr CommandId ID_WINDOW_CASCADE = 57650;
+inline constexpr CommandId ID_WINDOW_TILE_HORZ = 57651;
+inline constexpr CommandId ID_WINDOW_TILE_VERT = 57652;
+inline constexpr CommandId ID_APP_ABOUT = 57664;
+inline constexpr CommandId ID_APP_EXIT = 57665;
+
+inline constexpr CommandId ID_TOOL_PIXEL = 32771;
+inline constexpr CommandId ID_TOOL_BOX = 32772;
+inline constexpr CommandId ID_TOOL_BOX_FILL = 32773;
+inline constexpr CommandId ID_TOOL_CIRCLE = 32774;
+inline constexpr CommandId ID_TOOL_CIRCLE_FILL = 32775;
+inline constexpr CommandId ID_TOOL_PAINT = 32776;
+inline constexpr CommandId ID_ZOOM_IN = 32777;
+inline constexpr CommandId ID_ZOOM_OUT = 32778;
+inline constexpr CommandId ID_TOOL_PEN = 32780;
+inline constexpr CommandId ID_TOOL_LINE = 32781;
+inline constexpr CommandId ID_VIEW_GRID = 32793;
+inline constexpr CommandId ID_PALETTE_CLOSE = 32816;
+inline constexpr CommandId ID_PALETTE_SAVE = 32817;
+inline constexpr CommandId ID_PALETTE_SAVE_AS = 32818;
+inline constexpr CommandId ID_PALETTE_OPEN = 32824;
+inline constexpr CommandId ID_IMAGE_ATTACH = 32890;
+
+/// Zoom factor n is command ID_ZOOM_BASE + n.
+inline constexpr CommandId ID_ZOOM_BASE = 32900;
+inline constexpr CommandId ID_ZOOM_X1 = 32901;
+inline constexpr CommandId ID_ZOOM_X2 = 32902;
+inline constexpr CommandId ID_ZOOM_X3 = 32903;
+inline constexpr CommandId ID_ZOOM_X4 = 32904;
+inline constexpr CommandId ID_ZOOM_X6 = 32906;
+inline constexpr CommandId ID_ZOOM_X8 = 32908;
+inline constexpr CommandId ID_ZOOM_X12 = 32912;
+inline constexpr CommandId ID_ZOOM_X16 = 32916;
+// NOLINTEND(readability-identifier-naming)
+
+} // namespace dyeworks

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "framework/CommandIds.h"
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+
+namespace dyeworks {
+
+/// What an update handler says of its command. A handled command is enabled until its handler says otherwise.
+struct CommandUi {
+    CommandId id = 0;
+    bool enabled = true;
+    std::optional<bool> checked;     ///< Set for commands that show a check mark.
+    std::optional<std::string> text; ///< Replaces the menu text.
+};
+
+/// An object that carries out commands. Its constructor fills the map:
+///
+///     on(ID_ZOOM_IN, &CDyeworksView::OnZoomIn, &CDyeworksView::OnUpdateZoomIn);
+class CommandTarget {
+public:
+    CommandTarget() = default;
+    virtual ~CommandTarget() = default;
+    CommandTarget(const CommandTarget&) = delete;
+    CommandTarget& operator=(const CommandTarget&) = delete;
+
+    /// Whether this object takes the command at all.
+    [[nodiscard]] bool handles(CommandId id) const;
+
+    /// Carries the command out. False when this object does not take it.
+    bool runCommand(CommandId id);
+
+    /// Lets the command's update handler fill `ui`. False when this object does not take the command.
+    bool updateCommand(CommandUi& ui);
+
+protected:
+    template <typename Target>
+    void on(CommandId id, void (Target::*handler)(), void (Target::*update)(CommandUi&) = nullptr) {
+        auto* self = static_cast<Target*>(this);
+        handlers_[id] = {[self, handler](CommandId) { (self->*handler)(); },
+                         update == nullptr ? Update{}
+                                           : [self, update](CommandUi& ui) { (self->*update)(ui); }};
+    }
+
+    /// The handler learns which of the commands `first` to `last` it is.
+    template <typename Target>
+    void onRange(CommandId first, CommandId last, void (Target::*handler)(CommandId),
+                 void (Target::*update)(CommandUi&) = nullptr) {
+        auto* self = static_cast<Target*>(this);
+        for (CommandId id = first; id <= last; ++id)
+            handlers_[id] = {[self, handler](CommandId which) { (self->*handler)(which); },
+                             update == nullptr ? Update{}
+                                               : [self, update](CommandUi& ui) { (self->*update)(ui); }};
+    }
+
+private:
+    using Update = std::function<void(CommandUi&)>;
+    struct Entry {
+        std::function<void(CommandId)> run;
+        Update update;
+    };
+    std::map<CommandId, Entry> handlers_;
+};
+
+} // namespace dyeworks

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "framework/CDocument.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace dyeworks {
+
+/// Makes the window of a document: a frame with a view in it. The frame is not owned here; when its last view
+/// closes, the frame asks the template to drop the document.
+class DocumentWindows {
+public:
+    virtual ~DocumentWindows() = default;
+    /// False when the window could not be made.
+    virtual bool openWindow(CDocument& document) = 0;
+    /// Brings a window of the document to the front.
+    virtual void activate(CDocument& document) = 0;
+};
+
+/// A kind of document: its names, its file extension and how its documents and windows are made. Owns the
+/// open documents of its kind.
+class DocumentTemplate {
+public:
+    using Factory = std::function<std::unique_ptr<CDocument>(DocumentTemplate&)>;
+
+    struct Names {
+        std::string documentName;  ///< "Texture"; also the stem of new documents' titles, "Texture1".
+        std::string fileExtension; ///< ".tmf"
+    };
+
+    /// `windows` must outlive the template.
+    DocumentTemplate(Names names, Factory factory, DocumentWindows& windows);
+    ~DocumentTemplate();
+    DocumentTemplate(const DocumentTemplate&) = delete;
+    DocumentTemplate& operator=(const DocumentTemplate&) = delete;
+
+    [[nodiscard]] const Names& names() const noexcept { return names_; }
+    [[nodiscard]] std::vector<CDocument*> documents() const;
+    /// The open document whose path is `path`, both made full paths and compared without regard to case.
+    [[nodiscard]] CDocument* findDocument(const std::string& path) const;
+    /// Whether this kind claims the file by its extension.
+    [[nodiscard]] bool matches(const std::string& path) const;
+
+    /// A new, empty document in a window of its own, or null when it was abandoned.
+    CDocument* newDocument();
+    /// The file's document in a window of its own, the open one brought to the front if there is one; null
+    /// when the file could not be read.
+    CDocument* openDocument(const std::string& path);
+    /// Ends the document, which must have no view left.
+    void dropDocument(CDocument& document);
+
+private:
+    Names names_;
+    Factory factory_;
+    DocumentWindows& windows_;
+    std::vector<std::unique_ptr<CDocument>> documents_;
+    int untitledCounter_ = 0;
+};
+
+} // namespace dyeworks

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+
+namespace dyeworks {
+
+/// A rectangle of pixels. Whether right and bottom are inside it is said wherever one is taken.
+struct Rect {
+    std::int32_t left = 0;
+    std::int32_t top = 0;
+    std::int32_t right = 0;
+    std::int32_t bottom = 0;
+
+    bool operator==(const Rect&) const = default;
+
+    /// The same corners with left <= right and top <= bottom.
+    [[nodiscard]] Rect normalised() const {
+        return {std::min(left, right), std::min(top, bottom), std::max(left, right), std::max(top, bottom)};
+    }
+};
+
+struct Point {
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+    bool operator==(const Point&) const = default;
+};
+
+struct Size {
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+    bool operator==(const Size&) const = default;
+};
+
+} // namespace dyeworks

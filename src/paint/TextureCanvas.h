@@ -1,0 +1,148 @@
+#pragma once
+
+#include "core/TextureLookupTable.h"
+#include "core/TmfImage.h"
+#include "paint/Rect.h"
+#include "paint/Surface.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+
+namespace dyeworks {
+
+/// The editing buffer of an image: one block of memory laid out as a complete BMP file (file header, info
+/// header, colour table, bottom-up rows), so that it goes to the display, to disk and to the clipboard as it
+/// stands. (0, 0) is the top-left pixel. Every pixel written inside the canvas extends its changed rectangle;
+/// pixels outside are left alone.
+class TextureCanvas {
+public:
+    static constexpr std::int64_t kMaxBlockSize = std::int64_t{1} << 30;
+    static constexpr std::int32_t kMaxSeeds =
+        4096; ///< Held by a flood fill; what would exceed them is dropped.
+    static constexpr std::uint32_t kFlipHorizontal = 1;
+    static constexpr std::uint32_t kFlipVertical = 2;
+
+    TextureCanvas() = default;
+    explicit TextureCanvas(const TmfImage& image);
+    TextureCanvas(const TextureCanvas&) = delete;
+    TextureCanvas& operator=(const TextureCanvas&) = delete;
+
+    virtual ~TextureCanvas();
+    virtual void Destroy();
+    virtual bool CreateLike(const TextureCanvas& other);
+    /// A block of zeroes. True except when the block cannot be had: a negative side, more than 1 GiB, or no
+    /// memory; the canvas is then empty.
+    virtual bool Create(std::int32_t width, std::int32_t height, std::uint16_t planes,
+                        std::uint16_t bitsPerPixel);
+
+    // Shapes. Corners are inclusive and may come in any order.
+    /// Bresenham's algorithm (1965), both ends drawn. The result is that of the last pixel.
+    virtual bool DrawLine(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
+                          std::uint32_t value);
+    virtual void DrawBox(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
+                         std::uint32_t value);
+    virtual void FillBox(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
+                         std::uint32_t value);
+    /// The ellipse inscribed in the rectangle; nothing when either side is a single pixel.
+    virtual void DrawEllipse(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
+                             std::uint32_t value);
+    virtual void FillEllipse(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
+                             std::uint32_t value);
+    /// Fills the 4-connected region around the seed (scan-line seed fill, Smith 1979). `value` is cut to the
+    /// canvas's depth first.
+    virtual void FloodFill(std::int32_t x, std::int32_t y, std::uint32_t value);
+    /// Within `rectangle` (inclusive), gives every pixel that equals the one at (x, y) the value, which is
+    /// cut to the canvas's depth first. Nothing when (x, y) lies outside the rectangle.
+    virtual void ReplaceColor(const Rect& rectangle, std::int32_t x, std::int32_t y, std::uint32_t value);
+    /// Mirrors the rectangle (inclusive): kFlipHorizontal, kFlipVertical or both.
+    virtual void Flip(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
+                      std::uint32_t flags);
+
+    /// What the Pixel and Pen tools call; the same as `SetPixel`.
+    virtual bool PutPixel(std::int32_t x, std::int32_t y, std::uint32_t value);
+    /// 0 outside the canvas.
+    [[nodiscard]] virtual std::uint32_t GetPixel(std::int32_t x, std::int32_t y) const;
+    /// Stores the low bits of `value`. False outside the canvas. This is the definition of every write: a
+    /// derived class that overrides it sees each pixel of every primitive.
+    virtual bool SetPixel(std::int32_t x, std::int32_t y, std::uint32_t value);
+
+    /// Copies the part whose top-left is (x, y) and whose size is the target's into the target. Always true.
+    virtual bool CopyTo(TextureCanvas& target, std::int32_t x, std::int32_t y) const;
+    /// A new canvas with that part (inclusive, x1 <= x2, y1 <= y2) and the colour table; null when it cannot
+    /// be made.
+    [[nodiscard]] virtual std::unique_ptr<TextureCanvas> CopyRect(std::int32_t x1, std::int32_t y1,
+                                                                  std::int32_t x2, std::int32_t y2) const;
+    /// A full copy with an empty changed rectangle; null when it cannot be made.
+    [[nodiscard]] virtual std::unique_ptr<TextureCanvas> Clone() const;
+    /// Scales the whole source into the rectangle (right and bottom exclusive), nearest neighbour. Always
+    /// true.
+    virtual bool StretchPaste(const TextureCanvas& source, std::int32_t x1, std::int32_t y1, std::int32_t x2,
+                              std::int32_t y2);
+    /// Takes over all pixels, not the colours, of a canvas of the same size, planes and depth; false for any
+    /// other. The whole canvas becomes the changed rectangle.
+    virtual bool CopyFrom(const TextureCanvas& source);
+
+    /// Draws the part `source` of the picture, in its colours, over the area `destination` of the surface;
+    /// both with right and bottom exclusive. The result is the number of surface rows written.
+    virtual std::int32_t Draw(Surface& surface, const Rect& destination, const Rect& source) const;
+
+    /// Reads an uncompressed BMP file. False, leaving the canvas empty, when it cannot be read.
+    virtual bool LoadBmp(const std::string& path);
+    virtual bool SaveBmp(const std::string& path) const;
+    /// Reads (writes) a TMF file; a file that cannot be read has been reported and leaves the canvas empty.
+    virtual bool LoadTmf(const std::string& path);
+    virtual bool SaveTmf(const std::string& path) const;
+
+    /// Entries of the colour table: the header's number when it has one, otherwise 2^bits; 0 above 8 bits.
+    [[nodiscard]] std::uint32_t GetColorCount() const;
+
+    void ExtendChangedRect(std::int32_t x, std::int32_t y);
+    /// False for an empty changed rectangle; otherwise its inclusive bounds.
+    bool GetChangedRect(Rect& changed) const;
+    void ResetChangedRect();
+    /// Puts back a rectangle that `GetChangedRect` gave (inclusive); an inverted one makes it empty.
+    void SetChangedRect(const Rect& changed);
+
+    /// Gives the colour table the display colours of the palette's entries from `first` on; 256-colour
+    /// canvases start at entry 0. Entries that the palette lacks keep their colour. The whole canvas counts
+    /// as changed.
+    void ApplyPalette(const TextureLookupTable& palette, std::int32_t first);
+
+    /// A new image with this canvas's pixels, or null when it cannot be made (a depth or size that an image
+    /// cannot have).
+    [[nodiscard]] std::unique_ptr<TmfImage> ToImage() const;
+    /// Writes every texel of the image at its place.
+    void FromImage(const TmfImage& image);
+
+    // What the headers say; 0 without a block.
+    [[nodiscard]] std::int32_t width() const noexcept { return width_; }
+    [[nodiscard]] std::int32_t height() const noexcept { return height_; }
+    [[nodiscard]] std::uint16_t planes() const noexcept { return planes_; }
+    [[nodiscard]] std::uint16_t bitsPerPixel() const noexcept { return bitsPerPixel_; }
+    [[nodiscard]] std::uint32_t stride() const noexcept { return stride_; }
+
+    /// The whole block: a BMP file as it stands. From the info header on it is a packed device-independent
+    /// bitmap. Empty without a block.
+    [[nodiscard]] std::span<const std::byte> block() const noexcept;
+    [[nodiscard]] std::span<const std::byte> packedBitmap() const noexcept;
+    /// Blue, green, red, reserved for each of `GetColorCount` entries.
+    [[nodiscard]] std::span<const std::uint8_t> colourTable() const noexcept;
+    [[nodiscard]] std::span<std::uint8_t> colourTable() noexcept;
+    /// The bottom-up pixel rows.
+    [[nodiscard]] std::span<const std::uint8_t> pixelRows() const noexcept;
+
+private:
+    std::unique_ptr<std::byte[]> block_;
+    std::size_t blockSize_ = 0;
+    std::uint32_t stride_ = 0;
+    std::int32_t width_ = 0;
+    std::int32_t height_ = 0;
+    std::uint16_t planes_ = 0;
+    std::uint16_t bitsPerPixel_ = 0;
+    Rect changed_{0, 0, -1, -1}; ///< Inclusive; inverted when empty.
+};
+
+} // namespace dyeworks

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace dyeworks {
+
+enum class ClipboardFormat { Bitmap, Text };
+
+/// The desktop's clipboard. A bitmap is a packed device-independent one: info header, colour table and pixel
+/// rows, little-endian, without a file header; its values pass through unchanged.
+class Clipboard {
+public:
+    virtual ~Clipboard() = default;
+
+    [[nodiscard]] virtual bool offers(ClipboardFormat format) const = 0;
+
+    /// False when the clipboard could not be taken; it then keeps what it holds.
+    virtual bool setBitmap(std::span<const std::byte> dib) = 0;
+    [[nodiscard]] virtual std::optional<std::vector<std::byte>> bitmap() const = 0;
+
+    virtual bool setText(const std::string& text) = 0;
+    [[nodiscard]] virtual std::optional<std::string> text() const = 0;
+};
+
+} // namespace dyeworks

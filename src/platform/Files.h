@@ -1,0 +1,87 @@
+#pragma once
+
+#include "platform/ByteBuffer.h"
+#include "platform/Result.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace dyeworks {
+
+/// Why a file could not be read or written, in terms that a person can act on.
+enum class FileError {
+    NotFound,     ///< The file, its folder or its drive does not exist.
+    AccessDenied, ///< Permissions forbid it.
+    NotAFile,     ///< The name is that of a folder.
+    NoSpace,      ///< The disk or the quota is full.
+    ReadOnly,     ///< The file system is read-only.
+    NameTooLong,
+    TooLarge, ///< More bytes than memory can take.
+    Other
+};
+
+/// A short sentence for `error` in the user's language ("There is no space left on the disk.").
+std::string describe(FileError error);
+
+struct FileEntry {
+    std::string name; ///< Without folder.
+    bool directory = false;
+};
+
+/// The file system. Paths are UTF-8 with "\" between their parts; "/" is accepted and means the same. A
+/// drive ("c:") stands for a host folder; paths on a drive that is not mapped name nothing. A part whose
+/// exact name does not exist finds the one that differs only in case.
+class Files {
+public:
+    virtual ~Files() = default;
+
+    /// The absolute form of `path`: relative parts resolved against the current directory, "." and ".."
+    /// and doubled separators taken out, "/" turned into "\". Purely textual, so the file need not exist.
+    /// An empty path stays empty.
+    [[nodiscard]] virtual std::string fullPath(const std::string& path) const = 0;
+
+    [[nodiscard]] virtual std::string currentDirectory() const = 0;
+    /// False, changing nothing, when `path` is not an existing directory.
+    virtual bool setCurrentDirectory(const std::string& path) = 0;
+
+    /// True for files and directories alike.
+    [[nodiscard]] virtual bool exists(const std::string& path) const = 0;
+    [[nodiscard]] virtual bool isDirectory(const std::string& path) const = 0;
+
+    /// The entries that match `pattern`, whose last part may hold "*" and "?" (case-blind), without "." and
+    /// "..", in the order of their names. "*.*" matches every name.
+    [[nodiscard]] virtual std::vector<FileEntry> enumerate(const std::string& pattern) const = 0;
+
+    /// The whole file.
+    [[nodiscard]] virtual Result<ByteBuffer, FileError> read(const std::string& path) const = 0;
+
+    /// Replaces the file by `bytes` in one step, or leaves it exactly as it was: the bytes go to a temporary
+    /// file beside it, are flushed to the disk and renamed over it. Permissions survive, and a symbolic
+    /// link keeps pointing at the replaced file. Nothing: written.
+    [[nodiscard]] virtual std::optional<FileError> write(const std::string& path,
+                                                         std::span<const std::byte> bytes) = 0;
+
+    /// Folder of the running program, with a trailing "\".
+    [[nodiscard]] virtual std::string programFolder() const = 0;
+
+    /// A form of `path` without blanks where the host knows one, else `path` itself.
+    [[nodiscard]] virtual std::string shortPath(const std::string& path) const = 0;
+
+    /// `path` as the host and its users write it; what the host's own calls take. A drive is replaced by its
+    /// folder, an existing name by its exact spelling.
+    [[nodiscard]] virtual std::string hostPath(const std::string& path) const = 0;
+    /// The program's form of a host path.
+    [[nodiscard]] virtual std::string fromHostPath(const std::string& hostPath) const = 0;
+
+    /// `path` as it is shown to people: in messages, titles, tool tips. "*palette" names pass unchanged.
+    [[nodiscard]] virtual std::string displayPath(const std::string& path) const = 0;
+};
+
+/// `Files::displayPath` of the installed platform.
+std::string displayPath(const std::string& path);
+
+} // namespace dyeworks

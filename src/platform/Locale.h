@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+namespace dyeworks {
+
+inline constexpr int kLocaleJapanese = 1041;
+inline constexpr int kLocaleEnglish = 1033;
+
+class Locale {
+public:
+    virtual ~Locale() = default;
+
+    /// The user's locale as a Windows language identifier (1033 English, 1041 Japanese); 0 when the host's
+    /// locale has none that the program knows.
+    [[nodiscard]] virtual int userLocale() const = 0;
+
+    /// Sets the C runtime's locale to the named language ("Japanese"). False when the host has none such.
+    virtual bool setRuntimeLocale(const std::string& language) = 0;
+
+    /// Puts "NAME=value" into the process's environment.
+    virtual void putEnvironment(const std::string& assignment) = 0;
+
+    /// Makes the time functions read the time zone from the environment again.
+    virtual void rereadTimeZone() = 0;
+};
+
+} // namespace dyeworks

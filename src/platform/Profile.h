@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace dyeworks {
+
+/// The user's settings: entries in sections, sections nested at "\" ("Settings\Images"). Section and entry
+/// names may hold any text, paths included; they are told apart by case. Whatever cannot be read counts as
+/// missing.
+class Profile {
+public:
+    virtual ~Profile() = default;
+
+    [[nodiscard]] virtual std::optional<std::string> text(const std::string& section,
+                                                          const std::string& entry) const = 0;
+    virtual void setText(const std::string& section, const std::string& entry, const std::string& value) = 0;
+    virtual void remove(const std::string& section, const std::string& entry) = 0;
+
+    /// Names of the entries directly in `section`, in byte order.
+    [[nodiscard]] virtual std::vector<std::string> entries(const std::string& section) const = 0;
+
+    /// The text of an entry, or `fallback` when there is none.
+    [[nodiscard]] std::string textOr(const std::string& section, const std::string& entry,
+                                     const std::string& fallback) const;
+
+    /// An integer entry, or `fallback` when there is none or its text is not a whole decimal number.
+    [[nodiscard]] int integer(const std::string& section, const std::string& entry, int fallback) const;
+    void setInteger(const std::string& section, const std::string& entry, int value);
+};
+
+} // namespace dyeworks

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace dyeworks {
+
+/// A kind of file that the desktop can open with this program.
+struct FileTypeRegistration {
+    std::string typeName;    ///< "TMF.Document"
+    std::string extension;   ///< ".tmf"
+    std::string mimeType;    ///< "image/x-orrery-tmf"
+    std::string description; ///< In the user's language.
+    std::string magic;       ///< First bytes of every such file; empty when there are none.
+};
+
+class Shell {
+public:
+    virtual ~Shell() = default;
+
+    /// Opens a file with the program that the desktop keeps for its kind.
+    virtual bool openWithDefaultProgram(const std::string& path) = 0;
+
+    /// Tells the desktop, for this user only, that the program opens these kinds. Writes nothing that is
+    /// there already in the same form. False when the user's folders cannot be written.
+    virtual bool registerFileTypes(const std::vector<FileTypeRegistration>& types) = 0;
+
+    /// Hands the paths to an instance of this program that is already running for this user and listening.
+    /// False when there is none; the caller then opens them itself.
+    virtual bool handToRunningInstance(const std::vector<std::string>& paths) = 0;
+
+    /// Makes this process the one that receives such requests. False when another one is.
+    virtual bool listenForOpenRequests(std::function<void(const std::vector<std::string>&)> receiver) = 0;
+};
+
+} // namespace dyeworks

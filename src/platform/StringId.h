@@ -1,0 +1,25 @@
+#pragma once
+
+#include <initializer_list>
+
+namespace dyeworks {
+
+/// Texts of the program that are not part of a menu or a form. Their English wording stands in TextTable.cpp.
+enum class StringId {
+    ApplicationTitle,
+
+    FileErrorNotFound,
+    FileErrorAccessDenied,
+    FileErrorNotAFile,
+    FileErrorNoSpace,
+    FileErrorReadOnly,
+    FileErrorNameTooLong,
+    FileErrorTooLarge,
+    FileErrorOther,
+
+    CannotSaveFile, ///< %1 file, %2 why
+
+    Count
+};
+
+} // namespace dyeworks
