@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace dyeworks {
+
+class PaletteSet;
+
+/// What an image document and its views ask of the application.
+class ImageHost {
+public:
+    virtual ~ImageHost() = default;
+
+    /// The open palettes, or null while there is no set.
+    virtual PaletteSet* paletteSet() = 0;
+
+    /// Entry of the current palette that a 4-bit image's value 0 shows: 16 times the bank, or 0.
+    [[nodiscard]] virtual std::int32_t paletteBarFirstEntry() const = 0;
+    /// The cell that is selected for drawing, counted from the palette's entry 0; negative when there is none.
+    [[nodiscard]] virtual std::int32_t paletteBarCell() const = 0;
+    virtual void selectPaletteBarCell(std::int32_t cell) = 0;
+    /// Shows the current palette anew.
+    virtual void refreshPaletteBar() = 0;
+
+    /// Pane 1 is the pointer position, pane 2 the image's size and depth.
+    virtual void setStatusText(const std::string& text, int pane) = 0;
+};
+
+} // namespace dyeworks
