@@ -21,7 +21,7 @@ enum class FileError {
     ReadOnly,     ///< The file system is read-only.
     NameTooLong,
     TooLarge, ///< More bytes than memory can take.
-    Other
+    Other     ///< Also a device or a pipe that holds no file.
 };
 
 /// A short sentence for `error` in the user's language ("There is no space left on the disk.").
@@ -72,7 +72,8 @@ public:
     [[nodiscard]] virtual std::string shortPath(const std::string& path) const = 0;
 
     /// `path` as the host and its users write it; what the host's own calls take. A drive is replaced by its
-    /// folder, an existing name by its exact spelling.
+    /// folder, an existing name by its exact spelling. Empty when `path` can name nothing here, as on a drive
+    /// that is not mapped.
     [[nodiscard]] virtual std::string hostPath(const std::string& path) const = 0;
     /// The program's form of a host path.
     [[nodiscard]] virtual std::string fromHostPath(const std::string& hostPath) const = 0;

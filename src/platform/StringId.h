@@ -17,7 +17,26 @@ enum class StringId {
     FileErrorTooLarge,
     FileErrorOther,
 
-    CannotSaveFile, ///< %1 file, %2 why
+    CannotSaveFile,      ///< %1 file, %2 why
+    SaveChangesQuestion, ///< %1 document
+
+    ChosenFileMissing,   ///< %1 file
+    ReplaceFileQuestion, ///< %1 file
+
+    BarTool,
+    BarView,
+    BarDraw,
+    BarPalette,
+    NoPaletteOpen,
+    OpenPalettes,
+    PaletteColours,
+    CurrentEntry,
+    PaletteBank,
+    PaletteBankTip,
+    ImageViewName,
+    AboutCaption,
+    AboutVersion, ///< Before the number.
+    AboutDescription,
 
     Count
 };

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace dyeworks {
+
+/// The characters of a UTF-8 text with differences of case taken out: Latin, Greek, Cyrillic and full-width
+/// letters become small letters, whatever the C locale. A byte that is no UTF-8 becomes a value above
+/// U+10FFFF of its own, so that texts in another encoding stay apart.
+std::u32string foldedCase(std::string_view text);
+
+bool equalIgnoringCase(std::string_view a, std::string_view b);
+
+} // namespace dyeworks

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/Files.h"
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string>
+
+namespace dyeworks {
+
+/// What an error number of the host means to a person.
+FileError fileErrorFrom(int errorNumber);
+
+/// The whole of a regular file. `path` is a host path.
+Result<ByteBuffer, FileError> readHostFile(const std::string& path);
+
+/// Replaces the file in one step or leaves it as it was. `path` is a host path; symbolic links are followed
+/// and stay. Devices and pipes are written into, since there is nothing beside them to put in their place.
+[[nodiscard]] std::optional<FileError> writeHostFile(const std::string& path,
+                                                     std::span<const std::byte> bytes);
+
+} // namespace dyeworks

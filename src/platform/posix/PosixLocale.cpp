@@ -1,0 +1,81 @@
+#include "platform/posix/PosixLocale.h"
+
+#include <array>
+#include <clocale>
+#include <cstdlib>
+#include <ctime>
+#include <stdlib.h>
+#include <string_view>
+#include <vector>
+
+namespace dyeworks {
+
+namespace {
+
+struct Language {
+    std::string_view name; ///< As in a locale's name, before country, encoding and variant.
+    int number;
+};
+
+constexpr std::array kLanguages{
+    Language{"ja", kLocaleJapanese}, Language{"japanese", kLocaleJapanese}, Language{"en", kLocaleEnglish},
+    Language{"C", kLocaleEnglish},   Language{"POSIX", kLocaleEnglish},
+};
+
+std::string_view localeName() {
+    for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        const char* const value = std::getenv(variable);
+        if (value != nullptr && *value != '\0')
+            return value;
+    }
+    return "C";
+}
+
+/// Names under which hosts know a language; only in UTF-8, as every text of the program is.
+std::vector<std::string> hostNames(const std::string& language) {
+    if (language == "Japanese")
+        return {"ja_JP.UTF-8", "ja_JP.utf8", "ja.UTF-8"};
+    return {language};
+}
+
+} // namespace
+
+int PosixLocale::userLocale() const {
+    const std::string_view name = localeName();
+    const std::string_view language = name.substr(0, name.find_first_of("_.@"));
+    for (const Language& known : kLanguages) {
+        if (known.name == language)
+            return known.number;
+    }
+    return 0;
+}
+
+bool PosixLocale::setRuntimeLocale(const std::string& language) {
+    for (const std::string& name : hostNames(language)) {
+        if (std::setlocale(LC_ALL, name.c_str()) == nullptr)
+            continue;
+        // Numbers in files and settings are read and written with a full stop, by us and by the libraries
+        // below us, whatever language the user speaks.
+        (void)std::setlocale(LC_NUMERIC, "C");
+        return true;
+    }
+    return false;
+}
+
+void PosixLocale::putEnvironment(const std::string& assignment) {
+    const std::size_t equals = assignment.find('=');
+    if (equals == std::string::npos || equals == 0)
+        return;
+    const std::string name = assignment.substr(0, equals);
+    const std::string value = assignment.substr(equals + 1);
+    if (value.empty())
+        (void)::unsetenv(name.c_str());
+    else
+        (void)::setenv(name.c_str(), value.c_str(), 1);
+}
+
+void PosixLocale::rereadTimeZone() {
+    ::tzset();
+}
+
+} // namespace dyeworks

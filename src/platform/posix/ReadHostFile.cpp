@@ -1,0 +1,95 @@
+#include "platform/posix/Descriptor.h"
+#include "platform/posix/HostFile.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdint>
+#include <fcntl.h>
+#include <new>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+namespace dyeworks {
+
+namespace {
+
+/// Reads until `room` is full or the file ends. The count of bytes read, or -1 with errno set.
+ssize_t readInto(int descriptor, std::span<std::byte> room) {
+    std::size_t filled = 0;
+    while (filled < room.size()) {
+        const ssize_t count = ::read(descriptor, room.data() + filled, room.size() - filled);
+        if (count == 0)
+            break;
+        if (count > 0)
+            filled += static_cast<std::size_t>(count);
+        else if (errno != EINTR)
+            return -1;
+    }
+    return static_cast<ssize_t>(filled);
+}
+
+ByteBuffer copyOf(std::span<const std::byte> bytes) {
+    ByteBuffer copy(bytes.size());
+    std::ranges::copy(bytes, copy.data());
+    return copy;
+}
+
+/// Reads the rest of a file that holds more than it said: it grew meanwhile, or its size is made up, as in
+/// /proc.
+Result<ByteBuffer, FileError> readLonger(int descriptor, const ByteBuffer& start,
+                                         std::span<const std::byte> next) {
+    std::vector<std::byte> all(start.bytes().begin(), start.bytes().end());
+    all.insert(all.end(), next.begin(), next.end());
+    std::array<std::byte, 65536> chunk;
+    ssize_t count = 0;
+    while ((count = readInto(descriptor, chunk)) > 0)
+        all.insert(all.end(), chunk.begin(), chunk.begin() + count);
+    if (count < 0)
+        return fileErrorFrom(errno);
+    return copyOf(all);
+}
+
+Result<ByteBuffer, FileError> readAll(int descriptor, std::size_t size) {
+    ByteBuffer buffer(size);
+    const ssize_t count = readInto(descriptor, buffer.bytes());
+    if (count < 0)
+        return fileErrorFrom(errno);
+    if (static_cast<std::size_t>(count) < size)
+        return copyOf(buffer.bytes().first(static_cast<std::size_t>(count)));
+    // The file ends here only when a further read says so.
+    std::array<std::byte, 1024> beyond;
+    const ssize_t more = readInto(descriptor, beyond);
+    if (more < 0)
+        return fileErrorFrom(errno);
+    if (more > 0)
+        return readLonger(descriptor, buffer, std::span(beyond).first(static_cast<std::size_t>(more)));
+    return buffer;
+}
+
+} // namespace
+
+Result<ByteBuffer, FileError> readHostFile(const std::string& path) {
+    // Without O_NONBLOCK a pipe that nobody writes to would keep the program waiting in open.
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    if (!file.valid())
+        return fileErrorFrom(errno);
+    struct stat status {};
+    if (::fstat(file.get(), &status) != 0)
+        return fileErrorFrom(errno);
+    if (S_ISDIR(status.st_mode))
+        return FileError::NotAFile;
+    // Devices and pipes have no whole that could be read.
+    if (!S_ISREG(status.st_mode))
+        return FileError::Other;
+    if (static_cast<std::uintmax_t>(status.st_size) > PTRDIFF_MAX)
+        return FileError::TooLarge;
+    try {
+        return readAll(file.get(), static_cast<std::size_t>(status.st_size));
+    } catch (const std::bad_alloc&) {
+        return FileError::TooLarge;
+    }
+}
+
+} // namespace dyeworks

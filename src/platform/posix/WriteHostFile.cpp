@@ -1,0 +1,218 @@
+#include "platform/posix/Descriptor.h"
+#include "platform/posix/HostFile.h"
+#include "platform/posix/SignalShield.h"
+
+#include <array>
+#include <atomic>
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <ctime>
+#include <fcntl.h>
+#include <string_view>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <tuple>
+#include <unistd.h>
+#include <vector>
+
+namespace dyeworks {
+
+namespace {
+
+/// 0, or the error number of what failed.
+using ErrorNumber = int;
+
+constexpr mode_t kNewFileMode = 0666; // Less what the user's mask takes.
+constexpr mode_t kPermissions = 0777;
+constexpr int kMaxLinks = 40;
+constexpr int kMaxNameAttempts = 100;
+
+std::string folderOf(const std::string& path) {
+    return path.substr(0, path.rfind('/') + 1);
+}
+std::string nameOf(const std::string& path) {
+    return path.substr(path.rfind('/') + 1);
+}
+
+/// Follows the links at the end of `path` to what they name, which need not exist.
+ErrorNumber followLinks(std::string& path) {
+    for (int links = 0; links < kMaxLinks; ++links) {
+        std::array<char, PATH_MAX> target;
+        const ssize_t length = ::readlink(path.c_str(), target.data(), target.size());
+        if (length < 0)
+            return errno == EINVAL || errno == ENOENT ? 0 : errno;
+        const std::string_view name(target.data(), static_cast<std::size_t>(length));
+        path = name.starts_with('/') ? std::string(name) : folderOf(path).append(name);
+    }
+    return ELOOP;
+}
+
+ErrorNumber writeAll(int descriptor, std::span<const std::byte> bytes) {
+    while (!bytes.empty()) {
+        const ssize_t count = ::write(descriptor, bytes.data(), bytes.size());
+        if (count >= 0)
+            bytes = bytes.subspan(static_cast<std::size_t>(count));
+        else if (errno != EINTR)
+            return errno;
+    }
+    return 0;
+}
+
+ErrorNumber flush(int descriptor) {
+    while (::fsync(descriptor) != 0) {
+        // A file system that knows no flushing has nothing held back.
+        if (errno == EINVAL || errno == ENOTSUP)
+            return 0;
+        if (errno != EINTR)
+            return errno;
+    }
+    return 0;
+}
+
+/// Extended attributes, among them the access control list, without which the group's permission bits would
+/// mean something else. What the file system or the user's rights refuse stays behind.
+void copyAttributes(const std::string& from, int to) {
+    const ssize_t listSize = ::listxattr(from.c_str(), nullptr, 0);
+    if (listSize <= 0)
+        return;
+    std::string names(static_cast<std::size_t>(listSize), '\0');
+    const ssize_t listed = ::listxattr(from.c_str(), names.data(), names.size());
+    if (listed < 0)
+        return;
+    names.resize(static_cast<std::size_t>(listed));
+    for (std::size_t start = 0; start < names.size();) {
+        const char* const name = names.c_str() + start;
+        start += std::string_view(name).size() + 1;
+        const ssize_t size = ::getxattr(from.c_str(), name, nullptr, 0);
+        if (size < 0)
+            continue;
+        std::vector<std::byte> value(static_cast<std::size_t>(size));
+        const ssize_t read = ::getxattr(from.c_str(), name, value.data(), value.size());
+        if (read >= 0)
+            (void)::fsetxattr(to, name, value.data(), static_cast<std::size_t>(read), 0);
+    }
+}
+
+/// Gives the new contents the rights of the file that they replace. Owner and group can only be kept where
+/// the host lets this user give files away. Set-user-id bits go, as they do when a file is written.
+ErrorNumber keepPermissions(int descriptor, const std::string& path, const struct stat& old) {
+    if (::fchown(descriptor, old.st_uid, old.st_gid) != 0)
+        std::ignore = ::fchown(descriptor, static_cast<uid_t>(-1), old.st_gid);
+    copyAttributes(path, descriptor);
+    return ::fchmod(descriptor, old.st_mode & kPermissions) == 0 ? 0 : errno;
+}
+
+/// A file with a name of its own in `folder`, removed again unless it was put in the target's place.
+class TemporaryFile {
+public:
+    TemporaryFile(int folder, mode_t mode) noexcept
+        : folder_(folder) {
+        // Short, so that it fits wherever the target's own name does.
+        static std::atomic<unsigned> counter{0};
+        for (int attempt = 0; attempt < kMaxNameAttempts; ++attempt) {
+            timespec now{};
+            ::clock_gettime(CLOCK_REALTIME, &now);
+            std::snprintf(name_.data(), name_.size(), ".dyeworks-%lx-%lx-%x", static_cast<long>(::getpid()),
+                          now.tv_nsec, counter++);
+            file_ = Descriptor(
+                ::openat(folder, name_.data(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode));
+            if (file_.valid() || errno != EEXIST)
+                break;
+        }
+        error_ = file_.valid() ? 0 : errno;
+    }
+    ~TemporaryFile() {
+        if (error_ == 0 && !placed_)
+            (void)::unlinkat(folder_, name_.data(), 0);
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    [[nodiscard]] ErrorNumber error() const noexcept { return error_; }
+    [[nodiscard]] int get() const noexcept { return file_.get(); }
+    [[nodiscard]] ErrorNumber close() noexcept { return file_.close(); }
+
+    [[nodiscard]] ErrorNumber place(const std::string& name) noexcept {
+        placed_ = ::renameat(folder_, name_.data(), folder_, name.c_str()) == 0;
+        return placed_ ? 0 : errno;
+    }
+
+private:
+    int folder_;
+    std::array<char, 64> name_{};
+    Descriptor file_;
+    ErrorNumber error_ = 0;
+    bool placed_ = false;
+};
+
+/// A folder that may be entered and written but not listed can still be worked in, though not flushed.
+Descriptor openFolder(const std::string& path) {
+    Descriptor folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder.valid() && errno == EACCES)
+        folder = Descriptor(::open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    return folder;
+}
+
+/// `old` is null for a file that does not exist.
+ErrorNumber replaceFile(const std::string& path, const struct stat* old, std::span<const std::byte> bytes) {
+    const Descriptor folder = openFolder(folderOf(path));
+    if (!folder.valid())
+        return errno;
+    // Nobody else may look into a copy of a file whose rights are not set yet.
+    TemporaryFile file(folder.get(), old != nullptr ? S_IRUSR | S_IWUSR : kNewFileMode);
+    ErrorNumber error = file.error();
+    if (error == 0 && old != nullptr)
+        error = keepPermissions(file.get(), path, *old);
+    if (error == 0)
+        error = writeAll(file.get(), bytes);
+    if (error == 0)
+        error = flush(file.get());
+    if (error == 0)
+        error = file.close();
+    if (error == 0)
+        error = file.place(nameOf(path));
+    if (error == 0) {
+        // The file is in its place. A folder that cannot be flushed only makes that less lasting.
+        (void)flush(folder.get());
+    }
+    return error;
+}
+
+/// Devices and pipes. A pipe that nobody reads from fails in open, where it would wait without O_NONBLOCK.
+ErrorNumber writeInto(const std::string& path, std::span<const std::byte> bytes) {
+    Descriptor device(::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
+    if (!device.valid() || ::fcntl(device.get(), F_SETFL, O_WRONLY) != 0)
+        return errno;
+    if (const ErrorNumber error = writeAll(device.get(), bytes); error != 0)
+        return error;
+    return device.close();
+}
+
+ErrorNumber writeResolved(std::string path, std::span<const std::byte> bytes) {
+    if (const ErrorNumber error = followLinks(path); error != 0)
+        return error;
+    struct stat old {};
+    if (::stat(path.c_str(), &old) != 0)
+        return errno == ENOENT ? replaceFile(path, nullptr, bytes) : errno;
+    if (S_ISDIR(old.st_mode))
+        return EISDIR;
+    if (!S_ISREG(old.st_mode))
+        return writeInto(path, bytes);
+    // Replacing asks for rights to the folder only; a file that is protected itself is left alone.
+    if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0)
+        return errno;
+    return replaceFile(path, &old, bytes);
+}
+
+} // namespace
+
+std::optional<FileError> writeHostFile(const std::string& path, std::span<const std::byte> bytes) {
+    const SignalShield shield;
+    const ErrorNumber error = writeResolved(path, bytes);
+    if (error == 0)
+        return std::nullopt;
+    return fileErrorFrom(error);
+}
+
+} // namespace dyeworks
