@@ -20,8 +20,10 @@ public:
     void setTitle(const std::string& title);
     /// Full path of the file; empty for a document that has none yet.
     [[nodiscard]] const std::string& pathName() const noexcept { return pathName_; }
-    /// Also names the document after the file, without its folder.
+    /// Keeps the full form of `path` and titles the document by the file's name without its folder.
     virtual void setPathName(const std::string& path);
+    /// What questions call the document: its file as people write it, its title while it has none.
+    [[nodiscard]] virtual std::string displayName() const;
     [[nodiscard]] bool isModified() const noexcept { return modified_; }
     virtual void setModified(bool modified);
 
@@ -33,28 +35,36 @@ public:
     [[nodiscard]] const std::vector<DocumentView*>& views() const noexcept { return views_; }
     /// Tells all views but the sender.
     void updateAllViews(DocumentView* sender, int hint);
+    /// Listeners are not owned.
+    void addTitleListener(DocumentTitleListener& listener);
+    void removeTitleListener(DocumentTitleListener& listener);
 
-    /// Empties the document for a fresh start. False abandons it.
+    /// Empties the document for a fresh start. False abandons it. Here: no path, not modified.
     virtual bool onNewDocument();
-    /// Reads the file. False when it could not be read, which has been reported.
+    /// Reads the file. False when it could not be read, which has been reported. Here: not modified.
     virtual bool onOpenDocument(const std::string& path);
-    /// Writes the document to `path`, asking for a name when it is empty. False when it could not be written
-    /// (which has been reported) or the user cancelled; the document then stays as it was.
-    virtual bool onSaveDocument(const std::string& path);
-    virtual void onCloseDocument();
+    /// Writes the document to `path` and clears the modified flag. An empty path asks for a name, which
+    /// becomes the document's path once it is written. False when it could not be written (which has been
+    /// reported) or the user cancelled; the document then stays as it was.
+    virtual bool onSaveDocument(const std::string& path) = 0;
+    /// The last thing that happens to the document before it goes.
+    virtual void onCloseDocument() {}
 
     /// Whether closing would lose something.
     [[nodiscard]] virtual bool hasUnsavedChanges() const { return modified_; }
-    /// Asks "save?" when there are unsaved changes and saves on Yes. True: the caller may go on.
+    /// Asks "save?" when there are unsaved changes and saves on Yes. True: the caller may go on, which is so
+    /// after a save that succeeded and after No.
     virtual bool saveModified();
 
-    /// Save: to the document's file, or to one that is asked for. Save As: always asks.
+    /// Save: to the document's file, or to one that is asked for. Save As: always asks. A document that was
+    /// saved is titled by its file again. False when nothing was written.
     bool save();
     bool saveAs();
 
 private:
     void OnFileSave();
     void OnFileSaveAs();
+    bool saveTo(const std::string& path);
     void tellRenamed();
 
     DocumentTemplate* template_;
@@ -62,6 +72,7 @@ private:
     std::string pathName_;
     bool modified_ = false;
     std::vector<DocumentView*> views_;
+    std::vector<DocumentTitleListener*> titleListeners_;
 };
 
 } // namespace dyeworks

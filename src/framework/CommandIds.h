@@ -9,7 +9,6 @@ namespace dyeworks {
 using CommandId = std::uint32_t;
 
 // NOLINTBEGIN(readability-identifier-naming)
-inline constexpr CommandId ID_FILE_NEW = 57600;
 inline constexpr CommandId ID_FILE_OPEN = 57601;
 inline constexpr CommandId ID_FILE_CLOSE = 57602;
 inline constexpr CommandId ID_FILE_SAVE = 57603;

@@ -44,15 +44,19 @@ public:
     /// Whether this kind claims the file by its extension.
     [[nodiscard]] bool matches(const std::string& path) const;
 
-    /// A new, empty document in a window of its own, or null when it was abandoned.
+    /// A new, empty document in a window of its own, titled "Texture1", "Texture2"…; null when it was
+    /// abandoned, which uses up no number.
     CDocument* newDocument();
     /// The file's document in a window of its own, the open one brought to the front if there is one; null
-    /// when the file could not be read.
+    /// when the file could not be read or the window could not be made.
     CDocument* openDocument(const std::string& path);
     /// Ends the document, which must have no view left.
     void dropDocument(CDocument& document);
 
 private:
+    CDocument* adopt();
+    void forget(const CDocument& document);
+
     Names names_;
     Factory factory_;
     DocumentWindows& windows_;

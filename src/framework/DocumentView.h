@@ -17,4 +17,11 @@ public:
     virtual void documentRenamed() {}
 };
 
+/// Told what views are told of the document's name, without being one of them: a frame that shows the title.
+class DocumentTitleListener {
+public:
+    virtual ~DocumentTitleListener() = default;
+    virtual void documentRenamed() = 0;
+};
+
 } // namespace dyeworks

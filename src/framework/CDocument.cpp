@@ -1,0 +1,121 @@
+#include "framework/CDocument.h"
+
+#include "framework/PathText.h"
+#include "platform/Platform.h"
+
+namespace dyeworks {
+
+CDocument::CDocument(DocumentTemplate* documentTemplate)
+    : template_(documentTemplate) {
+    on(ID_FILE_SAVE, &CDocument::OnFileSave);
+    on(ID_FILE_SAVE_AS, &CDocument::OnFileSaveAs);
+}
+
+CDocument::~CDocument() = default;
+
+void CDocument::setTitle(const std::string& title) {
+    if (title == title_)
+        return;
+    title_ = title;
+    tellRenamed();
+}
+
+void CDocument::setPathName(const std::string& path) {
+    pathName_ = platform().files().fullPath(path);
+    title_ = fileNameOf(pathName_);
+    tellRenamed();
+}
+
+std::string CDocument::displayName() const {
+    return pathName_.empty() ? title_ : displayPath(pathName_);
+}
+
+void CDocument::setModified(bool modified) {
+    if (modified == modified_)
+        return;
+    modified_ = modified;
+    tellRenamed();
+}
+
+void CDocument::addView(DocumentView& view) {
+    views_.push_back(&view);
+}
+
+void CDocument::removeView(DocumentView& view) {
+    std::erase(views_, &view);
+}
+
+void CDocument::updateAllViews(DocumentView* sender, int hint) {
+    // A copy, because a view may open or close another one.
+    for (DocumentView* view : std::vector(views_)) {
+        if (view != sender)
+            view->update(sender, hint);
+    }
+}
+
+void CDocument::addTitleListener(DocumentTitleListener& listener) {
+    titleListeners_.push_back(&listener);
+}
+
+void CDocument::removeTitleListener(DocumentTitleListener& listener) {
+    std::erase(titleListeners_, &listener);
+}
+
+bool CDocument::onNewDocument() {
+    pathName_.clear();
+    setModified(false);
+    return true;
+}
+
+bool CDocument::onOpenDocument(const std::string& /*path*/) {
+    setModified(false);
+    return true;
+}
+
+bool CDocument::saveModified() {
+    if (!hasUnsavedChanges())
+        return true;
+    switch (applicationMessage(text(StringId::SaveChangesQuestion, {displayName()}),
+                               MessageButtons::YesNoCancel)) {
+    case MessageAnswer::Yes:
+        return save();
+    case MessageAnswer::No:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool CDocument::save() {
+    return saveTo(pathName_);
+}
+
+bool CDocument::saveAs() {
+    return saveTo({});
+}
+
+bool CDocument::saveTo(const std::string& path) {
+    if (!onSaveDocument(path))
+        return false;
+    // Takes marks of unsaved changes out of the title.
+    if (!pathName_.empty())
+        setPathName(pathName_);
+    return true;
+}
+
+void CDocument::OnFileSave() {
+    save();
+}
+
+void CDocument::OnFileSaveAs() {
+    saveAs();
+}
+
+void CDocument::tellRenamed() {
+    for (DocumentView* view : std::vector(views_))
+        view->documentRenamed();
+    for (DocumentTitleListener* listener : std::vector(titleListeners_))
+        listener->documentRenamed();
+}
+
+} // namespace dyeworks

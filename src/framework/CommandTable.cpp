@@ -1,0 +1,125 @@
+#include "framework/CommandTable.h"
+
+#include "platform/Platform.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+// The name by which the translation tools find the texts; what it wraps stays as it is.
+#define QT_TRANSLATE_NOOP(context, text) text
+
+namespace dyeworks {
+
+namespace {
+
+constexpr std::array kRows{
+    CommandRow{ID_TOOL_PIXEL, QT_TRANSLATE_NOOP("Command", "Pi&xel"),
+               QT_TRANSLATE_NOOP("Command", "Plot Pixel\nPixel"), "", "pixel"},
+    CommandRow{ID_TOOL_BOX, QT_TRANSLATE_NOOP("Command", "&Box"),
+               QT_TRANSLATE_NOOP("Command", "Draw Box\nBox"), "", "box"},
+    CommandRow{ID_TOOL_BOX_FILL, QT_TRANSLATE_NOOP("Command", "B&ox Fill"),
+               QT_TRANSLATE_NOOP("Command", "Draw Box Fill\nBox Fill"), "", "box-fill"},
+    CommandRow{ID_TOOL_CIRCLE, QT_TRANSLATE_NOOP("Command", "&Circle"),
+               QT_TRANSLATE_NOOP("Command", "Draw Circle\nCircle"), "", "circle"},
+    CommandRow{ID_TOOL_CIRCLE_FILL, QT_TRANSLATE_NOOP("Command", "C&ircle Fill"),
+               QT_TRANSLATE_NOOP("Command", "Draw Circle Fill\nCircle Fill"), "", "circle-fill"},
+    CommandRow{ID_TOOL_PAINT, QT_TRANSLATE_NOOP("Command", "&Paint"),
+               QT_TRANSLATE_NOOP("Command", "Paint\nPaint"), "", "paint"},
+    CommandRow{ID_ZOOM_IN, QT_TRANSLATE_NOOP("Command", "Zoom &In"),
+               QT_TRANSLATE_NOOP("Command", "Zoom In\nZoom In"), "Ctrl++ Ctrl+=", "zoom-in"},
+    CommandRow{ID_ZOOM_OUT, QT_TRANSLATE_NOOP("Command", "Zoom &Out"),
+               QT_TRANSLATE_NOOP("Command", "Zoom Out\nZoom Out"), "Ctrl+-", "zoom-out"},
+    CommandRow{ID_TOOL_PEN, QT_TRANSLATE_NOOP("Command", "Pe&n"),
+               QT_TRANSLATE_NOOP("Command", "Draw Pen\nPen"), "", "pen"},
+    CommandRow{ID_TOOL_LINE, QT_TRANSLATE_NOOP("Command", "&Line"),
+               QT_TRANSLATE_NOOP("Command", "Draw Line\nLine"), "", "line"},
+    CommandRow{ID_VIEW_GRID, QT_TRANSLATE_NOOP("Command", "&Grid"),
+               QT_TRANSLATE_NOOP("Command", "Show or hide the grid lines.\nToggle Grid"), "Ctrl+G", "grid"},
+    CommandRow{ID_PALETTE_CLOSE, QT_TRANSLATE_NOOP("Command", "C&lose Palette"),
+               QT_TRANSLATE_NOOP("Command", "Close the active palette\nClose Palette"), "", "close-palette"},
+    CommandRow{ID_PALETTE_SAVE, QT_TRANSLATE_NOOP("Command", "Sa&ve Palette"),
+               QT_TRANSLATE_NOOP("Command", "Save the active palette\nSave Palette"), "", "save-palette"},
+    CommandRow{ID_PALETTE_SAVE_AS, QT_TRANSLATE_NOOP("Command", "Save Palet&te As..."),
+               QT_TRANSLATE_NOOP("Command", "Save the active palette with a new name\nSave Palette As"), "",
+               ""},
+    CommandRow{ID_PALETTE_OPEN, QT_TRANSLATE_NOOP("Command", "Open &Palette..."),
+               QT_TRANSLATE_NOOP("Command", "Open an existing palette\nOpen Palette"), "", "open-palette"},
+    CommandRow{ID_IMAGE_ATTACH, QT_TRANSLATE_NOOP("Command", "A&ttach"),
+               QT_TRANSLATE_NOOP("Command", "Attach to active TMF\nAttach"), "", "attach"},
+    CommandRow{ID_ZOOM_X1, QT_TRANSLATE_NOOP("Command", "x1"), QT_TRANSLATE_NOOP("Command", "100%\n100%"),
+               "Ctrl+1", ""},
+    CommandRow{ID_ZOOM_X2, QT_TRANSLATE_NOOP("Command", "x2"), QT_TRANSLATE_NOOP("Command", "200%\n200%"), "",
+               ""},
+    CommandRow{ID_ZOOM_X3, QT_TRANSLATE_NOOP("Command", "x3"), QT_TRANSLATE_NOOP("Command", "300%\n300%"), "",
+               ""},
+    CommandRow{ID_ZOOM_X4, QT_TRANSLATE_NOOP("Command", "x4"), QT_TRANSLATE_NOOP("Command", "400%\n400%"), "",
+               ""},
+    CommandRow{ID_ZOOM_X6, QT_TRANSLATE_NOOP("Command", "x6"), QT_TRANSLATE_NOOP("Command", "600%\n600%"), "",
+               ""},
+    CommandRow{ID_ZOOM_X8, QT_TRANSLATE_NOOP("Command", "x8"), QT_TRANSLATE_NOOP("Command", "800%\n800%"), "",
+               ""},
+    CommandRow{ID_ZOOM_X12, QT_TRANSLATE_NOOP("Command", "x12"), QT_TRANSLATE_NOOP("Command", "1200%\n1200%"),
+               "", ""},
+    CommandRow{ID_ZOOM_X16, QT_TRANSLATE_NOOP("Command", "x16"), QT_TRANSLATE_NOOP("Command", "1600%\n1600%"),
+               "", ""},
+    CommandRow{ID_FILE_OPEN, QT_TRANSLATE_NOOP("Command", "&Open..."),
+               QT_TRANSLATE_NOOP("Command", "Open an existing document\nOpen"), "Ctrl+O", "open"},
+    CommandRow{ID_FILE_CLOSE, QT_TRANSLATE_NOOP("Command", "&Close"),
+               QT_TRANSLATE_NOOP("Command", "Close the active document\nClose"), "Ctrl+W", "close"},
+    CommandRow{ID_FILE_SAVE, QT_TRANSLATE_NOOP("Command", "&Save"),
+               QT_TRANSLATE_NOOP("Command", "Save the active document\nSave"), "Ctrl+S", "save"},
+    CommandRow{ID_FILE_SAVE_AS, QT_TRANSLATE_NOOP("Command", "Save &As..."),
+               QT_TRANSLATE_NOOP("Command", "Save the active document with a new name\nSave As"),
+               "Ctrl+Shift+S", "save-as"},
+    CommandRow{ID_EDIT_UNDO, QT_TRANSLATE_NOOP("Command", "&Undo"),
+               QT_TRANSLATE_NOOP("Command", "Undo the last action\nUndo"), "Ctrl+Z", "undo"},
+    CommandRow{ID_EDIT_REDO, QT_TRANSLATE_NOOP("Command", "&Redo"),
+               QT_TRANSLATE_NOOP("Command", "Redo the previously undone action\nRedo"), "Ctrl+Y Ctrl+Shift+Z",
+               "redo"},
+    CommandRow{ID_WINDOW_ARRANGE, QT_TRANSLATE_NOOP("Command", "&Arrange Icons"),
+               QT_TRANSLATE_NOOP("Command", "Arrange minimized windows at the bottom\nArrange Icons"), "",
+               ""},
+    CommandRow{ID_WINDOW_CASCADE, QT_TRANSLATE_NOOP("Command", "&Cascade"),
+               QT_TRANSLATE_NOOP("Command", "Arrange windows so that they overlap\nCascade"), "", ""},
+    CommandRow{ID_WINDOW_TILE_HORZ, QT_TRANSLATE_NOOP("Command", "Tile &Horizontally"),
+               QT_TRANSLATE_NOOP("Command", "Arrange windows one above the other\nTile Horizontally"), "",
+               ""},
+    CommandRow{ID_WINDOW_TILE_VERT, QT_TRANSLATE_NOOP("Command", "Tile &Vertically"),
+               QT_TRANSLATE_NOOP("Command", "Arrange windows side by side\nTile Vertically"), "", ""},
+    CommandRow{ID_APP_ABOUT, QT_TRANSLATE_NOOP("Command", "&About Orrery Dyeworks..."),
+               QT_TRANSLATE_NOOP("Command", "Show the program's version and copyright\nAbout"), "", "about"},
+    CommandRow{ID_APP_EXIT, QT_TRANSLATE_NOOP("Command", "E&xit"),
+               QT_TRANSLATE_NOOP("Command", "Quit the program and ask to save documents\nExit"), "Ctrl+Q",
+               "exit"},
+};
+
+static_assert(std::ranges::is_sorted(kRows, std::less_equal{}, &CommandRow::id), "look-up needs the order");
+
+} // namespace
+
+std::span<const CommandRow> commandTable() {
+    return kRows;
+}
+
+const CommandRow* findCommand(CommandId id) {
+    const auto row = std::ranges::lower_bound(kRows, id, {}, &CommandRow::id);
+    return row != kRows.end() && row->id == id ? &*row : nullptr;
+}
+
+std::string menuText(const CommandRow& row) {
+    return platform().texts().translate(kCommandContext, row.menuText);
+}
+
+std::string statusText(const CommandRow& row) {
+    const std::string prompt = platform().texts().translate(kCommandContext, row.prompt);
+    return prompt.substr(0, prompt.find('\n'));
+}
+
+std::string toolTipText(const CommandRow& row) {
+    const std::string prompt = platform().texts().translate(kCommandContext, row.prompt);
+    // Without a line break the whole prompt serves as tip: npos + 1 is 0.
+    return prompt.substr(prompt.find('\n') + 1);
+}
+
+} // namespace dyeworks

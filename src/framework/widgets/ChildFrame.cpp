@@ -1,0 +1,140 @@
+#include "framework/widgets/ChildFrame.h"
+
+#include "framework/DocumentTemplate.h"
+#include "framework/widgets/ScrollView.h"
+
+#include <QCloseEvent>
+#include <QLayout>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace dyeworks {
+
+ChildFrame::ChildFrame(CDocument& document, std::unique_ptr<QWidget> widget, FrameView& view)
+    : document_(&document)
+    , view_(&view) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWidget(widget.release());
+    document.addView(view.documentView());
+    document.addTitleListener(*this);
+    documentRenamed();
+    on(ID_FILE_CLOSE, &ChildFrame::OnFileClose);
+}
+
+ChildFrame::~ChildFrame() {
+    release();
+}
+
+void ChildFrame::closeUnasked() {
+    asks_ = false;
+    close();
+}
+
+WindowPlacement ChildFrame::placement() const {
+    WindowPlacement placement;
+    if (isMinimized()) {
+        placement.showCommand = WindowPlacement::kShowMinimized;
+        placement.minX = x();
+        placement.minY = y();
+    } else if (isMaximized()) {
+        placement.showCommand = WindowPlacement::kShowMaximized;
+    }
+    placement.left = normalGeometry_.left();
+    placement.top = normalGeometry_.top();
+    placement.right = normalGeometry_.left() + normalGeometry_.width();
+    placement.bottom = normalGeometry_.top() + normalGeometry_.height();
+    return placement;
+}
+
+void ChildFrame::setPlacement(const WindowPlacement& placement) {
+    const QRect normal(placement.left, placement.top, placement.right - placement.left,
+                       placement.bottom - placement.top);
+    if (isMaximized() || isMinimized())
+        showNormal();
+    if (normal.isValid())
+        setGeometry(normal);
+    if (placement.showCommand == WindowPlacement::kShowMaximized)
+        showMaximized();
+    else if (placement.showCommand == WindowPlacement::kShowMinimized)
+        showMinimized();
+}
+
+void ChildFrame::fitToContent(const ScrollView& view) {
+    if (isMaximized() || isMinimized())
+        return;
+    if (layout() != nullptr)
+        layout()->activate();
+    const QWidget* area = parentWidget();
+    const QSize available =
+        area == nullptr ? QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX) : area->size() - QSize(x(), y());
+    QSize wanted = view.contentSize() + (size() - view.maximumViewportSize());
+    // A scroll bar that one direction needs takes its room from the other one.
+    const bool tooWide = wanted.width() > available.width();
+    if (tooWide)
+        wanted.rheight() += view.horizontalScrollBar()->sizeHint().height();
+    if (wanted.height() > available.height()) {
+        wanted.rwidth() += view.verticalScrollBar()->sizeHint().width();
+        if (!tooWide && wanted.width() > available.width())
+            wanted.rheight() += view.horizontalScrollBar()->sizeHint().height();
+    }
+    resize(wanted.boundedTo(available).expandedTo(minimumSizeHint()));
+}
+
+void ChildFrame::closeEvent(QCloseEvent* event) {
+    if (document_ != nullptr) {
+        if (asks_ && isLastOfDocument() && !document_->saveModified()) {
+            event->ignore();
+            return;
+        }
+        release();
+    }
+    QMdiSubWindow::closeEvent(event);
+}
+
+void ChildFrame::moveEvent(QMoveEvent* event) {
+    QMdiSubWindow::moveEvent(event);
+    rememberNormalGeometry();
+}
+
+void ChildFrame::resizeEvent(QResizeEvent* event) {
+    QMdiSubWindow::resizeEvent(event);
+    rememberNormalGeometry();
+}
+
+void ChildFrame::OnFileClose() {
+    close();
+}
+
+void ChildFrame::documentRenamed() {
+    // "[*]" is Qt's mark for a changed document, doubled it is itself.
+    setWindowTitle(
+        QString::fromStdString(document_->title()).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+}
+
+bool ChildFrame::isLastOfDocument() const {
+    const auto& views = document_->views();
+    return std::ranges::all_of(views,
+                               [this](const DocumentView* view) { return view == &view_->documentView(); });
+}
+
+void ChildFrame::rememberNormalGeometry() {
+    if (!isMaximized() && !isMinimized())
+        normalGeometry_ = geometry();
+}
+
+void ChildFrame::release() {
+    if (document_ == nullptr)
+        return;
+    view_->closing(*this);
+    CDocument& document = *document_;
+    document.removeView(view_->documentView());
+    document.removeTitleListener(*this);
+    view_ = nullptr;
+    document_ = nullptr;
+    delete widget();
+    if (document.views().empty() && document.documentTemplate() != nullptr)
+        document.documentTemplate()->dropDocument(document);
+}
+
+} // namespace dyeworks

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "framework/CDocument.h"
+#include "framework/CommandTarget.h"
+#include "framework/WindowPlacement.h"
+#include "framework/widgets/FrameView.h"
+
+#include <QMdiSubWindow>
+
+#include <memory>
+
+namespace dyeworks {
+
+class ScrollView;
+
+/// The window of one view inside the main frame. Titled like its document. Closing the last window of a
+/// document asks whether to save it and then ends the document.
+class ChildFrame : public QMdiSubWindow, public CommandTarget, private DocumentTitleListener {
+    Q_OBJECT
+
+public:
+    /// `view` belongs to `widget`, which is the frame's from now on. The document must outlive the frame or
+    /// be owned by its template.
+    ChildFrame(CDocument& document, std::unique_ptr<QWidget> widget, FrameView& view);
+    ~ChildFrame() override;
+
+    /// Both null once the frame has closed; it stays for a moment until the event loop deletes it.
+    [[nodiscard]] CDocument* document() const noexcept { return document_; }
+    [[nodiscard]] FrameView* view() const noexcept { return view_; }
+
+    /// Closes without the question about unsaved changes, for callers who have asked it.
+    void closeUnasked();
+
+    /// In pixels of the document area.
+    [[nodiscard]] WindowPlacement placement() const;
+    void setPlacement(const WindowPlacement& placement);
+
+    /// Resizes the frame, without moving it, so that all of the view's contents show, but not beyond the
+    /// right or bottom edge of the document area. A maximized or minimized frame keeps its size.
+    void fitToContent(const ScrollView& view);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void OnFileClose();
+    void documentRenamed() override;
+    [[nodiscard]] bool isLastOfDocument() const;
+    void rememberNormalGeometry();
+    void release();
+
+    CDocument* document_;
+    FrameView* view_;
+    QRect normalGeometry_;
+    bool asks_ = true;
+};
+
+} // namespace dyeworks

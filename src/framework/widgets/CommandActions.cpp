@@ -1,0 +1,89 @@
+#include "framework/widgets/CommandActions.h"
+
+#include "framework/CommandRouter.h"
+#include "framework/CommandTable.h"
+#include "framework/widgets/CommandIcon.h"
+
+#include <QAbstractEventDispatcher>
+#include <QAction>
+#include <QApplication>
+#include <QKeySequence>
+#include <QWidget>
+
+namespace dyeworks {
+
+namespace {
+
+QList<QKeySequence> shortcutsOf(const CommandRow& row) {
+    QList<QKeySequence> shortcuts;
+    for (const QString& keys : QString::fromUtf8(row.shortcut).split(QLatin1Char(' '), Qt::SkipEmptyParts))
+        shortcuts.append(QKeySequence(keys, QKeySequence::PortableText));
+    return shortcuts;
+}
+
+} // namespace
+
+CommandActions::CommandActions(CommandRouter& router, QObject* parent)
+    : QObject(parent)
+    , router_(router) {
+    for (const CommandRow& row : commandTable())
+        create(row);
+    router_.setAfterCommand([this] { refresh(); });
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+            &CommandActions::refreshWhenIdle);
+}
+
+CommandActions::~CommandActions() {
+    router_.setAfterCommand({});
+}
+
+QAction* CommandActions::action(CommandId id) const {
+    const auto found = entries_.find(id);
+    return found == entries_.end() ? nullptr : found->second.action;
+}
+
+void CommandActions::addTo(QWidget& window) {
+    for (const auto& [id, entry] : entries_)
+        window.addAction(entry.action);
+}
+
+void CommandActions::refresh() {
+    for (const auto& [id, entry] : entries_) {
+        const CommandUi ui = router_.state(id);
+        QAction& action = *entry.action;
+        action.setEnabled(ui.enabled);
+        if (ui.checked)
+            action.setCheckable(true);
+        action.setChecked(ui.checked.value_or(false));
+        action.setText(ui.text ? QString::fromStdString(*ui.text) : entry.text);
+    }
+}
+
+void CommandActions::create(const CommandRow& row) {
+    auto* action = new QAction(this);
+    action->setObjectName(QStringLiteral("command_%1").arg(row.id));
+    const QString text = QString::fromStdString(menuText(row));
+    action->setText(text);
+    action->setStatusTip(QString::fromStdString(statusText(row)));
+    action->setIcon(commandIcon(QString::fromUtf8(row.icon)));
+    // Roles would let a desktop move commands out of the menus that name them.
+    action->setMenuRole(QAction::NoRole);
+    action->setShortcuts(shortcutsOf(row));
+    const QString tip = QString::fromStdString(toolTipText(row));
+    const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+    action->setToolTip(keys.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, keys));
+    connect(action, &QAction::triggered, this, [this, id = row.id] {
+        // Triggering has flipped a check mark, which a command that did not run would leave flipped.
+        if (!router_.run(id))
+            refresh();
+    });
+    entries_[row.id] = {action, text};
+}
+
+void CommandActions::refreshWhenIdle() {
+    // Nobody reaches the actions past a dialog, and what they ask may be in the middle of a change there.
+    if (QApplication::activeModalWidget() == nullptr)
+        refresh();
+}
+
+} // namespace dyeworks

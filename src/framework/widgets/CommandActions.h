@@ -1,0 +1,51 @@
+#pragma once
+
+#include "framework/CommandIds.h"
+
+#include <QObject>
+#include <QString>
+
+#include <map>
+
+class QAction;
+class QWidget;
+
+namespace dyeworks {
+
+class CommandRouter;
+struct CommandRow;
+
+/// One QAction for each command of the table, named "command_<number>". Triggering it runs the command
+/// through the router. What the actions show follows the router's states: after each command, when a menu of
+/// MenuBuilder opens, and whenever the program falls idle.
+class CommandActions : public QObject {
+    Q_OBJECT
+
+public:
+    /// The router must outlive the actions; they are what it tells after each command.
+    explicit CommandActions(CommandRouter& router, QObject* parent = nullptr);
+    ~CommandActions() override;
+
+    /// Null for a number that is not in the table.
+    [[nodiscard]] QAction* action(CommandId id) const;
+
+    /// Makes the shortcuts work in `window`, also those of commands that are in none of its menus.
+    void addTo(QWidget& window);
+
+    /// Asks the router for all states.
+    void refresh();
+
+private:
+    struct Entry {
+        QAction* action;
+        QString text; ///< The menu text of the table, in the user's language.
+    };
+
+    void create(const CommandRow& row);
+    void refreshWhenIdle();
+
+    CommandRouter& router_;
+    std::map<CommandId, Entry> entries_;
+};
+
+} // namespace dyeworks

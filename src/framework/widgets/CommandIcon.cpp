@@ -1,0 +1,132 @@
+#include "framework/widgets/CommandIcon.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QImage>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmapCache>
+#include <QSvgRenderer>
+
+#include <algorithm>
+#include <array>
+
+// The resources are part of a static library; without this call the linker leaves them out.
+static void initializeIcons() {
+    Q_INIT_RESOURCE(icons);
+}
+
+namespace dyeworks {
+
+namespace {
+
+/// A colour that stands in the drawings beside the text colour, and the one that takes its place on a dark
+/// background.
+struct Accent {
+    const char* onLight;
+    const char* onDark;
+};
+
+constexpr std::array kAccents{Accent{"#2a7de1", "#64a9ff"}, Accent{"#d98a1f", "#f2b04e"},
+                              Accent{"#d1495b", "#f27c8a"}};
+
+constexpr qreal kDisabledOpacity = 0.38;
+
+class SvgIconEngine : public QIconEngine {
+public:
+    explicit SvgIconEngine(const QString& name)
+        : name_(name) {
+        QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
+        if (file.open(QIODevice::ReadOnly))
+            source_ = file.readAll();
+    }
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override {
+        QSvgRenderer renderer(inColours(textColour(mode)));
+        if (!renderer.isValid())
+            return;
+        const int side = std::min(rect.width(), rect.height());
+        const QRectF square(rect.x() + (rect.width() - side) / 2, rect.y() + (rect.height() - side) / 2, side,
+                            side);
+        if (mode != QIcon::Disabled) {
+            renderer.render(painter, square);
+            return;
+        }
+        // Dimmed as a whole: shape by shape, those that overlap would shine through each other.
+        const qreal scale = painter->device()->devicePixelRatioF();
+        QImage whole((square.size() * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+        whole.fill(Qt::transparent);
+        QPainter wholePainter(&whole);
+        renderer.render(&wholePainter);
+        wholePainter.end();
+        painter->save();
+        painter->setOpacity(painter->opacity() * kDisabledOpacity);
+        painter->drawImage(square, whole);
+        painter->restore();
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        return scaledPixmap(size, mode, state, 1.0);
+    }
+
+    /// `size` is in device pixels.
+    QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal /*scale*/) override {
+        const QString key = QStringLiteral("dyeworks-icon/%1/%2x%3/%4/%5")
+                                .arg(name_)
+                                .arg(size.width())
+                                .arg(size.height())
+                                .arg(static_cast<int>(mode))
+                                .arg(textColour(mode).rgba());
+        QPixmap pixmap;
+        if (!QPixmapCache::find(key, &pixmap)) {
+            pixmap = QPixmap(size);
+            pixmap.fill(Qt::transparent);
+            QPainter painter(&pixmap);
+            paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+            painter.end();
+            QPixmapCache::insert(key, pixmap);
+        }
+        return pixmap;
+    }
+
+    bool isNull() override { return source_.isEmpty(); }
+    QString key() const override { return QStringLiteral("dyeworks"); }
+    QIconEngine* clone() const override { return new SvgIconEngine(*this); }
+
+private:
+    static QColor textColour(QIcon::Mode mode) {
+        const QPalette palette = QGuiApplication::palette();
+        // Menus show the chosen line in the colours of a selection.
+        return mode == QIcon::Selected ? palette.color(QPalette::HighlightedText)
+                                       : palette.color(QPalette::Active, QPalette::ButtonText);
+    }
+
+    QByteArray inColours(const QColor& text) const {
+        QByteArray drawing = source_;
+        drawing.replace("currentColor", text.name().toLatin1());
+        if (text.lightnessF() > 0.5F) {
+            for (const Accent& accent : kAccents)
+                drawing.replace(accent.onLight, accent.onDark);
+        }
+        return drawing;
+    }
+
+    QString name_;
+    QByteArray source_;
+};
+
+} // namespace
+
+QIcon commandIcon(const QString& name) {
+    if (name.isEmpty())
+        return {};
+    initializeIcons();
+    return QIcon(new SvgIconEngine(name));
+}
+
+QIcon applicationIcon() {
+    return commandIcon(QStringLiteral("dyeworks"));
+}
+
+} // namespace dyeworks

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "framework/Menu.h"
+
+#include <span>
+
+class QMenu;
+class QMenuBar;
+class QToolBar;
+
+namespace dyeworks {
+
+class CommandActions;
+
+// Menus and bars out of lists of commands. Numbers that are not in the command table are left out, and so are
+// separators that would stand first, last or beside each other.
+
+/// Adds the items to the menu, and keeps what it shows current whenever it opens.
+void fillMenu(QMenu& menu, std::span<const MenuItem> items, CommandActions& actions);
+
+/// Adds a menu for each item, all of which must be submenus.
+void fillMenuBar(QMenuBar& bar, std::span<const MenuItem> items, CommandActions& actions);
+
+/// Adds a button for each command.
+void fillToolBar(QToolBar& bar, std::span<const MenuItem> items, CommandActions& actions);
+
+} // namespace dyeworks

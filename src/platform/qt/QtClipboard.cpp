@@ -1,0 +1,101 @@
+#include "platform/qt/QtClipboard.h"
+
+#include "platform/qt/PackedDib.h"
+
+#include <QBuffer>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QImage>
+#include <QMimeData>
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <new>
+
+namespace dyeworks {
+
+namespace {
+
+/// Names that programs give to BMP data. Ours is the first.
+const std::array kBmpFormats{QStringLiteral("image/bmp"), QStringLiteral("image/x-bmp"),
+                             QStringLiteral("image/x-MS-bmp"), QStringLiteral("image/x-win-bitmap")};
+
+QClipboard* desktopClipboard() {
+    return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr
+               ? QGuiApplication::clipboard()
+               : nullptr;
+}
+
+const QMimeData* offered() {
+    QClipboard* clipboard = desktopClipboard();
+    return clipboard == nullptr ? nullptr : clipboard->mimeData();
+}
+
+std::optional<std::vector<std::byte>> dibOf(const QByteArray& bmp) {
+    return dibFromBmp(std::as_bytes(std::span(bmp.constData(), static_cast<std::size_t>(bmp.size()))));
+}
+
+QByteArray asBmp(const QImage& image) {
+    QBuffer buffer;
+    if (image.isNull() || !image.save(&buffer, "BMP"))
+        return {};
+    return buffer.data();
+}
+
+} // namespace
+
+bool QtClipboard::offers(ClipboardFormat format) const {
+    const QMimeData* data = offered();
+    if (data == nullptr)
+        return false;
+    if (format == ClipboardFormat::Text)
+        return data->hasText();
+    return data->hasImage() || std::any_of(kBmpFormats.begin(), kBmpFormats.end(),
+                                           [data](const QString& name) { return data->hasFormat(name); });
+}
+
+bool QtClipboard::setBitmap(std::span<const std::byte> dib) {
+    QClipboard* clipboard = desktopClipboard();
+    const std::optional<std::vector<std::byte>> bmp = bmpFromDib(dib);
+    if (clipboard == nullptr || !bmp)
+        return false;
+    const QByteArray bytes(reinterpret_cast<const char*>(bmp->data()), static_cast<qsizetype>(bmp->size()));
+    auto data = std::make_unique<QMimeData>();
+    data->setData(kBmpFormats.front(), bytes);
+    const QImage picture = QImage::fromData(bytes, "BMP");
+    if (!picture.isNull())
+        data->setImageData(picture);
+    clipboard->setMimeData(data.release());
+    const QMimeData* now = clipboard->mimeData();
+    return now != nullptr && now->data(kBmpFormats.front()) == bytes;
+}
+
+std::optional<std::vector<std::byte>> QtClipboard::bitmap() const {
+    const QMimeData* data = offered();
+    if (data == nullptr)
+        return std::nullopt;
+    for (const QString& name : kBmpFormats) {
+        if (std::optional<std::vector<std::byte>> dib = dibOf(data->data(name)))
+            return dib;
+    }
+    return dibOf(asBmp(qvariant_cast<QImage>(data->imageData())));
+}
+
+bool QtClipboard::setText(const std::string& text) {
+    QClipboard* clipboard = desktopClipboard();
+    if (clipboard == nullptr)
+        return false;
+    const QString wanted = QString::fromStdString(text);
+    clipboard->setText(wanted);
+    return clipboard->text() == wanted;
+}
+
+std::optional<std::string> QtClipboard::text() const {
+    const QMimeData* data = offered();
+    if (data == nullptr || !data->hasText())
+        return std::nullopt;
+    return data->text().toStdString();
+}
+
+} // namespace dyeworks

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/Clipboard.h"
+
+namespace dyeworks {
+
+/// The desktop's clipboard. A bitmap travels as a BMP file ("image/bmp"), and beside it as a picture for
+/// programs that take other forms. A picture that another program offers without a BMP form is turned into
+/// a bitmap of its own depth.
+class QtClipboard : public Clipboard {
+public:
+    [[nodiscard]] bool offers(ClipboardFormat format) const override;
+    bool setBitmap(std::span<const std::byte> dib) override;
+    [[nodiscard]] std::optional<std::vector<std::byte>> bitmap() const override;
+    bool setText(const std::string& text) override;
+    [[nodiscard]] std::optional<std::string> text() const override;
+};
+
+} // namespace dyeworks

@@ -1,0 +1,13 @@
+# The translations, compiled and put into dyeworks_platform_qt as the resource ":/translations".
+
+set(translation_sources "${PROJECT_SOURCE_DIR}/translations/dyeworks_ja.ts")
+set_source_files_properties(${translation_sources} PROPERTIES
+  OUTPUT_LOCATION "${CMAKE_CURRENT_BINARY_DIR}/translations")
+qt6_add_lrelease(dyeworks_platform_qt
+  TS_FILES ${translation_sources}
+  QM_FILES_OUTPUT_VARIABLE translation_files
+  OPTIONS -silent)
+qt6_add_resources(dyeworks_platform_qt translations
+  PREFIX "/translations"
+  BASE "${CMAKE_CURRENT_BINARY_DIR}/translations"
+  FILES ${translation_files})

@@ -1,0 +1,107 @@
+#include "framework/CommandRouter.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using namespace dyeworks;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+using Log = std::vector<std::string>;
+
+class Target : public CommandTarget {
+public:
+    Target(Log& log, std::string name)
+        : log_(log)
+        , name_(std::move(name)) {}
+    void take(CommandId id) { on(id, &Target::OnRun, &Target::OnUpdate); }
+    void takeRange(CommandId first, CommandId last) { onRange(first, last, &Target::OnRange); }
+
+    bool enabled = true;
+
+private:
+    void OnRun() { log_.push_back(name_); }
+    void OnUpdate(CommandUi& ui) {
+        ui.enabled = enabled;
+        ui.checked = true;
+    }
+    void OnRange(CommandId id) { log_.push_back(name_ + std::to_string(id)); }
+
+    Log& log_;
+    std::string name_;
+};
+
+struct CommandRouting : testing::Test {
+    Log log;
+    Target view{log, "view"};
+    Target document{log, "document"};
+    CommandRouter router{[this] { return std::vector<CommandTarget*>{&view, nullptr, &document}; }};
+};
+
+TEST_F(CommandRouting, FirstTargetThatTakesTheCommandGetsIt) {
+    view.take(ID_ZOOM_IN);
+    document.take(ID_ZOOM_IN);
+    document.take(ID_FILE_SAVE);
+    EXPECT_TRUE(router.run(ID_ZOOM_IN));
+    EXPECT_TRUE(router.run(ID_FILE_SAVE));
+    EXPECT_THAT(log, ElementsAre("view", "document"));
+}
+
+TEST_F(CommandRouting, CommandDisabledByItsTakerRunsNowhere) {
+    view.take(ID_ZOOM_IN);
+    view.enabled = false;
+    document.take(ID_ZOOM_IN);
+    EXPECT_FALSE(router.run(ID_ZOOM_IN));
+    EXPECT_FALSE(router.state(ID_ZOOM_IN).enabled);
+    EXPECT_EQ(router.state(ID_ZOOM_IN).checked, true);
+    EXPECT_THAT(log, IsEmpty());
+}
+
+TEST_F(CommandRouting, CommandThatNobodyTakesIsDisabled) {
+    EXPECT_FALSE(router.state(ID_APP_ABOUT).enabled);
+    EXPECT_FALSE(router.run(ID_APP_ABOUT));
+}
+
+TEST_F(CommandRouting, ListenerHearsOfCommandsThatRanAndOfNoOthers) {
+    view.take(ID_ZOOM_IN);
+    router.setAfterCommand([this] { log.emplace_back("after"); });
+    router.run(ID_ZOOM_OUT);
+    router.run(ID_ZOOM_IN);
+    EXPECT_THAT(log, ElementsAre("view", "after"));
+}
+
+TEST_F(CommandRouting, RangeIsInclusiveAndTellsWhichCommand) {
+    view.takeRange(ID_ZOOM_X1, ID_ZOOM_X16);
+    EXPECT_FALSE(router.run(ID_ZOOM_X1 - 1));
+    EXPECT_TRUE(router.run(ID_ZOOM_X1));
+    EXPECT_TRUE(router.run(ID_ZOOM_X16));
+    EXPECT_FALSE(router.run(ID_ZOOM_X16 + 1));
+    EXPECT_THAT(log, ElementsAre("view32901", "view32916"));
+}
+
+/// Its command ends it, as Close ends a document.
+class Ephemeral : public CommandTarget {
+public:
+    explicit Ephemeral(std::unique_ptr<Ephemeral>& owner)
+        : owner_(owner) {
+        on(ID_FILE_CLOSE, &Ephemeral::OnClose);
+    }
+
+private:
+    void OnClose() { owner_.reset(); }
+    std::unique_ptr<Ephemeral>& owner_;
+};
+
+TEST(CommandRouter, CommandMayEndItsTarget) {
+    std::unique_ptr<Ephemeral> target;
+    target = std::make_unique<Ephemeral>(target);
+    CommandRouter router([&] { return std::vector<CommandTarget*>{target.get()}; });
+    EXPECT_TRUE(router.run(ID_FILE_CLOSE));
+    EXPECT_EQ(target, nullptr);
+}
+
+} // namespace

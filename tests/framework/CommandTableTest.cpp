@@ -1,0 +1,44 @@
+#include "framework/CommandTable.h"
+
+#include "platform/fake/FakePlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <sstream>
+#include <string>
+
+using namespace dyeworks;
+
+TEST(CommandTable, EveryCommandHasTextsForMenuStatusLineAndToolTip) {
+    const FakePlatform fake;
+    for (const CommandRow& row : commandTable()) {
+        EXPECT_FALSE(menuText(row).empty()) << row.id;
+        EXPECT_FALSE(statusText(row).empty()) << row.id;
+        EXPECT_FALSE(toolTipText(row).empty()) << row.id;
+        EXPECT_EQ(toolTipText(row).find('\n'), std::string::npos) << row.id;
+        EXPECT_EQ(findCommand(row.id), &row);
+    }
+    EXPECT_EQ(findCommand(ID_ZOOM_BASE), nullptr);
+}
+
+TEST(CommandTable, NoShortcutStandsForTwoCommands) {
+    std::set<std::string> seen;
+    for (const CommandRow& row : commandTable()) {
+        std::istringstream shortcuts(row.shortcut);
+        for (std::string shortcut; shortcuts >> shortcut;)
+            EXPECT_TRUE(seen.insert(shortcut).second) << shortcut << " of " << row.id;
+    }
+}
+
+TEST(CommandTable, TranslatedPromptIsSplitAtItsOwnLineBreak) {
+    FakePlatform fake;
+    const CommandRow& row = *findCommand(ID_EDIT_UNDO);
+    fake.texts.translations[row.prompt] = "Nimmt die letzte Aktion zurück\nRückgängig";
+    EXPECT_EQ(statusText(row), "Nimmt die letzte Aktion zurück");
+    EXPECT_EQ(toolTipText(row), "Rückgängig");
+
+    fake.texts.translations[row.prompt] = "Rückgängig";
+    EXPECT_EQ(statusText(row), "Rückgängig");
+    EXPECT_EQ(toolTipText(row), "Rückgängig");
+}

@@ -1,0 +1,89 @@
+#include "TestDocument.h"
+#include "platform/fake/FakePlatform.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace dyeworks;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+struct TestWindows : DocumentWindows {
+    bool succeed = true;
+    std::vector<std::string> opened;
+    std::vector<CDocument*> activated;
+
+    bool openWindow(CDocument& document) override {
+        opened.push_back(document.title());
+        return succeed;
+    }
+    void activate(CDocument& document) override { activated.push_back(&document); }
+};
+
+struct Templates : testing::Test {
+    FakePlatform fake;
+    TestWindows windows;
+    bool nextSucceeds = true;
+    DocumentTemplate textures{{"Texture", ".tmf"},
+                              [this](DocumentTemplate& owner) {
+                                  auto document = std::make_unique<TestDocument>(&owner);
+                                  document->openSucceeds = document->newSucceeds = nextSucceeds;
+                                  return document;
+                              },
+                              windows};
+};
+
+TEST_F(Templates, OpenDocumentIsFoundByAnySpellingOfItsPath) {
+    CDocument* sky = textures.openDocument("tex\\Sky.tmf");
+    ASSERT_NE(sky, nullptr);
+    EXPECT_THAT(windows.opened, ElementsAre("Sky.tmf"));
+    for (const char* path :
+         {"c:\\tex\\Sky.tmf", "C:\\TEX\\SKY.TMF", "tex/sky.tmf", "c:\\tex\\..\\tex\\.\\sky.tmf"})
+        EXPECT_EQ(textures.findDocument(path), sky) << path;
+    for (const char* path : {"c:\\sky.tmf", "Sky.tmf", "c:\\tex\\Sky.tm", ""})
+        EXPECT_EQ(textures.findDocument(path), nullptr) << path;
+}
+
+TEST_F(Templates, OpeningAnOpenFileActivatesItsWindow) {
+    CDocument* sky = textures.openDocument("c:\\tex\\sky.tmf");
+    EXPECT_EQ(textures.openDocument("C:/tex/SKY.tmf"), sky);
+    EXPECT_THAT(windows.activated, ElementsAre(sky));
+    EXPECT_EQ(windows.opened.size(), 1U);
+    EXPECT_THAT(textures.documents(), ElementsAre(sky));
+}
+
+TEST_F(Templates, FileThatCannotBeReadLeavesNoDocument) {
+    nextSucceeds = false;
+    EXPECT_EQ(textures.openDocument("c:\\tex\\sky.tmf"), nullptr);
+    EXPECT_THAT(windows.opened, IsEmpty());
+    EXPECT_THAT(textures.documents(), IsEmpty());
+}
+
+TEST_F(Templates, WindowThatCannotBeMadeLeavesNoDocument) {
+    windows.succeed = false;
+    EXPECT_EQ(textures.openDocument("c:\\tex\\sky.tmf"), nullptr);
+    EXPECT_EQ(textures.newDocument(), nullptr);
+    EXPECT_THAT(textures.documents(), IsEmpty());
+}
+
+TEST_F(Templates, AbandonedNewDocumentUsesUpNoNumber) {
+    textures.newDocument();
+    nextSucceeds = false;
+    textures.newDocument();
+    nextSucceeds = true;
+    textures.newDocument();
+    EXPECT_THAT(windows.opened, ElementsAre("Texture1", "Texture2"));
+    EXPECT_EQ(textures.findDocument(""), nullptr);
+}
+
+TEST_F(Templates, ClaimsFilesByTheLastExtensionOfTheirName) {
+    EXPECT_TRUE(textures.matches("c:\\tex\\sky.tmf"));
+    EXPECT_TRUE(textures.matches("/tex/sky.bmp.TMF"));
+    EXPECT_FALSE(textures.matches("c:\\tex\\sky.tmf.bmp"));
+    EXPECT_FALSE(textures.matches("c:\\old.tmf\\sky"));
+    EXPECT_FALSE(textures.matches("c:\\tex\\skytmf"));
+}
+
+} // namespace

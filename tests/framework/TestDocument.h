@@ -1,0 +1,47 @@
+#pragma once
+
+#include "framework/CDocument.h"
+#include "framework/DocumentTemplate.h"
+
+#include <string>
+#include <vector>
+
+namespace dyeworks {
+
+/// A document whose file operations do as they are told.
+class TestDocument : public CDocument {
+public:
+    using CDocument::CDocument;
+
+    bool openSucceeds = true;
+    bool newSucceeds = true;
+    bool saveSucceeds = true;
+    std::string chosenName = "c:\\tex\\chosen.tmf";
+    std::vector<std::string> saves;
+
+    bool onNewDocument() override { return CDocument::onNewDocument() && newSucceeds; }
+    bool onOpenDocument(const std::string& path) override {
+        return CDocument::onOpenDocument(path) && openSucceeds;
+    }
+    bool onSaveDocument(const std::string& path) override {
+        saves.push_back(path);
+        if (!saveSucceeds)
+            return false;
+        if (path.empty())
+            setPathName(chosenName);
+        setModified(false);
+        return true;
+    }
+};
+
+/// A view that remembers what it was told.
+class TestView : public DocumentView {
+public:
+    std::vector<int> hints;
+    int renames = 0;
+
+    void update(DocumentView* /*sender*/, int hint) override { hints.push_back(hint); }
+    void documentRenamed() override { ++renames; }
+};
+
+} // namespace dyeworks

@@ -1,0 +1,118 @@
+#include "framework/widgets/CommandActions.h"
+
+#include "framework/CommandRouter.h"
+#include "framework/CommandTable.h"
+#include "framework/widgets/CommandIcon.h"
+#include "framework/widgets/MenuBuilder.h"
+#include "platform/fake/FakePlatform.h"
+
+#include <QAbstractEventDispatcher>
+#include <QAction>
+#include <QApplication>
+#include <QImage>
+#include <QMenu>
+#include <QPalette>
+#include <gtest/gtest.h>
+
+#include <array>
+
+using namespace dyeworks;
+
+namespace {
+
+class Viewer : public CommandTarget {
+public:
+    Viewer() {
+        on(ID_ZOOM_X2, &Viewer::OnZoom, &Viewer::OnUpdateZoom);
+        on(ID_EDIT_UNDO, &Viewer::OnUndo, &Viewer::OnUpdateUndo);
+    }
+    int zooms = 0;
+    bool canUndo = false;
+
+private:
+    void OnZoom() { ++zooms; }
+    void OnUpdateZoom(CommandUi& ui) { ui.checked = zooms > 0; }
+    void OnUndo() { canUndo = false; }
+    void OnUpdateUndo(CommandUi& ui) {
+        ui.enabled = canUndo;
+        if (canUndo)
+            ui.text = "&Undo Line";
+    }
+};
+
+struct Actions : testing::Test {
+    FakePlatform fake;
+    Viewer viewer;
+    CommandRouter router{[this] { return std::vector<CommandTarget*>{&viewer}; }};
+    CommandActions actions{router};
+};
+
+TEST_F(Actions, CheckMarkFollowsTheStateAndNotTheClick) {
+    actions.refresh();
+    QAction& zoom = *actions.action(ID_ZOOM_X2);
+    EXPECT_FALSE(zoom.isChecked());
+    zoom.trigger();
+    EXPECT_TRUE(zoom.isChecked());
+    zoom.trigger(); // The click alone would take the mark away.
+    EXPECT_TRUE(zoom.isChecked());
+    EXPECT_EQ(viewer.zooms, 2);
+}
+
+TEST_F(Actions, StatesAreFreshWhenAMenuOpensAndWhenIdle) {
+    constexpr std::array kItems{MenuItem{ID_EDIT_UNDO}};
+    QMenu menu;
+    fillMenu(menu, kItems, actions);
+    QAction& undo = *actions.action(ID_EDIT_UNDO);
+    actions.refresh();
+    EXPECT_FALSE(undo.isEnabled());
+
+    viewer.canUndo = true;
+    Q_EMIT menu.aboutToShow();
+    EXPECT_TRUE(undo.isEnabled());
+    EXPECT_EQ(undo.text(), QStringLiteral("&Undo Line"));
+
+    viewer.canUndo = false;
+    Q_EMIT QAbstractEventDispatcher::instance()->aboutToBlock();
+    EXPECT_FALSE(undo.isEnabled());
+    EXPECT_EQ(undo.text(), QStringLiteral("&Undo"));
+}
+
+TEST_F(Actions, EveryShortcutOfTheTableIsUnderstood) {
+    for (const CommandRow& row : commandTable()) {
+        const QAction& action = *actions.action(row.id);
+        EXPECT_EQ(action.shortcuts().isEmpty(), row.shortcut[0] == '\0') << row.id;
+        for (const QKeySequence& keys : action.shortcuts())
+            EXPECT_FALSE(keys.isEmpty() || keys[0].key() == Qt::Key_unknown) << row.shortcut;
+    }
+    EXPECT_TRUE(actions.action(ID_ZOOM_IN)->shortcuts().contains(QKeySequence(QStringLiteral("Ctrl++"))));
+}
+
+TEST(CommandIcon, EveryIconOfTheTableIsDrawnInTheColoursOfThePalette) {
+    const QPalette before = QApplication::palette();
+    const QColor ink(10, 200, 30);
+    QPalette palette = before;
+    palette.setColor(QPalette::ButtonText, ink);
+    QApplication::setPalette(palette);
+    for (const CommandRow& row : commandTable()) {
+        const QIcon icon = commandIcon(QString::fromUtf8(row.icon));
+        EXPECT_EQ(icon.isNull(), row.icon[0] == '\0') << row.icon;
+        if (icon.isNull())
+            continue;
+        const QImage normal = icon.pixmap(QSize(48, 48)).toImage().convertToFormat(QImage::Format_ARGB32);
+        const QImage dimmed =
+            icon.pixmap(QSize(48, 48), QIcon::Disabled).toImage().convertToFormat(QImage::Format_ARGB32);
+        bool inked = false;
+        int mostAlpha = 0;
+        for (int y = 0; y < 48; ++y) {
+            for (int x = 0; x < 48; ++x) {
+                inked = inked || normal.pixelColor(x, y) == ink;
+                mostAlpha = std::max(mostAlpha, dimmed.pixelColor(x, y).alpha());
+            }
+        }
+        EXPECT_TRUE(inked) << row.icon;
+        EXPECT_NEAR(mostAlpha, 97, 2) << row.icon << " shines through itself";
+    }
+    QApplication::setPalette(before);
+}
+
+} // namespace
