@@ -53,9 +53,8 @@ public:
     bool addCopy(const TlutData& table);
     /// A file that is open already becomes current and is not read again.
     bool openPalette(const std::string& path);
-    /// Takes the palette unless its path is empty (false: the caller keeps it). A key that is taken gets
-    /// "_1",
-    /// "_2" and so on.
+    /// Takes the palette unless its path is empty (false: the caller keeps it). When its key is taken, it
+    /// gets the first free one with "_1", "_2" and so on behind it.
     bool add(std::unique_ptr<TextureLookupTable>&& palette);
 
     Map::iterator find(const PaletteKey& key);

@@ -11,7 +11,8 @@ namespace dyeworks {
 /// table may be missing; undoing to (redoing) a missing table changes nothing.
 class PaletteUndoRecord : public UndoRecord {
 public:
-    PaletteUndoRecord(const TlutData* before, const TlutData* after);
+    /// Copies both tables. Throws std::bad_alloc when there is no memory for one of them.
+    PaletteUndoRecord(const TlutData* beforeEdit, const TlutData* afterEdit);
 
     bool undo(void* target) override;
     bool redo(void* target) override;

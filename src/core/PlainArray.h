@@ -15,6 +15,13 @@ template <typename T>
         std::calloc(count == 0 ? 1 : count, sizeof(T))); // NOLINT(cppcoreguidelines-no-malloc)
 }
 
+/// `count` elements of undefined value, for a reader that is about to fill them; otherwise the same.
+template <typename T>
+[[nodiscard]] T* allocateUnfilledPlainArray(std::size_t count) noexcept {
+    return static_cast<T*>(
+        std::malloc(count == 0 ? 1 : count * sizeof(T))); // NOLINT(cppcoreguidelines-no-malloc)
+}
+
 template <typename T>
 void freePlainArray(T*& array) noexcept {
     std::free(array); // NOLINT(cppcoreguidelines-no-malloc)

@@ -53,15 +53,20 @@ public:
     bool toRgbQuad(std::int32_t index, std::uint8_t& blue, std::uint8_t& green, std::uint8_t& red,
                    std::uint8_t& reserved) const;
 
-    /// A description of all entries' display colours, or null (reported) when one of them has none.
+    /// A description of all entries' display colours, or null (reported) when one of them has none. It can
+    /// count to 65535: of a larger table it holds as many entries, from the first one on, as the low 16 bits
+    /// of the table's count say.
     [[nodiscard]] std::unique_ptr<LogPalette> newLogPalette() const;
     /// Makes `palette` show the entries' display colours.
     bool createPalette(DisplayPalette& palette) const;
 
-    /// Asks whether to save unsaved changes. True: the caller may go on.
+    /// Asks whether to save when the palette is modified or its history stands elsewhere than at the last
+    /// save. True: the caller may go on, the palette being saved or not to be saved.
     bool querySave();
 
-    /// Bracket every undoable edit: keep the table as it is, then record what became of it.
+    /// Bracket every undoable edit. `beginEdit` keeps the table as it is: false when there is no memory for
+    /// that. `commitEdit` records what became of it: false without a history, and when there is no memory for
+    /// the record, in which case the user has been asked whether to start the history anew.
     bool beginEdit();
     bool commitEdit();
 
@@ -72,18 +77,36 @@ public:
     /// Starts a new, empty history.
     void resetHistory();
 
+    /// Names the palette after its path: the last part without extension and without a leading "*". A path
+    /// of which nothing is left keeps the title.
+    void titleFromPath();
+
+    /// The form of `path` under which palettes are kept: a full path, while "*palette" names and an empty one
+    /// stay as they are.
+    [[nodiscard]] static std::string keyFor(const std::string& path);
+
+    /// Makes the record of an edit. Null or std::bad_alloc: there is no memory for it.
+    using RecordFactory = std::unique_ptr<UndoRecord> (*)(const TlutData* before, const TlutData* after);
+    void setRecordFactory(RecordFactory factory) { makeRecord_ = factory; }
+
     TlutData table;
-    std::string path;  ///< Full path of the file, or "*palette%d" as long as there is none.
+    std::string
+        path; ///< Path of the file, in a palette set a full one; "*palette%d" as long as there is none.
     std::string title; ///< Name shown to the user.
     bool modified = false;
     std::unique_ptr<UndoHistory> history;
     std::unique_ptr<TlutData> snapshot; ///< The table at `beginEdit`.
 
 private:
+    bool changed(bool result);
     [[nodiscard]] bool standsAtSavedPosition() const;
-    void titleFromPath();
+    void markSaved();
+    void historyMoved();
+    [[nodiscard]] std::unique_ptr<UndoRecord> newRecord() const;
 
     std::int32_t savedPosition_ = 0; ///< History position that the file holds; -1 when none can be reached.
+    bool openedOverHistory_ = false; ///< The edits in the history are of a table that `open` replaced.
+    RecordFactory makeRecord_;
 };
 
 } // namespace dyeworks

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 
 namespace dyeworks {
@@ -21,6 +23,8 @@ struct TmfImage {
     /// An image of zeroes. False, leaving the record all zero, unless both sides are 0 to 65536, `bits` is
     /// 4, 8, 16, 24 or 32 and there is memory for the block (at most 1 GiB).
     bool create(std::int32_t width, std::int32_t height, std::int32_t bits);
+    /// The same with texels of undefined value, for a reader that fills the whole block.
+    bool createUnfilled(std::int32_t width, std::int32_t height, std::int32_t bits);
     void clear();
 
     /// (0, 0) is the top-left texel. 0 outside the image.
@@ -34,14 +38,25 @@ struct TmfImage {
     /// Writes a TMF file (4 or 8 bits a texel). Failures are the caller's to report.
     [[nodiscard]] bool saveTmf(const std::string& path) const;
 
-    /// Bytes from one row of the block to the next, and in the whole block.
+    /// Bytes from one row of the block to the next; 0 for a width or depth that no image has.
     [[nodiscard]] std::int64_t stride() const;
-    [[nodiscard]] std::int64_t blockSize() const { return stride() * height; }
+    /// Bytes in the whole block; 0 when `create` would refuse an image of these fields.
+    [[nodiscard]] std::int64_t blockSize() const;
+
+    /// Whether there is a block, of an image that `create` would make. A plug-in's record may hold anything.
+    [[nodiscard]] bool holdsTexels() const;
+    /// The block's bytes; none unless `holdsTexels`.
+    [[nodiscard]] std::span<std::byte> block();
+    [[nodiscard]] std::span<const std::byte> block() const;
 
     std::int32_t width = 0;
     std::int32_t height = 0;
     std::int32_t bits = 0;
     std::uint8_t* texels = nullptr; ///< The block, owned.
+
+private:
+    using Allocate = std::uint8_t* (*)(std::size_t size);
+    bool createWith(Allocate allocate, std::int32_t newWidth, std::int32_t newHeight, std::int32_t newBits);
 };
 
 } // namespace dyeworks

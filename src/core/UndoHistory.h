@@ -62,6 +62,9 @@ public:
     [[nodiscard]] std::int32_t position() const noexcept;
 
 private:
+    void deleteRedoBranch();
+    void dropFirst();
+
     UndoRecord* first_ = nullptr;
     UndoRecord* last_ = nullptr;
     UndoRecord* current_ = nullptr;

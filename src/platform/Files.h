@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -30,6 +31,19 @@ std::string describe(FileError error);
 struct FileEntry {
     std::string name; ///< Without folder.
     bool directory = false;
+};
+
+/// A file that is open for reading, for readers that want to put its bytes where they belong instead of
+/// taking a copy of the whole.
+class FileReader {
+public:
+    virtual ~FileReader() = default;
+
+    /// Bytes in the file when it was opened.
+    [[nodiscard]] virtual std::uint64_t size() const = 0;
+
+    /// Reads on until `room` is full or the file ends or cannot be read further; how many bytes came.
+    [[nodiscard]] virtual std::size_t read(std::span<std::byte> room) = 0;
 };
 
 /// The file system. Paths are UTF-8 with "\" between their parts; "/" is accepted and means the same. A
@@ -58,6 +72,10 @@ public:
 
     /// The whole file.
     [[nodiscard]] virtual Result<ByteBuffer, FileError> read(const std::string& path) const = 0;
+
+    /// The file, to be read from its first byte on.
+    [[nodiscard]] virtual Result<std::unique_ptr<FileReader>, FileError>
+    openForReading(const std::string& path) const = 0;
 
     /// Replaces the file by `bytes` in one step, or leaves it exactly as it was: the bytes go to a temporary
     /// file beside it, are flushed to the disk and renamed over it. Permissions survive, and a symbolic

@@ -96,6 +96,12 @@ Result<ByteBuffer, FileError> FakeFiles::read(const std::string& path) const {
     return PosixFiles::read(path);
 }
 
+Result<std::unique_ptr<FileReader>, FileError> FakeFiles::openForReading(const std::string& path) const {
+    if (const std::optional<FileError> error = takeFailure(readFailures_))
+        return *error;
+    return PosixFiles::openForReading(path);
+}
+
 std::optional<FileError> FakeFiles::write(const std::string& path, std::span<const std::byte> bytes) {
     std::optional<FileError> error = takeFailure(writeFailures_);
     if (!error)

@@ -53,6 +53,8 @@ public:
     void setProgramFolder(const std::string& path) { programFolder_ = path; }
 
     [[nodiscard]] Result<ByteBuffer, FileError> read(const std::string& path) const override;
+    [[nodiscard]] Result<std::unique_ptr<FileReader>, FileError>
+    openForReading(const std::string& path) const override;
     [[nodiscard]] std::optional<FileError> write(const std::string& path,
                                                  std::span<const std::byte> bytes) override;
     [[nodiscard]] std::string programFolder() const override { return programFolder_; }

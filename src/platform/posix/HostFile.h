@@ -3,6 +3,7 @@
 #include "platform/Files.h"
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -14,6 +15,9 @@ FileError fileErrorFrom(int errorNumber);
 
 /// The whole of a regular file. `path` is a host path.
 Result<ByteBuffer, FileError> readHostFile(const std::string& path);
+
+/// A regular file, open at its start. `path` is a host path.
+Result<std::unique_ptr<FileReader>, FileError> openHostFile(const std::string& path);
 
 /// Replaces the file in one step or leaves it as it was. `path` is a host path; symbolic links are followed
 /// and stay. Devices and pipes are written into, since there is nothing beside them to put in their place.

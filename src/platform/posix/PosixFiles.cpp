@@ -163,6 +163,13 @@ Result<ByteBuffer, FileError> PosixFiles::read(const std::string& path) const {
     return readHostFile(host);
 }
 
+Result<std::unique_ptr<FileReader>, FileError> PosixFiles::openForReading(const std::string& path) const {
+    const std::string host = hostPath(path);
+    if (host.empty())
+        return FileError::NotFound;
+    return openHostFile(host);
+}
+
 std::optional<FileError> PosixFiles::write(const std::string& path, std::span<const std::byte> bytes) {
     const std::string host = hostPath(path);
     if (host.empty())

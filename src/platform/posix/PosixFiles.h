@@ -28,6 +28,8 @@ public:
     [[nodiscard]] bool isDirectory(const std::string& path) const override;
     [[nodiscard]] std::vector<FileEntry> enumerate(const std::string& pattern) const override;
     [[nodiscard]] Result<ByteBuffer, FileError> read(const std::string& path) const override;
+    [[nodiscard]] Result<std::unique_ptr<FileReader>, FileError>
+    openForReading(const std::string& path) const override;
     [[nodiscard]] std::optional<FileError> write(const std::string& path,
                                                  std::span<const std::byte> bytes) override;
     [[nodiscard]] std::string programFolder() const override;

@@ -9,6 +9,7 @@
 #include <new>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace dyeworks {
@@ -68,11 +69,15 @@ Result<ByteBuffer, FileError> readAll(int descriptor, std::size_t size) {
     return buffer;
 }
 
-} // namespace
+/// The file, known to be a regular one, and its size.
+struct RegularFile {
+    Descriptor descriptor;
+    std::size_t size = 0;
+};
 
-Result<ByteBuffer, FileError> readHostFile(const std::string& path) {
+Result<RegularFile, FileError> openRegularFile(const std::string& path) {
     // Without O_NONBLOCK a pipe that nobody writes to would keep the program waiting in open.
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     if (!file.valid())
         return fileErrorFrom(errno);
     struct stat status {};
@@ -85,11 +90,41 @@ Result<ByteBuffer, FileError> readHostFile(const std::string& path) {
         return FileError::Other;
     if (static_cast<std::uintmax_t>(status.st_size) > PTRDIFF_MAX)
         return FileError::TooLarge;
+    return RegularFile{std::move(file), static_cast<std::size_t>(status.st_size)};
+}
+
+class PosixFileReader final : public FileReader {
+public:
+    explicit PosixFileReader(RegularFile file) noexcept
+        : file_(std::move(file)) {}
+
+    [[nodiscard]] std::uint64_t size() const override { return file_.size; }
+    [[nodiscard]] std::size_t read(std::span<std::byte> room) override {
+        return static_cast<std::size_t>(std::max<ssize_t>(readInto(file_.descriptor.get(), room), 0));
+    }
+
+private:
+    RegularFile file_;
+};
+
+} // namespace
+
+Result<ByteBuffer, FileError> readHostFile(const std::string& path) {
+    const Result<RegularFile, FileError> file = openRegularFile(path);
+    if (!file)
+        return file.error();
     try {
-        return readAll(file.get(), static_cast<std::size_t>(status.st_size));
+        return readAll(file.value().descriptor.get(), file.value().size);
     } catch (const std::bad_alloc&) {
         return FileError::TooLarge;
     }
+}
+
+Result<std::unique_ptr<FileReader>, FileError> openHostFile(const std::string& path) {
+    Result<RegularFile, FileError> file = openRegularFile(path);
+    if (!file)
+        return file.error();
+    return std::unique_ptr<FileReader>(std::make_unique<PosixFileReader>(std::move(file).value()));
 }
 
 } // namespace dyeworks

@@ -1,0 +1,225 @@
+#include "core/PaletteSet.h"
+
+#include "platform/Platform.h"
+
+#include <iterator>
+#include <utility>
+
+namespace dyeworks {
+
+namespace {
+
+PaletteSet* applicationSet = nullptr;
+
+} // namespace
+
+PaletteSet::PaletteSet(PaletteSetListener* listener)
+    : listener_(listener) {}
+
+PaletteSet::~PaletteSet() {
+    if (applicationSet == this)
+        applicationSet = nullptr;
+}
+
+bool PaletteSet::newPalette(std::int32_t count, ColourType colourType, std::int32_t alpha) {
+    auto palette = std::make_unique<TextureLookupTable>();
+    if (!palette->create(count, colourType))
+        return false;
+    for (std::int32_t i = 0; i < count; ++i)
+        palette->table.setAlpha(i, alpha);
+    return add(std::move(palette));
+}
+
+bool PaletteSet::addCopy(const TlutData& table) {
+    auto palette = std::make_unique<TextureLookupTable>();
+    if (!palette->create(table.count, table.colourType))
+        return false;
+    palette->table.copyEntriesFrom(table);
+    return add(std::move(palette));
+}
+
+bool PaletteSet::openPalette(const std::string& path) {
+    const std::string full = platform().files().fullPath(path);
+    if (palettes.contains(full)) {
+        currentKey = full;
+        refreshViews();
+        return true;
+    }
+    auto palette = std::make_unique<TextureLookupTable>();
+    return palette->open(full.c_str()) && add(std::move(palette));
+}
+
+bool PaletteSet::add(std::unique_ptr<TextureLookupTable>&& palette) {
+    if (!palette || palette->path.empty())
+        return false;
+    currentKey = insertUnderFreeKey(std::move(palette))->first;
+    refreshViews();
+    return true;
+}
+
+PaletteSet::Map::iterator PaletteSet::find(const PaletteKey& key) {
+    std::string& value = key.value();
+    value = TextureLookupTable::keyFor(value.empty() ? currentKey : value);
+    return palettes.find(value);
+}
+
+TextureLookupTable* PaletteSet::lookup(const PaletteKey& key) {
+    const auto position = find(key);
+    return position == palettes.end() ? nullptr : position->second.get();
+}
+
+bool PaletteSet::rekey(const PaletteKey& key, bool refresh) {
+    const auto position = find(key);
+    if (position == palettes.end())
+        return false;
+    const std::string wanted = TextureLookupTable::keyFor(position->second->path);
+    if (wanted.empty() || wanted == position->first) {
+        position->second->path = position->first;
+        return false;
+    }
+
+    auto palette = std::move(position->second);
+    palettes.erase(position);
+    const std::string& taken = insertUnderFreeKey(std::move(palette))->first;
+    key.value() = taken;
+    currentKey = taken;
+    if (refresh)
+        tabsChanged();
+    return taken == wanted;
+}
+
+bool PaletteSet::rekeyAll() {
+    // Keys move meanwhile, but never onto one that is still to come: its palette has not left it yet.
+    std::vector<std::string> keys;
+    listKeys(keys);
+    bool moved = false;
+    for (const std::string& key : keys) {
+        std::string after = key;
+        rekey(after, false);
+        moved = moved || after != key;
+    }
+    tabsChanged();
+    return moved;
+}
+
+bool PaletteSet::savePalette(const PaletteKey& key, bool refresh) {
+    TextureLookupTable* palette = lookup(key);
+    if (palette == nullptr) {
+        key.value() = currentKey;
+        palette = lookup(key);
+    }
+    if (palette == nullptr || !palette->save(key.value().c_str(), false))
+        return false;
+    if (refresh)
+        rekey(key, true);
+    return true;
+}
+
+bool PaletteSet::savePaletteAs(const PaletteKey& key, bool refresh) {
+    TextureLookupTable* const palette = lookup(key);
+    if (palette == nullptr || !palette->save(nullptr, true))
+        return false;
+    if (refresh)
+        rekey(key, true);
+    return true;
+}
+
+bool PaletteSet::queryClose(const PaletteKey& key, bool refresh) {
+    TextureLookupTable* const palette = lookup(key);
+    if (palette == nullptr || !palette->querySave())
+        return false;
+    if (refresh)
+        rekey(key, true);
+    return true;
+}
+
+bool PaletteSet::closePalette(const PaletteKey& key, bool refresh) {
+    const auto position = find(key);
+    if (position == palettes.end() || !position->second->querySave())
+        return false;
+    palettes.erase(position);
+    if (!palettes.contains(currentKey))
+        currentKey = palettes.empty() ? std::string() : palettes.begin()->first;
+    if (refresh)
+        refreshViews();
+    return true;
+}
+
+bool PaletteSet::queryCloseAll() {
+    std::vector<std::string> keys;
+    listKeys(keys);
+    bool agreed = true;
+    for (const std::string& key : keys) {
+        agreed = queryClose(key, false);
+        if (!agreed)
+            break;
+    }
+    rekeyAll();
+    return agreed;
+}
+
+void PaletteSet::setCurrent(const PaletteKey& key) {
+    if (selectCurrent(key))
+        tabsChanged();
+}
+
+bool PaletteSet::selectCurrent(const PaletteKey& key) {
+    const auto position = find(key);
+    if (position == palettes.end())
+        return false;
+    currentKey = position->first;
+    return true;
+}
+
+std::int32_t PaletteSet::listKeys(std::vector<std::string>& keys) const {
+    keys.clear();
+    keys.reserve(palettes.size());
+    for (const auto& [key, palette] : palettes)
+        keys.push_back(key);
+    return static_cast<std::int32_t>(keys.size());
+}
+
+bool PaletteSet::keyAt(std::int32_t index, std::string& key) const {
+    if (index < 0 || static_cast<std::size_t>(index) >= palettes.size())
+        return false;
+    key = std::next(palettes.begin(), index)->first;
+    return true;
+}
+
+bool PaletteSet::getTitle(const PaletteKey& key, std::string& title) {
+    const TextureLookupTable* const palette = lookup(key);
+    title = palette == nullptr ? std::string() : palette->title;
+    return palette != nullptr;
+}
+
+void PaletteSet::refreshViews() {
+    if (listener_ == nullptr)
+        return;
+    listener_->tabsChanged();
+    listener_->currentPaletteChanged();
+}
+
+PaletteSet::Map::iterator PaletteSet::insertUnderFreeKey(std::unique_ptr<TextureLookupTable> palette) {
+    const std::string base = TextureLookupTable::keyFor(palette->path);
+    std::string key = base;
+    for (std::int32_t n = 1; palettes.contains(key); ++n)
+        key = base + "_" + std::to_string(n);
+    palette->path = key;
+    palette->titleFromPath();
+    return palettes.emplace(key, std::move(palette)).first;
+}
+
+void PaletteSet::tabsChanged() {
+    if (listener_ != nullptr)
+        listener_->tabsChanged();
+}
+
+PaletteSet* applicationPaletteSet() {
+    return applicationSet;
+}
+
+void setApplicationPaletteSet(PaletteSet* set) {
+    applicationSet = set;
+}
+
+} // namespace dyeworks

@@ -1,0 +1,328 @@
+#include "core/TextureLookupTable.h"
+
+#include "core/PaletteSet.h"
+#include "core/PaletteUndoRecord.h"
+#include "core/Report.h"
+#include "platform/Platform.h"
+
+#include <new>
+#include <utility>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr std::int32_t kUnreachable = -1;
+constexpr const char* kModifiedMark = " * ";
+constexpr const char* kFilter = "TLF Files (*.tlf)|*.tlf|All Files (*.*)|*.*||";
+constexpr const char* kExtension = ".tlf";
+
+/// Numbers the palettes that were created in this run.
+std::uint32_t namingCounter = 0;
+
+bool isUnsavedName(const std::string& path) {
+    return !path.empty() && path.front() == '*';
+}
+
+FileDialogRequest dialogRequest(std::string initialName) {
+    FileDialogRequest request;
+    request.filter = kFilter;
+    request.defaultExtension = kExtension;
+    request.initialName = std::move(initialName);
+    request.hideReadOnly = true;
+    request.overwritePrompt = true;
+    return request;
+}
+
+std::unique_ptr<UndoRecord> makePaletteRecord(const TlutData* before, const TlutData* after) {
+    return std::make_unique<PaletteUndoRecord>(before, after);
+}
+
+std::uint8_t widened(std::uint8_t fiveBits) {
+    return static_cast<std::uint8_t>(fiveBits << 3);
+}
+
+} // namespace
+
+TextureLookupTable::TextureLookupTable()
+    : history(std::make_unique<UndoHistory>())
+    , makeRecord_(makePaletteRecord) {}
+
+TextureLookupTable::TextureLookupTable(const TextureLookupTable& other)
+    : table(other.table)
+    , path(other.path)
+    , title(other.title)
+    , modified(other.modified)
+    , history(std::make_unique<UndoHistory>())
+    , savedPosition_(other.standsAtSavedPosition() ? history->position() : kUnreachable)
+    , makeRecord_(other.makeRecord_) {}
+
+TextureLookupTable::TextureLookupTable(const TlutData& source)
+    : table(source)
+    , history(std::make_unique<UndoHistory>())
+    , makeRecord_(makePaletteRecord) {}
+
+TextureLookupTable::~TextureLookupTable() = default;
+
+bool TextureLookupTable::create(std::int32_t count, ColourType colourType) {
+    const std::string number = std::to_string(static_cast<std::int32_t>(namingCounter));
+    title = "palette" + number;
+    path = "*palette" + number;
+    if (!table.create(count, colourType)) {
+        reportTlf("TextureLookupTable::create(" + std::to_string(count) + ", " +
+                  std::to_string(static_cast<std::int32_t>(colourType)) + ") ... failed.\n");
+        return false;
+    }
+    ++namingCounter;
+    return true;
+}
+
+bool TextureLookupTable::save(const char* name, bool forceDialog) {
+    const std::string target = name == nullptr ? "" : name;
+    if (!target.empty() && !isUnsavedName(target)) {
+        path = target;
+    } else if (forceDialog || path.empty() || isUnsavedName(path)) {
+        const auto chosen =
+            platform().fileDialogs().save(dialogRequest(isUnsavedName(path) ? path.substr(1) : path));
+        if (!chosen)
+            return false;
+        path = *chosen;
+    }
+    if (!table.saveTlf(path))
+        return false;
+    titleFromPath();
+    modified = false;
+    markSaved();
+    return true;
+}
+
+bool TextureLookupTable::open(const char* name) {
+    if (modified)
+        return false;
+    const std::string source = name == nullptr ? "" : name;
+    if (!source.empty()) {
+        path = source;
+    } else if (path.empty()) {
+        auto request = dialogRequest(title);
+        request.fileMustExist = true;
+        const auto chosen = platform().fileDialogs().open(request);
+        if (!chosen)
+            return false;
+        path = *chosen;
+    }
+    if (!table.readTlf(path))
+        return false;
+    titleFromPath();
+    markSaved();
+    openedOverHistory_ = history && history->count() > 0;
+    updateTitle();
+    return true;
+}
+
+bool TextureLookupTable::setRed(std::int32_t index, std::int32_t value) {
+    return changed(table.setRed(index, value));
+}
+
+bool TextureLookupTable::setGreen(std::int32_t index, std::int32_t value) {
+    return changed(table.setGreen(index, value));
+}
+
+bool TextureLookupTable::setBlue(std::int32_t index, std::int32_t value) {
+    return changed(table.setBlue(index, value));
+}
+
+bool TextureLookupTable::setIntensity(std::int32_t index, std::int32_t value) {
+    return changed(table.setIntensity(index, value));
+}
+
+bool TextureLookupTable::setAlpha(std::int32_t index, std::int32_t value) {
+    return changed(table.setAlpha(index, value));
+}
+
+bool TextureLookupTable::setEntry(std::int32_t index, std::uint16_t entry) {
+    return changed(table.setEntry(index, entry));
+}
+
+bool TextureLookupTable::setEntryAlias(std::int32_t index, std::uint16_t entry) {
+    return changed(table.setEntry(index, entry));
+}
+
+void TextureLookupTable::updateTitle() {
+    const std::string base = title.substr(0, title.find(kModifiedMark));
+    const bool clean = history && !canUndo();
+    if (clean && modified) {
+        modified = false;
+        title = base;
+    } else if (!clean && !modified) {
+        modified = true;
+        title = base + kModifiedMark;
+    }
+}
+
+bool TextureLookupTable::toPaletteEntry(std::int32_t index, std::uint8_t& red, std::uint8_t& green,
+                                        std::uint8_t& blue, std::uint8_t& flags) const {
+    if (table.entries == nullptr || index < 0 || index >= table.count)
+        return false;
+    const PaletteSet* const set = applicationPaletteSet();
+    const bool showAlpha = set != nullptr && set->alphaView != 0;
+    switch (table.colourType) {
+    case ColourType::Rgba:
+        if (showAlpha) {
+            red = green = blue = table.getAlpha(index) != 0 ? 255 : 0;
+        } else {
+            red = widened(table.getRed(index));
+            green = widened(table.getGreen(index));
+            blue = widened(table.getBlue(index));
+        }
+        break;
+    case ColourType::Ia:
+        red = green = blue = showAlpha ? table.getAlpha(index) : table.getIntensity(index);
+        break;
+    default:
+        return false;
+    }
+    flags = 0;
+    return true;
+}
+
+bool TextureLookupTable::toRgbQuad(std::int32_t index, std::uint8_t& blue, std::uint8_t& green,
+                                   std::uint8_t& red, std::uint8_t& reserved) const {
+    return toPaletteEntry(index, red, green, blue, reserved);
+}
+
+std::unique_ptr<LogPalette> TextureLookupTable::newLogPalette() const {
+    auto description = std::make_unique<LogPalette>();
+    description->entryCount = static_cast<std::uint16_t>(table.count & 0xFFFF);
+    description->entries.reserve(description->entryCount);
+    for (std::int32_t i = 0; i < table.count; ++i) {
+        PaletteEntry entry;
+        if (!toPaletteEntry(i, entry.red, entry.green, entry.blue, entry.flags)) {
+            reportTlf("TextureLookupTable::newLogPalette() ... !!!Error!!!\n");
+            return nullptr;
+        }
+        if (i < description->entryCount)
+            description->entries.push_back(entry);
+    }
+    return description;
+}
+
+bool TextureLookupTable::createPalette(DisplayPalette& palette) const {
+    const auto description = newLogPalette();
+    return description && palette.create(*description);
+}
+
+bool TextureLookupTable::querySave() {
+    if (!modified && standsAtSavedPosition())
+        return true;
+    switch (
+        applicationMessage("\"" + title + "\" (TLF) is modified. save now?", MessageButtons::YesNoCancel)) {
+    case MessageAnswer::Yes:
+        return save(nullptr, false);
+    case MessageAnswer::No:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool TextureLookupTable::beginEdit() {
+    snapshot.reset();
+    try {
+        snapshot = std::make_unique<TlutData>(table);
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+    if (snapshot->entries == nullptr)
+        snapshot.reset();
+    return snapshot != nullptr;
+}
+
+bool TextureLookupTable::commitEdit() {
+    if (!history)
+        return false;
+    if (auto record = newRecord())
+        return history->add(std::move(record), -1);
+
+    // The table is no longer what its position in the history stands for.
+    savedPosition_ = kUnreachable;
+    if (applicationMessage("Could not allocate buffer for UNDO information.\nDo you clear all UNDO buffer?",
+                           MessageButtons::YesNo) == MessageAnswer::Yes)
+        resetHistory();
+    return false;
+}
+
+bool TextureLookupTable::undo() {
+    if (!history || !history->undo(&table))
+        return false;
+    historyMoved();
+    return true;
+}
+
+bool TextureLookupTable::redo() {
+    if (!history || !history->redo(&table))
+        return false;
+    historyMoved();
+    return true;
+}
+
+bool TextureLookupTable::canUndo() const {
+    return history && history->currentRecord() != nullptr;
+}
+
+bool TextureLookupTable::canRedo() const {
+    return history && history->redoRecord() != nullptr;
+}
+
+void TextureLookupTable::resetHistory() {
+    const bool saved = standsAtSavedPosition();
+    history = std::make_unique<UndoHistory>();
+    savedPosition_ = saved ? history->position() : kUnreachable;
+    openedOverHistory_ = false;
+}
+
+void TextureLookupTable::titleFromPath() {
+    std::string rest = path;
+    if (const auto separator = rest.rfind('\\'); separator != std::string::npos && separator != 0)
+        rest.erase(0, separator + 1);
+    if (const auto stop = rest.rfind('.'); stop != std::string::npos && stop != 0)
+        rest.erase(stop);
+    if (rest.empty())
+        return;
+    title = isUnsavedName(rest) ? rest.substr(1) : rest;
+}
+
+std::string TextureLookupTable::keyFor(const std::string& path) {
+    return path.empty() || isUnsavedName(path) ? path : platform().files().fullPath(path);
+}
+
+bool TextureLookupTable::changed(bool result) {
+    if (result)
+        modified = true;
+    return result;
+}
+
+bool TextureLookupTable::standsAtSavedPosition() const {
+    return !history || history->position() == savedPosition_;
+}
+
+void TextureLookupTable::markSaved() {
+    savedPosition_ = history ? history->position() : 0;
+    openedOverHistory_ = false;
+}
+
+void TextureLookupTable::historyMoved() {
+    // Undoing restores the table before the file was read, so no edit leads back to what the file holds.
+    if (openedOverHistory_)
+        savedPosition_ = kUnreachable;
+    updateTitle();
+}
+
+std::unique_ptr<UndoRecord> TextureLookupTable::newRecord() const {
+    try {
+        return makeRecord_(snapshot.get(), &table);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
+} // namespace dyeworks

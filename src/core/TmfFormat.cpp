@@ -1,0 +1,149 @@
+#include "core/TmfFormat.h"
+
+#include "core/ByteCursor.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <new>
+#include <utility>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr std::size_t kHeaderSize = 64;
+constexpr std::size_t kReservedSize = 48;
+constexpr std::uint32_t kTag4Bit = 0x00120200;
+constexpr std::uint32_t kTag8Bit = 0x00120300;
+
+/// How the rows of an image of 4 or 8 bits lie in a file. All figures are bytes.
+struct Layout {
+    std::size_t rows;
+    std::size_t rowSize; ///< Of one row in the packed form.
+    std::size_t stride;  ///< Of one row in memory and in the padded form.
+    std::size_t packedSize;
+
+    explicit Layout(const TmfImage& image)
+        : rows(static_cast<std::size_t>(image.height))
+        , rowSize((static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.bits) + 7) / 8)
+        , stride(static_cast<std::size_t>(image.stride()))
+        , packedSize((rowSize * rows + 3) / 4 * 4) {}
+};
+
+/// The low nibble behind the last texel of an odd row is no texel; in memory a plug-in may have used it.
+void clearUnusedNibbles(std::span<std::byte> body, const Layout& layout) {
+    for (std::size_t row = 1; row <= layout.rows; ++row)
+        body[row * layout.rowSize - 1] &= std::byte{0xF0};
+}
+
+/// Bytes of the rows that a header declares, without what pads the body; 0 for sides that no image has.
+std::uint64_t packedRowsOf(const TmfHeader& header) {
+    if (header.width < 0 || header.height < 0)
+        return 0;
+    const auto width = static_cast<std::uint64_t>(header.width);
+    return (width * static_cast<std::uint64_t>(header.bits) + 7) / 8 *
+           static_cast<std::uint64_t>(header.height);
+}
+
+/// Packed rows stand at the start of the block: moves each to its place, from the last one on, and clears
+/// what pads it.
+void spreadRows(std::span<std::byte> block, const Layout& layout) {
+    for (std::size_t row = layout.rows; row-- > 0;) {
+        std::byte* const start = block.data() + row * layout.stride;
+        std::memmove(start, block.data() + row * layout.rowSize, layout.rowSize);
+        std::memset(start + layout.rowSize, 0, layout.stride - layout.rowSize);
+    }
+}
+
+/// The image behind the header. `read` fills a span with the next bytes of the body, which holds `bodySize`,
+/// and answers how many came.
+template <typename Read>
+Result<TmfImage, TmfError> parseBody(const TmfHeader& header, std::uint64_t bodySize, Read read) {
+    TmfImage image;
+    // A header may declare a whole gigabyte with next to nothing behind it, and zeroes cost nothing until
+    // they are touched; a body that fills the block would only pay for them.
+    const bool enough = bodySize >= packedRowsOf(header);
+    if (!(enough ? image.createUnfilled(header.width, header.height, header.bits)
+                 : image.create(header.width, header.height, header.bits)))
+        return TmfError{TmfError::Kind::NoImage};
+
+    const Layout layout(image);
+    const std::span<std::byte> block = image.block();
+    const bool packed = bodySize == layout.packedSize && layout.rowSize != layout.stride;
+    const std::span<std::byte> room = packed ? block.first(layout.packedSize) : block;
+    const std::size_t came = read(room);
+    const std::span<std::byte> missing = packed ? room.subspan(came) : block.subspan(came);
+    if (enough)
+        std::fill(missing.begin(), missing.end(), std::byte{0});
+    if (packed)
+        spreadRows(block, layout);
+    return image;
+}
+
+} // namespace
+
+Result<TmfHeader, TmfError> parseTmfHeader(std::span<const std::byte> file) {
+    if (file.size() < kHeaderSize)
+        return TmfError{TmfError::Kind::ShortHeader};
+    ByteReader reader(file.first(kHeaderSize));
+    TmfHeader header;
+    header.tag = reader.be32();
+    header.width = reader.signed32();
+    header.height = reader.signed32();
+    header.bits = reader.signed32();
+    if (!(header.tag == kTag4Bit && header.bits == 4) && !(header.tag == kTag8Bit && header.bits == 8))
+        return TmfError{TmfError::Kind::ImproperTag, header.tag, header.bits};
+    return header;
+}
+
+Result<TmfImage, TmfError> parseTmf(std::span<const std::byte> file) {
+    const auto header = parseTmfHeader(file);
+    if (!header)
+        return header.error();
+    ByteReader body(file.subspan(kHeaderSize));
+    return parseBody(header.value(), body.left(), [&body](std::span<std::byte> room) {
+        const auto taken = body.take(room.size());
+        std::copy(taken.begin(), taken.end(), room.begin());
+        return taken.size();
+    });
+}
+
+Result<TmfImage, TmfError> parseTmf(FileReader& file) {
+    std::array<std::byte, kHeaderSize> start;
+    const auto header = parseTmfHeader(std::span(start).first(file.read(start)));
+    if (!header)
+        return header.error();
+    const std::uint64_t bodySize = file.size() - std::min<std::uint64_t>(file.size(), kHeaderSize);
+    return parseBody(header.value(), bodySize,
+                     [&file](std::span<std::byte> room) { return file.read(room); });
+}
+
+std::optional<ByteBuffer> serialiseTmf(const TmfImage& image) {
+    if ((image.bits != 4 && image.bits != 8) || !image.holdsTexels())
+        return std::nullopt;
+
+    const Layout layout(image);
+    try {
+        ByteBuffer file(kHeaderSize + layout.packedSize);
+        ByteWriter writer(file.bytes());
+        writer.be32(image.bits == 4 ? kTag4Bit : kTag8Bit);
+        writer.be32(static_cast<std::uint32_t>(image.width));
+        writer.be32(static_cast<std::uint32_t>(image.height));
+        writer.be32(static_cast<std::uint32_t>(image.bits));
+        writer.zeroes(kReservedSize);
+        ByteReader block(image.block());
+        for (std::size_t row = 0; row < layout.rows; ++row) {
+            const auto stored = block.take(layout.stride);
+            writer.copy(stored.first(layout.rowSize));
+        }
+        writer.zeroes(layout.packedSize - layout.rowSize * layout.rows);
+        if (image.bits == 4 && image.width % 2 != 0)
+            clearUnusedNibbles(file.bytes().subspan(kHeaderSize), layout);
+        return file;
+    } catch (const std::bad_alloc&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace dyeworks

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "core/TmfImage.h"
+#include "platform/ByteBuffer.h"
+#include "platform/Files.h"
+#include "platform/Result.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+
+namespace dyeworks {
+
+/// What the 64-byte, big-endian header of a TMF file declares. The sides are as they stand in the file.
+struct TmfHeader {
+    std::uint32_t tag = 0;
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+    std::int32_t bits = 0;
+};
+
+/// Why the bytes are no TMF file.
+struct TmfError {
+    enum class Kind {
+        ShortHeader, ///< Fewer than 64 bytes.
+        ImproperTag, ///< Unknown tag, or one of another depth than `bits`.
+        NoImage      ///< An image of these sides is refused, or there is no memory for it.
+    };
+    Kind kind = Kind::ShortHeader;
+    std::uint32_t tag = 0;
+    std::int32_t bits = 0;
+};
+
+/// The header of a 4-bit or 8-bit image; its sides are not checked.
+Result<TmfHeader, TmfError> parseTmfHeader(std::span<const std::byte> file);
+
+/// The image in a TMF file. A body of exactly the packed size holds rows without padding; any other body
+/// holds rows padded as in memory, where texels that the file lacks are 0 and excess bytes are ignored.
+Result<TmfImage, TmfError> parseTmf(std::span<const std::byte> file);
+/// The same from a file that is open at its start; the texels are read straight into the image.
+Result<TmfImage, TmfError> parseTmf(FileReader& file);
+
+/// The file that holds `image`: header, then packed rows from the bottom up, zeroes up to a multiple of 4
+/// bytes. Nothing for a depth other than 4 or 8 bits, for a record without texels or with sides that no
+/// image has, or when there is no memory.
+[[nodiscard]] std::optional<ByteBuffer> serialiseTmf(const TmfImage& image);
+
+} // namespace dyeworks

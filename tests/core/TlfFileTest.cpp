@@ -1,0 +1,111 @@
+#include "CoreTest.h"
+#include "core/TlutData.h"
+
+using namespace dyeworks;
+using namespace dyeworks::test;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+constexpr std::uint32_t kTag16 = 0x00200100;
+constexpr std::uint32_t kTag256 = 0x00200200;
+const std::string kPath = "c:\\sky.tlf";
+
+std::string file(std::uint32_t tag, std::uint32_t count, std::uint32_t colourType, int entries) {
+    std::string bytes = be32({tag, count, colourType}) + std::string(52, '\0');
+    for (int i = 0; i < entries; ++i)
+        bytes += {'\x12', static_cast<char>(i)};
+    return bytes;
+}
+
+struct TlfFile : testing::Test {
+    FakePlatform fake;
+    TlutData table;
+};
+using TlfReader = TlfFile;
+using TlfWriter = TlfFile;
+
+} // namespace
+
+TEST_F(TlfWriter, WritesHeaderAndEntriesHighByteFirst) {
+    for (const auto& [count, type, tag] : {std::tuple{16, 0U, kTag16}, {256, 1U, kTag256}}) {
+        ASSERT_TRUE(table.create(count, static_cast<ColourType>(type)));
+        for (int i = 0; i < count; ++i)
+            table.setEntry(i, static_cast<std::uint16_t>(0x1200 + i));
+        ASSERT_TRUE(table.saveTlf(kPath));
+        EXPECT_EQ(fake.files.textOf(kPath), file(tag, static_cast<std::uint32_t>(count), type, count));
+    }
+    EXPECT_THAT(fake.messages.shown, IsEmpty());
+    // No reader takes a file of this type, and it is written all the same.
+    ASSERT_TRUE(table.create(16, static_cast<ColourType>(2)));
+    EXPECT_TRUE(table.saveTlf(kPath));
+}
+
+TEST_F(TlfWriter, RefusesOtherCountsAndReportsWhateverFailsAsOpening) {
+    fake.files.putFile(kPath, "old");
+    ASSERT_TRUE(table.create(32, ColourType::Rgba));
+    EXPECT_FALSE(table.saveTlf(kPath));
+    TlutData hollow;
+    hollow.count = 16;
+    EXPECT_FALSE(hollow.saveTlf(kPath));
+    ASSERT_TRUE(table.create(16, ColourType::Rgba));
+    fake.files.failNextWrite(FileError::NoSpace);
+    EXPECT_FALSE(table.saveTlf(kPath));
+    EXPECT_EQ(fake.files.textOf(kPath), "old");
+    EXPECT_THAT(fake.messages.shown,
+                ElementsAre(Shows(report("[TLF]", "Illegal color number = 32.\n")),
+                            Shows(report("[TLF]", "Illegal color number = 0.\n")),
+                            Shows(report("[TLF]", "[" + kPath + "] file open failed.\n"))));
+}
+
+TEST_F(TlfReader, ReadsBothSizesAndIgnoresWhatIsReservedOrFollows) {
+    fake.files.putFile(kPath, file(kTag16, 16, 1, 16).replace(12, 52, 52, '\xFF') + "more");
+    ASSERT_TRUE(table.readTlf(kPath));
+    EXPECT_EQ(table.colourType, ColourType::Ia);
+    EXPECT_EQ(table.count, 16);
+    EXPECT_EQ(table.getEntry(15), 0x120F);
+    fake.files.putFile(kPath, file(kTag256, 256, 0, 256));
+    ASSERT_TRUE(table.readTlf(kPath));
+    EXPECT_EQ(table.colourType, ColourType::Rgba);
+    EXPECT_EQ(table.getEntry(255), 0x12FF);
+    EXPECT_THAT(fake.messages.shown, IsEmpty());
+}
+
+TEST_F(TlfReader, RefusalsSayWhyAndOnlyAShortBodyEmptiesTheRecord) {
+    const char *headerSize = "incorrect header size.\n", *headerInfo = "incorrect header information.\n";
+    const char* bodySize = "incorrect body size.\n";
+    const struct {
+        std::string file;
+        const char* why;
+        std::int32_t countAfter;
+    } cases[] = {
+        {"", headerSize, 3},
+        {file(kTag16, 16, 0, 0).substr(1), headerSize, 3},
+        {file(kTag16, 256, 0, 256), headerInfo, 3},
+        {file(kTag256, 16, 0, 256), headerInfo, 3},
+        {file(0, 0, 0, 256), headerInfo, 3},
+        {file(kTag16, 16, 2, 16), headerInfo, 3},
+        {file(kTag16, 16, 0, 0), bodySize, 0},
+        {file(kTag16, 16, 0, 16).substr(0, 95), bodySize, 0},
+        {file(kTag256, 256, 0, 100), bodySize, 0},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        fake.messages.shown.clear();
+        fake.files.putFile(kPath, c.file);
+        ASSERT_TRUE(table.create(3, ColourType::Ia));
+        EXPECT_FALSE(table.readTlf(kPath));
+        EXPECT_THAT(fake.messages.shown, ElementsAre(Shows(report("[TLF]", "[" + kPath + "] " + c.why))));
+        EXPECT_EQ(table.count, c.countAfter);
+        EXPECT_EQ(table.entries != nullptr, c.countAfter != 0);
+    }
+}
+
+TEST_F(TlfReader, MissingFileIsReportedUnderTheNameThatPeopleKnow) {
+    fake.files.showHostPaths(true);
+    ASSERT_TRUE(table.create(3, ColourType::Ia));
+    EXPECT_FALSE(table.readTlf(kPath));
+    EXPECT_EQ(fake.messages.lastText(), "[" + fake.files.hostPath(kPath) + "] file open failed.\n");
+    EXPECT_EQ(table.count, 3);
+}

@@ -1,0 +1,90 @@
+#include "core/UndoHistory.h"
+
+#include <gmock/gmock.h>
+
+#include <map>
+#include <random>
+#include <vector>
+
+using namespace dyeworks;
+
+namespace {
+
+int alive = 0;
+
+/// Sets an int to one value or the other.
+struct Assignment : UndoRecord {
+    Assignment(int undone, int done)
+        : before(undone)
+        , after(done) {
+        ++alive;
+    }
+    ~Assignment() override { --alive; }
+
+    bool undo(void* target) override { return *static_cast<int*>(target) = before, false; }
+    bool redo(void* target) override { return *static_cast<int*>(target) = after, false; }
+    std::unique_ptr<UndoRecord> inverse() const override { return nullptr; }
+
+    int before, after;
+};
+
+} // namespace
+
+TEST(UndoHistory, KeepsTheNewestHundredRecords) {
+    UndoHistory history;
+    for (int i = 0; i < 101; ++i)
+        ASSERT_TRUE(history.add(std::make_unique<Assignment>(i, i + 1), -1));
+    EXPECT_EQ(alive, 100);
+    int value = 101;
+    while (history.undo(&value)) {
+    }
+    EXPECT_EQ(value, 1);
+    EXPECT_EQ(history.position(), 1) << "the edit that was dropped is still in effect";
+    history.clear();
+    EXPECT_EQ(alive, 0);
+    EXPECT_EQ(history.position(), 0);
+}
+
+TEST(UndoHistory, GivenIdentifierIsKeptAndTheCounterStaysBehind) {
+    UndoHistory history;
+    EXPECT_FALSE(history.add(nullptr, 40));
+    history.add(std::make_unique<Assignment>(0, 1), 40);
+    EXPECT_EQ(history.currentRecord()->identifier, 40);
+    history.add(std::make_unique<Assignment>(1, 2), -1);
+    EXPECT_EQ(history.currentRecord()->identifier, 1);
+}
+
+// Every state has a value of its own; the model is the list of values and the place in it.
+TEST(UndoHistory, AgreesWithAListOfStatesOverRandomSteps) {
+    for (const std::size_t capacity : {1U, 2U, 5U}) {
+        std::mt19937 random(static_cast<unsigned>(capacity));
+        UndoHistory history(static_cast<std::int32_t>(capacity));
+        std::vector<int> states{0};
+        std::size_t at = 0;
+        int value = 0, newest = 0;
+        std::map<std::int32_t, int> valueAtPosition{{0, 0}};
+        for (int step = 0; step < 3000; ++step) {
+            if (const auto choice = random() % 3; choice == 0) {
+                states.resize(at + 1);
+                states.push_back(++newest);
+                ASSERT_TRUE(history.add(std::make_unique<Assignment>(value, newest), -1));
+                value = newest;
+                if (states.size() > capacity + 1)
+                    states.erase(states.begin());
+                at = states.size() - 1;
+            } else if (choice == 1) {
+                ASSERT_EQ(history.undo(&value), at > 0);
+                at -= at > 0 ? 1 : 0;
+            } else {
+                ASSERT_EQ(history.redo(&value), at + 1 < states.size());
+                at += at + 1 < states.size() ? 1 : 0;
+            }
+            ASSERT_EQ(value, states[at]);
+            ASSERT_EQ(history.count() + 1, static_cast<std::int32_t>(states.size()));
+            ASSERT_EQ(alive, history.count());
+            ASSERT_EQ(history.currentRecord() != nullptr, at > 0);
+            ASSERT_EQ(history.redoRecord() != nullptr, at + 1 < states.size());
+            ASSERT_EQ(valueAtPosition.try_emplace(history.position(), value).first->second, value);
+        }
+    }
+}
