@@ -1,0 +1,135 @@
+#include "Desktop.h"
+#include "platform/qt/PackedDib.h"
+
+#include <QBuffer>
+#include <QClipboard>
+#include <QImage>
+#include <QMimeData>
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+namespace dyeworks {
+
+namespace {
+
+using ClipboardTest = Desktop;
+using Bytes = std::vector<std::byte>;
+
+Bytes bytesOf(const QByteArray& array) {
+    const auto view = std::as_bytes(std::span(array.constData(), static_cast<std::size_t>(array.size())));
+    return {view.begin(), view.end()};
+}
+
+QByteArray arrayOf(const Bytes& bytes) {
+    return {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())};
+}
+
+void put(Bytes& bytes, std::size_t position, std::uint32_t value, std::size_t size = 4) {
+    for (std::size_t i = 0; i < size; ++i)
+        bytes[position + i] = static_cast<std::byte>(value >> 8 * i & 0xFFU);
+}
+
+/// One row of texels 1, 0 in `bits` each under a header of `headerSize` bytes, whose colour 1 is the
+/// blue-green-red 10, 20, 30.
+Bytes dibOf(std::uint32_t headerSize, std::uint32_t bits, std::uint32_t colours, std::uint32_t coloursUsed) {
+    const std::uint32_t entry = headerSize == 12 ? 3 : 4;
+    Bytes dib(headerSize + entry * colours + 4);
+    put(dib, 0, headerSize);
+    if (headerSize == 12) {
+        put(dib, 4, 2, 2);
+        put(dib, 6, 1, 2);
+        put(dib, 8, 1, 2);
+        put(dib, 10, bits, 2);
+    } else {
+        put(dib, 4, 2);
+        put(dib, 8, 1);
+        put(dib, 12, 1, 2);
+        put(dib, 14, bits, 2);
+        put(dib, 32, coloursUsed);
+    }
+    put(dib, headerSize + entry, 0x1E140A, 3);
+    const std::uint32_t texels = bits == 8 ? 0x0001 : bits == 4 ? 0x10 : 0x80;
+    put(dib, dib.size() - 4, texels);
+    return dib;
+}
+
+/// Header size, bits, colours in the table, colours that the header names.
+constexpr std::array<std::uint32_t, 4> kHeaders[] = {{40, 4, 16, 0},  {40, 8, 256, 0}, {40, 8, 256, 256},
+                                                     {40, 8, 5, 5},   {40, 1, 2, 0},   {12, 4, 16, 0},
+                                                     {124, 8, 256, 0}};
+
+} // namespace
+
+TEST(PackedDib, BecomesAFileThatOtherProgramsRead) {
+    for (const auto& [headerSize, bits, colours, used] : kHeaders) {
+        const Bytes dib = dibOf(headerSize, bits, colours, used);
+        const std::optional<Bytes> bmp = bmpFromDib(dib);
+        ASSERT_TRUE(bmp);
+        const QImage image = QImage::fromData(arrayOf(*bmp), "BMP");
+        ASSERT_EQ(image.size(), QSize(2, 1)) << headerSize << ' ' << bits;
+        EXPECT_EQ(image.pixel(0, 0), qRgb(30, 20, 10)) << headerSize << ' ' << bits;
+        EXPECT_EQ(image.pixel(1, 0), qRgb(0, 0, 0)) << headerSize << ' ' << bits;
+        EXPECT_EQ(dibFromBmp(*bmp), dib);
+    }
+}
+
+TEST(PackedDib, ComesOutOfAFileWithoutTheGapBeforeItsPixels) {
+    const Bytes dib = dibOf(40, 8, 256, 0);
+    Bytes bmp = bmpFromDib(dib).value();
+    bmp.insert(bmp.end() - 4, 2, std::byte{0xEE});
+    put(bmp, 10, 14 + 40 + 1024 + 2);
+    EXPECT_EQ(dibFromBmp(bmp), dib);
+}
+
+TEST(PackedDib, IsRefusedWhenCutOffOrOfNoKnownKind) {
+    const Bytes whole = bmpFromDib(dibOf(40, 8, 256, 0)).value();
+    for (const std::size_t size : {0U, 2U, 13U, 14U, 25U, 53U, 54U + 1023U})
+        EXPECT_EQ(dibFromBmp(std::span(whole).first(size)), std::nullopt) << size;
+    for (const std::uint32_t headerSize : {0U, 11U, 13U, 39U, 125U, 0xFFFFFFFFU}) {
+        Bytes dib = dibOf(40, 8, 256, 0);
+        put(dib, 0, headerSize);
+        EXPECT_EQ(bmpFromDib(dib), std::nullopt) << headerSize;
+    }
+    Bytes colours = dibOf(40, 8, 256, 0);
+    put(colours, 32, 0xFFFFFFFF);
+    EXPECT_EQ(bmpFromDib(colours), std::nullopt);
+}
+
+TEST_F(ClipboardTest, HandsABitmapToOthersAndBackUnchanged) {
+    Bytes dib = dibOf(40, 4, 16, 0);
+    put(dib, 24, 0xABCDEF);
+    ASSERT_TRUE(platform_.clipboard().setBitmap(dib));
+    const QByteArray offered = QApplication::clipboard()->mimeData()->data(QStringLiteral("image/bmp"));
+    EXPECT_EQ(bytesOf(offered.mid(14)), dib);
+    EXPECT_EQ(QApplication::clipboard()->image().pixel(0, 0), qRgb(30, 20, 10));
+    EXPECT_TRUE(platform_.clipboard().offers(ClipboardFormat::Bitmap));
+    EXPECT_EQ(platform_.clipboard().bitmap(), dib);
+
+    EXPECT_FALSE(platform_.clipboard().setBitmap(std::span(dib).first(20)));
+    EXPECT_EQ(platform_.clipboard().bitmap(), dib);
+}
+
+TEST_F(ClipboardTest, TakesThePictureOfAProgramThatOffersNoBmp) {
+    QImage picture(2, 1, QImage::Format_Indexed8);
+    picture.setColorTable({qRgb(1, 2, 3), qRgb(30, 20, 10)});
+    picture.setPixel(0, 0, 1);
+    picture.setPixel(1, 0, 0);
+    QApplication::clipboard()->setImage(picture);
+    EXPECT_TRUE(platform_.clipboard().offers(ClipboardFormat::Bitmap));
+    const std::optional<Bytes> dib = platform_.clipboard().bitmap();
+    ASSERT_TRUE(dib);
+    EXPECT_EQ(QImage::fromData(arrayOf(bmpFromDib(*dib).value()), "BMP").pixel(0, 0), qRgb(30, 20, 10));
+}
+
+TEST_F(ClipboardTest, OffersOnlyWhatItHolds) {
+    ASSERT_TRUE(platform_.clipboard().setText("空=1\nb=2"));
+    EXPECT_EQ(platform_.clipboard().text(), "空=1\nb=2");
+    EXPECT_FALSE(platform_.clipboard().offers(ClipboardFormat::Bitmap));
+    EXPECT_EQ(platform_.clipboard().bitmap(), std::nullopt);
+    QApplication::clipboard()->clear();
+    EXPECT_FALSE(platform_.clipboard().offers(ClipboardFormat::Text));
+    EXPECT_EQ(platform_.clipboard().text(), std::nullopt);
+}
+
+} // namespace dyeworks
