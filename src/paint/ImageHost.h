@@ -5,6 +5,7 @@
 
 namespace dyeworks {
 
+class CDyeworksDoc;
 class PaletteSet;
 
 /// What an image document and its views ask of the application.
@@ -17,7 +18,8 @@ public:
 
     /// Entry of the current palette that a 4-bit image's value 0 shows: 16 times the bank, or 0.
     [[nodiscard]] virtual std::int32_t paletteBarFirstEntry() const = 0;
-    /// The cell that is selected for drawing, counted from the palette's entry 0; negative when there is none.
+    /// The cell that is selected for drawing, counted from the palette's entry 0; negative when there is
+    /// none, as without a palette.
     [[nodiscard]] virtual std::int32_t paletteBarCell() const = 0;
     virtual void selectPaletteBarCell(std::int32_t cell) = 0;
     /// Shows the current palette anew.
@@ -25,6 +27,17 @@ public:
 
     /// Pane 1 is the pointer position, pane 2 the image's size and depth.
     virtual void setStatusText(const std::string& text, int pane) = 0;
+
+    /// Whether `document` is the one in the active window, whose bank the palette bar shows.
+    [[nodiscard]] virtual bool isActiveImage(const CDyeworksDoc& document) const = 0;
+
+    /// The document whose view was activated last, still remembered while another kind of window is active;
+    /// null before the first and after that document has ended.
+    [[nodiscard]] const CDyeworksDoc* lastActivatedImage() const noexcept { return lastActivated_; }
+    void setLastActivatedImage(const CDyeworksDoc* document) noexcept { lastActivated_ = document; }
+
+private:
+    const CDyeworksDoc* lastActivated_ = nullptr;
 };
 
 } // namespace dyeworks

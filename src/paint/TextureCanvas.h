@@ -2,6 +2,9 @@
 
 #include "core/TextureLookupTable.h"
 #include "core/TmfImage.h"
+#include "paint/BmpFormat.h"
+#include "paint/CanvasBlock.h"
+#include "paint/Range.h"
 #include "paint/Rect.h"
 #include "paint/Surface.h"
 
@@ -17,6 +20,9 @@ namespace dyeworks {
 /// header, colour table, bottom-up rows), so that it goes to the display, to disk and to the clipboard as it
 /// stands. (0, 0) is the top-left pixel. Every pixel written inside the canvas extends its changed rectangle;
 /// pixels outside are left alone.
+///
+/// `SetPixel` and `GetPixel` define what every primitive does. A canvas of exactly this class takes a faster
+/// way over whole runs of pixels, with the same result; a derived class sees each single pixel.
 class TextureCanvas {
 public:
     static constexpr std::int64_t kMaxBlockSize = std::int64_t{1} << 30;
@@ -37,6 +43,10 @@ public:
     /// memory; the canvas is then empty.
     virtual bool Create(std::int32_t width, std::int32_t height, std::uint16_t planes,
                         std::uint16_t bitsPerPixel);
+    /// Takes over a bitmap: size, planes, depth, resolution, colours and pixels. The canvas has its usual
+    /// layout afterwards, with a full colour table and bottom-up rows, whatever the bitmap's. False, leaving
+    /// the canvas empty, when the block cannot be had.
+    bool CreateFrom(const BmpImage& bitmap);
 
     // Shapes. Corners are inclusive and may come in any order.
     /// Bresenham's algorithm (1965), both ends drawn. The result is that of the last pixel.
@@ -135,8 +145,51 @@ public:
     [[nodiscard]] std::span<const std::uint8_t> pixelRows() const noexcept;
 
 private:
-    std::unique_ptr<std::byte[]> block_;
+    class PixelPen;
+    class SpanPen;
+
+    /// Whether nobody overrides the pixel access, so that runs of pixels may be written directly.
+    [[nodiscard]] bool isPlain() const noexcept;
+    /// Whether runs can go from this canvas to `other` without changing the order of reads and writes.
+    [[nodiscard]] bool sharesRunsWith(const TextureCanvas& other) const noexcept;
+
+    bool allocate(std::int32_t width, std::int32_t height, std::uint16_t planes, std::uint16_t bitsPerPixel,
+                  BlockContents contents);
+    void writeHeaders(std::uint32_t colourCount);
+    void copyColourTableFrom(const TextureCanvas& source);
+    /// Bytes of all pixel rows.
+    [[nodiscard]] std::size_t rowBytes() const noexcept;
+
+    [[nodiscard]] Range columns() const noexcept { return {0, std::int64_t{width_} - 1}; }
+    [[nodiscard]] Range rows() const noexcept { return {0, std::int64_t{height_} - 1}; }
+    [[nodiscard]] std::uint8_t* row(std::int64_t y) noexcept {
+        return reinterpret_cast<std::uint8_t*>(block_.get()) + pixelOffset_ +
+               (height_ - 1 - y) * std::int64_t{stride_};
+    }
+    [[nodiscard]] const std::uint8_t* row(std::int64_t y) const noexcept {
+        return const_cast<TextureCanvas*>(this)->row(y);
+    }
+    /// Whether one row's last pixel is followed by another's first.
+    [[nodiscard]] bool rowsHaveNoPadding() const noexcept {
+        return std::int64_t{width_} * bitsPerPixel_ == std::int64_t{stride_} * 8;
+    }
+    /// The bits of a value that a pixel keeps.
+    [[nodiscard]] std::uint32_t depthMask() const noexcept;
+
+    void extendChanged(Range columns, Range rows);
+    void markAllChanged();
+
+    void floodFillByPixels(std::int32_t x, std::int32_t y, std::uint32_t value, std::uint32_t target);
+    void floodFillByRuns(std::int32_t x, std::int32_t y, std::uint32_t value, std::uint32_t target);
+    void replaceByPixels(const Rect& area, std::uint32_t old, std::uint32_t value);
+    void replaceByRuns(const Rect& area, std::uint32_t old, std::uint32_t value);
+    void flipByPixels(const Rect& area, std::uint32_t flags);
+    void flipByRuns(const Rect& area, std::uint32_t flags);
+    void copyToByRuns(TextureCanvas& target, std::int32_t x, std::int32_t y) const;
+
+    CanvasBlock block_;
     std::size_t blockSize_ = 0;
+    std::size_t pixelOffset_ = 0; ///< Of the rows in the block.
     std::uint32_t stride_ = 0;
     std::int32_t width_ = 0;
     std::int32_t height_ = 0;

@@ -1,0 +1,203 @@
+#include "paint/CDyeworksDoc.h"
+
+#include "core/PaletteSet.h"
+#include "paint/CDyeworksView.h"
+#include "paint/CanvasFile.h"
+#include "platform/Platform.h"
+#include "platform/TextCase.h"
+
+#include <utility>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr const char* kModifiedMark = " * ";
+constexpr const char* kFilter = "Image Files (*.tmf)|*.tmf||";
+constexpr const char* kExtension = ".tmf";
+
+constexpr int kPositionPane = 1;
+constexpr int kSizePane = 2;
+
+/// Update hint: the image shows in other colours.
+constexpr int kHintColours = 1;
+
+FileDialogRequest saveRequest(const std::string& initialName) {
+    FileDialogRequest request;
+    request.filter = kFilter;
+    request.defaultExtension = kExtension;
+    request.initialName = initialName;
+    request.hideReadOnly = true;
+    request.overwritePrompt = true;
+    return request;
+}
+
+} // namespace
+
+CDyeworksDoc::CDyeworksDoc(ImageHost& host, DocumentTemplate* documentTemplate)
+    : CDocument(documentTemplate)
+    , host_(host)
+    , history_(std::make_unique<UndoHistory>())
+    , makeRecord_(&ImageUndoRecord::make) {
+    on(ID_IMAGE_ATTACH, &CDyeworksDoc::OnAttach, &CDyeworksDoc::OnUpdateAttach);
+}
+
+CDyeworksDoc::~CDyeworksDoc() {
+    if (host_.lastActivatedImage() == this)
+        host_.setLastActivatedImage(nullptr);
+}
+
+TextureLookupTable* CDyeworksDoc::GetAttachedPalette() const {
+    PaletteSet* const set = host_.paletteSet();
+    return attachedName_.empty() || set == nullptr ? nullptr : set->lookup(attachedName_);
+}
+
+void CDyeworksDoc::Attach() {
+    PaletteSet* const set = host_.paletteSet();
+    if (set == nullptr)
+        return;
+    // The empty key stands for the current palette, whose key comes back.
+    attachedName_.clear();
+    set->lookup(attachedName_);
+    UpdateTitle();
+    RefreshPalette();
+}
+
+void CDyeworksDoc::RefreshPalette() {
+    PaletteSet* const set = host_.paletteSet();
+    if (!attachedName_.empty() && set != nullptr) {
+        const TextureLookupTable* const palette = set->lookup(attachedName_);
+        if (palette == nullptr)
+            attachedName_.clear();
+        else if (attachedName_ == set->currentKey)
+            canvas_.ApplyPalette(*palette, firstEntryFor(*palette));
+        UpdateTitle();
+    }
+    updateAllViews(nullptr, kHintColours);
+    canvas_.ResetChangedRect();
+}
+
+void CDyeworksDoc::PaletteChanged(const std::string& name, const TextureLookupTable* palette) {
+    if (palette == nullptr)
+        return;
+    if (!attachedName_.empty() && equalIgnoringCase(name, attachedName_))
+        canvas_.ApplyPalette(*palette, firstEntryFor(*palette));
+    updateAllViews(nullptr, kHintColours);
+    canvas_.ResetChangedRect();
+}
+
+/// The palette bar shows the bank of the active image; any other image keeps to the one it was last given, as
+/// long as the palette reaches that far.
+std::int32_t CDyeworksDoc::firstEntryFor(const TextureLookupTable& palette) const {
+    if (host_.isActiveImage(*this))
+        return host_.paletteBarFirstEntry();
+    const auto colours = static_cast<std::int32_t>(canvas_.GetColorCount());
+    return paletteValue_ >= 0 && paletteValue_ <= palette.table.count - colours ? paletteValue_ : 0;
+}
+
+void CDyeworksDoc::UpdateTitle() {
+    baseName_ = nameWithoutParts();
+    std::string composed = baseName_;
+    if (IsAttached()) {
+        std::string palette;
+        host_.paletteSet()->getTitle(std::as_const(attachedName_), palette);
+        composed += " [" + palette + "]";
+    }
+    if (isModified())
+        composed += kModifiedMark;
+    composedTitle_ = composed;
+    setTitle(composed);
+}
+
+/// A title that is not the one composed here is a new name, given by the framework.
+const std::string& CDyeworksDoc::nameWithoutParts() const {
+    return title() == composedTitle_ ? baseName_ : title();
+}
+
+const DisplayPalette* CDyeworksDoc::GetDisplayPalette() {
+    PaletteSet* const set = host_.paletteSet();
+    const TextureLookupTable* const palette = set == nullptr ? nullptr : set->lookup("");
+    if (palette == nullptr)
+        return nullptr;
+    displayPalette_.release();
+    return palette->createPalette(displayPalette_) ? &displayPalette_ : nullptr;
+}
+
+Size CDyeworksDoc::SwatchGridSize() const {
+    switch (canvas_.bitsPerPixel()) {
+    case 0:
+        return {0, 0};
+    case 4:
+        return {4, 4};
+    default:
+        return {16, 16};
+    }
+}
+
+void CDyeworksDoc::setPathName(const std::string& path) {
+    CDocument::setPathName(path);
+    // Also when the file goes by the very title that was composed last.
+    baseName_ = title();
+    composedTitle_ = title();
+    UpdateTitle();
+}
+
+void CDyeworksDoc::setModified(bool modified) {
+    CDocument::setModified(modified);
+    UpdateTitle();
+}
+
+std::string CDyeworksDoc::displayName() const {
+    return pathName().empty() ? nameWithoutParts() : CDocument::displayName();
+}
+
+bool CDyeworksDoc::onOpenDocument(const std::string& path) {
+    if (!CDocument::onOpenDocument(path) || !canvas_.LoadTmf(path))
+        return false;
+    snapshot_.reset();
+    replaceHistory(0);
+    RefreshPalette();
+    return true;
+}
+
+bool CDyeworksDoc::onSaveDocument(const std::string& path) {
+    takeBackDrags();
+    std::string target = path;
+    if (target.empty()) {
+        const auto chosen =
+            platform().fileDialogs().save(saveRequest(pathName().empty() ? nameWithoutParts() : pathName()));
+        if (!chosen)
+            return false;
+        target = *chosen;
+    }
+    if (const std::optional<FileError> error = saveCanvas(canvas_, target)) {
+        applicationMessage(text(StringId::CannotSaveFile, {displayPath(target), describe(*error)}));
+        return false;
+    }
+    savedPosition_ = history_->position();
+    setModified(false);
+    if (path.empty())
+        setPathName(target);
+    return true;
+}
+
+void CDyeworksDoc::onCloseDocument() {
+    host_.setStatusText("", kPositionPane);
+    host_.setStatusText("", kSizePane);
+    CDocument::onCloseDocument();
+}
+
+bool CDyeworksDoc::hasUnsavedChanges() const {
+    return isModified() || history_->position() != savedPosition_;
+}
+
+void CDyeworksDoc::OnAttach() {
+    Attach();
+}
+
+void CDyeworksDoc::OnUpdateAttach(CommandUi& ui) {
+    PaletteSet* const set = host_.paletteSet();
+    ui.enabled = set != nullptr && !set->palettes.empty() && attachedName_ != set->currentKey;
+}
+
+} // namespace dyeworks

@@ -1,0 +1,149 @@
+#pragma once
+
+#include "core/UndoHistory.h"
+#include "framework/CDocument.h"
+#include "paint/ImageHost.h"
+#include "paint/ImageUndoRecord.h"
+#include "paint/Rect.h"
+#include "paint/TextureCanvas.h"
+#include "platform/DisplayPalette.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace dyeworks {
+
+class CDyeworksView;
+class TextureLookupTable;
+
+/// The document of an image: its canvas, the name of the palette that it is attached to, and the history of
+/// its edits. Rectangles are inclusive texels unless said otherwise.
+class CDyeworksDoc : public CDocument {
+public:
+    /// Cuts the pieces of an undo step; null when it cannot.
+    using RecordFactory = std::function<std::unique_ptr<ImageUndoRecord>(
+        const TextureCanvas& beforeEdit, const TextureCanvas& afterEdit, const Rect& rectangle)>;
+
+    /// `host` must outlive the document.
+    explicit CDyeworksDoc(ImageHost& host, DocumentTemplate* documentTemplate = nullptr);
+    ~CDyeworksDoc() override;
+
+    [[nodiscard]] ImageHost& host() const noexcept { return host_; }
+    [[nodiscard]] TextureCanvas& canvas() noexcept { return canvas_; }
+    [[nodiscard]] const TextureCanvas& canvas() const noexcept { return canvas_; }
+    [[nodiscard]] const UndoHistory& history() const noexcept { return *history_; }
+
+    // Edits. Each takes a snapshot, draws, records an undo step and refreshes the views; `view` is the one
+    // that caused it, or null. An edit that leaves every pixel as it was records no step. While the stroke
+    // flag is set they only draw and refresh `view`.
+    void Line(CDyeworksView* view, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
+              std::uint32_t value);
+    void Box(CDyeworksView* view, const Rect& rectangle, std::uint32_t value);
+    void FilledBox(CDyeworksView* view, const Rect& rectangle, std::uint32_t value);
+    void Ellipse(CDyeworksView* view, const Rect& rectangle, std::uint32_t value);
+    void FilledEllipse(CDyeworksView* view, const Rect& rectangle, std::uint32_t value);
+    void Fill(CDyeworksView* view, std::int32_t x, std::int32_t y, std::uint32_t value);
+    /// A rectangle of zeroes means the whole image.
+    void Replace(CDyeworksView* view, const Rect& rectangle, std::int32_t x, std::int32_t y,
+                 std::uint32_t value);
+    void Pixel(CDyeworksView* view, std::int32_t x, std::int32_t y, std::uint32_t value);
+    /// `flags` as in `TextureCanvas::Flip`.
+    void Flip(CDyeworksView* view, const Rect& rectangle, std::uint32_t flags);
+    /// Scales the piece into the rectangle (right and bottom exclusive).
+    void PlaceFloatingPiece(CDyeworksView* view, const TextureCanvas& piece, const Rect& rectangle);
+    /// Takes over the image's texels. False, changing nothing, unless size and depth are the document's.
+    bool SetImage(CDyeworksView* view, const TmfImage& image);
+
+    // What edits are made of.
+    /// Keeps a copy of the canvas as it is before an edit. False when there is no memory for it.
+    bool TakeSnapshot();
+    /// Records what became of `rectangle` (the canvas's changed rectangle when none is given) since the
+    /// snapshot. False when nothing changed and when the step could not be made, which the user has then been
+    /// told.
+    bool RecordUndoStep(const std::optional<Rect>& rectangle = std::nullopt);
+    /// Puts the canvas back to the snapshot, if anything was drawn since, and refreshes `view`.
+    void RestoreSnapshot(CDyeworksView* view);
+    /// While set, snapshots and undo steps are not taken and refreshes reach only the view that draws.
+    void SetStrokeFlag(bool stroke) noexcept { stroke_ = stroke; }
+    /// Shows the changed rectangle in `view` and all other views, brings modified flag and title in step with
+    /// the history, and resets the changed rectangle.
+    void AfterEdit(CDyeworksView* view);
+
+    bool Undo();
+    bool Redo();
+    [[nodiscard]] bool CanUndo() const;
+    [[nodiscard]] bool CanRedo() const;
+    void ClearUndo();
+    /// Replaces what cuts the pieces of undo steps, `ImageUndoRecord::make`.
+    void setRecordFactory(RecordFactory factory) { makeRecord_ = std::move(factory); }
+
+    // Palettes.
+    /// Key of the attached palette in the palette set; empty when there is none.
+    [[nodiscard]] const std::string& attachedName() const noexcept { return attachedName_; }
+    /// Null when no palette is attached or it is not open.
+    [[nodiscard]] TextureLookupTable* GetAttachedPalette() const;
+    [[nodiscard]] bool IsAttached() const { return GetAttachedPalette() != nullptr; }
+    /// Attaches the current palette; without one the document is detached.
+    void Attach();
+    /// Takes the colours of the attached palette if that is the current one, detaches from a palette that is
+    /// no longer open, and redraws all views.
+    void RefreshPalette();
+    /// Shows the colours of `palette`, which may be a passing copy, if it goes by the attached name (compared
+    /// without regard to case), and redraws all views.
+    void PaletteChanged(const std::string& name, const TextureLookupTable* palette);
+    /// Composes the title anew: name, " [palette]" when attached, " * " when modified.
+    void UpdateTitle();
+    /// A display palette of the current palette's colours, made anew by each call and valid until the next;
+    /// null without a current palette.
+    [[nodiscard]] const DisplayPalette* GetDisplayPalette();
+    /// Columns and rows in which the palette bar lays out this image's colours.
+    [[nodiscard]] Size SwatchGridSize() const;
+    /// First palette entry that the image uses: what the palette bar stored when its bank was last chosen for
+    /// this image.
+    [[nodiscard]] std::int32_t paletteValue() const noexcept { return paletteValue_; }
+    void setPaletteValue(std::int32_t value) noexcept { paletteValue_ = value; }
+
+    /// A copy of the pixels, or null when it cannot be made.
+    [[nodiscard]] std::unique_ptr<TmfImage> GetImage() const { return canvas_.ToImage(); }
+
+    void setPathName(const std::string& path) override;
+    void setModified(bool modified) override;
+    bool onOpenDocument(const std::string& path) override;
+    bool onSaveDocument(const std::string& path) override;
+    void onCloseDocument() override;
+    [[nodiscard]] std::string displayName() const override;
+    /// Also when the history stands elsewhere than it stood when the file was last written.
+    [[nodiscard]] bool hasUnsavedChanges() const override;
+
+private:
+    template <typename Draw>
+    void edit(CDyeworksView* view, Draw draw);
+    void replaceHistory(std::int32_t savedPosition);
+    void takeBackDrags();
+    void followHistory();
+    [[nodiscard]] std::int32_t firstEntryFor(const TextureLookupTable& palette) const;
+    [[nodiscard]] const std::string& nameWithoutParts() const;
+
+    void OnAttach();
+    void OnUpdateAttach(CommandUi& ui);
+
+    ImageHost& host_;
+    TextureCanvas canvas_;
+    std::unique_ptr<UndoHistory> history_;
+    RecordFactory makeRecord_;
+    std::unique_ptr<TextureCanvas> snapshot_;
+    bool stroke_ = false;
+    bool historyMoved_ = false;      ///< Since the flag and the title last followed it.
+    std::int32_t savedPosition_ = 0; ///< History position that the file holds.
+    DisplayPalette displayPalette_;
+    std::string attachedName_;
+    std::int32_t paletteValue_ = 0;
+    std::string baseName_;
+    std::string composedTitle_; ///< The title as it was last made of its parts.
+};
+
+} // namespace dyeworks

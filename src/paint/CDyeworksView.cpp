@@ -1,0 +1,139 @@
+#include "paint/CDyeworksView.h"
+
+#include "core/PaletteSet.h"
+#include "paint/CDyeworksDoc.h"
+#include "paint/DrawTool.h"
+#include "paint/ViewRenderer.h"
+#include "paint/ViewWindow.h"
+
+#include <string>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr int kSizePane = 2;
+
+std::string pair(std::int32_t first, std::int32_t second) {
+    return "(" + std::to_string(first) + ", " + std::to_string(second) + ") ";
+}
+
+} // namespace
+
+CDyeworksView::CDyeworksView(CDyeworksDoc& document, ViewWindow& window)
+    : document_(document)
+    , window_(window) {
+    addCommands();
+    document_.addView(*this);
+}
+
+CDyeworksView::~CDyeworksView() {
+    CancelDrag();
+    document_.removeView(*this);
+}
+
+ViewGeometry CDyeworksView::geometry() const {
+    return {zoom_,
+            {document_.canvas().width(), document_.canvas().height()},
+            window_.clientSize(),
+            window_.scrollPosition()};
+}
+
+void CDyeworksView::InitialUpdate() {
+    initialised_ = true;
+    window_.setContentSize(contentSize());
+    window_.fitFrame();
+    drawingValue_ = depthMask();
+    if (drawingValue_ == 15 || drawingValue_ == 255)
+        document_.host().selectPaletteBarCell(static_cast<std::int32_t>(drawingValue_));
+    window_.invalidateAll();
+}
+
+void CDyeworksView::Activated() {
+    ImageHost& host = document_.host();
+    if (host.lastActivatedImage() == &document_)
+        return;
+    host.setLastActivatedImage(&document_);
+    if (PaletteSet* const set = host.paletteSet(); set != nullptr && !document_.attachedName().empty())
+        set->setCurrent(document_.attachedName());
+    host.refreshPaletteBar();
+    const TextureCanvas& canvas = document_.canvas();
+    host.setStatusText(pair(canvas.width(), canvas.height()) + std::to_string(canvas.bitsPerPixel()) + "bit",
+                       kSizePane);
+}
+
+void CDyeworksView::Resized() {
+    scrollTo(window_.scrollPosition());
+}
+
+void CDyeworksView::Paint(Surface& surface, const Rect& logicalArea, std::uint32_t buttonFace) const {
+    ViewRenderer(document_.canvas(), {zoom_, gridShown_, showsNoPalette(), buttonFace})
+        .draw(surface, logicalArea);
+}
+
+bool CDyeworksView::showsNoPalette() const {
+    return document_.attachedName().empty();
+}
+
+void CDyeworksView::update(DocumentView* sender, int hint) {
+    if (sender == this || !initialised_)
+        return;
+    if (hint != 0)
+        window_.invalidateAll();
+    else
+        InvalidateChanged();
+}
+
+bool CDyeworksView::InvalidateChanged() {
+    Rect changed;
+    if (!document_.canvas().GetChangedRect(changed))
+        return false;
+    window_.invalidate(geometry().clientArea(changed));
+    return true;
+}
+
+bool CDyeworksView::ZoomStep(bool out, bool redraw) {
+    const std::int32_t zoom = out ? ViewGeometry::zoomedOut(zoom_) : ViewGeometry::zoomedIn(zoom_);
+    if (zoom == zoom_)
+        return false;
+    zoom_ = zoom;
+    applyZoom(redraw);
+    return true;
+}
+
+void CDyeworksView::ZoomAt(Point client, bool out) {
+    const Point texel = geometry().texelAt(client);
+    if (!ZoomStep(out, false))
+        return;
+    scrollTo(geometry().scrollToKeep(texel, client));
+    applyZoom(true);
+}
+
+void CDyeworksView::SetZoom(std::int32_t zoom) {
+    zoom_ = ViewGeometry::holdZoom(zoom);
+    applyZoom(true);
+}
+
+void CDyeworksView::ToggleGrid() {
+    gridShown_ = !gridShown_;
+    window_.invalidateAll();
+}
+
+void CDyeworksView::applyZoom(bool redraw) {
+    window_.setContentSize(contentSize());
+    scrollTo(window_.scrollPosition());
+    if (!redraw)
+        return;
+    if (!window_.shiftHeld())
+        window_.fitFrame();
+    window_.invalidateAll();
+    window_.repaintNow();
+}
+
+void CDyeworksView::scrollTo(Point position) {
+    const Point allowed = geometry().clampedScroll(position);
+    if (allowed != window_.scrollPosition())
+        window_.scrollTo(allowed);
+}
+
+} // namespace dyeworks

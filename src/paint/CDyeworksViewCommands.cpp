@@ -1,0 +1,93 @@
+#include "paint/CDyeworksDoc.h"
+#include "paint/CDyeworksView.h"
+
+namespace dyeworks {
+
+namespace {
+
+std::int32_t zoomOf(CommandId id) {
+    return static_cast<std::int32_t>(id - ID_ZOOM_BASE);
+}
+
+} // namespace
+
+template <Tool kTool>
+void CDyeworksView::addToolCommand(CommandId id) {
+    on(id, &CDyeworksView::OnTool<kTool>, &CDyeworksView::OnUpdateTool<kTool>);
+}
+
+void CDyeworksView::addCommands() {
+    addToolCommand<Tool::Pixel>(ID_TOOL_PIXEL);
+    addToolCommand<Tool::Pen>(ID_TOOL_PEN);
+    addToolCommand<Tool::Line>(ID_TOOL_LINE);
+    addToolCommand<Tool::Box>(ID_TOOL_BOX);
+    addToolCommand<Tool::BoxFill>(ID_TOOL_BOX_FILL);
+    addToolCommand<Tool::Circle>(ID_TOOL_CIRCLE);
+    addToolCommand<Tool::CircleFill>(ID_TOOL_CIRCLE_FILL);
+    addToolCommand<Tool::Paint>(ID_TOOL_PAINT);
+    on(ID_ZOOM_IN, &CDyeworksView::OnZoomIn, &CDyeworksView::OnUpdateZoomIn);
+    on(ID_ZOOM_OUT, &CDyeworksView::OnZoomOut, &CDyeworksView::OnUpdateZoomOut);
+    for (const std::int32_t zoom : ViewGeometry::kZoomFactors) {
+        const CommandId id = ID_ZOOM_BASE + static_cast<CommandId>(zoom);
+        onRange(id, id, &CDyeworksView::OnZoom, &CDyeworksView::OnUpdateZoom);
+    }
+    on(ID_VIEW_GRID, &CDyeworksView::ToggleGrid, &CDyeworksView::OnUpdateGrid);
+    on(ID_EDIT_UNDO, &CDyeworksView::OnUndo, &CDyeworksView::OnUpdateUndo);
+    on(ID_EDIT_REDO, &CDyeworksView::OnRedo, &CDyeworksView::OnUpdateRedo);
+}
+
+template <Tool kTool>
+void CDyeworksView::OnTool() {
+    setCurrentTool(kTool);
+}
+
+template <Tool kTool>
+void CDyeworksView::OnUpdateTool(CommandUi& ui) {
+    ui.checked = currentTool() == kTool;
+}
+
+void CDyeworksView::OnZoomIn() {
+    ZoomStep(false, true);
+}
+
+void CDyeworksView::OnUpdateZoomIn(CommandUi& ui) {
+    ui.enabled = zoom_ < ViewGeometry::kMaxZoom;
+}
+
+void CDyeworksView::OnZoomOut() {
+    ZoomStep(true, true);
+}
+
+void CDyeworksView::OnUpdateZoomOut(CommandUi& ui) {
+    ui.enabled = zoom_ > ViewGeometry::kMinZoom;
+}
+
+void CDyeworksView::OnZoom(CommandId id) {
+    SetZoom(zoomOf(id));
+}
+
+void CDyeworksView::OnUpdateZoom(CommandUi& ui) {
+    ui.checked = zoom_ == zoomOf(ui.id);
+}
+
+void CDyeworksView::OnUpdateGrid(CommandUi& ui) {
+    ui.checked = gridShown_;
+}
+
+void CDyeworksView::OnUndo() {
+    document_.Undo();
+}
+
+void CDyeworksView::OnUpdateUndo(CommandUi& ui) {
+    ui.enabled = document_.CanUndo();
+}
+
+void CDyeworksView::OnRedo() {
+    document_.Redo();
+}
+
+void CDyeworksView::OnUpdateRedo(CommandUi& ui) {
+    ui.enabled = document_.CanRedo();
+}
+
+} // namespace dyeworks

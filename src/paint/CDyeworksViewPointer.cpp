@@ -1,0 +1,151 @@
+#include "paint/CDyeworksDoc.h"
+#include "paint/CDyeworksView.h"
+#include "paint/DrawTool.h"
+#include "paint/ViewWindow.h"
+
+#include <string>
+#include <utility>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr int kPositionPane = 1;
+
+} // namespace
+
+void CDyeworksView::PointerPressed(const PointerEvent& event) {
+    if (event.button != PointerButton::Left || dragging())
+        return;
+    if (event.shift) {
+        scrollDragging_ = true;
+        scrollDragPoint_ = event.position;
+        scrollDragStart_ = window_.scrollPosition();
+        window_.capturePointer();
+        setCursorFor(event.shift);
+        return;
+    }
+    if (event.control) {
+        pickColour(event.position);
+        return;
+    }
+    takeDrawingValue();
+    auto tool = makeDrawTool(currentTool(), *this);
+    if (tool->press(geometry().texelAt(event.position), event)) {
+        tool_ = std::move(tool);
+        window_.capturePointer();
+    }
+}
+
+void CDyeworksView::PointerMoved(const PointerEvent& event) {
+    setCursorFor(event.shift);
+    if (scrollDragging_) {
+        scrollDrag(event.position);
+        return;
+    }
+    const Point texel = geometry().texelAt(event.position);
+    showPosition(texel);
+    if (tool_ != nullptr)
+        tool_->move(texel);
+}
+
+void CDyeworksView::PointerReleased(const PointerEvent& event) {
+    if (event.button != PointerButton::Left || !dragging())
+        return;
+    const std::unique_ptr<DrawTool> tool = endDrag();
+    if (tool != nullptr)
+        tool->release(geometry().texelAt(event.position));
+    setCursorFor(event.shift);
+}
+
+void CDyeworksView::PointerCaptureLost() {
+    CancelDrag();
+}
+
+void CDyeworksView::CancelDrag() {
+    if (!dragging())
+        return;
+    if (scrollDragging_)
+        scrollTo(scrollDragStart_);
+    const std::unique_ptr<DrawTool> tool = endDrag();
+    if (tool != nullptr)
+        tool->cancel();
+}
+
+/// The drag is over before the capture goes, so that its loss is not taken for an interruption.
+std::unique_ptr<DrawTool> CDyeworksView::endDrag() {
+    std::unique_ptr<DrawTool> tool = std::move(tool_);
+    scrollDragging_ = false;
+    window_.releasePointer();
+    return tool;
+}
+
+void CDyeworksView::scrollDrag(Point client) {
+    const Point position = window_.scrollPosition();
+    scrollTo({position.x + scrollDragPoint_.x - client.x, position.y + scrollDragPoint_.y - client.y});
+    scrollDragPoint_ = client;
+}
+
+void CDyeworksView::KeyPressed(const KeyEvent& event) {
+    if (event.key == Key::Escape) {
+        CancelDrag();
+        return;
+    }
+    if (event.repeatCount != 1)
+        return;
+    switch (event.key) {
+    case Key::Shift:
+    case Key::Control:
+        setCursorFor(event.shift);
+        break;
+    case Key::I:
+    case Key::Numpad9:
+        ZoomAt(window_.pointerPosition(), false);
+        break;
+    case Key::O:
+    case Key::NumpadDivide:
+        ZoomAt(window_.pointerPosition(), true);
+        break;
+    default:
+        break;
+    }
+}
+
+void CDyeworksView::KeyReleased(const KeyEvent& event) {
+    if (event.repeatCount == 1 && (event.key == Key::Shift || event.key == Key::Control))
+        setCursorFor(event.shift);
+}
+
+void CDyeworksView::pickColour(Point client) {
+    const Point texel = geometry().texelAt(client);
+    const TextureCanvas& canvas = document_.canvas();
+    if (texel.x < 0 || texel.y < 0 || texel.x >= canvas.width() || texel.y >= canvas.height())
+        return;
+    drawingValue_ = canvas.GetPixel(texel.x, texel.y);
+    ImageHost& host = document_.host();
+    host.selectPaletteBarCell(host.paletteBarFirstEntry() + static_cast<std::int32_t>(drawingValue_));
+}
+
+/// Without a selected cell the last value stays.
+void CDyeworksView::takeDrawingValue() {
+    const ImageHost& host = document_.host();
+    const std::int32_t cell = host.paletteBarCell();
+    if (cell >= 0)
+        drawingValue_ = static_cast<std::uint32_t>(cell - host.paletteBarFirstEntry()) & depthMask();
+}
+
+std::uint32_t CDyeworksView::depthMask() const {
+    return static_cast<std::uint32_t>((std::uint64_t{1} << document_.canvas().bitsPerPixel()) - 1);
+}
+
+void CDyeworksView::showPosition(Point texel) {
+    document_.host().setStatusText("(" + std::to_string(texel.x) + ", " + std::to_string(texel.y) + ") " +
+                                       std::to_string(zoom_ * 100) + "%",
+                                   kPositionPane);
+}
+
+void CDyeworksView::setCursorFor(bool shift) {
+    window_.setCursor(shift && !scrollDragging_ ? CursorShape::OpenHand : CursorShape::Arrow);
+}
+
+} // namespace dyeworks

@@ -1,0 +1,19 @@
+#include "paint/CurrentTool.h"
+
+namespace dyeworks {
+
+namespace {
+
+Tool chosen = Tool::Pen;
+
+} // namespace
+
+Tool currentTool() noexcept {
+    return chosen;
+}
+
+void setCurrentTool(Tool tool) noexcept {
+    chosen = tool;
+}
+
+} // namespace dyeworks

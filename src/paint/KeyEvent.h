@@ -1,0 +1,16 @@
+#pragma once
+
+namespace dyeworks {
+
+/// The keys that an image view acts on.
+enum class Key { Other, Escape, Shift, Control, I, O, Numpad9, NumpadDivide };
+
+/// A press or release of a key while a view has the focus.
+struct KeyEvent {
+    Key key = Key::Other;
+    int repeatCount = 1; ///< Presses that this event stands for.
+    bool shift = false;  ///< After the event: true for the press of Shift itself.
+    bool control = false;
+};
+
+} // namespace dyeworks

@@ -1,0 +1,61 @@
+#include "paint/ShapeTool.h"
+
+#include "paint/CDyeworksDoc.h"
+#include "paint/CDyeworksView.h"
+
+namespace dyeworks {
+
+bool ShapeTool::press(Point texel, const PointerEvent& event) {
+    centred_ = event.alt;
+    centre_ = anchor_ = current_ = previous_ = texel;
+    if (!stroke_.begin())
+        return false;
+    stroke_.draw([this] { drawShape(); });
+    return true;
+}
+
+void ShapeTool::move(Point texel) {
+    if (texel == previous_)
+        return;
+    follow(texel);
+    stroke_.takeBack();
+    stroke_.draw([this] { drawShape(); });
+    previous_ = texel;
+}
+
+void ShapeTool::release(Point texel) {
+    stroke_.takeBack();
+    if (shape_ == Tool::Line)
+        follow(texel);
+    drawShape();
+}
+
+void ShapeTool::follow(Point texel) {
+    current_ = texel;
+    if (centred_)
+        anchor_ = {2 * centre_.x - texel.x, 2 * centre_.y - texel.y};
+}
+
+void ShapeTool::drawShape() {
+    const Rect rectangle{anchor_.x, anchor_.y, current_.x, current_.y};
+    const std::uint32_t value = view().drawingValue();
+    switch (shape_) {
+    case Tool::Box:
+        document().Box(&view(), rectangle, value);
+        break;
+    case Tool::BoxFill:
+        document().FilledBox(&view(), rectangle, value);
+        break;
+    case Tool::Circle:
+        document().Ellipse(&view(), rectangle, value);
+        break;
+    case Tool::CircleFill:
+        document().FilledEllipse(&view(), rectangle, value);
+        break;
+    default:
+        document().Line(&view(), anchor_.x, anchor_.y, current_.x, current_.y, value);
+        break;
+    }
+}
+
+} // namespace dyeworks

@@ -1,0 +1,37 @@
+#include "paint/Stroke.h"
+
+#include "paint/CDyeworksDoc.h"
+#include "paint/CDyeworksView.h"
+
+namespace dyeworks {
+
+bool Stroke::begin() {
+    touched_ = kNothing;
+    return view_.document().TakeSnapshot();
+}
+
+void Stroke::takeBack() {
+    view_.document().canvas().SetChangedRect(touched_);
+    setStrokeFlag(true);
+    view_.document().RestoreSnapshot(&view_);
+    setStrokeFlag(false);
+    touched_ = kNothing;
+}
+
+void Stroke::setStrokeFlag(bool stroke) {
+    view_.document().SetStrokeFlag(stroke);
+}
+
+void Stroke::noteChanges() {
+    Rect changed;
+    if (!view_.document().canvas().GetChangedRect(changed))
+        return;
+    if (touched_ == kNothing) {
+        touched_ = changed;
+        return;
+    }
+    touched_ = {std::min(touched_.left, changed.left), std::min(touched_.top, changed.top),
+                std::max(touched_.right, changed.right), std::max(touched_.bottom, changed.bottom)};
+}
+
+} // namespace dyeworks

@@ -1,0 +1,88 @@
+#include "paint/PixelRuns.h"
+#include "paint/TextureCanvas.h"
+#include "platform/Platform.h"
+
+#include <algorithm>
+#include <new>
+
+namespace dyeworks {
+
+namespace {
+
+/// Whether the image's rows are laid out like those of a canvas of the same depth.
+bool hasCanvasRows(const TmfImage& image) {
+    return (image.bits == 4 || image.bits == 8) && image.holdsTexels();
+}
+
+} // namespace
+
+std::unique_ptr<TmfImage> TextureCanvas::ToImage() const {
+    std::unique_ptr<TmfImage> image(new (std::nothrow) TmfImage);
+    if (image == nullptr || !image->create(width_, height_, bitsPerPixel_))
+        return nullptr;
+    if (!isPlain() || !hasCanvasRows(*image)) {
+        for (std::int32_t y = 0; y < height_; ++y) {
+            for (std::int32_t x = 0; x < width_; ++x)
+                image->setTexel(x, y, GetPixel(x, y));
+        }
+        return image;
+    }
+    visitDepth<PixelRuns>(bitsPerPixel_, [&](auto pixels) {
+        const std::int64_t stride = image->stride();
+        for (std::int64_t y = 0; y < height_; ++y)
+            pixels.copy(image->texels + (height_ - 1 - y) * stride, 0, row(y), 0, width_);
+    });
+    return image;
+}
+
+void TextureCanvas::FromImage(const TmfImage& image) {
+    if (!isPlain() || !hasCanvasRows(image) || image.bits != bitsPerPixel_) {
+        for (std::int32_t y = 0; y < image.height; ++y) {
+            for (std::int32_t x = 0; x < image.width; ++x)
+                SetPixel(x, y, image.getTexel(x, y));
+        }
+        return;
+    }
+    const Range xs = overlap({0, std::int64_t{image.width} - 1}, columns());
+    const Range ys = overlap({0, std::int64_t{image.height} - 1}, rows());
+    visitDepth<PixelRuns>(bitsPerPixel_, [&](auto pixels) {
+        const std::int64_t stride = image.stride();
+        for (std::int64_t y = ys.first; y <= ys.last; ++y)
+            pixels.copy(row(y), 0, image.texels + (image.height - 1 - y) * stride, 0, xs.count());
+    });
+    extendChanged(xs, ys);
+}
+
+bool TextureCanvas::LoadTmf(const std::string& path) {
+    Destroy();
+    TmfImage image;
+    if (!image.readTmf(path) || !Create(image.width, image.height, 1, static_cast<std::uint16_t>(image.bits)))
+        return false;
+    FromImage(image);
+    return true;
+}
+
+bool TextureCanvas::SaveTmf(const std::string& path) const {
+    const std::unique_ptr<TmfImage> image = ToImage();
+    return image != nullptr && image->saveTmf(path);
+}
+
+bool TextureCanvas::LoadBmp(const std::string& path) {
+    Destroy();
+    const Result<ByteBuffer, FileError> file = platform().files().read(path);
+    if (!file)
+        return false;
+    const Result<BmpImage, BmpError> bitmap = parseBmp(file.value().bytes());
+    if (bitmap)
+        return CreateFrom(bitmap.value());
+    if (bitmap.error() == BmpError::Compressed)
+        platform().messages().show({"compressed format not supported.\n", "", MessageButtons::Ok,
+                                    MessageIcon::None, MessageOwner::MainWindow});
+    return false;
+}
+
+bool TextureCanvas::SaveBmp(const std::string& path) const {
+    return block_ != nullptr && !platform().files().write(path, block()).has_value();
+}
+
+} // namespace dyeworks
