@@ -6,7 +6,7 @@
 #include <cstdlib>
 
 int main() {
-    dyeworks::fake::FakePlatform platform;
+    dyeworks::FakePlatform platform;
     dyeworks::PaletteSet palettes;
     dyeworks::TextureCanvas canvas;
     const bool made = palettes.newPalette(16, dyeworks::ColourType::Rgba, 1) && canvas.Create(8, 8, 1, 4);

@@ -1,0 +1,285 @@
+#include "paint/widgets/ImageView.h"
+
+#include "framework/widgets/ChildFrame.h"
+#include "paint/CDyeworksDoc.h"
+#include "platform/Text.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QWheelEvent>
+#include <QtMath>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr int kWheelNotch = 120; // Angle that one notch of a wheel reports.
+
+PointerButton buttonOf(Qt::MouseButton button) {
+    switch (button) {
+    case Qt::LeftButton:
+        return PointerButton::Left;
+    case Qt::RightButton:
+        return PointerButton::Right;
+    case Qt::MiddleButton:
+        return PointerButton::Middle;
+    default:
+        return PointerButton::None;
+    }
+}
+
+/// The client pixel that a position lies in: where a pixel is several of the device's, positions come in
+/// fractions, and rounding them would reach into the next pixel.
+Point pixelAt(const QPointF& position) {
+    return {qFloor(position.x()), qFloor(position.y())};
+}
+
+PointerEvent pointerEvent(const QMouseEvent& event) {
+    PointerEvent result;
+    result.position = pixelAt(event.position());
+    result.shift = event.modifiers().testFlag(Qt::ShiftModifier);
+    result.control = event.modifiers().testFlag(Qt::ControlModifier);
+    result.alt = event.modifiers().testFlag(Qt::AltModifier);
+    result.button = buttonOf(event.button());
+    return result;
+}
+
+Key keyOf(const QKeyEvent& event) {
+    const bool keypad = event.modifiers().testFlag(Qt::KeypadModifier);
+    switch (event.key()) {
+    case Qt::Key_Escape:
+        return Key::Escape;
+    case Qt::Key_Shift:
+        return Key::Shift;
+    case Qt::Key_Control:
+        return Key::Control;
+    case Qt::Key_I:
+        return Key::I;
+    case Qt::Key_O:
+        return Key::O;
+    case Qt::Key_9:
+        return keypad ? Key::Numpad9 : Key::Other;
+    case Qt::Key_Slash:
+        return keypad ? Key::NumpadDivide : Key::Other;
+    default:
+        return Key::Other;
+    }
+}
+
+/// Modifiers of a key event are those before it; the view is told those after it.
+KeyEvent keyEvent(const QKeyEvent& event, bool pressed) {
+    KeyEvent result;
+    result.key = keyOf(event);
+    result.repeatCount = event.count();
+    result.shift = event.key() == Qt::Key_Shift ? pressed : event.modifiers().testFlag(Qt::ShiftModifier);
+    result.control =
+        event.key() == Qt::Key_Control ? pressed : event.modifiers().testFlag(Qt::ControlModifier);
+    return result;
+}
+
+} // namespace
+
+ImageView::ImageView(CDyeworksDoc& document, QWidget* parent)
+    : ScrollView(parent)
+    , view_(document, *this) {
+    viewport()->setMouseTracking(true);
+    nameAfterDocument();
+}
+
+ImageView::~ImageView() = default;
+
+void ImageView::nameAfterDocument() {
+    setAccessibleName(QStringLiteral("%1 %2").arg(QString::fromStdString(text(StringId::ImageViewName)),
+                                                  QString::fromStdString(view_.document().title())));
+}
+
+void ImageView::initialUpdate(ChildFrame& frame) {
+    frame_ = &frame;
+    connect(&frame, &QWidget::windowTitleChanged, this, &ImageView::nameAfterDocument);
+    view_.InitialUpdate();
+}
+
+void ImageView::activated(ChildFrame&) {
+    view_.Activated();
+}
+
+void ImageView::closing(ChildFrame&) {
+    frame_ = nullptr;
+}
+
+Size ImageView::clientSize() const {
+    return {viewport()->width(), viewport()->height()};
+}
+
+Point ImageView::scrollPosition() const {
+    const QPoint position = ScrollView::scrollPosition();
+    return {position.x(), position.y()};
+}
+
+void ImageView::scrollTo(Point position) {
+    ScrollView::scrollTo(QPoint(position.x, position.y));
+}
+
+void ImageView::setContentSize(Size size) {
+    ScrollView::setContentSize(QSize(size.width, size.height));
+}
+
+void ImageView::invalidate(const Rect& clientArea) {
+    const QRect area =
+        QRect(QPoint(clientArea.left, clientArea.top), QPoint(clientArea.right - 1, clientArea.bottom - 1)) &
+        viewport()->rect();
+    if (area.isEmpty())
+        return;
+    stale_ += area;
+    viewport()->update(area);
+}
+
+void ImageView::invalidateAll() {
+    invalidate({0, 0, viewport()->width(), viewport()->height()});
+}
+
+void ImageView::repaintNow() {
+    if (!stale_.isEmpty())
+        viewport()->repaint(stale_);
+}
+
+void ImageView::setCursor(CursorShape shape) {
+    if (!isPanning())
+        viewport()->setCursor(shape == CursorShape::OpenHand ? Qt::OpenHandCursor : Qt::ArrowCursor);
+}
+
+void ImageView::fitFrame() {
+    if (frame_ != nullptr)
+        frame_->fitToContent(*this);
+}
+
+Point ImageView::pointerPosition() const {
+    const QPoint position = viewport()->mapFromGlobal(QCursor::pos());
+    return {position.x(), position.y()};
+}
+
+bool ImageView::shiftHeld() const {
+    return QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
+}
+
+void ImageView::paintEvent(QPaintEvent* event) {
+    QPainter painter(viewport());
+    for (const QRect& part : event->region())
+        paintPart(painter, part);
+    if (view_.showsNoPalette()) {
+        const QRect client = viewport()->rect();
+        const QRect line(0, client.height() / 2, client.width(), client.height());
+        painter.setPen(palette().color(QPalette::ButtonText));
+        painter.drawText(line, Qt::AlignHCenter | Qt::AlignTop, QStringLiteral("NO PALETTE"));
+    }
+    stale_ -= event->region();
+}
+
+void ImageView::paintPart(QPainter& painter, const QRect& part) const {
+    QImage picture(part.size(), QImage::Format_RGB32);
+    if (picture.isNull())
+        return;
+    const QPoint origin = toContent(part.topLeft());
+    Surface surface;
+    surface.pixels = reinterpret_cast<std::uint32_t*>(picture.bits());
+    surface.width = part.width();
+    surface.height = part.height();
+    surface.stride = picture.bytesPerLine() / static_cast<int>(sizeof(std::uint32_t));
+    surface.originX = origin.x();
+    surface.originY = origin.y();
+    view_.Paint(surface, {origin.x(), origin.y(), origin.x() + part.width(), origin.y() + part.height()},
+                palette().color(QPalette::Button).rgb());
+    // Enlarged by the scale factor, texels keep their edges.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+    painter.drawImage(part.topLeft(), picture);
+}
+
+void ImageView::scrollContentsBy(int dx, int dy) {
+    stale_.translate(dx, dy);
+    ScrollView::scrollContentsBy(dx, dy);
+}
+
+void ImageView::resizeEvent(QResizeEvent* event) {
+    ScrollView::resizeEvent(event);
+    view_.Resized();
+}
+
+void ImageView::wheelEvent(QWheelEvent* event) {
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        ScrollView::wheelEvent(event);
+        return;
+    }
+    wheelTurn_ += event->angleDelta().y();
+    const Point position = pixelAt(event->position());
+    for (; wheelTurn_ >= kWheelNotch; wheelTurn_ -= kWheelNotch)
+        view_.ZoomAt(position, false);
+    for (; wheelTurn_ <= -kWheelNotch; wheelTurn_ += kWheelNotch)
+        view_.ZoomAt(position, true);
+    event->accept();
+}
+
+void ImageView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::MiddleButton && !captured_)
+        ScrollView::mousePressEvent(event);
+    else
+        view_.PointerPressed(pointerEvent(*event));
+}
+
+void ImageView::mouseMoveEvent(QMouseEvent* event) {
+    if (isPanning())
+        ScrollView::mouseMoveEvent(event);
+    else
+        view_.PointerMoved(pointerEvent(*event));
+}
+
+void ImageView::mouseReleaseEvent(QMouseEvent* event) {
+    if (isPanning())
+        ScrollView::mouseReleaseEvent(event);
+    else
+        view_.PointerReleased(pointerEvent(*event));
+}
+
+void ImageView::mouseDoubleClickEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+void ImageView::keyPressEvent(QKeyEvent* event) {
+    view_.KeyPressed(keyEvent(*event, true));
+    if (keyOf(*event) == Key::Other)
+        ScrollView::keyPressEvent(event);
+}
+
+void ImageView::keyReleaseEvent(QKeyEvent* event) {
+    view_.KeyReleased(keyEvent(*event, false));
+    if (keyOf(*event) == Key::Other)
+        ScrollView::keyReleaseEvent(event);
+}
+
+void ImageView::loseCapture() {
+    if (!captured_)
+        return;
+    captured_ = false;
+    view_.PointerCaptureLost();
+}
+
+bool ImageView::event(QEvent* event) {
+    if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowDeactivate)
+        loseCapture();
+    return ScrollView::event(event);
+}
+
+void ImageView::focusOutEvent(QFocusEvent* event) {
+    loseCapture();
+    ScrollView::focusOutEvent(event);
+}
+
+void ImageView::hideEvent(QHideEvent* event) {
+    loseCapture();
+    ScrollView::hideEvent(event);
+}
+
+} // namespace dyeworks

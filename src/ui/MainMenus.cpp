@@ -1,0 +1,111 @@
+#include "ui/MainMenus.h"
+
+#include <QtGlobal>
+
+#include <array>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr std::array kFileMenu{
+    MenuItem{ID_FILE_OPEN}, MenuItem{ID_FILE_CLOSE},   kSeparator,
+    MenuItem{ID_FILE_SAVE}, MenuItem{ID_FILE_SAVE_AS}, kSeparator,
+    MenuItem{ID_APP_EXIT},
+};
+
+constexpr std::array kEditMenu{
+    MenuItem{ID_EDIT_UNDO},
+    MenuItem{ID_EDIT_REDO},
+};
+
+constexpr std::array kZoomMenu{
+    MenuItem{ID_ZOOM_X1}, MenuItem{ID_ZOOM_X2}, MenuItem{ID_ZOOM_X3},  MenuItem{ID_ZOOM_X4},
+    MenuItem{ID_ZOOM_X6}, MenuItem{ID_ZOOM_X8}, MenuItem{ID_ZOOM_X12}, MenuItem{ID_ZOOM_X16},
+};
+
+constexpr std::array kViewMenu{
+    MenuItem{ID_ZOOM_IN}, MenuItem{ID_ZOOM_OUT},  MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Zoom"), kZoomMenu},
+    kSeparator,           MenuItem{ID_VIEW_GRID},
+};
+
+constexpr std::array kImageMenu{
+    MenuItem{ID_IMAGE_ATTACH},
+};
+
+constexpr std::array kDrawMenu{
+    MenuItem{ID_TOOL_PIXEL},
+    MenuItem{ID_TOOL_PEN},
+    MenuItem{ID_TOOL_LINE},
+    kSeparator,
+    MenuItem{ID_TOOL_BOX},
+    MenuItem{ID_TOOL_BOX_FILL},
+    kSeparator,
+    MenuItem{ID_TOOL_CIRCLE},
+    MenuItem{ID_TOOL_CIRCLE_FILL},
+    kSeparator,
+    MenuItem{ID_TOOL_PAINT},
+};
+
+constexpr std::array kPaletteMenu{
+    MenuItem{ID_PALETTE_OPEN}, MenuItem{ID_PALETTE_CLOSE},   kSeparator,
+    MenuItem{ID_PALETTE_SAVE}, MenuItem{ID_PALETTE_SAVE_AS},
+};
+
+constexpr std::array kWindowMenu{
+    MenuItem{ID_WINDOW_CASCADE},
+    MenuItem{ID_WINDOW_TILE_HORZ},
+    MenuItem{ID_WINDOW_TILE_VERT},
+    MenuItem{ID_WINDOW_ARRANGE},
+};
+
+constexpr std::array kHelpMenu{
+    MenuItem{ID_APP_ABOUT},
+};
+
+constexpr std::array kMainMenu{
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&File"), kFileMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Edit"), kEditMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&View"), kViewMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Image"), kImageMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Draw"), kDrawMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Palette"), kPaletteMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Window"), kWindowMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Help"), kHelpMenu},
+};
+
+constexpr std::array kToolBar{
+    MenuItem{ID_FILE_OPEN},    MenuItem{ID_FILE_SAVE},    kSeparator,
+    MenuItem{ID_EDIT_UNDO},    MenuItem{ID_EDIT_REDO},    kSeparator,
+    MenuItem{ID_PALETTE_OPEN}, MenuItem{ID_IMAGE_ATTACH}, kSeparator,
+    MenuItem{ID_APP_ABOUT},
+};
+
+constexpr std::array kViewBar{
+    MenuItem{ID_ZOOM_IN},
+    MenuItem{ID_ZOOM_OUT},
+    MenuItem{ID_VIEW_GRID},
+};
+
+constexpr std::array kDrawBar{
+    MenuItem{ID_TOOL_PIXEL},       MenuItem{ID_TOOL_PEN},      MenuItem{ID_TOOL_LINE},
+    MenuItem{ID_TOOL_BOX},         MenuItem{ID_TOOL_BOX_FILL}, MenuItem{ID_TOOL_CIRCLE},
+    MenuItem{ID_TOOL_CIRCLE_FILL}, MenuItem{ID_TOOL_PAINT},
+};
+
+} // namespace
+
+std::span<const MenuItem> mainMenu() {
+    return kMainMenu;
+}
+std::span<const MenuItem> toolBarItems() {
+    return kToolBar;
+}
+std::span<const MenuItem> viewBarItems() {
+    return kViewBar;
+}
+std::span<const MenuItem> drawBarItems() {
+    return kDrawBar;
+}
+
+} // namespace dyeworks

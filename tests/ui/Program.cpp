@@ -1,0 +1,90 @@
+#include "Program.h"
+
+namespace dyeworks {
+
+namespace {
+
+std::string word(unsigned value) {
+    return {static_cast<char>(value >> 24), static_cast<char>(value >> 16), static_cast<char>(value >> 8),
+            static_cast<char>(value)};
+}
+
+} // namespace
+
+Texels texels(int width, int height, const std::function<unsigned(int x, int y)>& valueAt) {
+    Texels image(static_cast<std::size_t>(height), std::vector<unsigned>(static_cast<std::size_t>(width)));
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x)
+            image[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)] = valueAt(x, y);
+    }
+    return image;
+}
+
+std::string imageFile(const Texels& image, int bits) {
+    const auto width = static_cast<unsigned>(image.front().size());
+    std::string file = word(bits == 4 ? 0x00120200 : 0x00120300) + word(width) +
+                       word(static_cast<unsigned>(image.size())) + word(static_cast<unsigned>(bits));
+    file.resize(64);
+    for (auto row = image.rbegin(); row != image.rend(); ++row) {
+        for (std::size_t x = 0; x < row->size(); ++x) {
+            if (bits == 8)
+                file += static_cast<char>((*row)[x]);
+            else if (x % 2 == 0)
+                file += static_cast<char>((*row)[x] << 4 | (x + 1 < row->size() ? (*row)[x + 1] : 0));
+        }
+    }
+    file.resize((file.size() + 3) / 4 * 4);
+    return file;
+}
+
+std::string paletteFile(int count, const std::function<unsigned(int entry)>& entryAt) {
+    std::string file = word(count == 16 ? 0x00200100 : 0x00200200) + word(static_cast<unsigned>(count));
+    file.resize(64);
+    for (int i = 0; i < count; ++i) {
+        file += static_cast<char>(entryAt(i) >> 8);
+        file += static_cast<char>(entryAt(i));
+    }
+    return file;
+}
+
+Program::Program() {
+    app_.mainFrame().show();
+}
+
+void Program::openAttached(const Texels& image, int bits, int paletteEntries) {
+    fake_.files.putFile("c:\\tex\\pic.tmf", imageFile(image, bits));
+    // Every entry has a colour of its own.
+    fake_.files.putFile("c:\\tex\\pic.tlf", paletteFile(paletteEntries, [](int i) {
+                            return static_cast<unsigned>(i * 193 + 7) & 0xFFFFU;
+                        }));
+    ASSERT_TRUE(app_.OpenFiles({"c:\\tex\\pic.tlf", "c:\\tex\\pic.tmf"}, true));
+    ASSERT_TRUE(this->image().IsAttached());
+}
+
+Texels Program::canvas() {
+    const TextureCanvas& shown = image().canvas();
+    return texels(shown.width(), shown.height(), [&](int x, int y) { return shown.GetPixel(x, y); });
+}
+
+QPoint Program::at(int x, int y) {
+    const int zoom = view().view().zoom();
+    return QPoint(x * zoom + zoom / 2, y * zoom + zoom / 2) -
+           static_cast<const ScrollView&>(view()).scrollPosition();
+}
+
+void Program::drag(const std::vector<QPoint>& texelPath, Qt::KeyboardModifiers modifiers) {
+    QWidget* viewport = view().viewport();
+    const QPoint first = texelPath.front();
+    const QPoint last = texelPath.back();
+    QTest::mousePress(viewport, Qt::LeftButton, modifiers, at(first.x(), first.y()));
+    for (const QPoint& texel : texelPath) {
+        // QTest::mouseMove reports no button, so that the move has to be made by hand.
+        QMouseEvent move(QEvent::MouseMove, at(texel.x(), texel.y()),
+                         viewport->mapToGlobal(at(texel.x(), texel.y())), Qt::NoButton, Qt::LeftButton,
+                         modifiers);
+        QCoreApplication::sendEvent(viewport, &move);
+    }
+    QTest::mouseRelease(viewport, Qt::LeftButton, modifiers, at(last.x(), last.y()));
+}
+
+} // namespace dyeworks
