@@ -3,6 +3,8 @@
 #include "framework/PathText.h"
 #include "platform/Platform.h"
 
+#include <algorithm>
+
 namespace dyeworks {
 
 CDocument::CDocument(DocumentTemplate* documentTemplate)
@@ -38,7 +40,9 @@ void CDocument::setModified(bool modified) {
 }
 
 void CDocument::addView(DocumentView& view) {
-    views_.push_back(&view);
+    // A view may join by itself before the frame around it lets it join.
+    if (std::ranges::find(views_, &view) == views_.end())
+        views_.push_back(&view);
 }
 
 void CDocument::removeView(DocumentView& view) {

@@ -244,7 +244,8 @@ void ImageView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ImageView::mouseDoubleClickEvent(QMouseEvent* event) {
-    event->accept();
+    // Two quick clicks are two clicks: each of them draws.
+    mousePressEvent(event);
 }
 
 void ImageView::keyPressEvent(QKeyEvent* event) {

@@ -168,6 +168,24 @@ TEST_P(CanvasBothWays, GiveTheSameBytesChangedRectangleAndResult) {
 INSTANTIATE_TEST_SUITE_P(Depths, CanvasBothWays, testing::Values(1, 2, 4, 8, 16, 24, 32),
                          testing::PrintToStringParamName());
 
+TEST(CanvasBothWaysOfFilling, DropTheSameSeedsWhenTheyRunOut) {
+    for (unsigned seed = 0; seed < 12; ++seed) {
+        TextureCanvas fast;
+        SlowCanvas slow;
+        for (TextureCanvas* canvas : {&fast, static_cast<TextureCanvas*>(&slow)}) {
+            Random random(seed);
+            ASSERT_TRUE(canvas->Create(16000, 9, 1, seed % 2 == 0 ? 4 : 8));
+            for (std::int32_t y = 0; y < canvas->height(); ++y) {
+                for (std::int32_t x = 0; x < canvas->width(); ++x)
+                    canvas->SetPixel(x, y, y % 4 != 2 && random.once(3) ? 1 : 0);
+            }
+            canvas->FloodFill(8000, 2, 5);
+        }
+        ASSERT_TRUE(std::ranges::equal(fast.block(), slow.block())) << "seed " << seed;
+        ASSERT_EQ(changedRect(fast), changedRect(slow));
+    }
+}
+
 /// Sees every pixel that is written.
 class RecordingCanvas : public TextureCanvas {
 public:

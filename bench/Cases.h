@@ -1,0 +1,9 @@
+#pragma once
+
+namespace dyeworks {
+
+void registerCanvasCases();
+void registerDrawCases();
+void registerFileCases();
+
+} // namespace dyeworks

@@ -1,0 +1,22 @@
+#include "bench/Cases.h"
+#include "platform/fake/FakePlatform.h"
+
+#include <benchmark/benchmark.h>
+
+#include <malloc.h>
+
+int main(int argc, char** argv) {
+    // Large blocks are new pages each time, for cases and baselines alike. Left alone, the heap keeps some of
+    // them, depending on what ran before.
+    mallopt(M_MMAP_THRESHOLD, 1 << 20);
+    const dyeworks::FakePlatform platform;
+    dyeworks::registerCanvasCases();
+    dyeworks::registerDrawCases();
+    dyeworks::registerFileCases();
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
