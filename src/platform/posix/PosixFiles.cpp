@@ -88,9 +88,9 @@ std::string programForm(const std::string& hostPath, const std::string& currentD
         return hostPath;
     // Any number of leading separators is the host's root; two of them would be read as a server.
     const std::size_t first = hostPath.find_first_not_of('/');
-    const std::string path = first == 0                   ? hostPath
-                             : first == std::string::npos ? "\\"
-                                                          : "\\" + hostPath.substr(first);
+    std::string path = first == 0 ? "" : "\\";
+    if (first != std::string::npos)
+        path.append(hostPath, first);
     return parseProgramPath(path, currentDirectory).text();
 }
 
