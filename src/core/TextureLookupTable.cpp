@@ -5,7 +5,9 @@
 #include "core/Report.h"
 #include "platform/Platform.h"
 
+#include <algorithm>
 #include <new>
+#include <span>
 #include <utility>
 
 namespace dyeworks {
@@ -16,6 +18,7 @@ constexpr std::int32_t kUnreachable = -1;
 constexpr const char* kModifiedMark = " * ";
 constexpr const char* kFilter = "TLF Files (*.tlf)|*.tlf|All Files (*.*)|*.*||";
 constexpr const char* kExtension = ".tlf";
+constexpr const char* kNoLogPalette = "TextureLookupTable::newLogPalette() ... !!!Error!!!\n";
 
 /// Numbers the palettes that were created in this run.
 std::uint32_t namingCounter = 0;
@@ -55,6 +58,7 @@ TextureLookupTable::TextureLookupTable(const TextureLookupTable& other)
     , modified(other.modified)
     , history(std::make_unique<UndoHistory>())
     , savedPosition_(other.standsAtSavedPosition() ? history->position() : kUnreachable)
+    , savedTable_(other.savedTable_)
     , makeRecord_(other.makeRecord_) {}
 
 TextureLookupTable::TextureLookupTable(const TlutData& source)
@@ -114,7 +118,6 @@ bool TextureLookupTable::open(const char* name) {
         return false;
     titleFromPath();
     markSaved();
-    openedOverHistory_ = history && history->count() > 0;
     updateTitle();
     return true;
 }
@@ -191,13 +194,19 @@ bool TextureLookupTable::toRgbQuad(std::int32_t index, std::uint8_t& blue, std::
 }
 
 std::unique_ptr<LogPalette> TextureLookupTable::newLogPalette() const {
-    auto description = std::make_unique<LogPalette>();
-    description->entryCount = static_cast<std::uint16_t>(table.count & 0xFFFF);
-    description->entries.reserve(description->entryCount);
+    std::unique_ptr<LogPalette> description;
+    try {
+        description = std::make_unique<LogPalette>();
+        description->entryCount = static_cast<std::uint16_t>(table.count & 0xFFFF);
+        description->entries.reserve(description->entryCount);
+    } catch (const std::bad_alloc&) {
+        reportTlf(kNoLogPalette);
+        return nullptr;
+    }
     for (std::int32_t i = 0; i < table.count; ++i) {
         PaletteEntry entry;
         if (!toPaletteEntry(i, entry.red, entry.green, entry.blue, entry.flags)) {
-            reportTlf("TextureLookupTable::newLogPalette() ... !!!Error!!!\n");
+            reportTlf(kNoLogPalette);
             return nullptr;
         }
         if (i < description->entryCount)
@@ -212,7 +221,7 @@ bool TextureLookupTable::createPalette(DisplayPalette& palette) const {
 }
 
 bool TextureLookupTable::querySave() {
-    if (!modified && standsAtSavedPosition())
+    if (!modified && standsAtSavedPosition() && holdsWhatTheFileHolds())
         return true;
     switch (
         applicationMessage("\"" + title + "\" (TLF) is modified. save now?", MessageButtons::YesNoCancel)) {
@@ -254,14 +263,14 @@ bool TextureLookupTable::commitEdit() {
 bool TextureLookupTable::undo() {
     if (!history || !history->undo(&table))
         return false;
-    historyMoved();
+    updateTitle();
     return true;
 }
 
 bool TextureLookupTable::redo() {
     if (!history || !history->redo(&table))
         return false;
-    historyMoved();
+    updateTitle();
     return true;
 }
 
@@ -275,9 +284,10 @@ bool TextureLookupTable::canRedo() const {
 
 void TextureLookupTable::resetHistory() {
     const bool saved = standsAtSavedPosition();
+    // First the old one goes: the user may have asked for this because memory is short.
+    history.reset();
     history = std::make_unique<UndoHistory>();
     savedPosition_ = saved ? history->position() : kUnreachable;
-    openedOverHistory_ = false;
 }
 
 void TextureLookupTable::titleFromPath() {
@@ -305,16 +315,18 @@ bool TextureLookupTable::standsAtSavedPosition() const {
     return !history || history->position() == savedPosition_;
 }
 
-void TextureLookupTable::markSaved() {
-    savedPosition_ = history ? history->position() : 0;
-    openedOverHistory_ = false;
+/// A palette that was never saved or opened has no file to differ from.
+bool TextureLookupTable::holdsWhatTheFileHolds() const {
+    if (!savedTable_)
+        return true;
+    const std::span mine(table.entries, static_cast<std::size_t>(table.count));
+    const std::span theirs(savedTable_->entries, static_cast<std::size_t>(savedTable_->count));
+    return table.colourType == savedTable_->colourType && std::ranges::equal(mine, theirs);
 }
 
-void TextureLookupTable::historyMoved() {
-    // Undoing restores the table before the file was read, so no edit leads back to what the file holds.
-    if (openedOverHistory_)
-        savedPosition_ = kUnreachable;
-    updateTitle();
+void TextureLookupTable::markSaved() {
+    savedPosition_ = history ? history->position() : 0;
+    savedTable_ = table;
 }
 
 std::unique_ptr<UndoRecord> TextureLookupTable::newRecord() const {

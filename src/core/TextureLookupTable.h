@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace dyeworks {
@@ -60,8 +61,9 @@ public:
     /// Makes `palette` show the entries' display colours.
     bool createPalette(DisplayPalette& palette) const;
 
-    /// Asks whether to save when the palette is modified or its history stands elsewhere than at the last
-    /// save. True: the caller may go on, the palette being saved or not to be saved.
+    /// Asks whether to save when the palette is modified, or its history stands elsewhere than at the last
+    /// save, or the table is not what its file holds. True: the caller may go on, the palette being saved or
+    /// not to be saved.
     bool querySave();
 
     /// Bracket every undoable edit. `beginEdit` keeps the table as it is: false when there is no memory for
@@ -100,12 +102,12 @@ public:
 private:
     bool changed(bool result);
     [[nodiscard]] bool standsAtSavedPosition() const;
+    [[nodiscard]] bool holdsWhatTheFileHolds() const;
     void markSaved();
-    void historyMoved();
     [[nodiscard]] std::unique_ptr<UndoRecord> newRecord() const;
 
     std::int32_t savedPosition_ = 0; ///< History position that the file holds; -1 when none can be reached.
-    bool openedOverHistory_ = false; ///< The edits in the history are of a table that `open` replaced.
+    std::optional<TlutData> savedTable_; ///< What was last written or read.
     RecordFactory makeRecord_;
 };
 

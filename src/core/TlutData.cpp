@@ -10,6 +10,8 @@
 #include <cassert>
 #include <cstddef>
 #include <cstring>
+#include <new>
+#include <optional>
 #include <span>
 #include <type_traits>
 #include <utility>
@@ -83,7 +85,8 @@ TlutData::TlutData(TlutData&& other) noexcept
 TlutData& TlutData::operator=(const TlutData& other) {
     if (this == &other)
         return *this;
-    if (create(other.count, other.colourType))
+    // A damaged record may count entries that it does not have.
+    if (create(other.entries == nullptr ? 0 : other.count, other.colourType))
         copyEntriesFrom(other);
     return *this;
 }
@@ -223,9 +226,15 @@ bool TlutData::readTlf(const std::string& path) {
 }
 
 bool TlutData::saveTlf(const std::string& path) const {
-    const auto file = serialiseTlf(*this);
+    std::optional<ByteBuffer> file;
+    try {
+        file = serialiseTlf(*this);
+    } catch (const std::bad_alloc&) {
+        reportTlf("[" + displayPath(path) + "] file open failed.\n");
+        return false;
+    }
     if (!file) {
-        reportTlf("Illegal color number = " + std::to_string(entries == nullptr ? 0 : count) + ".\n");
+        reportTlf("Illegal color number = " + std::to_string(count) + ".\n");
         return false;
     }
     if (platform().files().write(path, file->bytes())) {

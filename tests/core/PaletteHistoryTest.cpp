@@ -173,11 +173,16 @@ TEST_F(PaletteSavedPosition, SurvivesAFailedSave) {
     EXPECT_FALSE(asks());
 }
 
-TEST_F(PaletteSavedPosition, OfAFileReadOverAHistoryEndsWithTheFirstStep) {
-    edit(1);
+TEST_F(PaletteSavedPosition, IsNoProofWhenTheTableIsNotWhatTheFileHolds) {
+    editAndSave(1);
     ASSERT_TRUE(palette.undo() && palette.open(kPath.c_str()));
-    EXPECT_FALSE(asks());
+    EXPECT_FALSE(asks()) << "the file was read again over the history";
     ASSERT_TRUE(palette.redo() && palette.undo());
     EXPECT_FALSE(palette.modified);
-    EXPECT_TRUE(asks());
+    EXPECT_TRUE(asks()) << "the history led back to the table before that";
+
+    ASSERT_TRUE(palette.beginEdit() && palette.setEntry(0, 9) && palette.save(nullptr, false));
+    ASSERT_TRUE(palette.commitEdit() && palette.undo());
+    palette.modified = false;
+    EXPECT_TRUE(asks()) << "saved in the middle of an edit that was then undone";
 }

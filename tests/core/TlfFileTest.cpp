@@ -55,7 +55,7 @@ TEST_F(TlfWriter, RefusesOtherCountsAndReportsWhateverFailsAsOpening) {
     EXPECT_EQ(fake.files.textOf(kPath), "old");
     EXPECT_THAT(fake.messages.shown,
                 ElementsAre(Shows(report("[TLF]", "Illegal color number = 32.\n")),
-                            Shows(report("[TLF]", "Illegal color number = 0.\n")),
+                            Shows(report("[TLF]", "Illegal color number = 16.\n")),
                             Shows(report("[TLF]", "[" + kPath + "] file open failed.\n"))));
 }
 
