@@ -42,7 +42,7 @@ public:
     /// No palette was attached: there is no image to see, and the window writes so over the button face.
     [[nodiscard]] bool showsNoPalette() const;
 
-    /// A press that makes a double-click of the one before it is not reported.
+    /// The second press of a double-click comes like any other.
     void PointerPressed(const PointerEvent& event);
     void PointerMoved(const PointerEvent& event);
     void PointerReleased(const PointerEvent& event);
