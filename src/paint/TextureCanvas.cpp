@@ -25,6 +25,8 @@ bool isEmpty(const Rect& inclusive) {
 } // namespace
 
 TextureCanvas::TextureCanvas(const TmfImage& image) {
+    if (image.bits < 0 || image.bits > std::numeric_limits<std::uint16_t>::max())
+        return;
     if (TextureCanvas::Create(image.width, image.height, 1, static_cast<std::uint16_t>(image.bits)))
         FromImage(image);
 }

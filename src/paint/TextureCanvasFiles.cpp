@@ -36,9 +36,14 @@ std::unique_ptr<TmfImage> TextureCanvas::ToImage() const {
 }
 
 void TextureCanvas::FromImage(const TmfImage& image) {
+    // A damaged record may tell sides without having texels, or sides that no image has.
+    if (!image.holdsTexels())
+        return;
     if (!isPlain() || !hasCanvasRows(image) || image.bits != bitsPerPixel_) {
-        for (std::int32_t y = 0; y < image.height; ++y) {
-            for (std::int32_t x = 0; x < image.width; ++x)
+        const std::int32_t right = isPlain() ? std::min(image.width, width_) : image.width;
+        const std::int32_t bottom = isPlain() ? std::min(image.height, height_) : image.height;
+        for (std::int32_t y = 0; y < bottom; ++y) {
+            for (std::int32_t x = 0; x < right; ++x)
                 SetPixel(x, y, image.getTexel(x, y));
         }
         return;

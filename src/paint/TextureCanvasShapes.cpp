@@ -254,6 +254,17 @@ void walkEllipse(const Rect& box, Steep&& steep, Flat&& flat) {
     } while (d <= 0);
 }
 
+/// False when not even a flat one that runs past its corners can reach the canvas: then there is no need to
+/// walk what may be billions of steps. A quarter ends where its slopes meet, at most at 1.42 of its half
+/// axis.
+bool ellipseReaches(const Rect& box, Range columns, Range rows) {
+    const auto reaches = [](std::int64_t low, std::int64_t high, Range range) {
+        const std::int64_t margin = (high - low) + 2;
+        return high + margin >= range.first && low - margin <= range.last;
+    };
+    return reaches(box.left, box.right, columns) && reaches(box.top, box.bottom, rows);
+}
+
 std::int64_t truncated(double value) {
     return static_cast<std::int64_t>(value);
 }
@@ -314,13 +325,19 @@ void TextureCanvas::FillBox(std::int32_t x1, std::int32_t y1, std::int32_t x2, s
 void TextureCanvas::DrawEllipse(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
                                 std::uint32_t value) {
     const Rect box = Rect{x1, y1, x2, y2}.normalised();
-    isPlain() ? drawEllipse(SpanPen(*this, value), box) : drawEllipse(PixelPen(*this, value), box);
+    if (!isPlain())
+        drawEllipse(PixelPen(*this, value), box);
+    else if (ellipseReaches(box, columns(), rows()))
+        drawEllipse(SpanPen(*this, value), box);
 }
 
 void TextureCanvas::FillEllipse(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
                                 std::uint32_t value) {
     const Rect box = Rect{x1, y1, x2, y2}.normalised();
-    isPlain() ? fillEllipse(SpanPen(*this, value), box) : fillEllipse(PixelPen(*this, value), box);
+    if (!isPlain())
+        fillEllipse(PixelPen(*this, value), box);
+    else if (ellipseReaches(box, columns(), rows()))
+        fillEllipse(SpanPen(*this, value), box);
 }
 
 } // namespace dyeworks
