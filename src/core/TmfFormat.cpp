@@ -1,6 +1,7 @@
 #include "core/TmfFormat.h"
 
 #include "core/ByteCursor.h"
+#include "platform/Platform.h"
 
 #include <algorithm>
 #include <array>
@@ -119,31 +120,46 @@ Result<TmfImage, TmfError> parseTmf(FileReader& file) {
                      [&file](std::span<std::byte> room) { return file.read(room); });
 }
 
-std::optional<ByteBuffer> serialiseTmf(const TmfImage& image) {
+std::optional<TmfFile> layOutTmf(const TmfImage& image) {
     if ((image.bits != 4 && image.bits != 8) || !image.holdsTexels())
         return std::nullopt;
 
+    TmfFile file;
+    ByteWriter header(file.header);
+    header.be32(image.bits == 4 ? kTag4Bit : kTag8Bit);
+    header.be32(static_cast<std::uint32_t>(image.width));
+    header.be32(static_cast<std::uint32_t>(image.height));
+    header.be32(static_cast<std::uint32_t>(image.bits));
+    header.zeroes(kReservedSize);
+
     const Layout layout(image);
-    try {
-        ByteBuffer file(kHeaderSize + layout.packedSize);
-        ByteWriter writer(file.bytes());
-        writer.be32(image.bits == 4 ? kTag4Bit : kTag8Bit);
-        writer.be32(static_cast<std::uint32_t>(image.width));
-        writer.be32(static_cast<std::uint32_t>(image.height));
-        writer.be32(static_cast<std::uint32_t>(image.bits));
-        writer.zeroes(kReservedSize);
-        ByteReader block(image.block());
-        for (std::size_t row = 0; row < layout.rows; ++row) {
-            const auto stored = block.take(layout.stride);
-            writer.copy(stored.first(layout.rowSize));
-        }
-        writer.zeroes(layout.packedSize - layout.rowSize * layout.rows);
-        if (image.bits == 4 && image.width % 2 != 0)
-            clearUnusedNibbles(file.bytes().subspan(kHeaderSize), layout);
+    const bool unusedNibbles = image.bits == 4 && image.width % 2 != 0;
+    if (layout.rowSize == layout.stride && !unusedNibbles) {
+        file.body = image.block();
         return file;
+    }
+    try {
+        file.packed = ByteBuffer(layout.packedSize);
     } catch (const std::bad_alloc&) {
         return std::nullopt;
     }
+    ByteWriter body(file.packed.bytes());
+    ByteReader block(image.block());
+    for (std::size_t row = 0; row < layout.rows; ++row)
+        body.copy(block.take(layout.stride).first(layout.rowSize));
+    body.zeroes(layout.packedSize - layout.rowSize * layout.rows);
+    if (unusedNibbles)
+        clearUnusedNibbles(file.packed.bytes(), layout);
+    file.body = file.packed.bytes();
+    return file;
+}
+
+std::optional<FileError> writeTmf(const TmfImage& image, const std::string& path) {
+    const std::optional<TmfFile> file = layOutTmf(image);
+    if (!file)
+        return FileError::TooLarge;
+    const std::array<std::span<const std::byte>, 2> pieces{file->header, file->body};
+    return platform().files().writePieces(path, pieces);
 }
 
 } // namespace dyeworks

@@ -5,10 +5,12 @@
 #include "platform/Files.h"
 #include "platform/Result.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 
 namespace dyeworks {
 
@@ -41,9 +43,20 @@ Result<TmfImage, TmfError> parseTmf(std::span<const std::byte> file);
 /// The same from a file that is open at its start; the texels are read straight into the image.
 Result<TmfImage, TmfError> parseTmf(FileReader& file);
 
-/// The file that holds `image`: header, then packed rows from the bottom up, zeroes up to a multiple of 4
-/// bytes. Nothing for a depth other than 4 or 8 bits, for a record without texels or with sides that no
-/// image has, or when there is no memory.
-[[nodiscard]] std::optional<ByteBuffer> serialiseTmf(const TmfImage& image);
+/// A TMF file laid out for writing: header, then the rows from the bottom up without what pads them in
+/// memory, then zeroes up to a multiple of 4 bytes.
+struct TmfFile {
+    std::array<std::byte, 64> header;
+    ByteBuffer packed;               ///< The body, where it differs from the image's block.
+    std::span<const std::byte> body; ///< Stands in `packed` or in the image.
+};
+
+/// The file that holds `image`, which must stay as it is meanwhile. Nothing for a depth other than 4 or 8
+/// bits, for a record without texels or with sides that no image has, or when there is no memory.
+[[nodiscard]] std::optional<TmfFile> layOutTmf(const TmfImage& image);
+
+/// Writes the image. Nothing: written; otherwise why not, TooLarge standing for an image that no file can
+/// hold or memory cannot lay out.
+[[nodiscard]] std::optional<FileError> writeTmf(const TmfImage& image, const std::string& path);
 
 } // namespace dyeworks

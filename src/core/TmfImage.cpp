@@ -205,8 +205,7 @@ bool TmfImage::readTmf(const std::string& path) {
 }
 
 bool TmfImage::saveTmf(const std::string& path) const {
-    const auto file = serialiseTmf(*this);
-    return file && !platform().files().write(path, file->bytes());
+    return !writeTmf(*this, path);
 }
 
 std::int64_t TmfImage::stride() const {

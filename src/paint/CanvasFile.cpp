@@ -2,7 +2,6 @@
 
 #include "core/TmfFormat.h"
 #include "paint/TextureCanvas.h"
-#include "platform/Platform.h"
 
 namespace dyeworks {
 
@@ -10,10 +9,7 @@ std::optional<FileError> saveCanvas(const TextureCanvas& canvas, const std::stri
     const std::unique_ptr<TmfImage> image = canvas.ToImage();
     if (image == nullptr)
         return FileError::TooLarge;
-    const std::optional<ByteBuffer> file = serialiseTmf(*image);
-    if (!file)
-        return FileError::TooLarge;
-    return platform().files().write(path, file->bytes());
+    return writeTmf(*image, path);
 }
 
 } // namespace dyeworks

@@ -33,6 +33,9 @@ struct FileEntry {
     bool directory = false;
 };
 
+/// Parts of a file's contents, in their order.
+using FilePieces = std::span<const std::span<const std::byte>>;
+
 /// A file that is open for reading, for readers that want to put its bytes where they belong instead of
 /// taking a copy of the whole.
 class FileReader {
@@ -77,11 +80,16 @@ public:
     [[nodiscard]] virtual Result<std::unique_ptr<FileReader>, FileError>
     openForReading(const std::string& path) const = 0;
 
-    /// Replaces the file by `bytes` in one step, or leaves it exactly as it was: the bytes go to a temporary
-    /// file beside it, are flushed to the disk and renamed over it. Permissions survive, and a symbolic
-    /// link keeps pointing at the replaced file. Nothing: written.
-    [[nodiscard]] virtual std::optional<FileError> write(const std::string& path,
-                                                         std::span<const std::byte> bytes) = 0;
+    /// Replaces the file by `pieces`, one after the other, in one step, or leaves it exactly as it was: the
+    /// bytes go to a temporary file beside it, are flushed to the disk and renamed over it. Permissions
+    /// survive, and a symbolic link keeps pointing at the replaced file. Nothing: written.
+    [[nodiscard]] virtual std::optional<FileError> writePieces(const std::string& path,
+                                                               FilePieces pieces) = 0;
+
+    /// The same for bytes that stand in one place.
+    [[nodiscard]] std::optional<FileError> write(const std::string& path, std::span<const std::byte> bytes) {
+        return writePieces(path, FilePieces(&bytes, 1));
+    }
 
     /// Folder of the running program, with a trailing "\".
     [[nodiscard]] virtual std::string programFolder() const = 0;

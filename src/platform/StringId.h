@@ -27,7 +27,6 @@ enum class StringId {
     BarView,
     BarDraw,
     BarPalette,
-    BarsMenu, ///< Submenu of what can be shown and hidden.
     NoPaletteOpen,
     OpenPalettes,
     PaletteColours,

@@ -48,7 +48,7 @@ void FakeFiles::unmapDrive(char letter) {
 
 void FakeFiles::putFile(const std::string& path, std::span<const std::byte> bytes) {
     createDirectory(path + "\\..");
-    if (PosixFiles::write(path, bytes))
+    if (PosixFiles::writePieces(path, FilePieces(&bytes, 1)))
         fail("put", path);
 }
 
@@ -102,10 +102,10 @@ Result<std::unique_ptr<FileReader>, FileError> FakeFiles::openForReading(const s
     return PosixFiles::openForReading(path);
 }
 
-std::optional<FileError> FakeFiles::write(const std::string& path, std::span<const std::byte> bytes) {
+std::optional<FileError> FakeFiles::writePieces(const std::string& path, FilePieces pieces) {
     std::optional<FileError> error = takeFailure(writeFailures_);
     if (!error)
-        error = PosixFiles::write(path, bytes);
+        error = PosixFiles::writePieces(path, pieces);
     if (!error)
         written_.push_back(path);
     return error;

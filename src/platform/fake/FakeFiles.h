@@ -55,8 +55,7 @@ public:
     [[nodiscard]] Result<ByteBuffer, FileError> read(const std::string& path) const override;
     [[nodiscard]] Result<std::unique_ptr<FileReader>, FileError>
     openForReading(const std::string& path) const override;
-    [[nodiscard]] std::optional<FileError> write(const std::string& path,
-                                                 std::span<const std::byte> bytes) override;
+    [[nodiscard]] std::optional<FileError> writePieces(const std::string& path, FilePieces pieces) override;
     [[nodiscard]] std::string programFolder() const override { return programFolder_; }
     [[nodiscard]] std::string displayPath(const std::string& path) const override;
 

@@ -21,7 +21,6 @@ Result<std::unique_ptr<FileReader>, FileError> openHostFile(const std::string& p
 
 /// Replaces the file in one step or leaves it as it was. `path` is a host path; symbolic links are followed
 /// and stay. Devices and pipes are written into, since there is nothing beside them to put in their place.
-[[nodiscard]] std::optional<FileError> writeHostFile(const std::string& path,
-                                                     std::span<const std::byte> bytes);
+[[nodiscard]] std::optional<FileError> writeHostFile(const std::string& path, FilePieces pieces);
 
 } // namespace dyeworks

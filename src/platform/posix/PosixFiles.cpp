@@ -170,11 +170,11 @@ Result<std::unique_ptr<FileReader>, FileError> PosixFiles::openForReading(const 
     return openHostFile(host);
 }
 
-std::optional<FileError> PosixFiles::write(const std::string& path, std::span<const std::byte> bytes) {
+std::optional<FileError> PosixFiles::writePieces(const std::string& path, FilePieces pieces) {
     const std::string host = hostPath(path);
     if (host.empty())
         return FileError::NotFound;
-    return writeHostFile(host, bytes);
+    return writeHostFile(host, pieces);
 }
 
 std::string PosixFiles::programFolder() const {

@@ -59,6 +59,14 @@ ErrorNumber writeAll(int descriptor, std::span<const std::byte> bytes) {
     return 0;
 }
 
+ErrorNumber writeAll(int descriptor, FilePieces pieces) {
+    for (const std::span<const std::byte> piece : pieces) {
+        if (const ErrorNumber error = writeAll(descriptor, piece); error != 0)
+            return error;
+    }
+    return 0;
+}
+
 ErrorNumber flush(int descriptor) {
     while (::fsync(descriptor) != 0) {
         // A file system that knows no flushing has nothing held back.
@@ -155,7 +163,7 @@ Descriptor openFolder(const std::string& path) {
 }
 
 /// `old` is null for a file that does not exist.
-ErrorNumber replaceFile(const std::string& path, const struct stat* old, std::span<const std::byte> bytes) {
+ErrorNumber replaceFile(const std::string& path, const struct stat* old, FilePieces pieces) {
     const Descriptor folder = openFolder(folderOf(path));
     if (!folder.valid())
         return errno;
@@ -165,7 +173,7 @@ ErrorNumber replaceFile(const std::string& path, const struct stat* old, std::sp
     if (error == 0 && old != nullptr)
         error = keepPermissions(file.get(), path, *old);
     if (error == 0)
-        error = writeAll(file.get(), bytes);
+        error = writeAll(file.get(), pieces);
     if (error == 0)
         error = flush(file.get());
     if (error == 0)
@@ -180,36 +188,36 @@ ErrorNumber replaceFile(const std::string& path, const struct stat* old, std::sp
 }
 
 /// Devices and pipes. A pipe that nobody reads from fails in open, where it would wait without O_NONBLOCK.
-ErrorNumber writeInto(const std::string& path, std::span<const std::byte> bytes) {
+ErrorNumber writeInto(const std::string& path, FilePieces pieces) {
     Descriptor device(::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
     if (!device.valid() || ::fcntl(device.get(), F_SETFL, O_WRONLY) != 0)
         return errno;
-    if (const ErrorNumber error = writeAll(device.get(), bytes); error != 0)
+    if (const ErrorNumber error = writeAll(device.get(), pieces); error != 0)
         return error;
     return device.close();
 }
 
-ErrorNumber writeResolved(std::string path, std::span<const std::byte> bytes) {
+ErrorNumber writeResolved(std::string path, FilePieces pieces) {
     if (const ErrorNumber error = followLinks(path); error != 0)
         return error;
     struct stat old {};
     if (::stat(path.c_str(), &old) != 0)
-        return errno == ENOENT ? replaceFile(path, nullptr, bytes) : errno;
+        return errno == ENOENT ? replaceFile(path, nullptr, pieces) : errno;
     if (S_ISDIR(old.st_mode))
         return EISDIR;
     if (!S_ISREG(old.st_mode))
-        return writeInto(path, bytes);
+        return writeInto(path, pieces);
     // Replacing asks for rights to the folder only; a file that is protected itself is left alone.
     if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0)
         return errno;
-    return replaceFile(path, &old, bytes);
+    return replaceFile(path, &old, pieces);
 }
 
 } // namespace
 
-std::optional<FileError> writeHostFile(const std::string& path, std::span<const std::byte> bytes) {
+std::optional<FileError> writeHostFile(const std::string& path, FilePieces pieces) {
     const SignalShield shield;
-    const ErrorNumber error = writeResolved(path, bytes);
+    const ErrorNumber error = writeResolved(path, pieces);
     if (error == 0)
         return std::nullopt;
     return fileErrorFrom(error);
