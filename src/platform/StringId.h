@@ -27,6 +27,7 @@ enum class StringId {
     BarView,
     BarDraw,
     BarPalette,
+    BarsMenu, ///< Submenu of what can be shown and hidden.
     NoPaletteOpen,
     OpenPalettes,
     PaletteColours,

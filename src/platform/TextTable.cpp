@@ -40,6 +40,7 @@ constexpr std::array kRows{
     Row{StringId::BarView, QT_TRANSLATE_NOOP("Text", "View")},
     Row{StringId::BarDraw, QT_TRANSLATE_NOOP("Text", "Draw")},
     Row{StringId::BarPalette, QT_TRANSLATE_NOOP("Text", "Palette")},
+    Row{StringId::BarsMenu, QT_TRANSLATE_NOOP("Text", "&Bars")},
     Row{StringId::NoPaletteOpen, QT_TRANSLATE_NOOP("Text", "No palette is open.")},
     Row{StringId::OpenPalettes, QT_TRANSLATE_NOOP("Text", "Open palettes")},
     Row{StringId::PaletteColours, QT_TRANSLATE_NOOP("Text", "Palette colours")},
