@@ -106,7 +106,8 @@ bool TextureCanvas::CreateFrom(const BmpImage& bitmap) {
         std::copy_n(bitmap.colours.data() + at, bitmap.colourSize, colour);
 
     assert(bitmap.rows.size() == rowBytes());
-    if (!bitmap.topDown) {
+    // Rows without bytes may be billions.
+    if (!bitmap.topDown || stride_ == 0) {
         std::copy(bitmap.rows.begin(), bitmap.rows.end(), block_.get() + pixelOffset_);
         return true;
     }
