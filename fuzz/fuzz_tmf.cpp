@@ -1,6 +1,7 @@
 #include "Require.h"
 #include "core/TmfFormat.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -22,8 +23,8 @@ void requireSameTexels(const TmfImage& a, const TmfImage& b) {
 std::vector<std::byte> fileOf(const TmfImage& image) {
     const auto file = layOutTmf(image);
     require(file.has_value(), "an image that was read can be written");
-    std::vector<std::byte> bytes(file->header.begin(), file->header.end());
-    bytes.insert(bytes.end(), file->body.begin(), file->body.end());
+    std::vector<std::byte> bytes(file->header.size() + file->body.size());
+    std::ranges::copy(file->body, std::ranges::copy(file->header, bytes.begin()).out);
     return bytes;
 }
 
