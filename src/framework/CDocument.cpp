@@ -41,12 +41,15 @@ void CDocument::setModified(bool modified) {
 
 void CDocument::addView(DocumentView& view) {
     // A view may join by itself before the frame around it lets it join.
-    if (std::ranges::find(views_, &view) == views_.end())
-        views_.push_back(&view);
+    if (std::ranges::find(views_, &view) != views_.end())
+        return;
+    views_.push_back(&view);
+    tellTitleListeners();
 }
 
 void CDocument::removeView(DocumentView& view) {
-    std::erase(views_, &view);
+    if (std::erase(views_, &view) > 0)
+        tellTitleListeners();
 }
 
 void CDocument::updateAllViews(DocumentView* sender, int hint) {
@@ -118,6 +121,10 @@ void CDocument::OnFileSaveAs() {
 void CDocument::tellRenamed() {
     for (DocumentView* view : std::vector(views_))
         view->documentRenamed();
+    tellTitleListeners();
+}
+
+void CDocument::tellTitleListeners() {
     for (DocumentTitleListener* listener : std::vector(titleListeners_))
         listener->documentRenamed();
 }

@@ -29,7 +29,7 @@ public:
 
     [[nodiscard]] DocumentTemplate* documentTemplate() const noexcept { return template_; }
 
-    /// Views are not owned.
+    /// Views are not owned. Title listeners hear of each that comes or goes.
     void addView(DocumentView& view);
     void removeView(DocumentView& view);
     [[nodiscard]] const std::vector<DocumentView*>& views() const noexcept { return views_; }
@@ -66,6 +66,7 @@ private:
     void OnFileSaveAs();
     bool saveTo(const std::string& path);
     void tellRenamed();
+    void tellTitleListeners();
 
     DocumentTemplate* template_;
     std::string title_;

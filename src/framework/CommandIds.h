@@ -9,18 +9,31 @@ namespace dyeworks {
 using CommandId = std::uint32_t;
 
 // NOLINTBEGIN(readability-identifier-naming)
+inline constexpr CommandId ID_FILE_NEW = 57600;
 inline constexpr CommandId ID_FILE_OPEN = 57601;
 inline constexpr CommandId ID_FILE_CLOSE = 57602;
 inline constexpr CommandId ID_FILE_SAVE = 57603;
 inline constexpr CommandId ID_FILE_SAVE_AS = 57604;
+inline constexpr CommandId ID_FILE_PRINT_SETUP = 57606;
+inline constexpr CommandId ID_FILE_PRINT = 57607;
+inline constexpr CommandId ID_FILE_PRINT_DIRECT = 57608;
+inline constexpr CommandId ID_FILE_PRINT_PREVIEW = 57609;
 inline constexpr CommandId ID_EDIT_UNDO = 57643;
 inline constexpr CommandId ID_EDIT_REDO = 57644;
+inline constexpr CommandId ID_WINDOW_NEW = 57648;
 inline constexpr CommandId ID_WINDOW_ARRANGE = 57649;
 inline constexpr CommandId ID_WINDOW_CASCADE = 57650;
 inline constexpr CommandId ID_WINDOW_TILE_HORZ = 57651;
 inline constexpr CommandId ID_WINDOW_TILE_VERT = 57652;
 inline constexpr CommandId ID_APP_ABOUT = 57664;
 inline constexpr CommandId ID_APP_EXIT = 57665;
+
+// The bars: the number of each is the command that shows and hides it.
+inline constexpr CommandId ID_VIEW_PALETTEBAR = 103;
+inline constexpr CommandId ID_VIEW_TOOLBAR = 59392;
+inline constexpr CommandId ID_VIEW_STATUS_BAR = 59393;
+inline constexpr CommandId ID_VIEW_DRAWBAR = 59396;
+inline constexpr CommandId ID_VIEW_VIEWBAR = 59397;
 
 inline constexpr CommandId ID_TOOL_PIXEL = 32771;
 inline constexpr CommandId ID_TOOL_BOX = 32772;
@@ -33,14 +46,24 @@ inline constexpr CommandId ID_ZOOM_OUT = 32778;
 inline constexpr CommandId ID_TOOL_PEN = 32780;
 inline constexpr CommandId ID_TOOL_LINE = 32781;
 inline constexpr CommandId ID_VIEW_GRID = 32793;
+inline constexpr CommandId ID_PREVIEW1 = 32799;
+inline constexpr CommandId ID_PREVIEW2 = 32800;
 inline constexpr CommandId ID_PALETTE_CLOSE = 32816;
 inline constexpr CommandId ID_PALETTE_SAVE = 32817;
 inline constexpr CommandId ID_PALETTE_SAVE_AS = 32818;
 inline constexpr CommandId ID_PALETTE_OPEN = 32824;
+
+/// Plug-in number n of the import (export) list is command ID_IMPORT_FIRST + n (ID_EXPORT_FIRST + n).
+inline constexpr CommandId ID_IMPORT_FIRST = 32857;
+inline constexpr CommandId ID_IMPORT_LAST = 32872;
+inline constexpr CommandId ID_EXPORT_FIRST = 32874;
+inline constexpr CommandId ID_EXPORT_LAST = 32889;
+
 inline constexpr CommandId ID_IMAGE_ATTACH = 32890;
 
 /// Zoom factor n is command ID_ZOOM_BASE + n.
 inline constexpr CommandId ID_ZOOM_BASE = 32900;
+inline constexpr CommandId ID_ZOOM_SPECIFY = 32900;
 inline constexpr CommandId ID_ZOOM_X1 = 32901;
 inline constexpr CommandId ID_ZOOM_X2 = 32902;
 inline constexpr CommandId ID_ZOOM_X3 = 32903;
@@ -49,6 +72,9 @@ inline constexpr CommandId ID_ZOOM_X6 = 32906;
 inline constexpr CommandId ID_ZOOM_X8 = 32908;
 inline constexpr CommandId ID_ZOOM_X12 = 32912;
 inline constexpr CommandId ID_ZOOM_X16 = 32916;
+inline constexpr CommandId ID_IMAGE_ADD_TO_PROJECT = 32944;
+
+inline constexpr CommandId ID_FILE_REVERT = 33100;
 // NOLINTEND(readability-identifier-naming)
 
 } // namespace dyeworks

@@ -50,6 +50,8 @@ public:
     /// The file's document in a window of its own, the open one brought to the front if there is one; null
     /// when the file could not be read or the window could not be made.
     CDocument* openDocument(const std::string& path);
+    /// One more window for an open document of this kind. False when it could not be made.
+    bool newWindow(CDocument& document) { return windows_.openWindow(document); }
     /// Ends the document, which must have no view left.
     void dropDocument(CDocument& document);
 

@@ -17,7 +17,8 @@ public:
     virtual void documentRenamed() {}
 };
 
-/// Told what views are told of the document's name, without being one of them: a frame that shows the title.
+/// Told what views are told of the document's name, and when it has more or fewer views, without being one of
+/// them: a frame that shows the title.
 class DocumentTitleListener {
 public:
     virtual ~DocumentTitleListener() = default;

@@ -14,6 +14,8 @@ struct MenuItem {
 };
 
 inline constexpr MenuItem kSeparator{};
+/// Stands where a main window lists its child frames; the last line of its menu.
+inline constexpr MenuItem kWindowList{65280};
 inline constexpr const char* kMenuContext = "Menu";
 
 } // namespace dyeworks

@@ -19,6 +19,8 @@ enum class StringId {
 
     CannotSaveFile,      ///< %1 file, %2 why
     SaveChangesQuestion, ///< %1 document
+    CannotReadFile,      ///< %1 file
+    RevertQuestion,      ///< %1 document
 
     ChosenFileMissing,   ///< %1 file
     ReplaceFileQuestion, ///< %1 file
@@ -27,7 +29,6 @@ enum class StringId {
     BarView,
     BarDraw,
     BarPalette,
-    BarsMenu, ///< Submenu of what can be shown and hidden.
     NoPaletteOpen,
     OpenPalettes,
     PaletteColours,
@@ -38,6 +39,24 @@ enum class StringId {
     AboutCaption,
     AboutVersion, ///< Before the number.
     AboutDescription,
+
+    IntegerOutOfRange, ///< %1 lowest, %2 highest
+    NewSheetCaption,
+    NewImageTab,
+    NewImageWidth,
+    NewImageHeight,
+    NewImageBitMode,
+    NewImage4Bit,
+    NewImage8Bit,
+    NewImageSize,
+    NewImageBytes, ///< %1 number
+    NewImageWidthTip,
+    NewImageHeightTip,
+    NewImage4BitTip,
+    NewImage8BitTip,
+    NewImageSizeTip,
+    PrintingFailed,
+    PrintingProgress, ///< %1 page, %2 pages
 
     Count
 };

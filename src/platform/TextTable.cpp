@@ -30,6 +30,9 @@ constexpr std::array kRows{
 
     Row{StringId::CannotSaveFile, QT_TRANSLATE_NOOP("Text", "Cannot save \"%1\".\n%2")},
     Row{StringId::SaveChangesQuestion, QT_TRANSLATE_NOOP("Text", "Save changes to %1?")},
+    Row{StringId::CannotReadFile, QT_TRANSLATE_NOOP("Text", "Cannot read \"%1\".")},
+    Row{StringId::RevertQuestion,
+        QT_TRANSLATE_NOOP("Text", "Go back to the saved file?\nThe changes to \"%1\" will be lost.")},
 
     Row{StringId::ChosenFileMissing,
         QT_TRANSLATE_NOOP("Text", "\"%1\" does not exist.\nPlease check the name.")},
@@ -40,7 +43,6 @@ constexpr std::array kRows{
     Row{StringId::BarView, QT_TRANSLATE_NOOP("Text", "View")},
     Row{StringId::BarDraw, QT_TRANSLATE_NOOP("Text", "Draw")},
     Row{StringId::BarPalette, QT_TRANSLATE_NOOP("Text", "Palette")},
-    Row{StringId::BarsMenu, QT_TRANSLATE_NOOP("Text", "&Bars")},
     Row{StringId::NoPaletteOpen, QT_TRANSLATE_NOOP("Text", "No palette is open.")},
     Row{StringId::OpenPalettes, QT_TRANSLATE_NOOP("Text", "Open palettes")},
     Row{StringId::PaletteColours, QT_TRANSLATE_NOOP("Text", "Palette colours")},
@@ -52,6 +54,26 @@ constexpr std::array kRows{
     Row{StringId::AboutCaption, QT_TRANSLATE_NOOP("Text", "Version (Orrery Dyeworks)")},
     Row{StringId::AboutVersion, QT_TRANSLATE_NOOP("Text", "Orrery Dyeworks Version")},
     Row{StringId::AboutDescription, QT_TRANSLATE_NOOP("Text", "Editor for colour-indexed console textures")},
+
+    Row{StringId::IntegerOutOfRange, QT_TRANSLATE_NOOP("Text", "Enter an integer between %1 and %2.")},
+    Row{StringId::NewSheetCaption, QT_TRANSLATE_NOOP("Text", "New")},
+    Row{StringId::NewImageTab, QT_TRANSLATE_NOOP("Text", "Texture")},
+    Row{StringId::NewImageWidth, QT_TRANSLATE_NOOP("Text", "&Width:")},
+    Row{StringId::NewImageHeight, QT_TRANSLATE_NOOP("Text", "&Height:")},
+    Row{StringId::NewImageBitMode, QT_TRANSLATE_NOOP("Text", "Bit mode:")},
+    Row{StringId::NewImage4Bit, QT_TRANSLATE_NOOP("Text", "&4bit (16colors)")},
+    Row{StringId::NewImage8Bit, QT_TRANSLATE_NOOP("Text", "&8bit (256colors)")},
+    Row{StringId::NewImageSize, QT_TRANSLATE_NOOP("Text", "Size:")},
+    Row{StringId::NewImageBytes, QT_TRANSLATE_NOOP("Text", "%1 bytes")},
+    Row{StringId::NewImageWidthTip, QT_TRANSLATE_NOOP("Text", "Width of the image in texels, 0 to 1024")},
+    Row{StringId::NewImageHeightTip, QT_TRANSLATE_NOOP("Text", "Height of the image in texels, 0 to 1024")},
+    Row{StringId::NewImage4BitTip,
+        QT_TRANSLATE_NOOP("Text", "Each texel is one of the 16 colours of a palette bank")},
+    Row{StringId::NewImage8BitTip,
+        QT_TRANSLATE_NOOP("Text", "Each texel is one of the 256 colours of a palette")},
+    Row{StringId::NewImageSizeTip, QT_TRANSLATE_NOOP("Text", "Memory that the texels of the image take")},
+    Row{StringId::PrintingFailed, QT_TRANSLATE_NOOP("Text", "The document could not be printed.")},
+    Row{StringId::PrintingProgress, QT_TRANSLATE_NOOP("Text", "Printing page %1 of %2...")},
 };
 
 static_assert(kRows.size() == static_cast<std::size_t>(StringId::Count), "every StringId needs its text");

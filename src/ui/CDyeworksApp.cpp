@@ -5,6 +5,8 @@
 #include "platform/Platform.h"
 #include "platform/TextCase.h"
 #include "ui/AboutDialog.h"
+#include "ui/CFileNewSheet.h"
+#include "ui/CFileNewTexturePage.h"
 #include "ui/CMainFrame.h"
 #include "ui/PalettePanel.h"
 
@@ -20,6 +22,10 @@ constexpr const char* kOpenFilter = "Project Files (*.tpf)|*.tpf|Image Files (*.
 constexpr int kImageFilter = 2;
 constexpr int kPaletteFilter = 3;
 
+void tellNotInstalled(const char* text) {
+    platform().messages().show({text, "", MessageButtons::Ok, MessageIcon::None, MessageOwner::MainWindow});
+}
+
 } // namespace
 
 CDyeworksApp::CDyeworksApp()
@@ -28,6 +34,7 @@ CDyeworksApp::CDyeworksApp()
           {"Texture", ".tmf"},
           [this](DocumentTemplate& own) { return std::make_unique<CDyeworksDoc>(*this, &own); }, *this) {
     setApplicationPaletteSet(&palettes_);
+    on(ID_FILE_NEW, &CDyeworksApp::OnFileNew);
     on(ID_FILE_OPEN, &CDyeworksApp::OnFileOpen);
     on(ID_PALETTE_OPEN, &CDyeworksApp::OnPaletteOpen);
     on(ID_PALETTE_CLOSE, &CDyeworksApp::OnPaletteClose, &CDyeworksApp::updateNeedsPalette);
@@ -50,8 +57,10 @@ CDyeworksApp::~CDyeworksApp() {
 std::vector<CommandTarget*> CDyeworksApp::commandChain() {
     std::vector<CommandTarget*> chain;
     // Nothing is routed while the window is being made or has gone.
-    if (mainFrame_ != nullptr)
+    if (mainFrame_ != nullptr) {
         chain = mainFrame_->commandTargets();
+        chain.push_back(&mainFrame_->printing());
+    }
     chain.push_back(this);
     return chain;
 }
@@ -64,8 +73,8 @@ std::vector<CDyeworksDoc*> CDyeworksApp::imageDocuments() const {
 }
 
 CDyeworksDoc* CDyeworksApp::activeImage() const {
-    ImageView* view = mainFrame_ == nullptr ? nullptr : mainFrame_->activeImageView();
-    return view == nullptr ? nullptr : &view->view().document();
+    const CDyeworksView* view = activeView();
+    return view == nullptr ? nullptr : &view->document();
 }
 
 CDyeworksDoc* CDyeworksApp::activeImageOfCurrentPalette() const {
@@ -152,6 +161,38 @@ bool CDyeworksApp::isActiveImage(const CDyeworksDoc& document) const {
     return activeImage() == &document;
 }
 
+CDyeworksView* CDyeworksApp::activeView() const {
+    ImageView* view = mainFrame_ == nullptr ? nullptr : mainFrame_->activeImageView();
+    return view == nullptr ? nullptr : &view->view();
+}
+
+std::optional<NewImage> CDyeworksApp::askNewImage() {
+    CFileNewSheet sheet(mainFrame_.get());
+    if (sheet.exec() != QDialog::Accepted)
+        return std::nullopt;
+    const CFileNewTexturePage& page = sheet.texturePage();
+    return NewImage{page.imageWidth(), page.imageHeight(), static_cast<std::uint16_t>(page.bitsPerPixel())};
+}
+
+std::unique_ptr<TextureCanvas> CDyeworksApp::ImportImage(std::int32_t /*index*/, TmfImage* /*image*/,
+                                                         TlutData* /*palette*/,
+                                                         std::int32_t /*paletteNumber*/) {
+    tellNotInstalled("TMF Import Plug-In not installed.\n");
+    return nullptr;
+}
+
+bool CDyeworksApp::ExportImage(std::int32_t /*index*/, TmfImage* /*image*/, TlutData* /*palette*/,
+                               std::int32_t /*paletteNumber*/) {
+    tellNotInstalled("TMF Export Plug-In not installed.\n");
+    return false;
+}
+
+std::uint32_t CDyeworksApp::PreviewImage(TmfImage* /*image*/, TlutData* /*palette*/,
+                                         std::int32_t /*paletteNumber*/, std::int32_t /*which*/) {
+    tellNotInstalled("TMF Preview Plug-In not installed.\n");
+    return 0;
+}
+
 std::optional<PalettePanelState::Image> CDyeworksApp::panelImage() const {
     const CDyeworksDoc* image = activeImageOfCurrentPalette();
     if (image == nullptr)
@@ -188,6 +229,10 @@ void CDyeworksApp::openWithDialog(const char* defaultExtension, int filterIndex)
 
 void CDyeworksApp::updateNeedsPalette(CommandUi& ui) {
     ui.enabled = palettes_.lookup("") != nullptr;
+}
+
+void CDyeworksApp::OnFileNew() {
+    images_.newDocument();
 }
 
 void CDyeworksApp::OnFileOpen() {

@@ -5,6 +5,7 @@
 #include "framework/DocumentTemplate.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/ImageHost.h"
+#include "paint/ImagePlugIns.h"
 #include "ui/OpenedFile.h"
 #include "ui/PalettePanelHost.h"
 
@@ -21,6 +22,7 @@ class CMainFrame;
 /// there is one at a time.
 class CDyeworksApp : public CommandTarget,
                      public ImageHost,
+                     public ImagePlugIns,
                      public PalettePanelHost,
                      private DocumentWindows {
 public:
@@ -52,6 +54,22 @@ public:
     void refreshPaletteBar() override;
     void setStatusText(const std::string& text, int pane) override;
     [[nodiscard]] bool isActiveImage(const CDyeworksDoc& document) const override;
+    [[nodiscard]] CDyeworksView* activeView() const override;
+    [[nodiscard]] ImagePlugIns& imagePlugIns() override { return *this; }
+    [[nodiscard]] OpenProject* openProject() override { return nullptr; }
+    [[nodiscard]] std::optional<NewImage> askNewImage() override;
+    /// There is nothing to offer: projects are not among the kinds of documents.
+    void AskUseProject() override {}
+
+    // The image plug-ins. None is installed.
+    [[nodiscard]] std::vector<std::string> importNames() const override { return {}; }
+    [[nodiscard]] std::vector<std::string> exportNames() const override { return {}; }
+    [[nodiscard]] std::unique_ptr<TextureCanvas>
+    ImportImage(std::int32_t index, TmfImage* image, TlutData* palette, std::int32_t paletteNumber) override;
+    bool ExportImage(std::int32_t index, TmfImage* image, TlutData* palette,
+                     std::int32_t paletteNumber) override;
+    [[nodiscard]] std::uint32_t PreviewImage(TmfImage* image, TlutData* palette, std::int32_t paletteNumber,
+                                             std::int32_t which) override;
 
     // What the palette panel asks.
     [[nodiscard]] std::optional<PalettePanelState::Image> panelImage() const override;
@@ -70,6 +88,7 @@ private:
     OpenedFile openPalette(const std::string& path);
     void openWithDialog(const char* defaultExtension, int filterIndex);
     void updateNeedsPalette(CommandUi& ui);
+    void OnFileNew();
     void OnFileOpen();
     void OnPaletteOpen();
     void OnPaletteClose();

@@ -8,22 +8,19 @@
 #include "ui/CDyeworksApp.h"
 #include "ui/MainMenus.h"
 #include "ui/PalettePanel.h"
-#include "ui/WindowListMenu.h"
 
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QLabel>
 #include <QMdiArea>
-#include <QMenuBar>
+#include <QMenu>
 #include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QUrl>
 
-#include <algorithm>
 #include <memory>
-#include <string_view>
 
 namespace dyeworks {
 
@@ -32,6 +29,7 @@ namespace {
 constexpr const char* kLayoutSection = "Window";
 constexpr const char* kGeometryEntry = "Geometry";
 constexpr const char* kStateEntry = "State";
+constexpr const char* kStatusBarEntry = "StatusBar"; // Which the state of the bars leaves out.
 
 constexpr double kShareOfScreen = 0.9; // The rest is for the title bar and the desktop's panels.
 
@@ -64,15 +62,17 @@ std::vector<std::string> filesIn(const QMimeData& data) {
 CMainFrame::CMainFrame(CDyeworksApp& application)
     : application_(application)
     , actions_(application.router())
+    , printing_(*this)
     , palettePanel_(new PalettePanel(application, actions_.action(ID_PALETTE_OPEN), this)) {
     setObjectName(QStringLiteral("IDR_MAINFRAME"));
     setCaption(QString::fromStdString(text(StringId::ApplicationTitle)));
     setAcceptDrops(true);
-    makeToolBar("ID_VIEW_TOOLBAR", StringId::BarTool, toolBarItems());
-    makeToolBar("ID_VIEW_VIEWBAR", StringId::BarView, viewBarItems());
-    makeToolBar("ID_VIEW_DRAWBAR", StringId::BarDraw, drawBarItems());
+    setMenus(mainMenu(), actions_);
+    makeToolBar("ID_VIEW_TOOLBAR", ID_VIEW_TOOLBAR, StringId::BarTool, toolBarItems());
+    makeToolBar("ID_VIEW_VIEWBAR", ID_VIEW_VIEWBAR, StringId::BarView, viewBarItems());
+    makeToolBar("ID_VIEW_DRAWBAR", ID_VIEW_DRAWBAR, StringId::BarDraw, drawBarItems());
     addDockWidget(Qt::RightDockWidgetArea, palettePanel_);
-    makeMenus();
+    addBar(ID_VIEW_PALETTEBAR, *palettePanel_);
     makeStatusBar();
     actions_.addTo(*this);
     restoreLayout();
@@ -81,28 +81,32 @@ CMainFrame::CMainFrame(CDyeworksApp& application)
 
 CMainFrame::~CMainFrame() = default;
 
-QToolBar* CMainFrame::makeToolBar(const char* name, StringId title, std::span<const MenuItem> items) {
+void CMainFrame::makeToolBar(const char* name, CommandId id, StringId title,
+                             std::span<const MenuItem> items) {
     QToolBar* bar = addToolBar(QString::fromStdString(text(title)));
     bar->setObjectName(QString::fromLatin1(name));
     fillToolBar(*bar, items, actions_);
-    return bar;
+    addBar(id, *bar);
 }
 
-void CMainFrame::makeMenus() {
-    fillMenuBar(*menuBar(), mainMenu(), actions_);
-    QMenu& view = menuTitled(kViewMenuTitle);
-    view.addSeparator();
-    QMenu& bars = *view.addMenu(QString::fromStdString(text(StringId::BarsMenu)));
-    for (QToolBar* bar : findChildren<QToolBar*>(Qt::FindDirectChildrenOnly))
-        bars.addAction(bar->toggleViewAction());
-    bars.addAction(palettePanel_->toggleViewAction());
-    appendWindowList(menuTitled(kWindowMenuTitle), *this);
+void CMainFrame::addBar(CommandId id, QWidget& bar) {
+    bars_[id] = &bar;
+    onRange(id, id, &CMainFrame::OnToggleBar, &CMainFrame::OnUpdateBar);
 }
 
-QMenu& CMainFrame::menuTitled(const char* title) const {
-    const std::span<const MenuItem> items = mainMenu();
-    const auto found = std::ranges::find(items, std::string_view(title), &MenuItem::title);
-    return *menuBar()->actions().at(found - items.begin())->menu();
+void CMainFrame::OnToggleBar(CommandId id) {
+    QWidget& bar = *bars_.at(id);
+    bar.setVisible(bar.isHidden());
+}
+
+void CMainFrame::OnUpdateBar(CommandUi& ui) {
+    ui.checked = !bars_.at(ui.id)->isHidden();
+}
+
+QMenu* CMainFrame::createPopupMenu() {
+    auto* menu = new QMenu(this);
+    fillMenu(*menu, barsMenu(), actions_);
+    return menu;
 }
 
 void CMainFrame::makeStatusBar() {
@@ -113,6 +117,7 @@ void CMainFrame::makeStatusBar() {
         statusBar()->addPermanentWidget(pane);
         return pane;
     };
+    addBar(ID_VIEW_STATUS_BAR, *statusBar());
     panes_ = {addPane("ID_INDICATOR_POSITION", kPositionPaneWidth, "(0, 0)"),
               addPane("ID_INDICATOR_SIZE", kSizePaneWidth, "(0, 0) 4bit")};
 }
@@ -123,17 +128,20 @@ void CMainFrame::restoreLayout() {
     // As wide as a palette of 256 colours likes to be.
     if (!restoreState(storedBytes(kStateEntry)))
         resizeDocks({palettePanel_}, {kPanelColumns * fontMetrics().height()}, Qt::Horizontal);
+    statusBar()->setVisible(platform().profile().integer(kLayoutSection, kStatusBarEntry, 1) != 0);
 }
 
 void CMainFrame::saveLayout() const {
     storeBytes(kGeometryEntry, saveGeometry());
     storeBytes(kStateEntry, saveState());
+    platform().profile().setInteger(kLayoutSection, kStatusBarEntry, statusBar()->isHidden() ? 0 : 1);
 }
 
 void CMainFrame::openImageWindow(CDyeworksDoc& document) {
     auto view = std::make_unique<ImageView>(document);
     ImageView& shown = *view;
     auto child = std::make_unique<ChildFrame>(document, std::move(view), shown);
+    child->setMenus(imageMenu());
     // The palette that an image is attached to is part of its title, and its bank is what the panel shows.
     connect(child.get(), &QWidget::windowTitleChanged, palettePanel_, &PalettePanel::currentPaletteChanged);
     addChild(std::move(child));

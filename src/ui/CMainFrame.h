@@ -4,14 +4,15 @@
 #include "framework/widgets/CommandActions.h"
 #include "framework/widgets/MdiFrame.h"
 #include "platform/StringId.h"
+#include "ui/PrintCommands.h"
 
 #include <array>
+#include <map>
 #include <span>
 #include <string>
 
 class QLabel;
 class QMenu;
-class QToolBar;
 
 namespace dyeworks {
 
@@ -34,6 +35,7 @@ public:
 
     [[nodiscard]] CommandActions& commandActions() noexcept { return actions_; }
     [[nodiscard]] PalettePanel& palettePanel() noexcept { return *palettePanel_; }
+    [[nodiscard]] PrintCommands& printing() noexcept { return printing_; }
 
     /// Opens a window with a view of the document and makes it the active one.
     void openImageWindow(CDyeworksDoc& document);
@@ -50,19 +52,24 @@ protected:
     void changeEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    QMenu* createPopupMenu() override;
 
 private:
-    void makeMenus();
-    QToolBar* makeToolBar(const char* name, StringId title, std::span<const MenuItem> items);
-    [[nodiscard]] QMenu& menuTitled(const char* title) const;
+    void makeToolBar(const char* name, CommandId id, StringId title, std::span<const MenuItem> items);
+    /// The bar is shown and hidden by this command.
+    void addBar(CommandId id, QWidget& bar);
+    void OnToggleBar(CommandId id);
+    void OnUpdateBar(CommandUi& ui);
     void makeStatusBar();
     void restoreLayout();
     void saveLayout() const;
 
     CDyeworksApp& application_;
     CommandActions actions_;
+    PrintCommands printing_;
     PalettePanel* palettePanel_;
-    std::array<QLabel*, 2> panes_{}; ///< Panes 1 and 2.
+    std::map<CommandId, QWidget*> bars_; ///< By the commands that show and hide them.
+    std::array<QLabel*, 2> panes_{};     ///< Panes 1 and 2.
 };
 
 } // namespace dyeworks

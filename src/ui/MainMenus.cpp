@@ -9,8 +9,35 @@ namespace dyeworks {
 namespace {
 
 constexpr std::array kFileMenu{
-    MenuItem{ID_FILE_OPEN}, MenuItem{ID_FILE_CLOSE},   kSeparator,
-    MenuItem{ID_FILE_SAVE}, MenuItem{ID_FILE_SAVE_AS}, kSeparator,
+    MenuItem{ID_FILE_NEW}, MenuItem{ID_FILE_OPEN}, kSeparator, MenuItem{ID_FILE_PRINT_SETUP}, kSeparator,
+    MenuItem{ID_APP_EXIT},
+};
+
+constexpr std::array kImportMenu{
+    MenuItem{ID_IMPORT_FIRST},
+};
+
+constexpr std::array kExportMenu{
+    MenuItem{ID_EXPORT_FIRST},
+};
+
+constexpr std::array kImageFileMenu{
+    MenuItem{ID_FILE_NEW},
+    MenuItem{ID_FILE_OPEN},
+    MenuItem{ID_FILE_CLOSE},
+    kSeparator,
+    MenuItem{ID_FILE_SAVE},
+    MenuItem{ID_FILE_SAVE_AS},
+    MenuItem{ID_FILE_REVERT},
+    kSeparator,
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Import"), kImportMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Export"), kExportMenu},
+    kSeparator,
+    MenuItem{ID_FILE_PRINT},
+    MenuItem{ID_FILE_PRINT_DIRECT},
+    MenuItem{ID_FILE_PRINT_PREVIEW},
+    MenuItem{ID_FILE_PRINT_SETUP},
+    kSeparator,
     MenuItem{ID_APP_EXIT},
 };
 
@@ -20,17 +47,32 @@ constexpr std::array kEditMenu{
 };
 
 constexpr std::array kZoomMenu{
-    MenuItem{ID_ZOOM_X1}, MenuItem{ID_ZOOM_X2}, MenuItem{ID_ZOOM_X3},  MenuItem{ID_ZOOM_X4},
-    MenuItem{ID_ZOOM_X6}, MenuItem{ID_ZOOM_X8}, MenuItem{ID_ZOOM_X12}, MenuItem{ID_ZOOM_X16},
+    MenuItem{ID_ZOOM_X1}, MenuItem{ID_ZOOM_X2},      MenuItem{ID_ZOOM_X3},  MenuItem{ID_ZOOM_X4},
+    MenuItem{ID_ZOOM_X6}, MenuItem{ID_ZOOM_X8},      MenuItem{ID_ZOOM_X12}, MenuItem{ID_ZOOM_X16},
+    kSeparator,           MenuItem{ID_ZOOM_SPECIFY},
 };
 
-constexpr std::array kViewMenu{
-    MenuItem{ID_ZOOM_IN}, MenuItem{ID_ZOOM_OUT},  MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Zoom"), kZoomMenu},
-    kSeparator,           MenuItem{ID_VIEW_GRID},
+constexpr std::array kBarsMenu{
+    MenuItem{ID_VIEW_PALETTEBAR}, MenuItem{ID_VIEW_TOOLBAR},    MenuItem{ID_VIEW_DRAWBAR},
+    MenuItem{ID_VIEW_VIEWBAR},    MenuItem{ID_VIEW_STATUS_BAR},
+};
+
+constexpr std::array kImageViewMenu{
+    MenuItem{ID_ZOOM_IN},
+    MenuItem{ID_ZOOM_OUT},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Zoom"), kZoomMenu},
+    kSeparator,
+    MenuItem{ID_VIEW_GRID},
+    kSeparator,
+    MenuItem{ID_PREVIEW1},
+    MenuItem{ID_PREVIEW2},
+    kSeparator,
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Bars"), kBarsMenu},
 };
 
 constexpr std::array kImageMenu{
     MenuItem{ID_IMAGE_ATTACH},
+    MenuItem{ID_IMAGE_ADD_TO_PROJECT},
 };
 
 constexpr std::array kDrawMenu{
@@ -53,10 +95,8 @@ constexpr std::array kPaletteMenu{
 };
 
 constexpr std::array kWindowMenu{
-    MenuItem{ID_WINDOW_CASCADE},
-    MenuItem{ID_WINDOW_TILE_HORZ},
-    MenuItem{ID_WINDOW_TILE_VERT},
-    MenuItem{ID_WINDOW_ARRANGE},
+    MenuItem{ID_WINDOW_NEW},       MenuItem{ID_WINDOW_CASCADE}, MenuItem{ID_WINDOW_TILE_HORZ},
+    MenuItem{ID_WINDOW_TILE_VERT}, MenuItem{ID_WINDOW_ARRANGE}, kWindowList,
 };
 
 constexpr std::array kHelpMenu{
@@ -65,8 +105,15 @@ constexpr std::array kHelpMenu{
 
 constexpr std::array kMainMenu{
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&File"), kFileMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&View"), kBarsMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Palette"), kPaletteMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Help"), kHelpMenu},
+};
+
+constexpr std::array kImageMainMenu{
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&File"), kImageFileMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Edit"), kEditMenu},
-    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&View"), kViewMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&View"), kImageViewMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Image"), kImageMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Draw"), kDrawMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Palette"), kPaletteMenu},
@@ -75,16 +122,28 @@ constexpr std::array kMainMenu{
 };
 
 constexpr std::array kToolBar{
-    MenuItem{ID_FILE_OPEN},    MenuItem{ID_FILE_SAVE},    kSeparator,
-    MenuItem{ID_EDIT_UNDO},    MenuItem{ID_EDIT_REDO},    kSeparator,
-    MenuItem{ID_PALETTE_OPEN}, MenuItem{ID_IMAGE_ATTACH}, kSeparator,
+    MenuItem{ID_FILE_NEW},
+    MenuItem{ID_FILE_OPEN},
+    MenuItem{ID_FILE_SAVE},
+    kSeparator,
+    MenuItem{ID_EDIT_UNDO},
+    MenuItem{ID_EDIT_REDO},
+    kSeparator,
+    MenuItem{ID_FILE_PRINT},
+    MenuItem{ID_PALETTE_OPEN},
+    MenuItem{ID_IMAGE_ATTACH},
+    kSeparator,
     MenuItem{ID_APP_ABOUT},
 };
 
 constexpr std::array kViewBar{
+    MenuItem{ID_VIEW_PALETTEBAR},
+    MenuItem{ID_VIEW_GRID},
+    MenuItem{ID_PREVIEW1},
+    MenuItem{ID_PREVIEW2},
+    kSeparator,
     MenuItem{ID_ZOOM_IN},
     MenuItem{ID_ZOOM_OUT},
-    MenuItem{ID_VIEW_GRID},
 };
 
 constexpr std::array kDrawBar{
@@ -97,6 +156,12 @@ constexpr std::array kDrawBar{
 
 std::span<const MenuItem> mainMenu() {
     return kMainMenu;
+}
+std::span<const MenuItem> imageMenu() {
+    return kImageMainMenu;
+}
+std::span<const MenuItem> barsMenu() {
+    return kBarsMenu;
 }
 std::span<const MenuItem> toolBarItems() {
     return kToolBar;

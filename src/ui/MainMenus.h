@@ -6,12 +6,14 @@
 
 namespace dyeworks {
 
-/// The menu bar of the main window: one submenu after the other.
+// The menu bars of the main window, one submenu after the other.
+/// While no document is open.
 std::span<const MenuItem> mainMenu();
+/// While an image is the active one.
+std::span<const MenuItem> imageMenu();
 
-// Titles of the menus that the window itself adds to: what can be shown and hidden, and its list of windows.
-inline constexpr const char* kViewMenuTitle = "&View";
-inline constexpr const char* kWindowMenuTitle = "&Window";
+/// What can be shown and hidden; also the context menu of the bars.
+std::span<const MenuItem> barsMenu();
 
 // The buttons of the bars.
 std::span<const MenuItem> toolBarItems();

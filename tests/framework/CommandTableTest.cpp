@@ -19,7 +19,7 @@ TEST(CommandTable, EveryCommandHasTextsForMenuStatusLineAndToolTip) {
         EXPECT_EQ(toolTipText(row).find('\n'), std::string::npos) << row.id;
         EXPECT_EQ(findCommand(row.id), &row);
     }
-    EXPECT_EQ(findCommand(ID_ZOOM_BASE), nullptr);
+    EXPECT_EQ(findCommand(ID_ZOOM_X4 + 1), nullptr);
 }
 
 TEST(CommandTable, NoShortcutStandsForTwoCommands) {

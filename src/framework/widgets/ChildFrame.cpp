@@ -3,8 +3,10 @@
 #include "framework/DocumentTemplate.h"
 #include "framework/widgets/ScrollView.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QLayout>
+#include <QMenu>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -16,6 +18,9 @@ ChildFrame::ChildFrame(CDocument& document, std::unique_ptr<QWidget> widget, Fra
     , view_(&view) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWidget(widget.release());
+    // Its keys are those of commands, and a key that stands for two things does neither.
+    for (QAction* action : systemMenu()->actions())
+        action->setShortcuts(QList<QKeySequence>());
     document.addView(view.documentView());
     document.addTitleListener(*this);
     documentRenamed();
@@ -108,8 +113,14 @@ void ChildFrame::OnFileClose() {
 
 void ChildFrame::documentRenamed() {
     // "[*]" is Qt's mark for a changed document, doubled it is itself.
-    setWindowTitle(
-        QString::fromStdString(document_->title()).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+    QString title =
+        QString::fromStdString(document_->title()).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+    const auto& views = document_->views();
+    if (views.size() > 1) {
+        const auto number = std::ranges::find(views, &view_->documentView()) - views.begin() + 1;
+        title += QStringLiteral(":%1").arg(number);
+    }
+    setWindowTitle(title);
 }
 
 bool ChildFrame::isLastOfDocument() const {
@@ -128,8 +139,8 @@ void ChildFrame::release() {
         return;
     view_->closing(*this);
     CDocument& document = *document_;
-    document.removeView(view_->documentView());
     document.removeTitleListener(*this);
+    document.removeView(view_->documentView());
     view_ = nullptr;
     document_ = nullptr;
     delete widget();

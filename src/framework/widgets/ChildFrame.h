@@ -2,18 +2,21 @@
 
 #include "framework/CDocument.h"
 #include "framework/CommandTarget.h"
+#include "framework/Menu.h"
 #include "framework/WindowPlacement.h"
 #include "framework/widgets/FrameView.h"
 
 #include <QMdiSubWindow>
 
 #include <memory>
+#include <span>
 
 namespace dyeworks {
 
 class ScrollView;
 
-/// The window of one view inside the main frame. Titled like its document. Closing the last window of a
+/// The window of one view inside the main frame. Titled like its document; where the document has several
+/// windows, each has its number behind the title: "sky.tmf:2". Closing the last window of a
 /// document asks whether to save it and then ends the document.
 class ChildFrame : public QMdiSubWindow, public CommandTarget, private DocumentTitleListener {
     Q_OBJECT
@@ -27,6 +30,11 @@ public:
     /// Both null once the frame has closed; it stays for a moment until the event loop deletes it.
     [[nodiscard]] CDocument* document() const noexcept { return document_; }
     [[nodiscard]] FrameView* view() const noexcept { return view_; }
+
+    /// The menu bar of the main frame while this frame is the active one; empty leaves it as it is without
+    /// any. The items must outlive the frame.
+    void setMenus(std::span<const MenuItem> menus) noexcept { menus_ = menus; }
+    [[nodiscard]] std::span<const MenuItem> menus() const noexcept { return menus_; }
 
     /// Closes without the question about unsaved changes, for callers who have asked it.
     void closeUnasked();
@@ -53,6 +61,7 @@ private:
 
     CDocument* document_;
     FrameView* view_;
+    std::span<const MenuItem> menus_;
     QRect normalGeometry_;
     bool asks_ = true;
 };

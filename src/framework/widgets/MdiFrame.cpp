@@ -1,9 +1,15 @@
 #include "framework/widgets/MdiFrame.h"
 
+#include "framework/DocumentTemplate.h"
 #include "framework/widgets/ChildFrame.h"
+#include "framework/widgets/MenuBuilder.h"
+#include "framework/widgets/WindowListMenu.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QMdiArea>
+#include <QMenu>
+#include <QMenuBar>
 
 #include <algorithm>
 
@@ -18,6 +24,7 @@ MdiFrame::MdiFrame()
     setCentralWidget(area_);
     connect(area_, &QMdiArea::subWindowActivated, this, &MdiFrame::childActivated);
 
+    on(ID_WINDOW_NEW, &MdiFrame::OnWindowNew, &MdiFrame::OnUpdateWindowNew);
     on(ID_WINDOW_CASCADE, &MdiFrame::OnWindowCascade, &MdiFrame::OnUpdateWindow);
     on(ID_WINDOW_TILE_HORZ, &MdiFrame::OnWindowTileHorz, &MdiFrame::OnUpdateWindow);
     on(ID_WINDOW_TILE_VERT, &MdiFrame::OnWindowTileVert, &MdiFrame::OnUpdateWindow);
@@ -105,6 +112,17 @@ void MdiFrame::closeEvent(QCloseEvent* event) {
         event->ignore();
 }
 
+void MdiFrame::OnWindowNew() {
+    CDocument& document = *activeChild()->document();
+    document.documentTemplate()->newWindow(document);
+}
+
+void MdiFrame::OnUpdateWindowNew(CommandUi& ui) {
+    const ChildFrame* child = activeChild();
+    const CDocument* document = child == nullptr ? nullptr : child->document();
+    ui.enabled = document != nullptr && document->documentTemplate() != nullptr;
+}
+
 void MdiFrame::OnWindowCascade() {
     for (ChildFrame* child : childFrames()) {
         if (child->isMaximized())
@@ -137,9 +155,37 @@ void MdiFrame::childActivated() {
     // Not the signal's argument, which may be null while another window of the program is active.
     ChildFrame* child = activeChild();
     updateCaption();
+    const bool ownMenus = child != nullptr && child->document() != nullptr && !child->menus().empty();
+    showMenus(ownMenus ? child->menus() : menus_);
     if (child != nullptr && child->view() != nullptr)
         child->view()->activated(*child);
     Q_EMIT activeChildChanged(child);
+}
+
+void MdiFrame::setMenus(std::span<const MenuItem> menus, CommandActions& actions) {
+    menus_ = menus;
+    actions_ = &actions;
+    showMenus(menus);
+}
+
+void MdiFrame::showMenus(std::span<const MenuItem> menus) {
+    if (menus.data() == shownMenus_)
+        return;
+    shownMenus_ = menus.data();
+    QMenuBar& bar = *menuBar();
+    bar.clear();
+    std::vector<QMenu*>& made = madeMenus_[menus.data()];
+    if (!made.empty()) {
+        for (QMenu* menu : made)
+            bar.addMenu(menu);
+        return;
+    }
+    fillMenuBar(bar, menus, *actions_);
+    for (std::size_t i = 0; i < menus.size(); ++i) {
+        QMenu* menu = made.emplace_back(bar.actions().at(static_cast<qsizetype>(i))->menu());
+        if (std::ranges::find(menus[i].items, kWindowList.id, &MenuItem::id) != menus[i].items.end())
+            appendWindowList(*menu, *this);
+    }
 }
 
 void MdiFrame::updateCaption() {

@@ -1,19 +1,24 @@
 #pragma once
 
 #include "framework/CommandTarget.h"
+#include "framework/Menu.h"
 #include "framework/WindowTiling.h"
 
 #include <QMainWindow>
 
+#include <map>
 #include <memory>
+#include <span>
 #include <vector>
 
 class QMdiArea;
+class QMenu;
 
 namespace dyeworks {
 
 class CDocument;
 class ChildFrame;
+class CommandActions;
 
 /// A main window whose middle is an area of child frames.
 class MdiFrame : public QMainWindow, public CommandTarget {
@@ -24,6 +29,10 @@ public:
     ~MdiFrame() override;
 
     [[nodiscard]] QMdiArea& area() const noexcept { return *area_; }
+
+    /// What the menu bar shows: the menus of the active child frame, or these while there is none or it has
+    /// none of its own. Items and actions must outlive the frame. A kWindowList lists the child frames.
+    void setMenus(std::span<const MenuItem> menus, CommandActions& actions);
 
     /// Takes the frame in, lets its view set itself up, shows and activates it.
     ChildFrame& addChild(std::unique_ptr<ChildFrame> child);
@@ -59,6 +68,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void OnWindowNew();
+    void OnUpdateWindowNew(CommandUi& ui);
     void OnWindowCascade();
     void OnWindowTileHorz();
     void OnWindowTileVert();
@@ -68,11 +79,18 @@ private:
 
     void childActivated();
     void updateCaption();
+    void showMenus(std::span<const MenuItem> menus);
     void tile(TileDirection direction);
     /// Puts minimized frames in rows along the bottom. The height that they take there.
     int arrangeMinimized();
 
     QMdiArea* area_;
+    CommandActions* actions_ = nullptr;
+    std::span<const MenuItem> menus_; ///< While no child frame has others.
+    /// The menus made so far, by the list they are made of. They stay, because a change of the menu bar often
+    /// comes from a command of one of them.
+    std::map<const MenuItem*, std::vector<QMenu*>> madeMenus_;
+    const MenuItem* shownMenus_ = nullptr;
     QString caption_;
 };
 

@@ -1,4 +1,4 @@
-#include "ui/WindowListMenu.h"
+#include "framework/widgets/WindowListMenu.h"
 
 #include "framework/widgets/ChildFrame.h"
 #include "framework/widgets/MdiFrame.h"

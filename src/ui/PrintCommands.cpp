@@ -1,0 +1,116 @@
+#include "ui/PrintCommands.h"
+
+#include "paint/CDyeworksDoc.h"
+#include "paint/widgets/ImageView.h"
+#include "platform/Platform.h"
+#include "ui/CMainFrame.h"
+#include "ui/ImagePrinter.h"
+
+#include <QPageSetupDialog>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QProgressDialog>
+
+namespace dyeworks {
+
+namespace {
+
+/// Shows how far a long printing is and lets it be stopped.
+class PrintProgress {
+public:
+    explicit PrintProgress(QWidget& parent)
+        : dialog_(&parent) {
+        dialog_.setWindowModality(Qt::WindowModal);
+        dialog_.setAutoReset(false);
+    }
+    bool operator()(int page, int pages) {
+        dialog_.setMaximum(pages);
+        dialog_.setLabelText(QString::fromStdString(
+            text(StringId::PrintingProgress, {std::to_string(page), std::to_string(pages)})));
+        dialog_.setValue(page - 1);
+        return !dialog_.wasCanceled();
+    }
+    [[nodiscard]] bool stopped() const { return dialog_.wasCanceled(); }
+
+private:
+    QProgressDialog dialog_;
+};
+
+} // namespace
+
+PrintCommands::PrintCommands(CMainFrame& frame)
+    : frame_(frame)
+    , choose_([this](QPrinter& printer) { return chooseByDialog(printer); }) {
+    on(ID_FILE_PRINT, &PrintCommands::OnFilePrint, &PrintCommands::updateNeedsImage);
+    on(ID_FILE_PRINT_DIRECT, &PrintCommands::OnFilePrintDirect, &PrintCommands::updateNeedsImage);
+    on(ID_FILE_PRINT_PREVIEW, &PrintCommands::OnFilePrintPreview, &PrintCommands::updateNeedsImage);
+    on(ID_FILE_PRINT_SETUP, &PrintCommands::OnFilePrintSetup);
+}
+
+PrintCommands::~PrintCommands() = default;
+
+QPrinter& PrintCommands::printer() {
+    if (printer_ == nullptr)
+        printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    return *printer_;
+}
+
+bool PrintCommands::chooseByDialog(QPrinter& printer) {
+    QPrintDialog dialog(&printer, &frame_);
+    const int pages = ImagePrinter(*frame_.activeImageView()).pageCount(printer);
+    dialog.setMinMax(1, pages);
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, pages > 1);
+    return dialog.exec() == QDialog::Accepted;
+}
+
+void PrintCommands::printActive() {
+    ImageView& view = *frame_.activeImageView();
+    QPrinter& target = printer();
+    target.setDocName(QString::fromStdString(view.view().document().displayName()));
+    PrintProgress progress(frame_);
+    const bool printed = ImagePrinter(view).print(target, std::ref(progress));
+    if (!printed && !progress.stopped())
+        applicationMessage(text(StringId::PrintingFailed));
+}
+
+void PrintCommands::updateNeedsImage(CommandUi& ui) {
+    ui.enabled = frame_.activeImageView() != nullptr;
+}
+
+void PrintCommands::OnFilePrint() {
+    QPrinter& target = printer();
+    target.setFromTo(0, 0);
+    target.setPrintRange(QPrinter::AllPages);
+    if (choose_(target))
+        printActive();
+}
+
+void PrintCommands::OnFilePrintDirect() {
+    // Without a printer, where to print to has to be asked.
+    if (QPrinterInfo::defaultPrinter().isNull() && printer().outputFileName().isEmpty()) {
+        OnFilePrint();
+        return;
+    }
+    printer().setFromTo(0, 0);
+    printActive();
+}
+
+void PrintCommands::OnFilePrintPreview() {
+    QPrintPreviewDialog dialog(&printer(), &frame_);
+    printer().setFromTo(0, 0);
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* pages) {
+        PrintProgress progress(dialog);
+        // A preview that was stopped shows the pages so far.
+        static_cast<void>(ImagePrinter(*frame_.activeImageView()).print(*pages, std::ref(progress)));
+    });
+    dialog.resize(frame_.size());
+    dialog.exec();
+}
+
+void PrintCommands::OnFilePrintSetup() {
+    QPageSetupDialog(&printer(), &frame_).exec();
+}
+
+} // namespace dyeworks
