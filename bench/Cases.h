@@ -3,6 +3,7 @@
 namespace dyeworks {
 
 void registerCanvasCases();
+void registerDocumentCases();
 void registerDrawCases();
 void registerFileCases();
 

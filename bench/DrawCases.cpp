@@ -1,39 +1,78 @@
 #include "bench/Baseline.h"
 #include "bench/Cases.h"
 #include "paint/TextureCanvas.h"
+#include "paint/ViewRenderer.h"
 
 #include <benchmark/benchmark.h>
 
+#include <cstdlib>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace dyeworks {
 
-void registerDrawCases() {
-    constexpr std::int32_t kWidth = 1920;
-    constexpr std::int32_t kHeight = 1080;
-    constexpr std::size_t kPixels = std::size_t{kWidth} * kHeight;
+namespace {
+
+constexpr std::int32_t kWidth = 1920;
+constexpr std::int32_t kHeight = 1080;
+constexpr std::size_t kPixels = std::size_t{kWidth} * kHeight;
+
+void fillWithPattern(TextureCanvas& canvas, std::int32_t side, std::uint16_t bits) {
+    if (!canvas.Create(side, side, 1, bits))
+        std::abort();
+    for (std::int32_t i = 0; i < side * side; ++i)
+        canvas.SetPixel(i % side, i / side, static_cast<std::uint32_t>(i * 7 + i / side));
+}
+
+/// Measures `draw(canvas, surface)`, with a surface of the whole screen, which draws `pixels` of it.
+template <typename Draw>
+void registerScreenCase(const std::string& name, std::int32_t side, std::uint16_t bits, std::size_t pixels,
+                        Draw draw) {
     const std::string base = baseline(Baseline::Memset, kPixels * sizeof(std::uint32_t));
-    for (const std::uint16_t bits : {std::uint16_t{4}, std::uint16_t{8}}) {
-        for (const std::int32_t zoom : {1, 3, 4, 16}) {
-            const std::string name =
-                "Draw-zoom" + std::to_string(zoom) + "/" + std::to_string(bits) + "bit/1920x1080";
-            benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) {
-                TextureCanvas canvas;
-                if (!canvas.Create(2048, 2048, 1, bits))
-                    std::abort();
-                for (std::int32_t i = 0; i < 2048 * 2048; ++i)
-                    canvas.SetPixel(i % 2048, i / 2048, static_cast<std::uint32_t>(i * 7 + i / 2048));
-                std::vector<std::uint32_t> pixels(kPixels);
-                Surface surface{pixels.data(), kWidth, kHeight, kWidth, 0, 0};
-                for (auto _ : state) {
-                    canvas.Draw(surface, {0, 0, 2048 * zoom, 2048 * zoom}, {0, 0, 2048, 2048});
-                    benchmark::ClobberMemory();
-                }
-                state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kPixels));
-                state.SetLabel(base);
-            })->Unit(benchmark::kMicrosecond);
+    benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) {
+        TextureCanvas canvas;
+        fillWithPattern(canvas, side, bits);
+        std::vector<std::uint32_t> buffer(kPixels);
+        Surface surface{buffer.data(), kWidth, kHeight, kWidth, 0, 0};
+        for (auto _ : state) {
+            draw(std::as_const(canvas), surface);
+            benchmark::ClobberMemory();
         }
+        state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(pixels));
+        state.SetLabel(base);
+    })->Unit(benchmark::kMicrosecond);
+}
+
+void registerDraw(std::int32_t zoom, std::uint16_t bits) {
+    registerScreenCase("Draw-zoom" + std::to_string(zoom) + "/" + std::to_string(bits) + "bit/1920x1080",
+                       2048, bits, kPixels, [zoom](const TextureCanvas& canvas, Surface& surface) {
+                           canvas.Draw(surface, {0, 0, 2048 * zoom, 2048 * zoom}, {0, 0, 2048, 2048});
+                       });
+}
+
+/// A repaint of `area` of a view that shows the grid.
+void registerRepaint(const std::string& what, std::int32_t zoom, std::uint16_t bits, const Rect& area) {
+    const std::int64_t pixels = std::int64_t{area.right - area.left} * (area.bottom - area.top);
+    registerScreenCase(what + "-zoom" + std::to_string(zoom) + "/" + std::to_string(bits) + "bit/4096", 4096,
+                       bits, static_cast<std::size_t>(pixels),
+                       [=](const TextureCanvas& canvas, Surface& surface) {
+                           ViewLook look;
+                           look.zoom = zoom;
+                           ViewRenderer(canvas, look).draw(surface, area);
+                       });
+}
+
+} // namespace
+
+void registerDrawCases() {
+    for (const std::uint16_t bits : {std::uint16_t{4}, std::uint16_t{8}}) {
+        for (const std::int32_t zoom : {1, 3, 4, 16})
+            registerDraw(zoom, bits);
+        for (const std::int32_t zoom : {1, 2, 3, 4, 6, 8, 12, 16})
+            registerRepaint("Repaint", zoom, bits, {0, 0, kWidth, kHeight});
+        // The area that an edit of one texel invalidates.
+        registerRepaint("RepaintTexel", 16, bits, {160, 160, 176, 176});
     }
 }
 

@@ -11,6 +11,7 @@ int main(int argc, char** argv) {
     mallopt(M_MMAP_THRESHOLD, 1 << 20);
     const dyeworks::FakePlatform platform;
     dyeworks::registerCanvasCases();
+    dyeworks::registerDocumentCases();
     dyeworks::registerDrawCases();
     dyeworks::registerFileCases();
     benchmark::Initialize(&argc, argv);

@@ -1,9 +1,6 @@
 #include "paint/CDyeworksDoc.h"
 
 #include "core/PaletteSet.h"
-#include "paint/CDyeworksView.h"
-#include "paint/CanvasFile.h"
-#include "platform/Platform.h"
 #include "platform/TextCase.h"
 
 #include <utility>
@@ -13,24 +10,6 @@ namespace dyeworks {
 namespace {
 
 constexpr const char* kModifiedMark = " * ";
-constexpr const char* kFilter = "Image Files (*.tmf)|*.tmf||";
-constexpr const char* kExtension = ".tmf";
-
-constexpr int kPositionPane = 1;
-constexpr int kSizePane = 2;
-
-/// Update hint: the image shows in other colours.
-constexpr int kHintColours = 1;
-
-FileDialogRequest saveRequest(const std::string& initialName) {
-    FileDialogRequest request;
-    request.filter = kFilter;
-    request.defaultExtension = kExtension;
-    request.initialName = initialName;
-    request.hideReadOnly = true;
-    request.overwritePrompt = true;
-    return request;
-}
 
 } // namespace
 
@@ -39,7 +18,12 @@ CDyeworksDoc::CDyeworksDoc(ImageHost& host, DocumentTemplate* documentTemplate)
     , host_(host)
     , history_(std::make_unique<UndoHistory>())
     , makeRecord_(&ImageUndoRecord::make) {
-    on(ID_IMAGE_ATTACH, &CDyeworksDoc::OnAttach, &CDyeworksDoc::OnUpdateAttach);
+    onRange(ID_PREVIEW1, ID_PREVIEW2, &CDyeworksDoc::OnTogglePreview, &CDyeworksDoc::OnUpdatePreview);
+    onRange(ID_IMPORT_FIRST, ID_IMPORT_LAST, &CDyeworksDoc::OnImport, &CDyeworksDoc::OnUpdateImport);
+    onRange(ID_EXPORT_FIRST, ID_EXPORT_LAST, &CDyeworksDoc::OnExport, &CDyeworksDoc::OnUpdateExport);
+    on(ID_IMAGE_ATTACH, &CDyeworksDoc::Attach, &CDyeworksDoc::OnUpdateAttach);
+    on(ID_IMAGE_ADD_TO_PROJECT, &CDyeworksDoc::AddToProject, &CDyeworksDoc::OnUpdateAddToProject);
+    on(ID_FILE_REVERT, &CDyeworksDoc::Revert, &CDyeworksDoc::OnUpdateRevert);
 }
 
 CDyeworksDoc::~CDyeworksDoc() {
@@ -74,6 +58,7 @@ void CDyeworksDoc::RefreshPalette() {
         UpdateTitle();
     }
     updateAllViews(nullptr, kHintColours);
+    RefreshPreviews();
     canvas_.ResetChangedRect();
 }
 
@@ -83,6 +68,7 @@ void CDyeworksDoc::PaletteChanged(const std::string& name, const TextureLookupTa
     if (!attachedName_.empty() && equalIgnoringCase(name, attachedName_))
         canvas_.ApplyPalette(*palette, firstEntryFor(*palette));
     updateAllViews(nullptr, kHintColours);
+    RefreshPreviews();
     canvas_.ResetChangedRect();
 }
 
@@ -151,48 +137,8 @@ std::string CDyeworksDoc::displayName() const {
     return pathName().empty() ? nameWithoutParts() : CDocument::displayName();
 }
 
-bool CDyeworksDoc::onOpenDocument(const std::string& path) {
-    if (!CDocument::onOpenDocument(path) || !canvas_.LoadTmf(path))
-        return false;
-    snapshot_.reset();
-    replaceHistory(0);
-    RefreshPalette();
-    return true;
-}
-
-bool CDyeworksDoc::onSaveDocument(const std::string& path) {
-    takeBackDrags();
-    std::string target = path;
-    if (target.empty()) {
-        const auto chosen =
-            platform().fileDialogs().save(saveRequest(pathName().empty() ? nameWithoutParts() : pathName()));
-        if (!chosen)
-            return false;
-        target = *chosen;
-    }
-    if (const std::optional<FileError> error = saveCanvas(canvas_, target)) {
-        applicationMessage(text(StringId::CannotSaveFile, {displayPath(target), describe(*error)}));
-        return false;
-    }
-    savedPosition_ = history_->position();
-    setModified(false);
-    if (path.empty())
-        setPathName(target);
-    return true;
-}
-
-void CDyeworksDoc::onCloseDocument() {
-    host_.setStatusText("", kPositionPane);
-    host_.setStatusText("", kSizePane);
-    CDocument::onCloseDocument();
-}
-
 bool CDyeworksDoc::hasUnsavedChanges() const {
     return isModified() || history_->position() != savedPosition_;
-}
-
-void CDyeworksDoc::OnAttach() {
-    Attach();
 }
 
 void CDyeworksDoc::OnUpdateAttach(CommandUi& ui) {

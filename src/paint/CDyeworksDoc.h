@@ -8,6 +8,7 @@
 #include "paint/TextureCanvas.h"
 #include "platform/DisplayPalette.h"
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -84,6 +85,8 @@ public:
     // Palettes.
     /// Key of the attached palette in the palette set; empty when there is none.
     [[nodiscard]] const std::string& attachedName() const noexcept { return attachedName_; }
+    /// Attaches to the palette that goes by `name`, open or not, without taking its colours.
+    void setAttachedName(const std::string& name) { attachedName_ = name; }
     /// Null when no palette is attached or it is not open.
     [[nodiscard]] TextureLookupTable* GetAttachedPalette() const;
     [[nodiscard]] bool IsAttached() const { return GetAttachedPalette() != nullptr; }
@@ -110,8 +113,26 @@ public:
     /// A copy of the pixels, or null when it cannot be made.
     [[nodiscard]] std::unique_ptr<TmfImage> GetImage() const { return canvas_.ToImage(); }
 
+    // Plug-ins, by their numbers in the lists of `ImagePlugIns`.
+    /// Shows the image in the previews that are on, if this is the active image. One that fails is switched
+    /// off.
+    void RefreshPreviews();
+    /// Lets the plug-in change the image, which is no step of the history. What it brings besides becomes the
+    /// active view's floating piece.
+    void ImportThrough(std::int32_t plugIn);
+    void ExportThrough(std::int32_t plugIn);
+
+    /// Adds the image and its palette to the open project as a picture, which takes a palette to be attached
+    /// and a file to be there; asks for what is missing.
+    void AddToProject();
+    /// Goes back to what the file holds, after asking when that would lose something.
+    void Revert();
+
     void setPathName(const std::string& path) override;
     void setModified(bool modified) override;
+    /// Asks what the image is to be like. False when that was cancelled or the image could not be made.
+    bool onNewDocument() override;
+    /// A bitmap's colours become a new palette.
     bool onOpenDocument(const std::string& path) override;
     bool onSaveDocument(const std::string& path) override;
     void onCloseDocument() override;
@@ -120,6 +141,13 @@ public:
     [[nodiscard]] bool hasUnsavedChanges() const override;
 
 private:
+    // Hints that views are updated with.
+    static constexpr int kHintPixels = 0;  ///< The canvas's changed rectangle has new pixels.
+    static constexpr int kHintColours = 1; ///< The image shows in other colours.
+
+    /// Saved position of a file whose contents no step of the history leads back to.
+    static constexpr std::int32_t kUnreachable = -1;
+
     template <typename Draw>
     void edit(CDyeworksView* view, Draw draw);
     void replaceHistory(std::int32_t savedPosition);
@@ -127,9 +155,19 @@ private:
     void followHistory();
     [[nodiscard]] std::int32_t firstEntryFor(const TextureLookupTable& palette) const;
     [[nodiscard]] const std::string& nameWithoutParts() const;
+    [[nodiscard]] TlutData* attachedTable() const;
+    void makePaletteOfColours();
+    void takeContents(const TextureCanvas& contents);
 
-    void OnAttach();
+    void OnTogglePreview(CommandId id);
+    void OnUpdatePreview(CommandUi& ui);
+    void OnImport(CommandId id);
+    void OnUpdateImport(CommandUi& ui);
+    void OnExport(CommandId id);
+    void OnUpdateExport(CommandUi& ui);
     void OnUpdateAttach(CommandUi& ui);
+    void OnUpdateAddToProject(CommandUi& ui);
+    void OnUpdateRevert(CommandUi& ui);
 
     ImageHost& host_;
     TextureCanvas canvas_;
@@ -137,6 +175,7 @@ private:
     RecordFactory makeRecord_;
     std::unique_ptr<TextureCanvas> snapshot_;
     bool stroke_ = false;
+    std::array<bool, 2> previews_{};
     bool historyMoved_ = false;      ///< Since the flag and the title last followed it.
     std::int32_t savedPosition_ = 0; ///< History position that the file holds.
     DisplayPalette displayPalette_;

@@ -3,15 +3,17 @@
 #include "paint/CanvasDifference.h"
 #include "platform/Platform.h"
 
+#include <algorithm>
+
 namespace dyeworks {
 
 namespace {
 
-/// Saved position of a file whose contents no step of the history leads back to.
-constexpr std::int32_t kUnreachable = -1;
-
-/// Update hint: the canvas's changed rectangle has new pixels.
-constexpr int kHintPixels = 0;
+/// Of inclusive rectangles; inverted when they have nothing in common.
+Rect overlap(const Rect& a, const Rect& b) {
+    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
+            std::min(a.bottom, b.bottom)};
+}
 
 } // namespace
 
@@ -90,8 +92,14 @@ bool CDyeworksDoc::SetImage(CDyeworksView* view, const TmfImage& image) {
 bool CDyeworksDoc::TakeSnapshot() {
     if (stroke_)
         return true;
-    snapshot_.reset();
-    snapshot_ = canvas_.Clone();
+    // Outside what was written, the snapshot is what the canvas is.
+    Rect written;
+    if (canvas_.GetWrittenRect(written) && snapshot_ != nullptr && !snapshot_->CopyRectFrom(canvas_, written))
+        snapshot_.reset();
+    if (snapshot_ == nullptr)
+        snapshot_ = canvas_.Clone();
+    if (snapshot_ != nullptr)
+        canvas_.ResetWrittenRect();
     return snapshot_ != nullptr;
 }
 
@@ -108,7 +116,10 @@ bool CDyeworksDoc::RecordUndoStep(const std::optional<Rect>& rectangle) {
         savedPosition_ = kUnreachable;
         return false;
     }
-    const std::optional<Rect> differing = differingRect(*snapshot_, canvas_, changed);
+    Rect written;
+    if (!canvas_.GetWrittenRect(written))
+        return false;
+    const std::optional<Rect> differing = differingRect(*snapshot_, canvas_, overlap(changed, written));
     if (!differing)
         return false;
     historyMoved_ = true;
@@ -127,8 +138,12 @@ bool CDyeworksDoc::RecordUndoStep(const std::optional<Rect>& rectangle) {
 
 void CDyeworksDoc::RestoreSnapshot(CDyeworksView* view) {
     Rect drawn;
-    if (snapshot_ == nullptr || !canvas_.GetChangedRect(drawn) || !canvas_.CopyFrom(*snapshot_))
+    if (snapshot_ == nullptr || !canvas_.GetChangedRect(drawn))
         return;
+    Rect written;
+    if (canvas_.GetWrittenRect(written) && !canvas_.CopyRectFrom(*snapshot_, written))
+        return;
+    canvas_.ResetWrittenRect();
     canvas_.SetChangedRect(drawn);
     AfterEdit(view);
     canvas_.ResetChangedRect();
@@ -141,6 +156,7 @@ void CDyeworksDoc::AfterEdit(CDyeworksView* view) {
         return;
     followHistory();
     updateAllViews(view, kHintPixels);
+    RefreshPreviews();
     canvas_.ResetChangedRect();
 }
 

@@ -3,7 +3,6 @@
 #include "core/PaletteSet.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/DrawTool.h"
-#include "paint/ViewRenderer.h"
 #include "paint/ViewWindow.h"
 
 #include <string>
@@ -47,6 +46,7 @@ void CDyeworksView::InitialUpdate() {
     if (drawingValue_ == 15 || drawingValue_ == 255)
         document_.host().selectPaletteBarCell(static_cast<std::int32_t>(drawingValue_));
     window_.invalidateAll();
+    restoreSettings();
 }
 
 void CDyeworksView::Activated() {
@@ -60,15 +60,15 @@ void CDyeworksView::Activated() {
     const TextureCanvas& canvas = document_.canvas();
     host.setStatusText(pair(canvas.width(), canvas.height()) + std::to_string(canvas.bitsPerPixel()) + "bit",
                        kSizePane);
+    document_.RefreshPreviews();
 }
 
 void CDyeworksView::Resized() {
-    scrollTo(window_.scrollPosition());
+    scrollTo(restoredScroll_.value_or(window_.scrollPosition()));
 }
 
-void CDyeworksView::Paint(Surface& surface, const Rect& logicalArea, std::uint32_t buttonFace) const {
-    ViewRenderer(document_.canvas(), {zoom_, gridShown_, showsNoPalette(), buttonFace})
-        .draw(surface, logicalArea);
+void CDyeworksView::Closing() {
+    saveSettings();
 }
 
 bool CDyeworksView::showsNoPalette() const {

@@ -6,22 +6,31 @@
 #include "paint/KeyEvent.h"
 #include "paint/PointerEvent.h"
 #include "paint/Rect.h"
+#include "paint/SelectionTracker.h"
 #include "paint/Surface.h"
 #include "paint/ViewGeometry.h"
 
 #include <cstdint>
 #include <memory>
+#include <optional>
+#include <string>
 
 namespace dyeworks {
 
 class CDyeworksDoc;
 class DrawTool;
+class TextureCanvas;
 class ViewWindow;
 
 /// A view of an image: what it shows and what the pointer, the keys and the commands do in it. Works through
 /// the window that shows it and needs no widget.
 class CDyeworksView : public CommandTarget, public DocumentView {
 public:
+    // Bits of a redraw request, which limits the next paint to parts of the picture.
+    static constexpr std::uint32_t kRedrawImage = 0x40; ///< The image, without what is selected in it.
+    static constexpr std::uint32_t kRedrawDrag =
+        0x80; ///< Floating piece and selection frame, at the rectangle that is being dragged.
+
     /// Joins the document's views until it is destroyed. Both arguments must outlive the view.
     CDyeworksView(CDyeworksDoc& document, ViewWindow& window);
     ~CDyeworksView() override;
@@ -36,9 +45,18 @@ public:
     void Activated();
     /// The client size changed.
     void Resized();
+    /// The window is about to close; it still stands where it stood.
+    void Closing();
+    /// The interval of `ViewWindow::startTicking` has passed.
+    void Tick();
+    /// Before a paint of the window, whatever its area: the redraw request, which this paint serves, or 0 for
+    /// an ordinary one.
+    [[nodiscard]] std::uint32_t BeginPaint();
     /// Draws a part of the view (right and bottom exclusive) onto the surface, whose origin is a logical
     /// point: client coordinates plus the scroll position. `buttonFace` (0xffRRGGBB) shows outside the image.
-    void Paint(Surface& surface, const Rect& logicalArea, std::uint32_t buttonFace) const;
+    /// A redraw request without kRedrawImage draws onto what the surface holds.
+    void Paint(Surface& surface, const Rect& logicalArea, std::uint32_t buttonFace,
+               std::uint32_t redrawRequest = 0) const;
     /// No palette was attached: there is no image to see, and the window writes so over the button face.
     [[nodiscard]] bool showsNoPalette() const;
 
@@ -74,7 +92,26 @@ public:
     void SetZoom(std::int32_t zoom);
     void ToggleGrid();
 
+    /// Inclusive texels; all zero when there is none.
+    [[nodiscard]] const Rect& selection() const noexcept { return selection_; }
+    /// Whether there is something selected to work with: more than a line of texels.
+    [[nodiscard]] bool SelectionExists() const noexcept;
+    /// Selects the texels between two corners (inclusive), or nothing. With `redraw` the window shows it
+    /// before the call returns.
+    void SetSelection(const std::optional<Rect>& texels, bool redraw);
+    /// What is shown inside the selection, or null; from the next repaint on.
+    void SetFloatingPiece(std::unique_ptr<TextureCanvas> piece);
+
+    /// A shape is being dragged between two corners (inclusive texels): its frame shows in the next paint,
+    /// which `redrawRequest` limits.
+    void ShowDragFrame(const Rect& texels, std::uint32_t redrawRequest);
+    /// The drag is over.
+    void HideDragFrame();
+
 private:
+    static constexpr std::uint32_t kSelectionStyle =
+        SelectionTracker::kDottedLine | SelectionTracker::kResizeInside;
+
     [[nodiscard]] ViewGeometry geometry() const;
     void applyZoom(bool redraw);
     void scrollTo(Point position);
@@ -85,6 +122,9 @@ private:
     [[nodiscard]] std::unique_ptr<DrawTool> endDrag();
     void showPosition(Point texel);
     void setCursorFor(bool shift);
+    void restoreSettings();
+    void restoreAttachment(const std::string& name);
+    void saveSettings() const;
 
     void addCommands();
     template <Tool kTool>
@@ -110,6 +150,16 @@ private:
     std::int32_t zoom_ = 1;
     bool gridShown_ = true;
     bool initialised_ = false;
+    bool noPaletteShown_ = false; ///< What the window shows is the words in place of the image.
+    /// Where the window was scrolled to when its file was last open. Until the first paint the window takes
+    /// on its size by and by, and a size that is passed through must not cut the position.
+    std::optional<Point> restoredScroll_;
+    std::uint32_t redrawRequest_ = 0;
+    Rect selection_;
+    Rect dragRectangle_; ///< From the anchor of a drag to its current point, inclusive texels.
+    std::uint32_t trackerStyle_ = kSelectionStyle;
+    bool antsPhase_ = false;
+    std::unique_ptr<TextureCanvas> floatingPiece_;
     std::uint32_t drawingValue_ = 0;
     std::unique_ptr<DrawTool>
         tool_; ///< The tool of the drag that is going on, as it was chosen at the press.

@@ -9,7 +9,15 @@ namespace dyeworks {
 
 class TextureCanvas;
 
-/// Writes the canvas to `path` as a TMF file. Nothing: written; otherwise why not, the file being as it was.
+/// Whether a file of this name is a bitmap: it ends in ".bmp", in any case, behind at least two characters.
+[[nodiscard]] bool isBmpName(const std::string& path);
+
+/// Reads a BMP file or, by any other name, a TMF file. False, leaving the canvas empty, when it cannot be
+/// read; a TMF file that cannot be read has been reported.
+[[nodiscard]] bool loadCanvas(TextureCanvas& canvas, const std::string& path);
+
+/// Writes the canvas as a BMP file or, by any other name, a TMF file. Nothing: written; otherwise why not,
+/// the file being as it was.
 [[nodiscard]] std::optional<FileError> saveCanvas(const TextureCanvas& canvas, const std::string& path);
 
 } // namespace dyeworks

@@ -1,12 +1,23 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace dyeworks {
 
 class CDyeworksDoc;
+class CDyeworksView;
+class ImagePlugIns;
+class OpenProject;
 class PaletteSet;
+
+/// What a new image is to be like.
+struct NewImage {
+    std::int32_t width = 0; ///< In texels.
+    std::int32_t height = 0;
+    std::uint16_t bitsPerPixel = 4; ///< Or 8.
+};
 
 /// What an image document and its views ask of the application.
 class ImageHost {
@@ -30,6 +41,16 @@ public:
 
     /// Whether `document` is the one in the active window, whose bank the palette bar shows.
     [[nodiscard]] virtual bool isActiveImage(const CDyeworksDoc& document) const = 0;
+    /// The image view in the active window, or null.
+    [[nodiscard]] virtual CDyeworksView* activeView() const = 0;
+
+    [[nodiscard]] virtual ImagePlugIns& imagePlugIns() = 0;
+    /// Null while no project is open.
+    [[nodiscard]] virtual OpenProject* openProject() = 0;
+    /// Asks the user what a new image is to be like. Nothing: cancelled.
+    [[nodiscard]] virtual std::optional<NewImage> askNewImage() = 0;
+    /// A new image was made: offers to use a project if none is open.
+    virtual void AskUseProject() = 0;
 
     /// The document whose view was activated last, still remembered while another kind of window is active;
     /// null before the first and after that document has ended.

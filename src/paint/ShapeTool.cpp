@@ -10,6 +10,7 @@ bool ShapeTool::press(Point texel, const PointerEvent& event) {
     centre_ = anchor_ = current_ = previous_ = texel;
     if (!stroke_.begin())
         return false;
+    showFrame(CDyeworksView::kRedrawDrag);
     stroke_.draw([this] { drawShape(); });
     return true;
 }
@@ -18,16 +19,34 @@ void ShapeTool::move(Point texel) {
     if (texel == previous_)
         return;
     follow(texel);
+    showFrame(CDyeworksView::kRedrawImage | CDyeworksView::kRedrawDrag);
     stroke_.takeBack();
     stroke_.draw([this] { drawShape(); });
     previous_ = texel;
 }
 
 void ShapeTool::release(Point texel) {
+    hideFrame();
     stroke_.takeBack();
     if (shape_ == Tool::Line)
         follow(texel);
     drawShape();
+}
+
+void ShapeTool::cancel() {
+    hideFrame();
+    stroke_.takeBack();
+}
+
+/// A line is its own outline.
+void ShapeTool::showFrame(std::uint32_t redrawRequest) {
+    if (shape_ != Tool::Line)
+        view().ShowDragFrame({anchor_.x, anchor_.y, current_.x, current_.y}, redrawRequest);
+}
+
+void ShapeTool::hideFrame() {
+    if (shape_ != Tool::Line)
+        view().HideDragFrame();
 }
 
 void ShapeTool::follow(Point texel) {

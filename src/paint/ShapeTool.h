@@ -8,6 +8,7 @@ namespace dyeworks {
 /// Line, Box, Box Fill, Circle and Circle Fill: a rubber band from the press to the pointer, or around the
 /// press when Alt was held at it. A line ends where the button is released, the other shapes at the last
 /// move.
+/// They show a frame around what they draw.
 class ShapeTool final : public DrawTool {
 public:
     ShapeTool(Tool shape, CDyeworksView& view)
@@ -18,11 +19,13 @@ public:
     bool press(Point texel, const PointerEvent& event) override;
     void move(Point texel) override;
     void release(Point texel) override;
-    void cancel() override { stroke_.takeBack(); }
+    void cancel() override;
 
 private:
     void follow(Point texel);
     void drawShape();
+    void showFrame(std::uint32_t redrawRequest);
+    void hideFrame();
 
     Tool shape_;
     Stroke stroke_;

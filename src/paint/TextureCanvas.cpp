@@ -16,10 +16,20 @@ namespace dyeworks {
 namespace {
 
 constexpr std::size_t kColourSize = 4;
-constexpr Rect kNothingChanged{0, 0, -1, -1};
 
 bool isEmpty(const Rect& inclusive) {
     return inclusive.right < inclusive.left || inclusive.bottom < inclusive.top;
+}
+
+void extend(Rect& inclusive, const Rect& by) {
+    if (isEmpty(inclusive)) {
+        inclusive = by;
+        return;
+    }
+    inclusive.left = std::min(inclusive.left, by.left);
+    inclusive.top = std::min(inclusive.top, by.top);
+    inclusive.right = std::max(inclusive.right, by.right);
+    inclusive.bottom = std::max(inclusive.bottom, by.bottom);
 }
 
 } // namespace
@@ -43,6 +53,7 @@ void TextureCanvas::Destroy() {
     planes_ = 0;
     bitsPerPixel_ = 0;
     ResetChangedRect();
+    ResetWrittenRect();
 }
 
 bool TextureCanvas::CreateLike(const TextureCanvas& other) {
@@ -76,6 +87,7 @@ bool TextureCanvas::allocate(std::int32_t width, std::int32_t height, std::uint1
     height_ = height;
     planes_ = planes;
     bitsPerPixel_ = bitsPerPixel;
+    written_ = wholeRect();
     writeHeaders(colours);
     return true;
 }
@@ -144,26 +156,16 @@ std::uint32_t TextureCanvas::GetColorCount() const {
 }
 
 void TextureCanvas::ExtendChangedRect(std::int32_t x, std::int32_t y) {
-    if (isEmpty(changed_)) {
-        changed_ = {x, y, x, y};
-        return;
-    }
-    changed_.left = std::min(changed_.left, x);
-    changed_.top = std::min(changed_.top, y);
-    changed_.right = std::max(changed_.right, x);
-    changed_.bottom = std::max(changed_.bottom, y);
+    extendChanged({x, x}, {y, y});
 }
 
 void TextureCanvas::extendChanged(Range columns, Range rows) {
     if (columns.empty() || rows.empty())
         return;
-    ExtendChangedRect(static_cast<std::int32_t>(columns.first), static_cast<std::int32_t>(rows.first));
-    ExtendChangedRect(static_cast<std::int32_t>(columns.last), static_cast<std::int32_t>(rows.last));
-}
-
-void TextureCanvas::markAllChanged() {
-    ResetChangedRect();
-    extendChanged(columns(), rows());
+    const Rect area{static_cast<std::int32_t>(columns.first), static_cast<std::int32_t>(rows.first),
+                    static_cast<std::int32_t>(columns.last), static_cast<std::int32_t>(rows.last)};
+    extend(changed_, area);
+    extend(written_, area);
 }
 
 bool TextureCanvas::GetChangedRect(Rect& changed) const {
@@ -174,11 +176,22 @@ bool TextureCanvas::GetChangedRect(Rect& changed) const {
 }
 
 void TextureCanvas::ResetChangedRect() {
-    changed_ = kNothingChanged;
+    changed_ = kNothing;
 }
 
 void TextureCanvas::SetChangedRect(const Rect& changed) {
-    changed_ = isEmpty(changed) ? kNothingChanged : changed;
+    changed_ = isEmpty(changed) ? kNothing : changed;
+}
+
+bool TextureCanvas::GetWrittenRect(Rect& written) const {
+    if (isEmpty(written_))
+        return false;
+    written = written_;
+    return true;
+}
+
+void TextureCanvas::ResetWrittenRect() {
+    written_ = kNothing;
 }
 
 void TextureCanvas::ApplyPalette(const TextureLookupTable& palette, std::int32_t first) {
@@ -192,7 +205,8 @@ void TextureCanvas::ApplyPalette(const TextureLookupTable& palette, std::int32_t
         std::uint8_t* colour = colours.data() + i * kColourSize;
         palette.toRgbQuad(static_cast<std::int32_t>(index), colour[0], colour[1], colour[2], colour[3]);
     }
-    markAllChanged();
+    // Colours alone: no pixel was written.
+    SetChangedRect(wholeRect());
 }
 
 void TextureCanvas::copyColourTableFrom(const TextureCanvas& source) {
@@ -228,6 +242,11 @@ std::span<const std::uint8_t> TextureCanvas::pixelRows() const noexcept {
 
 bool TextureCanvas::isPlain() const noexcept {
     return typeid(*this) == typeid(TextureCanvas);
+}
+
+bool TextureCanvas::hasGeometryOf(const TextureCanvas& other) const noexcept {
+    return width_ == other.width_ && height_ == other.height_ && planes_ == other.planes_ &&
+           bitsPerPixel_ == other.bitsPerPixel_;
 }
 
 bool TextureCanvas::sharesRunsWith(const TextureCanvas& other) const noexcept {

@@ -94,6 +94,9 @@ public:
     /// Takes over all pixels, not the colours, of a canvas of the same size, planes and depth; false for any
     /// other. The whole canvas becomes the changed rectangle.
     virtual bool CopyFrom(const TextureCanvas& source);
+    /// The same for the pixels inside the rectangle (inclusive) alone, which become the changed rectangle's
+    /// as any others that are written.
+    bool CopyRectFrom(const TextureCanvas& source, const Rect& rectangle);
 
     /// Draws the part `source` of the picture, in its colours, over the area `destination` of the surface;
     /// both with right and bottom exclusive. The result is the number of surface rows written.
@@ -115,6 +118,13 @@ public:
     void ResetChangedRect();
     /// Puts back a rectangle that `GetChangedRect` gave (inclusive); an inverted one makes it empty.
     void SetChangedRect(const Rect& changed);
+
+    // A second account of the pixels that were written, for whoever keeps a copy of them. Only this call
+    // settles it; what becomes of the changed rectangle meanwhile does not matter. A block that was made anew
+    // counts as written all over.
+    /// False when nothing was written; otherwise the inclusive bounds.
+    bool GetWrittenRect(Rect& written) const;
+    void ResetWrittenRect();
 
     /// Gives the colour table the display colours of the palette's entries from `first` on; 256-colour
     /// canvases start at entry 0. Entries that the palette lacks keep their colour. The whole canvas counts
@@ -176,8 +186,10 @@ private:
     /// The bits of a value that a pixel keeps.
     [[nodiscard]] std::uint32_t depthMask() const noexcept;
 
+    [[nodiscard]] bool hasGeometryOf(const TextureCanvas& other) const noexcept;
+    [[nodiscard]] Rect wholeRect() const noexcept { return {0, 0, width_ - 1, height_ - 1}; }
     void extendChanged(Range columns, Range rows);
-    void markAllChanged();
+    void cutRows(const TextureCanvas& source, std::int64_t x, std::int64_t y);
 
     void floodFillByPixels(std::int32_t x, std::int32_t y, std::uint32_t value, std::uint32_t target);
     void floodFillByRuns(std::int32_t x, std::int32_t y, std::uint32_t value, std::uint32_t target);
@@ -195,7 +207,10 @@ private:
     std::int32_t height_ = 0;
     std::uint16_t planes_ = 0;
     std::uint16_t bitsPerPixel_ = 0;
-    Rect changed_{0, 0, -1, -1}; ///< Inclusive; inverted when empty.
+    static constexpr Rect kNothing{0, 0, -1, -1};
+    // Inclusive; inverted when empty.
+    Rect changed_ = kNothing;
+    Rect written_ = kNothing;
 };
 
 } // namespace dyeworks

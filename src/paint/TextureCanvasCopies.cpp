@@ -138,14 +138,35 @@ std::unique_ptr<TextureCanvas> TextureCanvas::CopyRect(std::int32_t x1, std::int
     constexpr std::int64_t kLongestSide = std::numeric_limits<std::int32_t>::max();
     const std::int64_t width = std::int64_t{x2} - x1 + 1;
     const std::int64_t height = std::int64_t{y2} - y1 + 1;
+    // Every byte of the rows is written once when all of them come from this canvas.
+    const bool inside = isPlain() && depthMask() != 0 && x1 >= 0 && y1 >= 0 && x2 < width_ && y2 < height_;
     std::unique_ptr<TextureCanvas> copy = newCanvas();
     if (copy == nullptr || width < 0 || height < 0 || width > kLongestSide || height > kLongestSide ||
-        !copy->Create(static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), planes_,
-                      bitsPerPixel_))
+        !copy->allocate(static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), planes_,
+                        bitsPerPixel_, inside ? BlockContents::Undefined : BlockContents::Zeroed))
         return nullptr;
     copy->copyColourTableFrom(*this);
-    CopyTo(*copy, x1, y1);
+    if (inside)
+        copy->cutRows(*this, x1, y1);
+    else
+        CopyTo(*copy, x1, y1);
     return copy;
+}
+
+/// Fills this canvas, whose rows may hold anything, with the part of `source` at (x, y).
+void TextureCanvas::cutRows(const TextureCanvas& source, std::int64_t x, std::int64_t y) {
+    if (columns().empty() || rows().empty())
+        return;
+    visitDepth<PixelRuns>(bitsPerPixel_, [&](auto pixels) {
+        constexpr std::size_t kWord = 4;
+        for (std::int64_t j = std::int64_t{height_} - 1; j >= 0; --j) {
+            std::uint8_t* to = row(j);
+            // What pads a row lies in its last word.
+            std::memset(to + stride_ - kWord, 0, kWord);
+            pixels.copy(to, 0, source.row(y + j), x, width_);
+        }
+    });
+    extendChanged(columns(), rows());
 }
 
 std::unique_ptr<TextureCanvas> TextureCanvas::Clone() const {
@@ -159,14 +180,30 @@ std::unique_ptr<TextureCanvas> TextureCanvas::Clone() const {
 }
 
 bool TextureCanvas::CopyFrom(const TextureCanvas& source) {
-    if (width_ != source.width_ || height_ != source.height_ || planes_ != source.planes_ ||
-        bitsPerPixel_ != source.bitsPerPixel_)
+    if (!hasGeometryOf(source))
         return false;
     const std::span<const std::uint8_t> from = source.pixelRows();
     // A canvas may be copied from itself.
     if (!from.empty())
         std::memmove(row(std::int64_t{height_} - 1), from.data(), from.size());
-    markAllChanged();
+    SetChangedRect(wholeRect());
+    written_ = wholeRect();
+    return true;
+}
+
+bool TextureCanvas::CopyRectFrom(const TextureCanvas& source, const Rect& rectangle) {
+    if (!hasGeometryOf(source))
+        return false;
+    const Range xs = overlap({rectangle.left, rectangle.right}, columns());
+    const Range ys = overlap({rectangle.top, rectangle.bottom}, rows());
+    if (&source == this || xs.empty() || ys.empty())
+        return true;
+    visitDepth<PixelRuns>(bitsPerPixel_, [&](auto pixels) {
+        // From the bottom up, as the rows lie.
+        for (std::int64_t y = ys.last; y >= ys.first; --y)
+            pixels.copy(row(y), xs.first, source.row(y), xs.first, xs.count());
+    });
+    extendChanged(xs, ys);
     return true;
 }
 

@@ -57,6 +57,11 @@ Rect ViewGeometry::selectionFrame(const Rect& texels) const {
     return {area.left + 1, area.top + 1, area.right - 1, area.bottom - 1};
 }
 
+Rect ViewGeometry::clientFrame(const Rect& texels) const {
+    const Rect frame = selectionFrame(texels);
+    return {frame.left - scroll_.x, frame.top - scroll_.y, frame.right - scroll_.x, frame.bottom - scroll_.y};
+}
+
 Point ViewGeometry::clampedScroll(Point scroll) const {
     const Size content = contentSize();
     return {clampedTo(scroll.x, content.width, client_.width),

@@ -38,6 +38,9 @@ public:
     /// Logical rectangle of the frame around a selection (inclusive texels).
     [[nodiscard]] Rect selectionFrame(const Rect& texels) const;
 
+    /// The same in client coordinates.
+    [[nodiscard]] Rect clientFrame(const Rect& texels) const;
+
     /// The nearest scroll position that shows no more than the end of the content: never negative, and 0
     /// where the content is no larger than the client area.
     [[nodiscard]] Point clampedScroll(Point scroll) const;

@@ -1,9 +1,9 @@
 #include "paint/ViewRenderer.h"
 
+#include "paint/SelectionTracker.h"
+#include "paint/SurfaceDrawing.h"
 #include "paint/TextureCanvas.h"
-
-#include <algorithm>
-#include <cstddef>
+#include "paint/ViewGeometry.h"
 
 namespace dyeworks {
 
@@ -14,24 +14,9 @@ constexpr std::int32_t kGridTexels = 8;
 /// Side of the pattern that grid lines are drawn with; it repeats from the logical origin on.
 constexpr std::int32_t kPatternSide = 8;
 constexpr std::uint32_t kWhite = 0x00ffffff;
-
-Rect intersection(const Rect& a, const Rect& b) {
-    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
-            std::min(a.bottom, b.bottom)};
-}
-
-bool isEmpty(const Rect& area) {
-    return area.left >= area.right || area.top >= area.bottom;
-}
-
-std::uint32_t* pixelAt(const Surface& surface, std::int32_t x, std::int32_t y) {
-    return surface.pixels + (y - surface.originY) * surface.stride + (x - surface.originX);
-}
-
-void fill(const Surface& surface, const Rect& area, std::uint32_t colour) {
-    for (std::int32_t y = area.top; y < area.bottom; ++y)
-        std::fill_n(pixelAt(surface, area.left, y), std::max(area.right - area.left, 0), colour);
-}
+constexpr std::uint32_t kOpaque = 0xff000000;
+/// Rows that are finished before the next ones are begun, so that the grid finds them in the cache.
+constexpr std::int32_t kBandRows = 32;
 
 /// The first number from `from` on that leaves `rest` when divided by `period`; none is negative.
 std::int32_t firstFrom(std::int32_t from, std::int32_t rest, std::int32_t period) {
@@ -45,36 +30,45 @@ ViewRenderer::ViewRenderer(const TextureCanvas& canvas, const ViewLook& look)
     , look_(look) {}
 
 void ViewRenderer::draw(Surface& surface, const Rect& area) const {
-    const Rect reach{surface.originX, surface.originY, surface.originX + surface.width,
-                     surface.originY + surface.height};
-    const Rect visible = intersection(area, reach);
+    const Rect visible = intersection(area, reachOf(surface));
     if (isEmpty(visible))
         return;
-
-    const Rect content{0, 0, canvas_.width() * look_.zoom, canvas_.height() * look_.zoom};
-    const Rect image = intersection(visible, content);
-    if (look_.noPalette || isEmpty(image)) {
-        fill(surface, visible, look_.outsideColour);
+    if (look_.noPalette) {
+        fillArea(surface, visible, look_.outsideColour);
         return;
     }
-    fill(surface, {visible.left, visible.top, visible.right, image.top}, look_.outsideColour);
-    fill(surface, {visible.left, image.top, image.left, image.bottom}, look_.outsideColour);
-    fill(surface, {image.right, image.top, visible.right, image.bottom}, look_.outsideColour);
-    fill(surface, {visible.left, image.bottom, visible.right, visible.bottom}, look_.outsideColour);
-    drawImage(surface, image);
-    if (look_.gridShown)
-        drawGrid(surface, image);
+    if (look_.imageShown) {
+        const Rect content{0, 0, canvas_.width() * look_.zoom, canvas_.height() * look_.zoom};
+        const Rect image = intersection(visible, content);
+        drawOutside(surface, visible, image);
+        const std::int32_t bandRows = (kBandRows + look_.zoom - 1) / look_.zoom * look_.zoom;
+        Rect band = image;
+        for (; band.top < image.bottom && band.left < band.right; band.top = band.bottom) {
+            // Bands end where texels do, so that no row is looked up twice.
+            band.bottom = std::min((band.top / bandRows + 1) * bandRows, image.bottom);
+            drawImage(surface, band);
+            if (look_.gridShown)
+                drawGrid(surface, band);
+        }
+    }
+    if (look_.selection)
+        drawSelection(surface, visible);
 }
 
-void ViewRenderer::drawImage(Surface& surface, const Rect& area) const {
-    // Whole texels are drawn; a surface of exactly the area cuts them at its edges.
-    Surface part = surface;
-    part.pixels = pixelAt(surface, area.left, area.top);
-    part.width = area.right - area.left;
-    part.height = area.bottom - area.top;
-    part.originX = area.left;
-    part.originY = area.top;
+void ViewRenderer::drawOutside(const Surface& surface, const Rect& visible, const Rect& image) const {
+    if (isEmpty(image)) {
+        fillArea(surface, visible, look_.outsideColour);
+        return;
+    }
+    fillArea(surface, {visible.left, visible.top, visible.right, image.top}, look_.outsideColour);
+    fillArea(surface, {visible.left, image.top, image.left, image.bottom}, look_.outsideColour);
+    fillArea(surface, {image.right, image.top, visible.right, image.bottom}, look_.outsideColour);
+    fillArea(surface, {visible.left, image.bottom, visible.right, visible.bottom}, look_.outsideColour);
+}
 
+void ViewRenderer::drawImage(const Surface& surface, const Rect& area) const {
+    // Whole texels are drawn, and cut at the edges of the area.
+    Surface part = partOf(surface, area);
     const std::int32_t zoom = look_.zoom;
     const Rect texels{area.left / zoom, area.top / zoom, std::min(area.right / zoom + 1, canvas_.width()),
                       std::min(area.bottom / zoom + 1, canvas_.height())};
@@ -82,24 +76,46 @@ void ViewRenderer::drawImage(Surface& surface, const Rect& area) const {
                  texels);
 }
 
-void ViewRenderer::drawGrid(Surface& surface, const Rect& area) const {
+void ViewRenderer::drawGrid(const Surface& surface, const Rect& area) const {
     // The pen draws where its pattern is white and merges with what is there. At zoom 1 the pattern has one
     // white pixel at its corner, at larger zooms it is a checkerboard that is white where x + y is odd. Lines
-    // lie at multiples of its side, so along each line the white pixels are the same.
+    // lie at multiples of its side: a horizontal line is white in every period-th column, and all vertical
+    // lines are white in the same rows.
     const std::int32_t step = kGridTexels * look_.zoom;
     const std::int32_t period = look_.zoom == 1 ? kPatternSide : 2;
     const std::int32_t rest = look_.zoom == 1 ? 0 : 1;
 
-    const std::int32_t firstX = firstFrom(area.left, rest, period);
-    const std::int32_t firstY = firstFrom(area.top, rest, period);
-    for (std::int32_t x = firstFrom(std::max(area.left, 1), 0, step); x < area.right; x += step) {
-        for (std::int32_t y = firstY; y < area.bottom; y += period)
-            *pixelAt(surface, x, y) |= kWhite;
+    const std::int32_t firstLine = firstFrom(std::max(area.left, 1), 0, step);
+    const std::int32_t firstWhite = firstFrom(area.left, rest, period);
+    for (std::int32_t y = area.top; y < area.bottom; ++y) {
+        std::uint32_t* const row = pixelAt(surface, area.left, y);
+        if (y % period == rest) {
+            for (std::int32_t x = firstLine; x < area.right; x += step)
+                row[x - area.left] |= kWhite;
+        }
+        if (y % step == 0 && y > 0) {
+            for (std::int32_t x = firstWhite; x < area.right; x += period)
+                row[x - area.left] |= kWhite;
+        }
     }
-    for (std::int32_t y = firstFrom(std::max(area.top, 1), 0, step); y < area.bottom; y += step) {
-        for (std::int32_t x = firstX; x < area.right; x += period)
-            *pixelAt(surface, x, y) |= kWhite;
+}
+
+void ViewRenderer::drawSelection(const Surface& surface, const Rect& visible) const {
+    const SelectionLook& selection = *look_.selection;
+    const ViewGeometry geometry(look_.zoom, {canvas_.width(), canvas_.height()}, {}, {});
+    if (selection.floating != nullptr) {
+        Surface part = partOf(surface, visible);
+        selection.floating->Draw(part, geometry.logicalArea(selection.texels),
+                                 {0, 0, selection.floating->width(), selection.floating->height()});
     }
+    const Rect frame = geometry.selectionFrame(selection.texels);
+    SelectionTracker(frame, selection.trackerStyle).draw(surface, visible);
+    const std::int32_t whiteRest = selection.antsPhase ? 1 : 0;
+    drawOutline(surface, grown(frame, 1), visible,
+                [whiteRest](std::int32_t x, std::int32_t y, std::uint32_t& pixel) {
+                    const bool white = (((x >> 1) + (y >> 1)) & 1) == whiteRest;
+                    pixel = white ? kOpaque | kWhite : kOpaque;
+                });
 }
 
 } // namespace dyeworks

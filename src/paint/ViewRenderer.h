@@ -4,23 +4,34 @@
 #include "paint/Surface.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace dyeworks {
 
 class TextureCanvas;
 
+/// How a view shows a selection.
+struct SelectionLook {
+    Rect texels;                             ///< Inclusive.
+    const TextureCanvas* floating = nullptr; ///< Shown in place of the selected texels, scaled to them.
+    std::uint32_t trackerStyle = 0;          ///< As in `SelectionTracker`.
+    bool antsPhase = false;                  ///< Swaps black and white of the border.
+};
+
 /// How a view shows its image.
 struct ViewLook {
     std::int32_t zoom = 1;
     bool gridShown = true;
-    bool noPalette = false;          ///< The outside colour takes the image's place.
+    bool noPalette = false;          ///< The outside colour takes the place of all else.
     std::uint32_t outsideColour = 0; ///< 0xffRRGGBB, around the image.
+    bool imageShown = true;          ///< Otherwise what the surface holds stays beneath the selection.
+    std::optional<SelectionLook> selection;
 };
 
-/// Draws an image as its view shows it: zoomed, with the grid over it.
+/// Draws an image as its view shows it: zoomed, with the grid and the selection over it.
 class ViewRenderer {
 public:
-    /// `canvas` must outlive the renderer.
+    /// `canvas` and the floating piece must outlive the renderer.
     ViewRenderer(const TextureCanvas& canvas, const ViewLook& look);
 
     /// Draws the logical area (right and bottom exclusive) as far as the surface reaches; the surface's
@@ -28,8 +39,10 @@ public:
     void draw(Surface& surface, const Rect& area) const;
 
 private:
-    void drawImage(Surface& surface, const Rect& area) const;
-    void drawGrid(Surface& surface, const Rect& area) const;
+    void drawOutside(const Surface& surface, const Rect& visible, const Rect& image) const;
+    void drawImage(const Surface& surface, const Rect& area) const;
+    void drawGrid(const Surface& surface, const Rect& area) const;
+    void drawSelection(const Surface& surface, const Rect& visible) const;
 
     const TextureCanvas& canvas_;
     ViewLook look_;

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "framework/WindowPlacement.h"
 #include "paint/Rect.h"
+
+#include <optional>
 
 namespace dyeworks {
 
@@ -35,6 +38,14 @@ public:
     /// Resizes the frame, without moving it, so that the whole content fits in, but not beyond the right and
     /// bottom edges of the main window's client area. A maximised frame stays as it is.
     virtual void fitFrame() = 0;
+
+    /// Where the frame stands; nothing while it cannot be told.
+    [[nodiscard]] virtual std::optional<WindowPlacement> placement() const = 0;
+    virtual void setPlacement(const WindowPlacement& placement) = 0;
+
+    /// Until `stopTicking`, the window calls the view's `Tick` in every such interval.
+    virtual void startTicking(int milliseconds) = 0;
+    virtual void stopTicking() = 0;
 
     /// Where the pointer is, in client pixels.
     [[nodiscard]] virtual Point pointerPosition() const = 0;

@@ -2,7 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <functional>
+#include <utility>
 
 namespace dyeworks {
 namespace {
@@ -28,13 +30,29 @@ TEST_F(DocFile, SaveDropsTheMarkAndKeepsThePalette) {
     EXPECT_EQ(document.title(), "a [b] * c.tmf [" + palette + "] * ");
 }
 
-TEST_F(DocFile, SavedPixelsComeBack) {
-    for (const Size size : {Size{5, 3}, Size{0, 4}, Size{7, 0}}) {
+TEST_F(DocFile, SavedPixelsComeBackInTheFormatOfTheName) {
+    struct Case {
+        const char* path;
+        Size size;
+        bool bmp;
+    };
+    for (const Case& c : {Case{"c:\\tex.tmf", {5, 3}, false}, Case{"c:\\no height.tmf", {7, 0}, false},
+                          Case{"c:\\no width.bmp", {0, 4}, true}, Case{"c:\\A.BMP", {5, 3}, true},
+                          Case{"c:\\a.bmp.tmf", {5, 3}, false}, Case{"c:\\d.bmp\\b", {5, 3}, false},
+                          Case{"a.bmp", {5, 3}, false}, Case{"ab.bmp", {5, 3}, true}}) {
+        SCOPED_TRACE(c.path);
+        platform.files.createDirectory("c:\\d.bmp");
+        platform.files.setCurrentDirectory("c:\\d.bmp");
+        const Size size = c.size;
         document.canvas().Create(size.width, size.height, 1, 4);
         document.Line(nullptr, 0, 0, 4, 2, 13);
-        ASSERT_TRUE(document.save());
+        ASSERT_TRUE(document.onSaveDocument(c.path));
+        EXPECT_EQ(platform.files.textOf(c.path)->substr(0, 2) == "BM", c.bmp);
         CDyeworksDoc copy(host);
-        ASSERT_TRUE(copy.onOpenDocument("c:\\tex.tmf"));
+        const std::size_t palettes = host.palettes.palettes.size();
+        ASSERT_TRUE(copy.onOpenDocument(c.path));
+        EXPECT_EQ(host.palettes.palettes.size(), palettes + (c.bmp ? 1 : 0));
+        EXPECT_FALSE(copy.IsAttached());
         EXPECT_EQ(copy.canvas().width(), size.width);
         EXPECT_EQ(copy.canvas().height(), size.height);
         EXPECT_THAT(copy.canvas().pixelRows(), testing::ElementsAreArray(pixels()));
@@ -112,6 +130,130 @@ TEST_F(DocFile, SaveQuestionIsAskedWhereverTheFileDiffers) {
         EXPECT_EQ(document.isModified(), step.modified);
         EXPECT_EQ(document.hasUnsavedChanges(), step.asks);
     }
+}
+
+TEST_F(DocFile, ColoursOfABitmapBecomeTheCurrentPalette) {
+    const auto colours = document.canvas().colourTable();
+    const std::uint8_t third[] = {0x47, 0x88, 0xff, 0x08}; // blue, green, red, reserved
+    std::ranges::copy(third, colours.begin() + 2 * 4);
+    ASSERT_TRUE(document.canvas().SaveBmp("c:\\pic.bmp"));
+    ASSERT_TRUE(document.onOpenDocument("c:\\pic.bmp"));
+    const TlutData& table = host.palettes.lookup("")->table;
+    EXPECT_EQ(table.count, 16);
+    EXPECT_EQ(table.colourType, ColourType::Rgba);
+    EXPECT_THAT((std::vector{table.getRed(2), table.getGreen(2), table.getBlue(2), table.getAlpha(2)}),
+                ElementsAre(31, 17, 8, 1));
+    EXPECT_EQ(table.getAlpha(3), 0);
+    EXPECT_EQ(host.barRefreshes, 1);
+
+    platform.files.putFile("c:\\bad.bmp", "BMP");
+    EXPECT_FALSE(document.onOpenDocument("c:\\bad.bmp"));
+    EXPECT_EQ(host.palettes.palettes.size(), 1U);
+}
+
+TEST_F(DocFixture, NewImageIsWhatWasAskedForOrAbandoned) {
+    CDyeworksDoc fresh(host);
+    EXPECT_FALSE(fresh.onNewDocument());
+    EXPECT_EQ(host.projectOffers, 0);
+    host.newImage = NewImage{33, 0, 8};
+    EXPECT_TRUE(fresh.onNewDocument());
+    EXPECT_EQ(fresh.canvas().width(), 33);
+    EXPECT_EQ(fresh.canvas().bitsPerPixel(), 8);
+    EXPECT_FALSE(fresh.hasUnsavedChanges());
+    EXPECT_EQ(host.projectOffers, 1);
+}
+
+TEST_F(DocFile, RevertGoesBackToTheFileAndKeepsThePalette) {
+    openPalette();
+    document.Attach();
+    const auto colours = [&] {
+        const auto table = document.canvas().colourTable();
+        return std::vector<std::uint8_t>(table.begin(), table.end());
+    };
+    const auto canRevert = [&] { return stateOf(document, ID_FILE_REVERT).enabled; };
+    document.Pixel(nullptr, 1, 1, 5);
+    ASSERT_TRUE(document.save());
+    const auto saved = pixels();
+    const auto shown = colours();
+    const std::string title = document.title();
+    openPalette(256); // another one is current now
+    EXPECT_FALSE(canRevert());
+    for (const Size size : {Size{16, 12}, Size{40, 50}}) { // the second time the file has another size
+        if (size.width == 40)
+            document.canvas().Create(40, 50, 1, 4);
+        document.Fill(nullptr, 0, 0, 3);
+        EXPECT_TRUE(canRevert());
+        const auto edited = pixels();
+        document.runCommand(ID_FILE_REVERT); // the question is answered with no
+        EXPECT_EQ(pixels(), edited);
+        platform.messages.answerWith({MessageAnswer::Yes, MessageAnswer::Ok});
+        platform.files.failNextRead(FileError::AccessDenied);
+        document.runCommand(ID_FILE_REVERT);
+        EXPECT_EQ(pixels(), edited);
+        EXPECT_TRUE(document.CanUndo());
+        platform.messages.answerWith(MessageAnswer::Yes);
+        document.runCommand(ID_FILE_REVERT);
+        EXPECT_EQ(pixels(), saved);
+        if (size.width == 16) {
+            EXPECT_EQ(colours(), shown);
+        }
+        EXPECT_EQ(document.title(), title);
+        EXPECT_FALSE(document.hasUnsavedChanges() || document.CanUndo() || canRevert());
+        document.Pixel(nullptr, 15, 11, 2);
+        document.Undo();
+        EXPECT_EQ(pixels(), saved);
+    }
+}
+
+TEST_F(DocFixture, AddToProjectAsksForWhatIsMissing) {
+    FakeProject project;
+    platform.files.createDirectory("c:\\proj");
+    const std::string start = platform.files.currentDirectory();
+    const std::string question =
+        "You must attach a palette before add to project.\nattach to active palette now?\n";
+    const std::string noPalette = "An active palette not found.\nYou must open or create a palette.\n";
+    const std::string pleaseSave = "Please save document that adds to project.";
+    struct Case {
+        const char* name;
+        bool palette;
+        MessageAnswer attach;
+        const char* file; ///< Chosen in the save dialog; empty: cancelled.
+        std::vector<std::string> messages;
+        std::vector<std::string> added;
+    };
+    const auto run = [&](const Case& c) {
+        SCOPED_TRACE(c.name);
+        if (c.palette && host.palettes.palettes.empty())
+            openPalette();
+        platform.messages.shown.clear();
+        platform.messages.answerWith(c.attach);
+        if (c.file[0] != 0)
+            platform.dialogs.answerWith(c.file);
+        document.runCommand(ID_IMAGE_ADD_TO_PROJECT);
+        std::vector<std::string> texts;
+        for (const Message& message : platform.messages.shown)
+            texts.push_back(message.text);
+        EXPECT_EQ(texts, c.messages);
+        EXPECT_EQ(std::exchange(project.added, {}), c.added);
+        EXPECT_EQ(platform.files.currentDirectory(), start);
+    };
+    EXPECT_FALSE(stateOf(document, ID_IMAGE_ADD_TO_PROJECT).enabled);
+    host.project = &project;
+    EXPECT_TRUE(stateOf(document, ID_IMAGE_ADD_TO_PROJECT).enabled);
+    run({"not attached", true, MessageAnswer::No, "", {question}, {}});
+    ASSERT_TRUE(host.palettes.closePalette("", false));
+    run({"nothing to attach", false, MessageAnswer::Yes, "", {question, noPalette}, {}});
+    run({"not saved", true, MessageAnswer::Yes, "", {question, pleaseSave, "not add to project."}, {}});
+    const std::string tail = "," + document.attachedName();
+    run({"saved in the project's folder",
+         true,
+         MessageAnswer::Ok,
+         "p.tmf",
+         {pleaseSave},
+         {"c:\\proj\\p.tmf" + tail}});
+    run({"ready", true, MessageAnswer::Ok, "", {}, {"c:\\proj\\p.tmf" + tail}});
+    platform.files.remove("c:\\proj\\p.tmf");
+    run({"file is gone", true, MessageAnswer::Ok, "c:\\q.tmf", {pleaseSave}, {"c:\\q.tmf" + tail}});
 }
 
 TEST_F(DocFile, ClosingClearsThePanesAndForgetsTheDocument) {

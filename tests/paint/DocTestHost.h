@@ -2,15 +2,74 @@
 
 #include "core/PaletteSet.h"
 #include "paint/CDyeworksDoc.h"
+#include "paint/ImagePlugIns.h"
+#include "paint/OpenProject.h"
 #include "platform/fake/FakePlatform.h"
 
 #include <gtest/gtest.h>
 
 #include <map>
+#include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace dyeworks {
+
+/// Plug-ins that note their calls, and what they see, in a line of text each.
+class FakeImagePlugIns : public ImagePlugIns {
+public:
+    std::vector<std::string> importNames() const override { return names; }
+    std::vector<std::string> exportNames() const override { return names; }
+    std::unique_ptr<TextureCanvas> ImportImage(std::int32_t index, TmfImage* image, TlutData* palette,
+                                               std::int32_t paletteNumber) override {
+        note("import", index, image, palette, paletteNumber);
+        if (texelOnImport != 0)
+            image->setTexel(0, 0, texelOnImport);
+        return std::move(brings);
+    }
+    bool ExportImage(std::int32_t index, TmfImage* image, TlutData* palette,
+                     std::int32_t paletteNumber) override {
+        note("export", index, image, palette, paletteNumber);
+        return true;
+    }
+    std::uint32_t PreviewImage(TmfImage* image, TlutData* palette, std::int32_t paletteNumber,
+                               std::int32_t which) override {
+        note("preview", which, image, palette, paletteNumber);
+        return which == failingPreview ? 0 : 1;
+    }
+    void note(const char* call, std::int32_t number, const TmfImage* image, const TlutData* palette,
+              std::int32_t paletteNumber) {
+        calls.push_back(call + (" " + std::to_string(number)) + " texel " +
+                        std::to_string(image->getTexel(0, 0)) + " of " +
+                        std::to_string(palette == nullptr ? 0 : palette->count) + " from " +
+                        std::to_string(paletteNumber));
+    }
+    /// The calls since the last time.
+    std::vector<std::string> take() { return std::exchange(calls, {}); }
+
+    std::vector<std::string> names;
+    std::vector<std::string> calls;
+    std::uint32_t texelOnImport = 0;
+    std::unique_ptr<TextureCanvas> brings;
+    std::int32_t failingPreview = -1;
+};
+
+/// A project that notes the pictures that are added to it.
+class FakeProject : public OpenProject {
+public:
+    std::string imageDirectory() const override { return "c:\\proj"; }
+    bool AddPicture(const std::optional<std::string>& name, const std::string& imageFile,
+                    const std::string& paletteFile, std::int32_t paletteNumber,
+                    const std::optional<std::string>& after, bool silent) override {
+        EXPECT_FALSE(name || after || silent);
+        EXPECT_EQ(paletteNumber, 0);
+        added.push_back(imageFile + "," + paletteFile);
+        return true;
+    }
+    std::vector<std::string> added;
+};
 
 /// An application with a palette bar and a status line that only remember.
 class FakeImageHost : public ImageHost {
@@ -22,6 +81,11 @@ public:
     void refreshPaletteBar() override { ++barRefreshes; }
     void setStatusText(const std::string& text, int pane) override { panes[pane] = text; }
     bool isActiveImage(const CDyeworksDoc& document) const override { return active == &document; }
+    CDyeworksView* activeView() const override { return view; }
+    ImagePlugIns& imagePlugIns() override { return plugIns; }
+    OpenProject* openProject() override { return project; }
+    std::optional<NewImage> askNewImage() override { return newImage; }
+    void AskUseProject() override { ++projectOffers; }
 
     PaletteSet palettes;
     std::int32_t firstEntry = 0;
@@ -29,6 +93,11 @@ public:
     int barRefreshes = 0;
     std::map<int, std::string> panes;
     const CDyeworksDoc* active = nullptr;
+    CDyeworksView* view = nullptr;
+    FakeImagePlugIns plugIns;
+    FakeProject* project = nullptr;
+    std::optional<NewImage> newImage;
+    int projectOffers = 0;
 };
 
 /// What `target` says of a command that it takes.

@@ -44,12 +44,6 @@ TEST(ViewGeometry, MapsClientPointsToTexels) {
     }
 }
 
-TEST(ViewGeometry, AreasOfTexels) {
-    const ViewGeometry geometry(4, {100, 100}, {50, 50}, {6, 2});
-    EXPECT_EQ(geometry.clientArea({1, 2, 3, 2}), (Rect{-2, 6, 10, 10}));
-    EXPECT_EQ(geometry.selectionFrame({1, 2, 3, 4}), (Rect{5, 9, 15, 19}));
-}
-
 TEST(ViewGeometry, ScrollStaysInTheContent) {
     struct Case {
         std::int32_t zoom;

@@ -18,7 +18,11 @@ public:
     void setContentSize(Size size) override { content = size; }
     void invalidate(const Rect& area) override { invalidated.push_back(area); }
     void invalidateAll() override { ++fullRepaints; }
-    void repaintNow() override {}
+    void repaintNow() override {
+        ++repaints;
+        if (view != nullptr)
+            paintedRequest = view->BeginPaint();
+    }
     void capturePointer() override { captured = true; }
     void releasePointer() override {
         captured = false;
@@ -27,6 +31,10 @@ public:
     }
     void setCursor(CursorShape shape) override { cursor = shape; }
     void fitFrame() override { ++fits; }
+    std::optional<WindowPlacement> placement() const override { return place; }
+    void setPlacement(const WindowPlacement& placement) override { place = placement; }
+    void startTicking(int milliseconds) override { interval = milliseconds; }
+    void stopTicking() override { interval = 0; }
     Point pointerPosition() const override { return pointer; }
     bool shiftHeld() const override { return shift; }
 
@@ -38,6 +46,10 @@ public:
     bool captured = false;
     CursorShape cursor = CursorShape::Arrow;
     int fits = 0;
+    int repaints = 0;
+    std::uint32_t paintedRequest = 0; ///< Of the last repaint.
+    std::optional<WindowPlacement> place;
+    int interval = 0; ///< In milliseconds; 0 while it does not tick.
     Point pointer;
     bool shift = false;
     CDyeworksView* view = nullptr;

@@ -4,12 +4,14 @@
 #include "paint/CDyeworksDoc.h"
 #include "platform/Text.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QImage>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScrollBar>
+#include <QTimerEvent>
 #include <QWheelEvent>
 #include <QtMath>
 
@@ -108,6 +110,7 @@ void ImageView::activated(ChildFrame&) {
 }
 
 void ImageView::closing(ChildFrame&) {
+    view_.Closing();
     frame_ = nullptr;
 }
 
@@ -157,29 +160,42 @@ void ImageView::fitFrame() {
         frame_->fitToContent(*this);
 }
 
+std::optional<WindowPlacement> ImageView::placement() const {
+    return frame_ == nullptr ? std::nullopt : std::optional(frame_->placement());
+}
+
+void ImageView::setPlacement(const WindowPlacement& placement) {
+    if (frame_ != nullptr)
+        frame_->setPlacement(placement);
+}
+
 Point ImageView::pointerPosition() const {
     const QPoint position = viewport()->mapFromGlobal(QCursor::pos());
     return {position.x(), position.y()};
 }
 
 bool ImageView::shiftHeld() const {
-    return QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
+    return QApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
 }
 
 void ImageView::paintEvent(QPaintEvent* event) {
+    stale_ -= event->region();
     QPainter painter(viewport());
+    std::uint32_t request = view_.BeginPaint();
+    // What the window shows cannot be read back, so that the image is drawn beneath whatever was asked for.
+    if (request != 0)
+        request |= CDyeworksView::kRedrawImage;
     for (const QRect& part : event->region())
-        paintPart(painter, part);
+        paintPart(painter, part, request);
     if (view_.showsNoPalette()) {
         const QRect client = viewport()->rect();
         const QRect line(0, client.height() / 2, client.width(), client.height());
         painter.setPen(palette().color(QPalette::ButtonText));
         painter.drawText(line, Qt::AlignHCenter | Qt::AlignTop, QStringLiteral("NO PALETTE"));
     }
-    stale_ -= event->region();
 }
 
-void ImageView::paintPart(QPainter& painter, const QRect& part) const {
+void ImageView::paintPart(QPainter& painter, const QRect& part, std::uint32_t redrawRequest) const {
     QImage picture(part.size(), QImage::Format_RGB32);
     if (picture.isNull())
         return;
@@ -192,7 +208,7 @@ void ImageView::paintPart(QPainter& painter, const QRect& part) const {
     surface.originX = origin.x();
     surface.originY = origin.y();
     view_.Paint(surface, {origin.x(), origin.y(), origin.x() + part.width(), origin.y() + part.height()},
-                palette().color(QPalette::Button).rgb());
+                palette().color(QPalette::Button).rgb(), redrawRequest);
     // Enlarged by the scale factor, texels keep their edges.
     painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
     painter.drawImage(part.topLeft(), picture);
@@ -213,13 +229,25 @@ void ImageView::wheelEvent(QWheelEvent* event) {
         ScrollView::wheelEvent(event);
         return;
     }
-    wheelTurn_ += event->angleDelta().y();
+    const qreal turn = wheelTurn(*event);
+    // Turned back, what was left over the other way is forgotten.
+    if (turn * wheelTurn_ < 0)
+        wheelTurn_ = 0;
+    wheelTurn_ += turn;
     const Point position = pixelAt(event->position());
     for (; wheelTurn_ >= kWheelNotch; wheelTurn_ -= kWheelNotch)
         view_.ZoomAt(position, false);
     for (; wheelTurn_ <= -kWheelNotch; wheelTurn_ += kWheelNotch)
         view_.ZoomAt(position, true);
     event->accept();
+}
+
+/// Touchpads may report pixels alone; as many as a notch scrolls are a notch.
+qreal ImageView::wheelTurn(const QWheelEvent& event) const {
+    if (event.angleDelta().y() != 0)
+        return event.angleDelta().y();
+    const int notch = std::max(QApplication::wheelScrollLines() * verticalScrollBar()->singleStep(), 1);
+    return qreal{kWheelNotch} * event.pixelDelta().y() / notch;
 }
 
 void ImageView::mousePressEvent(QMouseEvent* event) {
@@ -258,6 +286,13 @@ void ImageView::keyReleaseEvent(QKeyEvent* event) {
     view_.KeyReleased(keyEvent(*event, false));
     if (keyOf(*event) == Key::Other)
         ScrollView::keyReleaseEvent(event);
+}
+
+void ImageView::timerEvent(QTimerEvent* event) {
+    if (event->timerId() == ticks_.timerId())
+        view_.Tick();
+    else
+        ScrollView::timerEvent(event);
 }
 
 void ImageView::loseCapture() {

@@ -5,6 +5,7 @@
 #include "paint/CDyeworksView.h"
 #include "paint/ViewWindow.h"
 
+#include <QBasicTimer>
 #include <QRegion>
 
 namespace dyeworks {
@@ -41,6 +42,7 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
     [[nodiscard]] Size clientSize() const override;
@@ -54,19 +56,25 @@ private:
     void releasePointer() override { captured_ = false; }
     void setCursor(CursorShape shape) override;
     void fitFrame() override;
+    [[nodiscard]] std::optional<WindowPlacement> placement() const override;
+    void setPlacement(const WindowPlacement& placement) override;
+    void startTicking(int milliseconds) override { ticks_.start(milliseconds, this); }
+    void stopTicking() override { ticks_.stop(); }
     [[nodiscard]] Point pointerPosition() const override;
     [[nodiscard]] bool shiftHeld() const override;
 
     void loseCapture();
-    void paintPart(QPainter& painter, const QRect& part) const;
+    void paintPart(QPainter& painter, const QRect& part, std::uint32_t redrawRequest) const;
+    [[nodiscard]] qreal wheelTurn(const QWheelEvent& event) const;
     void nameAfterDocument();
 
     // Qt sends all pointer events to the widget of the press until the release; what is left is to notice
     // when it stops doing so.
     bool captured_ = false;
     ChildFrame* frame_ = nullptr;
-    QRegion stale_;     ///< Of the viewport: asked to be repainted and not painted yet.
-    int wheelTurn_ = 0; ///< Of the wheel with Ctrl, too little for a step so far.
+    QRegion stale_;       ///< Of the viewport: asked to be repainted and not painted yet.
+    qreal wheelTurn_ = 0; ///< Of the wheel with Ctrl, too little for a step so far.
+    QBasicTimer ticks_;
     // Last: it talks to the rest of this object while it lives.
     CDyeworksView view_;
 };

@@ -1,0 +1,136 @@
+#include "bench/Baseline.h"
+#include "bench/Cases.h"
+#include "paint/CDyeworksDoc.h"
+#include "paint/ImageHost.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <functional>
+#include <malloc.h>
+#include <optional>
+#include <string>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr std::int32_t kSide = 4096;
+constexpr std::size_t kTexels = std::size_t{kSide} * kSide;
+constexpr Rect kWhole{0, 0, kSide - 1, kSide - 1};
+
+/// An application without palettes, windows, plug-ins and projects.
+class BareHost : public ImageHost {
+public:
+    PaletteSet* paletteSet() override { return nullptr; }
+    std::int32_t paletteBarFirstEntry() const override { return 0; }
+    std::int32_t paletteBarCell() const override { return -1; }
+    void selectPaletteBarCell(std::int32_t /*cell*/) override {}
+    void refreshPaletteBar() override {}
+    void setStatusText(const std::string& /*text*/, int /*pane*/) override {}
+    bool isActiveImage(const CDyeworksDoc& /*document*/) const override { return false; }
+    CDyeworksView* activeView() const override { return nullptr; }
+    ImagePlugIns& imagePlugIns() override { std::abort(); }
+    OpenProject* openProject() override { return nullptr; }
+    std::optional<NewImage> askNewImage() override { return std::nullopt; }
+    void AskUseProject() override {}
+};
+
+/// Bytes that the program holds on the heap.
+std::size_t heldBytes() {
+    const struct mallinfo2 info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
+using Step = std::function<void(CDyeworksDoc& document, std::uint32_t turn)>;
+
+/// Measures steps on an image that has been edited all over once and holds values without any order.
+void add(const std::string& name, std::uint16_t bits, Baseline against, std::size_t bytes, const Step& step) {
+    const std::string base = baseline(against, bytes);
+    const std::string full = name + "/" + std::to_string(bits) + "bit/" + std::to_string(kSide);
+    benchmark::RegisterBenchmark(full.c_str(), [=](benchmark::State& state) {
+        BareHost host;
+        CDyeworksDoc document(host);
+        if (!document.canvas().Create(kSide, kSide, 1, bits))
+            state.SkipWithError("no memory");
+        document.FilledBox(nullptr, kWhole, 3);
+        document.Pixel(nullptr, 0, 0, 1);
+        document.ClearUndo();
+        std::uint32_t turn = 0;
+        for (auto _ : state) {
+            step(document, ++turn);
+            benchmark::ClobberMemory();
+        }
+        state.SetLabel(base);
+    })->Unit(benchmark::kMicrosecond);
+}
+
+void stroke(CDyeworksDoc& document, std::int32_t x, std::int32_t y, std::uint32_t value) {
+    if (!document.TakeSnapshot())
+        std::abort();
+    for (std::int32_t n = 0; n < 32; ++n) {
+        document.canvas().DrawLine(x + n, y, x + 31 - n, y + 31, value);
+        document.canvas().ResetChangedRect();
+    }
+    document.RecordUndoStep(kWhole);
+    document.AfterEdit(nullptr);
+}
+
+void addHundredStrokes(std::uint16_t bits) {
+    const std::string name =
+        "HundredStrokes-of-32x32/" + std::to_string(bits) + "bit/" + std::to_string(kSide);
+    benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) {
+        BareHost host;
+        CDyeworksDoc document(host);
+        if (!document.canvas().Create(kSide, kSide, 1, bits))
+            state.SkipWithError("no memory");
+        document.Pixel(nullptr, 0, 0, 1); // the snapshot is there from now on
+        document.ClearUndo();
+        std::uint32_t turn = 0;
+        std::size_t before = 0;
+        std::size_t after = 0;
+        for (auto _ : state) {
+            before = heldBytes();
+            ++turn;
+            for (std::int32_t n = 0; n < 100; ++n)
+                stroke(document, n * 40, n * 37, turn);
+            after = heldBytes();
+            document.ClearUndo();
+        }
+        state.counters["undo-bytes"] = static_cast<double>(after - before);
+    })->Unit(benchmark::kMicrosecond);
+}
+
+} // namespace
+
+void registerDocumentCases() {
+    for (const std::uint16_t bits : {std::uint16_t{4}, std::uint16_t{8}}) {
+        const std::size_t bytes = kTexels * bits / 8;
+        add("Edit-texel", bits, Baseline::Memcpy, bytes, [](CDyeworksDoc& document, std::uint32_t turn) {
+            // Another value in each round along the row.
+            document.Pixel(nullptr, static_cast<std::int32_t>(turn * 97 % kSide), 5, turn + turn / kSide);
+        });
+        add("Undo-redo-texel", bits, Baseline::Memcpy, bytes, [](CDyeworksDoc& document, std::uint32_t turn) {
+            if (turn == 1)
+                document.Pixel(nullptr, 9, 9, 2);
+            document.Undo();
+            document.Redo();
+        });
+        // The history is emptied each time, as the baseline frees what it has copied into.
+        add("RecordStep-whole", bits, Baseline::MemcpyFresh, 2 * bytes,
+            [](CDyeworksDoc& document, std::uint32_t turn) {
+                document.canvas().SetPixel(0, 0, turn);
+                document.canvas().SetPixel(kSide - 1, kSide - 1, turn);
+                document.RecordUndoStep(kWhole);
+                document.ClearUndo();
+            });
+        add("Edit-whole", bits, Baseline::MemcpyFresh, 2 * bytes,
+            [](CDyeworksDoc& document, std::uint32_t turn) {
+                document.FilledBox(nullptr, kWhole, turn);
+                document.ClearUndo();
+            });
+        addHundredStrokes(bits);
+    }
+}
+
+} // namespace dyeworks

@@ -1,0 +1,187 @@
+#include "core/PaletteSet.h"
+#include "paint/CDyeworksDoc.h"
+#include "paint/CDyeworksView.h"
+#include "paint/CanvasFile.h"
+#include "paint/OpenProject.h"
+#include "platform/Platform.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr const char* kFilter = "Image Files (*.tmf)|*.tmf||";
+constexpr const char* kExtension = ".tmf";
+
+constexpr int kPositionPane = 1;
+constexpr int kSizePane = 2;
+
+FileDialogRequest saveRequest(const std::string& initialName) {
+    FileDialogRequest request;
+    request.filter = kFilter;
+    request.defaultExtension = kExtension;
+    request.initialName = initialName;
+    request.hideReadOnly = true;
+    request.overwritePrompt = true;
+    return request;
+}
+
+MessageAnswer show(const char* text, MessageButtons buttons, MessageIcon icon) {
+    return platform().messages().show({text, "", buttons, icon, MessageOwner::MainWindow});
+}
+
+} // namespace
+
+bool CDyeworksDoc::onNewDocument() {
+    const std::optional<NewImage> wanted = host_.askNewImage();
+    if (!wanted || !CDocument::onNewDocument() ||
+        !canvas_.Create(wanted->width, wanted->height, 1, wanted->bitsPerPixel))
+        return false;
+    snapshot_.reset();
+    replaceHistory(0);
+    RefreshPalette();
+    host_.AskUseProject();
+    return true;
+}
+
+bool CDyeworksDoc::onOpenDocument(const std::string& path) {
+    if (!CDocument::onOpenDocument(path) || !loadCanvas(canvas_, path))
+        return false;
+    snapshot_.reset();
+    replaceHistory(0);
+    if (isBmpName(path))
+        makePaletteOfColours();
+    else
+        RefreshPalette();
+    return true;
+}
+
+/// The document is not attached to the palette; that is up to the user.
+void CDyeworksDoc::makePaletteOfColours() {
+    PaletteSet* const set = host_.paletteSet();
+    const auto count = static_cast<std::int32_t>(canvas_.GetColorCount());
+    if (set == nullptr || !set->newPalette(count, ColourType::Rgba, -1))
+        return;
+    if (TextureLookupTable* const palette = set->lookup("")) {
+        const auto colours = canvas_.colourTable();
+        std::int32_t entry = 0;
+        for (auto colour = colours.begin(); colour != colours.end(); colour += 4, ++entry) {
+            palette->setRed(entry, colour[2] >> 3);
+            palette->setGreen(entry, colour[1] >> 3);
+            palette->setBlue(entry, colour[0] >> 3);
+            palette->setAlpha(entry, colour[3] >> 3);
+        }
+    }
+    host_.refreshPaletteBar();
+}
+
+bool CDyeworksDoc::onSaveDocument(const std::string& path) {
+    takeBackDrags();
+    std::string target = path;
+    if (target.empty()) {
+        const auto chosen =
+            platform().fileDialogs().save(saveRequest(pathName().empty() ? nameWithoutParts() : pathName()));
+        if (!chosen)
+            return false;
+        target = *chosen;
+    }
+    if (const std::optional<FileError> error = saveCanvas(canvas_, target)) {
+        applicationMessage(text(StringId::CannotSaveFile, {displayPath(target), describe(*error)}));
+        return false;
+    }
+    savedPosition_ = history_->position();
+    setModified(false);
+    if (path.empty())
+        setPathName(target);
+    return true;
+}
+
+void CDyeworksDoc::onCloseDocument() {
+    host_.setStatusText("", kPositionPane);
+    host_.setStatusText("", kSizePane);
+    CDocument::onCloseDocument();
+}
+
+void CDyeworksDoc::Revert() {
+    takeBackDrags();
+    if (hasUnsavedChanges() && applicationMessage(text(StringId::RevertQuestion, {displayName()}),
+                                                  MessageButtons::YesNo) != MessageAnswer::Yes)
+        return;
+    TextureCanvas saved;
+    if (!loadCanvas(saved, pathName())) {
+        // The reader of bitmaps leaves this to its callers.
+        if (isBmpName(pathName()))
+            applicationMessage(text(StringId::CannotReadFile, {displayName()}));
+        return;
+    }
+    takeContents(saved);
+    replaceHistory(0);
+    historyMoved_ = false;
+    setModified(false);
+    RefreshPalette();
+}
+
+/// The image keeps its colours as far as it has the same number of them.
+void CDyeworksDoc::takeContents(const TextureCanvas& contents) {
+    if (canvas_.CopyFrom(contents))
+        return;
+    snapshot_.reset();
+    const std::vector<std::uint8_t> colours(canvas_.colourTable().begin(), canvas_.colourTable().end());
+    if (canvas_.CreateLike(contents))
+        canvas_.CopyFrom(contents);
+    const auto table = canvas_.colourTable();
+    const auto own = contents.colourTable();
+    if (table.size() == colours.size())
+        std::ranges::copy(colours, table.begin());
+    else
+        std::copy_n(own.begin(), std::min(own.size(), table.size()), table.begin());
+    for (DocumentView* view : std::vector(views())) {
+        if (auto* const imageView = dynamic_cast<CDyeworksView*>(view)) {
+            imageView->SetFloatingPiece(nullptr);
+            imageView->SetSelection(std::nullopt, false);
+            imageView->SetZoom(imageView->zoom());
+        }
+    }
+}
+
+void CDyeworksDoc::OnUpdateRevert(CommandUi& ui) {
+    ui.enabled = !pathName().empty() && hasUnsavedChanges();
+}
+
+void CDyeworksDoc::AddToProject() {
+    if (!IsAttached()) {
+        if (show("You must attach a palette before add to project.\nattach to active palette now?\n",
+                 MessageButtons::YesNo, MessageIcon::Warning) != MessageAnswer::Yes)
+            return;
+        Attach();
+        if (!IsAttached()) {
+            applicationMessage("An active palette not found.\nYou must open or create a palette.\n");
+            return;
+        }
+    }
+    OpenProject* const project = host_.openProject();
+    Files& files = platform().files();
+    if (pathName().empty() || !files.exists(pathName())) {
+        // The dialog starts in the project's folder of images.
+        const std::string directory = files.currentDirectory();
+        if (project != nullptr)
+            files.setCurrentDirectory(project->imageDirectory());
+        show("Please save document that adds to project.", MessageButtons::Ok, MessageIcon::Warning);
+        const bool saved = saveAs();
+        files.setCurrentDirectory(directory);
+        if (!saved) {
+            show("not add to project.", MessageButtons::Ok, MessageIcon::Information);
+            return;
+        }
+    }
+    if (project != nullptr)
+        project->AddPicture(std::nullopt, pathName(), attachedName_, 0, std::nullopt, false);
+}
+
+void CDyeworksDoc::OnUpdateAddToProject(CommandUi& ui) {
+    ui.enabled = host_.openProject() != nullptr;
+}
+
+} // namespace dyeworks

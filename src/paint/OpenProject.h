@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace dyeworks {
+
+/// What image documents ask of the project that is open.
+class OpenProject {
+public:
+    virtual ~OpenProject() = default;
+
+    /// The folder of the project's images.
+    [[nodiscard]] virtual std::string imageDirectory() const = 0;
+
+    /// Adds a picture of these files, behind the picture called `after` (none: at the head). Without a name
+    /// it gets one. Unless `silent`, the user is shown everything and may change it. False when no picture
+    /// was added.
+    virtual bool AddPicture(const std::optional<std::string>& name, const std::string& imageFile,
+                            const std::string& paletteFile, std::int32_t paletteNumber,
+                            const std::optional<std::string>& after, bool silent) = 0;
+};
+
+} // namespace dyeworks

@@ -1,0 +1,128 @@
+#include "DocTestHost.h"
+#include "ViewTestWindow.h"
+#include "paint/CDyeworksView.h"
+
+#include <gmock/gmock.h>
+
+#include <functional>
+
+namespace dyeworks {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class DocPlugIns : public DocFixture {
+protected:
+    DocPlugIns() { host.active = &document; }
+    std::vector<std::string> calls() { return host.plugIns.take(); }
+    bool checked(CommandId id) { return stateOf(document, id).checked.value(); }
+};
+
+TEST_F(DocPlugIns, PreviewsThatAreOnFollowImageAndPalette) {
+    const std::vector<std::pair<const char*, std::function<void()>>> occasions{
+        {"edit", [&] { document.Pixel(nullptr, 1, 1, 5); }},
+        {"undo", [&] { document.Undo(); }},
+        {"redo", [&] { document.Redo(); }},
+        {"palette refreshed", [&] { document.RefreshPalette(); }},
+        {"palette edited", [&] { document.PaletteChanged("*other", host.palettes.lookup("")); }},
+        {"attached", [&] { document.Attach(); }}};
+    openPalette();
+    document.Attach();
+    for (const auto& [name, happens] : occasions) {
+        happens();
+        EXPECT_THAT(calls(), IsEmpty()) << name;
+    }
+    document.setPaletteValue(48);
+    document.runCommand(ID_PREVIEW2);
+    const std::string shown = "preview 1 texel 0 of 16 from 48";
+    EXPECT_THAT(calls(), ElementsAre(shown));
+    document.Undo();
+    calls();
+    for (const auto& [name, happens] : occasions) {
+        happens();
+        EXPECT_THAT(calls(), ElementsAre(shown)) << name;
+    }
+    document.SetStrokeFlag(true);
+    document.Pixel(nullptr, 2, 2, 5);
+    EXPECT_THAT(calls(), IsEmpty());
+    document.SetStrokeFlag(false);
+    host.active = nullptr;
+    document.Pixel(nullptr, 3, 3, 5);
+    document.runCommand(ID_PREVIEW1);
+    EXPECT_THAT(calls(), IsEmpty());
+    host.active = &document;
+    document.Fill(nullptr, 0, 0, 7);
+    EXPECT_THAT(calls(), ElementsAre("preview 0 texel 7 of 16 from 48", "preview 1 texel 7 of 16 from 48"));
+}
+
+TEST_F(DocPlugIns, FailingPreviewIsSwitchedOff) {
+    document.runCommand(ID_PREVIEW1);
+    EXPECT_TRUE(checked(ID_PREVIEW1));
+    host.plugIns.failingPreview = 1;
+    document.runCommand(ID_PREVIEW2);
+    EXPECT_FALSE(checked(ID_PREVIEW2));
+    EXPECT_TRUE(checked(ID_PREVIEW1));
+    calls();
+    document.runCommand(ID_PREVIEW1);
+    EXPECT_FALSE(checked(ID_PREVIEW1));
+    document.Pixel(nullptr, 1, 1, 5);
+    EXPECT_THAT(calls(), IsEmpty());
+}
+
+TEST_F(DocPlugIns, CommandsStandForThePlugInsOfTheirNumbers) {
+    const auto states = [&](CommandId first) {
+        std::vector<std::string> texts;
+        for (CommandId id = first; id < first + 16; ++id) {
+            const CommandUi ui = stateOf(document, id);
+            EXPECT_EQ(ui.enabled, ui.text.has_value());
+            texts.push_back(ui.text.value_or(""));
+        }
+        return texts;
+    };
+    EXPECT_EQ(states(ID_IMPORT_FIRST), std::vector<std::string>(16));
+    host.plugIns.names = {"Grab"};
+    EXPECT_EQ(states(ID_EXPORT_FIRST)[0], "&0 Grab");
+    EXPECT_EQ(states(ID_EXPORT_FIRST)[1], "");
+    host.plugIns.names.assign(20, "x");
+    EXPECT_EQ(states(ID_IMPORT_FIRST)[9], "&9 x");
+    EXPECT_EQ(states(ID_IMPORT_FIRST)[15], "&5 x");
+
+    document.Fill(nullptr, 0, 0, 9);
+    document.setPaletteValue(32);
+    document.runCommand(ID_IMPORT_LAST);
+    document.runCommand(ID_EXPORT_FIRST + 2);
+    EXPECT_THAT(calls(), ElementsAre("import 15 texel 9 of 0 from 32", "export 2 texel 9 of 0 from 32"));
+}
+
+TEST_F(DocPlugIns, ImportKeepsWhatThePlugInChangedWithoutAStep) {
+    openPalette();
+    document.ImportThrough(0);
+    EXPECT_FALSE(document.hasUnsavedChanges());
+    EXPECT_TRUE(document.IsAttached());
+
+    host.plugIns.texelOnImport = 6;
+    document.ImportThrough(0);
+    EXPECT_EQ(document.canvas().GetPixel(0, 0), 6U);
+    EXPECT_FALSE(document.CanUndo());
+    EXPECT_TRUE(document.hasUnsavedChanges());
+    document.Pixel(nullptr, 3, 3, 1);
+    document.Undo();
+    EXPECT_EQ(document.canvas().GetPixel(0, 0), 6U);
+}
+
+TEST_F(DocPlugIns, ImportedCanvasFloatsInTheActiveView) {
+    FakeViewWindow window;
+    CDyeworksView view(document, window);
+    for (CDyeworksView* active : {&view, static_cast<CDyeworksView*>(nullptr)}) {
+        host.view = active;
+        window.repaints = 0;
+        host.plugIns.brings = document.canvas().CopyRect(0, 0, 3, 2);
+        document.ImportThrough(0);
+        EXPECT_EQ(window.repaints > 0, active != nullptr);
+        EXPECT_EQ(view.selection(), (Rect{0, 0, 3, 2}));
+    }
+}
+
+} // namespace
+} // namespace dyeworks

@@ -1,0 +1,111 @@
+#include "ViewTestWindow.h"
+
+#include <gmock/gmock.h>
+
+namespace dyeworks {
+namespace {
+
+constexpr const char* kPath = "c:\\tex\\sky.tmf";
+constexpr const char* kSection = "Settings\\Images\\c:\\tex\\sky.tmf";
+constexpr WindowPlacement kPlace{0, 1, -1, -1, -1, -1, 10, 20, 310, 220};
+
+class ViewSettings : public ViewFixture {
+protected:
+    ViewSettings() {
+        platform.files.putFile(kPath, "");
+        document.setPathName(kPath);
+        window.place = kPlace;
+    }
+
+    /// A second look at the file, as after a restart.
+    struct Reopened {
+        explicit Reopened(ViewSettings& first)
+            : document(first.host) {
+            document.canvas().Create(16, 12, 1, 4);
+            document.setPathName(kPath);
+            view.InitialUpdate();
+        }
+        CDyeworksDoc document;
+        FakeViewWindow window;
+        CDyeworksView view{document, window};
+    };
+};
+
+TEST_F(ViewSettings, ReturnWhenTheFileIsOpenedAgain) {
+    openPalette();
+    document.Attach();
+    const std::string attached = document.attachedName();
+    openPalette(256);
+    view.runCommand(ID_ZOOM_X6);
+    view.ToggleGrid();
+    window.scroll = {51, 40};
+    view.Closing();
+
+    Reopened again(*this);
+    EXPECT_EQ(again.view.zoom(), 6);
+    EXPECT_EQ(again.window.content, (Size{96, 72}));
+    EXPECT_FALSE(again.view.gridShown());
+    EXPECT_EQ(again.window.scroll, (Point{51, 40}));
+    EXPECT_EQ(again.window.place, kPlace);
+    EXPECT_EQ(again.document.attachedName(), attached);
+    const auto colours = document.canvas().colourTable();
+    EXPECT_TRUE(std::ranges::equal(again.document.canvas().colourTable(), colours));
+
+    // The position outlives sizes that the window only passes through, up to the first paint.
+    for (const bool painted : {false, true}) {
+        if (painted)
+            static_cast<void>(again.view.BeginPaint());
+        again.window.client = {70, 70};
+        again.view.Resized();
+        EXPECT_EQ(again.window.scroll, (Point{26, 2}));
+        again.window.client = {40, 30};
+        again.view.Resized();
+        EXPECT_EQ(again.window.scroll, painted ? (Point{26, 2}) : (Point{51, 40}));
+    }
+
+    // A further window takes its own part and leaves the image what it is attached to by now.
+    again.document.Attach();
+    const std::string chosen = again.document.attachedName();
+    EXPECT_NE(chosen, attached);
+    FakeViewWindow furtherWindow;
+    CDyeworksView further(again.document, furtherWindow);
+    further.InitialUpdate();
+    EXPECT_EQ(further.zoom(), 6);
+    EXPECT_EQ(again.document.attachedName(), chosen);
+}
+
+TEST_F(ViewSettings, OnlyFilesAndWindowsThatAreThereLeaveAny) {
+    platform.files.putFile("c:\\folder\\inner\\a.tmf", "");
+    document.setPathName("");
+    view.Closing();
+    document.setPathName("c:\\tex\\gone.tmf");
+    view.Closing();
+    document.setPathName("c:\\folder\\inner");
+    view.Closing();
+    document.setPathName(kPath);
+    window.place.reset();
+    view.Closing();
+    EXPECT_TRUE(platform.profile.entries("Settings").empty());
+    EXPECT_TRUE(platform.profile.entries(kSection).empty());
+}
+
+TEST_F(ViewSettings, CountOnlyBesideAPlacementAndWithinTheirRanges) {
+    struct Case {
+        int zoom, held;
+    };
+    for (const Case& c : {Case{99, 16}, Case{-3, 1}, Case{5, 5}}) {
+        platform.profile.setInteger(kSection, "zoom", c.zoom);
+        platform.profile.setInteger(kSection, "x", -40);
+        platform.profile.setInteger(kSection, "y", 9999);
+        platform.profile.remove("Settings", kPath);
+        EXPECT_EQ(Reopened(*this).view.zoom(), 1);
+        writeWindowPlacement(kPath, kPlace);
+        Reopened again(*this);
+        EXPECT_EQ(again.view.zoom(), c.held);
+        EXPECT_EQ(again.window.scroll, (Point{0, std::max(12 * c.held - 30, 0)}));
+        EXPECT_TRUE(again.view.gridShown());
+    }
+}
+
+} // namespace
+} // namespace dyeworks
