@@ -363,6 +363,174 @@ Exit</source>
         <translation>ファイルの保存を確認してプログラムを終了します
 終了</translation>
     </message>
+    <message>
+        <source>&amp;Palette Bar</source>
+        <translation>パレット バー(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Show or hide the palette bar.
+Toggle Palette Bar</source>
+        <translation>パレット バーの表示と非表示を切り替えます。
+パレット バーの表示切り替え</translation>
+    </message>
+    <message>
+        <source>Preview&amp;1</source>
+        <translation>プレビュー&amp;1</translation>
+    </message>
+    <message>
+        <source>Show or hide the preview 1 on target (Scopebox)
+Toggle Preview1</source>
+        <translation>ターゲット (Scopebox) のプレビュー 1 の表示と非表示を切り替えます
+プレビュー 1 の切り替え</translation>
+    </message>
+    <message>
+        <source>Preview&amp;2</source>
+        <translation>プレビュー&amp;2</translation>
+    </message>
+    <message>
+        <source>Show or hide the preview 2 on target (Scopebox)
+Toggle Preview2</source>
+        <translation>ターゲット (Scopebox) のプレビュー 2 の表示と非表示を切り替えます
+プレビュー 2 の切り替え</translation>
+    </message>
+    <message>
+        <source>Import Plug-In</source>
+        <translation>インポート プラグイン</translation>
+    </message>
+    <message>
+        <source>Export Plug-In</source>
+        <translation>エクスポート プラグイン</translation>
+    </message>
+    <message>
+        <source>&amp;Specify...</source>
+        <translation>指定(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Specify Zoom size.
+Zoom to...</source>
+        <translation>ズーム倍率を指定します。
+ズーム指定...</translation>
+    </message>
+    <message>
+        <source>&amp;Add to Project</source>
+        <translation>プロジェクトに追加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Add active document to current project.
+Add to Project</source>
+        <translation>作業中の文書を現在のプロジェクトに追加します。
+プロジェクトに追加</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>保存時の状態に戻す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Go back to the document as it was saved last
+Revert</source>
+        <translation>最後に保存したときの文書に戻します
+保存時の状態に戻す</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>新規作成(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Create a new document
+New</source>
+        <translation>新しい文書を作成します
+新規作成</translation>
+    </message>
+    <message>
+        <source>Print Set&amp;up...</source>
+        <translation>プリンターの設定(&amp;U)...</translation>
+    </message>
+    <message>
+        <source>Change the printer and printing options
+Print Setup</source>
+        <translation>プリンターと印刷オプションを変更します
+プリンターの設定</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>印刷(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Print the active document
+Print</source>
+        <translation>作業中の文書を印刷します
+印刷</translation>
+    </message>
+    <message>
+        <source>Print &amp;Directly</source>
+        <translation>すぐに印刷(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Print the active document without asking
+Print Directly</source>
+        <translation>確認せずに作業中の文書を印刷します
+すぐに印刷</translation>
+    </message>
+    <message>
+        <source>Print Pre&amp;view</source>
+        <translation>印刷プレビュー(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Display full pages
+Print Preview</source>
+        <translation>ページ全体を表示します
+印刷プレビュー</translation>
+    </message>
+    <message>
+        <source>&amp;New Window</source>
+        <translation>新しいウィンドウを開く(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Open another window for the active document
+New Window</source>
+        <translation>作業中の文書を別のウィンドウで開きます
+新しいウィンドウを開く</translation>
+    </message>
+    <message>
+        <source>&amp;Tool Bar</source>
+        <translation>ツール バー(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Show or hide the tool bar.
+Toggle Tool Bar</source>
+        <translation>ツール バーの表示と非表示を切り替えます。
+ツール バーの表示切り替え</translation>
+    </message>
+    <message>
+        <source>&amp;Status Bar</source>
+        <translation>ステータス バー(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Show or hide the status bar.
+Toggle Status Bar</source>
+        <translation>ステータス バーの表示と非表示を切り替えます。
+ステータス バーの表示切り替え</translation>
+    </message>
+    <message>
+        <source>&amp;Draw Bar</source>
+        <translation>描画バー(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Show or hide the draw bar.
+Toggle Draw Bar</source>
+        <translation>描画バーの表示と非表示を切り替えます。
+描画バーの表示切り替え</translation>
+    </message>
+    <message>
+        <source>&amp;View Bar</source>
+        <translation>表示バー(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Show or hide the view bar.
+Toggle View Bar</source>
+        <translation>表示バーの表示と非表示を切り替えます。
+表示バーの表示切り替え</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -401,6 +569,18 @@ Exit</source>
     <message>
         <source>&amp;Image</source>
         <translation>画像(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>インポート(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>エクスポート(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Bars</source>
+        <translation>バー(&amp;B)</translation>
     </message>
 </context>
 <context>
@@ -563,8 +743,82 @@ Do you want to replace it?</source>
         <translation>ゲーム機用パレットテクスチャの編集ソフト</translation>
     </message>
     <message>
-        <source>&amp;Bars</source>
-        <translation>バー(&amp;B)</translation>
+        <source>Enter an integer between %1 and %2.</source>
+        <translation>%1 から %2 までの整数を入力してください。</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新規作成</translation>
+    </message>
+    <message>
+        <source>Texture</source>
+        <translation>テクスチャ</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>幅(&amp;W):</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>高さ(&amp;H):</translation>
+    </message>
+    <message>
+        <source>Bit mode:</source>
+        <translation>ビット モード:</translation>
+    </message>
+    <message>
+        <source>&amp;4bit (16colors)</source>
+        <translation>&amp;4bit (16色)</translation>
+    </message>
+    <message>
+        <source>&amp;8bit (256colors)</source>
+        <translation>&amp;8bit (256色)</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>サイズ:</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 バイト</translation>
+    </message>
+    <message>
+        <source>Width of the image in texels, 0 to 1024</source>
+        <translation>画像の幅 (テクセル数、0 から 1024)</translation>
+    </message>
+    <message>
+        <source>Height of the image in texels, 0 to 1024</source>
+        <translation>画像の高さ (テクセル数、0 から 1024)</translation>
+    </message>
+    <message>
+        <source>Each texel is one of the 16 colours of a palette bank</source>
+        <translation>各テクセルはパレット バンクの 16 色のいずれかになります</translation>
+    </message>
+    <message>
+        <source>Each texel is one of the 256 colours of a palette</source>
+        <translation>各テクセルはパレットの 256 色のいずれかになります</translation>
+    </message>
+    <message>
+        <source>Memory that the texels of the image take</source>
+        <translation>画像のテクセルが占めるメモリの大きさ</translation>
+    </message>
+    <message>
+        <source>The document could not be printed.</source>
+        <translation>文書を印刷できませんでした。</translation>
+    </message>
+    <message>
+        <source>Printing page %1 of %2...</source>
+        <translation>%2 ページ中 %1 ページ目を印刷しています...</translation>
+    </message>
+    <message>
+        <source>Cannot read &quot;%1&quot;.</source>
+        <translation>「%1」を読み込めません。</translation>
+    </message>
+    <message>
+        <source>Go back to the saved file?
+The changes to &quot;%1&quot; will be lost.</source>
+        <translation>保存されたファイルに戻しますか?
+「%1」への変更は失われます。</translation>
     </message>
 </context>
 </TS>

@@ -1,4 +1,5 @@
 #include "Program.h"
+#include "framework/CommandTable.h"
 #include "ui/MainMenus.h"
 #include "ui/controls/SwatchGrid.h"
 
@@ -27,7 +28,10 @@ TEST_F(MainWindow, CommandsAreEnabledWhenTheyCanDoSomething) {
         bool atStart, palette, image, attached;
     };
     const Case cases[] = {
+        {ID_FILE_NEW, true, true, true, true},         {ID_FILE_PRINT_SETUP, true, true, true, true},
+        {ID_FILE_PRINT, false, false, true, true},     {ID_WINDOW_NEW, false, false, true, true},
         {ID_FILE_OPEN, true, true, true, true},        {ID_PALETTE_OPEN, true, true, true, true},
+        {ID_VIEW_STATUS_BAR, true, true, true, true},  {ID_ZOOM_SPECIFY, false, false, false, false},
         {ID_APP_ABOUT, true, true, true, true},        {ID_APP_EXIT, true, true, true, true},
         {ID_PALETTE_SAVE, false, true, true, true},    {ID_PALETTE_SAVE_AS, false, true, true, true},
         {ID_PALETTE_CLOSE, false, true, true, true},   {ID_FILE_SAVE, false, false, true, true},
@@ -64,17 +68,77 @@ TEST_F(MainWindow, ActionsShowStatesAndRunCommands) {
     EXPECT_TRUE(actions.action(ID_ZOOM_X3)->isChecked());
 }
 
-TEST_F(MainWindow, EveryMenuItemAndButtonIsACommandWithoutADoubledMnemonic) {
-    for (const QAction* top : app_.mainFrame().menuBar()->actions()) {
-        std::multiset<QString> letters;
-        for (const QAction* item : top->menu()->actions()) {
-            const qsizetype mark = item->text().indexOf(QLatin1Char('&'));
-            if (mark >= 0)
-                letters.insert(item->text().mid(mark + 1, 1).toLower());
-        }
-        for (const QString& letter : letters)
-            EXPECT_EQ(letters.count(letter), 1U) << qPrintable(top->text()) << " " << qPrintable(letter);
+QStringList titlesOf(const QMenuBar& bar) {
+    QStringList titles;
+    for (const QAction* top : bar.actions())
+        titles += top->text().remove(QLatin1Char('&'));
+    return titles;
+}
+
+TEST_F(MainWindow, MenusFollowWhatIsActive) {
+    const QMenuBar& bar = *app_.mainFrame().menuBar();
+    const QStringList empty{QStringLiteral("File"), QStringLiteral("View"), QStringLiteral("Palette"),
+                            QStringLiteral("Help")};
+    EXPECT_EQ(titlesOf(bar), empty);
+    openAttached(blank(), 8, 256);
+    EXPECT_EQ(titlesOf(bar).size(), 8);
+    EXPECT_EQ(titlesOf(bar).last(), QStringLiteral("Help"));
+    // Closed by a command of a menu that goes with the window.
+    app_.mainFrame().commandActions().refresh();
+    app_.mainFrame().commandActions().action(ID_FILE_CLOSE)->trigger();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(titlesOf(bar), empty);
+    ASSERT_TRUE(app_.OpenDocumentFile("c:\\tex\\pic.tmf"));
+    EXPECT_EQ(titlesOf(bar).size(), 8);
+}
+
+void collect(const QMenu& menu, std::set<const QAction*>& found) {
+    std::multiset<QString> letters;
+    for (const QAction* item : menu.actions()) {
+        found.insert(item);
+        if (item->menu() != nullptr)
+            collect(*item->menu(), found);
+        const qsizetype mark = item->text().indexOf(QLatin1Char('&'));
+        if (mark >= 0)
+            letters.insert(item->text().mid(mark + 1, 1).toLower());
     }
+    for (const QString& letter : letters)
+        EXPECT_EQ(letters.count(letter), 1U) << qPrintable(menu.title()) << " " << qPrintable(letter);
+}
+
+TEST_F(MainWindow, EveryCommandStandsInAMenuWithAMnemonicOfItsOwnAndShowsItsPrompt) {
+    openAttached(blank(), 8, 256);
+    std::set<const QAction*> inMenus;
+    for (const QAction* top : app_.mainFrame().menuBar()->actions())
+        collect(*top->menu(), inMenus);
+    for (const CommandRow& row : commandTable()) {
+        QAction* action = app_.mainFrame().commandActions().action(row.id);
+        EXPECT_EQ(inMenus.count(action), 1U) << row.id;
+        action->showStatusText(&app_.mainFrame());
+        EXPECT_EQ(app_.mainFrame().statusBar()->currentMessage().toStdString(), statusText(row));
+    }
+}
+
+TEST_F(MainWindow, BarsAreShownAndHiddenByTheirCommands) {
+    const QMainWindow& frame = app_.mainFrame();
+    const std::pair<CommandId, QWidget*> bars[] = {
+        {ID_VIEW_PALETTEBAR, &app_.mainFrame().palettePanel()},
+        {ID_VIEW_TOOLBAR, frame.findChild<QWidget*>(QStringLiteral("ID_VIEW_TOOLBAR"))},
+        {ID_VIEW_DRAWBAR, frame.findChild<QWidget*>(QStringLiteral("ID_VIEW_DRAWBAR"))},
+        {ID_VIEW_VIEWBAR, frame.findChild<QWidget*>(QStringLiteral("ID_VIEW_VIEWBAR"))},
+        {ID_VIEW_STATUS_BAR, frame.statusBar()},
+    };
+    for (const auto& [id, bar] : bars) {
+        EXPECT_EQ(app_.router().state(id).checked, true) << id;
+        ASSERT_TRUE(run(id));
+        EXPECT_FALSE(bar->isVisible()) << id;
+        EXPECT_EQ(app_.router().state(id).checked, false) << id;
+        ASSERT_TRUE(run(id));
+        EXPECT_TRUE(bar->isVisible()) << id;
+    }
+}
+
+TEST_F(MainWindow, EveryButtonIsACommandWithAnIcon) {
     const auto inBars = {toolBarItems(), viewBarItems(), drawBarItems()};
     for (const std::span<const MenuItem> bar : inBars) {
         for (const MenuItem& item : bar) {
@@ -167,11 +231,13 @@ TEST_F(MainWindow, WindowMenuListsTheImagesAndBringsThemToTheFront) {
 TEST_F(MainWindow, PlacesOfBarsSurviveARestart) {
     auto* panel = &app_.mainFrame().palettePanel();
     app_.mainFrame().addDockWidget(Qt::LeftDockWidgetArea, panel);
-    app_.mainFrame().findChild<QToolBar*>(QStringLiteral("ID_VIEW_DRAWBAR"))->hide();
+    ASSERT_TRUE(run(ID_VIEW_DRAWBAR));
+    ASSERT_TRUE(run(ID_VIEW_STATUS_BAR));
     ASSERT_TRUE(app_.mainFrame().close());
     CDyeworksApp again;
     EXPECT_EQ(again.mainFrame().dockWidgetArea(&again.mainFrame().palettePanel()), Qt::LeftDockWidgetArea);
     EXPECT_TRUE(again.mainFrame().findChild<QToolBar*>(QStringLiteral("ID_VIEW_DRAWBAR"))->isHidden());
+    EXPECT_TRUE(again.mainFrame().statusBar()->isHidden());
     setApplicationPaletteSet(app_.paletteSet());
 }
 

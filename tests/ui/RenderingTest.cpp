@@ -2,15 +2,20 @@
 #include "framework/widgets/ChildFrame.h"
 #include "paint/ViewRenderer.h"
 
+#include <QApplication>
+#include <QPaintEvent>
+#include <QScrollBar>
 #include <QWheelEvent>
+
+#include <optional>
 
 namespace dyeworks {
 namespace {
 
 class Rendering : public Program {
 protected:
-    /// What the renderer makes of the visible part.
-    QImage expected() {
+    /// What the renderer makes of the visible part, its pixels enlarged by `scale`.
+    QImage expected(int scale = 1, const std::optional<SelectionLook>& selection = std::nullopt) {
         const QPoint origin = static_cast<ScrollView&>(view()).scrollPosition();
         QImage picture(view().viewport()->size(), QImage::Format_RGB32);
         Surface surface{reinterpret_cast<std::uint32_t*>(picture.bits()),
@@ -23,10 +28,13 @@ protected:
         look.zoom = view().view().zoom();
         look.gridShown = view().view().gridShown();
         look.outsideColour = view().palette().color(QPalette::Button).rgb();
+        look.selection = selection;
         ViewRenderer(image().canvas(), look)
             .draw(surface,
                   {origin.x(), origin.y(), origin.x() + picture.width(), origin.y() + picture.height()});
-        return picture;
+        QImage enlarged = picture.scaled(picture.size() * scale);
+        enlarged.setDevicePixelRatio(scale);
+        return enlarged;
     }
     QImage shown(int scale = 1) {
         QImage picture(view().viewport()->size() * scale, QImage::Format_RGB32);
@@ -34,9 +42,9 @@ protected:
         view().viewport()->render(&picture);
         return picture;
     }
-    void wheel(int turn, Qt::KeyboardModifiers modifiers, QPoint position) {
-        QWheelEvent event(position, view().viewport()->mapToGlobal(position), {}, {0, turn}, Qt::NoButton,
-                          modifiers, Qt::NoScrollPhase, false);
+    void wheel(int turn, Qt::KeyboardModifiers modifiers, QPoint position, int pixels = 0) {
+        QWheelEvent event(position, view().viewport()->mapToGlobal(position), {0, pixels}, {0, turn},
+                          Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(view().viewport(), &event);
     }
 };
@@ -45,29 +53,98 @@ Texels pattern(int width, int height) {
     return texels(width, height, [](int x, int y) { return static_cast<unsigned>(x * 7 + y * 13) & 255U; });
 }
 
-TEST_F(Rendering, IsWhatTheRendererDrawsWhereverItIsScrolled) {
+TEST_F(Rendering, IsWhatTheRendererDrawsWhereverItIsScrolledAtAnyScale) {
     openAttached(pattern(90, 70), 8, 256);
+    const SelectionLook selection{{5, 4, 30, 26}, nullptr, 10, false};
     for (const CommandId zoom : {ID_ZOOM_X1, ID_ZOOM_X3, ID_ZOOM_X16}) {
         ASSERT_TRUE(run(zoom));
         app_.mainFrame().activeChild()->resize(300, 250);
         for (const QPoint scroll : {QPoint(0, 0), QPoint(37, 101), QPoint(9999, 9999)}) {
             static_cast<ScrollView&>(view()).scrollTo(scroll);
             EXPECT_EQ(shown(), expected()) << zoom << " " << scroll.x();
+            view().view().SetSelection(selection.texels, false);
+            for (const int scale : {1, 2})
+                EXPECT_EQ(shown(scale), expected(scale, selection)) << zoom << " " << scroll.x();
+            view().view().SetSelection(std::nullopt, false);
         }
         ASSERT_TRUE(run(ID_VIEW_GRID));
         EXPECT_EQ(shown(), expected()) << zoom;
     }
 }
 
-TEST_F(Rendering, AScaleFactorEnlargesPixelsWithoutBlurringThem) {
+TEST_F(Rendering, TheBorderOfASelectionMovesUntilItIsCleared) {
     openAttached(pattern(40, 30), 8, 256);
-    ASSERT_TRUE(run(ID_ZOOM_X3));
-    const QImage single = shown();
-    const QImage doubled = shown(2);
-    for (int y = 0; y < doubled.height(); ++y) {
-        for (int x = 0; x < doubled.width(); ++x)
-            ASSERT_EQ(doubled.pixel(x, y), single.pixel(x / 2, y / 2)) << x << " " << y;
+    ASSERT_TRUE(run(ID_ZOOM_X6));
+    const SelectionLook selection{{5, 4, 20, 16}, nullptr, 10, true};
+    view().view().SetSelection(selection.texels, true);
+    QImage painted;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return (painted = shown()) == expected(1, selection); }));
+    view().view().SetSelection(std::nullopt, true);
+    EXPECT_EQ(shown(), expected());
+}
+
+/// Adds up the pixels that a widget is asked to paint.
+class PaintMeter : public QObject {
+public:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            for (const QRect& part : static_cast<QPaintEvent*>(event)->region())
+                pixels += part.width() * part.height();
+        }
+        return false;
     }
+    int pixels = 0;
+};
+
+TEST_F(Rendering, PanningPaintsNothingButTheExposedStrips) {
+    openAttached(pattern(200, 150), 8, 256);
+    app_.mainFrame().activeChild()->showMaximized();
+    ASSERT_TRUE(run(ID_ZOOM_X16));
+    QWidget* const viewport = view().viewport();
+    QCoreApplication::processEvents();
+    PaintMeter meter;
+    viewport->installEventFilter(&meter);
+    QPoint pointer(400, 350);
+    const auto send = [&](QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons buttons) {
+        QMouseEvent event(type, pointer, viewport->mapToGlobal(pointer), button, buttons, {});
+        QCoreApplication::sendEvent(viewport, &event);
+    };
+    send(QEvent::MouseButtonPress, Qt::MiddleButton, Qt::MiddleButton);
+    for (int step = 0; step < 100; ++step) {
+        pointer -= {3, 2};
+        send(QEvent::MouseMove, Qt::NoButton, Qt::MiddleButton);
+        QCoreApplication::processEvents();
+    }
+    send(QEvent::MouseButtonRelease, Qt::MiddleButton, Qt::NoButton);
+    EXPECT_EQ(static_cast<ScrollView&>(view()).scrollPosition(), QPoint(300, 200));
+    const int strips = 3 * viewport->height() + 2 * viewport->width() - 3 * 2;
+    EXPECT_EQ(meter.pixels, 100 * strips);
+}
+
+TEST_F(Rendering, ReturnsAsItWasLeftWhenTheFileIsOpenedAgain) {
+    openAttached(pattern(90, 70), 8, 256);
+    ASSERT_TRUE(run(ID_ZOOM_X8));
+    ASSERT_TRUE(run(ID_VIEW_GRID));
+    const QRect place(40, 30, 311, 257);
+    app_.mainFrame().activeChild()->setGeometry(place);
+    static_cast<ScrollView&>(view()).scrollTo({203, 120});
+    const QImage left = shown();
+    for (const bool maximised : {false, true}) {
+        if (maximised)
+            app_.mainFrame().activeChild()->showMaximized();
+        ASSERT_TRUE(run(ID_FILE_CLOSE));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        ASSERT_TRUE(app_.OpenDocumentFile("c:\\tex\\pic.tmf"));
+        ChildFrame& frame = *app_.mainFrame().activeChild();
+        EXPECT_EQ(frame.isMaximized(), maximised);
+        if (!maximised) {
+            EXPECT_EQ(frame.geometry(), place);
+            EXPECT_EQ(shown(), left);
+        }
+    }
+    EXPECT_EQ(view().view().zoom(), 8);
+    EXPECT_FALSE(view().view().gridShown());
+    EXPECT_TRUE(image().IsAttached());
 }
 
 TEST_F(Rendering, AnImageWithoutPaletteSaysSoInTheMiddle) {
@@ -106,6 +183,15 @@ TEST_F(Rendering, CtrlAndWheelZoomAroundThePointerAndWheelScrolls) {
     EXPECT_EQ(view().view().zoom(), 6);
     const QPoint content = scroll.toContent(pointer);
     EXPECT_EQ((Point{content.x() / 6, content.y() / 6}), texel);
+
+    // A touchpad that tells pixels alone: as many as a notch scrolls by are a step.
+    const int notch = QApplication::wheelScrollLines() * scroll.verticalScrollBar()->singleStep();
+    for (int moved = 0; moved < notch; ++moved) {
+        EXPECT_EQ(view().view().zoom(), 6);
+        wheel(0, Qt::ControlModifier, pointer, 1);
+    }
+    EXPECT_EQ(view().view().zoom(), 8);
+    wheel(0, Qt::ControlModifier, pointer, -notch);
 
     const QPoint before = scroll.scrollPosition();
     wheel(-120, {}, pointer);

@@ -1,0 +1,130 @@
+#include "Program.h"
+#include "ui/PagePlan.h"
+
+#include <QDir>
+#include <QPageSize>
+#include <QPrinter>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace dyeworks {
+namespace {
+
+TEST(PagePlan, SharesContentsOutFromLeftToRightThenDown) {
+    // 300 by 200 dots at 300 to the inch: an inch wide, two thirds high; 96 by 64 pixels.
+    const PagePlan plan({200, 65}, {300, 200}, {96, 300}, {96, 300});
+    ASSERT_EQ(plan.columns(), 3);
+    ASSERT_EQ(plan.rows(), 2);
+    EXPECT_EQ(plan.contentOf(0), (Rect{0, 0, 96, 64}));
+    EXPECT_EQ(plan.contentOf(2), (Rect{192, 0, 200, 64}));
+    EXPECT_EQ(plan.contentOf(5), (Rect{192, 64, 200, 65}));
+    EXPECT_EQ(plan.paperOf(5, {192, 64, 200, 65}), (Rect{0, 0, 25, 3}));
+    EXPECT_EQ(plan.paperOf(1, {96, 10, 192, 20}).top, plan.paperOf(1, {96, 0, 192, 10}).bottom);
+}
+
+TEST(PagePlan, CountsPagesAtTheEdge) {
+    const struct {
+        Size content;
+        int pages;
+    } cases[] = {{{0, 0}, 1},     {{1, 1}, 1},     {{100, 100}, 1},
+                 {{101, 100}, 2}, {{101, 101}, 4}, {{65536, 65536}, 656 * 656}};
+    for (const auto& c : cases)
+        EXPECT_EQ(PagePlan(c.content, {100, 100}, {96, 96}, {96, 96}).pageCount(), c.pages)
+            << c.content.width << " " << c.content.height;
+    EXPECT_EQ(PagePlan({3, 1}, {1, 1}, {96, 1200}, {96, 1200}).pageCount(), 3) << "paper below a pixel";
+}
+
+class Printing : public Program {
+protected:
+    Printing() {
+        app_.mainFrame().printing().setChooser([this](QPrinter& printer) {
+            ++asked_;
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(folder_.filePath(QStringLiteral("out.pdf")));
+            // The screen's resolution, so that a page read at it gives back the pixels.
+            printer.setResolution(view().logicalDpiX());
+            printer.setPageSize(QPageSize(QSizeF(216, 144), QPageSize::Point));
+            printer.setPageMargins(QMarginsF(0, 0, 0, 0));
+            printer.setFromTo(firstPage_, lastPage_);
+            return !cancelled_;
+        });
+    }
+    /// The printed pages, read by a program that knows nothing of ours.
+    std::vector<QImage> pages() {
+        const int dpi = view().logicalDpiX();
+        EXPECT_EQ(QProcess::execute(QStringLiteral("pdftoppm"),
+                                    {QStringLiteral("-r"), QString::number(dpi), QStringLiteral("-png"),
+                                     folder_.filePath(QStringLiteral("out.pdf")),
+                                     folder_.filePath(QStringLiteral("page"))}),
+                  0);
+        std::vector<QImage> images;
+        for (const QString& name : QDir(folder_.path()).entryList({QStringLiteral("page*.png")}))
+            images.emplace_back(folder_.filePath(name));
+        return images;
+    }
+
+    QTemporaryDir folder_;
+    int asked_ = 0;
+    bool cancelled_ = false;
+    int firstPage_ = 0;
+    int lastPage_ = 0;
+};
+
+TEST_F(Printing, PagesHoldThePixelsOfTheViewAndWhitePaper) {
+    openAttached(texels(90, 70, [](int x, int y) { return static_cast<unsigned>(x * 7 + y * 13) & 255U; }), 8,
+                 256);
+    ASSERT_TRUE(run(ID_ZOOM_X6));
+    ASSERT_TRUE(run(ID_FILE_PRINT));
+    ASSERT_TRUE(fake_.messages.shown.empty());
+    const std::vector<QImage> printed = pages();
+    // 540 by 420 pixels on pages of 3 by 2 inches, 288 by 192 pixels.
+    ASSERT_EQ(printed.size(), 6U);
+    const std::uint8_t* colours = image().canvas().colourTable().data();
+    for (int page = 0; page < 6; ++page) {
+        const QImage& paper = printed[static_cast<std::size_t>(page)];
+        ASSERT_EQ(paper.size(), QSize(288, 192));
+        // The middles of texels, because the reader rounds edges in a way of its own.
+        for (int y = 2; y < paper.height(); y += 6) {
+            for (int x = 2; x < paper.width(); x += 6) {
+                const int texelX = (page % 2 * 288 + x) / 6;
+                const int texelY = (page / 2 * 192 + y) / 6;
+                const std::uint8_t* bgr = colours + 4 * image().canvas().GetPixel(texelX, texelY);
+                const QRgb expected =
+                    texelX < 90 && texelY < 70 ? qRgb(bgr[2], bgr[1], bgr[0]) : qRgb(255, 255, 255);
+                ASSERT_EQ(paper.pixel(x, y), expected) << page << " " << x << " " << y;
+            }
+        }
+    }
+}
+
+TEST_F(Printing, PrintsTheChosenPagesAndNothingWhenCancelled) {
+    openAttached(texels(90, 70, [](int, int) { return 3U; }), 8, 256);
+    ASSERT_TRUE(run(ID_ZOOM_X6));
+    cancelled_ = true;
+    ASSERT_TRUE(run(ID_FILE_PRINT));
+    EXPECT_FALSE(QFile::exists(folder_.filePath(QStringLiteral("out.pdf"))));
+    cancelled_ = false;
+    firstPage_ = 2;
+    lastPage_ = 4;
+    ASSERT_TRUE(run(ID_FILE_PRINT));
+    EXPECT_EQ(pages().size(), 3U);
+    // Once the printer is chosen, no question more.
+    ASSERT_TRUE(run(ID_FILE_PRINT_DIRECT));
+    EXPECT_EQ(asked_, 2);
+    EXPECT_EQ(pages().size(), 6U);
+}
+
+TEST_F(Printing, FailuresAreTold) {
+    openAttached(texels(8, 8, [](int, int) { return 3U; }), 8, 256);
+    app_.mainFrame().printing().setChooser([this](QPrinter& printer) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(folder_.filePath(QStringLiteral("gone/out.pdf")));
+        return true;
+    });
+    ASSERT_TRUE(run(ID_FILE_PRINT));
+    ASSERT_EQ(fake_.messages.shown.size(), 1U);
+    EXPECT_EQ(fake_.messages.shown[0].text, "The document could not be printed.");
+}
+
+} // namespace
+} // namespace dyeworks
