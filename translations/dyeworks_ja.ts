@@ -820,5 +820,9 @@ The changes to &quot;%1&quot; will be lost.</source>
         <translation>保存されたファイルに戻しますか?
 「%1」への変更は失われます。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is open in another window.</source>
+        <translation>「%1」は別のウィンドウで開かれています。</translation>
+    </message>
 </context>
 </TS>

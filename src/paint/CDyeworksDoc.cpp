@@ -44,6 +44,8 @@ void CDyeworksDoc::Attach() {
     attachedName_.clear();
     set->lookup(attachedName_);
     UpdateTitle();
+    // The bar shows the bank of the attached palette, which the colours are taken from.
+    host_.refreshPaletteBar();
     RefreshPalette();
 }
 

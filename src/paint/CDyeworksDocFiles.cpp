@@ -1,4 +1,6 @@
 #include "core/PaletteSet.h"
+#include "framework/DocumentTemplate.h"
+#include "framework/PathText.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/CDyeworksView.h"
 #include "paint/CanvasFile.h"
@@ -47,7 +49,7 @@ bool CDyeworksDoc::onNewDocument() {
 }
 
 bool CDyeworksDoc::onOpenDocument(const std::string& path) {
-    if (!CDocument::onOpenDocument(path) || !loadCanvas(canvas_, path))
+    if (!CDocument::onOpenDocument(path) || !readCanvas(canvas_, path))
         return false;
     snapshot_.reset();
     replaceHistory(0);
@@ -56,6 +58,15 @@ bool CDyeworksDoc::onOpenDocument(const std::string& path) {
     else
         RefreshPalette();
     return true;
+}
+
+bool CDyeworksDoc::readCanvas(TextureCanvas& canvas, const std::string& path) const {
+    if (loadCanvas(canvas, path))
+        return true;
+    // The reader of bitmaps leaves this to its callers.
+    if (isBmpName(path))
+        applicationMessage(text(StringId::CannotReadFile, {displayPath(path)}));
+    return false;
 }
 
 /// The document is not attached to the palette; that is up to the user.
@@ -81,11 +92,16 @@ bool CDyeworksDoc::onSaveDocument(const std::string& path) {
     takeBackDrags();
     std::string target = path;
     if (target.empty()) {
-        const auto chosen =
-            platform().fileDialogs().save(saveRequest(pathName().empty() ? nameWithoutParts() : pathName()));
+        const auto chosen = platform().fileDialogs().save(saveRequest(nameToSaveUnder()));
         if (!chosen)
             return false;
         target = *chosen;
+    }
+    const CDocument* const open =
+        documentTemplate() == nullptr ? nullptr : documentTemplate()->findDocument(target);
+    if (open != nullptr && open != this) {
+        applicationMessage(text(StringId::FileIsOpenElsewhere, {displayPath(target)}));
+        return false;
     }
     if (const std::optional<FileError> error = saveCanvas(canvas_, target)) {
         applicationMessage(text(StringId::CannotSaveFile, {displayPath(target), describe(*error)}));
@@ -98,9 +114,19 @@ bool CDyeworksDoc::onSaveDocument(const std::string& path) {
     return true;
 }
 
+/// A file that has gone leaves its name; the dialog then starts in the current directory.
+std::string CDyeworksDoc::nameToSaveUnder() const {
+    if (pathName().empty())
+        return nameWithoutParts();
+    return platform().files().exists(pathName()) ? pathName() : std::string(fileNameOf(pathName()));
+}
+
 void CDyeworksDoc::onCloseDocument() {
-    host_.setStatusText("", kPositionPane);
-    host_.setStatusText("", kSizePane);
+    // While another image is the active one, the panes speak of that.
+    if (const CDyeworksDoc* const shown = host_.lastActivatedImage(); shown == nullptr || shown == this) {
+        host_.setStatusText("", kPositionPane);
+        host_.setStatusText("", kSizePane);
+    }
     CDocument::onCloseDocument();
 }
 
@@ -110,12 +136,8 @@ void CDyeworksDoc::Revert() {
                                                   MessageButtons::YesNo) != MessageAnswer::Yes)
         return;
     TextureCanvas saved;
-    if (!loadCanvas(saved, pathName())) {
-        // The reader of bitmaps leaves this to its callers.
-        if (isBmpName(pathName()))
-            applicationMessage(text(StringId::CannotReadFile, {displayName()}));
+    if (!readCanvas(saved, pathName()))
         return;
-    }
     takeContents(saved);
     replaceHistory(0);
     historyMoved_ = false;
@@ -142,6 +164,8 @@ void CDyeworksDoc::takeContents(const TextureCanvas& contents) {
             imageView->SetFloatingPiece(nullptr);
             imageView->SetSelection(std::nullopt, false);
             imageView->SetZoom(imageView->zoom());
+            if (host_.isActiveImage(*this))
+                imageView->ShowSize();
         }
     }
 }

@@ -50,10 +50,9 @@ void CDyeworksDoc::ImportThrough(std::int32_t plugIn) {
     const Rect whole{0, 0, canvas_.width() - 1, canvas_.height() - 1};
     if (before == nullptr || differingRect(*before, canvas_, whole))
         savedPosition_ = kUnreachable;
-    if (IsAttached())
-        RefreshPalette();
-    else
+    if (!IsAttached())
         Attach();
+    RefreshPalette();
 
     CDyeworksView* const view = host_.activeView();
     if (brought == nullptr || view == nullptr)

@@ -57,10 +57,14 @@ void CDyeworksView::Activated() {
     if (PaletteSet* const set = host.paletteSet(); set != nullptr && !document_.attachedName().empty())
         set->setCurrent(document_.attachedName());
     host.refreshPaletteBar();
-    const TextureCanvas& canvas = document_.canvas();
-    host.setStatusText(pair(canvas.width(), canvas.height()) + std::to_string(canvas.bitsPerPixel()) + "bit",
-                       kSizePane);
+    ShowSize();
     document_.RefreshPreviews();
+}
+
+void CDyeworksView::ShowSize() const {
+    const TextureCanvas& canvas = document_.canvas();
+    document_.host().setStatusText(
+        pair(canvas.width(), canvas.height()) + std::to_string(canvas.bitsPerPixel()) + "bit", kSizePane);
 }
 
 void CDyeworksView::Resized() {
@@ -72,7 +76,7 @@ void CDyeworksView::Closing() {
 }
 
 bool CDyeworksView::showsNoPalette() const {
-    return document_.attachedName().empty();
+    return !document_.IsAttached();
 }
 
 void CDyeworksView::update(DocumentView* sender, int hint) {

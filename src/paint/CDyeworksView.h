@@ -73,6 +73,8 @@ public:
 
     /// Asks for a repaint of the canvas's changed rectangle. False when it is empty.
     bool InvalidateChanged();
+    /// Writes the image's size and depth to the status line.
+    void ShowSize() const;
     /// Ends a drag and takes back what it has done so far.
     void CancelDrag();
 
@@ -113,6 +115,7 @@ private:
         SelectionTracker::kDottedLine | SelectionTracker::kResizeInside;
 
     [[nodiscard]] ViewGeometry geometry() const;
+    void requestRedraw(std::uint32_t request, const Rect& clientArea);
     void applyZoom(bool redraw);
     void scrollTo(Point position);
     void pickColour(Point client);

@@ -5,6 +5,7 @@
 #include "paint/ViewRenderer.h"
 #include "paint/ViewWindow.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace dyeworks {
@@ -100,8 +101,9 @@ void CDyeworksView::Tick() {
     if (selection_ == Rect{})
         return;
     antsPhase_ = !antsPhase_;
-    const Rect border =
-        intersection(grown(geometry().clientFrame(selection_), kAntsWidth), {0, 0, kFarthest, kFarthest});
+    const Rect frame = grown(geometry().clientFrame(selection_), kAntsWidth);
+    const auto held = [](std::int32_t coordinate) { return std::clamp(coordinate, 0, kFarthest); };
+    const Rect border{held(frame.left), held(frame.top), held(frame.right), held(frame.bottom)};
     window_.invalidate({border.left, border.top, border.right, border.top + kAntsWidth});
     window_.invalidate({border.left, border.bottom - kAntsWidth, border.right, border.bottom});
     window_.invalidate({border.left, border.top, border.left + kAntsWidth, border.bottom});
@@ -114,15 +116,21 @@ void CDyeworksView::ShowDragFrame(const Rect& texels, std::uint32_t redrawReques
         HideDragFrame();
     trackerStyle_ = SelectionTracker::kDottedLine;
     dragRectangle_ = texels.normalised();
-    redrawRequest_ = redrawRequest;
-    window_.invalidate(geometry().clientArea(dragRectangle_));
+    requestRedraw(redrawRequest, geometry().clientArea(dragRectangle_));
 }
 
 void CDyeworksView::HideDragFrame() {
     // The canvas need not have changed wherever the frame was drawn.
-    window_.invalidate(geometry().clientArea(dragRectangle_));
     trackerStyle_ = kSelectionStyle;
-    redrawRequest_ = kRedrawImage;
+    requestRedraw(kRedrawImage, geometry().clientArea(dragRectangle_));
+}
+
+/// A request for an area out of sight would wait for some later paint of other parts and limit that.
+void CDyeworksView::requestRedraw(std::uint32_t request, const Rect& clientArea) {
+    const Size client = window_.clientSize();
+    const bool inSight = !isEmpty(intersection(clientArea, {0, 0, client.width, client.height}));
+    redrawRequest_ = inSight ? request : 0;
+    window_.invalidate(clientArea);
 }
 
 } // namespace dyeworks

@@ -34,7 +34,9 @@ void CDyeworksView::restoreSettings() {
     zoom_ = ViewGeometry::holdZoom(profile.integer(section, kZoomEntry, 1));
     window_.setContentSize(contentSize());
     restoreAttachment(profile.textOr(section, kAttachEntry, ""));
-    window_.setPlacement(*placement);
+    // A further window does not cover the one that stands there.
+    if (document_.views().size() == 1)
+        window_.setPlacement(*placement);
     restoredScroll_ = Point{profile.integer(section, kXEntry, 0), profile.integer(section, kYEntry, 0)};
     scrollTo(*restoredScroll_);
 }

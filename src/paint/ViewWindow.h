@@ -49,7 +49,7 @@ public:
 
     /// Where the pointer is, in client pixels.
     [[nodiscard]] virtual Point pointerPosition() const = 0;
-    /// Whether a Shift key is down now.
+    /// Whether a Shift key is down now, other than as part of a shortcut.
     [[nodiscard]] virtual bool shiftHeld() const = 0;
 };
 

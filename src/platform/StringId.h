@@ -20,6 +20,7 @@ enum class StringId {
     CannotSaveFile,      ///< %1 file, %2 why
     SaveChangesQuestion, ///< %1 document
     CannotReadFile,      ///< %1 file
+    FileIsOpenElsewhere, ///< %1 file
     RevertQuestion,      ///< %1 document
 
     ChosenFileMissing,   ///< %1 file

@@ -31,6 +31,7 @@ constexpr std::array kRows{
     Row{StringId::CannotSaveFile, QT_TRANSLATE_NOOP("Text", "Cannot save \"%1\".\n%2")},
     Row{StringId::SaveChangesQuestion, QT_TRANSLATE_NOOP("Text", "Save changes to %1?")},
     Row{StringId::CannotReadFile, QT_TRANSLATE_NOOP("Text", "Cannot read \"%1\".")},
+    Row{StringId::FileIsOpenElsewhere, QT_TRANSLATE_NOOP("Text", "\"%1\" is open in another window.")},
     Row{StringId::RevertQuestion,
         QT_TRANSLATE_NOOP("Text", "Go back to the saved file?\nThe changes to \"%1\" will be lost.")},
 

@@ -10,6 +10,8 @@
 #include "ui/CMainFrame.h"
 #include "ui/PalettePanel.h"
 
+#include <functional>
+#include <map>
 #include <optional>
 
 namespace dyeworks {
@@ -124,8 +126,26 @@ void CDyeworksApp::RefreshImagePalettes() {
         image->RefreshPalette();
 }
 
+void CDyeworksApp::keepAttachments(const std::function<void()>& save) {
+    std::map<CDyeworksDoc*, const TextureLookupTable*> attached;
+    for (CDyeworksDoc* image : imageDocuments())
+        attached[image] = image->GetAttachedPalette();
+    save();
+    bool moved = false;
+    for (const auto& [image, palette] : attached) {
+        if (palette == nullptr || palette->path == image->attachedName())
+            continue;
+        image->setAttachedName(palette->path);
+        moved = true;
+    }
+    if (moved)
+        RefreshImagePalettes();
+}
+
 bool CDyeworksApp::SaveAllModified() {
-    if (!palettes_.queryCloseAll())
+    bool agreed = false;
+    keepAttachments([&] { agreed = palettes_.queryCloseAll(); });
+    if (!agreed)
         return false;
     for (CDyeworksDoc* image : imageDocuments()) {
         if (!image->saveModified())
@@ -250,11 +270,11 @@ void CDyeworksApp::OnPaletteClose() {
 }
 
 void CDyeworksApp::OnPaletteSave() {
-    palettes_.savePalette("", true);
+    keepAttachments([this] { palettes_.savePalette("", true); });
 }
 
 void CDyeworksApp::OnPaletteSaveAs() {
-    palettes_.savePaletteAs("", true);
+    keepAttachments([this] { palettes_.savePaletteAs("", true); });
 }
 
 void CDyeworksApp::OnAppAbout() {

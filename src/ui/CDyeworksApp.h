@@ -9,6 +9,7 @@
 #include "ui/OpenedFile.h"
 #include "ui/PalettePanelHost.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -86,6 +87,8 @@ private:
     void activate(CDocument& document) override;
 
     OpenedFile openPalette(const std::string& path);
+    /// Saving may give palettes new keys; images stay attached to theirs.
+    void keepAttachments(const std::function<void()>& save);
     void openWithDialog(const char* defaultExtension, int filterIndex);
     void updateNeedsPalette(CommandUi& ui);
     void OnFileNew();

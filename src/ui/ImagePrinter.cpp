@@ -29,10 +29,11 @@ QRect toQt(const Rect& rectangle) {
     return {QPoint(rectangle.left, rectangle.top), QPoint(rectangle.right - 1, rectangle.bottom - 1)};
 }
 
-void paintStrip(QPainter& painter, const CDyeworksView& view, const Rect& content, const QRect& paper) {
+[[nodiscard]] bool paintStrip(QPainter& painter, const CDyeworksView& view, const Rect& content,
+                              const QRect& paper) {
     QImage strip(content.right - content.left, content.bottom - content.top, QImage::Format_RGB32);
     if (strip.isNull())
-        return;
+        return false;
     Surface surface;
     surface.pixels = reinterpret_cast<std::uint32_t*>(strip.bits());
     surface.width = strip.width();
@@ -42,16 +43,19 @@ void paintStrip(QPainter& painter, const CDyeworksView& view, const Rect& conten
     surface.originY = content.top;
     view.Paint(surface, content, kPaperColour);
     painter.drawImage(paper, strip);
+    return true;
 }
 
-void paintPage(QPainter& painter, const CDyeworksView& view, const PagePlan& plan, int page) {
+[[nodiscard]] bool paintPage(QPainter& painter, const CDyeworksView& view, const PagePlan& plan, int page) {
     const Rect whole = plan.contentOf(page);
     if (whole.left >= whole.right)
-        return;
+        return true;
     for (std::int32_t top = whole.top; top < whole.bottom; top += kStripHeight) {
         const Rect strip{whole.left, top, whole.right, std::min(whole.bottom, top + kStripHeight)};
-        paintStrip(painter, view, strip, toQt(plan.paperOf(page, strip)));
+        if (!paintStrip(painter, view, strip, toQt(plan.paperOf(page, strip))))
+            return false;
     }
+    return true;
 }
 
 } // namespace
@@ -81,10 +85,14 @@ bool ImagePrinter::print(QPrinter& printer, const Progress& progress) const {
         }
         if (page > first && !printer.newPage())
             return false;
-        if (view.showsNoPalette())
-            painter.drawText(painter.viewport(), Qt::AlignCenter, QStringLiteral("NO PALETTE"));
-        else
-            paintPage(painter, view, plan, page - 1);
+        if (view.showsNoPalette()) {
+            const QRect paper = painter.viewport();
+            painter.drawText(paper.adjusted(0, paper.height() / 2, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
+                             QStringLiteral("NO PALETTE"));
+        } else if (!paintPage(painter, view, plan, page - 1)) {
+            printer.abort();
+            return false;
+        }
     }
     return painter.end() && printer.printerState() != QPrinter::Error;
 }

@@ -72,17 +72,6 @@ TEST_F(PaletteHistory, TitleMarkFollowsUndoAndRedoButNotTheEditItself) {
     expect(true, "a * ", 1);
 }
 
-TEST_F(PaletteHistory, MissingHistoryOrSnapshotIsSurvived) {
-    palette.setEntry(0, 5);
-    EXPECT_TRUE(palette.commitEdit());
-    EXPECT_TRUE(palette.undo());
-    EXPECT_EQ(palette.table.getEntry(0), 5) << "there is no table before the edit";
-    palette.history.reset();
-    EXPECT_TRUE(palette.beginEdit());
-    EXPECT_FALSE(palette.commitEdit());
-    EXPECT_FALSE(palette.undo() || palette.redo() || palette.canUndo() || palette.canRedo());
-}
-
 TEST_F(PaletteHistory, RecordWithoutMemoryKeepsTheEditAndAsksAboutTheOthers) {
     using Record = std::unique_ptr<UndoRecord>;
     edit(1);

@@ -5,7 +5,6 @@
 using namespace dyeworks;
 using namespace dyeworks::test;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 
@@ -102,17 +101,6 @@ TEST_F(PaletteSetKeys, AreComparedAsUnsignedBytesAndWrittenBack) {
     EXPECT_EQ(relative + " " + title, "c:\\b b");
     EXPECT_FALSE(set.getTitle("c:\\B", title));
     EXPECT_EQ(title, "");
-}
-
-TEST_F(PaletteSetKeys, ChoosingACurrentOneRebuildsTheTabsOnlyFromOutside) {
-    open({"c:\\a", "c:\\b"});
-    EXPECT_TRUE(set.selectCurrent("a"));
-    EXPECT_EQ(set.currentKey + " " + told(), "c:\\a ");
-    set.setCurrent("b");
-    EXPECT_EQ(set.currentKey + " " + told(), "c:\\b t");
-    EXPECT_FALSE(set.selectCurrent("c"));
-    set.setCurrent("c");
-    EXPECT_EQ(set.currentKey + " " + told(), "c:\\b ");
 }
 
 TEST_F(PaletteSetRekey, SavingUnderANewNameMovesThePaletteAndTheCallersKey) {

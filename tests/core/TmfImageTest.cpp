@@ -6,25 +6,6 @@
 
 using namespace dyeworks;
 
-TEST(TmfImage, RowsAreWholeWords) {
-    for (const auto& [bits, width, stride] : {std::tuple{4, 0, 0},
-                                              {4, 1, 4},
-                                              {4, 8, 4},
-                                              {4, 9, 8},
-                                              {8, 4, 4},
-                                              {8, 5, 8},
-                                              {8, 65536, 65536},
-                                              {16, 2, 4},
-                                              {16, 3, 8},
-                                              {24, 1, 4},
-                                              {24, 5, 20},
-                                              {32, 5, 20}}) {
-        TmfImage image;
-        ASSERT_TRUE(image.create(width, 1, bits));
-        EXPECT_EQ(image.stride(), stride) << bits << " bits, width " << width;
-    }
-}
-
 TEST(TmfImage, StoresTexelsHighByteFirstInRowsFromTheBottomUp) {
     const struct {
         std::int32_t bits, x;
@@ -61,30 +42,4 @@ TEST(TmfImage, NothingLiesOutside) {
         EXPECT_EQ(image.getTexel(x, y) + hollow.getTexel(x, y), 0U);
     }
     EXPECT_THAT(image.block(), testing::Each(std::byte{0}));
-}
-
-TEST(TmfImage, CreateRefusesSidesAndDepthsThatNoImageHas) {
-    for (const auto& [width, height, bits, accepted] : {std::tuple{65536, 1, 4, true},
-                                                        {1, 65536, 32, true},
-                                                        {0, 0, 16, true},
-                                                        {65537, 1, 4, false},
-                                                        {1, 65537, 4, false},
-                                                        {-1, 1, 4, false},
-                                                        {1, -1, 4, false},
-                                                        {10, 10, 12, false},
-                                                        {10, 10, 0, false},
-                                                        {65536, 65536, 8, false},
-                                                        {65536, 16385, 8, false}}) {
-        TmfImage image;
-        ASSERT_TRUE(image.create(2, 2, 8));
-        EXPECT_EQ(image.create(width, height, bits), accepted) << width << " x " << height << ", " << bits;
-        EXPECT_EQ(image.width, accepted ? width : 0);
-        EXPECT_EQ(image.bits, accepted ? bits : 0);
-        EXPECT_EQ(image.texels != nullptr, accepted);
-    }
-    TmfImage largest;
-    largest.width = 65536;
-    largest.height = 16384;
-    largest.bits = 8;
-    EXPECT_EQ(largest.blockSize(), 1 << 30) << "one GiB is within the limit";
 }

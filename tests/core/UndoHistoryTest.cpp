@@ -30,30 +30,6 @@ struct Assignment : UndoRecord {
 
 } // namespace
 
-TEST(UndoHistory, KeepsTheNewestHundredRecords) {
-    UndoHistory history;
-    for (int i = 0; i < 101; ++i)
-        ASSERT_TRUE(history.add(std::make_unique<Assignment>(i, i + 1), -1));
-    EXPECT_EQ(alive, 100);
-    int value = 101;
-    while (history.undo(&value)) {
-    }
-    EXPECT_EQ(value, 1);
-    EXPECT_EQ(history.position(), 1) << "the edit that was dropped is still in effect";
-    history.clear();
-    EXPECT_EQ(alive, 0);
-    EXPECT_EQ(history.position(), 0);
-}
-
-TEST(UndoHistory, GivenIdentifierIsKeptAndTheCounterStaysBehind) {
-    UndoHistory history;
-    EXPECT_FALSE(history.add(nullptr, 40));
-    history.add(std::make_unique<Assignment>(0, 1), 40);
-    EXPECT_EQ(history.currentRecord()->identifier, 40);
-    history.add(std::make_unique<Assignment>(1, 2), -1);
-    EXPECT_EQ(history.currentRecord()->identifier, 1);
-}
-
 // Every state has a value of its own; the model is the list of values and the place in it.
 TEST(UndoHistory, AgreesWithAListOfStatesOverRandomSteps) {
     for (const std::size_t capacity : {1U, 2U, 5U}) {

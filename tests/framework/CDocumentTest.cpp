@@ -58,14 +58,6 @@ TEST(CDocument, SaveCommandUsesThePathAndSaveAsAlwaysAsks) {
     EXPECT_EQ(document.title(), "chosen.tmf");
 }
 
-TEST(CDocument, PathIsMadeFullAndTheTitleIsTheFilesName) {
-    const FakePlatform fake;
-    TestDocument document;
-    document.setPathName("tex/../sea/wave.tmf");
-    EXPECT_EQ(document.pathName(), "c:\\sea\\wave.tmf");
-    EXPECT_EQ(document.title(), "wave.tmf");
-}
-
 TEST(CDocument, TellsAllViewsButTheSenderOfAChange) {
     TestDocument document;
     TestView sender;
@@ -78,21 +70,4 @@ TEST(CDocument, TellsAllViewsButTheSenderOfAChange) {
     document.updateAllViews(nullptr, 9);
     EXPECT_THAT(sender.hints, ElementsAre(8));
     EXPECT_THAT(other.hints, ElementsAre(7, 8, 9));
-}
-
-TEST(CDocument, TellsViewsAndListenersWhenTitleOrModifiedFlagChange) {
-    struct Listener : DocumentTitleListener {
-        int renames = 0;
-        void documentRenamed() override { ++renames; }
-    } listener;
-    TestDocument document;
-    TestView view;
-    document.addView(view);
-    document.addTitleListener(listener);
-    document.setModified(true);
-    document.setTitle("sky * ");
-    document.setTitle("sky * ");
-    document.setModified(true);
-    EXPECT_EQ(view.renames, 2);
-    EXPECT_EQ(listener.renames, 2);
 }

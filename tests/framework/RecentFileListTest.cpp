@@ -8,7 +8,6 @@
 
 using namespace dyeworks;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 TEST(RecentFileList, AddedFileMovesToTheFrontWhateverItsCase) {
     const FakePlatform fake;
@@ -18,15 +17,6 @@ TEST(RecentFileList, AddedFileMovesToTheFrontWhateverItsCase) {
     EXPECT_THAT(list.paths(), ElementsAre("C:\\B.TMF", "c:\\d.tmf", "c:\\c.tmf", "c:\\a.tmf"));
     list.add("e.tmf");
     EXPECT_THAT(list.paths(), ElementsAre("c:\\e.tmf", "C:\\B.TMF", "c:\\d.tmf", "c:\\c.tmf"));
-}
-
-TEST(RecentFileList, RemovesOnlyAnExactMatch) {
-    const FakePlatform fake;
-    RecentFileList list("Recent TLF List");
-    list.add("c:\\a.tlf");
-    EXPECT_FALSE(list.remove("C:\\a.tlf"));
-    EXPECT_TRUE(list.remove("c:\\a.tlf"));
-    EXPECT_THAT(list.paths(), IsEmpty());
 }
 
 TEST(RecentFileList, SavedListIsReadBackWithoutOlderEntries) {
@@ -57,14 +47,6 @@ TEST(RecentFileList, LabelsAreRelativeToTheCurrentDirectory) {
     EXPECT_EQ(list.menuLabel(2), "&3 c:\\texture\\sea.tmf");
 }
 
-TEST(RecentFileList, LabelsShowTheHostsFormOfAPathCutToLength) {
-    FakePlatform fake;
-    fake.files.showHostPaths(true);
-    RecentFileList list("Recent TMF List");
-    list.add("\\home\\kei\\a long folder name\\tex\\sky.tmf");
-    EXPECT_EQ(list.displayName(0), "/home/.../tex/sky.tmf");
-}
-
 TEST(PathText, CutsFoldersFromTheMiddleAndThenTheNameItself) {
     struct Case {
         const char* path;
@@ -73,9 +55,7 @@ TEST(PathText, CutsFoldersFromTheMiddleAndThenTheNameItself) {
     for (const Case& c : {
              Case{"\\home\\kei\\textures\\sky1234.tmf", "\\home\\kei\\textures\\sky1234.tmf"}, // Just 30.
              Case{"\\home\\kei\\textures\\sky12345.tmf", "\\home\\...\\sky12345.tmf"},
-             Case{"\\home\\kei-yamamoto\\textures\\sky.tmf", "\\home\\...\\textures\\sky.tmf"},
              Case{"c:\\home\\kei\\textures\\big\\sky12.tmf", "c:\\home\\...\\big\\sky12.tmf"},
-             Case{"\\home\\kei\\textures-of-the-sky\\sky.tmf", "\\home\\...\\sky.tmf"},
              Case{"\\home\\kei\\a-sky-with-many-clouds.tmf", "a-sky-with-many-clouds.tmf"},
              Case{"\\home\\a-name-that-is-too-long-itself.tmf", "a-name-that-i...ong-itself.tmf"},
              Case{"\\空\\森\\山\\川\\海\\島\\雲\\星\\月\\日\\風\\花\\鳥\\夢\\色.tmf",

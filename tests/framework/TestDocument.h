@@ -38,10 +38,8 @@ public:
 class TestView : public DocumentView {
 public:
     std::vector<int> hints;
-    int renames = 0;
 
     void update(DocumentView* /*sender*/, int hint) override { hints.push_back(hint); }
-    void documentRenamed() override { ++renames; }
 };
 
 } // namespace dyeworks

@@ -1,16 +1,12 @@
 #include "framework/widgets/MdiFrame.h"
 
-#include "framework/CommandRouter.h"
 #include "framework/DocumentTemplate.h"
 #include "framework/widgets/ChildFrame.h"
 #include "framework/widgets/ScrollView.h"
-#include "framework/widgets/WidgetPlacement.h"
 #include "platform/fake/FakePlatform.h"
 
 #include <QApplication>
-#include <QMdiArea>
 #include <QMenuBar>
-#include <QScreen>
 #include <QTest>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -36,9 +32,6 @@ public:
         setContentSize({120, 90});
         frame.fitToContent(*this);
     }
-    void activated(ChildFrame& /*frame*/) override { ++activations; }
-
-    int activations = 0;
 };
 
 struct MdiFrames : testing::Test, DocumentWindows {
@@ -112,14 +105,9 @@ TEST_F(MdiFrames, CaptionFollowsTheActiveDocument) {
     EXPECT_EQ(main.windowTitle(), QStringLiteral("Dyeworks - sky.tmf"));
     main.activeChild()->showMaximized();
     EXPECT_EQ(main.windowTitle(), QStringLiteral("Dyeworks - [sky.tmf]"));
-    main.setCaption(QStringLiteral("Dyeworks @ sea"));
-    sky.setTitle("sky * ");
-    EXPECT_EQ(main.windowTitle(), QStringLiteral("Dyeworks @ sea - [sky * ]"));
-    main.activeChild()->showNormal();
-    EXPECT_EQ(main.windowTitle(), QStringLiteral("Dyeworks @ sea - sky * "));
     main.closeChildrenUnasked();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_EQ(main.windowTitle(), QStringLiteral("Dyeworks @ sea"));
+    EXPECT_EQ(main.windowTitle(), QStringLiteral("Dyeworks"));
 }
 
 TEST_F(MdiFrames, CommandsReachTheFrontWindowWhileAnotherWindowOfTheProgramIsActive) {
@@ -133,83 +121,6 @@ TEST_F(MdiFrames, CommandsReachTheFrontWindowWhileAnotherWindowOfTheProgramIsAct
     EXPECT_EQ(main.activeChild(), front);
     EXPECT_EQ(main.childFrames().front(), front);
     EXPECT_EQ(main.commandTargets().at(1), front->document());
-}
-
-TEST_F(MdiFrames, FrameFitsItsContentsUpToTheEdgeOfTheArea) {
-    open("c:\\sky.tmf");
-    ChildFrame& frame = *main.activeChild();
-    auto& view = *qobject_cast<ScrollView*>(frame.widget());
-    EXPECT_EQ(view.viewport()->size(), QSize(120, 90));
-
-    frame.move(100, 50);
-    view.setContentSize({2000, 90});
-    frame.fitToContent(view);
-    QApplication::processEvents();
-    EXPECT_EQ(frame.geometry().right() + 1, main.area().viewport()->width());
-    EXPECT_EQ(view.viewport()->height(), 90) << "the scroll bar takes nothing from the contents";
-
-    view.setContentSize({30, 20});
-    frame.showMaximized();
-    const QRect maximized = frame.geometry();
-    frame.fitToContent(view);
-    EXPECT_EQ(frame.geometry(), maximized);
-}
-
-TEST_F(MdiFrames, PlacementKeepsTheNormalRectangleOfAMaximizedFrame) {
-    open("c:\\sky.tmf");
-    ChildFrame& frame = *main.activeChild();
-    frame.setPlacement({0, WindowPlacement::kShowMaximized, -1, -1, -1, -1, 20, 30, 220, 180});
-    EXPECT_TRUE(frame.isMaximized());
-    const WindowPlacement placement = frame.placement();
-    EXPECT_EQ(formatWindowPlacement(placement), "0:3:-1:-1:-1:-1:20:30:220:180");
-    frame.showNormal();
-    EXPECT_EQ(frame.geometry(), QRect(20, 30, 200, 150));
-    EXPECT_EQ(frame.placement().showCommand, WindowPlacement::kShowNormal);
-}
-
-TEST_F(MdiFrames, TilingLeavesMinimizedFramesTheirRow) {
-    open("c:\\a.tmf");
-    main.activeChild()->showMinimized();
-    open("c:\\b.tmf");
-    open("c:\\c.tmf");
-    main.activeChild()->showMaximized();
-    CommandRouter router([this] { return main.commandTargets(); });
-    EXPECT_TRUE(router.run(ID_WINDOW_TILE_HORZ));
-    int bottom = 0;
-    int top = main.area().viewport()->height();
-    for (ChildFrame* child : main.childFrames()) {
-        if (child->isMinimized())
-            top = child->y();
-        else
-            bottom = std::max(bottom, child->geometry().bottom() + 1);
-    }
-    EXPECT_EQ(bottom, top);
-    EXPECT_LT(top, main.area().viewport()->height());
-}
-
-TEST_F(MdiFrames, DestroyedMainWindowTakesItsViewsFromTheirDocument) {
-    PlainDocument lone;
-    {
-        MdiFrame other;
-        auto view = std::make_unique<PlainView>();
-        PlainView& frameView = *view;
-        other.addChild(std::make_unique<ChildFrame>(lone, std::move(view), frameView));
-        EXPECT_EQ(lone.views().size(), 1U);
-    }
-    EXPECT_THAT(lone.views(), IsEmpty());
-}
-
-TEST(WidgetPlacement, WindowComesBackAsItWasButNeverOffTheScreens) {
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    QWidget window;
-    const WindowPlacement maximized{0, WindowPlacement::kShowMaximized, -1, -1, -1, -1, 10, 20, 310, 220};
-    setWindowPlacement(window, maximized);
-    EXPECT_EQ(windowPlacement(window), maximized);
-
-    setWindowPlacement(window, {0, WindowPlacement::kShowNormal, -1, -1, -1, -1, 90000, -9000, 90300, -8800});
-    EXPECT_EQ(window.size(), QSize(300, 200));
-    EXPECT_TRUE(screen.contains(window.geometry()));
-    EXPECT_FALSE(window.isMaximized());
 }
 
 } // namespace

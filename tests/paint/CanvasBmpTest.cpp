@@ -102,12 +102,10 @@ TEST_F(CanvasBmp, EveryAcceptedHeaderEndsInTheUsualLayout) {
         {"top-down", {.height = -2}, 1, 256, 200},
         {"4 bits, 3 colours", {.bits = 4, .coloursUsed = 3, .colours = 3}, 0, 16, 0},
         {"no colours above 8 bits", {.width = 1, .bits = 24, .coloursUsed = 2, .colours = 0}, 0x070605, 0, 0},
-        {"pixel offset not looked at", {.gap = 0}, 5, 256, 200},
         {"108 bytes", {.headerSize = 108, .gap = 6}, 5, 256, 200},
         {"124 bytes, short table", {.headerSize = 124, .coloursUsed = 9, .colours = 9, .gap = 3}, 5, 256, 0},
         {"124 bytes, table ends at the rows", {.headerSize = 124, .colours = 9}, 5, 256, 0},
         {"12 bytes", {.headerSize = 12}, 5, 256, 200},
-        {"12 bytes, short table", {.headerSize = 12, .colours = 20}, 5, 256, 0},
         {"12 bytes, 24 bits, gap",
          {.headerSize = 12, .width = 1, .bits = 24, .colours = 0, .gap = 5},
          0x070605,
@@ -184,16 +182,10 @@ TEST_F(CanvasBmp, DamagedFilesAreRefusedWithoutAMessage) {
 }
 
 TEST_F(CanvasBmp, CompressedFilesAreNamedAsSuch) {
-    for (const std::uint32_t headerSize : {40U, 56U, 108U, 124U}) {
-        ASSERT_TRUE(canvas_.Create(2, 2, 1, 8));
-        EXPECT_FALSE(load(BmpFile{.headerSize = headerSize, .compression = 3}.bytes()));
-        EXPECT_TRUE(canvas_.block().empty());
-        ASSERT_FALSE(fake_.messages.shown.empty());
-        EXPECT_EQ(fake_.messages.lastText(), "compressed format not supported.\n");
-        EXPECT_EQ(fake_.messages.shown.back().icon, MessageIcon::None);
-        EXPECT_EQ(fake_.messages.shown.back().buttons, MessageButtons::Ok);
-        fake_.messages.shown.clear();
-    }
+    EXPECT_FALSE(load(BmpFile{.headerSize = 108, .compression = 3}.bytes()));
+    EXPECT_TRUE(canvas_.block().empty());
+    ASSERT_EQ(fake_.messages.shown.size(), 1U);
+    EXPECT_EQ(fake_.messages.lastText(), "compressed format not supported.\n");
 }
 
 TEST_F(CanvasBmp, FilesCutOffAnywhereAreRefused) {

@@ -1,7 +1,5 @@
 #include "CanvasTesting.h"
 
-#include <gmock/gmock.h>
-
 #include <functional>
 
 namespace dyeworks {
@@ -167,63 +165,6 @@ TEST_P(CanvasBothWays, GiveTheSameBytesChangedRectangleAndResult) {
 
 INSTANTIATE_TEST_SUITE_P(Depths, CanvasBothWays, testing::Values(1, 2, 4, 8, 16, 24, 32),
                          testing::PrintToStringParamName());
-
-TEST(CanvasBothWaysOfFilling, DropTheSameSeedsWhenTheyRunOut) {
-    for (unsigned seed = 0; seed < 12; ++seed) {
-        TextureCanvas fast;
-        SlowCanvas slow;
-        for (TextureCanvas* canvas : {&fast, static_cast<TextureCanvas*>(&slow)}) {
-            Random random(seed);
-            ASSERT_TRUE(canvas->Create(16000, 9, 1, seed % 2 == 0 ? 4 : 8));
-            for (std::int32_t y = 0; y < canvas->height(); ++y) {
-                for (std::int32_t x = 0; x < canvas->width(); ++x)
-                    canvas->SetPixel(x, y, y % 4 != 2 && random.once(3) ? 1 : 0);
-            }
-            canvas->FloodFill(8000, 2, 5);
-        }
-        ASSERT_TRUE(std::ranges::equal(fast.block(), slow.block())) << "seed " << seed;
-        ASSERT_EQ(changedRect(fast), changedRect(slow));
-    }
-}
-
-/// Sees every pixel that is written.
-class RecordingCanvas : public TextureCanvas {
-public:
-    bool SetPixel(std::int32_t x, std::int32_t y, std::uint32_t value) override {
-        pixels.push_back({x, y});
-        return TextureCanvas::SetPixel(x, y, value) && accepts;
-    }
-    std::vector<Point> pixels;
-    bool accepts = true;
-};
-
-TEST(CanvasDerived, SeesTheLineFromItsStartAndDecidesTheResult) {
-    RecordingCanvas canvas;
-    ASSERT_TRUE(canvas.Create(8, 8, 1, 8));
-    EXPECT_TRUE(canvas.DrawLine(0, 0, 4, 2, 1));
-    EXPECT_THAT(canvas.pixels,
-                testing::ElementsAre(Point{0, 0}, Point{1, 1}, Point{2, 1}, Point{3, 2}, Point{4, 2}));
-
-    canvas.pixels.clear();
-    canvas.accepts = false;
-    EXPECT_FALSE(canvas.DrawLine(2, 4, 0, 0, 1));
-    EXPECT_THAT(canvas.pixels,
-                testing::ElementsAre(Point{2, 4}, Point{1, 3}, Point{1, 2}, Point{0, 1}, Point{0, 0}));
-}
-
-TEST(CanvasDerived, SeesBoxCornersTwiceAndEachPixelOfACopy) {
-    RecordingCanvas canvas;
-    ASSERT_TRUE(canvas.Create(2, 1, 1, 8));
-    canvas.DrawBox(1, 0, 0, 0, 1);
-    EXPECT_THAT(canvas.pixels, testing::ElementsAre(Point{0, 0}, Point{1, 0}, Point{0, 0}, Point{1, 0},
-                                                    Point{0, 0}, Point{1, 0}));
-    canvas.pixels.clear();
-    TextureCanvas source;
-    ASSERT_TRUE(source.Create(2, 1, 1, 8));
-    source.CopyTo(canvas, 0, 0);
-    canvas.StretchPaste(source, 1, 0, 3, 1);
-    EXPECT_THAT(canvas.pixels, testing::ElementsAre(Point{0, 0}, Point{1, 0}, Point{1, 0}));
-}
 
 } // namespace
 } // namespace dyeworks

@@ -1,5 +1,4 @@
 #include "CanvasTesting.h"
-#include "platform/fake/FakePlatform.h"
 
 #include <gmock/gmock.h>
 
@@ -10,7 +9,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::ElementsAreArray;
-using testing::IsEmpty;
 
 std::vector<int> numbers(std::span<const std::byte> bytes) {
     std::vector<int> values;
@@ -85,62 +83,18 @@ TEST(CanvasLayout, BlocksThatCannotBeHadLeaveTheCanvasEmpty) {
         EXPECT_EQ(canvas.GetColorCount(), 0U);
         EXPECT_EQ(changedRect(canvas), (Rect{0, 0, -1, -1}));
     }
-    EXPECT_EQ(canvas.CopyRect(std::numeric_limits<std::int32_t>::min(), 0, kHighest, 0), nullptr);
-    EXPECT_TRUE(canvas.Create(0, 5, 1, 8));
-    EXPECT_EQ(canvas.block().size(), 54U + 1024U);
-    EXPECT_TRUE(canvas.CopyFrom(canvas));
-    canvas.ApplyPalette(TextureLookupTable(), 0);
-    Rect changed;
-    EXPECT_FALSE(canvas.GetChangedRect(changed));
 }
 
-TEST(CanvasLayout, CopiesCarryColoursAndCopyFromOnlyPixels) {
-    const auto canvas = canvasOf({"1234567", "89abcde"});
-    canvas->colourTable()[4 * 15 + 2] = 77;
-    const auto clone = canvas->Clone();
-    ASSERT_NE(clone, nullptr);
-    EXPECT_TRUE(std::ranges::equal(clone->block(), canvas->block()));
-    EXPECT_EQ(changedRect(*clone), (Rect{0, 0, -1, -1}));
-
-    const auto piece = canvas->CopyRect(5, 1, 8, 1);
-    ASSERT_NE(piece, nullptr);
-    EXPECT_THAT(rowsOf(*piece), ElementsAre("de.."));
-    EXPECT_EQ(piece->colourTable()[4 * 15 + 2], 77);
-
-    TextureCanvas other;
-    ASSERT_TRUE(other.CreateLike(*canvas));
-    EXPECT_TRUE(other.CopyFrom(*clone));
-    EXPECT_EQ(rowsOf(other), rowsOf(*canvas));
-    EXPECT_EQ(other.colourTable()[4 * 15 + 2], 0);
-    EXPECT_EQ(changedRect(other), (Rect{0, 0, 6, 1}));
-    ASSERT_TRUE(other.Create(7, 2, 0, 4));
-    EXPECT_FALSE(other.CopyFrom(*clone)) << "planes differ";
-}
-
-TEST(CanvasLayout, PaletteColoursComeFromTheBankThatExists) {
-    TlutData table;
-    ASSERT_TRUE(table.create(20, ColourType::Rgba));
-    for (std::int32_t i = 0; i < 20; ++i)
-        table.setRed(i, i);
-    const TextureLookupTable palette(table);
-    const auto reds = [&](std::uint16_t bits, std::int32_t first) {
+TEST(CanvasLayout, DeepPixelsAreShownInTheirOwnColours) {
+    for (const std::uint16_t bits : {std::uint16_t{16}, std::uint16_t{24}, std::uint16_t{32}}) {
         TextureCanvas canvas;
-        EXPECT_TRUE(canvas.Create(2, 3, 1, bits));
-        std::ranges::fill(canvas.colourTable(), std::uint8_t{1});
-        canvas.ApplyPalette(palette, first);
-        EXPECT_EQ(changedRect(canvas), (Rect{0, 0, 1, 2}));
-        std::vector<int> values;
-        for (std::size_t i = 2; i < canvas.colourTable().size(); i += 4)
-            values.push_back(canvas.colourTable()[i]);
-        return values;
-    };
-    EXPECT_THAT(reds(1, 3), ElementsAre(24, 32));
-    EXPECT_THAT(reds(4, 16), ElementsAre(128, 136, 144, 152, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1));
-    EXPECT_EQ(reds(4, -2)[1], 1);
-    EXPECT_EQ(reds(4, -2)[3], 8);
-    EXPECT_EQ(reds(4, std::numeric_limits<std::int32_t>::max())[15], 1);
-    EXPECT_EQ(reds(8, 16)[1], 8) << "256 colours begin at entry 0";
-    EXPECT_THAT(reds(24, 0), IsEmpty());
+        ASSERT_TRUE(canvas.Create(1, 1, 1, bits));
+        canvas.SetPixel(0, 0, bits == 16 ? 31U << 10U | 16U << 5U : 0x00FF8400U);
+        std::uint32_t pixel = 0;
+        Surface surface{&pixel, 1, 1, 1};
+        EXPECT_EQ(canvas.Draw(surface, {0, 0, 1, 1}, {0, 0, 1, 1}), 1);
+        EXPECT_EQ(pixel, 0xFFFF8400U) << bits;
+    }
 }
 
 TEST(CanvasImages, TexelsKeepTheirPlacesAndPaddingIsZero) {
@@ -158,34 +112,6 @@ TEST(CanvasImages, TexelsKeepTheirPlacesAndPaddingIsZero) {
     small.FromImage(*image);
     EXPECT_THAT(rowsOf(small), ElementsAre("ff"));
     EXPECT_EQ(canvasOf({"1"}, 1)->ToImage(), nullptr);
-}
-
-TEST(CanvasImages, DeepPixelsSurviveTheTripThroughAnImage) {
-    for (const std::uint16_t bits : {std::uint16_t{16}, std::uint16_t{24}, std::uint16_t{32}}) {
-        TextureCanvas canvas;
-        ASSERT_TRUE(canvas.Create(3, 2, 1, bits));
-        canvas.SetPixel(2, 0, 0x12345678);
-        canvas.SetPixel(0, 1, 0x9ABCDEF0);
-        const auto image = canvas.ToImage();
-        ASSERT_NE(image, nullptr);
-        EXPECT_EQ(image->getTexel(2, 0), canvas.GetPixel(2, 0));
-        EXPECT_TRUE(std::ranges::equal(TextureCanvas(*image).block(), canvas.block()));
-    }
-}
-
-TEST(CanvasFiles, TmfGoesOutAndComesBack) {
-    FakePlatform fake;
-    const auto canvas = canvasOf({"12345", "6789a"});
-    ASSERT_TRUE(canvas->SaveTmf("c:\\sky.tmf"));
-    TextureCanvas loaded;
-    EXPECT_TRUE(loaded.LoadTmf("c:\\sky.tmf"));
-    EXPECT_EQ(rowsOf(loaded), rowsOf(*canvas));
-    EXPECT_EQ(changedRect(loaded), (Rect{0, 0, 4, 1}));
-    EXPECT_FALSE(loaded.LoadTmf("c:\\none.tmf"));
-    EXPECT_TRUE(loaded.block().empty());
-    EXPECT_EQ(fake.messages.lastText(), "[c:\\none.tmf] file open failed.\n");
-    EXPECT_FALSE(canvasOf({"1"}, 16)->SaveTmf("c:\\deep.tmf"));
-    EXPECT_FALSE(fake.files.exists("c:\\deep.tmf"));
 }
 
 } // namespace

@@ -151,58 +151,35 @@ TEST_F(DocFile, ColoursOfABitmapBecomeTheCurrentPalette) {
     EXPECT_EQ(host.palettes.palettes.size(), 1U);
 }
 
-TEST_F(DocFixture, NewImageIsWhatWasAskedForOrAbandoned) {
-    CDyeworksDoc fresh(host);
-    EXPECT_FALSE(fresh.onNewDocument());
-    EXPECT_EQ(host.projectOffers, 0);
-    host.newImage = NewImage{33, 0, 8};
-    EXPECT_TRUE(fresh.onNewDocument());
-    EXPECT_EQ(fresh.canvas().width(), 33);
-    EXPECT_EQ(fresh.canvas().bitsPerPixel(), 8);
-    EXPECT_FALSE(fresh.hasUnsavedChanges());
-    EXPECT_EQ(host.projectOffers, 1);
-}
-
 TEST_F(DocFile, RevertGoesBackToTheFileAndKeepsThePalette) {
     openPalette();
     document.Attach();
-    const auto colours = [&] {
-        const auto table = document.canvas().colourTable();
-        return std::vector<std::uint8_t>(table.begin(), table.end());
-    };
     const auto canRevert = [&] { return stateOf(document, ID_FILE_REVERT).enabled; };
     document.Pixel(nullptr, 1, 1, 5);
     ASSERT_TRUE(document.save());
     const auto saved = pixels();
-    const auto shown = colours();
     const std::string title = document.title();
     openPalette(256); // another one is current now
     EXPECT_FALSE(canRevert());
-    for (const Size size : {Size{16, 12}, Size{40, 50}}) { // the second time the file has another size
-        if (size.width == 40)
-            document.canvas().Create(40, 50, 1, 4);
-        document.Fill(nullptr, 0, 0, 3);
-        EXPECT_TRUE(canRevert());
-        const auto edited = pixels();
-        document.runCommand(ID_FILE_REVERT); // the question is answered with no
-        EXPECT_EQ(pixels(), edited);
-        platform.messages.answerWith({MessageAnswer::Yes, MessageAnswer::Ok});
-        platform.files.failNextRead(FileError::AccessDenied);
-        document.runCommand(ID_FILE_REVERT);
-        EXPECT_EQ(pixels(), edited);
-        EXPECT_TRUE(document.CanUndo());
-        platform.messages.answerWith(MessageAnswer::Yes);
-        document.runCommand(ID_FILE_REVERT);
-        EXPECT_EQ(pixels(), saved);
-        if (size.width == 16) {
-            EXPECT_EQ(colours(), shown);
-        }
-        EXPECT_EQ(document.title(), title);
-        EXPECT_FALSE(document.hasUnsavedChanges() || document.CanUndo() || canRevert());
-        document.Pixel(nullptr, 15, 11, 2);
-        document.Undo();
-        EXPECT_EQ(pixels(), saved);
-    }
+    document.canvas().Create(40, 50, 1, 4); // the file has another size
+    document.Fill(nullptr, 0, 0, 3);
+    EXPECT_TRUE(canRevert());
+    const auto edited = pixels();
+    document.runCommand(ID_FILE_REVERT); // the question is answered with no
+    EXPECT_EQ(pixels(), edited);
+    platform.messages.answerWith({MessageAnswer::Yes, MessageAnswer::Ok});
+    platform.files.failNextRead(FileError::AccessDenied);
+    document.runCommand(ID_FILE_REVERT);
+    EXPECT_EQ(pixels(), edited);
+    EXPECT_TRUE(document.CanUndo());
+    platform.messages.answerWith(MessageAnswer::Yes);
+    document.runCommand(ID_FILE_REVERT);
+    EXPECT_EQ(pixels(), saved);
+    EXPECT_EQ(document.title(), title);
+    EXPECT_FALSE(document.hasUnsavedChanges() || document.CanUndo() || canRevert());
+    document.Pixel(nullptr, 15, 11, 2);
+    document.Undo();
+    EXPECT_EQ(pixels(), saved);
 }
 
 TEST_F(DocFixture, AddToProjectAsksForWhatIsMissing) {
@@ -211,60 +188,27 @@ TEST_F(DocFixture, AddToProjectAsksForWhatIsMissing) {
     const std::string start = platform.files.currentDirectory();
     const std::string question =
         "You must attach a palette before add to project.\nattach to active palette now?\n";
-    const std::string noPalette = "An active palette not found.\nYou must open or create a palette.\n";
     const std::string pleaseSave = "Please save document that adds to project.";
-    struct Case {
-        const char* name;
-        bool palette;
-        MessageAnswer attach;
-        const char* file; ///< Chosen in the save dialog; empty: cancelled.
-        std::vector<std::string> messages;
-        std::vector<std::string> added;
-    };
-    const auto run = [&](const Case& c) {
-        SCOPED_TRACE(c.name);
-        if (c.palette && host.palettes.palettes.empty())
-            openPalette();
+    const auto run = [&](MessageAnswer attach, const std::vector<std::string>& messages,
+                         const std::vector<std::string>& added) {
         platform.messages.shown.clear();
-        platform.messages.answerWith(c.attach);
-        if (c.file[0] != 0)
-            platform.dialogs.answerWith(c.file);
+        platform.messages.answerWith(attach);
         document.runCommand(ID_IMAGE_ADD_TO_PROJECT);
         std::vector<std::string> texts;
         for (const Message& message : platform.messages.shown)
             texts.push_back(message.text);
-        EXPECT_EQ(texts, c.messages);
-        EXPECT_EQ(std::exchange(project.added, {}), c.added);
+        EXPECT_EQ(texts, messages);
+        EXPECT_EQ(std::exchange(project.added, {}), added);
         EXPECT_EQ(platform.files.currentDirectory(), start);
     };
     EXPECT_FALSE(stateOf(document, ID_IMAGE_ADD_TO_PROJECT).enabled);
     host.project = &project;
+    openPalette();
     EXPECT_TRUE(stateOf(document, ID_IMAGE_ADD_TO_PROJECT).enabled);
-    run({"not attached", true, MessageAnswer::No, "", {question}, {}});
-    ASSERT_TRUE(host.palettes.closePalette("", false));
-    run({"nothing to attach", false, MessageAnswer::Yes, "", {question, noPalette}, {}});
-    run({"not saved", true, MessageAnswer::Yes, "", {question, pleaseSave, "not add to project."}, {}});
-    const std::string tail = "," + document.attachedName();
-    run({"saved in the project's folder",
-         true,
-         MessageAnswer::Ok,
-         "p.tmf",
-         {pleaseSave},
-         {"c:\\proj\\p.tmf" + tail}});
-    run({"ready", true, MessageAnswer::Ok, "", {}, {"c:\\proj\\p.tmf" + tail}});
-    platform.files.remove("c:\\proj\\p.tmf");
-    run({"file is gone", true, MessageAnswer::Ok, "c:\\q.tmf", {pleaseSave}, {"c:\\q.tmf" + tail}});
-}
-
-TEST_F(DocFile, ClosingClearsThePanesAndForgetsTheDocument) {
-    host.panes = {{1, "(1, 2) 100%"}, {2, "(16, 12) 4bit"}};
-    {
-        CDyeworksDoc other(host);
-        host.setLastActivatedImage(&other);
-        other.onCloseDocument();
-    }
-    EXPECT_THAT(host.panes, ElementsAre(std::pair(1, std::string()), std::pair(2, std::string())));
-    EXPECT_EQ(host.lastActivatedImage(), nullptr);
+    run(MessageAnswer::No, {question}, {});
+    run(MessageAnswer::Yes, {question, pleaseSave, "not add to project."}, {}); // no file is chosen
+    platform.dialogs.answerWith("p.tmf");
+    run(MessageAnswer::Ok, {pleaseSave}, {"c:\\proj\\p.tmf," + document.attachedName()});
 }
 
 } // namespace

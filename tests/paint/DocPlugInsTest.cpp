@@ -1,6 +1,4 @@
 #include "DocTestHost.h"
-#include "ViewTestWindow.h"
-#include "paint/CDyeworksView.h"
 
 #include <gmock/gmock.h>
 
@@ -109,19 +107,6 @@ TEST_F(DocPlugIns, ImportKeepsWhatThePlugInChangedWithoutAStep) {
     document.Pixel(nullptr, 3, 3, 1);
     document.Undo();
     EXPECT_EQ(document.canvas().GetPixel(0, 0), 6U);
-}
-
-TEST_F(DocPlugIns, ImportedCanvasFloatsInTheActiveView) {
-    FakeViewWindow window;
-    CDyeworksView view(document, window);
-    for (CDyeworksView* active : {&view, static_cast<CDyeworksView*>(nullptr)}) {
-        host.view = active;
-        window.repaints = 0;
-        host.plugIns.brings = document.canvas().CopyRect(0, 0, 3, 2);
-        document.ImportThrough(0);
-        EXPECT_EQ(window.repaints > 0, active != nullptr);
-        EXPECT_EQ(view.selection(), (Rect{0, 0, 3, 2}));
-    }
 }
 
 } // namespace

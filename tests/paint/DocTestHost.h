@@ -27,7 +27,7 @@ public:
         note("import", index, image, palette, paletteNumber);
         if (texelOnImport != 0)
             image->setTexel(0, 0, texelOnImport);
-        return std::move(brings);
+        return nullptr;
     }
     bool ExportImage(std::int32_t index, TmfImage* image, TlutData* palette,
                      std::int32_t paletteNumber) override {
@@ -52,7 +52,6 @@ public:
     std::vector<std::string> names;
     std::vector<std::string> calls;
     std::uint32_t texelOnImport = 0;
-    std::unique_ptr<TextureCanvas> brings;
     std::int32_t failingPreview = -1;
 };
 
@@ -81,11 +80,11 @@ public:
     void refreshPaletteBar() override { ++barRefreshes; }
     void setStatusText(const std::string& text, int pane) override { panes[pane] = text; }
     bool isActiveImage(const CDyeworksDoc& document) const override { return active == &document; }
-    CDyeworksView* activeView() const override { return view; }
+    CDyeworksView* activeView() const override { return nullptr; }
     ImagePlugIns& imagePlugIns() override { return plugIns; }
     OpenProject* openProject() override { return project; }
     std::optional<NewImage> askNewImage() override { return newImage; }
-    void AskUseProject() override { ++projectOffers; }
+    void AskUseProject() override {}
 
     PaletteSet palettes;
     std::int32_t firstEntry = 0;
@@ -93,11 +92,9 @@ public:
     int barRefreshes = 0;
     std::map<int, std::string> panes;
     const CDyeworksDoc* active = nullptr;
-    CDyeworksView* view = nullptr;
     FakeImagePlugIns plugIns;
     FakeProject* project = nullptr;
     std::optional<NewImage> newImage;
-    int projectOffers = 0;
 };
 
 /// What `target` says of a command that it takes.

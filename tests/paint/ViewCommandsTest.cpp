@@ -7,40 +7,13 @@ namespace {
 
 using testing::ElementsAre;
 
-TEST_F(ViewFixture, InitialUpdateSelectsTheHighestValue) {
-    for (const std::uint16_t bits : {std::uint16_t{4}, std::uint16_t{8}}) {
-        document.canvas().Create(10, 8, 1, bits);
-        view.InitialUpdate();
-        EXPECT_EQ(view.drawingValue(), bits == 4 ? 15U : 255U);
-        EXPECT_EQ(host.cell, bits == 4 ? 15 : 255);
-        EXPECT_EQ(window.content, (Size{10, 8}));
-    }
-}
-
 TEST_F(ViewFixture, ZoomCommandsAreAvailableUpToTheEnds) {
     EXPECT_FALSE(stateOf(view, ID_ZOOM_OUT).enabled);
-    const int fits = window.fits;
     view.runCommand(ID_ZOOM_X16);
-    EXPECT_EQ(window.fits, fits + 1);
-    EXPECT_EQ(window.content, (Size{256, 192}));
     EXPECT_FALSE(stateOf(view, ID_ZOOM_IN).enabled);
     EXPECT_TRUE(stateOf(view, ID_ZOOM_OUT).enabled);
     EXPECT_EQ(stateOf(view, ID_ZOOM_X16).checked, true);
     EXPECT_EQ(stateOf(view, ID_ZOOM_X1).checked, false);
-    window.shift = true;
-    view.runCommand(ID_ZOOM_OUT);
-    EXPECT_EQ(window.fits, fits + 1);
-    EXPECT_EQ(stateOf(view, ID_ZOOM_X12).checked, true);
-    EXPECT_FALSE(view.handles(ID_ZOOM_BASE));
-}
-
-TEST_F(ViewFixture, ZoomingOutScrollsBackIntoTheContent) {
-    view.runCommand(ID_ZOOM_X8);
-    window.scroll = {88, 66};
-    view.runCommand(ID_ZOOM_X3);
-    EXPECT_EQ(window.scroll, (Point{8, 6}));
-    view.runCommand(ID_ZOOM_X1);
-    EXPECT_EQ(window.scroll, (Point{0, 0}));
 }
 
 TEST_F(ViewFixture, KeysZoomAtThePointerAndKeepItsTexel) {
@@ -59,12 +32,6 @@ TEST_F(ViewFixture, KeysZoomAtThePointerAndKeepItsTexel) {
     EXPECT_EQ(view.zoom(), 8);
     view.KeyPressed({Key::I, 2});
     EXPECT_EQ(view.zoom(), 8);
-
-    // At the end of the zoom nothing moves.
-    view.runCommand(ID_ZOOM_X16);
-    window.scroll = {101, 53};
-    view.ZoomAt({20, 15}, false);
-    EXPECT_EQ(window.scroll, (Point{101, 53}));
 }
 
 TEST_F(ViewFixture, RepaintsTheZoomedChangedRectangle) {
@@ -78,17 +45,26 @@ TEST_F(ViewFixture, RepaintsTheZoomedChangedRectangle) {
     EXPECT_THAT(window.invalidated, ElementsAre(Rect{6, 6, 18, 18}));
 }
 
-TEST_F(ViewFixture, UpdatesComeFromOthersAndWaitForTheInitialUpdate) {
-    FakeViewWindow fresh;
-    CDyeworksView second(document, fresh);
-    const int full = window.fullRepaints;
-    document.updateAllViews(nullptr, 1);
-    EXPECT_EQ(window.fullRepaints, full + 1);
-    EXPECT_EQ(fresh.fullRepaints, 0);
-    view.update(&view, 1);
-    EXPECT_EQ(window.fullRepaints, full + 1);
-    view.update(&second, 1);
-    EXPECT_EQ(window.fullRepaints, full + 2);
+TEST_F(ViewFixture, SelectingRepaintsWhatWasAndWhatIsSelected) {
+    openPalette();
+    document.Attach();
+    view.runCommand(ID_ZOOM_X4);
+    window.scroll = {6, 2};
+    const auto expectRepaint = [&](const std::optional<Rect>& selected, const Rect& area,
+                                   std::uint32_t request) {
+        window.invalidated.clear();
+        window.repaints = 0;
+        view.SetSelection(selected, true);
+        EXPECT_EQ(window.interval, selected ? 200 : 0);
+        EXPECT_THAT(window.invalidated, ElementsAre(area));
+        EXPECT_EQ(window.repaints, 1);
+        EXPECT_EQ(window.paintedRequest, request);
+    };
+    static_cast<void>(view.BeginPaint());
+    expectRepaint(Rect{5, 4, 2, 1}, {2, 2, 19, 19}, 0x80);
+    EXPECT_EQ(view.selection(), (Rect{2, 1, 5, 4}));
+    expectRepaint(Rect{4, 1, 7, 4}, {2, 2, 27, 19}, 0xc0);
+    expectRepaint(std::nullopt, {10, 2, 27, 19}, 0x40);
 }
 
 TEST_F(ViewFixture, ActivationShowsTheDocumentOncePerChange) {
@@ -96,6 +72,7 @@ TEST_F(ViewFixture, ActivationShowsTheDocumentOncePerChange) {
     document.Attach();
     const std::string attached = document.attachedName();
     openPalette();
+    host.barRefreshes = 0;
     CDyeworksDoc other(host);
     FakeViewWindow otherWindow;
     CDyeworksView otherView(other, otherWindow);

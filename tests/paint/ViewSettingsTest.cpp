@@ -62,31 +62,6 @@ TEST_F(ViewSettings, ReturnWhenTheFileIsOpenedAgain) {
         again.view.Resized();
         EXPECT_EQ(again.window.scroll, painted ? (Point{26, 2}) : (Point{51, 40}));
     }
-
-    // A further window takes its own part and leaves the image what it is attached to by now.
-    again.document.Attach();
-    const std::string chosen = again.document.attachedName();
-    EXPECT_NE(chosen, attached);
-    FakeViewWindow furtherWindow;
-    CDyeworksView further(again.document, furtherWindow);
-    further.InitialUpdate();
-    EXPECT_EQ(further.zoom(), 6);
-    EXPECT_EQ(again.document.attachedName(), chosen);
-}
-
-TEST_F(ViewSettings, OnlyFilesAndWindowsThatAreThereLeaveAny) {
-    platform.files.putFile("c:\\folder\\inner\\a.tmf", "");
-    document.setPathName("");
-    view.Closing();
-    document.setPathName("c:\\tex\\gone.tmf");
-    view.Closing();
-    document.setPathName("c:\\folder\\inner");
-    view.Closing();
-    document.setPathName(kPath);
-    window.place.reset();
-    view.Closing();
-    EXPECT_TRUE(platform.profile.entries("Settings").empty());
-    EXPECT_TRUE(platform.profile.entries(kSection).empty());
 }
 
 TEST_F(ViewSettings, CountOnlyBesideAPlacementAndWithinTheirRanges) {

@@ -29,14 +29,14 @@ public:
         if (view != nullptr)
             view->PointerCaptureLost();
     }
-    void setCursor(CursorShape shape) override { cursor = shape; }
-    void fitFrame() override { ++fits; }
+    void setCursor(CursorShape) override {}
+    void fitFrame() override {}
     std::optional<WindowPlacement> placement() const override { return place; }
     void setPlacement(const WindowPlacement& placement) override { place = placement; }
     void startTicking(int milliseconds) override { interval = milliseconds; }
     void stopTicking() override { interval = 0; }
     Point pointerPosition() const override { return pointer; }
-    bool shiftHeld() const override { return shift; }
+    bool shiftHeld() const override { return false; }
 
     Size client{40, 30};
     Point scroll;
@@ -44,14 +44,11 @@ public:
     std::vector<Rect> invalidated;
     int fullRepaints = 0;
     bool captured = false;
-    CursorShape cursor = CursorShape::Arrow;
-    int fits = 0;
     int repaints = 0;
     std::uint32_t paintedRequest = 0; ///< Of the last repaint.
     std::optional<WindowPlacement> place;
     int interval = 0; ///< In milliseconds; 0 while it does not tick.
     Point pointer;
-    bool shift = false;
     CDyeworksView* view = nullptr;
 };
 

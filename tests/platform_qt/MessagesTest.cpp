@@ -70,43 +70,4 @@ TEST_F(MessageBoxes, ShowMarkupAsItStandsUnderTheGivenCaptionAndIcon) {
         {"<b>a</b> & b\n\"c\"", "[TLF]", MessageButtons::Ok, MessageIcon::Stop, MessageOwner::None});
 }
 
-TEST_F(MessageBoxes, BelongToTheDialogOnTopElseToTheMainWindowOrToNobody) {
-    QWidget mainWindow;
-    platform_.setMainWindow(&mainWindow);
-    const QWidget* first = nullptr;
-    const Message owned{.text = "a", .caption = ""};
-    const Person person({[&](QWidget& dialog) {
-                             first = &dialog;
-                             EXPECT_EQ(dialog.parentWidget(), &mainWindow);
-                             platform_.messages().show(owned);
-                             dialog.close();
-                         },
-                         [&](QWidget& dialog) {
-                             EXPECT_EQ(dialog.parentWidget(), first);
-                             dialog.close();
-                         },
-                         [&](QWidget& dialog) {
-                             EXPECT_EQ(dialog.parentWidget(), nullptr);
-                             dialog.close();
-                         }});
-    platform_.messages().show(owned);
-    platform_.messages().show({.text = "b", .caption = "", .owner = MessageOwner::None});
-}
-
-TEST_F(MessageBoxes, HaveTheApplicationsTitleAndTheOrdinaryPointerAmidLongWork) {
-    const WaitCursorScope outer;
-    { const WaitCursorScope inner; }
-    ASSERT_NE(QApplication::overrideCursor(), nullptr);
-    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-    const Person person({[](QWidget& dialog) {
-        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ArrowCursor);
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Orrery Dyeworks"));
-        dialog.close();
-    }});
-    applicationMessage("a");
-    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-    platform_.waitCursor().end();
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-}
-
 } // namespace dyeworks

@@ -113,12 +113,6 @@ const Stroke kStrokes[] = {
            [](Texels& t) {
                drawSteps(t, {2, 3}, {11, 6});
            }},
-    Stroke{"LineAcrossTheEdge",
-           ID_TOOL_LINE,
-           {{20, 20}, {27, 27}},
-           [](Texels& t) {
-               drawSteps(t, {20, 20}, {27, 27});
-           }},
     Stroke{"LineFromItsCentre",
            ID_TOOL_LINE,
            {{10, 10}, {14, 14}},
@@ -183,16 +177,6 @@ TEST_F(DrawingRules, ABankOfTheFourBitImageShowsItsEntriesAndStoresLowBits) {
     EXPECT_EQ(canvas()[2][2], 13U);
 }
 
-TEST_F(DrawingRules, CtrlPicksTheColourAndDrawsNothing) {
-    openAttached(ground(), 8, 256);
-    ASSERT_TRUE(run(ID_TOOL_PIXEL));
-    app_.selectPaletteBarCell(kInk);
-    drag({{20, 3}}, Qt::ControlModifier);
-    EXPECT_EQ(canvas(), ground());
-    EXPECT_EQ(app_.paletteBarCell(), 3);
-    EXPECT_FALSE(enabled(ID_EDIT_UNDO));
-}
-
 TEST_F(DrawingRules, AHalfPixelOfAScaledDisplayBelongsToThePixelItLiesIn) {
     openAttached(ground(), 8, 256);
     ASSERT_TRUE(run(ID_TOOL_PIXEL));
@@ -203,21 +187,6 @@ TEST_F(DrawingRules, AHalfPixelOfAScaledDisplayBelongsToThePixelItLiesIn) {
         QCoreApplication::sendEvent(view().viewport(), &event);
     }
     EXPECT_EQ(canvas()[6][5], kInk);
-}
-
-TEST_F(DrawingRules, EscapeTakesBackAShapeBeingDrawn) {
-    openAttached(ground(), 8, 256);
-    ASSERT_TRUE(run(ID_TOOL_BOX_FILL));
-    QTest::mousePress(view().viewport(), Qt::LeftButton, {}, at(2, 2));
-    QMouseEvent move(QEvent::MouseMove, at(9, 9), view().viewport()->mapToGlobal(at(9, 9)), Qt::NoButton,
-                     Qt::LeftButton, {});
-    QCoreApplication::sendEvent(view().viewport(), &move);
-    EXPECT_NE(canvas(), ground());
-    QTest::keyClick(&view(), Qt::Key_Escape);
-    EXPECT_EQ(canvas(), ground());
-    QTest::mouseRelease(view().viewport(), Qt::LeftButton, {}, at(9, 9));
-    EXPECT_EQ(canvas(), ground());
-    EXPECT_FALSE(enabled(ID_EDIT_UNDO));
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QLabel>
 #include <QMimeData>
 #include <QUrl>
 
@@ -116,29 +115,6 @@ TEST_F(FilesTest, AnOpenFileIsBroughtToTheFrontAndNotOpenedAgain) {
     EXPECT_TRUE(image().isModified());
 }
 
-TEST_F(FilesTest, TheDialogsOfferAllKindsAndStartWithTheirOwn) {
-    run(ID_FILE_OPEN);
-    run(ID_PALETTE_OPEN);
-    ASSERT_EQ(fake_.dialogs.shown.size(), 2U);
-    const FileDialogRequest& image = fake_.dialogs.shown[0].request;
-    const FileDialogRequest& palette = fake_.dialogs.shown[1].request;
-    EXPECT_EQ(image.filter, "Project Files (*.tpf)|*.tpf|Image Files (*.tmf)|*.tmf|"
-                            "Palette Files (*.tlf)|*.tlf|All Files (*.*)|*.*||");
-    EXPECT_EQ(palette.filter, image.filter);
-    EXPECT_EQ(image.filterIndex, 2);
-    EXPECT_EQ(palette.filterIndex, 3);
-    EXPECT_EQ(image.defaultExtension, ".tmf");
-    EXPECT_EQ(palette.defaultExtension, ".tlf");
-    EXPECT_TRUE(image.fileMustExist && image.hideReadOnly);
-
-    // Whichever dialog it was, the file's kind decides.
-    fake_.files.putFile("c:\\p.tlf", paletteFile(16, [](int) { return 1U; }));
-    fake_.dialogs.answerWith("c:\\p.tlf");
-    run(ID_FILE_OPEN);
-    EXPECT_EQ(app_.paletteSet()->currentKey, "c:\\p.tlf");
-    EXPECT_EQ(windows(), 0U);
-}
-
 TEST_F(FilesTest, ClosingAPaletteLeavesItsImagesWithoutOne) {
     openAndDraw();
     ASSERT_FALSE(view().view().showsNoPalette());
@@ -166,10 +142,18 @@ TEST_F(FilesTest, SaveAsGivesThePaletteAndTheImageNewNames) {
     ASSERT_TRUE(run(ID_PALETTE_SAVE_AS));
     EXPECT_EQ(fake_.files.textOf("c:\\tex\\new.tlf"), palette);
     EXPECT_EQ(app_.paletteSet()->currentKey, "c:\\tex\\new.tlf");
+    EXPECT_EQ(image().attachedName(), "c:\\tex\\new.tlf") << "it stays attached";
     fake_.dialogs.answerWith("c:\\tex\\new.tmf");
     ASSERT_TRUE(run(ID_FILE_SAVE_AS));
     EXPECT_EQ(image().pathName(), "c:\\tex\\new.tmf");
     EXPECT_EQ(fake_.files.textOf("c:\\tex\\new.tmf")->size(), 64U + 64U);
+
+    fake_.files.putFile("c:\\other.tmf", imageFile(texels(4, 4, [](int, int) { return 1U; }), 4));
+    ASSERT_TRUE(app_.OpenDocumentFile("c:\\other.tmf"));
+    fake_.dialogs.answerWith("c:\\tex\\NEW.tmf");
+    run(ID_FILE_SAVE_AS);
+    EXPECT_EQ(fake_.files.textOf("c:\\tex\\new.tmf")->size(), 64U + 64U) << "another window holds that file";
+    EXPECT_EQ(fake_.messages.lastText(), "\"c:\\tex\\NEW.tmf\" is open in another window.");
 }
 
 TEST_F(FilesTest, DroppedFilesOpen) {
@@ -187,12 +171,6 @@ TEST_F(FilesTest, DroppedFilesOpen) {
     EXPECT_EQ(windows(), 1U);
     EXPECT_EQ(app_.paletteSet()->palettes.size(), 1U);
     EXPECT_THAT(texts(), IsEmpty());
-
-    QMimeData other;
-    other.setText(QStringLiteral("just text"));
-    QDragEnterEvent refused({10, 10}, Qt::CopyAction, &other, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&app_.mainFrame(), &refused);
-    EXPECT_FALSE(refused.isAccepted());
 }
 
 } // namespace

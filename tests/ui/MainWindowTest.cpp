@@ -1,6 +1,5 @@
 #include "Program.h"
 #include "framework/CommandTable.h"
-#include "ui/MainMenus.h"
 #include "ui/controls/SwatchGrid.h"
 
 #include <QComboBox>
@@ -56,18 +55,6 @@ TEST_F(MainWindow, CommandsAreEnabledWhenTheyCanDoSomething) {
     check(&Case::attached, "attached");
 }
 
-TEST_F(MainWindow, ActionsShowStatesAndRunCommands) {
-    openAttached(blank(), 8, 256);
-    CommandActions& actions = app_.mainFrame().commandActions();
-    actions.refresh(); // as it happens when the program falls idle
-    actions.action(ID_TOOL_LINE)->trigger();
-    EXPECT_TRUE(actions.action(ID_TOOL_LINE)->isChecked());
-    EXPECT_FALSE(actions.action(ID_TOOL_PEN)->isChecked());
-    actions.action(ID_ZOOM_X3)->trigger();
-    EXPECT_EQ(view().view().zoom(), 3);
-    EXPECT_TRUE(actions.action(ID_ZOOM_X3)->isChecked());
-}
-
 QStringList titlesOf(const QMenuBar& bar) {
     QStringList titles;
     for (const QAction* top : bar.actions())
@@ -119,39 +106,6 @@ TEST_F(MainWindow, EveryCommandStandsInAMenuWithAMnemonicOfItsOwnAndShowsItsProm
     }
 }
 
-TEST_F(MainWindow, BarsAreShownAndHiddenByTheirCommands) {
-    const QMainWindow& frame = app_.mainFrame();
-    const std::pair<CommandId, QWidget*> bars[] = {
-        {ID_VIEW_PALETTEBAR, &app_.mainFrame().palettePanel()},
-        {ID_VIEW_TOOLBAR, frame.findChild<QWidget*>(QStringLiteral("ID_VIEW_TOOLBAR"))},
-        {ID_VIEW_DRAWBAR, frame.findChild<QWidget*>(QStringLiteral("ID_VIEW_DRAWBAR"))},
-        {ID_VIEW_VIEWBAR, frame.findChild<QWidget*>(QStringLiteral("ID_VIEW_VIEWBAR"))},
-        {ID_VIEW_STATUS_BAR, frame.statusBar()},
-    };
-    for (const auto& [id, bar] : bars) {
-        EXPECT_EQ(app_.router().state(id).checked, true) << id;
-        ASSERT_TRUE(run(id));
-        EXPECT_FALSE(bar->isVisible()) << id;
-        EXPECT_EQ(app_.router().state(id).checked, false) << id;
-        ASSERT_TRUE(run(id));
-        EXPECT_TRUE(bar->isVisible()) << id;
-    }
-}
-
-TEST_F(MainWindow, EveryButtonIsACommandWithAnIcon) {
-    const auto inBars = {toolBarItems(), viewBarItems(), drawBarItems()};
-    for (const std::span<const MenuItem> bar : inBars) {
-        for (const MenuItem& item : bar) {
-            if (item.id == 0)
-                continue;
-            const QAction* action = app_.mainFrame().commandActions().action(item.id);
-            ASSERT_NE(action, nullptr) << item.id;
-            EXPECT_FALSE(action->icon().isNull()) << item.id;
-            EXPECT_FALSE(action->toolTip().isEmpty()) << item.id;
-        }
-    }
-}
-
 TEST_F(MainWindow, PanesFollowTheImage) {
     QLabel* position = app_.mainFrame().findChild<QLabel*>(QStringLiteral("ID_INDICATOR_POSITION"));
     QLabel* size = app_.mainFrame().findChild<QLabel*>(QStringLiteral("ID_INDICATOR_SIZE"));
@@ -188,6 +142,11 @@ TEST_F(MainWindow, ThePanelListsPalettesAndChoosesTheCurrentOne) {
     QTest::mouseClick(grid, Qt::LeftButton, {}, grid->cellRect(6).center());
     EXPECT_EQ(app_.paletteBarCell(), 6);
     EXPECT_EQ(entry->text(), QStringLiteral("6  #0001  R0 G0 B0 A1"));
+    QTest::keyClick(grid, Qt::Key_Down);
+    EXPECT_EQ(app_.paletteBarCell(), 10);
+    QTest::keyClick(grid, Qt::Key_Home, Qt::ControlModifier);
+    QTest::keyClick(grid, Qt::Key_Left);
+    EXPECT_EQ(app_.paletteBarCell(), 0);
 }
 
 TEST_F(MainWindow, AttachingAnImageOfSixteenColoursOffersItsBank) {
@@ -200,6 +159,9 @@ TEST_F(MainWindow, AttachingAnImageOfSixteenColoursOffersItsBank) {
     EXPECT_TRUE(bank->isVisible());
     ASSERT_TRUE(bank->setProperty("value", 2));
     EXPECT_EQ(image().paletteValue(), 32);
+    auto* grid = app_.mainFrame().findChild<SwatchGrid*>(QStringLiteral("IDC_PALETTE_GRID"));
+    QTest::mouseClick(grid, Qt::LeftButton, {}, grid->cellRect(5 * 16 + 3).center());
+    EXPECT_EQ(image().paletteValue(), 80) << "a cell of another row selects its bank";
     // A palette that the image is not attached to has no bank of it.
     fake_.files.putFile("c:\\q.tlf", paletteFile(256, [](int) { return 1U; }));
     ASSERT_TRUE(app_.OpenDocumentFile("c:\\q.tlf"));
@@ -207,25 +169,7 @@ TEST_F(MainWindow, AttachingAnImageOfSixteenColoursOffersItsBank) {
     EXPECT_EQ(app_.paletteBarFirstEntry(), 0);
     app_.paletteSet()->setCurrent("c:\\p.tlf");
     app_.refreshPaletteBar();
-    EXPECT_EQ(app_.paletteBarFirstEntry(), 32);
-}
-
-TEST_F(MainWindow, WindowMenuListsTheImagesAndBringsThemToTheFront) {
-    openAttached(blank(), 8, 256);
-    fake_.files.putFile("c:\\a&b.tmf", imageFile(blank(), 4));
-    ASSERT_TRUE(app_.OpenDocumentFile("c:\\a&b.tmf"));
-    QMenu* menu = app_.mainFrame().menuBar()->actions().at(6)->menu();
-    for (int opened = 0; opened < 2; ++opened)
-        Q_EMIT menu->aboutToShow();
-    const QList<QAction*> items = menu->actions();
-    ASSERT_GE(items.size(), 2);
-    QAction* first = items.at(items.size() - 2);
-    QAction* second = items.last();
-    EXPECT_EQ(first->text(), QStringLiteral("&1 pic.tmf [pic]"));
-    EXPECT_EQ(second->text(), QStringLiteral("&2 a&&b.tmf"));
-    EXPECT_TRUE(second->isChecked());
-    first->trigger();
-    EXPECT_EQ(image().pathName(), "c:\\tex\\pic.tmf");
+    EXPECT_EQ(app_.paletteBarFirstEntry(), 80);
 }
 
 TEST_F(MainWindow, PlacesOfBarsSurviveARestart) {

@@ -1,10 +1,7 @@
 #include "Program.h"
-#include "framework/widgets/IntegerField.h"
 #include "ui/CFileNewSheet.h"
-#include "ui/CFileNewTexturePage.h"
 
 #include <QApplication>
-#include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 
@@ -24,29 +21,10 @@ protected:
         edit.selectAll();
         QTest::keyClicks(&edit, QString::fromLatin1(text));
     }
-    std::string sizeText() { return find<QLabel>("IDC_TEXTURE_SIZE").text().toStdString(); }
 
     FakePlatform fake_;
     CFileNewSheet sheet_;
 };
-
-TEST_F(NewSheet, TakesOverSizeAndDepth) {
-    EXPECT_EQ(sizeText(), "2,048 bytes");
-    EXPECT_EQ(sheet_.focusWidget(), &find<QWidget>("IDC_TEXTURE_WIDTH_SPIN"));
-    type("IDC_TEXTURE_WIDTH", "1024");
-    type("IDC_TEXTURE_HEIGHT", "0");
-    find<QRadioButton>("IDC_BITMODE_8BIT").click();
-    EXPECT_EQ(sizeText(), "0 bytes");
-    type("IDC_TEXTURE_HEIGHT", "3");
-    EXPECT_EQ(sizeText(), "3,072 bytes");
-    sheet_.accept();
-    EXPECT_EQ(sheet_.result(), QDialog::Accepted);
-    const CFileNewTexturePage& page = sheet_.texturePage();
-    EXPECT_EQ(page.imageWidth(), 1024);
-    EXPECT_EQ(page.imageHeight(), 3);
-    EXPECT_EQ(page.bitsPerPixel(), 8);
-    EXPECT_TRUE(fake_.messages.shown.empty());
-}
 
 TEST_F(NewSheet, StaysOpenAtTheFieldThatIsOutOfRange) {
     for (const char* text : {"1025", "-1", "", "6x", "99999999999"}) {
@@ -64,20 +42,6 @@ TEST_F(NewSheet, StaysOpenAtTheFieldThatIsOutOfRange) {
     type("IDC_TEXTURE_HEIGHT", "0");
     sheet_.accept();
     EXPECT_FALSE(sheet_.isVisible());
-}
-
-TEST_F(NewSheet, SpinButtonsGoFrom1To1024) {
-    auto& spin = find<IntegerField>("IDC_TEXTURE_WIDTH_SPIN");
-    const struct {
-        const char* from;
-        int steps;
-        const char* to;
-    } cases[] = {{"64", 1, "65"}, {"1024", 1, "1024"}, {"2", -5, "1"}, {"0", -1, "1"}, {"junk", 1, "2"}};
-    for (const auto& c : cases) {
-        type("IDC_TEXTURE_WIDTH", c.from);
-        spin.stepBy(c.steps);
-        EXPECT_EQ(spin.text().toStdString(), c.to) << c.from;
-    }
 }
 
 class NewCommand : public Program {

@@ -10,18 +10,6 @@
 namespace dyeworks {
 namespace {
 
-TEST(PagePlan, SharesContentsOutFromLeftToRightThenDown) {
-    // 300 by 200 dots at 300 to the inch: an inch wide, two thirds high; 96 by 64 pixels.
-    const PagePlan plan({200, 65}, {300, 200}, {96, 300}, {96, 300});
-    ASSERT_EQ(plan.columns(), 3);
-    ASSERT_EQ(plan.rows(), 2);
-    EXPECT_EQ(plan.contentOf(0), (Rect{0, 0, 96, 64}));
-    EXPECT_EQ(plan.contentOf(2), (Rect{192, 0, 200, 64}));
-    EXPECT_EQ(plan.contentOf(5), (Rect{192, 64, 200, 65}));
-    EXPECT_EQ(plan.paperOf(5, {192, 64, 200, 65}), (Rect{0, 0, 25, 3}));
-    EXPECT_EQ(plan.paperOf(1, {96, 10, 192, 20}).top, plan.paperOf(1, {96, 0, 192, 10}).bottom);
-}
-
 TEST(PagePlan, CountsPagesAtTheEdge) {
     const struct {
         Size content;

@@ -3,7 +3,6 @@
 #include "paint/ViewRenderer.h"
 
 #include <QApplication>
-#include <QPaintEvent>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -83,44 +82,6 @@ TEST_F(Rendering, TheBorderOfASelectionMovesUntilItIsCleared) {
     EXPECT_EQ(shown(), expected());
 }
 
-/// Adds up the pixels that a widget is asked to paint.
-class PaintMeter : public QObject {
-public:
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::Paint) {
-            for (const QRect& part : static_cast<QPaintEvent*>(event)->region())
-                pixels += part.width() * part.height();
-        }
-        return false;
-    }
-    int pixels = 0;
-};
-
-TEST_F(Rendering, PanningPaintsNothingButTheExposedStrips) {
-    openAttached(pattern(200, 150), 8, 256);
-    app_.mainFrame().activeChild()->showMaximized();
-    ASSERT_TRUE(run(ID_ZOOM_X16));
-    QWidget* const viewport = view().viewport();
-    QCoreApplication::processEvents();
-    PaintMeter meter;
-    viewport->installEventFilter(&meter);
-    QPoint pointer(400, 350);
-    const auto send = [&](QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons buttons) {
-        QMouseEvent event(type, pointer, viewport->mapToGlobal(pointer), button, buttons, {});
-        QCoreApplication::sendEvent(viewport, &event);
-    };
-    send(QEvent::MouseButtonPress, Qt::MiddleButton, Qt::MiddleButton);
-    for (int step = 0; step < 100; ++step) {
-        pointer -= {3, 2};
-        send(QEvent::MouseMove, Qt::NoButton, Qt::MiddleButton);
-        QCoreApplication::processEvents();
-    }
-    send(QEvent::MouseButtonRelease, Qt::MiddleButton, Qt::NoButton);
-    EXPECT_EQ(static_cast<ScrollView&>(view()).scrollPosition(), QPoint(300, 200));
-    const int strips = 3 * viewport->height() + 2 * viewport->width() - 3 * 2;
-    EXPECT_EQ(meter.pixels, 100 * strips);
-}
-
 TEST_F(Rendering, ReturnsAsItWasLeftWhenTheFileIsOpenedAgain) {
     openAttached(pattern(90, 70), 8, 256);
     ASSERT_TRUE(run(ID_ZOOM_X8));
@@ -147,25 +108,6 @@ TEST_F(Rendering, ReturnsAsItWasLeftWhenTheFileIsOpenedAgain) {
     EXPECT_TRUE(image().IsAttached());
 }
 
-TEST_F(Rendering, AnImageWithoutPaletteSaysSoInTheMiddle) {
-    fake_.files.putFile("c:\\a.tmf", imageFile(pattern(120, 80), 8));
-    ASSERT_TRUE(app_.OpenDocumentFile("c:\\a.tmf"));
-    app_.mainFrame().activeChild()->resize(300, 250);
-    const QImage picture = shown();
-    const QRgb face = view().palette().color(QPalette::Button).rgb();
-    QRect ink;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixel(x, y) != face)
-                ink |= QRect(x, y, 1, 1);
-        }
-    }
-    ASSERT_FALSE(ink.isEmpty());
-    EXPECT_GE(ink.top(), picture.height() / 2);
-    EXPECT_LT(ink.bottom(), picture.height() / 2 + view().fontMetrics().height());
-    EXPECT_NEAR(ink.center().x(), picture.width() / 2, 2);
-}
-
 TEST_F(Rendering, CtrlAndWheelZoomAroundThePointerAndWheelScrolls) {
     openAttached(pattern(200, 150), 8, 256);
     // A frame that follows the zoom would leave nothing to scroll.
@@ -183,15 +125,6 @@ TEST_F(Rendering, CtrlAndWheelZoomAroundThePointerAndWheelScrolls) {
     EXPECT_EQ(view().view().zoom(), 6);
     const QPoint content = scroll.toContent(pointer);
     EXPECT_EQ((Point{content.x() / 6, content.y() / 6}), texel);
-
-    // A touchpad that tells pixels alone: as many as a notch scrolls by are a step.
-    const int notch = QApplication::wheelScrollLines() * scroll.verticalScrollBar()->singleStep();
-    for (int moved = 0; moved < notch; ++moved) {
-        EXPECT_EQ(view().view().zoom(), 6);
-        wheel(0, Qt::ControlModifier, pointer, 1);
-    }
-    EXPECT_EQ(view().view().zoom(), 8);
-    wheel(0, Qt::ControlModifier, pointer, -notch);
 
     const QPoint before = scroll.scrollPosition();
     wheel(-120, {}, pointer);

@@ -9,7 +9,8 @@
  *
  * The four numbers are the parts of the file version, each from 0 to 65535. A string belongs to a language
  * block: eight upper-case hexadecimal digits, language and code page. "040904E4" is English, "041104B0"
- * Japanese. The program looks for "ProductName", "InternalName", "CompanyName" and "Comments"; all texts are UTF-8.
+ * Japanese. The program looks for "ProductName", "InternalName", "CompanyName" and "Comments"; all texts are
+ * UTF-8.
  * At least one string is needed.
  */
 #ifndef DYEWORKS_VERSION_INFO_H

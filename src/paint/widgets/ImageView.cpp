@@ -175,7 +175,9 @@ Point ImageView::pointerPosition() const {
 }
 
 bool ImageView::shiftHeld() const {
-    return QApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
+    // Where "+" is typed with Shift, Ctrl and "+" is the shortcut and not a wish of its own.
+    const Qt::KeyboardModifiers held = QApplication::keyboardModifiers();
+    return held.testFlag(Qt::ShiftModifier) && !held.testFlag(Qt::ControlModifier);
 }
 
 void ImageView::paintEvent(QPaintEvent* event) {
@@ -197,8 +199,17 @@ void ImageView::paintEvent(QPaintEvent* event) {
 
 void ImageView::paintPart(QPainter& painter, const QRect& part, std::uint32_t redrawRequest) const {
     QImage picture(part.size(), QImage::Format_RGB32);
-    if (picture.isNull())
+    if (picture.isNull()) {
+        // No memory for so large a piece; smaller ones may do.
+        const int half = part.height() / 2;
+        if (half == 0) {
+            painter.fillRect(part, palette().color(QPalette::Button));
+            return;
+        }
+        paintPart(painter, part.adjusted(0, 0, 0, half - part.height()), redrawRequest);
+        paintPart(painter, part.adjusted(0, half, 0, 0), redrawRequest);
         return;
+    }
     const QPoint origin = toContent(part.topLeft());
     Surface surface;
     surface.pixels = reinterpret_cast<std::uint32_t*>(picture.bits());
@@ -215,6 +226,11 @@ void ImageView::paintPart(QPainter& painter, const QRect& part, std::uint32_t re
 }
 
 void ImageView::scrollContentsBy(int dx, int dy) {
+    if (view_.showsNoPalette()) {
+        // The words stay where they are in the window.
+        viewport()->update();
+        return;
+    }
     stale_.translate(dx, dy);
     ScrollView::scrollContentsBy(dx, dy);
 }

@@ -56,18 +56,5 @@ TEST_F(PosixLibraryTest, ReadsWhatALibrarySaysOfItself) {
     EXPECT_EQ(record->strings, strings);
 }
 
-TEST_F(PosixLibraryTest, TakesNothingFromLibrariesThatAnotherNeeds) {
-    const std::unique_ptr<LoadedLibrary> dependent = library.load(built("dyeworks_test_library_dependent"));
-    ASSERT_TRUE(dependent);
-    EXPECT_NE(dependent->find("dependentAnswer"), nullptr);
-    EXPECT_EQ(dependent->find("DWPI_isAvail"), nullptr);
-    EXPECT_FALSE(versions.read(built("dyeworks_test_library_dependent")));
-}
-
-TEST_F(PosixLibraryTest, RefusesAnotherObjectUnderTheNameOfTheRecord) {
-    ASSERT_TRUE(library.load(built("dyeworks_test_library_malformed")));
-    EXPECT_FALSE(versions.read(built("dyeworks_test_library_malformed")));
-}
-
 } // namespace
 } // namespace dyeworks
