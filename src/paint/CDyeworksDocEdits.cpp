@@ -3,19 +3,7 @@
 #include "paint/CanvasDifference.h"
 #include "platform/Platform.h"
 
-#include <algorithm>
-
 namespace dyeworks {
-
-namespace {
-
-/// Of inclusive rectangles; inverted when they have nothing in common.
-Rect overlap(const Rect& a, const Rect& b) {
-    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
-            std::min(a.bottom, b.bottom)};
-}
-
-} // namespace
 
 template <typename Draw>
 void CDyeworksDoc::edit(CDyeworksView* view, Draw draw) {
@@ -119,7 +107,7 @@ bool CDyeworksDoc::RecordUndoStep(const std::optional<Rect>& rectangle) {
     Rect written;
     if (!canvas_.GetWrittenRect(written))
         return false;
-    const std::optional<Rect> differing = differingRect(*snapshot_, canvas_, overlap(changed, written));
+    const std::optional<Rect> differing = differingRect(*snapshot_, canvas_, intersection(changed, written));
     if (!differing)
         return false;
     historyMoved_ = true;

@@ -20,6 +20,13 @@ struct Rect {
     }
 };
 
+/// What two rectangles of the same kind, inclusive or exclusive, have in common; inverted, or empty, when
+/// that is nothing.
+[[nodiscard]] inline Rect intersection(const Rect& a, const Rect& b) {
+    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
+            std::min(a.bottom, b.bottom)};
+}
+
 struct Point {
     std::int32_t x = 0;
     std::int32_t y = 0;

@@ -14,11 +14,6 @@ namespace dyeworks {
     return area.left >= area.right || area.top >= area.bottom;
 }
 
-[[nodiscard]] inline Rect intersection(const Rect& a, const Rect& b) {
-    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
-            std::min(a.bottom, b.bottom)};
-}
-
 [[nodiscard]] inline Rect grown(const Rect& area, std::int32_t by) {
     return {area.left - by, area.top - by, area.right + by, area.bottom + by};
 }
