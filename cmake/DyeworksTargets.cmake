@@ -49,6 +49,39 @@ function(dyeworks_library target)
   add_dependencies(${target} dyeworks_check_layers)
 endfunction()
 
+# dyeworks_control(<name>): the companion control <name>.ocx, a library of its own in the program's folder, from
+# src/ui/controls/<name in small letters>/. It shares no code with the program and exports its two entry points only.
+function(dyeworks_control name)
+  string(TOLOWER ${name} folder)
+  set(target dyeworks_control_${folder})
+  file(GLOB sources CONFIGURE_DEPENDS
+    "${PROJECT_SOURCE_DIR}/src/ui/controls/${folder}/*.cpp" "${PROJECT_SOURCE_DIR}/src/ui/controls/${folder}/*.h")
+  set(exports "${PROJECT_SOURCE_DIR}/src/ui/controls/dispatch/exports.map")
+  add_library(${target} MODULE ${sources})
+  target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/src")
+  target_link_libraries(${target} PRIVATE Qt6::Widgets)
+  target_link_options(${target} PRIVATE "LINKER:--version-script=${exports}")
+  dyeworks_target_settings(${target})
+  set_target_properties(${target} PROPERTIES
+    AUTOMOC ON
+    PREFIX ""
+    OUTPUT_NAME ${name}
+    SUFFIX .ocx
+    LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/src"
+    LINK_DEPENDS "${exports}")
+  target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+  add_dependencies(${target} dyeworks_check_layers)
+endfunction()
+
+# dyeworks_use_controls(<target>): builds the companion controls with <target>, a test; DYEWORKS_CONTROL_FOLDER says
+# where they are.
+function(dyeworks_use_controls target)
+  add_dependencies(${target}
+    dyeworks_control_swatchgrid dyeworks_control_rampslider dyeworks_control_folderpick)
+  target_compile_definitions(${target} PRIVATE
+    DYEWORKS_CONTROL_FOLDER="$<TARGET_FILE_DIR:dyeworks_control_swatchgrid>")
+endfunction()
+
 # dyeworks_test(<name> LINK <libraries>...): tests/<name>/*.cpp as one program, each case a test of its own.
 function(dyeworks_test name)
   cmake_parse_arguments(arg "QT" "" "LINK" ${ARGN})

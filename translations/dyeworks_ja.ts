@@ -114,18 +114,10 @@ Toggle Grid</source>
 グリッドの切り替え</translation>
     </message>
     <message>
-        <source>C&amp;lose Palette</source>
-        <translation>パレットを閉じる(&amp;L)</translation>
-    </message>
-    <message>
         <source>Close the active palette
 Close Palette</source>
         <translation>現在のパレットを閉じます
 パレットを閉じる</translation>
-    </message>
-    <message>
-        <source>Sa&amp;ve Palette</source>
-        <translation>パレットを保存(&amp;V)</translation>
     </message>
     <message>
         <source>Save the active palette
@@ -134,18 +126,10 @@ Save Palette</source>
 パレットを保存</translation>
     </message>
     <message>
-        <source>Save Palet&amp;te As...</source>
-        <translation>名前を付けてパレットを保存(&amp;T)...</translation>
-    </message>
-    <message>
         <source>Save the active palette with a new name
 Save Palette As</source>
         <translation>現在のパレットに新しい名前を付けて保存します
 名前を付けてパレットを保存</translation>
-    </message>
-    <message>
-        <source>Open &amp;Palette...</source>
-        <translation>パレットを開く(&amp;P)...</translation>
     </message>
     <message>
         <source>Open an existing palette
@@ -531,6 +515,309 @@ Toggle View Bar</source>
         <translation>表示バーの表示と非表示を切り替えます。
 表示バーの表示切り替え</translation>
     </message>
+    <message>
+        <source>P&amp;roject Bar</source>
+        <translation>プロジェクト バー(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Show or hide the project bar.
+Toggle Project Bar</source>
+        <translation>プロジェクト バーの表示と非表示を切り替えます。
+プロジェクト バーの表示切り替え</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>選択(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Select Editable Rectangle
+Select</source>
+        <translation>編集する四角い範囲を選択します
+選択</translation>
+    </message>
+    <message>
+        <source>S&amp;upit</source>
+        <translation>スポイト(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Spuit color
+Spuit</source>
+        <translation>色を吸い取ります
+スポイト</translation>
+    </message>
+    <message>
+        <source>Flip &amp;X</source>
+        <translation>左右反転(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Flip X
+Flip X</source>
+        <translation>選択範囲を左右に反転します
+左右反転</translation>
+    </message>
+    <message>
+        <source>Flip &amp;Y</source>
+        <translation>上下反転(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Flip Y
+Flip Y</source>
+        <translation>選択範囲を上下に反転します
+上下反転</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>追加(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>Add picture to current project.</source>
+        <translation>現在のプロジェクトにピクチャーを追加します。</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>削除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Remove picture</source>
+        <translation>ピクチャーを削除します</translation>
+    </message>
+    <message>
+        <source>&amp;Change...</source>
+        <translation>変更(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Change picture configuration.</source>
+        <translation>ピクチャーの設定を変更します。</translation>
+    </message>
+    <message>
+        <source>Close the project</source>
+        <translation>プロジェクトを閉じます</translation>
+    </message>
+    <message>
+        <source>Save the project</source>
+        <translation>プロジェクトを保存します</translation>
+    </message>
+    <message>
+        <source>Save the project with a new name</source>
+        <translation>プロジェクトに新しい名前を付けて保存します</translation>
+    </message>
+    <message>
+        <source>&amp;Property...</source>
+        <translation>プロパティ(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Edit Project properties.</source>
+        <translation>プロジェクトのプロパティを編集します。</translation>
+    </message>
+    <message>
+        <source>&amp;Edit...</source>
+        <translation>編集(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Edit the current palette entry
+Edit Entry</source>
+        <translation>現在のパレット エントリーを編集します
+エントリーの編集</translation>
+    </message>
+    <message>
+        <source>New Project file.</source>
+        <translation>新しいプロジェクト ファイルを作成します。</translation>
+    </message>
+    <message>
+        <source>Open Project file.</source>
+        <translation>プロジェクト ファイルを開きます。</translation>
+    </message>
+    <message>
+        <source>Create a new palette
+New Palette</source>
+        <translation>新しいパレットを作成します
+パレットの新規作成</translation>
+    </message>
+    <message>
+        <source>Recent Project Files</source>
+        <translation>最近使ったプロジェクト</translation>
+    </message>
+    <message>
+        <source>Open this project</source>
+        <translation>このプロジェクトを開きます</translation>
+    </message>
+    <message>
+        <source>Recent Palette Files</source>
+        <translation>最近使ったパレット</translation>
+    </message>
+    <message>
+        <source>Open this palette</source>
+        <translation>このパレットを開きます</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom Lens</source>
+        <translation>虫めがね(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Zoom In/Out on cursor position
+Zoom Lens</source>
+        <translation>カーソルの位置を拡大または縮小します
+虫めがね</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>コピー(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Copy the selected palette entries
+Copy Entries</source>
+        <translation>選択したパレット エントリーをコピーします
+エントリーのコピー</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Paste the copied palette entries
+Paste Entries</source>
+        <translation>コピーしたパレット エントリーを貼り付けます
+エントリーの貼り付け</translation>
+    </message>
+    <message>
+        <source>Undo the last change of the palette
+Undo Palette</source>
+        <translation>パレットの直前の変更を元に戻します
+パレットを元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo the previously undone change of the palette
+Redo Palette</source>
+        <translation>元に戻したパレットの変更をやり直します
+パレットのやり直し</translation>
+    </message>
+    <message>
+        <source>Add to node.</source>
+        <translation>ノードに追加します。</translation>
+    </message>
+    <message>
+        <source>Edit node</source>
+        <translation>ノードを編集します</translation>
+    </message>
+    <message>
+        <source>Remove node</source>
+        <translation>ノードを削除します</translation>
+    </message>
+    <message>
+        <source>Edit node property</source>
+        <translation>ノードのプロパティを編集します</translation>
+    </message>
+    <message>
+        <source>&amp;Replacer</source>
+        <translation>色の置き換え(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Replace pixel from selected color in the selection.
+Replacer</source>
+        <translation>選択範囲の中でクリックした色のドットを置き換えます。
+色の置き換え</translation>
+    </message>
+    <message>
+        <source>Cancel S&amp;election</source>
+        <translation>選択の解除(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Cancel selection
+Cancel Selection</source>
+        <translation>選択を解除します
+選択の解除</translation>
+    </message>
+    <message>
+        <source>Recent Image Files</source>
+        <translation>最近使った画像</translation>
+    </message>
+    <message>
+        <source>Open this image</source>
+        <translation>この画像を開きます</translation>
+    </message>
+    <message>
+        <source>&amp;Options...</source>
+        <translation>オプション(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Change the settings of the program
+Options</source>
+        <translation>プログラムの設定を変更します
+オプション</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy the selection and put it on the Clipboard
+Copy</source>
+        <translation>選択範囲をコピーしてクリップボードに入れます
+コピー</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Cut the selection and put it on the Clipboard
+Cut</source>
+        <translation>選択範囲を切り取ってクリップボードに入れます
+切り取り</translation>
+    </message>
+    <message>
+        <source>Insert Clipboard contents
+Paste</source>
+        <translation>クリップボードの内容を貼り付けます
+貼り付け</translation>
+    </message>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>すべて選択(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Select the entire document
+Select All</source>
+        <translation>画像全体を選択します
+すべて選択</translation>
+    </message>
+    <message>
+        <source>&amp;Help Topics</source>
+        <translation>トピックの検索(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Open the pages of the user guide
+Help Topics</source>
+        <translation>ユーザー ガイドを開きます
+ヘルプ トピック</translation>
+    </message>
+    <message>
+        <source>&amp;What&apos;s This?</source>
+        <translation>ポップ ヒント(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Explain the next thing that is clicked: a button, a menu, a window
+What&apos;s This?</source>
+        <translation>次にクリックするボタン、メニュー、ウィンドウを説明します
+ポップ ヒント</translation>
+    </message>
+    <message>
+        <source>Help on Current &amp;Item</source>
+        <translation>現在の項目のヘルプ(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Explain the control that has the keyboard focus
+Help</source>
+        <translation>キーボード フォーカスのある項目を説明します
+ヘルプ</translation>
+    </message>
+</context>
+<context>
+    <name>FolderPick</name>
+    <message>
+        <source>Choose Folder</source>
+        <translation>フォルダーの選択</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -581,6 +868,34 @@ Toggle View Bar</source>
     <message>
         <source>&amp;Bars</source>
         <translation>バー(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Recent Pro&amp;ject Files</source>
+        <translation>最近使ったプロジェクト(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Recent I&amp;mage Files</source>
+        <translation>最近使った画像(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Recent Pa&amp;lette Files</source>
+        <translation>最近使ったパレット(&amp;L)</translation>
+    </message>
+    <message>
+        <source>P&amp;icture</source>
+        <translation>ピクチャー(&amp;I)</translation>
+    </message>
+    <message>
+        <source>No&amp;de</source>
+        <translation>ノード(&amp;D)</translation>
+    </message>
+    <message>
+        <source>P&amp;roject</source>
+        <translation>プロジェクト(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Entries</source>
+        <translation>エントリー(&amp;E)</translation>
     </message>
 </context>
 <context>
@@ -743,10 +1058,6 @@ Do you want to replace it?</source>
         <translation>ゲーム機用パレットテクスチャの編集ソフト</translation>
     </message>
     <message>
-        <source>Enter an integer between %1 and %2.</source>
-        <translation>%1 から %2 までの整数を入力してください。</translation>
-    </message>
-    <message>
         <source>New</source>
         <translation>新規作成</translation>
     </message>
@@ -755,28 +1066,12 @@ Do you want to replace it?</source>
         <translation>テクスチャ</translation>
     </message>
     <message>
-        <source>&amp;Width:</source>
-        <translation>幅(&amp;W):</translation>
-    </message>
-    <message>
-        <source>&amp;Height:</source>
-        <translation>高さ(&amp;H):</translation>
-    </message>
-    <message>
-        <source>Bit mode:</source>
-        <translation>ビット モード:</translation>
-    </message>
-    <message>
         <source>&amp;4bit (16colors)</source>
         <translation>&amp;4bit (16色)</translation>
     </message>
     <message>
         <source>&amp;8bit (256colors)</source>
         <translation>&amp;8bit (256色)</translation>
-    </message>
-    <message>
-        <source>Size:</source>
-        <translation>サイズ:</translation>
     </message>
     <message>
         <source>%1 bytes</source>
@@ -823,6 +1118,328 @@ The changes to &quot;%1&quot; will be lost.</source>
     <message>
         <source>&quot;%1&quot; is open in another window.</source>
         <translation>「%1」は別のウィンドウで開かれています。</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>プロジェクト</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>追加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>変更(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>削除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Pictures of the project</source>
+        <translation>プロジェクトのピクチャ</translation>
+    </message>
+    <message>
+        <source>Open the chosen picture</source>
+        <translation>選択したピクチャを開く</translation>
+    </message>
+    <message>
+        <source>Buttons for documents, undo and redo, the clipboard, printing and help. Drag the handle to move the bar to another side of the window.</source>
+        <translation>ドキュメント、元に戻すとやり直し、クリップボード、印刷、ヘルプのボタンです。ハンドルをドラッグすると、バーをウィンドウの別の側へ移動できます。</translation>
+    </message>
+    <message>
+        <source>Buttons for the palette bar, the grid and the previews. Drag the handle to move the bar to another side of the window.</source>
+        <translation>パレット バー、グリッド、プレビューのボタンです。ハンドルをドラッグすると、バーをウィンドウの別の側へ移動できます。</translation>
+    </message>
+    <message>
+        <source>The drawing tools. The chosen one draws with the colour that is selected in the palette bar. Drag the handle to move the bar to another side of the window.</source>
+        <translation>描画ツールです。選択したツールは、パレット バーで選択した色で描画します。ハンドルをドラッグすると、バーをウィンドウの別の側へ移動できます。</translation>
+    </message>
+    <message>
+        <source>The pictures of the open project. Choose one in the list; the button on the right opens it, the others change the list.</source>
+        <translation>開いているプロジェクトのピクチャです。一覧から選択し、右のボタンで開きます。ほかのボタンは一覧を変更します。</translation>
+    </message>
+    <message>
+        <source>The open palettes and the colours of the current one. Click the colour to draw with.</source>
+        <translation>開いているパレットと、現在のパレットの色です。描画に使う色をクリックします。</translation>
+    </message>
+    <message>
+        <source>What the command under the pointer does.</source>
+        <translation>ポインターの下にあるコマンドの説明です。</translation>
+    </message>
+    <message>
+        <source>The texel under the pointer, counted from the top left corner, and the zoom.</source>
+        <translation>ポインターの下にあるテクセルの位置 (左上から数えます) と表示倍率です。</translation>
+    </message>
+    <message>
+        <source>Width, height and depth of the active image.</source>
+        <translation>アクティブな画像の幅、高さ、ビット数です。</translation>
+    </message>
+    <message>
+        <source>The windows of the open documents. Files that are dropped here are opened.</source>
+        <translation>開いているドキュメントのウィンドウです。ここにドロップしたファイルが開きます。</translation>
+    </message>
+    <message>
+        <source>The image. The chosen tool draws where you press and drag; the wheel with Ctrl changes the zoom.</source>
+        <translation>画像です。選択したツールで、押したりドラッグしたりした所に描画します。Ctrl を押しながらホイールを回すと表示倍率が変わります。</translation>
+    </message>
+    <message>
+        <source>OLE initialization failed.  Make sure that the OLE libraries are the correct version.</source>
+        <translation>OLE の初期化に失敗しました。OLE のライブラリが正しいバージョンか確認してください。</translation>
+    </message>
+    <message>
+        <source>Some documents failed to resume.</source>
+        <translation>一部のドキュメントを開き直せませんでした。</translation>
+    </message>
+    <message>
+        <source>can not open help. Please, check exist help file, and check browser installed.</source>
+        <translation>ヘルプを開けません。ヘルプファイルがあるか、ブラウザーがインストールされているか確認してください。</translation>
+    </message>
+    <message>
+        <source>RGBA Palette</source>
+        <translation>RGBAパレット</translation>
+    </message>
+    <message>
+        <source>IA Palette</source>
+        <translation>IAパレット</translation>
+    </message>
+    <message>
+        <source>&amp;R</source>
+        <translation>&amp;R</translation>
+    </message>
+    <message>
+        <source>&amp;G</source>
+        <translation>&amp;G</translation>
+    </message>
+    <message>
+        <source>&amp;B</source>
+        <translation>&amp;B</translation>
+    </message>
+    <message>
+        <source>&amp;A</source>
+        <translation>&amp;A</translation>
+    </message>
+    <message>
+        <source>&amp;I</source>
+        <translation>&amp;I</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>赤</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>緑</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>青</translation>
+    </message>
+    <message>
+        <source>Alpha</source>
+        <translation>アルファ</translation>
+    </message>
+    <message>
+        <source>Intensity</source>
+        <translation>輝度</translation>
+    </message>
+    <message>
+        <source>%1, 0 to %2</source>
+        <translation>%1(0～%2)</translation>
+    </message>
+    <message>
+        <source>%1 in hexadecimal</source>
+        <translation>%1の16進数表示</translation>
+    </message>
+    <message>
+        <source>Colour of the entry</source>
+        <translation>エントリの色</translation>
+    </message>
+    <message>
+        <source>Take this colour as the left end of the gradient</source>
+        <translation>この色をグラデーションの左端にします</translation>
+    </message>
+    <message>
+        <source>Take this colour as the right end of the gradient</source>
+        <translation>この色をグラデーションの右端にします</translation>
+    </message>
+    <message>
+        <source>Gradient step %1</source>
+        <translation>グラデーションの%1段目</translation>
+    </message>
+    <message>
+        <source>Palette is not open yet.</source>
+        <translation>パレットはまだ開かれていません。</translation>
+    </message>
+    <message>
+        <source>Please enter an integer between %1 and %2.</source>
+        <translation>%1 から %2 までの整数を入力してください。</translation>
+    </message>
+    <message>
+        <source>&amp;Width</source>
+        <translation>幅(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Height</source>
+        <translation>高さ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Bit mode</source>
+        <translation>ビットモード</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>TPF &amp;Name</source>
+        <translation>TPF 名(&amp;N)</translation>
+    </message>
+    <message>
+        <source>TPF &amp;Dir</source>
+        <translation>TPF フォルダー(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;TMF Dir</source>
+        <translation>TMF フォルダー(&amp;T)</translation>
+    </message>
+    <message>
+        <source>T&amp;LF Dir</source>
+        <translation>TLF フォルダー(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Name of the project, and of its file</source>
+        <translation>プロジェクトとそのファイルの名前</translation>
+    </message>
+    <message>
+        <source>Folder that the project&apos;s file is in</source>
+        <translation>プロジェクトファイルを置くフォルダー</translation>
+    </message>
+    <message>
+        <source>Folder of the images; the project&apos;s own when nothing is entered</source>
+        <translation>画像のフォルダー (空欄ならプロジェクトのフォルダー)</translation>
+    </message>
+    <message>
+        <source>Folder of the palettes; the project&apos;s own when nothing is entered</source>
+        <translation>パレットのフォルダー (空欄ならプロジェクトのフォルダー)</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the project</source>
+        <translation>プロジェクトのフォルダーを選びます</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the images</source>
+        <translation>画像のフォルダーを選びます</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the palettes</source>
+        <translation>パレットのフォルダーを選びます</translation>
+    </message>
+    <message>
+        <source>Folders can only be typed, because FolderPick.ocx is not found</source>
+        <translation>FolderPick.ocx が見つからないため、フォルダーは文字でしか入力できません</translation>
+    </message>
+    <message>
+        <source>Project Property</source>
+        <translation>プロジェクトのプロパティ</translation>
+    </message>
+    <message>
+        <source>&amp;8bit (256Colors)</source>
+        <translation>&amp;8bit (256色)</translation>
+    </message>
+    <message>
+        <source>A palette of 16 entries</source>
+        <translation>16 色のパレット</translation>
+    </message>
+    <message>
+        <source>A palette of 256 entries</source>
+        <translation>256 色のパレット</translation>
+    </message>
+    <message>
+        <source>Colour type</source>
+        <translation>カラータイプ</translation>
+    </message>
+    <message>
+        <source>16bit &amp;RGBA</source>
+        <translation>16bit &amp;RGBA</translation>
+    </message>
+    <message>
+        <source>16bit &amp;IA</source>
+        <translation>16bit &amp;IA</translation>
+    </message>
+    <message>
+        <source>Red, green and blue of 5 bits each, alpha of 1 bit</source>
+        <translation>赤・緑・青が各 5 ビット、アルファが 1 ビット</translation>
+    </message>
+    <message>
+        <source>Intensity and alpha of 8 bits each</source>
+        <translation>輝度とアルファが各 8 ビット</translation>
+    </message>
+    <message>
+        <source>Default &amp;Alpha</source>
+        <translation>アルファの初期値(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Alpha that all entries begin with, 0 to %1</source>
+        <translation>すべての色のアルファの初期値 (0 から %1)</translation>
+    </message>
+    <message>
+        <source>Size of the palette&apos;s file</source>
+        <translation>パレットファイルの大きさ</translation>
+    </message>
+    <message>
+        <source>Options Setting Dialog</source>
+        <translation>オプションの設定</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>&amp;When TMF was created, ask about using the project.</source>
+        <translation>TMF を作成したとき、プロジェクトを使うかどうかを確認する(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Whether a new image brings the question about using a project, while none is open</source>
+        <translation>プロジェクトが開いていないとき、新しい画像を作るとプロジェクトを使うかどうかを尋ねます</translation>
+    </message>
+    <message>
+        <source>Do you use project?</source>
+        <translation>プロジェクトを使いますか?</translation>
+    </message>
+    <message>
+        <source>You can add the pair of TMF(Image)+TLF(Palette) as picture to the project.
+Do you use project?</source>
+        <translation>TMF (画像) と TLF (パレット) の組を、ピクチャーとしてプロジェクトに追加できます。
+プロジェクトを使いますか?</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>新規(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>No&amp;tify next time</source>
+        <translation>次回も確認する(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Make a new project</source>
+        <translation>新しいプロジェクトを作ります</translation>
+    </message>
+    <message>
+        <source>Open a project from its file</source>
+        <translation>プロジェクトファイルを開きます</translation>
+    </message>
+    <message>
+        <source>Go on without a project</source>
+        <translation>プロジェクトを使わずに続けます</translation>
+    </message>
+    <message>
+        <source>Ask again when the next image has been made</source>
+        <translation>次に画像を作ったときも確認します</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "framework/CDocument.h"
 
+#include "framework/DocumentTemplate.h"
 #include "framework/PathText.h"
 #include "platform/Platform.h"
 
@@ -26,6 +27,8 @@ void CDocument::setPathName(const std::string& path) {
     pathName_ = platform().files().fullPath(path);
     title_ = fileNameOf(pathName_);
     tellRenamed();
+    if (template_ != nullptr)
+        template_->pathNamed(pathName_);
 }
 
 std::string CDocument::displayName() const {

@@ -18,6 +18,10 @@ inline constexpr CommandId ID_FILE_PRINT_SETUP = 57606;
 inline constexpr CommandId ID_FILE_PRINT = 57607;
 inline constexpr CommandId ID_FILE_PRINT_DIRECT = 57608;
 inline constexpr CommandId ID_FILE_PRINT_PREVIEW = 57609;
+inline constexpr CommandId ID_EDIT_COPY = 57634;
+inline constexpr CommandId ID_EDIT_CUT = 57635;
+inline constexpr CommandId ID_EDIT_PASTE = 57637;
+inline constexpr CommandId ID_EDIT_SELECT_ALL = 57642;
 inline constexpr CommandId ID_EDIT_UNDO = 57643;
 inline constexpr CommandId ID_EDIT_REDO = 57644;
 inline constexpr CommandId ID_WINDOW_NEW = 57648;
@@ -27,9 +31,14 @@ inline constexpr CommandId ID_WINDOW_TILE_HORZ = 57651;
 inline constexpr CommandId ID_WINDOW_TILE_VERT = 57652;
 inline constexpr CommandId ID_APP_ABOUT = 57664;
 inline constexpr CommandId ID_APP_EXIT = 57665;
+inline constexpr CommandId ID_HELP_INDEX = 57667;
+inline constexpr CommandId ID_CONTEXT_HELP = 57669;
+inline constexpr CommandId ID_HELP = 57670;
+inline constexpr CommandId ID_DEFAULT_HELP = 57671;
 
 // The bars: the number of each is the command that shows and hides it.
 inline constexpr CommandId ID_VIEW_PALETTEBAR = 103;
+inline constexpr CommandId ID_VIEW_PROJECTBAR = 106;
 inline constexpr CommandId ID_VIEW_TOOLBAR = 59392;
 inline constexpr CommandId ID_VIEW_STATUS_BAR = 59393;
 inline constexpr CommandId ID_VIEW_DRAWBAR = 59396;
@@ -45,13 +54,36 @@ inline constexpr CommandId ID_ZOOM_IN = 32777;
 inline constexpr CommandId ID_ZOOM_OUT = 32778;
 inline constexpr CommandId ID_TOOL_PEN = 32780;
 inline constexpr CommandId ID_TOOL_LINE = 32781;
+inline constexpr CommandId ID_TOOL_SELECT = 32782;
 inline constexpr CommandId ID_VIEW_GRID = 32793;
+inline constexpr CommandId ID_TOOL_SPUIT = 32794;
+inline constexpr CommandId ID_FLIP_X = 32795;
+inline constexpr CommandId ID_FLIP_Y = 32796;
 inline constexpr CommandId ID_PREVIEW1 = 32799;
 inline constexpr CommandId ID_PREVIEW2 = 32800;
+inline constexpr CommandId ID_PICTURE_ADD = 32807;
+inline constexpr CommandId ID_PICTURE_REMOVE = 32808;
+inline constexpr CommandId ID_PICTURE_CHANGE = 32809;
+inline constexpr CommandId ID_PROJECT_CLOSE = 32812;
+inline constexpr CommandId ID_PROJECT_SAVE = 32813;
+inline constexpr CommandId ID_PROJECT_SAVE_AS = 32814;
+inline constexpr CommandId ID_PROJECT_PROPERTY = 32815;
 inline constexpr CommandId ID_PALETTE_CLOSE = 32816;
 inline constexpr CommandId ID_PALETTE_SAVE = 32817;
 inline constexpr CommandId ID_PALETTE_SAVE_AS = 32818;
+inline constexpr CommandId ID_PALETTE_EDIT = 32819;
+inline constexpr CommandId ID_PROJECT_NEW = 32821;
+inline constexpr CommandId ID_PROJECT_OPEN = 32822;
+inline constexpr CommandId ID_PALETTE_NEW = 32823;
 inline constexpr CommandId ID_PALETTE_OPEN = 32824;
+
+// The recent files: entry n of a list is the list's first command + n.
+inline constexpr CommandId ID_RECENT_PROJECT_FIRST = 32825;
+inline constexpr CommandId ID_RECENT_PROJECT_LAST = 32840;
+inline constexpr CommandId ID_RECENT_PALETTE_FIRST = 32841;
+inline constexpr CommandId ID_RECENT_PALETTE_LAST = 32856;
+inline constexpr CommandId ID_RECENT_IMAGE_FIRST = 32985;
+inline constexpr CommandId ID_RECENT_IMAGE_LAST = 33000;
 
 /// Plug-in number n of the import (export) list is command ID_IMPORT_FIRST + n (ID_EXPORT_FIRST + n).
 inline constexpr CommandId ID_IMPORT_FIRST = 32857;
@@ -72,7 +104,19 @@ inline constexpr CommandId ID_ZOOM_X6 = 32906;
 inline constexpr CommandId ID_ZOOM_X8 = 32908;
 inline constexpr CommandId ID_ZOOM_X12 = 32912;
 inline constexpr CommandId ID_ZOOM_X16 = 32916;
+inline constexpr CommandId ID_TOOL_ZOOM_LENS = 32935;
+inline constexpr CommandId ID_PALETTE_COPY = 32936;
+inline constexpr CommandId ID_PALETTE_PASTE = 32937;
+inline constexpr CommandId ID_PALETTE_UNDO = 32942;
+inline constexpr CommandId ID_PALETTE_REDO = 32943;
 inline constexpr CommandId ID_IMAGE_ADD_TO_PROJECT = 32944;
+inline constexpr CommandId ID_NODE_ADD = 32962;
+inline constexpr CommandId ID_NODE_EDIT = 32963;
+inline constexpr CommandId ID_NODE_REMOVE = 32964;
+inline constexpr CommandId ID_NODE_PROPERTY = 32965;
+inline constexpr CommandId ID_TOOL_REPLACER = 32978;
+inline constexpr CommandId ID_CANCEL_SELECTION = 32981;
+inline constexpr CommandId ID_OPTIONS = 33002;
 
 inline constexpr CommandId ID_FILE_REVERT = 33100;
 // NOLINTEND(readability-identifier-naming)

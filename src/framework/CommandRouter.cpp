@@ -1,5 +1,7 @@
 #include "framework/CommandRouter.h"
 
+#include "framework/CommandTable.h"
+
 namespace dyeworks {
 
 namespace {
@@ -15,7 +17,13 @@ CommandTarget* takerOf(CommandId id, const std::vector<CommandTarget*>& chain) {
 CommandUi stateIn(CommandTarget* taker, CommandId id) {
     CommandUi ui;
     ui.id = id;
-    ui.enabled = taker != nullptr && taker->updateCommand(ui) && ui.enabled;
+    if (taker != nullptr) {
+        ui.enabled = taker->updateCommand(ui) && ui.enabled;
+        return ui;
+    }
+    const CommandRow* row = findCommand(id);
+    ui.enabled = false;
+    ui.visible = row == nullptr || row->id == id;
     return ui;
 }
 

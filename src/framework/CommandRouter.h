@@ -21,7 +21,8 @@ public:
     /// Runs the command if a target takes it and it is enabled, then tells `afterCommand`. False otherwise.
     bool run(CommandId id);
 
-    /// The command's present state; disabled when nobody takes it.
+    /// The command's present state; disabled when nobody takes it. Of a list that nobody takes, the first
+    /// command alone is visible.
     [[nodiscard]] CommandUi state(CommandId id) const;
 
     /// Called after every command that ran, so that what shows states can ask for them.

@@ -7,19 +7,21 @@
 
 namespace dyeworks {
 
-/// One command as people meet it. Texts are the English sources.
+/// One command as people meet it, or a list of commands that share their texts until update handlers give
+/// each its own (recent files, plug-ins). Texts are the English sources.
 struct CommandRow {
     CommandId id;
     const char* menuText; ///< With its mnemonic: "Zoom &In".
     const char* prompt;   ///< Status line, a line break, tool tip: "Zoom In\nZoom In".
     const char* shortcut; ///< "Ctrl+S", several separated by blanks, or "".
     const char* icon;     ///< Name of the icon, or "" for a command that has none.
+    CommandId last = 0;   ///< Of a list: its last number. 0 for a single command.
 };
 
 /// Every command of the program, in the order of their numbers.
 std::span<const CommandRow> commandTable();
 
-/// Null for a number that is no command.
+/// The row of the command, also for a later number of a list. Null for a number that is no command.
 const CommandRow* findCommand(CommandId id);
 
 // The texts in the user's language.

@@ -13,7 +13,8 @@ namespace dyeworks {
 struct CommandUi {
     CommandId id = 0;
     bool enabled = true;
-    std::optional<bool> checked;     ///< Set for commands that show a check mark.
+    bool visible = true;         ///< False takes the command out of its menus, for entries of short lists.
+    std::optional<bool> checked; ///< Set for commands that show a check mark.
     std::optional<std::string> text; ///< Replaces the menu text.
 };
 

@@ -84,6 +84,11 @@ void DocumentTemplate::dropDocument(CDocument& document) {
     forget(document);
 }
 
+void DocumentTemplate::pathNamed(const std::string& path) {
+    if (pathNamed_ && !path.empty())
+        pathNamed_(path);
+}
+
 CDocument* DocumentTemplate::adopt() {
     std::unique_ptr<CDocument> document = factory_(*this);
     if (document == nullptr)

@@ -55,6 +55,13 @@ public:
     /// Ends the document, which must have no view left.
     void dropDocument(CDocument& document);
 
+    /// Told the full path whenever a document of this kind was opened from a file or saved to one.
+    void setPathListener(std::function<void(const std::string&)> listener) {
+        pathNamed_ = std::move(listener);
+    }
+    /// The document tells that it belongs to this file now.
+    void pathNamed(const std::string& path);
+
 private:
     CDocument* adopt();
     void forget(const CDocument& document);
@@ -63,6 +70,7 @@ private:
     Factory factory_;
     DocumentWindows& windows_;
     std::vector<std::unique_ptr<CDocument>> documents_;
+    std::function<void(const std::string&)> pathNamed_;
     int untitledCounter_ = 0;
 };
 

@@ -8,7 +8,8 @@ namespace dyeworks {
 
 /// One line of a menu or one button of a toolbar. Menus and bars are lists of these and nothing else.
 struct MenuItem {
-    CommandId id = 0;                  ///< 0: a separator, or a submenu when there is a title.
+    CommandId id = 0;                  ///< 0: a separator, or a submenu when there is a title. The first
+                                       ///< command of a list stands for all of it.
     const char* title = nullptr;       ///< Of a submenu: its English text with mnemonic.
     std::span<const MenuItem> items{}; ///< Of a submenu.
 };

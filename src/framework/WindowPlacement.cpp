@@ -18,7 +18,17 @@ constexpr std::array kFields{&WindowPlacement::flags, &WindowPlacement::showComm
                              &WindowPlacement::left,  &WindowPlacement::top,         &WindowPlacement::right,
                              &WindowPlacement::bottom};
 
+constexpr int kFarthest = 1 << 20; // Pixels from the origin, beyond which stands nothing but damage.
+
 } // namespace
+
+bool WindowPlacement::hasRectangle() const noexcept {
+    for (const int edge : {left, top, right, bottom}) {
+        if (edge < -kFarthest || edge > kFarthest)
+            return false;
+    }
+    return left < right && top < bottom;
+}
 
 std::string formatWindowPlacement(const WindowPlacement& placement) {
     std::string text;

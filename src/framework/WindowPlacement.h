@@ -11,6 +11,7 @@ struct WindowPlacement {
     static constexpr int kRestoreToMaximized = 2;
 
     // Values of `showCommand`.
+    static constexpr int kHidden = 0;
     static constexpr int kShowNormal = 1;
     static constexpr int kShowMinimized = 2;
     static constexpr int kShowMaximized = 3;
@@ -27,6 +28,9 @@ struct WindowPlacement {
     int top = 0;
     int right = 0;
     int bottom = 0;
+
+    /// Whether the rectangle holds a pixel and its numbers are of a size that screens can have.
+    [[nodiscard]] bool hasRectangle() const noexcept;
 
     bool operator==(const WindowPlacement&) const = default;
 };

@@ -8,10 +8,10 @@ namespace dyeworks {
 
 namespace {
 
-/// The command shows the plug-in of its number; without one it keeps its own text and is disabled.
+/// The command shows the plug-in of its number; without one it is not shown.
 void showPlugIn(CommandUi& ui, CommandId first, const std::vector<std::string>& names) {
     const std::size_t index = ui.id - first;
-    ui.enabled = index < names.size();
+    ui.visible = ui.enabled = index < names.size();
     if (ui.enabled)
         ui.text = "&" + std::to_string(index % 10) + " " + names[index];
 }

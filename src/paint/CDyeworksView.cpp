@@ -57,6 +57,7 @@ void CDyeworksView::Activated() {
     if (PaletteSet* const set = host.paletteSet(); set != nullptr && !document_.attachedName().empty())
         set->setCurrent(document_.attachedName());
     host.refreshPaletteBar();
+    window_.setDisplayPalette(document_.GetDisplayPalette());
     ShowSize();
     document_.RefreshPreviews();
 }

@@ -49,9 +49,13 @@ public:
     void Closing();
     /// The interval of `ViewWindow::startTicking` has passed.
     void Tick();
-    /// Before a paint of the window, whatever its area: the redraw request, which this paint serves, or 0 for
-    /// an ordinary one.
-    [[nodiscard]] std::uint32_t BeginPaint();
+    /// What a paint is limited to, and where; everything outside is painted in the ordinary way.
+    struct RedrawRequest {
+        std::uint32_t bits = 0; ///< kRedrawImage, kRedrawDrag; 0 for an ordinary paint everywhere.
+        Rect clientArea;        ///< Right and bottom exclusive.
+    };
+    /// Before a paint of the window, whatever its area: the redraw request, which this paint serves.
+    [[nodiscard]] RedrawRequest BeginPaint();
     /// Draws a part of the view (right and bottom exclusive) onto the surface, whose origin is a logical
     /// point: client coordinates plus the scroll position. `buttonFace` (0xffRRGGBB) shows outside the image.
     /// A redraw request without kRedrawImage draws onto what the surface holds.
@@ -157,7 +161,7 @@ private:
     /// Where the window was scrolled to when its file was last open. Until the first paint the window takes
     /// on its size by and by, and a size that is passed through must not cut the position.
     std::optional<Point> restoredScroll_;
-    std::uint32_t redrawRequest_ = 0;
+    RedrawRequest redrawRequest_;
     Rect selection_;
     Rect dragRectangle_; ///< From the anchor of a drag to its current point, inclusive texels.
     std::uint32_t trackerStyle_ = kSelectionStyle;

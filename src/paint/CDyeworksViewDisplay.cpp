@@ -41,16 +41,16 @@ Rect unionOf(const Rect& a, const Rect& b) {
 
 } // namespace
 
-std::uint32_t CDyeworksView::BeginPaint() {
+CDyeworksView::RedrawRequest CDyeworksView::BeginPaint() {
     restoredScroll_.reset();
     if (showsNoPalette()) {
         noPaletteShown_ = true;
-        return 0;
+        return {};
     }
     // Whatever part is painted now, the rest still shows the words.
     if (std::exchange(noPaletteShown_, false))
         window_.invalidateAll();
-    return std::exchange(redrawRequest_, 0);
+    return std::exchange(redrawRequest_, {});
 }
 
 void CDyeworksView::Paint(Surface& surface, const Rect& logicalArea, std::uint32_t buttonFace,
@@ -82,12 +82,13 @@ void CDyeworksView::SetSelection(const std::optional<Rect>& texels, bool redraw)
     if (!shown)
         window_.stopTicking();
     if (redraw) {
-        redrawRequest_ = (existed ? kRedrawImage : 0) | (texels ? kRedrawDrag : 0);
         dragRectangle_ = selection_;
-        window_.invalidate(unionOf(areaOf(geometry(), before), areaOf(geometry(), selection_)));
+        redrawRequest_ = {(existed ? kRedrawImage : 0) | (texels ? kRedrawDrag : 0),
+                          unionOf(areaOf(geometry(), before), areaOf(geometry(), selection_))};
+        window_.invalidate(redrawRequest_.clientArea);
         window_.repaintNow();
-        // Had all of it been out of sight, a later paint of other parts would be limited.
-        redrawRequest_ = 0;
+        // Had all of it been out of sight, a later paint would be limited.
+        redrawRequest_ = {};
     }
     if (shown)
         window_.startTicking(kAntsInterval);
@@ -125,11 +126,11 @@ void CDyeworksView::HideDragFrame() {
     requestRedraw(kRedrawImage, geometry().clientArea(dragRectangle_));
 }
 
-/// A request for an area out of sight would wait for some later paint of other parts and limit that.
+/// A request for an area out of sight would wait for some later paint, when it is out of date.
 void CDyeworksView::requestRedraw(std::uint32_t request, const Rect& clientArea) {
     const Size client = window_.clientSize();
     const bool inSight = !isEmpty(intersection(clientArea, {0, 0, client.width, client.height}));
-    redrawRequest_ = inSight ? request : 0;
+    redrawRequest_ = inSight ? RedrawRequest{request, clientArea} : RedrawRequest{};
     window_.invalidate(clientArea);
 }
 

@@ -7,6 +7,8 @@
 
 namespace dyeworks {
 
+class DisplayPalette;
+
 enum class CursorShape { Arrow, OpenHand };
 
 /// What an image view asks of the window that shows it. The window carries out and decides nothing.
@@ -42,6 +44,9 @@ public:
     /// Where the frame stands; nothing while it cannot be told.
     [[nodiscard]] virtual std::optional<WindowPlacement> placement() const = 0;
     virtual void setPlacement(const WindowPlacement& placement) = 0;
+
+    /// Realises the palette (null: none) while the frame is there. It belongs to the document.
+    virtual void setDisplayPalette(const DisplayPalette* palette) = 0;
 
     /// Until `stopTicking`, the window calls the view's `Tick` in every such interval.
     virtual void startTicking(int milliseconds) = 0;

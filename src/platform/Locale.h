@@ -15,6 +15,15 @@ public:
     /// locale has none that the program knows.
     [[nodiscard]] virtual int userLocale() const = 0;
 
+    /// That of the host itself, for all its users, in the same numbers.
+    [[nodiscard]] virtual int systemLocale() const = 0;
+
+    /// The user's locale, or the host's where the program knows none of the user.
+    [[nodiscard]] int defaultLocale() const {
+        const int user = userLocale();
+        return user == 0 ? systemLocale() : user;
+    }
+
     /// Sets the C runtime's locale to the named language ("Japanese"). False when the host has none such.
     virtual bool setRuntimeLocale(const std::string& language) = 0;
 

@@ -1,16 +1,17 @@
 #include "ui/CDyeworksApp.h"
 
 #include "framework/PathText.h"
+#include "framework/widgets/ChildFrame.h"
 #include "paint/widgets/ImageView.h"
 #include "platform/Platform.h"
 #include "platform/TextCase.h"
-#include "ui/AboutDialog.h"
+#include "project/ProjectDocument.h"
 #include "ui/CFileNewSheet.h"
 #include "ui/CFileNewTexturePage.h"
 #include "ui/CMainFrame.h"
 #include "ui/PalettePanel.h"
 
-#include <functional>
+#include <algorithm>
 #include <map>
 #include <optional>
 
@@ -18,42 +19,24 @@ namespace dyeworks {
 
 namespace {
 
-constexpr const char* kOpenFilter = "Project Files (*.tpf)|*.tpf|Image Files (*.tmf)|*.tmf|"
-                                    "Palette Files (*.tlf)|*.tlf|All Files (*.*)|*.*||";
-// Positions in the filter, counted from 1.
-constexpr int kImageFilter = 2;
-constexpr int kPaletteFilter = 3;
-
 void tellNotInstalled(const char* text) {
     platform().messages().show({text, "", MessageButtons::Ok, MessageIcon::None, MessageOwner::MainWindow});
 }
 
 } // namespace
 
-CDyeworksApp::CDyeworksApp()
-    : router_([this] { return commandChain(); })
-    , images_(
-          {"Texture", ".tmf"},
-          [this](DocumentTemplate& own) { return std::make_unique<CDyeworksDoc>(*this, &own); }, *this) {
-    setApplicationPaletteSet(&palettes_);
-    on(ID_FILE_NEW, &CDyeworksApp::OnFileNew);
-    on(ID_FILE_OPEN, &CDyeworksApp::OnFileOpen);
-    on(ID_PALETTE_OPEN, &CDyeworksApp::OnPaletteOpen);
-    on(ID_PALETTE_CLOSE, &CDyeworksApp::OnPaletteClose, &CDyeworksApp::updateNeedsPalette);
-    on(ID_PALETTE_SAVE, &CDyeworksApp::OnPaletteSave, &CDyeworksApp::updateNeedsPalette);
-    on(ID_PALETTE_SAVE_AS, &CDyeworksApp::OnPaletteSaveAs, &CDyeworksApp::updateNeedsPalette);
-    on(ID_APP_ABOUT, &CDyeworksApp::OnAppAbout);
-    on(ID_APP_EXIT, &CDyeworksApp::OnAppExit);
-    mainFrame_ = std::make_unique<CMainFrame>(*this);
-    palettes_.setListener(&mainFrame_->palettePanel());
-    // The first idle moment may be long in coming: files are opened before, and each may raise a message.
-    mainFrame_->commandActions().refresh();
+CDyeworksApp::CDyeworksApp(StartUpParts parts)
+    : parts_(std::move(parts))
+    , router_([this] { return commandChain(); })
+    , openRequests_([this](const std::vector<std::string>& paths) { openHandedOver(paths); }) {
+    fillCommands();
 }
 
 CDyeworksApp::~CDyeworksApp() {
-    palettes_.setListener(nullptr);
+    delete splash_;
+    if (palettes_ != nullptr)
+        palettes_->setListener(nullptr);
     mainFrame_.reset();
-    setApplicationPaletteSet(nullptr);
 }
 
 std::vector<CommandTarget*> CDyeworksApp::commandChain() {
@@ -67,10 +50,31 @@ std::vector<CommandTarget*> CDyeworksApp::commandChain() {
     return chain;
 }
 
+void CDyeworksApp::addDocTemplate(std::unique_ptr<DocumentTemplate> kind) {
+    kind->setPathListener([this](const std::string& path) { AddToRecentFileList(path); });
+    templates_.push_back(std::move(kind));
+}
+
+DocumentTemplate* CDyeworksApp::FindDocTemplate(const std::string& name) const {
+    const auto found = std::ranges::find_if(
+        templates_, [&](const auto& kind) { return kind->names().documentName == name; });
+    return found == templates_.end() ? nullptr : found->get();
+}
+
+CDocument* CDyeworksApp::FindOpenDocument(const std::string& path) const {
+    for (const auto& kind : templates_) {
+        if (CDocument* open = kind->findDocument(path))
+            return open;
+    }
+    return nullptr;
+}
+
 std::vector<CDyeworksDoc*> CDyeworksApp::imageDocuments() const {
     std::vector<CDyeworksDoc*> images;
-    for (CDocument* document : images_.documents())
-        images.push_back(static_cast<CDyeworksDoc*>(document));
+    if (const DocumentTemplate* kind = FindDocTemplate("Texture")) {
+        for (CDocument* document : kind->documents())
+            images.push_back(static_cast<CDyeworksDoc*>(document));
+    }
     return images;
 }
 
@@ -81,22 +85,32 @@ CDyeworksDoc* CDyeworksApp::activeImage() const {
 
 CDyeworksDoc* CDyeworksApp::activeImageOfCurrentPalette() const {
     CDyeworksDoc* image = activeImage();
-    return image != nullptr && image->IsAttached() && image->attachedName() == palettes_.currentKey ? image
-                                                                                                    : nullptr;
+    const bool shown = palettes_ != nullptr && image != nullptr && image->IsAttached() &&
+                       image->attachedName() == palettes_->currentKey;
+    return shown ? image : nullptr;
 }
 
 OpenedFile CDyeworksApp::OpenDocumentFile(const std::string& path) {
     const std::string fullPath = platform().files().fullPath(path);
     if (equalIgnoringCase(extensionOf(fullPath), ".tlf"))
         return openPalette(fullPath);
-    return OpenedFile::of(images_.openDocument(path));
+    if (templates_.empty())
+        return OpenedFile::failed();
+    const auto claims = [&](const auto& kind) { return kind->matches(fullPath); };
+    const auto kind = std::ranges::find_if(templates_, claims);
+    // The first kind, images, reads or refuses what no kind claims.
+    return OpenedFile::of((kind == templates_.end() ? templates_.front() : *kind)->openDocument(path));
 }
 
 OpenedFile CDyeworksApp::openPalette(const std::string& path) {
-    if (!palettes_.openPalette(path)) {
+    if (palettes_ == nullptr)
+        return OpenedFile::failed();
+    if (!palettes_->openPalette(path)) {
+        recentPalettes_.remove(path);
         applicationMessage(displayPath(path) + " open failed");
         return OpenedFile::failed();
     }
+    recentPalettes_.add(path);
     RefreshImagePalettes();
     return OpenedFile::palette();
 }
@@ -107,7 +121,7 @@ bool CDyeworksApp::OpenFiles(const std::vector<std::string>& paths, bool attach)
     for (const std::string& path : paths) {
         const OpenedFile opened = OpenDocumentFile(path);
         allOpened = static_cast<bool>(opened) && allOpened;
-        auto* image = static_cast<CDyeworksDoc*>(opened.document());
+        auto* image = dynamic_cast<CDyeworksDoc*>(opened.document());
         if (!attach || image == nullptr)
             continue;
         image->Attach();
@@ -115,7 +129,7 @@ bool CDyeworksApp::OpenFiles(const std::vector<std::string>& paths, bool attach)
             waiting.push_back(path);
     }
     for (const std::string& path : waiting) {
-        if (auto* image = static_cast<CDyeworksDoc*>(images_.findDocument(path)))
+        if (auto* image = dynamic_cast<CDyeworksDoc*>(FindOpenDocument(path)))
             image->Attach();
     }
     return allOpened;
@@ -124,6 +138,11 @@ bool CDyeworksApp::OpenFiles(const std::vector<std::string>& paths, bool attach)
 void CDyeworksApp::RefreshImagePalettes() {
     for (CDyeworksDoc* image : imageDocuments())
         image->RefreshPalette();
+}
+
+void CDyeworksApp::BroadcastPaletteChange(const std::string& key, const TextureLookupTable* palette) {
+    for (CDyeworksDoc* image : imageDocuments())
+        image->PaletteChanged(key, palette);
 }
 
 void CDyeworksApp::keepAttachments(const std::function<void()>& save) {
@@ -144,14 +163,89 @@ void CDyeworksApp::keepAttachments(const std::function<void()>& save) {
 
 bool CDyeworksApp::SaveAllModified() {
     bool agreed = false;
-    keepAttachments([&] { agreed = palettes_.queryCloseAll(); });
-    if (!agreed)
+    keepAttachments([&] { agreed = paletteSet()->queryCloseAll(); });
+    if (!agreed || (project_ != nullptr && !project_->saveModified()))
         return false;
-    for (CDyeworksDoc* image : imageDocuments()) {
-        if (!image->saveModified())
+    for (const auto& kind : templates_) {
+        for (CDocument* document : kind->documents()) {
+            // The project has had its question.
+            if (document != project_ && !document->saveModified())
+                return false;
+        }
+    }
+    return true;
+}
+
+bool CDyeworksApp::closeFramesOf(const CDocument& document) {
+    for (ChildFrame* frame : mainFrame_->childFrames()) {
+        if (frame->document() == &document && !frame->close())
             return false;
     }
     return true;
+}
+
+void CDyeworksApp::ClosePictureDocuments(const std::vector<std::string>& paths, bool force) {
+    bool agreed = force;
+    const auto mayClose = [&agreed] {
+        agreed = agreed || applicationMessage("Do you close all pictures?", MessageButtons::YesNo) ==
+                               MessageAnswer::Yes;
+        return agreed;
+    };
+    for (const std::string& path : paths) {
+        // Empty stands for a file that was not found; as a key it would mean the current palette.
+        if (path.empty())
+            continue;
+        if (CDocument* document = FindOpenDocument(path)) {
+            if (!mayClose())
+                return;
+            closeFramesOf(*document);
+        } else if (paletteSet()->lookup(path) != nullptr) {
+            if (!mayClose())
+                return;
+            if (palettes_->closePalette(path, true))
+                RefreshImagePalettes();
+        }
+    }
+}
+
+void CDyeworksApp::ShowHelp(const std::string& relativePath) {
+    if (!platform().shell().openWithDefaultProgram(programFolder_ + relativePath))
+        platform().messages().show({text(StringId::HelpFailed), "", MessageButtons::Ok, MessageIcon::Stop,
+                                    MessageOwner::MainWindow});
+}
+
+void CDyeworksApp::setProjectDocument(ProjectDocument* project) {
+    project_ = project;
+    if (project == nullptr)
+        currentPicture_.clear();
+    if (mainFrame_ != nullptr)
+        mainFrame_->ProjectChanged();
+}
+
+bool CDyeworksApp::CloseProject() {
+    if (project_ == nullptr)
+        return true;
+    if (!project_->saveModified())
+        return false;
+    ProjectDocument& project = *project_;
+    const std::vector<ChildFrame*> frames = mainFrame_->childFrames();
+    bool shown = false;
+    for (ChildFrame* frame : frames) {
+        if (frame->document() != &project)
+            continue;
+        shown = true;
+        frame->closeUnasked();
+    }
+    // Closing the last of its windows has ended the document.
+    if (!shown)
+        project.documentTemplate()->dropDocument(project);
+    if (project_ != nullptr)
+        setProjectDocument(nullptr);
+    return true;
+}
+
+OpenProject* CDyeworksApp::openProject() {
+    return project_;
 }
 
 std::int32_t CDyeworksApp::paletteBarFirstEntry() const {
@@ -184,14 +278,6 @@ bool CDyeworksApp::isActiveImage(const CDyeworksDoc& document) const {
 CDyeworksView* CDyeworksApp::activeView() const {
     ImageView* view = mainFrame_ == nullptr ? nullptr : mainFrame_->activeImageView();
     return view == nullptr ? nullptr : &view->view();
-}
-
-std::optional<NewImage> CDyeworksApp::askNewImage() {
-    CFileNewSheet sheet(mainFrame_.get());
-    if (sheet.exec() != QDialog::Accepted)
-        return std::nullopt;
-    const CFileNewTexturePage& page = sheet.texturePage();
-    return NewImage{page.imageWidth(), page.imageHeight(), static_cast<std::uint16_t>(page.bitsPerPixel())};
 }
 
 std::unique_ptr<TextureCanvas> CDyeworksApp::ImportImage(std::int32_t /*index*/, TmfImage* /*image*/,
@@ -234,55 +320,6 @@ bool CDyeworksApp::openWindow(CDocument& document) {
 
 void CDyeworksApp::activate(CDocument& document) {
     mainFrame_->activateWindowOf(document);
-}
-
-void CDyeworksApp::openWithDialog(const char* defaultExtension, int filterIndex) {
-    FileDialogRequest request;
-    request.filter = kOpenFilter;
-    request.filterIndex = filterIndex;
-    request.defaultExtension = defaultExtension;
-    request.fileMustExist = true;
-    request.hideReadOnly = true;
-    if (const std::optional<std::string> path = platform().fileDialogs().open(request))
-        OpenDocumentFile(*path);
-}
-
-void CDyeworksApp::updateNeedsPalette(CommandUi& ui) {
-    ui.enabled = palettes_.lookup("") != nullptr;
-}
-
-void CDyeworksApp::OnFileNew() {
-    images_.newDocument();
-}
-
-void CDyeworksApp::OnFileOpen() {
-    openWithDialog(".tmf", kImageFilter);
-}
-
-void CDyeworksApp::OnPaletteOpen() {
-    openWithDialog(".tlf", kPaletteFilter);
-}
-
-void CDyeworksApp::OnPaletteClose() {
-    if (palettes_.closePalette("", true))
-        RefreshImagePalettes();
-    refreshPaletteBar();
-}
-
-void CDyeworksApp::OnPaletteSave() {
-    keepAttachments([this] { palettes_.savePalette("", true); });
-}
-
-void CDyeworksApp::OnPaletteSaveAs() {
-    keepAttachments([this] { palettes_.savePaletteAs("", true); });
-}
-
-void CDyeworksApp::OnAppAbout() {
-    AboutDialog(mainFrame_.get()).exec();
-}
-
-void CDyeworksApp::OnAppExit() {
-    mainFrame_->close();
 }
 
 } // namespace dyeworks

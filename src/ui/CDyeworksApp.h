@@ -3,11 +3,17 @@
 #include "core/PaletteSet.h"
 #include "framework/CommandRouter.h"
 #include "framework/DocumentTemplate.h"
+#include "framework/RecentFileList.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/ImageHost.h"
 #include "paint/ImagePlugIns.h"
+#include "ui/OpenRequestQueue.h"
 #include "ui/OpenedFile.h"
 #include "ui/PalettePanelHost.h"
+#include "ui/StartUpParts.h"
+
+#include <QPointer>
+#include <QWidget>
 
 #include <functional>
 #include <memory>
@@ -17,36 +23,97 @@
 namespace dyeworks {
 
 class CMainFrame;
+class ProjectDocument;
+struct CommandLine;
 
-/// The application: owns the open palettes, the kinds of documents and the main window, opens files by their
-/// kind and carries out the commands that belong to no window. The platform is installed before it is made;
-/// there is one at a time.
+/// The application: starts and stops the program, owns the open palettes, the kinds of documents, the recent
+/// files and the main window, opens files by their kind and carries out the commands that belong to no
+/// window. The platform is installed before it is made; there is one at a time.
 class CDyeworksApp : public CommandTarget,
                      public ImageHost,
                      public ImagePlugIns,
                      public PalettePanelHost,
                      private DocumentWindows {
 public:
-    CDyeworksApp();
+    explicit CDyeworksApp(StartUpParts parts = {});
     ~CDyeworksApp() override;
+
+    /// Brings the program up: settings, controls, kinds of documents, main window, palettes, and what the
+    /// command line asks for. False ends the program: something that it needs is missing, a file of the
+    /// command line could not be opened, or all that was asked for has been done. Then, too, ExitInstance
+    /// is called.
+    [[nodiscard]] bool InitInstance(const CommandLine& commandLine);
+    /// Keeps the settings and lets go of the window and the palettes. The result is the process's exit code.
+    int ExitInstance();
 
     [[nodiscard]] CMainFrame& mainFrame() noexcept { return *mainFrame_; }
     [[nodiscard]] CommandRouter& router() noexcept { return router_; }
-    PaletteSet* paletteSet() override { return &palettes_; }
-    [[nodiscard]] DocumentTemplate& imageTemplate() noexcept { return images_; }
+    /// The open palettes; before there are any, an empty set.
+    PaletteSet* paletteSet() override { return palettes_ == nullptr ? &noPalettes_ : palettes_.get(); }
+    /// The picture shown at the start while it is up, else null.
+    [[nodiscard]] QWidget* splashScreen() const noexcept { return splash_; }
+    /// With a trailing "\".
+    [[nodiscard]] const std::string& programFolder() const noexcept { return programFolder_; }
+    [[nodiscard]] const std::string& helpPath() const noexcept { return helpPath_; }
 
-    /// Opens a palette (".tlf") in the palette set, any other file as an image. Failures have been reported.
+    // The kinds of documents.
+    void addDocTemplate(std::unique_ptr<DocumentTemplate> kind);
+    /// The kind called exactly so ("Texture", "Project"), or null.
+    [[nodiscard]] DocumentTemplate* FindDocTemplate(const std::string& name) const;
+    [[nodiscard]] DocumentTemplate& imageTemplate() noexcept { return *FindDocTemplate("Texture"); }
+    /// The open document of any kind with this path, both made full paths and compared without regard to
+    /// case; null when there is none.
+    [[nodiscard]] CDocument* FindOpenDocument(const std::string& path) const;
+
+    /// Opens a palette (".tlf") in the palette set, any other file as a document of the kind that has its
+    /// extension, as an image when no kind has. Failures have been reported.
     OpenedFile OpenDocumentFile(const std::string& path);
     /// Opens the files one after the other. With `attach`, each image is attached to the palette that is
     /// current when it opens, or, when none is open yet, to the one that is current in the end. False when
     /// any file could not be opened.
     bool OpenFiles(const std::vector<std::string>& paths, bool attach);
 
+    /// Puts the path first in the list of its kind.
+    void AddToRecentFileList(const std::string& path);
+    [[nodiscard]] const RecentFileList& recentProjects() const noexcept { return recentProjects_; }
+    [[nodiscard]] const RecentFileList& recentImages() const noexcept { return recentImages_; }
+    [[nodiscard]] const RecentFileList& recentPalettes() const noexcept { return recentPalettes_; }
+
+    /// Opens what was open when the program was left last. False when anything of it could not be opened; the
+    /// rest is open then.
+    bool ResumeDocuments();
+    /// Keeps which palettes and documents are open, for the next start.
+    void SaveOpenDocuments();
+    /// Asks for every palette, for the project and for every other document with unsaved changes whether to
+    /// save it. False as soon as the user cancels or a file cannot be saved.
+    bool SaveAllModified();
+
     /// Makes every image take its palette's colours anew. Called after palettes change.
     void RefreshImagePalettes();
-    /// Asks for every palette and document with unsaved changes whether to save it. False as soon as the user
-    /// cancels or a file cannot be saved.
-    bool SaveAllModified();
+    /// Shows the colours of `palette`, which may be a passing copy, in every image attached to that key.
+    void BroadcastPaletteChange(const std::string& key, const TextureLookupTable* palette);
+    /// Closes the images and palettes of these paths that are open. Unless `force` is set, asks once before
+    /// the first; No leaves them all open.
+    void ClosePictureDocuments(const std::vector<std::string>& paths, bool force);
+    /// Opens a file with the desktop's program for it, such as a help page. `relativePath` starts from the
+    /// program's folder.
+    void ShowHelp(const std::string& relativePath);
+
+    // The open project; at most one.
+    /// Null while none is open.
+    [[nodiscard]] ProjectDocument* projectDocument() const noexcept { return project_; }
+    /// Told by the project itself when it is open, and with null when it closes, which also leaves no picture
+    /// chosen.
+    void setProjectDocument(ProjectDocument* project);
+    /// Name of the picture chosen in the project bar; empty when none is.
+    [[nodiscard]] const std::string& currentPicture() const noexcept { return currentPicture_; }
+    void setCurrentPicture(const std::string& name) { currentPicture_ = name; }
+    /// Closes the project after asking about its changes. True when none is open afterwards.
+    bool CloseProject();
+    /// A new project document; null when it was abandoned or projects are not among the kinds of documents.
+    CDocument* NewProject();
+    /// Asks for a project file and opens it.
+    void OpenProjectFile();
 
     // What images ask.
     [[nodiscard]] std::int32_t paletteBarFirstEntry() const override;
@@ -57,10 +124,9 @@ public:
     [[nodiscard]] bool isActiveImage(const CDyeworksDoc& document) const override;
     [[nodiscard]] CDyeworksView* activeView() const override;
     [[nodiscard]] ImagePlugIns& imagePlugIns() override { return *this; }
-    [[nodiscard]] OpenProject* openProject() override { return nullptr; }
+    [[nodiscard]] OpenProject* openProject() override;
     [[nodiscard]] std::optional<NewImage> askNewImage() override;
-    /// There is nothing to offer: projects are not among the kinds of documents.
-    void AskUseProject() override {}
+    void AskUseProject() override;
 
     // The image plug-ins. None is installed.
     [[nodiscard]] std::vector<std::string> importNames() const override { return {}; }
@@ -89,21 +155,76 @@ private:
     OpenedFile openPalette(const std::string& path);
     /// Saving may give palettes new keys; images stay attached to theirs.
     void keepAttachments(const std::function<void()>& save);
+    bool closeFramesOf(const CDocument& document);
+
+    // The steps of starting.
+    static void followLocale(const CommandLine& commandLine);
+    void showSplashScreen();
+    void readSettings();
+    [[nodiscard]] static bool registerControls();
+    void createImageTemplate();
+    [[nodiscard]] bool createMainFrame();
+    void listenForOpenRequests(const CommandLine& commandLine);
+    [[nodiscard]] bool createPaletteSet();
+    [[nodiscard]] bool processCommandLine(const CommandLine& commandLine);
+    [[nodiscard]] bool printFiles(const CommandLine& commandLine);
+    void showMainFrame();
+
+    void raiseMainFrame();
+    void openHandedOver(const std::vector<std::string>& paths);
+
+    void fillCommands();
     void openWithDialog(const char* defaultExtension, int filterIndex);
     void updateNeedsPalette(CommandUi& ui);
+    void updateNeedsProject(CommandUi& ui);
+    void updateNeedsPicture(CommandUi& ui);
+    void updateNeedsProjectKind(CommandUi& ui);
     void OnFileNew();
     void OnFileOpen();
+    void OnProjectNew();
+    void OnProjectClose();
+    void OnProjectSave();
+    void OnProjectSaveAs();
+    void OnProjectProperty();
+    void OnPictureAdd();
+    void OnPictureChange();
+    void OnPictureRemove();
+    void OnPaletteNew();
     void OnPaletteOpen();
     void OnPaletteClose();
     void OnPaletteSave();
     void OnPaletteSaveAs();
+    void OnOptions();
     void OnAppAbout();
     void OnAppExit();
 
+    [[nodiscard]] RecentFileList& recentListFor(const std::string& path);
+    void openRecent(const RecentFileList& list, std::size_t index);
+    void OnRecentProject(CommandId id);
+    void OnUpdateRecentProject(CommandUi& ui);
+    void OnRecentImage(CommandId id);
+    void OnUpdateRecentImage(CommandUi& ui);
+    void OnRecentPalette(CommandId id);
+    void OnUpdateRecentPalette(CommandUi& ui);
+
+    StartUpParts parts_;
     CommandRouter router_;
-    PaletteSet palettes_;
-    DocumentTemplate images_;
+    RecentFileList recentProjects_{"Recent TPF List"};
+    RecentFileList recentImages_{"Recent TMF List"};
+    RecentFileList recentPalettes_{"Recent TLF List"};
+    RecentFileList recentOthers_{"Recent File List"};
+    std::string programFolder_;
+    std::string helpPath_;
+    PaletteSet noPalettes_; ///< Seen until the set is made.
+    std::unique_ptr<PaletteSet> palettes_;
+    ProjectDocument* project_ = nullptr;
+    std::string currentPicture_;
+    std::vector<std::unique_ptr<DocumentTemplate>> templates_;
     std::unique_ptr<CMainFrame> mainFrame_;
+    QPointer<QWidget> splash_;
+    OpenRequestQueue openRequests_;
+    bool keepsSettings_ = false; ///< Not before they have been read.
+    int exitCode_ = 0;
 };
 
 } // namespace dyeworks

@@ -1,6 +1,8 @@
 #include "ui/CFileNewSheet.h"
 
-#include "platform/Platform.h"
+#include "platform/Text.h"
+#include "ui/CFileNewPalettePage.h"
+#include "ui/CFileNewProjectPage.h"
 #include "ui/CFileNewTexturePage.h"
 
 namespace dyeworks {
@@ -8,9 +10,23 @@ namespace dyeworks {
 CFileNewSheet::CFileNewSheet(QWidget* parent)
     : PropertySheet(QString::fromStdString(text(StringId::NewSheetCaption)), parent) {
     setObjectName(QStringLiteral("IDD_FILENEW"));
-    auto page = std::make_unique<CFileNewTexturePage>();
-    texturePage_ = page.get();
-    addPage(std::move(page));
+    const auto add = [this](auto page) {
+        auto* added = page.get();
+        addPage(std::move(page));
+        return added;
+    };
+    projectPage_ = add(std::make_unique<CFileNewProjectPage>());
+    texturePage_ = add(std::make_unique<CFileNewTexturePage>());
+    palettePage_ = add(std::make_unique<CFileNewPalettePage>());
+}
+
+void CFileNewSheet::keepOnly(const PropertyPage& page) {
+    for (PropertyPage* each :
+         {static_cast<PropertyPage*>(projectPage_), static_cast<PropertyPage*>(texturePage_),
+          static_cast<PropertyPage*>(palettePage_)}) {
+        if (each != &page)
+            removePage(*each);
+    }
 }
 
 } // namespace dyeworks

@@ -2,14 +2,12 @@
 
 #include "core/TmfImage.h"
 #include "framework/widgets/IntegerField.h"
-#include "platform/Platform.h"
+#include "ui/SheetControls.h"
 
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QRadioButton>
-#include <QVBoxLayout>
 
 namespace dyeworks {
 
@@ -19,24 +17,13 @@ constexpr std::int32_t kFirstSide = 64;
 constexpr IntegerField::Range kTypedSides{0, 1024};
 constexpr IntegerField::Range kSpunSides{1, 1024};
 
-QString label(StringId id) {
-    return QString::fromStdString(text(id));
-}
-
 IntegerField* sideField(const char* editName, const char* spinName, StringId tip) {
     auto* field = new IntegerField(kTypedSides, kSpunSides, kFirstSide);
     field->setObjectName(QString::fromLatin1(spinName));
     field->findChild<QLineEdit*>()->setObjectName(QString::fromLatin1(editName));
-    field->setToolTip(label(tip));
-    field->setAccessibleName(label(tip));
+    field->setToolTip(shown(tip));
+    field->setAccessibleName(shown(tip));
     return field;
-}
-
-QRadioButton* depthButton(const char* name, StringId caption, StringId tip) {
-    auto* button = new QRadioButton(label(caption));
-    button->setObjectName(QString::fromLatin1(name));
-    button->setToolTip(label(tip));
-    return button;
 }
 
 } // namespace
@@ -44,34 +31,35 @@ QRadioButton* depthButton(const char* name, StringId caption, StringId tip) {
 CFileNewTexturePage::CFileNewTexturePage()
     : widthField_(sideField("IDC_TEXTURE_WIDTH", "IDC_TEXTURE_WIDTH_SPIN", StringId::NewImageWidthTip))
     , heightField_(sideField("IDC_TEXTURE_HEIGHT", "IDC_TEXTURE_HEIGHT_SPIN", StringId::NewImageHeightTip))
-    , bits8_(depthButton("IDC_BITMODE_8BIT", StringId::NewImage8Bit, StringId::NewImage8BitTip))
+    , bits4_(choiceButton("IDC_BITMODE_4BIT", StringId::NewImage4Bit, StringId::NewImage4BitTip))
+    , bits8_(choiceButton("IDC_BITMODE_8BIT", StringId::NewImage8Bit, StringId::NewImage8BitTip))
     , size_(new QLabel)
     , imageWidth_(kFirstSide)
     , imageHeight_(kFirstSide) {
     setObjectName(QStringLiteral("IDD_FILENEW_TEXTURE"));
-    setWindowTitle(label(StringId::NewImageTab));
-    auto* bits4 = depthButton("IDC_BITMODE_4BIT", StringId::NewImage4Bit, StringId::NewImage4BitTip);
-    bits4->setChecked(true);
+    setWindowTitle(shown(StringId::NewImageTab));
     size_->setObjectName(QStringLiteral("IDC_TEXTURE_SIZE"));
-    size_->setToolTip(label(StringId::NewImageSizeTip));
-
-    auto* depth = new QWidget;
-    auto* depthLayout = new QVBoxLayout(depth);
-    depthLayout->setContentsMargins(0, 0, 0, 0);
-    depthLayout->addWidget(bits4);
-    depthLayout->addWidget(bits8_);
+    size_->setToolTip(shown(StringId::NewImageSizeTip));
 
     auto* layout = new QFormLayout(this);
     layout->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
-    layout->addRow(label(StringId::NewImageWidth), widthField_);
-    layout->addRow(label(StringId::NewImageHeight), heightField_);
-    layout->addRow(label(StringId::NewImageBitMode), depth);
-    layout->addRow(label(StringId::NewImageSize), size_);
+    layout->addRow(shown(StringId::NewImageWidth), widthField_);
+    layout->addRow(shown(StringId::NewImageHeight), heightField_);
+    layout->addRow(shown(StringId::NewImageBitMode),
+                   choiceColumn(StringId::NewImageBitMode, {bits4_, bits8_}));
+    layout->addRow(shown(StringId::NewImageSize), size_);
 
     setFocusProxy(widthField_);
     connect(widthField_, &IntegerField::edited, this, &CFileNewTexturePage::showSize);
     connect(heightField_, &IntegerField::edited, this, &CFileNewTexturePage::showSize);
     connect(bits8_, &QRadioButton::toggled, this, &CFileNewTexturePage::showSize);
+    showValues();
+}
+
+void CFileNewTexturePage::showValues() {
+    widthField_->setValue(imageWidth_);
+    heightField_->setValue(imageHeight_);
+    (bits_ == 8 ? bits8_ : bits4_)->setChecked(true);
     showSize();
 }
 
@@ -103,9 +91,7 @@ void CFileNewTexturePage::showSize() {
     image.width = *newWidth;
     image.height = *newHeight;
     image.bits = chosenBits();
-    size_->setText(QString::fromStdString(
-        text(StringId::NewImageBytes,
-             {QLocale().toString(static_cast<qlonglong>(image.blockSize())).toStdString()})));
+    size_->setText(byteCount(image.blockSize()));
 }
 
 } // namespace dyeworks

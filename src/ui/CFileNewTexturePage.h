@@ -18,6 +18,7 @@ class CFileNewTexturePage : public PropertyPage {
 public:
     CFileNewTexturePage();
 
+    void showValues() override;
     [[nodiscard]] bool takeOver() override;
 
     // As they were last taken over.
@@ -31,6 +32,7 @@ private:
 
     IntegerField* widthField_;
     IntegerField* heightField_;
+    QRadioButton* bits4_;
     QRadioButton* bits8_;
     QLabel* size_;
     std::int32_t imageWidth_;

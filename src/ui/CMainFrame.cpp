@@ -2,19 +2,28 @@
 
 #include "framework/widgets/ChildFrame.h"
 #include "framework/widgets/MenuBuilder.h"
+#include "framework/widgets/WidgetPlacement.h"
+#include "paint/BackgroundPicture.h"
 #include "paint/CDyeworksDoc.h"
+#include "paint/widgets/BackgroundPainter.h"
+#include "paint/widgets/CChildFrame.h"
 #include "paint/widgets/ImageView.h"
 #include "platform/Platform.h"
+#include "project/ProjectDocument.h"
+#include "ui/BarLayout.h"
 #include "ui/CDyeworksApp.h"
+#include "ui/CProjectBar.h"
 #include "ui/MainMenus.h"
 #include "ui/PalettePanel.h"
+#include "ui/StatusPanes.h"
 
 #include <QCloseEvent>
 #include <QDropEvent>
-#include <QLabel>
 #include <QMdiArea>
 #include <QMenu>
 #include <QMimeData>
+#include <QPainter>
+#include <QPixmap>
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
@@ -26,25 +35,15 @@ namespace dyeworks {
 
 namespace {
 
-constexpr const char* kLayoutSection = "Window";
-constexpr const char* kGeometryEntry = "Geometry";
-constexpr const char* kStateEntry = "State";
-constexpr const char* kStatusBarEntry = "StatusBar"; // Which the state of the bars leaves out.
+constexpr const char* kPlacementEntry = "WindowPos";
 
 constexpr double kShareOfScreen = 0.9; // The rest is for the title bar and the desktop's panels.
 
-constexpr int kPanelColumns = 18; // 16 swatches and the panel's margins.
+/// Number of the project bar's button that names and opens the chosen picture.
+constexpr CommandId IDC_PICTURE_BUTTON = 1045; // NOLINT(readability-identifier-naming)
 
-constexpr int kPositionPaneWidth = 96;
-constexpr int kSizePaneWidth = 120;
-
-QByteArray storedBytes(const char* entry) {
-    return QByteArray::fromBase64(
-        QByteArray::fromStdString(platform().profile().textOr(kLayoutSection, entry, "")));
-}
-
-void storeBytes(const char* entry, const QByteArray& bytes) {
-    platform().profile().setText(kLayoutSection, entry, bytes.toBase64().toStdString());
+QString shown(StringId id) {
+    return QString::fromStdString(text(id));
 }
 
 /// The local files that are dragged, as the program writes paths.
@@ -62,31 +61,54 @@ std::vector<std::string> filesIn(const QMimeData& data) {
 CMainFrame::CMainFrame(CDyeworksApp& application)
     : application_(application)
     , actions_(application.router())
-    , printing_(*this)
-    , palettePanel_(new PalettePanel(application, actions_.action(ID_PALETTE_OPEN), this)) {
+    , printing_(*this) {
     setObjectName(QStringLiteral("IDR_MAINFRAME"));
-    setCaption(QString::fromStdString(text(StringId::ApplicationTitle)));
     setAcceptDrops(true);
+    new BackgroundPainter(area(), BackgroundPicture::read(BackgroundPicture::kFileName));
+    area().setWhatsThis(shown(StringId::HelpDocumentArea));
+    describeCommands();
     setMenus(mainMenu(), actions_);
-    makeToolBar("ID_VIEW_TOOLBAR", ID_VIEW_TOOLBAR, StringId::BarTool, toolBarItems());
-    makeToolBar("ID_VIEW_VIEWBAR", ID_VIEW_VIEWBAR, StringId::BarView, viewBarItems());
-    makeToolBar("ID_VIEW_DRAWBAR", ID_VIEW_DRAWBAR, StringId::BarDraw, drawBarItems());
-    addDockWidget(Qt::RightDockWidgetArea, palettePanel_);
-    addBar(ID_VIEW_PALETTEBAR, *palettePanel_);
-    makeStatusBar();
+    makeToolBar("ID_VIEW_TOOLBAR", ID_VIEW_TOOLBAR, StringId::BarTool, StringId::HelpToolBar, toolBarItems());
+    panes_ = new StatusPanes(*statusBar());
+    addBar(ID_VIEW_STATUS_BAR, *statusBar());
+    makeToolBar("ID_VIEW_VIEWBAR", ID_VIEW_VIEWBAR, StringId::BarView, StringId::HelpViewBar, viewBarItems());
+    // All in one row would be wider than the window is at first.
+    addToolBarBreak(Qt::TopToolBarArea);
+    makeToolBar("ID_VIEW_DRAWBAR", ID_VIEW_DRAWBAR, StringId::BarDraw, StringId::HelpDrawBar, drawBarItems());
+    makePaletteBar();
+    makeProjectBar();
     actions_.addTo(*this);
-    restoreLayout();
-    connect(this, &MdiFrame::activeChildChanged, palettePanel_, &PalettePanel::currentPaletteChanged);
+    on(ID_HELP_INDEX, &CMainFrame::OnHelpIndex);
+    on(ID_DEFAULT_HELP, &CMainFrame::OnHelpIndex);
+    on(ID_HELP, &CMainFrame::OnHelp);
+    on(ID_CONTEXT_HELP, &CMainFrame::OnContextHelp);
+    restoreBarLayout(*this, *palettePanel_);
+    CMainFrame::OnUpdateFrameTitle();
+    restorePlacement();
 }
 
 CMainFrame::~CMainFrame() = default;
 
-void CMainFrame::makeToolBar(const char* name, CommandId id, StringId title,
+void CMainFrame::makeToolBar(const char* name, CommandId id, StringId title, StringId help,
                              std::span<const MenuItem> items) {
-    QToolBar* bar = addToolBar(QString::fromStdString(text(title)));
+    QToolBar* bar = addToolBar(shown(title));
     bar->setObjectName(QString::fromLatin1(name));
+    bar->setWhatsThis(shown(help));
     fillToolBar(*bar, items, actions_);
     addBar(id, *bar);
+}
+
+void CMainFrame::makePaletteBar() {
+    palettePanel_ = new PalettePanel(application_, actions_.action(ID_PALETTE_OPEN), *this);
+    connect(this, &MdiFrame::activeChildChanged, palettePanel_, &PalettePanel::currentPaletteChanged);
+    on(ID_VIEW_PALETTEBAR, &CMainFrame::OnTogglePaletteBar, &CMainFrame::OnUpdatePaletteBar);
+}
+
+void CMainFrame::makeProjectBar() {
+    projectBar_ = new CProjectBar(application_, actions_);
+    addToolBar(Qt::TopToolBarArea, projectBar_);
+    addBar(ID_VIEW_PROJECTBAR, *projectBar_);
+    on(IDC_PICTURE_BUTTON, &CMainFrame::OnPictureButton, &CMainFrame::OnUpdatePictureButton);
 }
 
 void CMainFrame::addBar(CommandId id, QWidget& bar) {
@@ -103,44 +125,48 @@ void CMainFrame::OnUpdateBar(CommandUi& ui) {
     ui.checked = !bars_.at(ui.id)->isHidden();
 }
 
+void CMainFrame::OnTogglePaletteBar() {
+    palettePanel_->setShown(!palettePanel_->isShown());
+}
+
+void CMainFrame::OnUpdatePaletteBar(CommandUi& ui) {
+    ui.checked = palettePanel_->isShown();
+}
+
+void CMainFrame::OnUpdatePictureButton(CommandUi& ui) {
+    ui.enabled = !application_.currentPicture().empty();
+}
+
 QMenu* CMainFrame::createPopupMenu() {
     auto* menu = new QMenu(this);
     fillMenu(*menu, barsMenu(), actions_);
     return menu;
 }
 
-void CMainFrame::makeStatusBar() {
-    const auto addPane = [this](const char* name, int width, const char* initialText) {
-        auto* pane = new QLabel(QString::fromLatin1(initialText));
-        pane->setObjectName(QString::fromLatin1(name));
-        pane->setMinimumWidth(width);
-        statusBar()->addPermanentWidget(pane);
-        return pane;
-    };
-    addBar(ID_VIEW_STATUS_BAR, *statusBar());
-    panes_ = {addPane("ID_INDICATOR_POSITION", kPositionPaneWidth, "(0, 0)"),
-              addPane("ID_INDICATOR_SIZE", kSizePaneWidth, "(0, 0) 4bit")};
+void CMainFrame::restorePlacement() {
+    resize(kFirstSize.boundedTo(screen()->availableSize() * kShareOfScreen));
+    std::optional<WindowPlacement> placement = readWindowPlacement(kPlacementEntry);
+    if (!placement)
+        return;
+    // The program starts with its window in sight, however it was left.
+    placement->showCommand = (placement->flags & WindowPlacement::kRestoreToMaximized) != 0
+                                 ? WindowPlacement::kShowMaximized
+                                 : WindowPlacement::kShowNormal;
+    setWindowPlacement(*this, *placement);
 }
 
-void CMainFrame::restoreLayout() {
-    if (!restoreGeometry(storedBytes(kGeometryEntry)))
-        resize(kFirstSize.boundedTo(screen()->availableSize() * kShareOfScreen));
-    // As wide as a palette of 256 colours likes to be.
-    if (!restoreState(storedBytes(kStateEntry)))
-        resizeDocks({palettePanel_}, {kPanelColumns * fontMetrics().height()}, Qt::Horizontal);
-    statusBar()->setVisible(platform().profile().integer(kLayoutSection, kStatusBarEntry, 1) != 0);
-}
-
-void CMainFrame::saveLayout() const {
-    storeBytes(kGeometryEntry, saveGeometry());
-    storeBytes(kStateEntry, saveState());
-    platform().profile().setInteger(kLayoutSection, kStatusBarEntry, statusBar()->isHidden() ? 0 : 1);
+void CMainFrame::savePlacement() const {
+    WindowPlacement placement = windowPlacement(*this);
+    if (isMaximized())
+        placement.flags |= WindowPlacement::kRestoreToMaximized;
+    writeWindowPlacement(kPlacementEntry, placement);
 }
 
 void CMainFrame::openImageWindow(CDyeworksDoc& document) {
     auto view = std::make_unique<ImageView>(document);
-    ImageView& shown = *view;
-    auto child = std::make_unique<ChildFrame>(document, std::move(view), shown);
+    ImageView& image = *view;
+    image.setWhatsThis(shown(StringId::HelpImageView));
+    auto child = std::make_unique<CChildFrame>(document, std::move(view), image);
     child->setMenus(imageMenu());
     // The palette that an image is attached to is part of its title, and its bank is what the panel shows.
     connect(child.get(), &QWidget::windowTitleChanged, palettePanel_, &PalettePanel::currentPaletteChanged);
@@ -157,28 +183,89 @@ ImageView* CMainFrame::activeImageView() const {
     return child == nullptr ? nullptr : qobject_cast<ImageView*>(child->widget());
 }
 
-void CMainFrame::SetStatusText(const std::string& text, int pane) {
-    if (pane == 0)
-        statusBar()->showMessage(QString::fromStdString(text));
-    else
-        panes_.at(static_cast<std::size_t>(pane - 1))->setText(QString::fromStdString(text));
+void CMainFrame::SetStatusText(const std::string& text, int pane, unsigned flags) {
+    panes_->setText(text, pane, flags);
+}
+
+void CMainFrame::ProjectChanged() {
+    projectBar_->Refresh();
+    OnUpdateFrameTitle();
+}
+
+void CMainFrame::SelectPicture(const std::string& name) {
+    projectBar_->SelectPicture(name);
+}
+
+void CMainFrame::RefreshPaletteBar() {
+    palettePanel_->currentPaletteChanged();
+}
+
+void CMainFrame::FillPaletteBarList() {
+    palettePanel_->tabsChanged();
+}
+
+std::int32_t CMainFrame::GetPaletteBarFirstEntry() const {
+    return palettePanel_->firstEntry();
+}
+
+std::int32_t CMainFrame::GetPaletteBarCell() const {
+    return palettePanel_->cell();
+}
+
+void CMainFrame::SelectPaletteBarCell(std::int32_t cell) {
+    palettePanel_->selectCell(cell);
+}
+
+QPixmap CMainFrame::picture() {
+    QPixmap whole = grab();
+    if (palettePanel_->isShown()) {
+        QPainter painter(&whole);
+        painter.drawPixmap(mapFromGlobal(palettePanel_->pos()), palettePanel_->grab());
+    }
+    return whole;
+}
+
+void CMainFrame::OnUpdateFrameTitle() {
+    QString caption = shown(StringId::ApplicationTitle);
+    if (const ProjectDocument* project = application_.projectDocument()) {
+        // "[*]" is Qt's mark for a changed document, doubled it is itself.
+        caption +=
+            QStringLiteral(" @ ") +
+            QString::fromStdString(project->title()).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+    }
+    setCaption(caption);
+}
+
+bool CMainFrame::OnClose() {
+    savePlacement();
+    application_.SaveOpenDocuments();
+    if (!application_.CloseProject())
+        return false;
+    saveBarLayout(*this, *palettePanel_);
+    return application_.SaveAllModified();
 }
 
 void CMainFrame::closeEvent(QCloseEvent* event) {
-    if (!application_.SaveAllModified()) {
-        event->ignore();
+    event->ignore();
+    // Questions let events through, another wish to close among them.
+    if (closing_)
         return;
-    }
-    saveLayout();
+    closing_ = true;
+    const bool agreed = OnClose();
+    closing_ = false;
+    if (!agreed)
+        return;
     closeChildrenUnasked();
     MdiFrame::closeEvent(event);
 }
 
-void CMainFrame::changeEvent(QEvent* event) {
-    // The area keeps the background that it was made with.
-    if (event->type() == QEvent::PaletteChange)
-        area().setBackground(palette().brush(QPalette::Dark));
-    MdiFrame::changeEvent(event);
+void CMainFrame::setVisible(bool visible) {
+    if (!visible)
+        palettePanel_->hide();
+    MdiFrame::setVisible(visible);
+    // Only above a window that is there already will it float.
+    if (visible)
+        palettePanel_->setShown(palettePanel_->isShown());
 }
 
 void CMainFrame::dragEnterEvent(QDragEnterEvent* event) {
@@ -188,7 +275,8 @@ void CMainFrame::dragEnterEvent(QDragEnterEvent* event) {
 
 void CMainFrame::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
-    application_.OpenFiles(filesIn(*event->mimeData()), false);
+    for (const std::string& path : filesIn(*event->mimeData()))
+        application_.OpenDocumentFile(path);
 }
 
 } // namespace dyeworks

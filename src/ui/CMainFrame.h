@@ -6,28 +6,30 @@
 #include "platform/StringId.h"
 #include "ui/PrintCommands.h"
 
-#include <array>
+#include <cstdint>
 #include <map>
 #include <span>
 #include <string>
 
-class QLabel;
 class QMenu;
 
 namespace dyeworks {
 
 class CDyeworksApp;
 class CDyeworksDoc;
+class CProjectBar;
 class ImageView;
 class PalettePanel;
+class StatusPanes;
 
-/// The main window: image windows in the middle, menus and bars around them, the palette panel at the side.
-/// What it shows follows the application; where its parts stand is kept in the settings, section "Window".
+/// The main window: documents in the middle, menus, tool bars, project bar and status bar around them, the
+/// palette panel floating above. What it shows follows the application; its place and that of its bars are
+/// kept in the settings.
 class CMainFrame : public MdiFrame {
     Q_OBJECT
 
 public:
-    static constexpr QSize kFirstSize{1024, 720}; ///< Where the screen has room for it.
+    static constexpr QSize kFirstSize{1152, 760}; ///< Where the screen has room for it.
 
     /// The application must outlive the window.
     explicit CMainFrame(CDyeworksApp& application);
@@ -44,32 +46,70 @@ public:
     /// The view in the active window; null when there is none.
     [[nodiscard]] ImageView* activeImageView() const;
 
-    /// Pane 0 is the message pane, 1 the pointer position, 2 the size of the image.
-    void SetStatusText(const std::string& text, int pane);
+    /// Pane 0 is the message pane, 1 the pointer position, 2 the size of the image. The flags, those of
+    /// StatusPanes, are for the message pane.
+    void SetStatusText(const std::string& text, int pane, unsigned flags = 0);
+
+    /// The open project, its title or its pictures are others now.
+    void ProjectChanged();
+    /// Makes the picture of this name the one that is chosen in the project bar.
+    void SelectPicture(const std::string& name);
+
+    // The palette bar.
+    /// Shows the current palette anew.
+    void RefreshPaletteBar();
+    /// Lists the open palettes anew.
+    void FillPaletteBarList();
+    /// Entry of the current palette that a 4-bit image's value 0 shows.
+    [[nodiscard]] std::int32_t GetPaletteBarFirstEntry() const;
+    /// The cell to draw with; negative when there is none.
+    [[nodiscard]] std::int32_t GetPaletteBarCell() const;
+    void SelectPaletteBarCell(std::int32_t cell);
+
+    /// The window as a picture, with the palette bar where it floats above it.
+    [[nodiscard]] QPixmap picture();
+
+    /// Shows and hides the palette bar along.
+    void setVisible(bool visible) override;
 
 protected:
+    void OnUpdateFrameTitle() override;
     void closeEvent(QCloseEvent* event) override;
-    void changeEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     QMenu* createPopupMenu() override;
 
 private:
-    void makeToolBar(const char* name, CommandId id, StringId title, std::span<const MenuItem> items);
+    void describeCommands();
+    void makeToolBar(const char* name, CommandId id, StringId title, StringId help,
+                     std::span<const MenuItem> items);
+    void makePaletteBar();
+    void makeProjectBar();
+    void restorePlacement();
+    void savePlacement() const;
+    /// What closing does before the window goes. False when the user cancels.
+    bool OnClose();
+
     /// The bar is shown and hidden by this command.
     void addBar(CommandId id, QWidget& bar);
     void OnToggleBar(CommandId id);
     void OnUpdateBar(CommandUi& ui);
-    void makeStatusBar();
-    void restoreLayout();
-    void saveLayout() const;
+    void OnTogglePaletteBar();
+    void OnUpdatePaletteBar(CommandUi& ui);
+    void OnPictureButton() {}
+    void OnUpdatePictureButton(CommandUi& ui);
+    void OnHelpIndex();
+    void OnHelp();
+    void OnContextHelp();
 
     CDyeworksApp& application_;
     CommandActions actions_;
     PrintCommands printing_;
-    PalettePanel* palettePanel_;
+    bool closing_ = false; ///< While documents are recorded and the project and they are closed.
+    StatusPanes* panes_ = nullptr;
+    CProjectBar* projectBar_ = nullptr;
+    PalettePanel* palettePanel_ = nullptr;
     std::map<CommandId, QWidget*> bars_; ///< By the commands that show and hide them.
-    std::array<QLabel*, 2> panes_{};     ///< Panes 1 and 2.
 };
 
 } // namespace dyeworks

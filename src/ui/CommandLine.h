@@ -3,21 +3,52 @@
 #include <QString>
 #include <QStringList>
 
+#include <string>
+#include <vector>
+
 namespace dyeworks {
 
 /// What the command line asks for.
 struct CommandLine {
-    QStringList files;    ///< As the host writes them, absolute.
-    QString language;     ///< "ja", "en", or empty for the desktop's.
-    QString settingsFile; ///< Empty for the user's own settings.
-    bool attach = false;  ///< Attach each image to the palette that is current when it opens.
-    QString renderTo;     ///< Picture file to render the main window to, or empty.
-    bool ended = false;   ///< Help, the version or an error has been printed: nothing is to be started.
-    int exitCode = 0;     ///< Of the process, when `ended`.
+    enum class Task {
+        Nothing,    ///< Just start, with what was open last.
+        Open,       ///< Open the files.
+        Print,      ///< Print the last of the files on the default printer and end.
+        PrintTo,    ///< The same on a printer that is named, or into a file.
+        Receive,    ///< Start and wait for files that are handed over.
+        Serve,      ///< Serve documents that embed an image, which no desktop asks for here.
+        Unregister, ///< Take back what a start told the desktop and end.
+    };
+
+    Task task = Task::Nothing;
+    QStringList files;        ///< As the host writes them, absolute, as are all files below.
+    QString printer;          ///< Name of the printer to print to.
+    QString printFile;        ///< PDF file to print into instead, or empty.
+    QString language;         ///< "ja", "en", or empty for the desktop's.
+    QString settingsFile;     ///< Empty for the user's own settings.
+    bool attach = false;      ///< Attach each image to the palette that is current when it opens.
+    bool newInstance = false; ///< Start another program even when one runs.
+    bool noSplash = false;
+    QString renderTo;   ///< Picture file to render the main window to, or empty.
+    bool ended = false; ///< Help, the version or an error has been printed: nothing is to be started.
+    int exitCode = 0;   ///< Of the process, when `ended`.
+
+    /// The files as the program writes paths.
+    [[nodiscard]] std::vector<std::string> paths() const;
+    [[nodiscard]] bool prints() const noexcept { return task == Task::Print || task == Task::PrintTo; }
+    [[nodiscard]] bool renders() const noexcept { return !renderTo.isEmpty(); }
+    /// Whether somebody is going to sit before the window.
+    [[nodiscard]] bool isInteractive() const noexcept {
+        return !prints() && !renders() && task != Task::Serve && task != Task::Unregister;
+    }
+    /// Whether a program that is running can do what is asked for.
+    [[nodiscard]] bool canBeHandedOver() const noexcept { return isInteractive() && !newInstance && !attach; }
 };
 
 /// Reads the program's arguments, the program's name first. Prints what `--help` and `--version` ask for,
-/// and what is wrong with an argument.
+/// and what is wrong with an argument. The switches of document programs on other desktops are taken beside
+/// our own options: "/p FILE", "/pt FILE PRINTER DRIVER PORT" and the like, with "/" or "-". An argument that
+/// begins with "/" and names an existing file is that file.
 [[nodiscard]] CommandLine parseCommandLine(const QStringList& arguments);
 
 } // namespace dyeworks

@@ -8,8 +8,29 @@ namespace dyeworks {
 
 namespace {
 
+// The recent files.
+constexpr std::array kRecentProjects{
+    MenuItem{ID_RECENT_PROJECT_FIRST},
+};
+
+constexpr std::array kRecentImages{
+    MenuItem{ID_RECENT_IMAGE_FIRST},
+};
+
+constexpr std::array kRecentPalettes{
+    MenuItem{ID_RECENT_PALETTE_FIRST},
+};
+
 constexpr std::array kFileMenu{
-    MenuItem{ID_FILE_NEW}, MenuItem{ID_FILE_OPEN}, kSeparator, MenuItem{ID_FILE_PRINT_SETUP}, kSeparator,
+    MenuItem{ID_FILE_NEW},
+    MenuItem{ID_FILE_OPEN},
+    kSeparator,
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Recent Pro&ject Files"), kRecentProjects},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Recent I&mage Files"), kRecentImages},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Recent Pa&lette Files"), kRecentPalettes},
+    kSeparator,
+    MenuItem{ID_FILE_PRINT_SETUP},
+    kSeparator,
     MenuItem{ID_APP_EXIT},
 };
 
@@ -33,6 +54,10 @@ constexpr std::array kImageFileMenu{
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Import"), kImportMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Export"), kExportMenu},
     kSeparator,
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Recent Pro&ject Files"), kRecentProjects},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Recent I&mage Files"), kRecentImages},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Recent Pa&lette Files"), kRecentPalettes},
+    kSeparator,
     MenuItem{ID_FILE_PRINT},
     MenuItem{ID_FILE_PRINT_DIRECT},
     MenuItem{ID_FILE_PRINT_PREVIEW},
@@ -41,9 +66,45 @@ constexpr std::array kImageFileMenu{
     MenuItem{ID_APP_EXIT},
 };
 
+constexpr std::array kProjectFileMenu{
+    MenuItem{ID_FILE_NEW},
+    MenuItem{ID_FILE_OPEN},
+    MenuItem{ID_FILE_CLOSE},
+    kSeparator,
+    MenuItem{ID_FILE_SAVE},
+    MenuItem{ID_FILE_SAVE_AS},
+    kSeparator,
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Export"), kExportMenu},
+    kSeparator,
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Recent Pro&ject Files"), kRecentProjects},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Recent I&mage Files"), kRecentImages},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Recent Pa&lette Files"), kRecentPalettes},
+    kSeparator,
+    MenuItem{ID_FILE_PRINT_SETUP},
+    kSeparator,
+    MenuItem{ID_APP_EXIT},
+};
+
 constexpr std::array kEditMenu{
+    MenuItem{ID_EDIT_UNDO}, MenuItem{ID_EDIT_REDO},  kSeparator, MenuItem{ID_EDIT_CUT},
+    MenuItem{ID_EDIT_COPY}, MenuItem{ID_EDIT_PASTE}, kSeparator, MenuItem{ID_OPTIONS},
+};
+
+constexpr std::array kImageEditMenu{
     MenuItem{ID_EDIT_UNDO},
     MenuItem{ID_EDIT_REDO},
+    kSeparator,
+    MenuItem{ID_EDIT_CUT},
+    MenuItem{ID_EDIT_COPY},
+    MenuItem{ID_EDIT_PASTE},
+    kSeparator,
+    MenuItem{ID_EDIT_SELECT_ALL},
+    MenuItem{ID_CANCEL_SELECTION},
+    kSeparator,
+    MenuItem{ID_FLIP_X},
+    MenuItem{ID_FLIP_Y},
+    kSeparator,
+    MenuItem{ID_OPTIONS},
 };
 
 constexpr std::array kZoomMenu{
@@ -53,8 +114,8 @@ constexpr std::array kZoomMenu{
 };
 
 constexpr std::array kBarsMenu{
-    MenuItem{ID_VIEW_PALETTEBAR}, MenuItem{ID_VIEW_TOOLBAR},    MenuItem{ID_VIEW_DRAWBAR},
-    MenuItem{ID_VIEW_VIEWBAR},    MenuItem{ID_VIEW_STATUS_BAR},
+    MenuItem{ID_VIEW_PALETTEBAR}, MenuItem{ID_VIEW_PROJECTBAR}, MenuItem{ID_VIEW_TOOLBAR},
+    MenuItem{ID_VIEW_DRAWBAR},    MenuItem{ID_VIEW_VIEWBAR},    MenuItem{ID_VIEW_STATUS_BAR},
 };
 
 constexpr std::array kImageViewMenu{
@@ -76,6 +137,9 @@ constexpr std::array kImageMenu{
 };
 
 constexpr std::array kDrawMenu{
+    MenuItem{ID_TOOL_SELECT},
+    MenuItem{ID_TOOL_ZOOM_LENS},
+    kSeparator,
     MenuItem{ID_TOOL_PIXEL},
     MenuItem{ID_TOOL_PEN},
     MenuItem{ID_TOOL_LINE},
@@ -87,11 +151,64 @@ constexpr std::array kDrawMenu{
     MenuItem{ID_TOOL_CIRCLE_FILL},
     kSeparator,
     MenuItem{ID_TOOL_PAINT},
+    MenuItem{ID_TOOL_REPLACER},
+    kSeparator,
+    MenuItem{ID_TOOL_SPUIT},
+};
+
+// Apart, because "Copy" and "Open" of a palette have the same letter.
+constexpr std::array kEntriesMenu{
+    MenuItem{ID_PALETTE_EDIT}, MenuItem{ID_PALETTE_UNDO},  MenuItem{ID_PALETTE_REDO}, kSeparator,
+    MenuItem{ID_PALETTE_COPY}, MenuItem{ID_PALETTE_PASTE},
 };
 
 constexpr std::array kPaletteMenu{
-    MenuItem{ID_PALETTE_OPEN}, MenuItem{ID_PALETTE_CLOSE},   kSeparator,
-    MenuItem{ID_PALETTE_SAVE}, MenuItem{ID_PALETTE_SAVE_AS},
+    MenuItem{ID_PALETTE_NEW},
+    MenuItem{ID_PALETTE_OPEN},
+    MenuItem{ID_PALETTE_CLOSE},
+    kSeparator,
+    MenuItem{ID_PALETTE_SAVE},
+    MenuItem{ID_PALETTE_SAVE_AS},
+    kSeparator,
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Entries"), kEntriesMenu},
+};
+
+constexpr std::array kPictureMenu{
+    MenuItem{ID_PICTURE_ADD},
+    MenuItem{ID_PICTURE_CHANGE},
+    MenuItem{ID_PICTURE_REMOVE},
+};
+
+constexpr std::array kNodeMenu{
+    MenuItem{ID_NODE_ADD},      MenuItem{ID_NODE_EDIT}, MenuItem{ID_NODE_REMOVE}, kSeparator,
+    MenuItem{ID_NODE_PROPERTY},
+};
+
+constexpr std::array kProjectMenu{
+    MenuItem{ID_PROJECT_NEW},
+    MenuItem{ID_PROJECT_OPEN},
+    MenuItem{ID_PROJECT_CLOSE},
+    kSeparator,
+    MenuItem{ID_PROJECT_SAVE},
+    MenuItem{ID_PROJECT_SAVE_AS},
+    kSeparator,
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "P&icture"), kPictureMenu},
+    kSeparator,
+    MenuItem{ID_PROJECT_PROPERTY},
+};
+
+constexpr std::array kTreeProjectMenu{
+    MenuItem{ID_PROJECT_NEW},
+    MenuItem{ID_PROJECT_OPEN},
+    MenuItem{ID_PROJECT_CLOSE},
+    kSeparator,
+    MenuItem{ID_PROJECT_SAVE},
+    MenuItem{ID_PROJECT_SAVE_AS},
+    kSeparator,
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "P&icture"), kPictureMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "No&de"), kNodeMenu},
+    kSeparator,
+    MenuItem{ID_PROJECT_PROPERTY},
 };
 
 constexpr std::array kWindowMenu{
@@ -100,40 +217,48 @@ constexpr std::array kWindowMenu{
 };
 
 constexpr std::array kHelpMenu{
-    MenuItem{ID_APP_ABOUT},
+    MenuItem{ID_HELP_INDEX}, MenuItem{ID_HELP}, MenuItem{ID_CONTEXT_HELP}, kSeparator, MenuItem{ID_APP_ABOUT},
 };
 
 constexpr std::array kMainMenu{
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&File"), kFileMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Edit"), kEditMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&View"), kBarsMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Palette"), kPaletteMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "P&roject"), kProjectMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Help"), kHelpMenu},
 };
 
 constexpr std::array kImageMainMenu{
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&File"), kImageFileMenu},
-    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Edit"), kEditMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Edit"), kImageEditMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&View"), kImageViewMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Image"), kImageMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Draw"), kDrawMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Palette"), kPaletteMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "P&roject"), kProjectMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Window"), kWindowMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Help"), kHelpMenu},
+};
+
+constexpr std::array kProjectMainMenu{
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&File"), kProjectFileMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Edit"), kEditMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&View"), kBarsMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Palette"), kPaletteMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "P&roject"), kTreeProjectMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Window"), kWindowMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Help"), kHelpMenu},
 };
 
 constexpr std::array kToolBar{
-    MenuItem{ID_FILE_NEW},
-    MenuItem{ID_FILE_OPEN},
-    MenuItem{ID_FILE_SAVE},
-    kSeparator,
-    MenuItem{ID_EDIT_UNDO},
-    MenuItem{ID_EDIT_REDO},
-    kSeparator,
-    MenuItem{ID_FILE_PRINT},
-    MenuItem{ID_PALETTE_OPEN},
-    MenuItem{ID_IMAGE_ATTACH},
-    kSeparator,
-    MenuItem{ID_APP_ABOUT},
+    MenuItem{ID_FILE_NEW},     MenuItem{ID_FILE_OPEN},
+    MenuItem{ID_FILE_SAVE},    kSeparator,
+    MenuItem{ID_EDIT_UNDO},    MenuItem{ID_EDIT_REDO},
+    MenuItem{ID_EDIT_CUT},     MenuItem{ID_EDIT_COPY},
+    MenuItem{ID_EDIT_PASTE},   kSeparator,
+    MenuItem{ID_FILE_PRINT},   MenuItem{ID_APP_ABOUT},
+    MenuItem{ID_CONTEXT_HELP},
 };
 
 constexpr std::array kViewBar{
@@ -147,9 +272,20 @@ constexpr std::array kViewBar{
 };
 
 constexpr std::array kDrawBar{
-    MenuItem{ID_TOOL_PIXEL},       MenuItem{ID_TOOL_PEN},      MenuItem{ID_TOOL_LINE},
-    MenuItem{ID_TOOL_BOX},         MenuItem{ID_TOOL_BOX_FILL}, MenuItem{ID_TOOL_CIRCLE},
-    MenuItem{ID_TOOL_CIRCLE_FILL}, MenuItem{ID_TOOL_PAINT},
+    MenuItem{ID_TOOL_SELECT},
+    MenuItem{ID_TOOL_ZOOM_LENS},
+    kSeparator,
+    MenuItem{ID_TOOL_PIXEL},
+    MenuItem{ID_TOOL_PEN},
+    MenuItem{ID_TOOL_LINE},
+    MenuItem{ID_TOOL_BOX},
+    MenuItem{ID_TOOL_BOX_FILL},
+    MenuItem{ID_TOOL_CIRCLE},
+    MenuItem{ID_TOOL_CIRCLE_FILL},
+    MenuItem{ID_TOOL_PAINT},
+    MenuItem{ID_TOOL_REPLACER},
+    kSeparator,
+    MenuItem{ID_TOOL_SPUIT},
 };
 
 } // namespace
@@ -159,6 +295,9 @@ std::span<const MenuItem> mainMenu() {
 }
 std::span<const MenuItem> imageMenu() {
     return kImageMainMenu;
+}
+std::span<const MenuItem> projectMenu() {
+    return kProjectMainMenu;
 }
 std::span<const MenuItem> barsMenu() {
     return kBarsMenu;

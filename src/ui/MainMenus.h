@@ -11,6 +11,8 @@ namespace dyeworks {
 std::span<const MenuItem> mainMenu();
 /// While an image is the active one.
 std::span<const MenuItem> imageMenu();
+/// While a project's tree is the active one.
+std::span<const MenuItem> projectMenu();
 
 /// What can be shown and hidden; also the context menu of the bars.
 std::span<const MenuItem> barsMenu();

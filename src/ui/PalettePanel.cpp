@@ -3,9 +3,10 @@
 #include "core/PaletteSet.h"
 #include "platform/Files.h"
 #include "platform/Text.h"
-#include "ui/controls/SwatchGrid.h"
+#include "ui/controls/CSwatchGrid.h"
 
 #include <QAction>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -22,25 +23,57 @@ namespace dyeworks {
 
 namespace {
 
+// The size that 256 colours like to have, in heights of a letter: 16 swatches each way, and what stands
+// around.
+constexpr int kColumns = 18;
+constexpr int kRows = 23;
+
 QString shown(StringId id) {
     return QString::fromStdString(text(id));
 }
 
+/// 0xAABBGGRR of 0xAARRGGBB.
+constexpr std::uint32_t cellValueOf(std::uint32_t colour) {
+    return (colour & 0xff00ff00U) | (colour & 0xffU) << 16U | (colour >> 16U & 0xffU);
+}
+
 } // namespace
 
-PalettePanel::PalettePanel(PalettePanelHost& host, QAction* openPalette, QWidget* parent)
-    : QDockWidget(shown(StringId::BarPalette), parent)
+PalettePanel::PalettePanel(PalettePanelHost& host, QAction* openPalette, QWidget& owner)
+    : QWidget(&owner, Qt::Tool | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint)
     , host_(host)
     , pages_(new QStackedWidget(this)) {
-    setObjectName(QStringLiteral("ID_VIEW_PALETTE_BAR"));
+    setObjectName(QStringLiteral("ID_VIEW_PALETTEBAR"));
+    setWindowTitle(shown(StringId::BarPalette));
+    setWhatsThis(shown(StringId::HelpPaletteBar));
+    // The keys stay with the document when the panel comes up.
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(pages_);
     pages_->addWidget(makeEmptyPage(openPalette));
     pages_->addWidget(makePalettePage());
-    setWidget(pages_);
+    resize(sizeHint());
     tabsChanged();
     currentPaletteChanged();
 }
 
 PalettePanel::~PalettePanel() = default;
+
+void PalettePanel::setShown(bool shown) {
+    shown_ = shown;
+    setVisible(shown && parentWidget()->isVisible());
+}
+
+QSize PalettePanel::sizeHint() const {
+    const int letter = fontMetrics().height();
+    return QWidget::sizeHint().expandedTo({kColumns * letter, kRows * letter});
+}
+
+void PalettePanel::closeEvent(QCloseEvent* event) {
+    shown_ = false;
+    QWidget::closeEvent(event);
+}
 
 QWidget* PalettePanel::makeEmptyPage(QAction* openPalette) {
     auto* page = new QWidget;
@@ -68,7 +101,7 @@ QWidget* PalettePanel::makePalettePage() {
     palettes_->setMinimumContentsLength(12);
     connect(palettes_, &QComboBox::activated, this, &PalettePanel::choosePalette);
 
-    grid_ = new SwatchGrid;
+    grid_ = new CSwatchGrid;
     grid_->setObjectName(QStringLiteral("IDC_PALETTE_GRID"));
     grid_->setAccessibleName(shown(StringId::PaletteColours));
     grid_->setDescriber([this](int cell) {
@@ -76,7 +109,7 @@ QWidget* PalettePanel::makePalettePage() {
         return palette == nullptr ? QString()
                                   : QString::fromStdString(PalettePanelState::describe(*palette, cell));
     });
-    connect(grid_, &SwatchGrid::cellChosen, this, &PalettePanel::chooseCell);
+    connect(grid_, &CSwatchGrid::clicked, this, [this] { chooseCell(grid_->marker(CSwatchGrid::kCurrent)); });
 
     entry_ = new QLabel;
     entry_->setObjectName(QStringLiteral("IDC_PALETTE_ENTRY"));
@@ -135,18 +168,28 @@ void PalettePanel::currentPaletteChanged() {
     const TextureLookupTable* palette = currentPalette();
     state_.show(palette, host_.panelImage());
     pages_->setCurrentIndex(palette == nullptr ? 0 : 1);
-    if (palette != nullptr)
-        grid_->setColours(PalettePanelState::colours(*palette), state_.columns());
-    else
-        grid_->setColours({}, 0);
+    showColours(palette);
     bankRow_->setVisible(state_.inBankMode());
     showCell();
 }
 
+void PalettePanel::showColours(const TextureLookupTable* palette) {
+    const std::vector<std::uint32_t> colours =
+        palette == nullptr ? std::vector<std::uint32_t>() : PalettePanelState::colours(*palette);
+    const auto count = static_cast<std::int16_t>(colours.size());
+    const auto columns = static_cast<std::int16_t>(state_.columns());
+    grid_->setCellCount(count);
+    grid_->setCellLayout(columns, columns == 0 ? columns : static_cast<std::int16_t>(count / columns));
+    for (std::int16_t cell = 0; cell < count; ++cell)
+        grid_->setCellValue(cell, cellValueOf(colours[static_cast<std::size_t>(cell)]));
+    grid_->describeAgain();
+}
+
 void PalettePanel::showCell() {
     const TextureLookupTable* palette = currentPalette();
-    grid_->setCurrentCell(state_.cell());
-    grid_->setMarkedRow(state_.inBankMode() ? state_.bank() : SwatchGrid::kNone);
+    grid_->setMarker(CSwatchGrid::kCurrent, static_cast<std::int16_t>(state_.cell()));
+    grid_->setBankMode(state_.inBankMode());
+    grid_->setBankRow(static_cast<std::int16_t>(state_.bank()));
     entry_->setText(palette == nullptr
                         ? QString()
                         : QString::fromStdString(PalettePanelState::describe(*palette, state_.cell())));

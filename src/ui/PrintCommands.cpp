@@ -57,6 +57,22 @@ QPrinter& PrintCommands::printer() {
     return *printer_;
 }
 
+bool PrintCommands::printUnasked(ImageView& view, const QString& printerName, const QString& file) {
+    QPrinter& target = printer();
+    if (file.isEmpty()) {
+        const QPrinterInfo chosen =
+            printerName.isEmpty() ? QPrinterInfo::defaultPrinter() : QPrinterInfo::printerInfo(printerName);
+        if (chosen.isNull())
+            return false;
+        target.setPrinterName(chosen.printerName());
+    } else {
+        target.setOutputFormat(QPrinter::PdfFormat);
+        target.setOutputFileName(file);
+    }
+    target.setDocName(QString::fromStdString(view.view().document().displayName()));
+    return ImagePrinter(view).print(target, [](int, int) { return true; });
+}
+
 bool PrintCommands::chooseByDialog(QPrinter& printer) {
     QPrintDialog dialog(&printer, &frame_);
     const int pages = ImagePrinter(*frame_.activeImageView()).pageCount(printer);

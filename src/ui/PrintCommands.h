@@ -6,10 +6,12 @@
 #include <memory>
 
 class QPrinter;
+class QString;
 
 namespace dyeworks {
 
 class CMainFrame;
+class ImageView;
 
 /// The printing commands for the active image, and the printer that is set up for all of them.
 class PrintCommands : public CommandTarget {
@@ -25,6 +27,10 @@ public:
     void setChooser(Chooser chooser) { choose_ = std::move(chooser); }
     /// Made when it is first asked for: finding the printers takes a while.
     [[nodiscard]] QPrinter& printer();
+
+    /// Prints what the view shows without any window: into `file` (PDF, as the host writes it), or where that
+    /// is empty on the printer called so, the default one for no name. False when it could not be printed.
+    [[nodiscard]] bool printUnasked(ImageView& view, const QString& printerName, const QString& file);
 
 private:
     bool chooseByDialog(QPrinter& printer);

@@ -13,19 +13,19 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <memory>
 #include <span>
-#include <string>
 #include <string_view>
-#include <vector>
 
 namespace dyeworks {
 
 namespace {
 
-/// Whether the arguments ask for a text only, which needs no display.
-bool asksForText(std::span<char*> arguments) {
+/// Whether the arguments ask for something that needs no display.
+bool needsNoDisplay(std::span<char*> arguments) {
     return std::ranges::any_of(arguments, [](std::string_view argument) {
-        return argument == "--help" || argument == "-h" || argument == "--version" || argument == "-v";
+        return argument == "--help" || argument == "-h" || argument == "--version" || argument == "-v" ||
+               argument == "--unregister";
     });
 }
 
@@ -42,18 +42,29 @@ private:
     Platform* before_;
 };
 
-std::vector<std::string> pathsOf(const QStringList& files) {
-    std::vector<std::string> paths;
-    for (const QString& file : files)
-        paths.push_back(platform().files().fromHostPath(file.toStdString()));
-    return paths;
+int unregister(const CommandLine& commandLine) {
+    QtPlatform desktop(commandLine.settingsFile.toStdString());
+    if (desktop.shell().unregisterFileTypes()) {
+        std::puts(
+            "The desktop no longer opens files with Orrery Dyeworks, unless it is installed for all users.");
+        return 0;
+    }
+    std::fputs("Dyeworks: the program's entries in the user's desktop could not all be removed.\n", stderr);
+    return 1;
+}
+
+void install(QApplication& application, const CommandLine& commandLine) {
+    if (commandLine.language.isEmpty())
+        installLanguage(application, platform().locale().defaultLocale());
+    else
+        installLanguage(application, commandLine.language.toStdString());
 }
 
 bool renderWindow(CMainFrame& window, const QString& file) {
     // Sizes of frames and bars settle with the events that showing them has posted.
     QApplication::processEvents();
     window.commandActions().refresh();
-    if (window.grab().save(file, "PNG"))
+    if (window.picture().save(file, "PNG"))
         return true;
     std::fprintf(stderr, "Dyeworks: cannot write %s\n", qPrintable(file));
     return false;
@@ -61,10 +72,15 @@ bool renderWindow(CMainFrame& window, const QString& file) {
 
 } // namespace
 
+bool handToRunningProgram(const CommandLine& commandLine) {
+    return commandLine.canBeHandedOver() && platform().shell().handToRunningInstance(commandLine.paths());
+}
+
 int runDyeworks(int argc, char** argv) {
-    if (asksForText(std::span(argv, static_cast<std::size_t>(argc)))) {
+    if (needsNoDisplay(std::span(argv, static_cast<std::size_t>(argc)))) {
         const QCoreApplication application(argc, argv);
-        return parseCommandLine(QCoreApplication::arguments()).exitCode;
+        const CommandLine commandLine = parseCommandLine(QCoreApplication::arguments());
+        return commandLine.ended ? commandLine.exitCode : unregister(commandLine);
     }
 
     QApplication application(argc, argv);
@@ -74,28 +90,33 @@ int runDyeworks(int argc, char** argv) {
     const CommandLine commandLine = parseCommandLine(QApplication::arguments());
     if (commandLine.ended)
         return commandLine.exitCode;
-    const bool rendering = !commandLine.renderTo.isEmpty();
+    if (commandLine.task == CommandLine::Task::Unregister)
+        return unregister(commandLine);
 
     QtPlatform desktop(commandLine.settingsFile.toStdString());
-    desktop.setInteractive(!rendering);
+    desktop.setInteractive(commandLine.isInteractive());
     const InstalledPlatform installed(desktop);
-    if (commandLine.language.isEmpty())
-        installLanguage(application, desktop.locale().userLocale());
-    else
-        installLanguage(application, commandLine.language.toStdString());
+    install(application, commandLine);
+    if (handToRunningProgram(commandLine))
+        return 0;
 
-    CDyeworksApp program;
-    desktop.setMainWindow(&program.mainFrame());
-    // A picture has no screen to fit on.
-    if (rendering)
-        program.mainFrame().resize(CMainFrame::kFirstSize);
-    program.mainFrame().show();
-    const bool allOpened = program.OpenFiles(pathsOf(commandLine.files), commandLine.attach);
-    if (rendering) {
-        const bool rendered = renderWindow(program.mainFrame(), commandLine.renderTo);
-        return allOpened && rendered ? 0 : 1;
-    }
-    return QApplication::exec();
+    StartUpParts parts;
+    parts.makeMainFrame = [&, make = parts.makeMainFrame](CDyeworksApp& program) {
+        std::unique_ptr<CMainFrame> frame = make(program);
+        desktop.setMainWindow(frame.get());
+        // A picture has no screen to fit on.
+        if (frame != nullptr && commandLine.renders())
+            frame->resize(CMainFrame::kFirstSize);
+        return frame;
+    };
+    CDyeworksApp program(std::move(parts));
+    const bool started = program.InitInstance(commandLine);
+    const bool rendered =
+        !started || !commandLine.renders() || renderWindow(program.mainFrame(), commandLine.renderTo);
+    if (started && !commandLine.renders())
+        QApplication::exec();
+    const int exitCode = program.ExitInstance();
+    return rendered ? exitCode : 1;
 }
 
 } // namespace dyeworks

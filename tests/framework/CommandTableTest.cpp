@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <sstream>
 #include <string>
@@ -20,6 +21,17 @@ TEST(CommandTable, EveryCommandHasTextsForMenuStatusLineAndToolTip) {
         EXPECT_EQ(findCommand(row.id), &row);
     }
     EXPECT_EQ(findCommand(ID_ZOOM_X4 + 1), nullptr);
+}
+
+TEST(CommandTable, ListsReachToTheirLastNumberAndIntoNoOtherRow) {
+    CommandId previous = 0;
+    for (const CommandRow& row : commandTable()) {
+        EXPECT_GT(row.id, previous);
+        previous = std::max(row.id, row.last);
+        EXPECT_EQ(findCommand(previous), &row) << previous;
+        EXPECT_NE(findCommand(previous + 1), &row) << previous;
+    }
+    EXPECT_EQ(findCommand(ID_RECENT_IMAGE_FIRST + 7), findCommand(ID_RECENT_IMAGE_LAST));
 }
 
 TEST(CommandTable, NoShortcutStandsForTwoCommands) {

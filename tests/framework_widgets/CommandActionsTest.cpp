@@ -37,10 +37,29 @@ private:
     }
 };
 
+/// Two of the commands of a list have something to say.
+class Lister : public CommandTarget {
+public:
+    Lister() { onRange(ID_RECENT_IMAGE_FIRST, ID_RECENT_IMAGE_LAST, &Lister::OnOpen, &Lister::OnUpdateOpen); }
+    std::vector<std::string> names{"&1 sea", "&2 sky"};
+    CommandId opened = 0;
+
+private:
+    void OnOpen(CommandId id) { opened = id; }
+    void OnUpdateOpen(CommandUi& ui) {
+        const std::size_t index = ui.id - ID_RECENT_IMAGE_FIRST;
+        ui.visible = index < names.size();
+        if (ui.visible)
+            ui.text = names[index];
+    }
+};
+
 struct Actions : testing::Test {
     FakePlatform fake;
     Viewer viewer;
-    CommandRouter router{[this] { return std::vector<CommandTarget*>{&viewer}; }};
+    Lister lister;
+    std::vector<CommandTarget*> chain{&viewer};
+    CommandRouter router{[this] { return chain; }};
     CommandActions actions{router};
 };
 
@@ -72,6 +91,41 @@ TEST_F(Actions, StatesAreFreshWhenAMenuOpensAndWhenIdle) {
     Q_EMIT QAbstractEventDispatcher::instance()->aboutToBlock();
     EXPECT_FALSE(undo.isEnabled());
     EXPECT_EQ(undo.text(), QStringLiteral("&Undo"));
+}
+
+QStringList shownIn(const QMenu& menu) {
+    QStringList texts;
+    for (const QAction* action : menu.actions()) {
+        if (action->isVisible())
+            texts += action->text();
+    }
+    return texts;
+}
+
+TEST_F(Actions, MenuShowsTheEntriesOfAListAndCannotOpenAnEmptyOne) {
+    static constexpr std::array kList{MenuItem{ID_RECENT_IMAGE_FIRST}};
+    constexpr std::array kItems{MenuItem{ID_EDIT_UNDO}, MenuItem{0, "&Recent", kList}};
+    QMenu menu;
+    fillMenu(menu, kItems, actions);
+    const QAction& opener = *menu.actions().back();
+    const QMenu& list = *opener.menu();
+    EXPECT_EQ(list.actions().size(), ID_RECENT_IMAGE_LAST - ID_RECENT_IMAGE_FIRST + 1);
+
+    Q_EMIT menu.aboutToShow();
+    const QStringList placeholder{QString::fromStdString(menuText(*findCommand(ID_RECENT_IMAGE_FIRST)))};
+    EXPECT_EQ(shownIn(list), placeholder) << "nobody takes them";
+    chain.push_back(&lister);
+    Q_EMIT menu.aboutToShow();
+    const QStringList entries{QStringLiteral("&1 sea"), QStringLiteral("&2 sky")};
+    EXPECT_EQ(shownIn(list), entries);
+    EXPECT_TRUE(opener.isEnabled());
+    list.actions()[1]->trigger();
+    EXPECT_EQ(lister.opened, ID_RECENT_IMAGE_FIRST + 1);
+
+    lister.names.clear();
+    Q_EMIT menu.aboutToShow();
+    EXPECT_EQ(shownIn(list), QStringList());
+    EXPECT_FALSE(opener.isEnabled());
 }
 
 TEST_F(Actions, EveryShortcutAndIconOfTheTableIsUnderstood) {

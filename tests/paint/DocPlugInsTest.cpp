@@ -74,6 +74,7 @@ TEST_F(DocPlugIns, CommandsStandForThePlugInsOfTheirNumbers) {
         for (CommandId id = first; id < first + 16; ++id) {
             const CommandUi ui = stateOf(document, id);
             EXPECT_EQ(ui.enabled, ui.text.has_value());
+            EXPECT_EQ(ui.visible, ui.enabled);
             texts.push_back(ui.text.value_or(""));
         }
         return texts;

@@ -21,7 +21,7 @@ public:
     void repaintNow() override {
         ++repaints;
         if (view != nullptr)
-            paintedRequest = view->BeginPaint();
+            paintedRequest = view->BeginPaint().bits;
     }
     void capturePointer() override { captured = true; }
     void releasePointer() override {
@@ -33,6 +33,7 @@ public:
     void fitFrame() override {}
     std::optional<WindowPlacement> placement() const override { return place; }
     void setPlacement(const WindowPlacement& placement) override { place = placement; }
+    void setDisplayPalette(const DisplayPalette* palette) override { displayPalette = palette; }
     void startTicking(int milliseconds) override { interval = milliseconds; }
     void stopTicking() override { interval = 0; }
     Point pointerPosition() const override { return pointer; }
@@ -47,6 +48,7 @@ public:
     int repaints = 0;
     std::uint32_t paintedRequest = 0; ///< Of the last repaint.
     std::optional<WindowPlacement> place;
+    const DisplayPalette* displayPalette = nullptr;
     int interval = 0; ///< In milliseconds; 0 while it does not tick.
     Point pointer;
     CDyeworksView* view = nullptr;

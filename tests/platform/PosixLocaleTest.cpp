@@ -1,8 +1,11 @@
 #include "platform/posix/PosixLocale.h"
 
+#include "platform/fake/ScratchFolder.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <fstream>
 #include <map>
 
 namespace dyeworks {
@@ -51,6 +54,28 @@ TEST_F(PosixLocaleTest, ReadsTheUsersLanguageFromTheFirstVariableThatIsSet) {
         set("LANG", c.lang);
         EXPECT_EQ(locale.userLocale(), c.number) << c.all << "|" << c.messages << "|" << c.lang;
     }
+}
+
+TEST(PosixLocale, ReadsTheHostsLanguageFromTheFirstFileThatTellsOne) {
+    const ScratchFolder scratch;
+    const std::string first = scratch.path() + "/first";
+    const std::string second = scratch.path() + "/second";
+    std::ofstream(second) << "LANG='ja_JP.UTF-8'\n";
+    const struct {
+        const char* text;
+        int number;
+    } cases[] = {
+        {"", kLocaleJapanese},
+        {"# LANG=en_US\nLANGUAGE=en\nLANG=\n", kLocaleJapanese},
+        {"LANG=\"en_US.UTF-8\"\n", kLocaleEnglish},
+        {"LANG=ja_JP\nLANG=de_DE\n", 0},
+        {"LANG=en_US\nLC_ALL=ja_JP.UTF-8", kLocaleJapanese},
+    };
+    for (const auto& c : cases) {
+        std::ofstream(first) << c.text;
+        EXPECT_EQ(PosixLocale({first, second}).systemLocale(), c.number) << c.text;
+    }
+    EXPECT_EQ(PosixLocale({scratch.path() + "/gone"}).systemLocale(), kLocaleEnglish);
 }
 
 } // namespace

@@ -53,6 +53,19 @@ TEST_F(OpenRequestsTest, ReachTheOneInstanceThatListens) {
     EXPECT_EQ(received_, (std::vector<OpenRequests::Paths>{{"\\home\\kei\\sky.tmf", "", "\\空"}, {}, many}));
 }
 
+TEST_F(OpenRequestsTest, BringTheRightToComeToTheFront) {
+    QByteArray token;
+    ASSERT_TRUE(
+        requests_.listen([&](const OpenRequests::Paths&) { token = qgetenv("XDG_ACTIVATION_TOKEN"); }));
+    const QByteArray before = qgetenv("XDG_ACTIVATION_TOKEN");
+    qputenv("XDG_ACTIVATION_TOKEN", "token-7");
+    EXPECT_TRUE(sendFromOutside({}));
+    qputenv("XDG_ACTIVATION_TOKEN", "own");
+    QCoreApplication::processEvents();
+    qputenv("XDG_ACTIVATION_TOKEN", before);
+    EXPECT_EQ(token, "token-7");
+}
+
 TEST_F(OpenRequestsTest, ListenWhereAnInstanceLeftItsSocketBehind) {
     sockaddr_un name{};
     name.sun_family = AF_UNIX;

@@ -1,6 +1,9 @@
 #include "Desktop.h"
 #include "platform/qt/DesktopEntries.h"
 
+#include <QDateTime>
+#include <QDirIterator>
+#include <QImage>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -12,43 +15,111 @@ class ShellTest : public Desktop {
 protected:
     ShellTest() {
         qputenv("XDG_DATA_HOME", host("data").toUtf8());
+        qputenv("XDG_DATA_DIRS", host("shared").toUtf8());
         // The desktop's index builders would go on running in the folder when the test is over.
         qputenv("PATH", "");
     }
     ~ShellTest() override {
         qputenv("XDG_DATA_HOME", dataHome_);
+        qputenv("XDG_DATA_DIRS", dataDirs_);
         qputenv("PATH", searchPath_);
     }
 
+    [[nodiscard]] QStringList written() const {
+        QStringList files;
+        QDirIterator all(host("data"), QDir::Files, QDirIterator::Subdirectories);
+        while (all.hasNext())
+            files << all.next();
+        return files;
+    }
+
     QByteArray dataHome_ = qgetenv("XDG_DATA_HOME");
+    QByteArray dataDirs_ = qgetenv("XDG_DATA_DIRS");
     QByteArray searchPath_ = qgetenv("PATH");
     QString indexBuilder_ = QStandardPaths::findExecutable(QStringLiteral("update-mime-database"));
     QString entry_ = host("data/applications/orrery-dyeworks.desktop");
-    std::vector<FileTypeRegistration> types_{
-        {"TMF.Document", ".tmf", "image/x-orrery-tmf", "Image <4 & 8 bit>", std::string("TM\0\"\\\x01 7", 8)},
-        {"TPF.Document", ".tpf", "text/x-orrery-tpf", "Project", ""}};
+    Shell& shell_ = platform_.shell();
+    const std::vector<FileTypeRegistration> types_{
+        {"TMF.Document", ".tmf", "image/x-orrery-tmf"},
+        {"TLF.Document", ".tlf", "application/x-orrery-tlf"},
+    };
 };
 
 } // namespace
 
 TEST_F(ShellTest, RegistersTypesThatTheDesktopThenKnows) {
-    ASSERT_TRUE(platform_.shell().registerFileTypes(types_));
+    ASSERT_TRUE(shell_.registerFileTypes(types_));
     ASSERT_EQ(QProcess::execute(indexBuilder_, {host("data/mime")}), 0);
     const QByteArray globs = read(host("data/mime/globs"));
-    EXPECT_TRUE(globs.endsWith("\nimage/x-orrery-tmf:*.tmf\ntext/x-orrery-tpf:*.tpf\n")) << globs.constData();
-    // Two bytes of length, high byte first, then the very bytes.
-    EXPECT_EQ(read(host("data/mime/magic")),
-              QByteArrayLiteral("MIME-Magic\0\n[60:image/x-orrery-tmf]\n>0=\0\x08TM\0\"\\\x01 7\n"));
-    EXPECT_TRUE(
-        read(host("data/mime/image/x-orrery-tmf.xml")).contains("<comment>Image &lt;4 &amp; 8 bit&gt;<"));
+    for (const char* line :
+         {"image/x-orrery-tmf:*.tmf", "text/x-orrery-tpf:*.tpf", "application/x-orrery-tlf:*.tlf"})
+        EXPECT_TRUE(globs.split('\n').contains(line)) << globs.constData();
     const QByteArray entry = read(entry_);
-    EXPECT_TRUE(entry.contains("\nMimeType=image/x-orrery-tmf;text/x-orrery-tpf;\n")) << entry.constData();
+    EXPECT_TRUE(entry.contains("\nMimeType=image/x-orrery-tmf;application/x-orrery-tlf;\n"))
+        << entry.constData();
     EXPECT_TRUE(entry.contains(QCoreApplication::applicationFilePath().toUtf8())) << entry.constData();
 }
 
-TEST(DesktopEntry, QuotesTheProgramForTheExecLine) {
-    const QByteArray entry = desktopEntry(QStringLiteral("/a b/100%/\"$x`\\y"), {});
-    EXPECT_TRUE(entry.contains("\nExec=\"/a b/100%%/\\\\\"\\\\$x\\\\`\\\\\\\\y\" %F\n")) << entry.constData();
+TEST_F(ShellTest, RegistersIconsInEverySizeTheyAreNamedFor) {
+    ASSERT_TRUE(shell_.registerFileTypes(types_));
+    for (const char* name : {"apps/orrery-dyeworks", "mimetypes/image-x-orrery-tmf",
+                             "mimetypes/text-x-orrery-tpf", "mimetypes/application-x-orrery-tlf"}) {
+        EXPECT_TRUE(QFile::exists(host("data/icons/hicolor/scalable/") + QLatin1String(name) +
+                                  QStringLiteral(".svg")))
+            << name;
+        for (const int side : {16, 24, 32, 48, 64, 128, 256}) {
+            const QImage icon(QStringLiteral("%1/%2x%2/%3.png")
+                                  .arg(host("data/icons/hicolor"))
+                                  .arg(side)
+                                  .arg(QLatin1String(name)));
+            EXPECT_EQ(icon.size(), QSize(side, side)) << name;
+            EXPECT_NE(icon.pixelColor(side / 2, side / 2).alpha(), 0) << name << ' ' << side;
+        }
+    }
+}
+
+TEST_F(ShellTest, RepairsOnlyWhatDiffers) {
+    ASSERT_TRUE(shell_.registerFileTypes(types_));
+    const QByteArray before = read(entry_);
+    const QString package = host("data/mime/packages/orrery-dyeworks.xml");
+    const QDateTime longAgo(QDate(2001, 2, 3), QTime(4, 5));
+    QFile untouched(package);
+    ASSERT_TRUE(untouched.open(QIODevice::ReadWrite) &&
+                untouched.setFileTime(longAgo, QFileDevice::FileModificationTime));
+    untouched.close();
+    write("data/applications/orrery-dyeworks.desktop", "Exec=\"/gone/Dyeworks\"");
+    EXPECT_TRUE(shell_.registerFileTypes(types_));
+    EXPECT_EQ(read(entry_), before);
+    EXPECT_EQ(QFileInfo(package).lastModified(), longAgo);
+}
+
+TEST_F(ShellTest, WritesNothingWhereTheProgramIsInstalledForAll) {
+    ASSERT_TRUE(QDir().mkpath(host("shared/applications")));
+    write("shared/applications/orrery-dyeworks.desktop", "[Desktop Entry]\n");
+    EXPECT_TRUE(shell_.registerFileTypes(types_));
+    EXPECT_EQ(written(), QStringList());
+}
+
+TEST_F(ShellTest, SaysThatTheUsersFoldersCannotBeWritten) {
+    write("data", "a file where the folder should be");
+    EXPECT_FALSE(shell_.registerFileTypes(types_));
+}
+
+TEST_F(ShellTest, UnregisteringLeavesWhatOthersHaveWritten) {
+    ASSERT_TRUE(QDir().mkpath(host("data/mime/packages")));
+    write("data/mime/packages/other.xml", "<mime-info/>");
+    ASSERT_TRUE(shell_.registerFileTypes(types_));
+    ASSERT_GT(written().size(), 1);
+    EXPECT_TRUE(shell_.unregisterFileTypes());
+    EXPECT_EQ(written(), QStringList(host("data/mime/packages/other.xml")));
+    EXPECT_FALSE(QFile::exists(host("data/icons"))) << "empty folders stay behind";
+    EXPECT_TRUE(shell_.unregisterFileTypes()) << "when there is nothing to take back";
+}
+
+TEST(DesktopFiles, QuoteTheProgramForTheExecLine) {
+    const DesktopFile entry = desktopFiles(QStringLiteral("/a b/100%/\"$x`\\y"), {}).back();
+    EXPECT_TRUE(entry.bytes.contains("\nExec=\"/a b/100%%/\\\\\"\\\\$x\\\\`\\\\\\\\y\" %F\n"))
+        << entry.bytes.constData();
 }
 
 } // namespace dyeworks

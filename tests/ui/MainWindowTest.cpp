@@ -1,16 +1,14 @@
 #include "Program.h"
-#include "framework/CommandTable.h"
-#include "ui/controls/SwatchGrid.h"
+#include "TestProject.h"
+#include "ui/controls/CSwatchGrid.h"
 
 #include <QComboBox>
-#include <QDockWidget>
+#include <QHelpEvent>
 #include <QLabel>
-#include <QMenu>
 #include <QMenuBar>
-#include <QStatusBar>
-#include <QToolBar>
-
-#include <set>
+#include <QToolButton>
+#include <QToolTip>
+#include <QWindow>
 
 namespace dyeworks {
 namespace {
@@ -64,11 +62,11 @@ QStringList titlesOf(const QMenuBar& bar) {
 
 TEST_F(MainWindow, MenusFollowWhatIsActive) {
     const QMenuBar& bar = *app_.mainFrame().menuBar();
-    const QStringList empty{QStringLiteral("File"), QStringLiteral("View"), QStringLiteral("Palette"),
-                            QStringLiteral("Help")};
+    const QStringList empty{QStringLiteral("File"),    QStringLiteral("Edit"),    QStringLiteral("View"),
+                            QStringLiteral("Palette"), QStringLiteral("Project"), QStringLiteral("Help")};
     EXPECT_EQ(titlesOf(bar), empty);
     openAttached(blank(), 8, 256);
-    EXPECT_EQ(titlesOf(bar).size(), 8);
+    EXPECT_EQ(titlesOf(bar).size(), 9);
     EXPECT_EQ(titlesOf(bar).last(), QStringLiteral("Help"));
     // Closed by a command of a menu that goes with the window.
     app_.mainFrame().commandActions().refresh();
@@ -76,34 +74,7 @@ TEST_F(MainWindow, MenusFollowWhatIsActive) {
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(titlesOf(bar), empty);
     ASSERT_TRUE(app_.OpenDocumentFile("c:\\tex\\pic.tmf"));
-    EXPECT_EQ(titlesOf(bar).size(), 8);
-}
-
-void collect(const QMenu& menu, std::set<const QAction*>& found) {
-    std::multiset<QString> letters;
-    for (const QAction* item : menu.actions()) {
-        found.insert(item);
-        if (item->menu() != nullptr)
-            collect(*item->menu(), found);
-        const qsizetype mark = item->text().indexOf(QLatin1Char('&'));
-        if (mark >= 0)
-            letters.insert(item->text().mid(mark + 1, 1).toLower());
-    }
-    for (const QString& letter : letters)
-        EXPECT_EQ(letters.count(letter), 1U) << qPrintable(menu.title()) << " " << qPrintable(letter);
-}
-
-TEST_F(MainWindow, EveryCommandStandsInAMenuWithAMnemonicOfItsOwnAndShowsItsPrompt) {
-    openAttached(blank(), 8, 256);
-    std::set<const QAction*> inMenus;
-    for (const QAction* top : app_.mainFrame().menuBar()->actions())
-        collect(*top->menu(), inMenus);
-    for (const CommandRow& row : commandTable()) {
-        QAction* action = app_.mainFrame().commandActions().action(row.id);
-        EXPECT_EQ(inMenus.count(action), 1U) << row.id;
-        action->showStatusText(&app_.mainFrame());
-        EXPECT_EQ(app_.mainFrame().statusBar()->currentMessage().toStdString(), statusText(row));
-    }
+    EXPECT_EQ(titlesOf(bar).size(), 9);
 }
 
 TEST_F(MainWindow, PanesFollowTheImage) {
@@ -123,12 +94,23 @@ TEST_F(MainWindow, PanesFollowTheImage) {
     EXPECT_EQ(app_.mainFrame().windowTitle(), QStringLiteral("Orrery Dyeworks"));
 }
 
+void clickCell(const CSwatchGrid& grid, int cell) {
+    QWidget* const window = grid.controlWindow();
+    for (int y = 0; y < window->height(); y += 2) {
+        for (int x = 0; x < window->width(); x += 2) {
+            if (grid.cellAt(x, y) == cell)
+                return QTest::mouseClick(window, Qt::LeftButton, {}, {x, y});
+        }
+    }
+    ADD_FAILURE() << "cell " << cell << " is not shown";
+}
+
 TEST_F(MainWindow, ThePanelListsPalettesAndChoosesTheCurrentOne) {
     fake_.files.putFile("c:\\b.tlf", paletteFile(16, [](int) { return 1U; }));
     fake_.files.putFile("c:\\a.tlf", paletteFile(256, [](int) { return 2U; }));
     ASSERT_TRUE(app_.OpenFiles({"c:\\b.tlf", "c:\\a.tlf"}, false));
     auto* palettes = app_.mainFrame().findChild<QComboBox*>(QStringLiteral("IDC_PALETTE_TABS"));
-    auto* grid = app_.mainFrame().findChild<SwatchGrid*>(QStringLiteral("IDC_PALETTE_GRID"));
+    auto* grid = app_.mainFrame().findChild<CSwatchGrid*>(QStringLiteral("IDC_PALETTE_GRID"));
     auto* entry = app_.mainFrame().findChild<QLabel*>(QStringLiteral("IDC_PALETTE_ENTRY"));
     ASSERT_EQ(palettes->count(), 2);
     EXPECT_EQ(palettes->currentText(), QStringLiteral("a"));
@@ -139,13 +121,13 @@ TEST_F(MainWindow, ThePanelListsPalettesAndChoosesTheCurrentOne) {
     EXPECT_EQ(grid->cellCount(), 16);
     EXPECT_EQ(palettes->toolTip(), QStringLiteral("c:\\b.tlf"));
 
-    QTest::mouseClick(grid, Qt::LeftButton, {}, grid->cellRect(6).center());
+    clickCell(*grid, 6);
     EXPECT_EQ(app_.paletteBarCell(), 6);
     EXPECT_EQ(entry->text(), QStringLiteral("6  #0001  R0 G0 B0 A1"));
-    QTest::keyClick(grid, Qt::Key_Down);
+    QTest::keyClick(grid->controlWindow(), Qt::Key_Down);
     EXPECT_EQ(app_.paletteBarCell(), 10);
-    QTest::keyClick(grid, Qt::Key_Home, Qt::ControlModifier);
-    QTest::keyClick(grid, Qt::Key_Left);
+    QTest::keyClick(grid->controlWindow(), Qt::Key_Home, Qt::ControlModifier);
+    QTest::keyClick(grid->controlWindow(), Qt::Key_Left);
     EXPECT_EQ(app_.paletteBarCell(), 0);
 }
 
@@ -159,8 +141,8 @@ TEST_F(MainWindow, AttachingAnImageOfSixteenColoursOffersItsBank) {
     EXPECT_TRUE(bank->isVisible());
     ASSERT_TRUE(bank->setProperty("value", 2));
     EXPECT_EQ(image().paletteValue(), 32);
-    auto* grid = app_.mainFrame().findChild<SwatchGrid*>(QStringLiteral("IDC_PALETTE_GRID"));
-    QTest::mouseClick(grid, Qt::LeftButton, {}, grid->cellRect(5 * 16 + 3).center());
+    auto* grid = app_.mainFrame().findChild<CSwatchGrid*>(QStringLiteral("IDC_PALETTE_GRID"));
+    clickCell(*grid, 5 * 16 + 3);
     EXPECT_EQ(image().paletteValue(), 80) << "a cell of another row selects its bank";
     // A palette that the image is not attached to has no bank of it.
     fake_.files.putFile("c:\\q.tlf", paletteFile(256, [](int) { return 1U; }));
@@ -172,17 +154,62 @@ TEST_F(MainWindow, AttachingAnImageOfSixteenColoursOffersItsBank) {
     EXPECT_EQ(app_.paletteBarFirstEntry(), 80);
 }
 
-TEST_F(MainWindow, PlacesOfBarsSurviveARestart) {
-    auto* panel = &app_.mainFrame().palettePanel();
-    app_.mainFrame().addDockWidget(Qt::LeftDockWidgetArea, panel);
-    ASSERT_TRUE(run(ID_VIEW_DRAWBAR));
-    ASSERT_TRUE(run(ID_VIEW_STATUS_BAR));
-    ASSERT_TRUE(app_.mainFrame().close());
-    CDyeworksApp again;
-    EXPECT_EQ(again.mainFrame().dockWidgetArea(&again.mainFrame().palettePanel()), Qt::LeftDockWidgetArea);
-    EXPECT_TRUE(again.mainFrame().findChild<QToolBar*>(QStringLiteral("ID_VIEW_DRAWBAR"))->isHidden());
-    EXPECT_TRUE(again.mainFrame().statusBar()->isHidden());
-    setApplicationPaletteSet(app_.paletteSet());
+TEST_F(MainWindow, TheProjectBarOffersThePicturesOfTheOpenProject) {
+    CMainFrame& frame = app_.mainFrame();
+    auto* list = frame.findChild<QComboBox*>(QStringLiteral("IDC_PICTURE_LIST"));
+    auto* button = frame.findChild<QToolButton*>(QStringLiteral("IDC_PICTURE_BUTTON"));
+    const auto tip = [](QWidget& widget) {
+        QHelpEvent help(QEvent::ToolTip, {1, 1}, widget.mapToGlobal(QPoint(1, 1)));
+        QApplication::sendEvent(&widget, &help);
+        return QToolTip::text();
+    };
+    const auto expectNone = [&](const char* when) {
+        EXPECT_FALSE(list->isEnabled()) << when;
+        EXPECT_EQ(list->currentText(), QStringLiteral("(no picture)")) << when;
+        EXPECT_FALSE(button->isEnabled()) << when;
+        EXPECT_EQ(button->text(), QStringLiteral("(no picture)")) << when;
+        EXPECT_EQ(app_.currentPicture(), "") << when;
+        EXPECT_FALSE(enabled(1045)) << when;
+    };
+    expectNone("without a project");
+    EXPECT_EQ(tip(*list), QStringLiteral("Project is not open yet."));
+
+    TestProject& project = TestProject::openIn(app_);
+    frame.ProjectChanged();
+    expectNone("without pictures");
+    project.setTitle(std::string(200, 'x'));
+    EXPECT_EQ(tip(*button).size(), 127);
+
+    project.pictures = {"Picture1", "A & B", "Picture10"};
+    frame.ProjectChanged();
+    EXPECT_TRUE(list->isEnabled());
+    EXPECT_EQ(list->itemText(1), QStringLiteral("A & B")) << "in the project's order";
+    EXPECT_EQ(app_.currentPicture(), "Picture10") << "the last one";
+    frame.SelectPicture("Picture1");
+    EXPECT_EQ(app_.currentPicture(), "Picture1");
+    EXPECT_TRUE(enabled(1045));
+    frame.SelectPicture("Picture");
+    EXPECT_EQ(list->currentText(), QStringLiteral("Picture1"));
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_EQ(button->text(), QStringLiteral("A && B"));
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_EQ(project.opened, std::vector<std::string>{"A & B"});
+
+    ASSERT_TRUE(app_.CloseProject());
+    frame.ProjectChanged();
+    expectNone("after it was closed");
+}
+
+TEST_F(MainWindow, TheTitleNamesTheProjectBeforeTheImage) {
+    TestProject& project = TestProject::openIn(app_);
+    app_.mainFrame().ProjectChanged();
+    EXPECT_EQ(app_.mainFrame().windowTitle(), QStringLiteral("Orrery Dyeworks @ sea.tpf"));
+    openAttached(blank(), 8, 256);
+    EXPECT_EQ(app_.mainFrame().windowTitle(), QStringLiteral("Orrery Dyeworks @ sea.tpf - pic.tmf [pic]"));
+    project.setTitle("lake[*].tpf");
+    ASSERT_TRUE(run(ID_FILE_CLOSE));
+    EXPECT_EQ(app_.mainFrame().windowHandle()->title(), QStringLiteral("Orrery Dyeworks @ lake[*].tpf"));
 }
 
 } // namespace

@@ -47,8 +47,17 @@ std::string paletteFile(int count, const std::function<unsigned(int entry)>& ent
     return file;
 }
 
+void defineControls(FakePlatform& fake) {
+    for (const char* control : {"SwatchGrid.ocx", "FolderPick.ocx", "RampSlider.ocx"})
+        fake.library.defineFile(control, std::string(DYEWORKS_CONTROL_FOLDER "/") + control);
+}
+
 Program::Program() {
-    app_.mainFrame().show();
+    defineControls(fake_);
+    CommandLine commandLine;
+    commandLine.noSplash = true;
+    if (!app_.InitInstance(commandLine))
+        ADD_FAILURE() << "the program does not start: " << fake_.messages.lastText();
 }
 
 void Program::openAttached(const Texels& image, int bits, int paletteEntries) {

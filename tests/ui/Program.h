@@ -4,6 +4,7 @@
 #include "platform/fake/FakePlatform.h"
 #include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"
+#include "ui/CommandLine.h"
 #include "ui/PalettePanel.h"
 
 #include <QTest>
@@ -23,6 +24,9 @@ Texels texels(int width, int height, const std::function<unsigned(int x, int y)>
 std::string imageFile(const Texels& image, int bits);
 /// The bytes of a palette file of 16 or 256 entries.
 std::string paletteFile(int count, const std::function<unsigned(int entry)>& entryAt);
+
+/// Lets the companion controls, the real ones, be found.
+void defineControls(FakePlatform& fake);
 
 /// The program on a platform of fakes, its window open on the offscreen display.
 class Program : public testing::Test {

@@ -35,7 +35,7 @@ TEST_F(Windows, EachWindowOfAnImageHasItsNumberUntilItIsAlone) {
     ASSERT_TRUE(app_.OpenDocumentFile("c:\\b.tmf"));
     EXPECT_EQ(titleOf(*app_.mainFrame().activeChild()), "b.tmf");
 
-    QMenu* windows = app_.mainFrame().menuBar()->actions().at(6)->menu();
+    QMenu* windows = app_.mainFrame().menuBar()->actions().at(7)->menu();
     Q_EMIT windows->aboutToShow();
     const QList<QAction*> items = windows->actions();
     EXPECT_EQ(items.at(items.size() - 2)->text().toStdString(), "&2 pic.tmf [pic]:2");

@@ -10,6 +10,8 @@
 #include <QKeySequence>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace dyeworks {
 
 namespace {
@@ -26,8 +28,10 @@ QList<QKeySequence> shortcutsOf(const CommandRow& row) {
 CommandActions::CommandActions(CommandRouter& router, QObject* parent)
     : QObject(parent)
     , router_(router) {
-    for (const CommandRow& row : commandTable())
-        create(row);
+    for (const CommandRow& row : commandTable()) {
+        for (CommandId id = row.id; id <= std::max(row.id, row.last); ++id)
+            create(row, id);
+    }
     router_.setAfterCommand([this] { refresh(); });
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
             &CommandActions::refreshWhenIdle);
@@ -51,6 +55,7 @@ void CommandActions::refresh() {
     for (const auto& [id, entry] : entries_) {
         const CommandUi ui = router_.state(id);
         QAction& action = *entry.action;
+        action.setVisible(ui.visible);
         action.setEnabled(ui.enabled);
         if (ui.checked)
             action.setCheckable(true);
@@ -59,9 +64,9 @@ void CommandActions::refresh() {
     }
 }
 
-void CommandActions::create(const CommandRow& row) {
+void CommandActions::create(const CommandRow& row, CommandId id) {
     auto* action = new QAction(this);
-    action->setObjectName(QStringLiteral("command_%1").arg(row.id));
+    action->setObjectName(QStringLiteral("command_%1").arg(id));
     const QString text = QString::fromStdString(menuText(row));
     action->setText(text);
     action->setStatusTip(QString::fromStdString(statusText(row)));
@@ -72,12 +77,12 @@ void CommandActions::create(const CommandRow& row) {
     const QString tip = QString::fromStdString(toolTipText(row));
     const QString keys = action->shortcut().toString(QKeySequence::NativeText);
     action->setToolTip(keys.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, keys));
-    connect(action, &QAction::triggered, this, [this, id = row.id] {
+    connect(action, &QAction::triggered, this, [this, id] {
         // Triggering has flipped a check mark, which a command that did not run would leave flipped.
         if (!router_.run(id))
             refresh();
     });
-    entries_[row.id] = {action, text};
+    entries_[id] = {action, text};
 }
 
 void CommandActions::refreshWhenIdle() {

@@ -15,9 +15,9 @@ namespace dyeworks {
 class CommandRouter;
 struct CommandRow;
 
-/// One QAction for each command of the table, named "command_<number>". Triggering it runs the command
-/// through the router. What the actions show follows the router's states: after each command, when a menu of
-/// MenuBuilder opens, and whenever the program falls idle.
+/// One QAction for each command of the table, each of a list included, named "command_<number>". Triggering
+/// it runs the command through the router. What the actions show follows the router's states: after each
+/// command, when a menu of MenuBuilder opens, and whenever the program falls idle.
 class CommandActions : public QObject {
     Q_OBJECT
 
@@ -41,7 +41,7 @@ private:
         QString text; ///< The menu text of the table, in the user's language.
     };
 
-    void create(const CommandRow& row);
+    void create(const CommandRow& row, CommandId id);
     void refreshWhenIdle();
 
     CommandRouter& router_;

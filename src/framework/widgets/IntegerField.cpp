@@ -20,6 +20,17 @@ IntegerField::IntegerField(Range typed, Range spun, int value, QWidget* parent)
     });
 }
 
+void IntegerField::setRanges(Range typed, Range spun) {
+    typed_ = typed;
+    spun_ = spun;
+    updateGeometry();
+    update();
+}
+
+void IntegerField::setValue(int value) {
+    lineEdit()->setText(QString::number(value));
+}
+
 std::optional<int> IntegerField::value() const {
     bool isNumber = false;
     const int value = text().trimmed().toInt(&isNumber);

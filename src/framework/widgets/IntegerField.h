@@ -19,6 +19,10 @@ public:
 
     IntegerField(Range typed, Range spun, int value, QWidget* parent = nullptr);
 
+    /// What is in the field stays, even when the new range for typing refuses it.
+    void setRanges(Range typed, Range spun);
+    /// Shows the number, unchecked.
+    void setValue(int value);
     /// Nothing while the text is no number within the range for typing.
     [[nodiscard]] std::optional<int> value() const;
     /// The value; when there is none, tells the user the range, selects the text and takes the focus.

@@ -10,6 +10,7 @@
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPixmap>
 
 #include <algorithm>
 
@@ -39,10 +40,14 @@ MdiFrame::~MdiFrame() {
 }
 
 ChildFrame& MdiFrame::addChild(std::unique_ptr<ChildFrame> child) {
+    // Until this window shows, nobody has given the area the size that the frame fits itself into. Drawing a
+    // spot of the window makes up for that.
+    if (!isVisible())
+        static_cast<void>(grab(QRect(0, 0, 1, 1)));
     ChildFrame& frame = *child;
     area_->addSubWindow(child.release());
-    connect(&frame, &QWidget::windowTitleChanged, this, &MdiFrame::updateCaption);
-    connect(&frame, &QMdiSubWindow::windowStateChanged, this, &MdiFrame::updateCaption);
+    connect(&frame, &QWidget::windowTitleChanged, this, &MdiFrame::OnUpdateFrameTitle);
+    connect(&frame, &QMdiSubWindow::windowStateChanged, this, &MdiFrame::OnUpdateFrameTitle);
     if (frame.view() != nullptr)
         frame.view()->initialUpdate(frame);
     // A view that restored its window has chosen how it shows.
@@ -92,7 +97,7 @@ std::vector<CommandTarget*> MdiFrame::commandTargets() {
 
 void MdiFrame::setCaption(const QString& caption) {
     caption_ = caption;
-    updateCaption();
+    MdiFrame::OnUpdateFrameTitle();
 }
 
 bool MdiFrame::closeChildren() {
@@ -154,7 +159,7 @@ void MdiFrame::OnUpdateWindowArrange(CommandUi& ui) {
 void MdiFrame::childActivated() {
     // Not the signal's argument, which may be null while another window of the program is active.
     ChildFrame* child = activeChild();
-    updateCaption();
+    OnUpdateFrameTitle();
     const bool ownMenus = child != nullptr && child->document() != nullptr && !child->menus().empty();
     showMenus(ownMenus ? child->menus() : menus_);
     if (child != nullptr && child->view() != nullptr)
@@ -188,7 +193,7 @@ void MdiFrame::showMenus(std::span<const MenuItem> menus) {
     }
 }
 
-void MdiFrame::updateCaption() {
+void MdiFrame::OnUpdateFrameTitle() {
     const ChildFrame* child = activeChild();
     const bool titled = child != nullptr && child->document() != nullptr;
     if (!titled || child->isMaximized())

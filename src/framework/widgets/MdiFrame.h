@@ -66,6 +66,8 @@ Q_SIGNALS:
 protected:
     /// Refuses while a child frame refuses to close.
     void closeEvent(QCloseEvent* event) override;
+    /// Composes the title bar's text anew; called whenever a part of it may have changed.
+    virtual void OnUpdateFrameTitle();
 
 private:
     void OnWindowNew();
@@ -78,7 +80,6 @@ private:
     void OnUpdateWindowArrange(CommandUi& ui);
 
     void childActivated();
-    void updateCaption();
     void showMenus(std::span<const MenuItem> menus);
     void tile(TileDirection direction);
     /// Puts minimized frames in rows along the bottom. The height that they take there.

@@ -1,5 +1,6 @@
 #include "framework/widgets/MenuBuilder.h"
 
+#include "framework/CommandTable.h"
 #include "framework/widgets/CommandActions.h"
 #include "platform/Platform.h"
 
@@ -8,12 +9,20 @@
 #include <QMenuBar>
 #include <QToolBar>
 
+#include <algorithm>
+
 namespace dyeworks {
 
 namespace {
 
 QString titleOf(const MenuItem& item) {
     return QString::fromStdString(platform().texts().translate(kMenuContext, item.title));
+}
+
+/// The last command that the item stands for.
+CommandId lastOf(const MenuItem& item) {
+    const CommandRow* row = findCommand(item.id);
+    return row == nullptr || row->id != item.id ? item.id : std::max(row->id, row->last);
 }
 
 bool isSeparator(const MenuItem& item) {
@@ -35,19 +44,29 @@ void fill(Bar& bar, std::span<const MenuItem> items, const CommandActions& actio
         if (separate)
             bar.addSeparator();
         separate = false;
-        if (action != nullptr)
-            bar.addAction(action);
-        else
+        if (action == nullptr) {
             addSubmenu(item);
+            continue;
+        }
+        for (CommandId id = item.id; id <= lastOf(item); ++id)
+            bar.addAction(actions.action(id));
     }
 }
 
 } // namespace
 
 void fillMenu(QMenu& menu, std::span<const MenuItem> items, CommandActions& actions) {
-    fill(menu, items, actions,
-         [&](const MenuItem& item) { fillMenu(*menu.addMenu(titleOf(item)), item.items, actions); });
+    // First, so that what follows sees fresh states.
     QObject::connect(&menu, &QMenu::aboutToShow, &actions, &CommandActions::refresh, Qt::UniqueConnection);
+    fill(menu, items, actions, [&](const MenuItem& item) {
+        QMenu* submenu = menu.addMenu(titleOf(item));
+        fillMenu(*submenu, item.items, actions);
+        // A list that has no entries leaves nothing to open.
+        QObject::connect(&menu, &QMenu::aboutToShow, submenu, [submenu] {
+            submenu->menuAction()->setEnabled(std::ranges::any_of(
+                submenu->actions(), [](const QAction* entry) { return entry->isVisible(); }));
+        });
+    });
 }
 
 void fillMenuBar(QMenuBar& bar, std::span<const MenuItem> items, CommandActions& actions) {

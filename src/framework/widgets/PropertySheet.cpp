@@ -1,6 +1,7 @@
 #include "framework/widgets/PropertySheet.h"
 
 #include <QDialogButtonBox>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -10,42 +11,61 @@ PropertySheet::PropertySheet(const QString& caption, QWidget* parent)
     : QDialog(parent)
     , tabs_(new QTabWidget) {
     setWindowTitle(caption);
+    tabs_->setTabBarAutoHide(true);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("IDOK"));
+    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("IDCANCEL"));
     connect(buttons, &QDialogButtonBox::accepted, this, &PropertySheet::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &PropertySheet::reject);
     auto* layout = new QVBoxLayout(this);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(tabs_);
     layout->addWidget(buttons);
 }
 
 void PropertySheet::addPage(std::unique_ptr<PropertyPage> page) {
     const QString title = page->windowTitle();
+    page->setAccessibleName(title);
     tabs_->addTab(page.release(), title);
 }
 
 void PropertySheet::removePage(PropertyPage& page) {
-    delete &page;
+    tabs_->removeTab(tabs_->indexOf(&page));
+    // The tabs have let go of it, but it is still among their children, where it would be laid out.
+    page.hide();
+    page.setParent(this);
 }
 
 int PropertySheet::activePage() const {
     return tabs_->currentIndex();
 }
 
+PropertyPage* PropertySheet::page(int index) const {
+    return qobject_cast<PropertyPage*>(tabs_->widget(index));
+}
+
+void PropertySheet::fitToPages() {
+    bool grows = false;
+    for (int i = 0; i < tabs_->count(); ++i)
+        grows = grows || (page(i)->sizePolicy().horizontalPolicy() & QSizePolicy::ExpandFlag) != 0;
+    layout()->setSizeConstraint(grows ? QLayout::SetMinimumSize : QLayout::SetFixedSize);
+}
+
 void PropertySheet::showEvent(QShowEvent* event) {
+    fitToPages();
+    for (int i = 0; i < tabs_->count(); ++i)
+        page(i)->showValues();
     QDialog::showEvent(event);
     // As if the user had gone there with the Tab key, so that what is typed replaces the text.
-    if (QWidget* page = tabs_->currentWidget())
-        page->setFocus(Qt::TabFocusReason);
+    if (QWidget* inFront = tabs_->currentWidget())
+        inFront->setFocus(Qt::TabFocusReason);
 }
 
 void PropertySheet::accept() {
     for (int i = 0; i < tabs_->count(); ++i) {
-        auto* page = qobject_cast<PropertyPage*>(tabs_->widget(i));
         const int inFront = tabs_->currentIndex();
         // In front before it is asked, because the focus goes only to what shows.
         tabs_->setCurrentIndex(i);
-        if (!page->takeOver())
+        if (!page(i)->takeOver())
             return;
         tabs_->setCurrentIndex(inFront);
     }

@@ -3,13 +3,13 @@
 #include <QDialog>
 
 #include <memory>
-#include <vector>
 
 class QTabWidget;
 
 namespace dyeworks {
 
-/// One page of a sheet. Its window title is the text of its tab, its focus proxy the control that has the
+/// One page of a sheet. It keeps values of its own besides what its controls hold, so that leaving the sheet
+/// by Cancel changes none. Its window title is the text of its tab, its focus proxy the control that has the
 /// focus when the sheet opens with it.
 class PropertyPage : public QWidget {
     Q_OBJECT
@@ -17,13 +17,15 @@ class PropertyPage : public QWidget {
 public:
     using QWidget::QWidget;
 
+    /// Puts the values into the controls. The sheet does so with each page whenever it opens.
+    virtual void showValues() {}
     /// Takes the values over from the controls. False when one of them cannot be, which the page has told the
     /// user and put the focus on.
     [[nodiscard]] virtual bool takeOver() { return true; }
 };
 
-/// A dialog of pages with tabs. OK takes all pages over; the first that refuses comes to the front and keeps
-/// the sheet open.
+/// A dialog of pages, with tabs as soon as there are two. OK takes all pages over; the first that refuses
+/// comes to the front and keeps the sheet open. A sheet can be run again, with the values of the time before.
 class PropertySheet : public QDialog {
     Q_OBJECT
 
@@ -32,9 +34,10 @@ public:
 
     /// The sheet owns its pages.
     void addPage(std::unique_ptr<PropertyPage> page);
-    /// Ends the page.
+    /// Takes the page out of what is shown and taken over. The sheet still owns it.
     void removePage(PropertyPage& page);
-    /// Position of the page in front, counted from 0; after OK or Cancel that at the time it was pressed.
+    /// Position of the page in front among those that are left, counted from 0; after OK or Cancel that at
+    /// the time it was pressed.
     [[nodiscard]] int activePage() const;
 
     void accept() override;
@@ -43,6 +46,9 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    [[nodiscard]] PropertyPage* page(int index) const;
+    void fitToPages();
+
     QTabWidget* tabs_;
 };
 

@@ -1,7 +1,7 @@
 #include "paint/widgets/ImageView.h"
 
-#include "framework/widgets/ChildFrame.h"
 #include "paint/CDyeworksDoc.h"
+#include "paint/widgets/CChildFrame.h"
 #include "platform/Text.h"
 
 #include <QApplication>
@@ -114,6 +114,11 @@ void ImageView::closing(ChildFrame&) {
     frame_ = nullptr;
 }
 
+void ImageView::setDisplayPalette(const DisplayPalette* palette) {
+    if (auto* frame = qobject_cast<CChildFrame*>(frame_))
+        frame->SetPalette(palette);
+}
+
 Size ImageView::clientSize() const {
     return {viewport()->width(), viewport()->height()};
 }
@@ -183,12 +188,17 @@ bool ImageView::shiftHeld() const {
 void ImageView::paintEvent(QPaintEvent* event) {
     stale_ -= event->region();
     QPainter painter(viewport());
-    std::uint32_t request = view_.BeginPaint();
+    const CDyeworksView::RedrawRequest request = view_.BeginPaint();
+    const Rect& area = request.clientArea;
+    const QRegion requested =
+        request.bits == 0 ? QRegion()
+                          : event->region().intersected(
+                                QRect(area.left, area.top, area.right - area.left, area.bottom - area.top));
     // What the window shows cannot be read back, so that the image is drawn beneath whatever was asked for.
-    if (request != 0)
-        request |= CDyeworksView::kRedrawImage;
-    for (const QRect& part : event->region())
-        paintPart(painter, part, request);
+    for (const QRect& part : requested)
+        paintPart(painter, part, request.bits | CDyeworksView::kRedrawImage);
+    for (const QRect& part : event->region() - requested)
+        paintPart(painter, part, 0);
     if (view_.showsNoPalette()) {
         const QRect client = viewport()->rect();
         const QRect line(0, client.height() / 2, client.width(), client.height());

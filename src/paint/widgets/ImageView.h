@@ -58,6 +58,7 @@ private:
     void fitFrame() override;
     [[nodiscard]] std::optional<WindowPlacement> placement() const override;
     void setPlacement(const WindowPlacement& placement) override;
+    void setDisplayPalette(const DisplayPalette* palette) override;
     void startTicking(int milliseconds) override { ticks_.start(milliseconds, this); }
     void stopTicking() override { ticks_.stop(); }
     [[nodiscard]] Point pointerPosition() const override;

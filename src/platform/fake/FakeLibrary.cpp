@@ -1,6 +1,10 @@
 #include "platform/fake/FakeLibrary.h"
 
+#include "platform/posix/LibraryHandle.h"
+#include "platform/posix/OwnSymbol.h"
+
 #include <utility>
+#include <variant>
 
 namespace dyeworks {
 
@@ -8,8 +12,10 @@ namespace {
 
 class FakeLoadedLibrary final : public LoadedLibrary {
 public:
-    FakeLoadedLibrary(FakeLibrary::Symbols symbols, std::shared_ptr<int> loaded)
-        : symbols_(std::move(symbols))
+    using Contents = std::variant<FakeLibrary::Symbols, LibraryHandle>;
+
+    FakeLoadedLibrary(Contents contents, std::shared_ptr<int> loaded)
+        : contents_(std::move(contents))
         , loaded_(std::move(loaded)) {
         ++*loaded_;
     }
@@ -18,23 +24,35 @@ public:
     FakeLoadedLibrary& operator=(const FakeLoadedLibrary&) = delete;
 
     [[nodiscard]] void* find(const std::string& name) const override {
-        const auto found = symbols_.find(undecorated(name));
-        return found == symbols_.end() ? nullptr : found->second;
+        const std::string plain = undecorated(name);
+        if (const LibraryHandle* real = std::get_if<LibraryHandle>(&contents_))
+            return ownSymbol(real->get(), plain.c_str());
+        const auto& symbols = std::get<FakeLibrary::Symbols>(contents_);
+        const auto found = symbols.find(plain);
+        return found == symbols.end() ? nullptr : found->second;
     }
 
 private:
-    FakeLibrary::Symbols symbols_;
+    Contents contents_;
     std::shared_ptr<int> loaded_;
 };
 
 } // namespace
 
+void FakeLibrary::forget(const std::string& path) {
+    symbols_.erase(path);
+    files_.erase(path);
+}
+
 std::unique_ptr<LoadedLibrary> FakeLibrary::load(const std::string& path) {
     requests_.push_back(path);
-    const auto found = symbols_.find(path);
-    if (found == symbols_.end())
+    if (const auto made = symbols_.find(path); made != symbols_.end())
+        return std::make_unique<FakeLoadedLibrary>(made->second, loaded_);
+    const auto file = files_.find(path);
+    if (file == files_.end())
         return nullptr;
-    return std::make_unique<FakeLoadedLibrary>(found->second, loaded_);
+    LibraryHandle real = openLibrary(file->second);
+    return real == nullptr ? nullptr : std::make_unique<FakeLoadedLibrary>(std::move(real), loaded_);
 }
 
 } // namespace dyeworks

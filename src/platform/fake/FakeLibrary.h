@@ -9,7 +9,7 @@
 
 namespace dyeworks {
 
-/// Libraries that are made up of functions of the test.
+/// Libraries that are made up of functions of the test, or stand in real files that it names.
 class FakeLibrary final : public Library {
 public:
     /// Addresses by plain name ("DWPI_import").
@@ -18,6 +18,11 @@ public:
     /// Lets `path` load, exactly as the program spells it, and export `symbols`. Libraries loaded already
     /// keep what they had. No file is needed, but a folder that is searched shows only files.
     void define(const std::string& path, Symbols symbols) { symbols_[path] = std::move(symbols); }
+
+    /// Lets `path` load the real library of this host path, as long as there is one.
+    void defineFile(const std::string& path, const std::string& hostPath) { files_[path] = hostPath; }
+    /// `path` does not load any more. Libraries loaded already stay.
+    void forget(const std::string& path);
 
     template <typename Function>
     [[nodiscard]] static void* address(Function* function) {
@@ -34,6 +39,7 @@ public:
 
 private:
     std::map<std::string, Symbols> symbols_;
+    std::map<std::string, std::string> files_; // Host path by path.
     std::vector<std::string> requests_;
     // Shared with the loaded libraries, which may outlive this object.
     std::shared_ptr<int> loaded_ = std::make_shared<int>(0);

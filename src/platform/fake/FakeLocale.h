@@ -11,6 +11,7 @@ namespace dyeworks {
 class FakeLocale final : public Locale {
 public:
     int locale = kLocaleEnglish;
+    int system = kLocaleEnglish;
     bool knowsLanguages = true; ///< What `setRuntimeLocale` answers.
 
     std::vector<std::string> runtimeLanguages; ///< Languages asked for, oldest first.
@@ -18,6 +19,7 @@ public:
     int timeZoneReads = 0;
 
     [[nodiscard]] int userLocale() const override { return locale; }
+    [[nodiscard]] int systemLocale() const override { return system; }
     bool setRuntimeLocale(const std::string& language) override;
     void putEnvironment(const std::string& assignment) override { environment.push_back(assignment); }
     void rereadTimeZone() override { ++timeZoneReads; }

@@ -21,6 +21,13 @@ bool FakeShell::registerFileTypes(const std::vector<FileTypeRegistration>& types
     return registers;
 }
 
+bool FakeShell::unregisterFileTypes() {
+    ++unregistered;
+    if (registers)
+        registered.clear();
+    return registers;
+}
+
 bool FakeShell::handToRunningInstance(const std::vector<std::string>& paths) {
     if (otherInstanceRuns)
         handedOver.push_back(paths);

@@ -4,6 +4,7 @@
 #include <clocale>
 #include <cstdlib>
 #include <ctime>
+#include <fstream>
 #include <stdlib.h>
 #include <string_view>
 #include <vector>
@@ -22,13 +23,37 @@ constexpr std::array kLanguages{
     Language{"C", kLocaleEnglish},   Language{"POSIX", kLocaleEnglish},
 };
 
+constexpr std::array kVariables{"LC_ALL", "LC_MESSAGES", "LANG"};
+
 std::string_view localeName() {
-    for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+    for (const char* variable : kVariables) {
         const char* const value = std::getenv(variable);
         if (value != nullptr && *value != '\0')
             return value;
     }
     return "C";
+}
+
+/// What a file of shell assignments ('LANG="ja_JP.UTF-8"') sets the variable to, or "".
+std::string assignedIn(const std::string& file, std::string_view variable) {
+    std::ifstream lines(file);
+    std::string value;
+    for (std::string line; std::getline(lines, line);) {
+        if (!line.starts_with(variable) || line.size() <= variable.size() || line[variable.size()] != '=')
+            continue;
+        value = line.substr(variable.size() + 1);
+        std::erase_if(value, [](char letter) { return letter == '"' || letter == '\''; });
+    }
+    return value;
+}
+
+int numberOf(std::string_view localeName) {
+    const std::string_view language = localeName.substr(0, localeName.find_first_of("_.@"));
+    for (const Language& known : kLanguages) {
+        if (known.name == language)
+            return known.number;
+    }
+    return 0;
 }
 
 /// Names under which hosts know a language; only in UTF-8, as every text of the program is.
@@ -41,13 +66,17 @@ std::vector<std::string> hostNames(const std::string& language) {
 } // namespace
 
 int PosixLocale::userLocale() const {
-    const std::string_view name = localeName();
-    const std::string_view language = name.substr(0, name.find_first_of("_.@"));
-    for (const Language& known : kLanguages) {
-        if (known.name == language)
-            return known.number;
+    return numberOf(localeName());
+}
+
+int PosixLocale::systemLocale() const {
+    for (const std::string& file : systemFiles_) {
+        for (const char* variable : kVariables) {
+            if (const std::string name = assignedIn(file, variable); !name.empty())
+                return numberOf(name);
+        }
     }
-    return 0;
+    return kLocaleEnglish;
 }
 
 bool PosixLocale::setRuntimeLocale(const std::string& language) {

@@ -5,14 +5,22 @@
 #include <QByteArray>
 #include <QString>
 
+#include <vector>
+
 namespace dyeworks {
 
-/// The desktop entry (freedesktop.org, version 1.5) of a program that opens `types`. `program` is the path of
-/// its file.
-[[nodiscard]] QByteArray desktopEntry(const QString& program, const std::vector<FileTypeRegistration>& types);
+/// One of the files by which a desktop knows the program, and what belongs in it.
+struct DesktopFile {
+    QString path; ///< Below a data folder: "mime/packages/orrery-dyeworks.xml".
+    QByteArray bytes;
+};
 
-/// The MIME package (freedesktop.org shared MIME database) that tells how files of `types` are known: by
-/// their extension, and by their first bytes where there are such.
-[[nodiscard]] QByteArray mimePackage(const std::vector<FileTypeRegistration>& types);
+/// Where the desktop entry stands below a data folder.
+[[nodiscard]] QString desktopEntryPath();
+
+/// The MIME package, the icons and, as the last, the desktop entry of a program that opens `types`: whoever
+/// meets the entry then finds what it speaks of. `program` is the host path of the program's file.
+[[nodiscard]] std::vector<DesktopFile> desktopFiles(const QString& program,
+                                                    const std::vector<FileTypeRegistration>& types);
 
 } // namespace dyeworks

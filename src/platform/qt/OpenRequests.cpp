@@ -1,5 +1,6 @@
 #include "platform/qt/OpenRequests.h"
 
+#include <QCryptographicHash>
 #include <QDataStream>
 #include <QLocalSocket>
 #include <QStandardPaths>
@@ -10,11 +11,14 @@ namespace dyeworks {
 
 namespace {
 
-// The frame: this number, then a byte array that holds every path with a zero byte behind it. The answer is
-// one byte.
-constexpr quint32 kFrameMark = 0x44594531;
+// The frame: this number, then a byte array that holds every path with a zero byte behind it, then one with
+// the sender's activation token. The answer is one byte.
+constexpr quint32 kFrameMark = 0x44594532;
 constexpr char kReceived = 'R';
 constexpr qint64 kLargestFrame = 4 << 20;
+
+// Where the desktop leaves the token of whoever it starts, and where Qt looks for one to raise a window with.
+constexpr const char* kTokenVariable = "XDG_ACTIVATION_TOKEN";
 
 constexpr int kConnectMilliseconds = 1000;
 constexpr int kAnswerMilliseconds = 3000;
@@ -26,7 +30,7 @@ QByteArray frameOf(const OpenRequests::Paths& paths) {
     QByteArray frame;
     QDataStream stream(&frame, QIODevice::WriteOnly);
     stream.setVersion(QDataStream::Qt_6_4);
-    stream << kFrameMark << body;
+    stream << kFrameMark << body << qgetenv(kTokenVariable);
     return frame;
 }
 
@@ -48,9 +52,14 @@ OpenRequests::OpenRequests(QString address)
     QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] { accept(); });
 }
 
-QString OpenRequests::userAddress() {
+QString OpenRequests::userAddress(const QString& settingsFile) {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    return folder.isEmpty() ? QString() : folder + QStringLiteral("/orrery-dyeworks");
+    if (folder.isEmpty())
+        return {};
+    // A short name: that of a socket may not have many characters.
+    constexpr qsizetype kNameBytes = 8;
+    const QByteArray name = QCryptographicHash::hash(settingsFile.toUtf8(), QCryptographicHash::Sha1);
+    return folder + QStringLiteral("/orrery-dyeworks-") + QString::fromLatin1(name.first(kNameBytes).toHex());
 }
 
 bool OpenRequests::send(const Paths& paths) const {
@@ -98,13 +107,14 @@ void OpenRequests::read(QLocalSocket& connection) {
     stream.startTransaction();
     quint32 mark = 0;
     QByteArray body;
+    QByteArray token;
     stream >> mark;
     if (stream.status() == QDataStream::Ok && mark != kFrameMark) {
         stream.abortTransaction();
         connection.abort();
         return;
     }
-    stream >> body;
+    stream >> body >> token;
     if (!stream.commitTransaction()) {
         if (connection.bytesAvailable() > kLargestFrame)
             connection.abort();
@@ -114,7 +124,13 @@ void OpenRequests::read(QLocalSocket& connection) {
     connection.flush();
     // From the event loop, because the receiver may show a dialog and stay in it while the connection ends.
     QMetaObject::invokeMethod(
-        &server_, [this, paths = pathsOf(body)] { receiver_(paths); }, Qt::QueuedConnection);
+        &server_,
+        [this, paths = pathsOf(body), token] {
+            if (!token.isEmpty())
+                qputenv(kTokenVariable, token);
+            receiver_(paths);
+        },
+        Qt::QueuedConnection);
 }
 
 } // namespace dyeworks

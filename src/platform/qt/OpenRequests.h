@@ -12,7 +12,8 @@
 namespace dyeworks {
 
 /// Requests to open files, from one instance of the program to another one of the same user. They travel
-/// through a local socket beside a lock file; whoever holds the lock receives.
+/// through a local socket beside a lock file; whoever holds the lock receives. The right to come to the front
+/// that the desktop gave the sender (its activation token) travels along.
 class OpenRequests {
 public:
     using Paths = std::vector<std::string>;
@@ -29,8 +30,9 @@ public:
     /// when another instance is the receiving one, or the folder cannot be used.
     bool listen(Receiver receiver);
 
-    /// Where the instances of this user meet; empty when the user has no folder for it.
-    [[nodiscard]] static QString userAddress();
+    /// Where the instances of this user meet that keep their settings in this file; empty when the user has
+    /// no folder for it.
+    [[nodiscard]] static QString userAddress(const QString& settingsFile);
 
 private:
     void accept();

@@ -32,7 +32,7 @@ QtPlatform::QtPlatform(const std::string& settingsFile)
     , fileDialogs_(windows_, files_, messages_)
     , library_(files_)
     , versionInfo_(files_, programVersion())
-    , shell_(files_) {}
+    , shell_(files_, profile_.fileName()) {}
 
 QtPlatform::~QtPlatform() = default;
 

@@ -12,6 +12,7 @@
 #include <QStandardPaths>
 #include <QUrl>
 
+#include <algorithm>
 #include <utility>
 
 namespace dyeworks {
@@ -33,17 +34,66 @@ Written writeWhenDifferent(const QString& path, const QByteArray& bytes) {
     return Written::Changed;
 }
 
-/// Starts one of the desktop's index builders and leaves it running. Desktops without it read the files.
-void refreshIndex(const QString& tool, const QString& folder) {
+bool removeFile(const QString& path) {
+    const QFileInfo info(path);
+    return (!info.exists() && !info.isSymLink()) || QFile::remove(path);
+}
+
+/// Removes the folders on the way from `root` to the file that nothing is left in.
+void removeEmptyFolders(const QString& root, const QString& file) {
+    for (qsizetype end = file.lastIndexOf(u'/'); end > 0; end = file.lastIndexOf(u'/', end - 1)) {
+        if (!QDir().rmdir(root + u'/' + file.left(end)))
+            return;
+    }
+}
+
+enum class Builder { LeftRunning, WaitedFor };
+
+/// Starts one of the desktop's index builders. Desktops without it read the files.
+void refreshIndex(const QString& tool, const QStringList& arguments, Builder builder) {
     const QString program = QStandardPaths::findExecutable(tool);
     if (program.isEmpty())
         return;
     QProcess process;
     process.setProgram(program);
-    process.setArguments({folder});
+    process.setArguments(arguments);
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());
-    process.startDetached();
+    if (builder == Builder::LeftRunning) {
+        process.startDetached();
+        return;
+    }
+    process.start();
+    process.waitForFinished();
+}
+
+/// Brings what the desktop has gathered from the folders of `data` up to date. A folder that is not there has
+/// no index either.
+void refreshIndices(const QString& data, Builder builder) {
+    const QString mime = data + QStringLiteral("/mime");
+    if (QFileInfo::exists(mime))
+        refreshIndex(QStringLiteral("update-mime-database"), {mime}, builder);
+    const QString applications = data + QStringLiteral("/applications");
+    if (QFileInfo::exists(applications))
+        refreshIndex(QStringLiteral("update-desktop-database"), {applications}, builder);
+    // Without a cache the icons are looked up in the folders themselves.
+    const QString icons = data + QStringLiteral("/icons/hicolor");
+    if (QFileInfo::exists(icons + QStringLiteral("/icon-theme.cache")))
+        refreshIndex(QStringLiteral("gtk-update-icon-cache"),
+                     {QStringLiteral("--force"), QStringLiteral("--ignore-theme-index"), icons}, builder);
+}
+
+QString userData() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+}
+
+/// Whether a data folder that all users share has the program's entry.
+bool installedForAll() {
+    const QString own = QDir::cleanPath(userData());
+    const QStringList folders = QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation);
+    return std::ranges::any_of(folders, [&](const QString& folder) {
+        return QDir::cleanPath(folder) != own && QFileInfo::exists(folder + u'/' + desktopEntryPath());
+    });
 }
 
 } // namespace
@@ -57,21 +107,36 @@ bool QtShell::openWithDefaultProgram(const std::string& path) {
 }
 
 bool QtShell::registerFileTypes(const std::vector<FileTypeRegistration>& types) {
-    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    if (installedForAll())
+        return true;
+    const QString data = userData();
     if (data.isEmpty())
         return false;
-    const QString applications = data + QStringLiteral("/applications");
-    const QString mime = data + QStringLiteral("/mime");
-    // The types come first: a desktop that meets the entry then knows what it speaks of.
-    const Written package =
-        writeWhenDifferent(mime + QStringLiteral("/packages/orrery-dyeworks.xml"), mimePackage(types));
-    if (package == Written::Changed)
-        refreshIndex(QStringLiteral("update-mime-database"), mime);
-    const Written entry = writeWhenDifferent(applications + QStringLiteral("/orrery-dyeworks.desktop"),
-                                             desktopEntry(QCoreApplication::applicationFilePath(), types));
-    if (entry == Written::Changed)
-        refreshIndex(QStringLiteral("update-desktop-database"), applications);
-    return package != Written::Failed && entry != Written::Failed;
+    bool changed = false;
+    bool failed = false;
+    for (const DesktopFile& file : desktopFiles(QCoreApplication::applicationFilePath(), types)) {
+        const Written written = writeWhenDifferent(data + u'/' + file.path, file.bytes);
+        changed = changed || written == Written::Changed;
+        failed = failed || written == Written::Failed;
+    }
+    if (changed)
+        refreshIndices(data, Builder::LeftRunning);
+    return !failed;
+}
+
+bool QtShell::unregisterFileTypes() {
+    const QString data = userData();
+    if (data.isEmpty())
+        return true;
+    const std::vector<DesktopFile> files = desktopFiles({}, {});
+    bool removed = true;
+    for (const DesktopFile& file : files)
+        removed = removeFile(data + u'/' + file.path) && removed;
+    // The builders refuse folders that are gone.
+    refreshIndices(data, Builder::WaitedFor);
+    for (const DesktopFile& file : files)
+        removeEmptyFolders(data, file.path);
+    return removed;
 }
 
 bool QtShell::handToRunningInstance(const std::vector<std::string>& paths) {
@@ -89,7 +154,7 @@ bool QtShell::listenForOpenRequests(std::function<void(const std::vector<std::st
 // Made at the first use, because finding the user's folder may have to make it.
 OpenRequests& QtShell::requests() {
     if (!requests_)
-        requests_.emplace(OpenRequests::userAddress());
+        requests_.emplace(OpenRequests::userAddress(QString::fromStdString(settingsFile_)));
     return *requests_;
 }
 

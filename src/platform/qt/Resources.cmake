@@ -11,3 +11,13 @@ qt6_add_resources(dyeworks_platform_qt translations
   PREFIX "/translations"
   BASE "${CMAKE_CURRENT_BINARY_DIR}/translations"
   FILES ${translation_files})
+
+# What the desktop is told of the program (data/), as the resource ":/desktop", laid out as below the user's data
+# folder. Pictures are compressed as they are.
+get_target_property(desktop_share dyeworks_desktop_files DYEWORKS_SHARE)
+get_target_property(desktop_files dyeworks_desktop_files DYEWORKS_FILES)
+qt6_add_resources(dyeworks_platform_qt desktop
+  PREFIX "/desktop"
+  BASE "${desktop_share}"
+  FILES ${desktop_files})
+add_dependencies(dyeworks_platform_qt dyeworks_desktop_files)

@@ -1,0 +1,50 @@
+# What `cmake --install` puts below a prefix, and the guide in the build tree.
+#
+#   lib/orrery-dyeworks/bin/    the program and its companion controls, which it looks for beside itself
+#   lib/orrery-dyeworks/doc/    the guide, which the program opens as ../doc/index.html
+#   bin/Dyeworks                a link to the program
+#   share/                      what the desktop reads (data/README.md), samples
+
+file(GLOB_RECURSE guide_pages CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/docs/guide/*")
+set(guide_pictures "${PROJECT_SOURCE_DIR}/docs/window.png" "${PROJECT_SOURCE_DIR}/data/icons/orrery-dyeworks.svg")
+set(guide_stamp "${CMAKE_CURRENT_BINARY_DIR}/guide.stamp")
+add_custom_command(OUTPUT "${guide_stamp}"
+  COMMAND "${CMAKE_COMMAND}" -E rm -rf "${PROJECT_BINARY_DIR}/doc"
+  COMMAND "${CMAKE_COMMAND}" -E copy_directory "${PROJECT_SOURCE_DIR}/docs/guide" "${PROJECT_BINARY_DIR}/doc"
+  COMMAND "${CMAKE_COMMAND}" -E copy ${guide_pictures} "${PROJECT_BINARY_DIR}/doc"
+  COMMAND "${CMAKE_COMMAND}" -E touch "${guide_stamp}"
+  DEPENDS ${guide_pages} ${guide_pictures}
+  COMMENT "Copying the guide"
+  VERBATIM)
+add_custom_target(dyeworks_guide DEPENDS "${guide_stamp}")
+add_dependencies(Dyeworks dyeworks_guide)
+
+if(NOT PROJECT_IS_TOP_LEVEL)
+  return()
+endif()
+
+set(home lib/orrery-dyeworks)
+install(TARGETS Dyeworks dyeworks_control_swatchgrid dyeworks_control_rampslider dyeworks_control_folderpick
+  RUNTIME DESTINATION ${home}/bin LIBRARY DESTINATION ${home}/bin)
+install(DIRECTORY "${PROJECT_BINARY_DIR}/doc" DESTINATION ${home})
+install(DIRECTORY samples/ DESTINATION share/orrery-dyeworks/samples)
+
+get_target_property(share dyeworks_desktop_files DYEWORKS_SHARE)
+install(DIRECTORY "${share}/icons" "${share}/mime" DESTINATION share)
+install(FILES data/orrery-dyeworks.metainfo.xml DESTINATION share/metainfo RENAME local.orrery.dyeworks.metainfo.xml)
+
+# The prefix is known when installing only. In the entry it is a quoted argument, where "%" starts a field code and
+# some characters take a backslash that is written twice.
+install(CODE "set(entry \"${share}/applications/orrery-dyeworks.desktop\")")
+install(CODE [[
+  set(root "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
+  file(MAKE_DIRECTORY "${root}/bin")
+  file(CREATE_LINK ../lib/orrery-dyeworks/bin/Dyeworks "${root}/bin/Dyeworks" SYMBOLIC)
+
+  string(REPLACE "%" "%%" EXEC "${CMAKE_INSTALL_PREFIX}/bin/Dyeworks")
+  string(REGEX REPLACE "([\"`$])" "\\\\\\\\\\1" EXEC "${EXEC}")
+  set(EXEC "\"${EXEC}\"")
+  set(MIME_TYPES "image/x-orrery-tmf;text/x-orrery-tpf;application/x-orrery-tlf;")
+  message(STATUS "Installing: ${root}/share/applications/orrery-dyeworks.desktop")
+  configure_file("${entry}" "${root}/share/applications/orrery-dyeworks.desktop" @ONLY)
+]])

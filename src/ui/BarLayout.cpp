@@ -1,0 +1,69 @@
+#include "ui/BarLayout.h"
+
+#include "framework/widgets/WidgetPlacement.h"
+#include "platform/Platform.h"
+#include "ui/PalettePanel.h"
+
+#include <QByteArray>
+#include <QCryptographicHash>
+#include <QMainWindow>
+#include <QStatusBar>
+
+#include <optional>
+#include <string>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr const char* kSection = "BarState";
+constexpr const char* kDockedEntry = "Docked";
+constexpr const char* kStatusBarEntry = "StatusBar"; // Which the state of the docked bars leaves out.
+constexpr const char* kPaletteBarEntry = "PaletteBar";
+
+/// Of the state of the docked bars: it grows with each change of the bars that makes older states useless.
+constexpr int kVersion = 1;
+
+constexpr QPoint kFirstPlace{512, 400}; // Of the palette bar, on the screen.
+
+QByteArray sealOf(const QByteArray& state) {
+    return QCryptographicHash::hash(state, QCryptographicHash::Md5);
+}
+
+/// Empty unless the bytes are those that were saved: Qt believes the numbers in a damaged state, and may make
+/// millions of bars.
+QByteArray readDocked() {
+    const std::string text = platform().profile().textOr(kSection, kDockedEntry, "");
+    const QByteArray bytes = QByteArray::fromBase64(QByteArray::fromStdString(text));
+    const qsizetype sealSize = sealOf({}).size();
+    const QByteArray state = bytes.mid(sealSize);
+    return bytes.left(sealSize) == sealOf(state) ? state : QByteArray();
+}
+
+} // namespace
+
+void saveBarLayout(QMainWindow& frame, PalettePanel& paletteBar) {
+    Profile& settings = platform().profile();
+    const QByteArray state = frame.saveState(kVersion);
+    settings.setText(kSection, kDockedEntry, (sealOf(state) + state).toBase64().toStdString());
+    settings.setInteger(kSection, kStatusBarEntry, frame.statusBar()->isHidden() ? 0 : 1);
+    WindowPlacement placement = windowPlacement(paletteBar);
+    if (!paletteBar.isShown())
+        placement.showCommand = WindowPlacement::kHidden;
+    settings.setText(kSection, kPaletteBarEntry, formatWindowPlacement(placement));
+}
+
+void restoreBarLayout(QMainWindow& frame, PalettePanel& paletteBar) {
+    const Profile& settings = platform().profile();
+    frame.restoreState(readDocked(), kVersion);
+    frame.statusBar()->setVisible(settings.integer(kSection, kStatusBarEntry, 1) != 0);
+    const std::optional<WindowPlacement> placement =
+        parseWindowPlacement(settings.textOr(kSection, kPaletteBarEntry, ""));
+    if (placement && placement->hasRectangle())
+        setWindowPlacement(paletteBar, *placement);
+    else
+        placeInsideScreen(paletteBar, kFirstPlace);
+    paletteBar.setShown(!placement || placement->showCommand != WindowPlacement::kHidden);
+}
+
+} // namespace dyeworks

@@ -1,0 +1,17 @@
+#pragma once
+
+class QMainWindow;
+
+namespace dyeworks {
+
+class PalettePanel;
+
+// Where the bars of the main window stand and which are shown, in the settings, section "BarState".
+
+void saveBarLayout(QMainWindow& frame, PalettePanel& paletteBar);
+
+/// Puts the bars where they were. What cannot be read leaves its bars as they are; a palette bar without a
+/// place of its own gets its first one.
+void restoreBarLayout(QMainWindow& frame, PalettePanel& paletteBar);
+
+} // namespace dyeworks

@@ -1,0 +1,154 @@
+#include "platform/Platform.h"
+#include "project/ProjectDocument.h"
+#include "ui/AboutDialog.h"
+#include "ui/CDyeworksApp.h"
+#include "ui/CMainFrame.h"
+
+namespace dyeworks {
+
+namespace {
+
+constexpr const char* kOpenFilter = "Project Files (*.tpf)|*.tpf|Image Files (*.tmf)|*.tmf|"
+                                    "Palette Files (*.tlf)|*.tlf|All Files (*.*)|*.*||";
+// Positions in the filter, counted from 1.
+constexpr int kProjectFilter = 1;
+constexpr int kImageFilter = 2;
+constexpr int kPaletteFilter = 3;
+
+constexpr const char* kProjectKind = "Project";
+
+} // namespace
+
+void CDyeworksApp::fillCommands() {
+    on(ID_FILE_NEW, &CDyeworksApp::OnFileNew);
+    on(ID_FILE_OPEN, &CDyeworksApp::OnFileOpen);
+    on(ID_PROJECT_NEW, &CDyeworksApp::OnProjectNew, &CDyeworksApp::updateNeedsProjectKind);
+    on(ID_PROJECT_OPEN, &CDyeworksApp::OpenProjectFile, &CDyeworksApp::updateNeedsProjectKind);
+    on(ID_PROJECT_CLOSE, &CDyeworksApp::OnProjectClose, &CDyeworksApp::updateNeedsProject);
+    on(ID_PROJECT_SAVE, &CDyeworksApp::OnProjectSave, &CDyeworksApp::updateNeedsProject);
+    on(ID_PROJECT_SAVE_AS, &CDyeworksApp::OnProjectSaveAs, &CDyeworksApp::updateNeedsProject);
+    on(ID_PROJECT_PROPERTY, &CDyeworksApp::OnProjectProperty, &CDyeworksApp::updateNeedsProject);
+    on(ID_PICTURE_ADD, &CDyeworksApp::OnPictureAdd, &CDyeworksApp::updateNeedsProject);
+    on(ID_PICTURE_CHANGE, &CDyeworksApp::OnPictureChange, &CDyeworksApp::updateNeedsPicture);
+    on(ID_PICTURE_REMOVE, &CDyeworksApp::OnPictureRemove, &CDyeworksApp::updateNeedsPicture);
+    on(ID_PALETTE_NEW, &CDyeworksApp::OnPaletteNew);
+    on(ID_PALETTE_OPEN, &CDyeworksApp::OnPaletteOpen);
+    on(ID_PALETTE_CLOSE, &CDyeworksApp::OnPaletteClose, &CDyeworksApp::updateNeedsPalette);
+    on(ID_PALETTE_SAVE, &CDyeworksApp::OnPaletteSave, &CDyeworksApp::updateNeedsPalette);
+    on(ID_PALETTE_SAVE_AS, &CDyeworksApp::OnPaletteSaveAs, &CDyeworksApp::updateNeedsPalette);
+    on(ID_OPTIONS, &CDyeworksApp::OnOptions);
+    on(ID_APP_ABOUT, &CDyeworksApp::OnAppAbout);
+    on(ID_APP_EXIT, &CDyeworksApp::OnAppExit);
+    onRange(ID_RECENT_PROJECT_FIRST, ID_RECENT_PROJECT_LAST, &CDyeworksApp::OnRecentProject,
+            &CDyeworksApp::OnUpdateRecentProject);
+    onRange(ID_RECENT_IMAGE_FIRST, ID_RECENT_IMAGE_LAST, &CDyeworksApp::OnRecentImage,
+            &CDyeworksApp::OnUpdateRecentImage);
+    onRange(ID_RECENT_PALETTE_FIRST, ID_RECENT_PALETTE_LAST, &CDyeworksApp::OnRecentPalette,
+            &CDyeworksApp::OnUpdateRecentPalette);
+}
+
+void CDyeworksApp::openWithDialog(const char* defaultExtension, int filterIndex) {
+    FileDialogRequest request;
+    request.filter = kOpenFilter;
+    request.filterIndex = filterIndex;
+    request.defaultExtension = defaultExtension;
+    request.fileMustExist = true;
+    request.hideReadOnly = true;
+    if (const std::optional<std::string> path = platform().fileDialogs().open(request))
+        OpenDocumentFile(*path);
+}
+
+void CDyeworksApp::updateNeedsPalette(CommandUi& ui) {
+    ui.enabled = paletteSet()->lookup("") != nullptr;
+}
+
+void CDyeworksApp::updateNeedsProject(CommandUi& ui) {
+    ui.enabled = project_ != nullptr;
+}
+
+void CDyeworksApp::updateNeedsPicture(CommandUi& ui) {
+    ui.enabled = project_ != nullptr && !currentPicture_.empty();
+}
+
+void CDyeworksApp::updateNeedsProjectKind(CommandUi& ui) {
+    ui.enabled = FindDocTemplate(kProjectKind) != nullptr;
+}
+
+void CDyeworksApp::OnFileNew() {
+    imageTemplate().newDocument();
+}
+
+void CDyeworksApp::OnFileOpen() {
+    openWithDialog(".tmf", kImageFilter);
+}
+
+CDocument* CDyeworksApp::NewProject() {
+    DocumentTemplate* kind = FindDocTemplate(kProjectKind);
+    return kind == nullptr ? nullptr : kind->newDocument();
+}
+
+void CDyeworksApp::OpenProjectFile() {
+    openWithDialog(".tpf", kProjectFilter);
+}
+
+void CDyeworksApp::OnProjectNew() {
+    NewProject();
+}
+
+void CDyeworksApp::OnProjectClose() {
+    CloseProject();
+}
+
+void CDyeworksApp::OnProjectSave() {
+    project_->save();
+}
+
+void CDyeworksApp::OnProjectSaveAs() {
+    project_->saveAs();
+}
+
+void CDyeworksApp::OnProjectProperty() {
+    project_->EditProperties();
+}
+
+void CDyeworksApp::OnPictureAdd() {
+    project_->AddPicture(std::nullopt, "", "", 0, std::nullopt, false);
+}
+
+void CDyeworksApp::OnPictureChange() {
+    project_->ChangePicture(currentPicture_);
+}
+
+void CDyeworksApp::OnPictureRemove() {
+    // A copy, because the project bar chooses another picture meanwhile.
+    const std::string name = currentPicture_;
+    project_->RemovePicture(name);
+}
+
+void CDyeworksApp::OnPaletteOpen() {
+    openWithDialog(".tlf", kPaletteFilter);
+}
+
+void CDyeworksApp::OnPaletteClose() {
+    if (palettes_->closePalette("", true))
+        RefreshImagePalettes();
+    refreshPaletteBar();
+}
+
+void CDyeworksApp::OnPaletteSave() {
+    keepAttachments([this] { palettes_->savePalette("", true); });
+}
+
+void CDyeworksApp::OnPaletteSaveAs() {
+    keepAttachments([this] { palettes_->savePaletteAs("", true); });
+}
+
+void CDyeworksApp::OnAppAbout() {
+    AboutDialog(mainFrame_.get()).exec();
+}
+
+void CDyeworksApp::OnAppExit() {
+    mainFrame_->close();
+}
+
+} // namespace dyeworks

@@ -1,0 +1,47 @@
+#include "ui/AskUseProject.h"
+#include "ui/CDyeworksApp.h"
+#include "ui/CFileNewPalettePage.h"
+#include "ui/CFileNewSheet.h"
+#include "ui/CFileNewTexturePage.h"
+#include "ui/CMainFrame.h"
+#include "ui/COptionPropertySheet.h"
+#include "ui/CUseProjectDlg.h"
+
+namespace dyeworks {
+
+std::optional<NewImage> CDyeworksApp::askNewImage() {
+    CFileNewSheet sheet(mainFrame_.get());
+    const CFileNewTexturePage& page = sheet.texturePage();
+    sheet.keepOnly(page);
+    if (sheet.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return NewImage{page.imageWidth(), page.imageHeight(), static_cast<std::uint16_t>(page.bitsPerPixel())};
+}
+
+void CDyeworksApp::AskUseProject() {
+    // Without that kind of documents there is nothing to offer.
+    if (FindDocTemplate("Project") == nullptr)
+        return;
+    UseProjectParts parts;
+    parts.projectIsOpen = project_ != nullptr;
+    parts.ask = [this](bool& notifyNextTime) {
+        return CUseProjectDlg::ask(notifyNextTime, mainFrame_.get());
+    };
+    parts.newProject = [this] { NewProject(); };
+    parts.openProject = [this] { OpenProjectFile(); };
+    askUseProject(parts);
+}
+
+void CDyeworksApp::OnPaletteNew() {
+    CFileNewSheet sheet(mainFrame_.get());
+    const CFileNewPalettePage& page = sheet.palettePage();
+    sheet.keepOnly(page);
+    if (sheet.exec() == QDialog::Accepted)
+        palettes_->newPalette(page.entryCount(), page.colourType(), page.defaultAlpha());
+}
+
+void CDyeworksApp::OnOptions() {
+    OptionsCommand(mainFrame_.get());
+}
+
+} // namespace dyeworks

@@ -1,0 +1,271 @@
+#include "framework/widgets/ChildFrame.h"
+#include "paint/widgets/ImageView.h"
+#include "platform/Platform.h"
+#include "ui/CDyeworksApp.h"
+#include "ui/CMainFrame.h"
+#include "ui/CommandLine.h"
+#include "ui/PalettePanel.h"
+#include "ui/SplashScreen.h"
+#include "ui/controls/ControlRegistration.h"
+
+#include <QApplication>
+#include <QPixmap>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <set>
+#include <system_error>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr const char* kAppSection = "App section";
+constexpr const char* kDirectoryEntry = "Current Directory";
+constexpr const char* kDocumentsSection = "Settings\\Documents";
+constexpr const char* kCountEntry = "count";
+
+const std::array kFileTypes{
+    FileTypeRegistration{"TMF.Document", ".tmf", "image/x-orrery-tmf"},
+    FileTypeRegistration{"TPF.Document", ".tpf", "text/x-orrery-tpf"},
+    FileTypeRegistration{"TLF.Document", ".tlf", "application/x-orrery-tlf"},
+};
+
+int localeOf(const CommandLine& commandLine) {
+    if (commandLine.language.isEmpty())
+        return platform().locale().defaultLocale();
+    return commandLine.language == QLatin1String("ja") ? kLocaleJapanese : kLocaleEnglish;
+}
+
+/// The numbers below `count` under which the open documents have an entry.
+std::set<int> storedDocuments(int count) {
+    std::set<int> stored;
+    for (const std::string& name : platform().profile().entries(kDocumentsSection)) {
+        int number = 0;
+        const bool fits = std::from_chars(name.data(), name.data() + name.size(), number).ec == std::errc();
+        if (fits && number >= 0 && number < count && std::to_string(number) == name)
+            stored.insert(number);
+    }
+    return stored;
+}
+
+} // namespace
+
+bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
+    exitCode_ = 1;
+    followLocale(commandLine);
+    if (!parts_.startObjectServices()) {
+        applicationMessage(text(StringId::ObjectServicesFailed));
+        return false;
+    }
+    if (commandLine.isInteractive() && !commandLine.noSplash)
+        showSplashScreen();
+    readSettings();
+    // A picture of the window is to leave no trace.
+    keepsSettings_ = !commandLine.renders();
+    if (!registerControls())
+        return false;
+    createImageTemplate();
+    if (!createMainFrame())
+        return false;
+    programFolder_ = platform().files().programFolder();
+    if (keepsSettings_)
+        static_cast<void>(platform().shell().registerFileTypes({kFileTypes.begin(), kFileTypes.end()}));
+    listenForOpenRequests(commandLine);
+    if (!createPaletteSet())
+        return false;
+    helpPath_ = programFolder_ + "..\\doc\\index.html";
+    if (commandLine.task == CommandLine::Task::Serve || !processCommandLine(commandLine))
+        return false;
+    showMainFrame();
+    if (commandLine.task == CommandLine::Task::Nothing && !commandLine.renders() && !ResumeDocuments())
+        platform().messages().show({text(StringId::ResumeFailed), "", MessageButtons::Ok,
+                                    MessageIcon::Information, MessageOwner::MainWindow});
+    openRequests_.start();
+    return true;
+}
+
+int CDyeworksApp::ExitInstance() {
+    Profile& profile = platform().profile();
+    if (keepsSettings_)
+        profile.setText(kAppSection, kDirectoryEntry, platform().files().currentDirectory());
+    if (palettes_ != nullptr)
+        palettes_->setListener(nullptr);
+    mainFrame_.reset();
+    palettes_.reset();
+    if (keepsSettings_) {
+        for (const RecentFileList* list :
+             {&recentProjects_, &recentImages_, &recentPalettes_, &recentOthers_})
+            list->save();
+    }
+    return exitCode_;
+}
+
+void CDyeworksApp::followLocale(const CommandLine& commandLine) {
+    if (localeOf(commandLine) != kLocaleJapanese)
+        return;
+    Locale& locale = platform().locale();
+    // A host without the Japanese locale still shows Japanese texts and time.
+    static_cast<void>(locale.setRuntimeLocale("Japanese"));
+    locale.putEnvironment("TZ=JST-9");
+    locale.rereadTimeZone();
+}
+
+void CDyeworksApp::showSplashScreen() {
+    if (splash_ != nullptr)
+        return;
+    auto* splash = new SplashScreen;
+    // It destroys itself when it closes.
+    splash_ = splash;
+    QObject::connect(splash, &SplashScreen::closed, splash, [this] {
+        if (mainFrame_ != nullptr)
+            mainFrame_->update();
+    });
+    splash_->show();
+}
+
+void CDyeworksApp::readSettings() {
+    const std::string folder = platform().profile().textOr(kAppSection, kDirectoryEntry, "");
+    if (!folder.empty())
+        static_cast<void>(platform().files().setCurrentDirectory(folder));
+    for (RecentFileList* list : {&recentOthers_, &recentProjects_, &recentImages_, &recentPalettes_})
+        list->load();
+}
+
+bool CDyeworksApp::registerControls() {
+    if (!registerControl("SwatchGrid.ocx")) {
+        applicationMessage("SwatchGrid.ocx is not found.");
+        return false;
+    }
+    // Without these, folders are typed and values are entered as numbers.
+    if (!registerControl("FolderPick.ocx"))
+        applicationMessage("FolderPick.ocx is not found");
+    if (!registerControl("RampSlider.ocx"))
+        applicationMessage("RampSlider.ocx is not found");
+    return true;
+}
+
+void CDyeworksApp::createImageTemplate() {
+    DocumentWindows& windows = *this;
+    addDocTemplate(std::make_unique<DocumentTemplate>(
+        DocumentTemplate::Names{"Texture", ".tmf"},
+        [this](DocumentTemplate& own) { return std::make_unique<CDyeworksDoc>(*this, &own); }, windows));
+    // The first kind takes the files that no kind claims.
+    std::rotate(templates_.begin(), templates_.end() - 1, templates_.end());
+}
+
+bool CDyeworksApp::createMainFrame() {
+    mainFrame_ = parts_.makeMainFrame(*this);
+    return mainFrame_ != nullptr;
+}
+
+void CDyeworksApp::listenForOpenRequests(const CommandLine& commandLine) {
+    // A program for one task does not take on others, and may be gone before it could.
+    if (!commandLine.isInteractive() || commandLine.newInstance)
+        return;
+    static_cast<void>(platform().shell().listenForOpenRequests([this](const std::vector<std::string>& paths) {
+        raiseMainFrame();
+        openRequests_.add(paths);
+    }));
+}
+
+bool CDyeworksApp::createPaletteSet() {
+    palettes_ = parts_.makePaletteSet();
+    if (palettes_ == nullptr)
+        return false;
+    setApplicationPaletteSet(palettes_.get());
+    palettes_->setListener(&mainFrame_->palettePanel());
+    // The first idle moment may be long in coming: files are opened before, and each may raise a message.
+    mainFrame_->commandActions().refresh();
+    return true;
+}
+
+bool CDyeworksApp::processCommandLine(const CommandLine& commandLine) {
+    // Windows of images take the room that there is in the main one, which a hidden window settles only when
+    // it is rendered.
+    if (!commandLine.files.isEmpty())
+        static_cast<void>(mainFrame_->grab(QRect(0, 0, 1, 1)));
+    if (commandLine.prints()) {
+        exitCode_ = printFiles(commandLine) ? 0 : 1;
+        return false;
+    }
+    const std::vector<std::string> paths = commandLine.paths();
+    const bool allOpened = OpenFiles(paths, commandLine.attach);
+    // A picture that is not of what was asked for is none; a person goes on with what did open.
+    exitCode_ = allOpened || !commandLine.renders() ? 0 : 1;
+    const bool anyOpened =
+        !paletteSet()->palettes.empty() ||
+        std::ranges::any_of(templates_, [](const auto& kind) { return !kind->documents().empty(); });
+    if (paths.empty() || anyOpened || commandLine.renders())
+        return true;
+    exitCode_ = 1;
+    return false;
+}
+
+bool CDyeworksApp::printFiles(const CommandLine& commandLine) {
+    const std::vector<std::string> paths = commandLine.paths();
+    const bool allOpened = OpenFiles(paths, commandLine.attach);
+    const CDocument* document = FindOpenDocument(paths.back());
+    const ChildFrame* frame = document == nullptr ? nullptr : mainFrame_->frameOf(*document);
+    auto* view = frame == nullptr ? nullptr : qobject_cast<ImageView*>(frame->widget());
+    if (!allOpened)
+        return false;
+    if (view != nullptr &&
+        mainFrame_->printing().printUnasked(*view, commandLine.printer, commandLine.printFile))
+        return true;
+    applicationMessage(text(StringId::PrintingFailed));
+    return false;
+}
+
+void CDyeworksApp::showMainFrame() {
+    mainFrame_->show();
+    if (splash_ != nullptr)
+        splash_->raise();
+    // The window is painted before documents that may take a while are opened in it.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void CDyeworksApp::raiseMainFrame() {
+    if (mainFrame_ == nullptr || !mainFrame_->isVisible())
+        return;
+    mainFrame_->setWindowState(mainFrame_->windowState() & ~Qt::WindowMinimized);
+    // A dialog that waits for an answer is what the user has to come to.
+    QWidget* dialog = QApplication::activeModalWidget();
+    QWidget* top = dialog == nullptr ? mainFrame_.get() : dialog->window();
+    top->raise();
+    top->activateWindow();
+}
+
+void CDyeworksApp::openHandedOver(const std::vector<std::string>& paths) {
+    if (mainFrame_ != nullptr)
+        OpenFiles(paths, false);
+}
+
+bool CDyeworksApp::ResumeDocuments() {
+    const Profile& profile = platform().profile();
+    const int count = profile.integer(kDocumentsSection, kCountEntry, 0);
+    const std::set<int> stored = storedDocuments(count);
+    // What is missing counts as failed. How much that is may be nonsense in a damaged file, so that only what
+    // is there is gone through.
+    bool allOpened = count <= static_cast<int>(stored.size());
+    for (const int number : stored)
+        allOpened =
+            OpenDocumentFile(profile.textOr(kDocumentsSection, std::to_string(number), "")) && allOpened;
+    return allOpened;
+}
+
+void CDyeworksApp::SaveOpenDocuments() {
+    Profile& profile = platform().profile();
+    std::vector<std::string> open;
+    paletteSet()->listKeys(open);
+    for (const ChildFrame* frame : mainFrame_->childFrames()) {
+        if (frame->document() != nullptr && !frame->document()->pathName().empty())
+            open.push_back(frame->document()->pathName());
+    }
+    for (std::size_t i = 0; i < open.size(); ++i)
+        profile.setText(kDocumentsSection, std::to_string(i), open[i]);
+    profile.setInteger(kDocumentsSection, kCountEntry, static_cast<int>(open.size()));
+}
+
+} // namespace dyeworks

@@ -1,0 +1,153 @@
+#include "ui/CProjectBar.h"
+
+#include "framework/CommandIds.h"
+#include "framework/widgets/CommandActions.h"
+#include "platform/Text.h"
+#include "project/ProjectDocument.h"
+#include "ui/CDyeworksApp.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QHelpEvent>
+#include <QLayout>
+#include <QSignalBlocker>
+#include <QToolButton>
+#include <QToolTip>
+
+#include <algorithm>
+#include <vector>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr const char* kNoPicture = "(no picture)";
+constexpr int kListLetters = 16; // That the list has room for.
+constexpr int kButtonLetters = 20;
+constexpr qsizetype kTipLetters = 127;
+
+QString shown(StringId id) {
+    return QString::fromStdString(text(id));
+}
+
+std::vector<std::string> picturesOf(const ProjectDocument* project) {
+    return project == nullptr ? std::vector<std::string>() : project->pictureNames();
+}
+
+} // namespace
+
+CProjectBar::CProjectBar(CDyeworksApp& application, const CommandActions& actions)
+    : QToolBar(shown(StringId::BarProject))
+    , application_(application)
+    , pictures_(new QComboBox)
+    , picture_(new QToolButton) {
+    setObjectName(QStringLiteral("ID_VIEW_PROJECTBAR"));
+    setAllowedAreas(Qt::TopToolBarArea | Qt::BottomToolBarArea);
+    setWhatsThis(shown(StringId::HelpProjectBar));
+    layout()->setSpacing(fontMetrics().averageCharWidth());
+
+    pictures_->setObjectName(QStringLiteral("IDC_PICTURE_LIST"));
+    pictures_->setAccessibleName(shown(StringId::ProjectPictures));
+    pictures_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    pictures_->setMinimumContentsLength(kListLetters);
+    pictures_->installEventFilter(this);
+    connect(pictures_, &QComboBox::currentIndexChanged, this, &CProjectBar::updatePictureButton);
+    addWidget(pictures_);
+
+    addCommandButton(actions.action(ID_PICTURE_ADD), QStringLiteral("ID_PICTURE_ADD"),
+                     shown(StringId::ProjectBarAdd));
+    addCommandButton(actions.action(ID_PICTURE_CHANGE), QStringLiteral("ID_PICTURE_CHANGE"),
+                     shown(StringId::ProjectBarChange));
+    addCommandButton(actions.action(ID_PICTURE_REMOVE), QStringLiteral("ID_PICTURE_REMOVE"),
+                     shown(StringId::ProjectBarRemove));
+
+    picture_->setObjectName(QStringLiteral("IDC_PICTURE_BUTTON"));
+    picture_->setFocusPolicy(Qt::StrongFocus);
+    picture_->setFixedWidth(kButtonLetters * fontMetrics().averageCharWidth());
+    picture_->installEventFilter(this);
+    connect(picture_, &QToolButton::clicked, this, &CProjectBar::openPicture);
+    addButton(*picture_);
+    Refresh();
+}
+
+void CProjectBar::addCommandButton(QAction* command, const QString& name, const QString& text) {
+    auto* button = new QToolButton;
+    button->setObjectName(name);
+    button->setText(text);
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setToolTip(command->toolTip());
+    button->setStatusTip(command->statusTip());
+    button->setWhatsThis(command->whatsThis());
+    const auto follow = [button, command] { button->setEnabled(command->isEnabled()); };
+    follow();
+    connect(command, &QAction::changed, button, follow);
+    connect(button, &QToolButton::clicked, command, &QAction::trigger);
+    addButton(*button);
+}
+
+void CProjectBar::addButton(QToolButton& button) {
+    addWidget(&button);
+    // In a bar, buttons of words alone would look like mere words.
+    button.setAutoRaise(false);
+}
+
+void CProjectBar::Refresh() {
+    const std::vector<std::string> names = picturesOf(application_.projectDocument());
+    {
+        const QSignalBlocker quiet(pictures_);
+        pictures_->clear();
+        for (const std::string& name : names)
+            pictures_->addItem(QString::fromStdString(name));
+        if (names.empty())
+            pictures_->addItem(QString::fromLatin1(kNoPicture));
+        pictures_->setCurrentIndex(pictures_->count() - 1);
+        pictures_->setEnabled(!names.empty());
+    }
+    updatePictureButton();
+}
+
+void CProjectBar::SelectPicture(const std::string& name) {
+    const int index = pictures_->findText(QString::fromStdString(name), Qt::MatchExactly);
+    if (index < 0)
+        return;
+    {
+        const QSignalBlocker quiet(pictures_);
+        pictures_->setCurrentIndex(index);
+    }
+    updatePictureButton();
+}
+
+void CProjectBar::updatePictureButton() {
+    const std::vector<std::string> names = picturesOf(application_.projectDocument());
+    const std::string chosen = pictures_->currentText().toStdString();
+    const bool known = std::ranges::find(names, chosen) != names.end();
+    application_.setCurrentPicture(known ? chosen : "");
+    const QString text = known ? QString::fromStdString(chosen) : QString::fromLatin1(kNoPicture);
+    const int room = picture_->width() - 2 * fontMetrics().averageCharWidth();
+    // An ampersand of the name is no mnemonic.
+    picture_->setText(fontMetrics()
+                          .elidedText(text, Qt::ElideMiddle, room)
+                          .replace(QLatin1Char('&'), QStringLiteral("&&")));
+    picture_->setAccessibleName(text);
+    picture_->setAccessibleDescription(shown(StringId::OpenChosenPicture));
+    picture_->setEnabled(known);
+}
+
+void CProjectBar::openPicture() {
+    // By value: opening may choose another picture.
+    const std::string chosen = application_.currentPicture();
+    if (ProjectDocument* project = application_.projectDocument(); project != nullptr && !chosen.empty())
+        project->OpenPicture(chosen);
+}
+
+bool CProjectBar::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QToolBar::eventFilter(watched, event);
+    const ProjectDocument* project = application_.projectDocument();
+    const QString tip = project == nullptr ? QStringLiteral("Project is not open yet.")
+                                           : QString::fromStdString(project->title()).left(kTipLetters);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, static_cast<QWidget*>(watched));
+    return true;
+}
+
+} // namespace dyeworks

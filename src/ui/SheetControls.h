@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/StringId.h"
+
+#include <QString>
+#include <QWidget>
+
+#include <initializer_list>
+#include <string>
+
+class QRadioButton;
+
+namespace dyeworks {
+
+/// The text in the user's language, for a control to show.
+[[nodiscard]] QString shown(StringId id, std::initializer_list<std::string> arguments = {});
+
+/// A button of a group of choices. Those of one choiceColumn exclude each other.
+[[nodiscard]] QRadioButton* choiceButton(const char* name, StringId caption, StringId tip);
+/// The buttons below each other; `name` is what screen readers call the group.
+[[nodiscard]] QWidget* choiceColumn(StringId name, std::initializer_list<QRadioButton*> buttons);
+
+/// "2,048 bytes", the way the user's country writes numbers.
+[[nodiscard]] QString byteCount(qlonglong bytes);
+
+} // namespace dyeworks

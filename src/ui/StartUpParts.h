@@ -1,0 +1,23 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+namespace dyeworks {
+
+class CDyeworksApp;
+class CMainFrame;
+class PaletteSet;
+
+/// What start-up is made of and may fail to get. Whoever starts the program may put others in their place.
+struct StartUpParts {
+    StartUpParts();
+
+    /// Clipboard, drag and drop and the hosting of controls. False when the desktop does not give them.
+    std::function<bool()> startObjectServices;
+    /// Null when there is not enough memory, here and below. The window is not shown yet.
+    std::function<std::unique_ptr<CMainFrame>(CDyeworksApp&)> makeMainFrame;
+    std::function<std::unique_ptr<PaletteSet>()> makePaletteSet;
+};
+
+} // namespace dyeworks

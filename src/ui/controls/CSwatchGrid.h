@@ -1,0 +1,95 @@
+#pragma once
+
+#include "ui/controls/ControlClient.h"
+
+#include <QString>
+#include <QWidget>
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+namespace dyeworks {
+
+/// A grid of colour cells: places a SwatchGrid control and calls it. Cells are numbered row by row from 0.
+/// When the control is missing the widget stays empty, the operations do nothing, and what they answer is
+/// "no", "none" (-1) or 0.
+class CSwatchGrid : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Values of a marker slot other than a cell.
+    static constexpr std::int16_t kNone = -1;
+    static constexpr std::int16_t kSwitchedOff = -2;
+    /// The slot whose cell is the current one. Slots 1 to 3 are further marks.
+    static constexpr std::int16_t kCurrent = 0;
+
+    /// Corners of a range of cells, all inclusive; the first is left of and above the last.
+    struct Range {
+        std::int16_t firstColumn = 0;
+        std::int16_t firstRow = 0;
+        std::int16_t lastColumn = 0;
+        std::int16_t lastRow = 0;
+    };
+
+    explicit CSwatchGrid(QWidget* parent = nullptr);
+    ~CSwatchGrid() override;
+
+    /// Whether there is a control.
+    [[nodiscard]] bool exists() const noexcept { return control_.exists(); }
+    /// The control's own window, which has the mouse and the keyboard; null when there is no control.
+    [[nodiscard]] QWidget* controlWindow() const { return control_.widget(); }
+
+    /// Frames the current cell's row, whose entries a 4-bit image uses.
+    void setBankMode(bool on); // 2
+    /// 1: the user can select ranges and edit with a double click. 0: cells can be clicked only.
+    void setSelectable(std::int16_t value);                      // 3
+    void setCellLayout(std::int16_t columns, std::int16_t rows); // 4
+    /// Cells beyond the count keep nothing; new ones are black. False for a count that is not possible.
+    bool setCellCount(std::int16_t count);                          // 5
+    [[nodiscard]] std::uint32_t cellValue(std::int16_t cell) const; // 6
+    /// `value` is 0xAABBGGRR. The displayed colour becomes its low 24 bits.
+    void setCellValue(std::int16_t cell, std::uint32_t value); // 7
+    [[nodiscard]] std::int16_t cellCount() const;              // 9
+    /// `slot` is 0 to 3; `cell` a cell, kNone or kSwitchedOff. Any cell brings a slot back that was switched
+    /// off. A cell that does not exist is remembered but not shown.
+    bool setMarker(std::int16_t slot, std::int16_t cell);       // 11
+    [[nodiscard]] std::int16_t marker(std::int16_t slot) const; // 12
+    [[nodiscard]] std::optional<Range> selectedRange() const;   // 14
+    [[nodiscard]] bool hasSelectedRange() const;                // 14
+    bool copySelected();                                        // 15
+    [[nodiscard]] bool hasCopiedCells() const;                  // 16
+    /// What lies beyond the grid's right and lower edge is left out. Raises cellsPasted when it changes
+    /// anything; false when there is nothing to paste or the place is outside the grid.
+    bool paste(std::int16_t column, std::int16_t row); // 17
+    /// The cell under a point of `controlWindow()`, in its pixels; kNone between and beside the cells.
+    [[nodiscard]] std::int16_t cellAt(std::int32_t x, std::int32_t y) const; // 19
+    /// `colour` is 0x00BBGGRR: what is painted, until the cell gets another value.
+    void setCellColour(std::int16_t cell, std::uint32_t colour); // 26
+
+    /// The row that bank mode frames when it is not the current cell's; kNone: the current cell's.
+    void setBankRow(std::int16_t row); // 101
+    /// The cell of the last click or double click, by mouse or keyboard; kNone before the first.
+    [[nodiscard]] std::int16_t clickedCell() const; // 102
+    /// Says what a cell holds, for its tool tip and for screen readers. Without one it is the cell's value.
+    void setDescriber(std::function<QString(int cell)> describer) { describer_ = std::move(describer); }
+    /// The description of some cell is another one now, though its value is the same.
+    void describeAgain(); // 103
+
+Q_SIGNALS:
+    /// A cell was chosen with the mouse or the keyboard. Where slot 0 is on it is the current cell already.
+    void clicked();
+    void doubleClicked();
+    /// The user selects a range: its corners so far.
+    void rangeSelected(int firstColumn, int firstRow, int lastColumn, int lastRow);
+    /// Cells from `first` to `last`, inclusive, were replaced by a paste; some between may be unchanged.
+    void cellsPasted(int first, int last);
+
+private:
+    void hearEvent(DispatchId event, DispatchArguments arguments);
+
+    std::function<QString(int)> describer_;
+    ControlClient control_;
+};
+
+} // namespace dyeworks

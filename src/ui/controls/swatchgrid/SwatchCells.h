@@ -1,0 +1,70 @@
+#pragma once
+
+#include "ui/controls/swatchgrid/CopiedCells.h"
+
+#include <QRect>
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace dyeworks {
+
+/// What a grid holds: cells, marks and the selected range. Cells are numbered row by row from 0.
+class SwatchCells {
+public:
+    static constexpr int kNone = -1;
+    static constexpr int kSwitchedOff = -2;
+    static constexpr int kCurrentSlot = 0;
+    static constexpr int kSlots = 4;
+
+    struct Cell {
+        std::uint32_t value = 0;  ///< 0xAABBGGRR
+        std::uint32_t colour = 0; ///< 0x00BBGGRR, what is painted.
+    };
+
+    // A new shape or count ends the selection. Marks stay, also on cells that do not exist any more.
+    void setShape(int columns, int rows);
+    void setCount(int count);
+    [[nodiscard]] int columns() const noexcept { return columns_; }
+    [[nodiscard]] int rows() const noexcept { return rows_; }
+    [[nodiscard]] int count() const noexcept { return static_cast<int>(cells_.size()); }
+    [[nodiscard]] bool has(int cell) const noexcept { return cell >= 0 && cell < count(); }
+    /// A cell that exists.
+    [[nodiscard]] const Cell& at(int cell) const { return cells_[static_cast<std::size_t>(cell)]; }
+    /// Sets the value, and the displayed colour to its low 24 bits.
+    void setValue(int cell, std::uint32_t value);
+    void setColour(int cell, std::uint32_t colour);
+
+    /// False, changing nothing, for a slot that there is not or a cell below kSwitchedOff. The selection ends
+    /// when the current cell becomes another one.
+    bool setMarker(int slot, int cell);
+    /// kNone for a slot that there is not.
+    [[nodiscard]] int marker(int slot) const;
+    [[nodiscard]] int current() const { return markers_[kCurrentSlot]; }
+
+    /// Both ends are cells that exist; they are opposite corners.
+    void select(int from, int to);
+    /// Columns and rows of the selected cells.
+    [[nodiscard]] std::optional<QRect> selection() const;
+    /// The corner that the selection began at; kNone without one.
+    [[nodiscard]] int selectionStart() const { return selection_ ? selection_->first : kNone; }
+    [[nodiscard]] int selectionEnd() const { return selection_ ? selection_->second : kNone; }
+
+    /// The selected cells; nothing without a selection.
+    [[nodiscard]] std::optional<CopiedCells> selected() const;
+    /// Puts copied cells with their first at a place, leaving out those that lie outside the grid. The first
+    /// and the last cell that have another value now; nothing when none has.
+    std::optional<std::pair<int, int>> paste(const CopiedCells& copied, int column, int row);
+
+private:
+    int columns_ = 0;
+    int rows_ = 0;
+    std::vector<Cell> cells_;
+    std::array<int, kSlots> markers_{kNone, kNone, kNone, kNone};
+    std::optional<std::pair<int, int>> selection_;
+};
+
+} // namespace dyeworks

@@ -1,0 +1,333 @@
+#include "ui/controls/swatchgrid/SwatchGrid.h"
+
+#include "ui/controls/swatchgrid/SwatchPainter.h"
+
+#include <QAccessible>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <QtMath>
+
+#include <algorithm>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr int kFewColumns = 4; // With no more than these, cells are larger.
+
+bool isStep(int key) {
+    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
+} // namespace
+
+SwatchGrid::SwatchGrid(Listener& listener)
+    : listener_(listener) {
+    setFocusPolicy(Qt::StrongFocus);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+}
+
+void SwatchGrid::setShape(int columns, int rows) {
+    const SwatchGeometry before = geometryOfCells();
+    cells_.setShape(columns, rows);
+    shapeChanged(before);
+}
+
+void SwatchGrid::setCount(int count) {
+    const SwatchGeometry before = geometryOfCells();
+    cells_.setCount(count);
+    shapeChanged(before);
+}
+
+void SwatchGrid::shapeChanged(const SwatchGeometry& before) {
+    const SwatchGeometry now = geometryOfCells();
+    if (now.columns() == before.columns() && now.shownCells() == before.shownCells())
+        return;
+    isDragging_ = false;
+    walked_ = 0;
+    updateGeometry();
+    update();
+    QAccessibleTableModelChangeEvent told(this, QAccessibleTableModelChangeEvent::ModelReset);
+    QAccessible::updateAccessibility(&told);
+}
+
+void SwatchGrid::setValue(int cell, std::uint32_t value) {
+    const bool isNew = cells_.at(cell).value != value;
+    cells_.setValue(cell, value);
+    update();
+    if (isNew && cell == activeCell())
+        tellName(cell);
+}
+
+void SwatchGrid::setColour(int cell, std::uint32_t colour) {
+    cells_.setColour(cell, colour);
+    update();
+}
+
+bool SwatchGrid::setMarker(int slot, int cell) {
+    const int before = activeCell();
+    if (!cells_.setMarker(slot, cell))
+        return false;
+    if (activeCell() != before)
+        tellFocus();
+    update();
+    return true;
+}
+
+std::optional<std::pair<int, int>> SwatchGrid::paste(const CopiedCells& copied, int column, int row) {
+    update();
+    return cells_.paste(copied, column, row);
+}
+
+void SwatchGrid::setBankMode(bool on) {
+    bankMode_ = on;
+    update();
+}
+
+void SwatchGrid::setBankRow(int row) {
+    bankRow_ = row;
+    update();
+}
+
+void SwatchGrid::describeAgain() {
+    tellName(activeCell());
+}
+
+int SwatchGrid::activeCell() const {
+    const int cell = cells_.current() == SwatchCells::kSwitchedOff ? walked_ : cells_.current();
+    return cells_.has(cell) ? cell : kNone;
+}
+
+void SwatchGrid::tellFocus() {
+    if (!hasFocus() || activeCell() == kNone)
+        return;
+    QAccessibleEvent told(this, QAccessible::Focus);
+    told.setChild(activeCell());
+    QAccessible::updateAccessibility(&told);
+}
+
+void SwatchGrid::tellName(int cell) {
+    if (cell == kNone)
+        return;
+    QAccessibleEvent told(this, QAccessible::NameChanged);
+    told.setChild(cell);
+    QAccessible::updateAccessibility(&told);
+}
+
+SwatchGeometry SwatchGrid::geometryOfCells() const {
+    SwatchGeometry geometry({cells_.columns(), cells_.rows(), cells_.count()}, preferredPitch(),
+                            devicePixelRatioF());
+    geometry.fit(size());
+    return geometry;
+}
+
+QRect SwatchGrid::cellArea(int cell) const {
+    const SwatchGeometry geometry = geometryOfCells();
+    const QRect device = geometry.cell(cell);
+    if (device.isEmpty())
+        return {};
+    const qreal scale = geometry.scale();
+    return QRectF(QPointF(device.topLeft()) / scale, QSizeF(device.size()) / scale).toAlignedRect();
+}
+
+int SwatchGrid::preferredPitch() const {
+    return cells_.columns() > kFewColumns ? fontMetrics().height() : 2 * fontMetrics().height();
+}
+
+QSize SwatchGrid::sizeHint() const {
+    return geometryOfCells().preferredSize();
+}
+
+QSize SwatchGrid::minimumSizeHint() const {
+    return geometryOfCells().smallestSize();
+}
+
+int SwatchGrid::heightForWidth(int width) const {
+    return geometryOfCells().heightForWidth(width);
+}
+
+bool SwatchGrid::canSelect() const {
+    return selectable_ && cells_.current() != SwatchCells::kSwitchedOff;
+}
+
+void SwatchGrid::choose(int cell) {
+    if (!cells_.has(cell))
+        return;
+    clicked_ = cell;
+    const bool isMarked = cells_.current() != SwatchCells::kSwitchedOff;
+    if (isMarked)
+        cells_.setMarker(SwatchCells::kCurrentSlot, cell);
+    else
+        walked_ = cell;
+    update();
+    tellFocus();
+    if (canSelect())
+        select(cell, cell);
+    listener_.clicked();
+}
+
+void SwatchGrid::open(int cell) {
+    if (!cells_.has(cell))
+        return;
+    if (cell != clicked_)
+        choose(cell);
+    listener_.doubleClicked();
+}
+
+void SwatchGrid::select(int from, int to) {
+    const std::optional<QRect> before = cells_.selection();
+    cells_.select(from, to);
+    const std::optional<QRect> now = cells_.selection();
+    if (!now || now == before)
+        return;
+    update();
+    QAccessibleEvent told(this, QAccessible::SelectionWithin);
+    QAccessible::updateAccessibility(&told);
+    listener_.selected(*now);
+}
+
+void SwatchGrid::selectTo(int cell) {
+    const int start = cells_.selectionStart();
+    const int from = cells_.has(start) ? start : activeCell();
+    if (from == kNone)
+        choose(cell);
+    else
+        select(from, cell);
+}
+
+bool SwatchGrid::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const int cell = cellAt(help->pos());
+    const QString tip = cell == kNone ? QString() : description(cell);
+    // Beside the cells the tip is that of whoever placed the grid.
+    if (tip.isEmpty())
+        return QWidget::event(event);
+    QToolTip::showText(help->globalPos(), tip, this, cellArea(cell));
+    return true;
+}
+
+void SwatchGrid::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    SwatchPainter(painter, *this).paint();
+}
+
+void SwatchGrid::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton)
+        return QWidget::mousePressEvent(event);
+    const int cell = cellAt(event->position());
+    isDragging_ = cell != kNone;
+    if (isDragging_ && canSelect() && (event->modifiers() & Qt::ShiftModifier))
+        selectTo(cell);
+    else
+        choose(cell);
+}
+
+void SwatchGrid::mouseMoveEvent(QMouseEvent* event) {
+    if (!isDragging_ || !(event->buttons() & Qt::LeftButton))
+        return;
+    const int cell = geometryOfCells().nearestCell(event->position());
+    if (cell == kNone)
+        return;
+    if (canSelect())
+        selectTo(cell);
+    else if (cell != clicked_)
+        choose(cell);
+}
+
+void SwatchGrid::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        isDragging_ = false;
+}
+
+void SwatchGrid::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        open(cellAt(event->position()));
+}
+
+/// Where a key leads from a cell; nothing when it is not one that walks.
+std::optional<int> SwatchGrid::walkTarget(const QKeyEvent& event, int from) const {
+    const int columns = cells_.columns();
+    const int last = geometryOfCells().shownCells() - 1;
+    const int rowStart = from / columns * columns;
+    const int lastOfColumn = from + (last - from) / columns * columns;
+    const bool whole = event.modifiers() & Qt::ControlModifier;
+    const auto within = [&](int cell) { return cell >= 0 && cell <= last ? cell : from; };
+    switch (event.key()) {
+    case Qt::Key_Left:
+        return within(from - 1);
+    case Qt::Key_Right:
+        return within(from + 1);
+    case Qt::Key_Up:
+        return within(from - columns);
+    case Qt::Key_Down:
+        return within(from + columns);
+    case Qt::Key_Home:
+        return whole ? 0 : rowStart;
+    case Qt::Key_End:
+        return whole ? last : std::min(rowStart + columns - 1, last);
+    case Qt::Key_PageUp:
+        return from % columns;
+    case Qt::Key_PageDown:
+        return lastOfColumn;
+    default:
+        return std::nullopt;
+    }
+}
+
+void SwatchGrid::keyPressEvent(QKeyEvent* event) {
+    const int shown = geometryOfCells().shownCells();
+    if (shown == 0)
+        return QWidget::keyPressEvent(event);
+    const bool extends = canSelect() && (event->modifiers() & Qt::ShiftModifier);
+    const int active = std::min(activeCell(), shown - 1);
+    const int end = extends ? cells_.selectionEnd() : kNone;
+    const int from = std::max(cells_.has(end) ? end : active, 0);
+    if (const std::optional<int> target = walkTarget(*event, from)) {
+        if (extends) {
+            selectTo(*target);
+        } else if (cells_.current() == SwatchCells::kSwitchedOff) {
+            // Nothing is current here: walking looks at cells, the blank chooses one.
+            walked_ = *target;
+            update();
+            tellFocus();
+        } else if (*target != active) {
+            // From nowhere, a step leads to the first cell.
+            choose(active == kNone && isStep(event->key()) ? 0 : *target);
+        }
+        return;
+    }
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Select:
+        return choose(active);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (selectable_ && active != kNone)
+            return open(active);
+        [[fallthrough]];
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void SwatchGrid::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    tellFocus();
+}
+
+void SwatchGrid::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::EnabledChange)
+        update();
+    if (event->type() == QEvent::FontChange)
+        updateGeometry();
+    QWidget::changeEvent(event);
+}
+
+} // namespace dyeworks

@@ -1,0 +1,173 @@
+#include "ui/controls/swatchgrid/SwatchPainter.h"
+
+#include "ui/controls/swatchgrid/SwatchGrid.h"
+
+#include <QPalette>
+#include <QPolygon>
+#include <QtMath>
+
+#include <algorithm>
+#include <array>
+
+namespace dyeworks {
+
+namespace {
+
+QColor shown(std::uint32_t colour) {
+    return {static_cast<int>(colour & 255U), static_cast<int>(colour >> 8U & 255U),
+            static_cast<int>(colour >> 16U & 255U)};
+}
+
+QRect grown(const QRect& area, int by) {
+    return area.adjusted(-by, -by, by, by);
+}
+
+} // namespace
+
+SwatchPainter::SwatchPainter(QPainter& painter, const SwatchGrid& grid)
+    : painter_(painter)
+    , grid_(grid)
+    , geometry_(grid.geometryOfCells())
+    , line_(geometry_.line()) {
+    useDevicePixels();
+}
+
+void SwatchPainter::useDevicePixels() {
+    // At a fractional scale the window's corner may fall between two pixels.
+    const QPointF corner = painter_.deviceTransform().map(QPointF(0, 0));
+    painter_.scale(1 / geometry_.scale(), 1 / geometry_.scale());
+    painter_.translate(QPointF(corner.toPoint()) - corner);
+}
+
+void SwatchPainter::paint() {
+    paintCells();
+    for (int slot = 1; slot < SwatchCells::kSlots; ++slot)
+        paintMark(slot);
+    paintBank();
+    paintSelection();
+    paintCurrent();
+    if (grid_.hasFocus())
+        paintFocus();
+}
+
+void SwatchPainter::paintCells() {
+    for (int cell = 0; cell < geometry_.shownCells(); ++cell)
+        painter_.fillRect(geometry_.cell(cell), shown(grid_.cells().at(cell).colour));
+    if (!grid_.isEnabled() && !geometry_.isEmpty()) {
+        // Greyed as other controls are, but the colours can still be told.
+        QColor veil = grid_.palette().color(QPalette::Window);
+        veil.setAlphaF(0.6F);
+        painter_.fillRect(geometry_.area(0, geometry_.shownCells() - 1), veil);
+    }
+}
+
+void SwatchPainter::paintRing(const QRect& outer, int width, const QBrush& brush) {
+    const QRect inner = grown(outer, -width);
+    painter_.fillRect(QRect(outer.topLeft(), QSize(outer.width(), width)), brush);
+    painter_.fillRect(QRect(outer.left(), inner.bottom() + 1, outer.width(), width), brush);
+    painter_.fillRect(QRect(outer.left(), inner.top(), width, inner.height()), brush);
+    painter_.fillRect(QRect(inner.right() + 1, inner.top(), width, inner.height()), brush);
+}
+
+void SwatchPainter::paintRings(const QRect& area, int outside, std::initializer_list<QColor> colours) {
+    QRect outer = grown(area, outside * line_);
+    for (const QColor& colour : colours) {
+        paintRing(outer, line_, colour);
+        outer = grown(outer, -line_);
+    }
+}
+
+/// A triangle in a corner of its own for each slot, light in a dark one.
+void SwatchPainter::paintMark(int slot) {
+    const QRect cell = geometry_.cell(grid_.cells().marker(slot));
+    if (cell.isEmpty())
+        return;
+    const int side = std::max(3 * line_, cell.width() * 2 / 5);
+    const auto triangle = [&](int length) {
+        switch (slot) {
+        case 1: {
+            const QPoint corner = cell.topLeft();
+            return QPolygon({corner, corner + QPoint(length, 0), corner + QPoint(0, length)});
+        }
+        case 2: {
+            const QPoint corner = cell.topRight() + QPoint(1, 0);
+            return QPolygon({corner, corner - QPoint(length, 0), corner + QPoint(0, length)});
+        }
+        default: {
+            const QPoint corner = cell.bottomLeft() + QPoint(0, 1);
+            return QPolygon({corner, corner + QPoint(length, 0), corner - QPoint(0, length)});
+        }
+        }
+    };
+    painter_.setPen(Qt::NoPen);
+    painter_.setRenderHint(QPainter::Antialiasing);
+    painter_.setBrush(Qt::black);
+    painter_.drawPolygon(triangle(side));
+    painter_.setBrush(Qt::white);
+    painter_.drawPolygon(triangle(side - 2 * line_));
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void SwatchPainter::paintBank() {
+    if (!grid_.bankMode() || geometry_.isEmpty())
+        return;
+    const int columns = geometry_.columns();
+    const int current = grid_.cells().current();
+    const int row = grid_.bankRow() >= 0 ? grid_.bankRow() : current < 0 ? -1 : current / columns;
+    if (row < 0 || row >= geometry_.shownRows())
+        return;
+    const int first = row * columns;
+    const QRect area = geometry_.area(first, std::min(first + columns, geometry_.shownCells()) - 1);
+    const QColor frame = grid_.palette().color(QPalette::Highlight);
+    paintRings(area, 2, {frame, frame});
+    // The frame may look like a cell; the arrows beside it do not.
+    const int half = geometry_.margin() / 2;
+    const int middle = area.top() + area.height() / 2;
+    const int left = area.left() - 3 * line_;
+    const int right = area.right() + 1 + 3 * line_;
+    painter_.setPen(Qt::NoPen);
+    painter_.setBrush(grid_.palette().color(QPalette::WindowText));
+    painter_.setRenderHint(QPainter::Antialiasing);
+    painter_.drawPolygon(QPolygon(
+        {QPoint(left, middle), QPoint(left - half, middle - half), QPoint(left - half, middle + half)}));
+    painter_.drawPolygon(QPolygon(
+        {QPoint(right, middle), QPoint(right + half, middle - half), QPoint(right + half, middle + half)}));
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void SwatchPainter::paintSelection() {
+    const std::optional<QRect> range = grid_.cells().selection();
+    // A single cell has the frame of the current one.
+    if (!range || (range->width() == 1 && range->height() == 1))
+        return;
+    QRect area;
+    for (int row = range->top(); row <= range->bottom(); ++row) {
+        const int first = row * geometry_.columns();
+        area |= geometry_.area(first + range->left(), first + range->right());
+    }
+    paintRings(area, 2, {Qt::black, Qt::white});
+    const QColor inside = grid_.palette().color(QPalette::Highlight);
+    paintRings(area, 0, {inside, inside});
+}
+
+/// Dark, light, dark: two neighbours of any colour, and the ground between them, differ from one of the
+/// rings.
+void SwatchPainter::paintCurrent() {
+    const QRect cell = geometry_.cell(grid_.cells().current());
+    if (!cell.isEmpty())
+        paintRings(cell, 2, {Qt::black, Qt::white, Qt::white, Qt::black});
+}
+
+void SwatchPainter::paintFocus() {
+    const QRect whole(0, 0, qFloor(grid_.width() * geometry_.scale()),
+                      qFloor(grid_.height() * geometry_.scale()));
+    const QRect around = geometry_.isEmpty()
+                             ? whole
+                             : grown(geometry_.area(0, geometry_.shownCells() - 1), geometry_.margin());
+    paintRing(around & whole, 2 * line_, grid_.palette().color(QPalette::Highlight));
+    // Where nothing is current, the keyboard still is at a cell.
+    if (grid_.cells().current() == SwatchCells::kSwitchedOff)
+        paintRings(geometry_.cell(grid_.activeCell()), 1, {Qt::white, Qt::black});
+}
+
+} // namespace dyeworks

@@ -1,0 +1,83 @@
+#include "Program.h"
+
+namespace dyeworks {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class Recent : public Program {
+protected:
+    void putImage(const char* path) {
+        fake_.files.putFile(path, imageFile(texels(4, 4, [](int, int) { return 1U; }), 4));
+    }
+    void putPalette(const char* path) {
+        fake_.files.putFile(path, paletteFile(16, [](int) { return 1U; }));
+    }
+};
+
+TEST_F(Recent, FilesGoIntoTheListOfTheirLastFourCharacters) {
+    for (const char* path : {"c:\\a.TPF", "c:\\a.Tmf", "c:\\a.tLF", "c:\\a.tmf.bak", "c:\\.tlf", "c:\\x"})
+        app_.AddToRecentFileList(path);
+    EXPECT_THAT(app_.recentProjects().paths(), ElementsAre("c:\\a.TPF"));
+    EXPECT_THAT(app_.recentImages().paths(), ElementsAre("c:\\a.Tmf"));
+    EXPECT_THAT(app_.recentPalettes().paths(), ElementsAre("c:\\.tlf", "c:\\a.tLF"));
+}
+
+TEST_F(Recent, TheMenuShowsThePlaceholderOrTheEntries) {
+    CommandUi first = app_.router().state(ID_RECENT_IMAGE_FIRST);
+    EXPECT_TRUE(first.visible);
+    EXPECT_FALSE(first.enabled);
+    EXPECT_FALSE(first.text.has_value());
+    EXPECT_FALSE(app_.router().state(ID_RECENT_IMAGE_FIRST + 1).visible);
+    EXPECT_FALSE(run(ID_RECENT_IMAGE_FIRST));
+
+    for (const char* path : {"c:\\a&b.tmf", "c:\\2.tmf", "c:\\3.tmf", "c:\\4.tmf"})
+        app_.AddToRecentFileList(path);
+    EXPECT_EQ(app_.router().state(ID_RECENT_IMAGE_FIRST).text, "&1 4.tmf");
+    const CommandUi last = app_.router().state(ID_RECENT_IMAGE_FIRST + 3);
+    EXPECT_EQ(last.text, "&4 a&&b.tmf");
+    EXPECT_TRUE(last.visible);
+    EXPECT_TRUE(last.enabled);
+    EXPECT_FALSE(app_.router().state(ID_RECENT_IMAGE_FIRST + 4).visible);
+    EXPECT_FALSE(app_.router().state(ID_RECENT_IMAGE_LAST).visible);
+    EXPECT_FALSE(run(ID_RECENT_IMAGE_FIRST + 4));
+}
+
+TEST_F(Recent, OpeningAndSavingUnderAnotherNamePutFilesFirst) {
+    putImage("c:\\a.tmf");
+    putImage("c:\\b.tmf");
+    putPalette("c:\\p.tlf");
+    ASSERT_TRUE(app_.OpenFiles({"c:\\a.tmf", "p.TLF", "c:\\b.tmf"}, false));
+    EXPECT_THAT(app_.recentImages().paths(), ElementsAre("c:\\b.tmf", "c:\\a.tmf"));
+    EXPECT_THAT(app_.recentPalettes().paths(), ElementsAre("c:\\p.TLF"));
+    fake_.dialogs.answerWith("c:\\c.tmf");
+    ASSERT_TRUE(run(ID_FILE_SAVE_AS));
+    EXPECT_THAT(app_.recentImages().paths(), ElementsAre("c:\\c.tmf", "c:\\b.tmf", "c:\\a.tmf"));
+    ASSERT_FALSE(app_.OpenDocumentFile("c:\\gone.tmf"));
+    EXPECT_EQ(app_.recentImages().paths().size(), 3U);
+}
+
+TEST_F(Recent, AnEntryOpensItsFile) {
+    putImage("c:\\a.tmf");
+    app_.AddToRecentFileList("c:\\a.tmf");
+    app_.AddToRecentFileList("c:\\b.tmf");
+    ASSERT_TRUE(run(ID_RECENT_IMAGE_FIRST + 1));
+    EXPECT_NE(app_.FindOpenDocument("C:\\A.TMF"), nullptr);
+    EXPECT_THAT(app_.recentImages().paths(), ElementsAre("c:\\a.tmf", "c:\\b.tmf"));
+}
+
+TEST_F(Recent, OnlyAPaletteThatFailsToOpenLeavesItsList) {
+    app_.AddToRecentFileList("c:\\gone.tlf");
+    app_.AddToRecentFileList("c:\\gone.tmf");
+    ASSERT_TRUE(run(ID_RECENT_IMAGE_FIRST));
+    EXPECT_THAT(app_.recentImages().paths(), ElementsAre("c:\\gone.tmf"));
+    EXPECT_FALSE(app_.OpenDocumentFile("c:\\GONE.tlf"));
+    EXPECT_THAT(app_.recentPalettes().paths(), ElementsAre("c:\\gone.tlf")) << "case counts here";
+    ASSERT_TRUE(run(ID_RECENT_PALETTE_FIRST));
+    EXPECT_THAT(app_.recentPalettes().paths(), IsEmpty());
+    EXPECT_EQ(fake_.messages.lastText(), "c:\\gone.tlf open failed");
+}
+
+} // namespace
+} // namespace dyeworks

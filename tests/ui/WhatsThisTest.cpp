@@ -1,0 +1,112 @@
+#include "Program.h"
+#include "framework/CommandTable.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QToolButton>
+#include <QWhatsThis>
+
+namespace dyeworks {
+namespace {
+
+using WhatsThis = Program;
+
+/// Whether a question mark over this widget gets an answer.
+bool answers(QWidget& widget) {
+    QHelpEvent question(QEvent::QueryWhatsThis, {1, 1}, widget.mapToGlobal(QPoint(1, 1)));
+    return QApplication::sendEvent(&widget, &question) && question.isAccepted();
+}
+
+TEST_F(WhatsThis, EveryPartOfTheWindowSaysWhatItIs) {
+    openAttached(texels(8, 8, [](int, int) { return 0U; }), 8, 256);
+    CMainFrame& frame = app_.mainFrame();
+    int asked = 0;
+    for (QWidget* bar : frame.findChildren<QToolBar*>()) {
+        for (QToolButton* button : bar->findChildren<QToolButton*>()) {
+            if (button->objectName() == QLatin1String("qt_toolbar_ext_button"))
+                continue;
+            EXPECT_TRUE(answers(*button)) << qPrintable(button->text());
+            ++asked;
+        }
+        EXPECT_TRUE(answers(*bar)) << qPrintable(bar->objectName());
+    }
+    EXPECT_GT(asked, 20);
+    for (QWidget* pane : frame.statusBar()->findChildren<QLabel*>())
+        EXPECT_TRUE(answers(*pane)) << qPrintable(pane->objectName());
+    EXPECT_TRUE(answers(*view().viewport()));
+    EXPECT_TRUE(answers(*frame.area().viewport()));
+    EXPECT_TRUE(answers(frame.palettePanel()));
+    for (const CommandRow& row : commandTable())
+        EXPECT_TRUE(frame.commandActions().action(row.id)->whatsThis().contains(
+            QString::fromStdString(statusText(row)).toHtmlEscaped()))
+            << row.id;
+}
+
+TEST_F(WhatsThis, HelpCommandsAskOrOpenThePages) {
+    fake_.files.setProgramFolder("c:\\bin\\");
+    ASSERT_TRUE(run(ID_CONTEXT_HELP));
+    EXPECT_TRUE(QWhatsThis::inWhatsThisMode());
+    QWhatsThis::leaveWhatsThisMode();
+    openAttached(texels(8, 8, [](int, int) { return 0U; }), 8, 256);
+    // While it shows, the palette bar may have the keys.
+    ASSERT_TRUE(run(ID_VIEW_PALETTEBAR));
+    app_.mainFrame().activateWindow();
+    view().setFocus();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::focusWidget() == &view(); }));
+    for (const CommandId id : {ID_HELP_INDEX, ID_HELP, ID_DEFAULT_HELP})
+        ASSERT_TRUE(run(id));
+    EXPECT_EQ(fake_.shell.opened.size(), 3U);
+    auto* pictures = app_.mainFrame().findChild<QComboBox*>(QStringLiteral("IDC_PICTURE_LIST"));
+    pictures->setEnabled(true);
+    pictures->setFocus();
+    ASSERT_TRUE(run(ID_HELP));
+    EXPECT_EQ(fake_.shell.opened.size(), 3U) << "the bar speaks for itself";
+    for (const std::string& page : fake_.shell.opened)
+        EXPECT_TRUE(page.ends_with("..\\doc\\index.html")) << page;
+}
+
+class Prompts : public Program {
+protected:
+    QStatusBar& bar() { return *app_.mainFrame().statusBar(); }
+    [[nodiscard]] QString prompt(CommandId id) {
+        return QString::fromStdString(statusText(*findCommand(id)));
+    }
+};
+
+TEST_F(Prompts, ShowWhileAMenuIsWalkedAndLeaveTheMessageBehind) {
+    QLabel& message = *bar().findChild<QLabel*>(QStringLiteral("ID_SEPARATOR"));
+    app_.mainFrame().SetStatusText("three files", 0, 0);
+    QAction* file = app_.mainFrame().menuBar()->actions().front();
+    QMenu& menu = *file->menu();
+    app_.mainFrame().menuBar()->setActiveAction(file);
+    menu.setActiveAction(nullptr);
+    QTest::keyClick(&menu, Qt::Key_Down);
+    EXPECT_EQ(bar().currentMessage(), prompt(ID_FILE_NEW));
+    EXPECT_FALSE(message.isVisible());
+    QTest::keyClick(&menu, Qt::Key_Down);
+    EXPECT_EQ(bar().currentMessage(), prompt(ID_FILE_OPEN));
+    menu.close();
+    EXPECT_EQ(bar().currentMessage(), QString());
+    EXPECT_TRUE(message.isVisible());
+    EXPECT_EQ(message.text(), QStringLiteral("three files"));
+}
+
+TEST_F(Prompts, ShowWhileTheMouseIsOverAButton) {
+    auto* tools = app_.mainFrame().findChild<QToolBar*>(QStringLiteral("ID_VIEW_TOOLBAR"));
+    QWidget& open = *tools->widgetForAction(app_.mainFrame().commandActions().action(ID_FILE_OPEN));
+    const QPointF inside(3, 3);
+    QEnterEvent enter(inside, inside, open.mapToGlobal(inside));
+    QApplication::sendEvent(&open, &enter);
+    EXPECT_EQ(bar().currentMessage(), prompt(ID_FILE_OPEN));
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&open, &leave);
+    EXPECT_EQ(bar().currentMessage(), QString());
+}
+
+} // namespace
+} // namespace dyeworks
