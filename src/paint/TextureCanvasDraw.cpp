@@ -154,8 +154,9 @@ private:
             if (count > 0 && x % 2 != 0)
                 out[i++] = colour_(row[x / 2] & 15U);
             // Both pixels of a byte at once.
+            const std::uint8_t* byte = row + (x + i) / 2;
             for (; i + 2 <= count; i += 2)
-                std::memcpy(out + i, pairs_[row[(x + i) / 2]].data(), 2 * sizeof *out);
+                std::memcpy(out + i, pairs_[*byte++].data(), 2 * sizeof *out);
         }
         for (; i < count; ++i)
             out[i] = colour_(Access::get(row, x + i));

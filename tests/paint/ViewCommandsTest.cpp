@@ -81,6 +81,8 @@ TEST_F(ViewFixture, ActivationShowsTheDocumentOncePerChange) {
     EXPECT_EQ(host.palettes.currentKey, attached);
     EXPECT_EQ(host.panes[2], "(16, 12) 4bit");
     EXPECT_EQ(host.barRefreshes, 1);
+    ASSERT_NE(window.displayPalette, nullptr);
+    EXPECT_EQ(window.displayPalette->entries().size(), 16U);
 
     // The user turns to another palette; coming back from elsewhere keeps the choice.
     openPalette();

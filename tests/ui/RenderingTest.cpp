@@ -82,6 +82,17 @@ TEST_F(Rendering, TheBorderOfASelectionMovesUntilItIsCleared) {
     EXPECT_EQ(shown(), expected());
 }
 
+TEST_F(Rendering, ARedrawRequestLimitsNothingOutsideItsRectangle) {
+    openAttached(pattern(90, 70), 8, 256);
+    app_.mainFrame().activeChild()->resize(300, 250);
+    const Rect selection{50, 40, 70, 60};
+    view().view().SetSelection(selection, false);
+    view().view().ShowDragFrame({2, 2, 20, 20}, CDyeworksView::kRedrawDrag);
+    const QRect elsewhere(45, 35, 35, 35);
+    EXPECT_EQ(shown().copy(elsewhere),
+              expected(1, SelectionLook{selection, nullptr, 2, false}).copy(elsewhere));
+}
+
 TEST_F(Rendering, ReturnsAsItWasLeftWhenTheFileIsOpenedAgain) {
     openAttached(pattern(90, 70), 8, 256);
     ASSERT_TRUE(run(ID_ZOOM_X8));
