@@ -11,10 +11,10 @@ namespace {
 
 using testing::IsEmpty;
 
-std::string little(std::uint64_t value, int bytes) {
+std::string little(std::uint32_t value, int bytes) {
     std::string text;
-    for (int i = 0; i < bytes; ++i)
-        text += static_cast<char>(value >> 8 * i);
+    for (int i = 0; i < bytes; ++i, value >>= 8)
+        text += static_cast<char>(value);
     return text;
 }
 
