@@ -35,7 +35,7 @@ install(FILES data/orrery-dyeworks.metainfo.xml DESTINATION share/metainfo RENAM
 
 # The prefix is known when installing only. In the entry it is a quoted argument, where "%" starts a field code and
 # some characters take a backslash that is written twice.
-install(CODE "set(entry \"${share}/applications/orrery-dyeworks.desktop\")")
+install(CODE "set(entry \"${share}/applications/orrery-dyeworks.desktop\")\nset(version ${PROJECT_VERSION})")
 install(CODE [[
   set(root "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
   file(MAKE_DIRECTORY "${root}/bin")
@@ -44,6 +44,7 @@ install(CODE [[
   string(REPLACE "%" "%%" EXEC "${CMAKE_INSTALL_PREFIX}/bin/Dyeworks")
   string(REGEX REPLACE "([\"`$])" "\\\\\\\\\\1" EXEC "${EXEC}")
   set(EXEC "\"${EXEC}\"")
+  set(VERSION "${version}")
   set(MIME_TYPES "image/x-orrery-tmf;text/x-orrery-tpf;application/x-orrery-tlf;")
   message(STATUS "Installing: ${root}/share/applications/orrery-dyeworks.desktop")
   configure_file("${entry}" "${root}/share/applications/orrery-dyeworks.desktop" @ONLY)

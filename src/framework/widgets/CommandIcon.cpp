@@ -36,11 +36,7 @@ constexpr qreal kDisabledOpacity = 0.38;
 class SvgIconEngine : public QIconEngine {
 public:
     explicit SvgIconEngine(const QString& name)
-        : name_(name) {
-        QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
-        if (file.open(QIODevice::ReadOnly))
-            source_ = file.readAll();
-    }
+        : name_(name) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override {
         QSvgRenderer renderer(inColours(textColour(mode)));
@@ -90,7 +86,7 @@ public:
         return pixmap;
     }
 
-    bool isNull() override { return source_.isEmpty(); }
+    bool isNull() override { return !QFile::exists(fileName()); }
     QString key() const override { return QStringLiteral("dyeworks"); }
     QIconEngine* clone() const override { return new SvgIconEngine(*this); }
 
@@ -102,8 +98,12 @@ private:
                                        : palette.color(QPalette::Active, QPalette::ButtonText);
     }
 
-    QByteArray inColours(const QColor& text) const {
-        QByteArray drawing = source_;
+    [[nodiscard]] QString fileName() const { return QStringLiteral(":/icons/%1.svg").arg(name_); }
+
+    [[nodiscard]] QByteArray inColours(const QColor& text) const {
+        // Read when it is drawn first, since most icons stand in menus that may never open.
+        QFile file(fileName());
+        QByteArray drawing = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
         drawing.replace("currentColor", text.name().toLatin1());
         if (text.lightnessF() > 0.5F) {
             for (const Accent& accent : kAccents)
@@ -113,7 +113,6 @@ private:
     }
 
     QString name_;
-    QByteArray source_;
 };
 
 } // namespace

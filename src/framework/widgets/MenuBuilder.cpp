@@ -53,25 +53,37 @@ void fill(Bar& bar, std::span<const MenuItem> items, const CommandActions& actio
     }
 }
 
+/// For a menu that is about to show.
+void bringUpToDate(QMenu& menu, CommandActions& actions) {
+    actions.refresh();
+    // A list that has no entries leaves nothing to open.
+    for (QAction* entry : menu.actions()) {
+        if (const QMenu* submenu = entry->menu())
+            entry->setEnabled(std::ranges::any_of(submenu->actions(), &QAction::isVisible));
+    }
+}
+
 } // namespace
 
 void fillMenu(QMenu& menu, std::span<const MenuItem> items, CommandActions& actions) {
-    // First, so that what follows sees fresh states.
-    QObject::connect(&menu, &QMenu::aboutToShow, &actions, &CommandActions::refresh, Qt::UniqueConnection);
-    fill(menu, items, actions, [&](const MenuItem& item) {
-        QMenu* submenu = menu.addMenu(titleOf(item));
-        fillMenu(*submenu, item.items, actions);
-        // A list that has no entries leaves nothing to open.
-        QObject::connect(&menu, &QMenu::aboutToShow, submenu, [submenu] {
-            submenu->menuAction()->setEnabled(std::ranges::any_of(
-                submenu->actions(), [](const QAction* entry) { return entry->isVisible(); }));
-        });
-    });
+    fill(menu, items, actions,
+         [&](const MenuItem& item) { fillMenu(*menu.addMenu(titleOf(item)), item.items, actions); });
+    QObject::connect(&menu, &QMenu::aboutToShow, &actions,
+                     [&menu, &actions] { bringUpToDate(menu, actions); });
 }
 
 void fillMenuBar(QMenuBar& bar, std::span<const MenuItem> items, CommandActions& actions) {
-    for (const MenuItem& item : items)
-        fillMenu(*bar.addMenu(titleOf(item)), item.items, actions);
+    for (const MenuItem& item : items) {
+        QMenu* menu = bar.addMenu(titleOf(item));
+        // Many a menu is never opened, and the window comes up without waiting for any.
+        QObject::connect(
+            menu, &QMenu::aboutToShow, &actions,
+            [menu, entries = item.items, &actions] {
+                fillMenu(*menu, entries, actions);
+                bringUpToDate(*menu, actions);
+            },
+            Qt::SingleShotConnection);
+    }
 }
 
 void fillToolBar(QToolBar& bar, std::span<const MenuItem> items, CommandActions& actions) {

@@ -18,7 +18,8 @@ class CommandActions;
 /// Adds the items to the menu, and keeps what it shows current whenever it opens.
 void fillMenu(QMenu& menu, std::span<const MenuItem> items, CommandActions& actions);
 
-/// Adds a menu for each item, all of which must be submenus.
+/// Adds a menu for each item, all of which must be submenus. A menu is filled when it opens first; the items
+/// must last until then.
 void fillMenuBar(QMenuBar& bar, std::span<const MenuItem> items, CommandActions& actions);
 
 /// Adds a button for each command.

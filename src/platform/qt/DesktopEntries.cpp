@@ -1,5 +1,7 @@
 #include "platform/qt/DesktopEntries.h"
 
+#include "platform/Version.h"
+
 #include <QDirIterator>
 #include <QFile>
 
@@ -36,30 +38,38 @@ QByteArray mimeTypes(const std::vector<FileTypeRegistration>& types) {
     return list;
 }
 
+constexpr QLatin1String kResources(":/desktop/");
+
+QByteArray resource(const QString& path) {
+    initializeDesktopFiles();
+    QFile file(kResources + path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 } // namespace
 
 QString desktopEntryPath() {
     return QStringLiteral("applications/orrery-dyeworks.desktop");
 }
 
+QByteArray desktopEntry(const QString& program, const std::vector<FileTypeRegistration>& types) {
+    return resource(desktopEntryPath())
+        .replace("@EXEC@", execArgument(program))
+        .replace("@MIME_TYPES@", mimeTypes(types))
+        .replace("@VERSION@", kVersionText);
+}
+
 std::vector<DesktopFile> desktopFiles(const QString& program,
                                       const std::vector<FileTypeRegistration>& types) {
     initializeDesktopFiles();
-    const QString root = QStringLiteral(":/desktop/");
-    const auto read = [&](const QString& path) {
-        QFile file(root + path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    };
     std::vector<DesktopFile> files;
-    QDirIterator resources(root, QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator resources(kResources, QDir::Files, QDirIterator::Subdirectories);
     while (resources.hasNext()) {
-        const QString path = resources.next().mid(root.size());
+        const QString path = resources.next().mid(kResources.size());
         if (path != desktopEntryPath())
-            files.push_back({path, read(path)});
+            files.push_back({path, resource(path)});
     }
-    files.push_back({desktopEntryPath(), read(desktopEntryPath())
-                                             .replace("@EXEC@", execArgument(program))
-                                             .replace("@MIME_TYPES@", mimeTypes(types))});
+    files.push_back({desktopEntryPath(), desktopEntry(program, types)});
     return files;
 }
 

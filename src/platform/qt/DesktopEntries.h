@@ -18,8 +18,11 @@ struct DesktopFile {
 /// Where the desktop entry stands below a data folder.
 [[nodiscard]] QString desktopEntryPath();
 
-/// The MIME package, the icons and, as the last, the desktop entry of a program that opens `types`: whoever
-/// meets the entry then finds what it speaks of. `program` is the host path of the program's file.
+/// The desktop entry of this version of a program that opens `types`. `program` is the host path of its file.
+[[nodiscard]] QByteArray desktopEntry(const QString& program, const std::vector<FileTypeRegistration>& types);
+
+/// The MIME package, the icons and, as the last, the desktop entry: whoever meets the entry then finds
+/// what it speaks of.
 [[nodiscard]] std::vector<DesktopFile> desktopFiles(const QString& program,
                                                     const std::vector<FileTypeRegistration>& types);
 

@@ -21,11 +21,14 @@ namespace {
 
 enum class Written { Unchanged, Changed, Failed };
 
+bool holds(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.readAll() == bytes;
+}
+
 Written writeWhenDifferent(const QString& path, const QByteArray& bytes) {
-    QFile present(path);
-    if (present.open(QIODevice::ReadOnly) && present.readAll() == bytes)
+    if (holds(path, bytes))
         return Written::Unchanged;
-    present.close();
     if (!QDir().mkpath(QFileInfo(path).path()))
         return Written::Failed;
     QSaveFile file(path);
@@ -112,9 +115,13 @@ bool QtShell::registerFileTypes(const std::vector<FileTypeRegistration>& types) 
     const QString data = userData();
     if (data.isEmpty())
         return false;
+    // The entry is written last, when all that it speaks of is there.
+    const QString program = QCoreApplication::applicationFilePath();
+    if (holds(data + u'/' + desktopEntryPath(), desktopEntry(program, types)))
+        return true;
     bool changed = false;
     bool failed = false;
-    for (const DesktopFile& file : desktopFiles(QCoreApplication::applicationFilePath(), types)) {
+    for (const DesktopFile& file : desktopFiles(program, types)) {
         const Written written = writeWhenDifferent(data + u'/' + file.path, file.bytes);
         changed = changed || written == Written::Changed;
         failed = failed || written == Written::Failed;
