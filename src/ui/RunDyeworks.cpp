@@ -83,6 +83,8 @@ int runDyeworks(int argc, char** argv) {
         return commandLine.ended ? commandLine.exitCode : unregister(commandLine);
     }
 
+    // A maximized image window puts its buttons into the menu bar, which is therefore the main window's own.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication application(argc, argv);
     QApplication::setApplicationVersion(QString::fromLatin1(kVersionText));
     QGuiApplication::setDesktopFileName(QStringLiteral("orrery-dyeworks"));
