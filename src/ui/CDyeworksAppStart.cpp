@@ -70,7 +70,7 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
     if (!createMainFrame())
         return false;
     programFolder_ = platform().files().programFolder();
-    if (keepsSettings_)
+    if (commandLine.isInteractive())
         static_cast<void>(platform().shell().registerFileTypes({kFileTypes.begin(), kFileTypes.end()}));
     listenForOpenRequests(commandLine);
     if (!createPaletteSet())

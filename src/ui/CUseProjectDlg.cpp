@@ -1,11 +1,12 @@
 #include "ui/CUseProjectDlg.h"
 
-#include "framework/widgets/CommandIcon.h"
+#include "platform/qt/DesktopEntries.h"
 #include "ui/SheetControls.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QGridLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
@@ -22,7 +23,7 @@ CUseProjectDlg::CUseProjectDlg(bool notifyNextTime, QWidget* parent)
     auto* icon = new QLabel;
     icon->setObjectName(QStringLiteral("IDC_USE_PROJECT_ICON"));
     const int side = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
-    icon->setPixmap(applicationIcon().pixmap(QSize(side, side), devicePixelRatioF()));
+    icon->setPixmap(programIcon().pixmap(QSize(side, side), devicePixelRatioF()));
     auto* question = new QLabel(shown(StringId::UseProjectQuestion));
     question->setObjectName(QStringLiteral("IDC_USE_PROJECT_QUESTION"));
     setAccessibleDescription(question->text());

@@ -1,7 +1,7 @@
 #include "ui/RunDyeworks.h"
 
-#include "framework/widgets/CommandIcon.h"
 #include "platform/Version.h"
+#include "platform/qt/DesktopEntries.h"
 #include "platform/qt/Language.h"
 #include "platform/qt/QtPlatform.h"
 #include "ui/CDyeworksApp.h"
@@ -88,7 +88,7 @@ int runDyeworks(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationVersion(QString::fromLatin1(kVersionText));
     QGuiApplication::setDesktopFileName(QStringLiteral("orrery-dyeworks"));
-    QApplication::setWindowIcon(applicationIcon());
+    QApplication::setWindowIcon(programIcon());
     const CommandLine commandLine = parseCommandLine(QApplication::arguments());
     if (commandLine.ended)
         return commandLine.exitCode;

@@ -124,8 +124,4 @@ QIcon commandIcon(const QString& name) {
     return QIcon(new SvgIconEngine(name));
 }
 
-QIcon applicationIcon() {
-    return commandIcon(QStringLiteral("dyeworks"));
-}
-
 } // namespace dyeworks

@@ -10,7 +10,4 @@ namespace dyeworks {
 /// name gives an empty icon.
 QIcon commandIcon(const QString& name);
 
-/// The icon of the program's windows.
-QIcon applicationIcon();
-
 } // namespace dyeworks

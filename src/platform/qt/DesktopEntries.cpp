@@ -4,6 +4,7 @@
 
 #include <QDirIterator>
 #include <QFile>
+#include <QIcon>
 
 // The resource is part of a static library; without this call the linker leaves it out.
 static void initializeDesktopFiles() {
@@ -47,6 +48,16 @@ QByteArray resource(const QString& path) {
 }
 
 } // namespace
+
+QIcon programIcon() {
+    initializeDesktopFiles();
+    QIcon icon;
+    for (const int side : {16, 24, 32, 48, 64, 128, 256})
+        icon.addFile(
+            QStringLiteral("%1icons/hicolor/%2x%2/apps/orrery-dyeworks.png").arg(kResources).arg(side),
+            {side, side});
+    return icon;
+}
 
 QString desktopEntryPath() {
     return QStringLiteral("applications/orrery-dyeworks.desktop");

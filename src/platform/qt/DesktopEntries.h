@@ -7,6 +7,8 @@
 
 #include <vector>
 
+class QIcon;
+
 namespace dyeworks {
 
 /// One of the files by which a desktop knows the program, and what belongs in it.
@@ -14,6 +16,9 @@ struct DesktopFile {
     QString path; ///< Below a data folder: "mime/packages/orrery-dyeworks.xml".
     QByteArray bytes;
 };
+
+/// The program's icon, in all the sizes that the desktop gets.
+[[nodiscard]] QIcon programIcon();
 
 /// Where the desktop entry stands below a data folder.
 [[nodiscard]] QString desktopEntryPath();
