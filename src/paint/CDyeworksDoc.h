@@ -156,8 +156,6 @@ private:
     [[nodiscard]] std::int32_t firstEntryFor(const TextureLookupTable& palette) const;
     [[nodiscard]] const std::string& nameWithoutParts() const;
     [[nodiscard]] TlutData* attachedTable() const;
-    /// False when the file could not be read, which has been reported.
-    [[nodiscard]] bool readCanvas(TextureCanvas& canvas, const std::string& path) const;
     [[nodiscard]] std::string nameToSaveUnder() const;
     void makePaletteOfColours();
     void takeContents(const TextureCanvas& contents);

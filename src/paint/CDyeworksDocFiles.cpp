@@ -49,7 +49,7 @@ bool CDyeworksDoc::onNewDocument() {
 }
 
 bool CDyeworksDoc::onOpenDocument(const std::string& path) {
-    if (!CDocument::onOpenDocument(path) || !readCanvas(canvas_, path))
+    if (!CDocument::onOpenDocument(path) || !loadCanvas(canvas_, path))
         return false;
     snapshot_.reset();
     replaceHistory(0);
@@ -58,15 +58,6 @@ bool CDyeworksDoc::onOpenDocument(const std::string& path) {
     else
         RefreshPalette();
     return true;
-}
-
-bool CDyeworksDoc::readCanvas(TextureCanvas& canvas, const std::string& path) const {
-    if (loadCanvas(canvas, path))
-        return true;
-    // The reader of bitmaps leaves this to its callers.
-    if (isBmpName(path))
-        applicationMessage(text(StringId::CannotReadFile, {displayPath(path)}));
-    return false;
 }
 
 /// The document is not attached to the palette; that is up to the user.
@@ -136,7 +127,7 @@ void CDyeworksDoc::Revert() {
                                                   MessageButtons::YesNo) != MessageAnswer::Yes)
         return;
     TextureCanvas saved;
-    if (!readCanvas(saved, pathName()))
+    if (!loadCanvas(saved, pathName()))
         return;
     takeContents(saved);
     replaceHistory(0);

@@ -13,7 +13,12 @@ bool isBmpName(const std::string& path) {
 }
 
 bool loadCanvas(TextureCanvas& canvas, const std::string& path) {
-    return isBmpName(path) ? canvas.LoadBmp(path) : canvas.LoadTmf(path);
+    if (!isBmpName(path))
+        return canvas.LoadTmf(path);
+    const TextureCanvas::BmpRead read = canvas.ReadBmp(path);
+    if (read == TextureCanvas::BmpRead::Failed)
+        applicationMessage(text(StringId::CannotReadFile, {displayPath(path)}));
+    return read == TextureCanvas::BmpRead::Done;
 }
 
 std::optional<FileError> saveCanvas(const TextureCanvas& canvas, const std::string& path) {

@@ -13,7 +13,7 @@ class TextureCanvas;
 [[nodiscard]] bool isBmpName(const std::string& path);
 
 /// Reads a BMP file or, by any other name, a TMF file. False, leaving the canvas empty, when it cannot be
-/// read; a TMF file that cannot be read has been reported.
+/// read, which has been reported.
 [[nodiscard]] bool loadCanvas(TextureCanvas& canvas, const std::string& path);
 
 /// Writes the canvas as a BMP file or, by any other name, a TMF file. Nothing: written; otherwise why not,

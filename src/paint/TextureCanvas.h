@@ -102,7 +102,14 @@ public:
     /// both with right and bottom exclusive. The result is the number of surface rows written.
     virtual std::int32_t Draw(Surface& surface, const Rect& destination, const Rect& source) const;
 
-    /// Reads an uncompressed BMP file. False, leaving the canvas empty, when it cannot be read.
+    enum class BmpRead {
+        Done,
+        Compressed, ///< Which the user has been told.
+        Failed
+    };
+    /// Reads an uncompressed BMP file, or leaves the canvas empty.
+    BmpRead ReadBmp(const std::string& path);
+    /// The same. False when the file cannot be read.
     virtual bool LoadBmp(const std::string& path);
     virtual bool SaveBmp(const std::string& path) const;
     /// Reads (writes) a TMF file; a file that cannot be read has been reported and leaves the canvas empty.

@@ -72,18 +72,23 @@ bool TextureCanvas::SaveTmf(const std::string& path) const {
     return image != nullptr && image->saveTmf(path);
 }
 
-bool TextureCanvas::LoadBmp(const std::string& path) {
+TextureCanvas::BmpRead TextureCanvas::ReadBmp(const std::string& path) {
     Destroy();
     const Result<ByteBuffer, FileError> file = platform().files().read(path);
     if (!file)
-        return false;
+        return BmpRead::Failed;
     const Result<BmpImage, BmpError> bitmap = parseBmp(file.value().bytes());
     if (bitmap)
-        return CreateFrom(bitmap.value());
-    if (bitmap.error() == BmpError::Compressed)
-        platform().messages().show({"compressed format not supported.\n", "", MessageButtons::Ok,
-                                    MessageIcon::None, MessageOwner::MainWindow});
-    return false;
+        return CreateFrom(bitmap.value()) ? BmpRead::Done : BmpRead::Failed;
+    if (bitmap.error() != BmpError::Compressed)
+        return BmpRead::Failed;
+    platform().messages().show({"compressed format not supported.\n", "", MessageButtons::Ok,
+                                MessageIcon::None, MessageOwner::MainWindow});
+    return BmpRead::Compressed;
+}
+
+bool TextureCanvas::LoadBmp(const std::string& path) {
+    return ReadBmp(path) == BmpRead::Done;
 }
 
 bool TextureCanvas::SaveBmp(const std::string& path) const {

@@ -149,6 +149,14 @@ TEST_F(DocFile, ColoursOfABitmapBecomeTheCurrentPalette) {
     platform.files.putFile("c:\\bad.bmp", "BMP");
     EXPECT_FALSE(document.onOpenDocument("c:\\bad.bmp"));
     EXPECT_EQ(host.palettes.palettes.size(), 1U);
+
+    EXPECT_EQ(platform.messages.shown.size(), 1U);
+    std::string compressed = platform.files.textOf("c:\\pic.bmp").value();
+    compressed[30] = 1; // run lengths
+    platform.files.putFile("c:\\rle.bmp", compressed);
+    EXPECT_FALSE(document.onOpenDocument("c:\\rle.bmp"));
+    EXPECT_EQ(platform.messages.lastText(), "compressed format not supported.\n");
+    EXPECT_EQ(platform.messages.shown.size(), 2U) << "told once";
 }
 
 TEST_F(DocFile, RevertGoesBackToTheFileAndKeepsThePalette) {
