@@ -36,6 +36,24 @@ protected:
     }
 };
 
+TEST_F(ToolFixture, WithAltAShapeGrowsFromItsCentreAndIsOneStep) {
+    constexpr Keys kAlt{false, false, true};
+    for (const auto& [tool, draw] : {std::pair<Tool, void (*)(TextureCanvas&)>{
+                                         Tool::Line, [](TextureCanvas& c) { c.DrawLine(4, 3, 10, 7, 9); }},
+                                     {Tool::BoxFill, [](TextureCanvas& c) { c.FillBox(4, 3, 10, 7, 9); }}}) {
+        setCurrentTool(tool);
+        press({7, 5}, kAlt);
+        move({9, 11}, kAlt);
+        move({10, 7}, kAlt);
+        EXPECT_EQ(pixels(), expected(draw));
+        release({10, 7}, kAlt);
+        EXPECT_EQ(pixels(), expected(draw));
+        document.Undo();
+        EXPECT_FALSE(document.CanUndo());
+        EXPECT_EQ(pixels(), expected([](TextureCanvas&) {}));
+    }
+}
+
 TEST_F(ToolFixture, InterruptedDragLeavesTheImageAsItWas) {
     document.Box(nullptr, {1, 1, 9, 9}, 3);
     ASSERT_TRUE((document.setPathName("c:\\a.tmf"), document.save()));

@@ -142,6 +142,14 @@ TEST_F(PosixFilesWrite, LeavesProtectedFilesAndFoldersAlone) {
     EXPECT_EQ(fake.files.enumerate("c:\\closed\\*.*").size(), 1U);
 }
 
+TEST_F(PosixFilesWrite, WritesIntoADeviceAndTellsThatItIsFull) {
+    if (!fs::exists("/dev/full"))
+        GTEST_SKIP() << "no device that is always full";
+    fs::create_symlink("/dev/full", host("full"));
+    EXPECT_EQ(write("c:\\full", "x"), FileError::NoSpace);
+    EXPECT_TRUE(fs::is_character_file("/dev/full")) << "the device has been replaced";
+}
+
 TEST_F(PosixFilesWrite, RefusesFoldersAndWhatIsBelowAFile) {
     fake.files.putFile("c:\\tex\\sky.tlf", "old");
     EXPECT_EQ(write("c:\\tex", "x"), FileError::NotAFile);

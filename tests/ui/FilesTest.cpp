@@ -3,6 +3,7 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QUrl>
 
 namespace dyeworks {
@@ -122,6 +123,16 @@ TEST_F(FilesTest, ClosingAPaletteLeavesItsImagesWithoutOne) {
     EXPECT_TRUE(view().view().showsNoPalette());
     EXPECT_FALSE(enabled(ID_PALETTE_CLOSE));
     EXPECT_EQ(app_.paletteBarCell(), -1);
+
+    const auto shown = [this] { return view().viewport()->grab().toImage(); };
+    app_.mainFrame().activeChild()->resize(120, 100);
+    ASSERT_TRUE(run(ID_ZOOM_X16));
+    app_.mainFrame().activeChild()->resize(120, 100);
+    view().verticalScrollBar()->setValue(0);
+    const QImage words = shown();
+    view().verticalScrollBar()->setValue(40);
+    ASSERT_EQ(view().verticalScrollBar()->value(), 40);
+    EXPECT_EQ(shown(), words) << "the words scroll away";
 }
 
 TEST_F(FilesTest, APaletteThatIsOpenedAgainColoursItsImages) {
