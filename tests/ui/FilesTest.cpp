@@ -1,4 +1,5 @@
 #include "Program.h"
+#include "framework/widgets/ChildFrame.h"
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
