@@ -269,12 +269,16 @@ void CMainFrame::setVisible(bool visible) {
 }
 
 void CMainFrame::dragEnterEvent(QDragEnterEvent* event) {
-    if (!filesIn(*event->mimeData()).empty())
-        event->acceptProposedAction();
+    if (filesIn(*event->mimeData()).empty())
+        return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
 }
 
 void CMainFrame::dropEvent(QDropEvent* event) {
-    event->acceptProposedAction();
+    // Whoever drags to move would delete the files once they are taken.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
     for (const std::string& path : filesIn(*event->mimeData()))
         application_.OpenDocumentFile(path);
 }

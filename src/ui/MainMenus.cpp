@@ -266,9 +266,6 @@ constexpr std::array kViewBar{
     MenuItem{ID_VIEW_GRID},
     MenuItem{ID_PREVIEW1},
     MenuItem{ID_PREVIEW2},
-    kSeparator,
-    MenuItem{ID_ZOOM_IN},
-    MenuItem{ID_ZOOM_OUT},
 };
 
 constexpr std::array kDrawBar{

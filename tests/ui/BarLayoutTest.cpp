@@ -59,6 +59,28 @@ TEST_F(BarLayout, AtFirstTheBarsAreAtTheTopAndThePaletteFloats) {
     EXPECT_EQ(palette().y(), 400) << "where it fits, it stands where it is put";
 }
 
+TEST_F(BarLayout, EachBarHasItsButtonsInTheirOrder) {
+    const struct {
+        const char* name;
+        std::vector<int> commands; // 0 is a separator.
+    } cases[] = {
+        {"ID_VIEW_TOOLBAR",
+         {57600, 57601, 57603, 0, 57643, 57644, 57635, 57634, 57637, 0, 57607, 57664, 57669}},
+        {"ID_VIEW_VIEWBAR", {103, 32793, 32799, 32800}},
+        {"ID_VIEW_DRAWBAR",
+         {32782, 32935, 0, 32771, 32780, 32781, 32772, 32773, 32774, 32775, 32776, 32978, 0, 32794}},
+    };
+    for (const auto& c : cases) {
+        const QList<QAction*> buttons = bar(c.name).actions();
+        ASSERT_EQ(buttons.size(), static_cast<qsizetype>(c.commands.size())) << c.name;
+        for (std::size_t i = 0; i < c.commands.size(); ++i) {
+            const QAction* expected = frame().commandActions().action(c.commands[i]);
+            const QAction* button = buttons[static_cast<qsizetype>(i)];
+            EXPECT_TRUE(expected == nullptr ? button->isSeparator() : button == expected) << c.name << i;
+        }
+    }
+}
+
 TEST_F(BarLayout, WhatWasMovedAndHiddenComesBackAsItWas) {
     frame().addToolBar(Qt::LeftToolBarArea, &bar("ID_VIEW_DRAWBAR"));
     frame().addToolBar(Qt::BottomToolBarArea, &bar("ID_VIEW_PROJECTBAR"));

@@ -3,11 +3,15 @@
 #include "ui/controls/CSwatchGrid.h"
 
 #include <QComboBox>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QToolButton>
 #include <QToolTip>
+#include <QUrl>
 #include <QWindow>
 
 namespace dyeworks {
@@ -92,6 +96,24 @@ TEST_F(MainWindow, PanesFollowTheImage) {
     run(ID_FILE_CLOSE);
     EXPECT_EQ(size->text(), QString());
     EXPECT_EQ(app_.mainFrame().windowTitle(), QStringLiteral("Orrery Dyeworks"));
+}
+
+TEST_F(MainWindow, FilesAreDroppedAsCopiesEvenWhenTheyAreMoved) {
+    fake_.files.putFile("c:\\a.tmf", imageFile(texels(4, 4, [](int, int) { return 1U; }), 4));
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile(QString::fromStdString(fake_.files.hostPath("c:\\a.tmf")))});
+    QDragEnterEvent enter({10, 10}, Qt::CopyAction | Qt::MoveAction, &files, Qt::LeftButton,
+                          Qt::ShiftModifier);
+    enter.setDropAction(Qt::MoveAction);
+    QCoreApplication::sendEvent(&app_.mainFrame(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    EXPECT_EQ(enter.dropAction(), Qt::CopyAction);
+    QDropEvent drop({10, 10}, Qt::CopyAction | Qt::MoveAction, &files, Qt::LeftButton, Qt::ShiftModifier);
+    drop.setDropAction(Qt::MoveAction);
+    QCoreApplication::sendEvent(&app_.mainFrame(), &drop);
+    EXPECT_TRUE(drop.isAccepted());
+    EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
+    EXPECT_NE(app_.mainFrame().activeImageView(), nullptr);
 }
 
 void clickCell(const CSwatchGrid& grid, int cell) {

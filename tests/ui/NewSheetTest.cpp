@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QShowEvent>
 #include <QTabBar>
 
 namespace dyeworks {
@@ -147,11 +148,25 @@ TEST_F(NewSheet, CancelChangesNoValue) {
     EXPECT_EQ(sheet_.palettePage().entryCount(), 16);
 }
 
+TEST_F(NewSheet, KeepsWhatIsTypedWhileItIsAnIcon) {
+    sheet_.keepOnly(sheet_.texturePage());
+    show();
+    type("IDC_TEXTURE_HEIGHT", "31");
+    QShowEvent back;
+    QSpontaneKeyEvent::setSpontaneous(&back);
+    // Not by sendEvent, which calls every event one of the program.
+    qApp->notify(&sheet_, &back);
+    EXPECT_EQ(find<QLineEdit>("IDC_TEXTURE_HEIGHT").text(), QStringLiteral("31"));
+    EXPECT_EQ(sheet_.focusWidget(), &find<QWidget>("IDC_TEXTURE_HEIGHT_SPIN"));
+}
+
 TEST_F(NewSheet, PagesTakenOutHoldNothingUp) {
     find<QLineEdit>("IDC_TEXTURE_WIDTH").setText(QStringLiteral("x"));
     sheet_.keepOnly(sheet_.palettePage());
     show();
-    EXPECT_FALSE(tabs().isVisible());
+    EXPECT_TRUE(tabs().isVisible());
+    ASSERT_EQ(tabs().count(), 1);
+    EXPECT_EQ(tabs().tabText(0), QStringLiteral("Palette"));
     EXPECT_FALSE(sheet_.texturePage().isVisible());
     press("IDOK");
     EXPECT_FALSE(sheet_.isVisible());

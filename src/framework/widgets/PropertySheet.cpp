@@ -2,6 +2,7 @@
 
 #include <QDialogButtonBox>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -11,7 +12,6 @@ PropertySheet::PropertySheet(const QString& caption, QWidget* parent)
     : QDialog(parent)
     , tabs_(new QTabWidget) {
     setWindowTitle(caption);
-    tabs_->setTabBarAutoHide(true);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("IDOK"));
     buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("IDCANCEL"));
@@ -51,6 +51,9 @@ void PropertySheet::fitToPages() {
 }
 
 void PropertySheet::showEvent(QShowEvent* event) {
+    // A sheet that comes back from its icon is open already, with what has been typed into it.
+    if (event->spontaneous())
+        return QDialog::showEvent(event);
     fitToPages();
     for (int i = 0; i < tabs_->count(); ++i)
         page(i)->showValues();

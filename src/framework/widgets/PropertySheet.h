@@ -24,8 +24,9 @@ public:
     [[nodiscard]] virtual bool takeOver() { return true; }
 };
 
-/// A dialog of pages, with tabs as soon as there are two. OK takes all pages over; the first that refuses
-/// comes to the front and keeps the sheet open. A sheet can be run again, with the values of the time before.
+/// A dialog of pages, a tab for each, also where there is one only: its tab says what the sheet is for. OK
+/// takes all pages over; the first that refuses comes to the front and keeps the sheet open. A sheet can be
+/// run again, with the values of the time before.
 class PropertySheet : public QDialog {
     Q_OBJECT
 

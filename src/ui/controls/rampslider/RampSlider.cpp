@@ -212,6 +212,8 @@ void RampSlider::keyPressEvent(QKeyEvent* event) {
 void RampSlider::changeEvent(QEvent* event) {
     if (event->type() == QEvent::EnabledChange || event->type() == QEvent::LayoutDirectionChange)
         update();
+    if (event->type() == QEvent::FontChange)
+        updateGeometry();
     QWidget::changeEvent(event);
 }
 
