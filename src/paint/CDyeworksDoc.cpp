@@ -74,10 +74,11 @@ void CDyeworksDoc::PaletteChanged(const std::string& name, const TextureLookupTa
     canvas_.ResetChangedRect();
 }
 
-/// The palette bar shows the bank of the active image; any other image keeps to the one it was last given, as
-/// long as the palette reaches that far.
+/// The palette bar shows the bank of the active image while that is attached to the current palette; any
+/// other image keeps to the one it was last given, as long as the palette reaches that far.
 std::int32_t CDyeworksDoc::firstEntryFor(const TextureLookupTable& palette) const {
-    if (host_.isActiveImage(*this))
+    const PaletteSet* const set = host_.paletteSet();
+    if (set != nullptr && attachedName_ == set->currentKey && host_.isActiveImage(*this))
         return host_.paletteBarFirstEntry();
     const auto colours = static_cast<std::int32_t>(canvas_.GetColorCount());
     return paletteValue_ >= 0 && paletteValue_ <= palette.table.count - colours ? paletteValue_ : 0;

@@ -37,6 +37,8 @@ void CDyeworksView::restoreSettings() {
     // A further window does not cover the one that stands there.
     if (document_.views().size() == 1)
         window_.setPlacement(*placement);
+    else
+        window_.fitFrame();
     restoredScroll_ = Point{profile.integer(section, kXEntry, 0), profile.integer(section, kYEntry, 0)};
     scrollTo(*restoredScroll_);
 }

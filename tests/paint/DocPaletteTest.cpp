@@ -55,5 +55,21 @@ TEST_F(DocFixture, ColoursComeFromTheBarForTheActiveImageAndElseFromItsOwnBank) 
     }
 }
 
+TEST_F(DocFixture, ColoursOfAPaletteThatTheBarHasLeftComeFromTheImagesOwnBank) {
+    host.active = &document;
+    openPalette(256);
+    TextureLookupTable& palette = *host.palettes.lookup("");
+    makeEntriesDistinct(palette);
+    document.setPaletteValue(48);
+    host.firstEntry = 48;
+    document.Attach();
+    const auto table = document.canvas().colourTable();
+    const std::vector<std::uint8_t> colours(table.begin(), table.end());
+    openPalette();
+    host.firstEntry = 0;
+    document.PaletteChanged(document.attachedName(), &palette);
+    EXPECT_TRUE(std::ranges::equal(document.canvas().colourTable(), colours));
+}
+
 } // namespace
 } // namespace dyeworks

@@ -64,6 +64,21 @@ TEST_F(ViewSettings, ReturnWhenTheFileIsOpenedAgain) {
     }
 }
 
+TEST_F(ViewSettings, OfAFurtherWindowAreNeitherItsPlaceNorItsPalette) {
+    view.runCommand(ID_ZOOM_X6);
+    view.Closing();
+    openPalette();
+    document.Attach();
+    const std::string attached = document.attachedName();
+    FakeViewWindow further;
+    CDyeworksView second(document, further);
+    second.InitialUpdate();
+    EXPECT_EQ(second.zoom(), 6);
+    EXPECT_FALSE(further.place);
+    EXPECT_EQ(further.fitted, (Size{96, 72}));
+    EXPECT_EQ(document.attachedName(), attached);
+}
+
 TEST_F(ViewSettings, CountOnlyBesideAPlacementAndWithinTheirRanges) {
     struct Case {
         int zoom, held;

@@ -30,7 +30,7 @@ public:
             view->PointerCaptureLost();
     }
     void setCursor(CursorShape) override {}
-    void fitFrame() override {}
+    void fitFrame() override { fitted = content; }
     std::optional<WindowPlacement> placement() const override { return place; }
     void setPlacement(const WindowPlacement& placement) override { place = placement; }
     void setDisplayPalette(const DisplayPalette* palette) override { displayPalette = palette; }
@@ -42,6 +42,7 @@ public:
     Size client{40, 30};
     Point scroll;
     Size content;
+    Size fitted; ///< Content that the frame was last fitted to.
     std::vector<Rect> invalidated;
     int fullRepaints = 0;
     bool captured = false;
