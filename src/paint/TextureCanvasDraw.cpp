@@ -148,15 +148,19 @@ public:
     }
 
 private:
+    using Pair = std::array<std::uint32_t, 2>;
+
     void paintPlain(const std::uint8_t* row, std::int64_t x, std::uint32_t* out, std::int64_t count) const {
         std::int64_t i = 0;
         if constexpr (Bits == 4) {
             if (count > 0 && x % 2 != 0)
                 out[i++] = colour_(row[x / 2] & 15U);
-            // Both pixels of a byte at once.
+            // Both pixels of a byte at once, and two bytes for each write.
             const std::uint8_t* byte = row + (x + i) / 2;
-            for (; i + 2 <= count; i += 2)
-                std::memcpy(out + i, pairs_[*byte++].data(), 2 * sizeof *out);
+            for (; i + 4 <= count; i += 4, byte += 2) {
+                const std::array<Pair, 2> four{pairs_[byte[0]], pairs_[byte[1]]};
+                std::memcpy(out + i, four.data(), sizeof four);
+            }
         }
         for (; i < count; ++i)
             out[i] = colour_(Access::get(row, x + i));
@@ -210,7 +214,7 @@ private:
 
     Colours<Bits> colour_;
     /// The colours of both pixels in a byte, for pixels of 4 bits.
-    std::array<std::array<std::uint32_t, 2>, Bits == 4 ? 256 : 0> pairs_;
+    std::array<Pair, Bits == 4 ? 256 : 0> pairs_;
     Scaling scaling_;
     std::int64_t sourceX_;
 };

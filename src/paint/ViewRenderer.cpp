@@ -80,7 +80,8 @@ void ViewRenderer::drawGrid(const Surface& surface, const Rect& area) const {
     // The pen draws where its pattern is white and merges with what is there. At zoom 1 the pattern has one
     // white pixel at its corner, at larger zooms it is a checkerboard that is white where x + y is odd. Lines
     // lie at multiples of its side: a horizontal line is white in every period-th column, and all vertical
-    // lines are white in the same rows.
+    // lines are white in the same rows. At zoom 1 a horizontal line has the white pixels of all the vertical
+    // ones that cross it.
     const std::int32_t step = kGridTexels * look_.zoom;
     const std::int32_t period = look_.zoom == 1 ? kPatternSide : 2;
     const std::int32_t rest = look_.zoom == 1 ? 0 : 1;
@@ -89,11 +90,12 @@ void ViewRenderer::drawGrid(const Surface& surface, const Rect& area) const {
     const std::int32_t firstWhite = firstFrom(area.left, rest, period);
     for (std::int32_t y = area.top; y < area.bottom; ++y) {
         std::uint32_t* const row = pixelAt(surface, area.left, y);
-        if (y % period == rest) {
+        const bool horizontal = y % step == 0 && y > 0;
+        if (y % period == rest && !(horizontal && look_.zoom == 1)) {
             for (std::int32_t x = firstLine; x < area.right; x += step)
                 row[x - area.left] |= kWhite;
         }
-        if (y % step == 0 && y > 0) {
+        if (horizontal) {
             for (std::int32_t x = firstWhite; x < area.right; x += period)
                 row[x - area.left] |= kWhite;
         }

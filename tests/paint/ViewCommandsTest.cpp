@@ -67,6 +67,39 @@ TEST_F(ViewFixture, SelectingRepaintsWhatWasAndWhatIsSelected) {
     expectRepaint(std::nullopt, {10, 2, 27, 19}, 0x40);
 }
 
+TEST_F(ViewFixture, RedrawRequestWaitsForNoPaintThatItDoesNotConcern) {
+    openPalette();
+    document.Attach();
+    view.runCommand(ID_ZOOM_X4); // 10 by 7 and a half texels of it show
+    static_cast<void>(view.BeginPaint());
+    struct Case {
+        Rect texels;
+        std::uint32_t bits;
+        Rect clientArea;
+    };
+    for (const Case& c : {Case{{8, 5, 3, 2}, 0x80, {12, 8, 36, 24}}, Case{{10, 2, 12, 5}, 0, {}},
+                          Case{{2, 8, 5, 9}, 0, {}}, Case{{9, 7, 12, 9}, 0x80, {36, 28, 52, 40}}}) {
+        view.ShowDragFrame({1, 1, 2, 2}, 0xc0); // never painted
+        view.ShowDragFrame(c.texels, 0x80);
+        const auto request = view.BeginPaint();
+        EXPECT_EQ(request.bits, c.bits) << c.texels.left;
+        EXPECT_EQ(request.clientArea, c.clientArea) << c.texels.left;
+        EXPECT_EQ(view.BeginPaint().bits, 0U);
+    }
+}
+
+TEST_F(ViewFixture, ShowsWhatAnImportChangedInPlace) {
+    openPalette();
+    document.Attach();
+    host.plugIns.texelOnImport = 6;
+    window.fullRepaints = 0;
+    document.ImportThrough(0);
+    EXPECT_EQ(window.fullRepaints, 1);
+    window.invalidated.clear();
+    document.Pixel(nullptr, 9, 9, 5);
+    EXPECT_THAT(window.invalidated, ElementsAre(Rect{9, 9, 10, 10})) << "of the edit alone";
+}
+
 TEST_F(ViewFixture, ActivationShowsTheDocumentOncePerChange) {
     openPalette();
     document.Attach();

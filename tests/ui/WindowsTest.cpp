@@ -1,5 +1,5 @@
 #include "Program.h"
-#include "framework/widgets/ChildFrame.h"
+#include "paint/widgets/CChildFrame.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -94,6 +94,35 @@ TEST_F(Windows, AnImageThatIsOpenInTwoWindowsIsLeftAsTheLastOneStood) {
     ASSERT_TRUE(app_.OpenDocumentFile("c:\\tex\\pic.tmf"));
     EXPECT_EQ(view().view().zoom(), 8);
     EXPECT_EQ(app_.mainFrame().childFrames().size(), 1U);
+}
+
+TEST_F(Windows, FramesRealizeColoursThatChangedWhoeverSaysSoButThemselves) {
+    openTwoWindows();
+    auto& first = dynamic_cast<CChildFrame&>(*first_);
+    auto& second = dynamic_cast<CChildFrame&>(*second_);
+    DisplayPalette palette;
+    const auto colour = [&palette](std::uint8_t red) {
+        palette.release();
+        ASSERT_TRUE(palette.create({0x300, 1, {{red, 0, 0, 0}}}));
+    };
+    EXPECT_FALSE(second.RealizePalette()) << "the image has been active since, in the first window";
+    colour(1);
+    EXPECT_EQ(first.SetPalette(&palette), image().GetDisplayPalette());
+    EXPECT_FALSE(first.RealizePalette()) << "done when it was set";
+
+    colour(2);
+    first.OnPaletteChanged(first);
+    first.OnPaletteChanged(*first.widget());
+    EXPECT_TRUE(first.OnQueryNewPalette()) << "nobody else has said so";
+
+    colour(3);
+    EXPECT_EQ(second.SetPalette(&palette), nullptr);
+    EXPECT_FALSE(first.RealizePalette()) << "the second window has said so";
+
+    colour(4);
+    EXPECT_EQ(first.SetPalette(nullptr), &palette);
+    EXPECT_FALSE(first.RealizePalette());
+    second.SetPalette(nullptr);
 }
 
 } // namespace
