@@ -150,15 +150,12 @@ void CDyeworksApp::keepAttachments(const std::function<void()>& save) {
     for (CDyeworksDoc* image : imageDocuments())
         attached[image] = image->GetAttachedPalette();
     save();
-    bool moved = false;
     for (const auto& [image, palette] : attached) {
-        if (palette == nullptr || palette->path == image->attachedName())
-            continue;
-        image->setAttachedName(palette->path);
-        moved = true;
+        if (palette != nullptr)
+            image->setAttachedName(palette->path);
     }
-    if (moved)
-        RefreshImagePalettes();
+    // Under its old key, too, a saved palette has another title, without the mark, which is part of theirs.
+    RefreshImagePalettes();
 }
 
 bool CDyeworksApp::SaveAllModified() {

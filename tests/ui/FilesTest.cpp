@@ -147,6 +147,20 @@ TEST_F(FilesTest, APaletteThatIsOpenedAgainColoursItsImages) {
     EXPECT_EQ(image().canvas().colourTable()[4 * 5 + 1], 248);
 }
 
+TEST_F(FilesTest, ASavedPaletteLosesItsMarkInTheTitleOfItsImageToo) {
+    openAndDraw();
+    TextureLookupTable& palette = *app_.paletteSet()->lookup("");
+    palette.beginEdit();
+    palette.setEntry(3, 0x1234);
+    palette.commitEdit();
+    palette.undo();
+    palette.redo();
+    app_.RefreshImagePalettes();
+    ASSERT_NE(image().title().find("[pic * ]"), std::string::npos) << image().title();
+    ASSERT_TRUE(run(ID_PALETTE_SAVE));
+    EXPECT_NE(image().title().find("[pic]"), std::string::npos) << image().title();
+}
+
 TEST_F(FilesTest, SaveAsGivesThePaletteAndTheImageNewNames) {
     openAndDraw();
     const std::string palette = *fake_.files.textOf(kPalette);
