@@ -52,6 +52,9 @@ public:
     /// A new image was made: offers to use a project if none is open.
     virtual void AskUseProject() = 0;
 
+    /// Whether a view that closes keeps how it showed its image. Not where nobody saw it.
+    [[nodiscard]] virtual bool keepsImageSettings() const { return true; }
+
     /// The document whose view was activated last, still remembered while another kind of window is active;
     /// null before the first and after that document has ended.
     [[nodiscard]] const CDyeworksDoc* lastActivatedImage() const noexcept { return lastActivated_; }

@@ -127,6 +127,7 @@ public:
     [[nodiscard]] OpenProject* openProject() override;
     [[nodiscard]] std::optional<NewImage> askNewImage() override;
     void AskUseProject() override;
+    [[nodiscard]] bool keepsImageSettings() const override { return keepsImageSettings_; }
 
     // The image plug-ins. None is installed.
     [[nodiscard]] std::vector<std::string> importNames() const override { return {}; }
@@ -224,6 +225,7 @@ private:
     QPointer<QWidget> splash_;
     OpenRequestQueue openRequests_;
     bool keepsSettings_ = false; ///< Not before they have been read.
+    bool keepsImageSettings_ = true;
     int exitCode_ = 0;
 };
 

@@ -64,6 +64,8 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
     readSettings();
     // A picture of the window is to leave no trace.
     keepsSettings_ = !commandLine.renders();
+    // Nor is a window that nobody saw to decide where the image's next one stands.
+    keepsImageSettings_ = commandLine.isInteractive();
     if (!registerControls())
         return false;
     createImageTemplate();

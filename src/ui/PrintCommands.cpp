@@ -6,6 +6,7 @@
 #include "ui/CMainFrame.h"
 #include "ui/ImagePrinter.h"
 
+#include <QAction>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
@@ -16,6 +17,9 @@
 namespace dyeworks {
 
 namespace {
+
+constexpr const char* kSection = "Settings";
+constexpr const char* kPreviewPagesEntry = "PreviewPages"; // Side by side: 1 or 2.
 
 /// Shows how far a long printing is and lets it be stopped.
 class PrintProgress {
@@ -122,7 +126,13 @@ void PrintCommands::OnFilePrintPreview() {
         static_cast<void>(ImagePrinter(*frame_.activeImageView()).print(*pages, std::ref(progress)));
     });
     dialog.resize(frame_.size());
+    Profile& profile = platform().profile();
+    auto* facingPages = dialog.findChild<QAction*>(QStringLiteral("facingModeAction"));
+    if (facingPages != nullptr && profile.integer(kSection, kPreviewPagesEntry, 1) > 1)
+        facingPages->trigger();
     dialog.exec();
+    if (facingPages != nullptr)
+        profile.setInteger(kSection, kPreviewPagesEntry, facingPages->isChecked() ? 2 : 1);
 }
 
 void PrintCommands::OnFilePrintSetup() {

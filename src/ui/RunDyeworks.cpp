@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -21,8 +22,9 @@ namespace dyeworks {
 
 namespace {
 
-/// Whether the arguments ask for something that needs no display.
-bool needsNoDisplay(std::span<char*> arguments) {
+/// Whether the arguments look as if they asked for something that needs no display. One may be the name of a
+/// file, or belong to an option.
+bool mayNeedNoDisplay(std::span<char*> arguments) {
     return std::ranges::any_of(arguments, [](std::string_view argument) {
         return argument == "--help" || argument == "-h" || argument == "--version" || argument == "-v" ||
                argument == "--unregister";
@@ -53,6 +55,15 @@ int unregister(const CommandLine& commandLine) {
     return 1;
 }
 
+/// The exit code, when the command line asks for nothing that takes a window.
+std::optional<int> doneWithoutWindow(const CommandLine& commandLine) {
+    if (commandLine.ended)
+        return commandLine.exitCode;
+    if (commandLine.task == CommandLine::Task::Unregister)
+        return unregister(commandLine);
+    return std::nullopt;
+}
+
 void install(QApplication& application, const CommandLine& commandLine) {
     if (commandLine.language.isEmpty())
         installLanguage(application, platform().locale().defaultLocale());
@@ -77,10 +88,10 @@ bool handToRunningProgram(const CommandLine& commandLine) {
 }
 
 int runDyeworks(int argc, char** argv) {
-    if (needsNoDisplay(std::span(argv, static_cast<std::size_t>(argc)))) {
+    if (mayNeedNoDisplay(std::span(argv, static_cast<std::size_t>(argc)))) {
         const QCoreApplication application(argc, argv);
-        const CommandLine commandLine = parseCommandLine(QCoreApplication::arguments());
-        return commandLine.ended ? commandLine.exitCode : unregister(commandLine);
+        if (const auto exitCode = doneWithoutWindow(parseCommandLine(QCoreApplication::arguments())))
+            return *exitCode;
     }
 
     // A maximized image window puts its buttons into the menu bar, which is therefore the main window's own.
@@ -90,10 +101,8 @@ int runDyeworks(int argc, char** argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("orrery-dyeworks"));
     QApplication::setWindowIcon(programIcon());
     const CommandLine commandLine = parseCommandLine(QApplication::arguments());
-    if (commandLine.ended)
-        return commandLine.exitCode;
-    if (commandLine.task == CommandLine::Task::Unregister)
-        return unregister(commandLine);
+    if (const auto exitCode = doneWithoutWindow(commandLine))
+        return *exitCode;
 
     QtPlatform desktop(commandLine.settingsFile.toStdString());
     desktop.setInteractive(commandLine.isInteractive());

@@ -1,11 +1,15 @@
 #include "Program.h"
 #include "ui/PagePlan.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QPageSize>
+#include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTimer>
 
 namespace dyeworks {
 namespace {
@@ -112,6 +116,32 @@ TEST_F(Printing, FailuresAreTold) {
     ASSERT_TRUE(run(ID_FILE_PRINT));
     ASSERT_EQ(fake_.messages.shown.size(), 1U);
     EXPECT_EQ(fake_.messages.shown[0].text, "The document could not be printed.");
+}
+
+TEST_F(Printing, ThePreviewShowsAsManyPagesSideBySideAsTheLastOne) {
+    openAttached(texels(4, 4, [](int, int) { return 1U; }), 4, 16);
+    const auto shownThenChosen = [this](const char* mode) {
+        QString shown;
+        QTimer whenIdle;
+        QObject::connect(&whenIdle, &QTimer::timeout, &whenIdle, [&] {
+            auto* preview = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
+            if (preview == nullptr || !preview->isVisible())
+                return;
+            whenIdle.stop();
+            for (QAction* action : preview->findChildren<QAction*>()) {
+                if (action->isChecked() && action->objectName().endsWith(QStringLiteral("ModeAction")))
+                    shown = action->objectName();
+            }
+            preview->findChild<QAction*>(QString::fromLatin1(mode))->trigger();
+            preview->close();
+        });
+        whenIdle.start();
+        EXPECT_TRUE(run(ID_FILE_PRINT_PREVIEW));
+        return shown.toStdString();
+    };
+    EXPECT_EQ(shownThenChosen("facingModeAction"), "singleModeAction");
+    EXPECT_EQ(shownThenChosen("singleModeAction"), "facingModeAction");
+    EXPECT_EQ(shownThenChosen("singleModeAction"), "singleModeAction");
 }
 
 } // namespace
