@@ -1030,14 +1030,6 @@ Do you want to replace it?</source>
         <translation>パレットの色</translation>
     </message>
     <message>
-        <source>Entry to draw with: number, value and channels</source>
-        <translation>描画に使う色: 番号、値、各成分</translation>
-    </message>
-    <message>
-        <source>&amp;Bank</source>
-        <translation>バンク(&amp;B)</translation>
-    </message>
-    <message>
         <source>The 16 entries of the palette that the image is shown through</source>
         <translation>画像の表示に使うパレットの 16 色</translation>
     </message>
@@ -1160,10 +1152,6 @@ The changes to &quot;%1&quot; will be lost.</source>
         <translation>開いているプロジェクトのピクチャです。一覧から選択し、右のボタンで開きます。ほかのボタンは一覧を変更します。</translation>
     </message>
     <message>
-        <source>The open palettes and the colours of the current one. Click the colour to draw with.</source>
-        <translation>開いているパレットと、現在のパレットの色です。描画に使う色をクリックします。</translation>
-    </message>
-    <message>
         <source>What the command under the pointer does.</source>
         <translation>ポインターの下にあるコマンドの説明です。</translation>
     </message>
@@ -1253,7 +1241,7 @@ The changes to &quot;%1&quot; will be lost.</source>
     </message>
     <message>
         <source>Colour of the entry</source>
-        <translation>エントリの色</translation>
+        <translation>エントリーの色</translation>
     </message>
     <message>
         <source>Take this colour as the left end of the gradient</source>
@@ -1440,6 +1428,66 @@ Do you use project?</source>
     <message>
         <source>Ask again when the next image has been made</source>
         <translation>次に画像を作ったときも確認します</translation>
+    </message>
+    <message>
+        <source>Ban&amp;k</source>
+        <translation>バンク(&amp;K)</translation>
+    </message>
+    <message>
+        <source>The open palettes and the colours of the current one. Click the colour to draw with; change it with the bars, the numbers or the entry in hexadecimal, then press Apply.</source>
+        <translation>開いているパレットと、現在のパレットの色です。描画に使う色をクリックします。色はバー、数値または16進のエントリーで変更し、[適用] を押します。</translation>
+    </message>
+    <message>
+        <source>&amp;RGB</source>
+        <translation>&amp;RGB</translation>
+    </message>
+    <message>
+        <source>&amp;Alpha</source>
+        <translation>アルファ(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Show the colours, here and in the images</source>
+        <translation>ここと画像に色を表示します</translation>
+    </message>
+    <message>
+        <source>Show the alpha plane, here and in the images</source>
+        <translation>ここと画像にアルファ面を表示します</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Show the entry in the images while it is edited</source>
+        <translation>編集中のエントリーを画像に表示します</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>Write the edited entry into the palette</source>
+        <translation>編集したエントリーをパレットに書き込みます</translation>
+    </message>
+    <message>
+        <source>Number of the current entry</source>
+        <translation>現在のエントリーの番号</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>エントリー</translation>
+    </message>
+    <message>
+        <source>The edited entry in hexadecimal</source>
+        <translation>編集中のエントリー (16進)</translation>
+    </message>
+    <message>
+        <source>Please enter one to four hexadecimal digits.</source>
+        <translation>1～4桁の16進数を入力してください。</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>グラデーション</translation>
     </message>
 </context>
 </TS>

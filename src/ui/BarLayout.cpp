@@ -2,7 +2,7 @@
 
 #include "framework/widgets/WidgetPlacement.h"
 #include "platform/Platform.h"
-#include "ui/PalettePanel.h"
+#include "ui/CPaletteBar.h"
 
 #include <QByteArray>
 #include <QCryptographicHash>
@@ -42,7 +42,7 @@ QByteArray readDocked() {
 
 } // namespace
 
-void saveBarLayout(QMainWindow& frame, PalettePanel& paletteBar) {
+void saveBarLayout(QMainWindow& frame, CPaletteBar& paletteBar) {
     Profile& settings = platform().profile();
     const QByteArray state = frame.saveState(kVersion);
     settings.setText(kSection, kDockedEntry, (sealOf(state) + state).toBase64().toStdString());
@@ -53,7 +53,7 @@ void saveBarLayout(QMainWindow& frame, PalettePanel& paletteBar) {
     settings.setText(kSection, kPaletteBarEntry, formatWindowPlacement(placement));
 }
 
-void restoreBarLayout(QMainWindow& frame, PalettePanel& paletteBar) {
+void restoreBarLayout(QMainWindow& frame, CPaletteBar& paletteBar) {
     const Profile& settings = platform().profile();
     frame.restoreState(readDocked(), kVersion);
     frame.statusBar()->setVisible(settings.integer(kSection, kStatusBarEntry, 1) != 0);

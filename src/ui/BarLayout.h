@@ -4,14 +4,14 @@ class QMainWindow;
 
 namespace dyeworks {
 
-class PalettePanel;
+class CPaletteBar;
 
 // Where the bars of the main window stand and which are shown, in the settings, section "BarState".
 
-void saveBarLayout(QMainWindow& frame, PalettePanel& paletteBar);
+void saveBarLayout(QMainWindow& frame, CPaletteBar& paletteBar);
 
 /// Puts the bars where they were. What cannot be read leaves its bars as they are; a palette bar without a
 /// place of its own gets its first one.
-void restoreBarLayout(QMainWindow& frame, PalettePanel& paletteBar);
+void restoreBarLayout(QMainWindow& frame, CPaletteBar& paletteBar);
 
 } // namespace dyeworks

@@ -9,7 +9,7 @@
 #include "ui/CFileNewSheet.h"
 #include "ui/CFileNewTexturePage.h"
 #include "ui/CMainFrame.h"
-#include "ui/PalettePanel.h"
+#include "ui/CPaletteBar.h"
 
 #include <algorithm>
 #include <map>
@@ -44,6 +44,7 @@ std::vector<CommandTarget*> CDyeworksApp::commandChain() {
     // Nothing is routed while the window is being made or has gone.
     if (mainFrame_ != nullptr) {
         chain = mainFrame_->commandTargets();
+        chain.push_back(&mainFrame_->paletteBar());
         chain.push_back(&mainFrame_->printing());
     }
     chain.push_back(this);
@@ -78,13 +79,13 @@ std::vector<CDyeworksDoc*> CDyeworksApp::imageDocuments() const {
     return images;
 }
 
-CDyeworksDoc* CDyeworksApp::activeImage() const {
+CDyeworksDoc* CDyeworksApp::activeDocument() const {
     const CDyeworksView* view = activeView();
     return view == nullptr ? nullptr : &view->document();
 }
 
-CDyeworksDoc* CDyeworksApp::activeImageOfCurrentPalette() const {
-    CDyeworksDoc* image = activeImage();
+CDyeworksDoc* CDyeworksApp::activeDocumentOfCurrentPalette() const {
+    CDyeworksDoc* image = activeDocument();
     const bool shown = palettes_ != nullptr && image != nullptr && image->IsAttached() &&
                        image->attachedName() == palettes_->currentKey;
     return shown ? image : nullptr;
@@ -140,9 +141,9 @@ void CDyeworksApp::RefreshImagePalettes() {
         image->RefreshPalette();
 }
 
-void CDyeworksApp::BroadcastPaletteChange(const std::string& key, const TextureLookupTable* palette) {
+void CDyeworksApp::BroadcastPaletteChange(const std::string& key, const TextureLookupTable& palette) {
     for (CDyeworksDoc* image : imageDocuments())
-        image->PaletteChanged(key, palette);
+        image->PaletteChanged(key, &palette);
 }
 
 void CDyeworksApp::keepAttachments(const std::function<void()>& save) {
@@ -246,21 +247,21 @@ OpenProject* CDyeworksApp::openProject() {
 }
 
 std::int32_t CDyeworksApp::paletteBarFirstEntry() const {
-    return mainFrame_ == nullptr ? 0 : mainFrame_->palettePanel().firstEntry();
+    return mainFrame_ == nullptr ? 0 : mainFrame_->GetPaletteBarFirstEntry();
 }
 
 std::int32_t CDyeworksApp::paletteBarCell() const {
-    return mainFrame_ == nullptr ? -1 : mainFrame_->palettePanel().cell();
+    return mainFrame_ == nullptr ? -1 : mainFrame_->GetPaletteBarCell();
 }
 
 void CDyeworksApp::selectPaletteBarCell(std::int32_t cell) {
     if (mainFrame_ != nullptr)
-        mainFrame_->palettePanel().selectCell(cell);
+        mainFrame_->SelectPaletteBarCell(cell);
 }
 
 void CDyeworksApp::refreshPaletteBar() {
     if (mainFrame_ != nullptr)
-        mainFrame_->palettePanel().currentPaletteChanged();
+        mainFrame_->RefreshPaletteBar();
 }
 
 void CDyeworksApp::setStatusText(const std::string& text, int pane) {
@@ -269,7 +270,7 @@ void CDyeworksApp::setStatusText(const std::string& text, int pane) {
 }
 
 bool CDyeworksApp::isActiveImage(const CDyeworksDoc& document) const {
-    return activeImage() == &document;
+    return activeDocument() == &document;
 }
 
 CDyeworksView* CDyeworksApp::activeView() const {
@@ -296,15 +297,15 @@ std::uint32_t CDyeworksApp::PreviewImage(TmfImage* /*image*/, TlutData* /*palett
     return 0;
 }
 
-std::optional<PalettePanelState::Image> CDyeworksApp::panelImage() const {
-    const CDyeworksDoc* image = activeImageOfCurrentPalette();
+std::optional<PaletteBarHost::Image> CDyeworksApp::activeImage() const {
+    const CDyeworksDoc* image = activeDocumentOfCurrentPalette();
     if (image == nullptr)
         return std::nullopt;
-    return PalettePanelState::Image{image->canvas().bitsPerPixel(), image->paletteValue()};
+    return Image{image->canvas().bitsPerPixel(), image->paletteValue()};
 }
 
-void CDyeworksApp::bankChosen(std::int32_t firstEntry) {
-    if (CDyeworksDoc* image = activeImageOfCurrentPalette()) {
+void CDyeworksApp::setActivePaletteValue(std::int32_t firstEntry) {
+    if (CDyeworksDoc* image = activeDocumentOfCurrentPalette()) {
         image->setPaletteValue(firstEntry);
         image->RefreshPalette();
     }

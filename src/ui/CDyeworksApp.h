@@ -9,7 +9,7 @@
 #include "paint/ImagePlugIns.h"
 #include "ui/OpenRequestQueue.h"
 #include "ui/OpenedFile.h"
-#include "ui/PalettePanelHost.h"
+#include "ui/PaletteBarHost.h"
 #include "ui/StartUpParts.h"
 
 #include <QPointer>
@@ -32,7 +32,7 @@ struct CommandLine;
 class CDyeworksApp : public CommandTarget,
                      public ImageHost,
                      public ImagePlugIns,
-                     public PalettePanelHost,
+                     public PaletteBarHost,
                      private DocumentWindows {
 public:
     explicit CDyeworksApp(StartUpParts parts = {});
@@ -89,9 +89,9 @@ public:
     bool SaveAllModified();
 
     /// Makes every image take its palette's colours anew. Called after palettes change.
-    void RefreshImagePalettes();
+    void RefreshImagePalettes() override;
     /// Shows the colours of `palette`, which may be a passing copy, in every image attached to that key.
-    void BroadcastPaletteChange(const std::string& key, const TextureLookupTable* palette);
+    void BroadcastPaletteChange(const std::string& key, const TextureLookupTable& palette) override;
     /// Closes the images and palettes of these paths that are open. Unless `force` is set, asks once before
     /// the first; No leaves them all open.
     void ClosePictureDocuments(const std::vector<std::string>& paths, bool force);
@@ -139,16 +139,16 @@ public:
     [[nodiscard]] std::uint32_t PreviewImage(TmfImage* image, TlutData* palette, std::int32_t paletteNumber,
                                              std::int32_t which) override;
 
-    // What the palette panel asks.
-    [[nodiscard]] std::optional<PalettePanelState::Image> panelImage() const override;
-    void bankChosen(std::int32_t firstEntry) override;
+    // What the palette bar asks besides.
+    [[nodiscard]] std::optional<Image> activeImage() const override;
+    void setActivePaletteValue(std::int32_t firstEntry) override;
 
 private:
     [[nodiscard]] std::vector<CommandTarget*> commandChain();
     [[nodiscard]] std::vector<CDyeworksDoc*> imageDocuments() const;
-    [[nodiscard]] CDyeworksDoc* activeImage() const;
-    /// The active image if the panel shows its palette; null otherwise.
-    [[nodiscard]] CDyeworksDoc* activeImageOfCurrentPalette() const;
+    [[nodiscard]] CDyeworksDoc* activeDocument() const;
+    /// The active image if the palette bar shows its palette; null otherwise.
+    [[nodiscard]] CDyeworksDoc* activeDocumentOfCurrentPalette() const;
 
     bool openWindow(CDocument& document) override;
     void activate(CDocument& document) override;

@@ -3,8 +3,8 @@
 #include "platform/Platform.h"
 #include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"
+#include "ui/CPaletteBar.h"
 #include "ui/CommandLine.h"
-#include "ui/PalettePanel.h"
 #include "ui/SplashScreen.h"
 #include "ui/controls/ControlRegistration.h"
 
@@ -177,7 +177,7 @@ bool CDyeworksApp::createPaletteSet() {
     if (palettes_ == nullptr)
         return false;
     setApplicationPaletteSet(palettes_.get());
-    palettes_->setListener(&mainFrame_->palettePanel());
+    palettes_->setListener(&mainFrame_->paletteBar());
     // The first idle moment may be long in coming: files are opened before, and each may raise a message.
     mainFrame_->commandActions().refresh();
     return true;

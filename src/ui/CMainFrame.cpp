@@ -12,9 +12,9 @@
 #include "project/ProjectDocument.h"
 #include "ui/BarLayout.h"
 #include "ui/CDyeworksApp.h"
+#include "ui/CPaletteBar.h"
 #include "ui/CProjectBar.h"
 #include "ui/MainMenus.h"
-#include "ui/PalettePanel.h"
 #include "ui/StatusPanes.h"
 
 #include <QCloseEvent>
@@ -82,7 +82,7 @@ CMainFrame::CMainFrame(CDyeworksApp& application)
     on(ID_DEFAULT_HELP, &CMainFrame::OnHelpIndex);
     on(ID_HELP, &CMainFrame::OnHelp);
     on(ID_CONTEXT_HELP, &CMainFrame::OnContextHelp);
-    restoreBarLayout(*this, *palettePanel_);
+    restoreBarLayout(*this, *paletteBar_);
     CMainFrame::OnUpdateFrameTitle();
     restorePlacement();
 }
@@ -99,8 +99,9 @@ void CMainFrame::makeToolBar(const char* name, CommandId id, StringId title, Str
 }
 
 void CMainFrame::makePaletteBar() {
-    palettePanel_ = new PalettePanel(application_, actions_.action(ID_PALETTE_OPEN), *this);
-    connect(this, &MdiFrame::activeChildChanged, palettePanel_, &PalettePanel::currentPaletteChanged);
+    paletteBar_ = new CPaletteBar(application_, actions_, *this);
+    // Also told when the main window comes to the front with the image that was active before.
+    connect(this, &MdiFrame::activeChildChanged, paletteBar_, &CPaletteBar::ImageChanged);
     on(ID_VIEW_PALETTEBAR, &CMainFrame::OnTogglePaletteBar, &CMainFrame::OnUpdatePaletteBar);
 }
 
@@ -126,11 +127,11 @@ void CMainFrame::OnUpdateBar(CommandUi& ui) {
 }
 
 void CMainFrame::OnTogglePaletteBar() {
-    palettePanel_->setShown(!palettePanel_->isShown());
+    paletteBar_->setShown(!paletteBar_->isShown());
 }
 
 void CMainFrame::OnUpdatePaletteBar(CommandUi& ui) {
-    ui.checked = palettePanel_->isShown();
+    ui.checked = paletteBar_->isShown();
 }
 
 void CMainFrame::OnUpdatePictureButton(CommandUi& ui) {
@@ -168,8 +169,8 @@ void CMainFrame::openImageWindow(CDyeworksDoc& document) {
     image.setWhatsThis(shown(StringId::HelpImageView));
     auto child = std::make_unique<CChildFrame>(document, std::move(view), image);
     child->setMenus(imageMenu());
-    // The palette that an image is attached to is part of its title, and its bank is what the panel shows.
-    connect(child.get(), &QWidget::windowTitleChanged, palettePanel_, &PalettePanel::currentPaletteChanged);
+    // The palette that an image is attached to is part of its title, and its bank is what the bar shows.
+    connect(child.get(), &QWidget::windowTitleChanged, paletteBar_, &CPaletteBar::ImageChanged);
     addChild(std::move(child));
 }
 
@@ -197,30 +198,34 @@ void CMainFrame::SelectPicture(const std::string& name) {
 }
 
 void CMainFrame::RefreshPaletteBar() {
-    palettePanel_->currentPaletteChanged();
+    paletteBar_->RefreshFromPalette();
 }
 
 void CMainFrame::FillPaletteBarList() {
-    palettePanel_->tabsChanged();
+    paletteBar_->tabsChanged();
 }
 
 std::int32_t CMainFrame::GetPaletteBarFirstEntry() const {
-    return palettePanel_->firstEntry();
+    return paletteBar_->GetFirstEntry();
 }
 
 std::int32_t CMainFrame::GetPaletteBarCell() const {
-    return palettePanel_->cell();
+    return paletteBar_->CurrentCell();
 }
 
 void CMainFrame::SelectPaletteBarCell(std::int32_t cell) {
-    palettePanel_->selectCell(cell);
+    paletteBar_->SelectCell(cell);
+}
+
+void CMainFrame::SetPaletteBarNumber(std::int32_t number) {
+    paletteBar_->SetPaletteNumber(number);
 }
 
 QPixmap CMainFrame::picture() {
     QPixmap whole = grab();
-    if (palettePanel_->isShown()) {
+    if (paletteBar_->isShown()) {
         QPainter painter(&whole);
-        painter.drawPixmap(mapFromGlobal(palettePanel_->pos()), palettePanel_->grab());
+        painter.drawPixmap(mapFromGlobal(paletteBar_->pos()), paletteBar_->grab());
     }
     return whole;
 }
@@ -241,7 +246,7 @@ bool CMainFrame::OnClose() {
     application_.SaveOpenDocuments();
     if (!application_.CloseProject())
         return false;
-    saveBarLayout(*this, *palettePanel_);
+    saveBarLayout(*this, *paletteBar_);
     return application_.SaveAllModified();
 }
 
@@ -261,11 +266,11 @@ void CMainFrame::closeEvent(QCloseEvent* event) {
 
 void CMainFrame::setVisible(bool visible) {
     if (!visible)
-        palettePanel_->hide();
+        paletteBar_->hide();
     MdiFrame::setVisible(visible);
     // Only above a window that is there already will it float.
     if (visible)
-        palettePanel_->setShown(palettePanel_->isShown());
+        paletteBar_->setShown(paletteBar_->isShown());
 }
 
 void CMainFrame::dragEnterEvent(QDragEnterEvent* event) {

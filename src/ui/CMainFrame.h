@@ -17,13 +17,13 @@ namespace dyeworks {
 
 class CDyeworksApp;
 class CDyeworksDoc;
+class CPaletteBar;
 class CProjectBar;
 class ImageView;
-class PalettePanel;
 class StatusPanes;
 
 /// The main window: documents in the middle, menus, tool bars, project bar and status bar around them, the
-/// palette panel floating above. What it shows follows the application; its place and that of its bars are
+/// palette bar floating above. What it shows follows the application; its place and that of its bars are
 /// kept in the settings.
 class CMainFrame : public MdiFrame {
     Q_OBJECT
@@ -36,7 +36,7 @@ public:
     ~CMainFrame() override;
 
     [[nodiscard]] CommandActions& commandActions() noexcept { return actions_; }
-    [[nodiscard]] PalettePanel& palettePanel() noexcept { return *palettePanel_; }
+    [[nodiscard]] CPaletteBar& paletteBar() noexcept { return *paletteBar_; }
     [[nodiscard]] PrintCommands& printing() noexcept { return printing_; }
 
     /// Opens a window with a view of the document and makes it the active one.
@@ -65,6 +65,8 @@ public:
     /// The cell to draw with; negative when there is none.
     [[nodiscard]] std::int32_t GetPaletteBarCell() const;
     void SelectPaletteBarCell(std::int32_t cell);
+    /// Shows the active image through another bank of the current palette.
+    void SetPaletteBarNumber(std::int32_t number);
 
     /// The window as a picture, with the palette bar where it floats above it.
     [[nodiscard]] QPixmap picture();
@@ -108,7 +110,7 @@ private:
     bool closing_ = false; ///< While documents are recorded and the project and they are closed.
     StatusPanes* panes_ = nullptr;
     CProjectBar* projectBar_ = nullptr;
-    PalettePanel* palettePanel_ = nullptr;
+    CPaletteBar* paletteBar_ = nullptr;
     std::map<CommandId, QWidget*> bars_; ///< By the commands that show and hide them.
 };
 

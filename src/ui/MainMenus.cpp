@@ -173,6 +173,24 @@ constexpr std::array kPaletteMenu{
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Entries"), kEntriesMenu},
 };
 
+constexpr std::array kPaletteBarMenu{
+    MenuItem{ID_PALETTE_NEW},
+    MenuItem{ID_PALETTE_OPEN},
+    MenuItem{ID_PALETTE_CLOSE},
+    kSeparator,
+    MenuItem{ID_PALETTE_SAVE},
+    MenuItem{ID_PALETTE_SAVE_AS},
+    kSeparator,
+    MenuItem{ID_PALETTE_EDIT},
+    MenuItem{ID_IMAGE_ATTACH},
+    kSeparator,
+    MenuItem{ID_PALETTE_UNDO},
+    MenuItem{ID_PALETTE_REDO},
+    kSeparator,
+    MenuItem{ID_PALETTE_COPY},
+    MenuItem{ID_PALETTE_PASTE},
+};
+
 constexpr std::array kPictureMenu{
     MenuItem{ID_PICTURE_ADD},
     MenuItem{ID_PICTURE_CHANGE},
@@ -299,6 +317,10 @@ std::span<const MenuItem> projectMenu() {
 std::span<const MenuItem> barsMenu() {
     return kBarsMenu;
 }
+std::span<const MenuItem> paletteBarMenu() {
+    return kPaletteBarMenu;
+}
+
 std::span<const MenuItem> toolBarItems() {
     return kToolBar;
 }

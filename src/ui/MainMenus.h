@@ -17,6 +17,9 @@ std::span<const MenuItem> projectMenu();
 /// What can be shown and hidden; also the context menu of the bars.
 std::span<const MenuItem> barsMenu();
 
+/// The context menu of the palette bar.
+std::span<const MenuItem> paletteBarMenu();
+
 // The buttons of the bars.
 std::span<const MenuItem> toolBarItems();
 std::span<const MenuItem> viewBarItems();

@@ -58,12 +58,25 @@ void PaletteBarState::layOut() {
     rows_ = side;
 }
 
-void PaletteBarState::takeUpBank() {
+/// The bank that the active image shows; nothing when it shows the whole palette.
+std::optional<std::int32_t> PaletteBarState::bankOfImage() const {
     const auto image = host_.activeImage();
-    const bool banked =
-        image && image->bits == kBankedBits && hasPalette() && currentPalette()->table.count == kLargePalette;
-    bankSize_ = banked ? kBankSize : 0;
-    paletteNumber_ = banked ? std::clamp(image->paletteValue / kBankSize, 0, kLastBank) : 0;
+    if (!image || image->bits != kBankedBits || !hasPalette() ||
+        currentPalette()->table.count != kLargePalette)
+        return std::nullopt;
+    return std::clamp(image->paletteValue / kBankSize, 0, kLastBank);
+}
+
+void PaletteBarState::takeUpBank() {
+    const auto bank = bankOfImage();
+    bankSize_ = bank ? kBankSize : 0;
+    paletteNumber_ = bank.value_or(0);
+}
+
+void PaletteBarState::ImageChanged() {
+    const auto bank = bankOfImage();
+    if (bank.has_value() != inBankMode() || bank.value_or(0) != paletteNumber_)
+        RefreshFromPalette();
 }
 
 void PaletteBarState::fillGrid() {

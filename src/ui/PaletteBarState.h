@@ -54,6 +54,9 @@ public:
     // Called when the palettes or the active image have changed.
     /// Reads the current palette into grid and controls; a value that was not applied is dropped.
     void RefreshFromPalette();
+    /// The active image may be attached otherwise now. As long as its bank is the one that is shown, a value
+    /// that was not applied stays.
+    void ImageChanged();
     void ConfigureChannels();
     void RebuildTabs(const std::vector<std::string>& keys);
     /// Selects a cell. One beyond the grid selects the last; without a palette, the cell is selected when one
@@ -154,6 +157,7 @@ private:
     void readEntry();
     void setChannel(Channel channel, std::int32_t value, Source source);
     void layOut();
+    [[nodiscard]] std::optional<std::int32_t> bankOfImage() const;
     void takeUpBank();
     void fillGrid();
     void keepCellInGrid();

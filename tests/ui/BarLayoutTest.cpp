@@ -10,7 +10,7 @@ namespace {
 class BarLayout : public Restart {
 protected:
     QToolBar& bar(const char* name) { return *frame().findChild<QToolBar*>(QString::fromLatin1(name)); }
-    PalettePanel& palette() { return frame().palettePanel(); }
+    CPaletteBar& palette() { return frame().paletteBar(); }
     /// The bars in words, to compare layouts.
     QStringList layout() {
         QStringList words;
@@ -86,7 +86,7 @@ TEST_F(BarLayout, WhatWasMovedAndHiddenComesBackAsItWas) {
     frame().addToolBar(Qt::BottomToolBarArea, &bar("ID_VIEW_PROJECTBAR"));
     ASSERT_TRUE(run(ID_VIEW_VIEWBAR));
     ASSERT_TRUE(run(ID_VIEW_STATUS_BAR));
-    palette().setGeometry(40, 60, 300, 350);
+    palette().setGeometry(40, 60, 360, 600);
     QCoreApplication::processEvents();
     const QStringList left = layout();
     leaveAndStart();
@@ -115,7 +115,7 @@ TEST_F(BarLayout, DamagedSettingsGiveTheFirstLayout) {
     const QStringList first = layout();
     frame().addToolBar(Qt::LeftToolBarArea, &bar("ID_VIEW_DRAWBAR"));
     ASSERT_TRUE(run(ID_VIEW_VIEWBAR));
-    palette().setGeometry(40, 60, 300, 350);
+    palette().setGeometry(40, 60, 360, 600);
     ASSERT_TRUE(frame().close());
     const std::map<std::string, std::string> good = stored();
     const std::string& state = good.at("Docked");

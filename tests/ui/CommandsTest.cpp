@@ -22,8 +22,6 @@ const Ids kTakenByNobody{// Selection and clipboard.
                          ID_EDIT_PASTE, ID_FLIP_X, ID_FLIP_Y,
                          // Tools that draw nothing, or only here and there.
                          ID_TOOL_ZOOM_LENS, ID_TOOL_REPLACER, ID_TOOL_SPUIT,
-                         // Entries of the palette.
-                         ID_PALETTE_EDIT, ID_PALETTE_COPY, ID_PALETTE_PASTE, ID_PALETTE_UNDO, ID_PALETTE_REDO,
                          // Nodes of the project's tree.
                          ID_NODE_ADD, ID_NODE_EDIT, ID_NODE_REMOVE, ID_NODE_PROPERTY,
                          // Stands in the zoom menu and asks for nothing.
@@ -36,18 +34,18 @@ const Ids kAlwaysEnabled{ID_FILE_NEW,     ID_FILE_OPEN,    ID_FILE_PRINT_SETUP, 
                          ID_VIEW_VIEWBAR};
 
 /// Besides, with an image that is attached to a palette, both unchanged.
-const Ids kEnabledWithImage{// Its file and its windows.
-                            ID_FILE_CLOSE, ID_FILE_SAVE, ID_FILE_SAVE_AS, ID_FILE_PRINT, ID_FILE_PRINT_DIRECT,
-                            ID_FILE_PRINT_PREVIEW, ID_RECENT_IMAGE_FIRST, ID_WINDOW_NEW, ID_WINDOW_CASCADE,
-                            ID_WINDOW_TILE_HORZ, ID_WINDOW_TILE_VERT,
-                            // How it is shown.
-                            ID_ZOOM_IN, ID_ZOOM_X1, ID_ZOOM_X2, ID_ZOOM_X3, ID_ZOOM_X4, ID_ZOOM_X6,
-                            ID_ZOOM_X8, ID_ZOOM_X12, ID_ZOOM_X16, ID_VIEW_GRID, ID_PREVIEW1, ID_PREVIEW2,
-                            // Drawing.
-                            ID_TOOL_PIXEL, ID_TOOL_PEN, ID_TOOL_LINE, ID_TOOL_BOX, ID_TOOL_BOX_FILL,
-                            ID_TOOL_CIRCLE, ID_TOOL_CIRCLE_FILL, ID_TOOL_PAINT,
-                            // The palette's file.
-                            ID_PALETTE_CLOSE, ID_PALETTE_SAVE, ID_PALETTE_SAVE_AS, ID_RECENT_PALETTE_FIRST};
+const Ids kEnabledWithImage{
+    // Its file and its windows.
+    ID_FILE_CLOSE, ID_FILE_SAVE, ID_FILE_SAVE_AS, ID_FILE_PRINT, ID_FILE_PRINT_DIRECT, ID_FILE_PRINT_PREVIEW,
+    ID_RECENT_IMAGE_FIRST, ID_WINDOW_NEW, ID_WINDOW_CASCADE, ID_WINDOW_TILE_HORZ, ID_WINDOW_TILE_VERT,
+    // How it is shown.
+    ID_ZOOM_IN, ID_ZOOM_X1, ID_ZOOM_X2, ID_ZOOM_X3, ID_ZOOM_X4, ID_ZOOM_X6, ID_ZOOM_X8, ID_ZOOM_X12,
+    ID_ZOOM_X16, ID_VIEW_GRID, ID_PREVIEW1, ID_PREVIEW2,
+    // Drawing.
+    ID_TOOL_PIXEL, ID_TOOL_PEN, ID_TOOL_LINE, ID_TOOL_BOX, ID_TOOL_BOX_FILL, ID_TOOL_CIRCLE,
+    ID_TOOL_CIRCLE_FILL, ID_TOOL_PAINT,
+    // The palette's file.
+    ID_PALETTE_EDIT, ID_PALETTE_CLOSE, ID_PALETTE_SAVE, ID_PALETTE_SAVE_AS, ID_RECENT_PALETTE_FIRST};
 
 /// What a menu shows of the table; in a list of files or plug-ins each command counts.
 Ids everyCommand() {
@@ -95,6 +93,7 @@ protected:
     /// What somebody would take as things stand.
     [[nodiscard]] Ids taken() {
         std::vector<CommandTarget*> chain = app_.mainFrame().commandTargets();
+        chain.push_back(&app_.mainFrame().paletteBar());
         chain.push_back(&app_.mainFrame().printing());
         chain.push_back(&app_);
         Ids ids = everyCommand();

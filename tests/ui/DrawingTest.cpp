@@ -154,11 +154,9 @@ using DrawingRules = Program;
 
 TEST_F(DrawingRules, ABankOfTheFourBitImageShowsItsEntriesAndStoresLowBits) {
     openAttached(texels(10, 6, [](int x, int) { return static_cast<unsigned>(x); }), 4, 256);
-    auto* bank = app_.mainFrame().findChild<QWidget*>(QStringLiteral("IDC_PALETTE_NUMBER"));
-    ASSERT_TRUE(bank->isVisibleTo(&app_.mainFrame()));
     const std::vector<unsigned char> before(image().canvas().colourTable().begin(),
                                             image().canvas().colourTable().end());
-    ASSERT_TRUE(bank->setProperty("value", 3));
+    app_.mainFrame().SetPaletteBarNumber(3);
     EXPECT_EQ(app_.paletteBarFirstEntry(), 48);
     const auto table = image().canvas().colourTable();
     for (int i = 0; i < 16; ++i) {

@@ -211,9 +211,9 @@ TEST_F(FilesProject, AChangedPaletteRecoloursTheImagesOfItsKeyOnly) {
     green.setEntry(5, 31 << 6);
     const auto shown = [this] { return image().canvas().colourTable()[4 * 5 + 1]; };
     ASSERT_NE(shown(), 248);
-    app_.BroadcastPaletteChange("c:\\tex\\other.tlf", &green);
+    app_.BroadcastPaletteChange("c:\\tex\\other.tlf", green);
     EXPECT_NE(shown(), 248);
-    app_.BroadcastPaletteChange("c:\\tex\\pic.tlf", &green);
+    app_.BroadcastPaletteChange("c:\\tex\\pic.tlf", green);
     EXPECT_EQ(shown(), 248);
 }
 

@@ -1,6 +1,5 @@
 #include "Program.h"
 #include "TestProject.h"
-#include "ui/controls/CSwatchGrid.h"
 
 #include <QComboBox>
 #include <QDragEnterEvent>
@@ -114,66 +113,6 @@ TEST_F(MainWindow, FilesAreDroppedAsCopiesEvenWhenTheyAreMoved) {
     EXPECT_TRUE(drop.isAccepted());
     EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
     EXPECT_NE(app_.mainFrame().activeImageView(), nullptr);
-}
-
-void clickCell(const CSwatchGrid& grid, int cell) {
-    QWidget* const window = grid.controlWindow();
-    for (int y = 0; y < window->height(); y += 2) {
-        for (int x = 0; x < window->width(); x += 2) {
-            if (grid.cellAt(x, y) == cell)
-                return QTest::mouseClick(window, Qt::LeftButton, {}, {x, y});
-        }
-    }
-    ADD_FAILURE() << "cell " << cell << " is not shown";
-}
-
-TEST_F(MainWindow, ThePanelListsPalettesAndChoosesTheCurrentOne) {
-    fake_.files.putFile("c:\\b.tlf", paletteFile(16, [](int) { return 1U; }));
-    fake_.files.putFile("c:\\a.tlf", paletteFile(256, [](int) { return 2U; }));
-    ASSERT_TRUE(app_.OpenFiles({"c:\\b.tlf", "c:\\a.tlf"}, false));
-    auto* palettes = app_.mainFrame().findChild<QComboBox*>(QStringLiteral("IDC_PALETTE_TABS"));
-    auto* grid = app_.mainFrame().findChild<CSwatchGrid*>(QStringLiteral("IDC_PALETTE_GRID"));
-    auto* entry = app_.mainFrame().findChild<QLabel*>(QStringLiteral("IDC_PALETTE_ENTRY"));
-    ASSERT_EQ(palettes->count(), 2);
-    EXPECT_EQ(palettes->currentText(), QStringLiteral("a"));
-    EXPECT_EQ(grid->cellCount(), 256);
-    palettes->setFocus();
-    QTest::keyClick(palettes, Qt::Key_Down);
-    EXPECT_EQ(app_.paletteSet()->currentKey, "c:\\b.tlf");
-    EXPECT_EQ(grid->cellCount(), 16);
-    EXPECT_EQ(palettes->toolTip(), QStringLiteral("c:\\b.tlf"));
-
-    clickCell(*grid, 6);
-    EXPECT_EQ(app_.paletteBarCell(), 6);
-    EXPECT_EQ(entry->text(), QStringLiteral("6  #0001  R0 G0 B0 A1"));
-    QTest::keyClick(grid->controlWindow(), Qt::Key_Down);
-    EXPECT_EQ(app_.paletteBarCell(), 10);
-    QTest::keyClick(grid->controlWindow(), Qt::Key_Home, Qt::ControlModifier);
-    QTest::keyClick(grid->controlWindow(), Qt::Key_Left);
-    EXPECT_EQ(app_.paletteBarCell(), 0);
-}
-
-TEST_F(MainWindow, AttachingAnImageOfSixteenColoursOffersItsBank) {
-    fake_.files.putFile("c:\\p.tlf", paletteFile(256, [](int) { return 1U; }));
-    fake_.files.putFile("c:\\a.tmf", imageFile(blank(), 4));
-    ASSERT_TRUE(app_.OpenFiles({"c:\\p.tlf", "c:\\a.tmf"}, false));
-    auto* bank = app_.mainFrame().findChild<QWidget*>(QStringLiteral("IDC_PALETTE_NUMBER"));
-    EXPECT_FALSE(bank->isVisible());
-    ASSERT_TRUE(run(ID_IMAGE_ATTACH));
-    EXPECT_TRUE(bank->isVisible());
-    ASSERT_TRUE(bank->setProperty("value", 2));
-    EXPECT_EQ(image().paletteValue(), 32);
-    auto* grid = app_.mainFrame().findChild<CSwatchGrid*>(QStringLiteral("IDC_PALETTE_GRID"));
-    clickCell(*grid, 5 * 16 + 3);
-    EXPECT_EQ(image().paletteValue(), 80) << "a cell of another row selects its bank";
-    // A palette that the image is not attached to has no bank of it.
-    fake_.files.putFile("c:\\q.tlf", paletteFile(256, [](int) { return 1U; }));
-    ASSERT_TRUE(app_.OpenDocumentFile("c:\\q.tlf"));
-    EXPECT_FALSE(bank->isVisible());
-    EXPECT_EQ(app_.paletteBarFirstEntry(), 0);
-    app_.paletteSet()->setCurrent("c:\\p.tlf");
-    app_.refreshPaletteBar();
-    EXPECT_EQ(app_.paletteBarFirstEntry(), 80);
 }
 
 TEST_F(MainWindow, TheProjectBarOffersThePicturesOfTheOpenProject) {

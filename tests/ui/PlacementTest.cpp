@@ -117,7 +117,7 @@ TEST_F(Closing, CancelAtAnyQuestionLeavesTheProgramRunning) {
     fake_.messages.answerWith(MessageAnswer::Cancel);
     EXPECT_FALSE(frame().close());
     EXPECT_TRUE(frame().isVisible());
-    EXPECT_TRUE(frame().palettePanel().isVisible());
+    EXPECT_TRUE(frame().paletteBar().isVisible());
     EXPECT_EQ(frame().childFrames().size(), 1U);
     EXPECT_TRUE(app_->activeView()->document().isModified());
     EXPECT_EQ(app_->projectDocument(), nullptr) << "closed before the documents are asked about";
@@ -127,7 +127,7 @@ TEST_F(Closing, CancelAtAnyQuestionLeavesTheProgramRunning) {
 
     fake_.messages.answerWith(MessageAnswer::No);
     EXPECT_TRUE(frame().close());
-    EXPECT_FALSE(frame().palettePanel().isVisible());
+    EXPECT_FALSE(frame().paletteBar().isVisible());
     EXPECT_EQ(TestProject::questions, 2);
     EXPECT_EQ(asked().size(), 2U);
 }

@@ -5,7 +5,7 @@
 #include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"
 #include "ui/CommandLine.h"
-#include "ui/PalettePanel.h"
+#include "ui/CPaletteBar.h"
 
 #include <QTest>
 

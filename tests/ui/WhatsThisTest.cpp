@@ -40,7 +40,7 @@ TEST_F(WhatsThis, EveryPartOfTheWindowSaysWhatItIs) {
         EXPECT_TRUE(answers(*pane)) << qPrintable(pane->objectName());
     EXPECT_TRUE(answers(*view().viewport()));
     EXPECT_TRUE(answers(*frame.area().viewport()));
-    EXPECT_TRUE(answers(frame.palettePanel()));
+    EXPECT_TRUE(answers(frame.paletteBar()));
     for (const CommandRow& row : commandTable())
         EXPECT_TRUE(frame.commandActions().action(row.id)->whatsThis().contains(
             QString::fromStdString(statusText(row)).toHtmlEscaped()))

@@ -51,6 +51,12 @@ void CommandActions::addTo(QWidget& window) {
         window.addAction(entry.action);
 }
 
+void CommandActions::run(CommandId id) {
+    // Triggering an action has flipped its check mark, which a command that did not run would leave flipped.
+    if (!router_.run(id))
+        refresh();
+}
+
 void CommandActions::refresh() {
     for (const auto& [id, entry] : entries_) {
         const CommandUi ui = router_.state(id);
@@ -77,11 +83,7 @@ void CommandActions::create(const CommandRow& row, CommandId id) {
     const QString tip = QString::fromStdString(toolTipText(row));
     const QString keys = action->shortcut().toString(QKeySequence::NativeText);
     action->setToolTip(keys.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, keys));
-    connect(action, &QAction::triggered, this, [this, id] {
-        // Triggering has flipped a check mark, which a command that did not run would leave flipped.
-        if (!router_.run(id))
-            refresh();
-    });
+    connect(action, &QAction::triggered, this, [this, id] { run(id); });
     entries_[id] = {action, text};
 }
 

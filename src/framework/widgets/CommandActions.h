@@ -32,6 +32,9 @@ public:
     /// Makes the shortcuts work in `window`, also those of commands that are in none of its menus.
     void addTo(QWidget& window);
 
+    /// Runs the command as its action does, but as things stand now, not as they stood at the last refresh.
+    void run(CommandId id);
+
     /// Asks the router for all states.
     void refresh();
 
