@@ -96,8 +96,9 @@ constexpr std::array kRows{
                                   "the right opens it, the others change the list.")},
     Row{StringId::HelpPaletteBar,
         QT_TRANSLATE_NOOP(
-            "Text", "The open palettes and the colours of the current one. Click the colour to draw with; change it "
-                    "with the bars, the numbers or the entry in hexadecimal, then press Apply.")},
+            "Text",
+            "The open palettes and the colours of the current one. Click the colour to draw with; change it "
+            "with the bars, the numbers or the entry in hexadecimal, then press Apply.")},
     Row{StringId::HelpMessagePane, QT_TRANSLATE_NOOP("Text", "What the command under the pointer does.")},
     Row{StringId::HelpPositionPane,
         QT_TRANSLATE_NOOP("Text",
@@ -151,7 +152,8 @@ constexpr std::array kRows{
     Row{StringId::PaletteCellTip, QT_TRANSLATE_NOOP("Text", "Number of the current entry")},
     Row{StringId::PaletteEntryName, QT_TRANSLATE_NOOP("Text", "Entry")},
     Row{StringId::PaletteEntryTip, QT_TRANSLATE_NOOP("Text", "The edited entry in hexadecimal")},
-    Row{StringId::PaletteEntryWrong, QT_TRANSLATE_NOOP("Text", "Please enter one to four hexadecimal digits.")},
+    Row{StringId::PaletteEntryWrong,
+        QT_TRANSLATE_NOOP("Text", "Please enter one to four hexadecimal digits.")},
     Row{StringId::PaletteGradient, QT_TRANSLATE_NOOP("Text", "Gradient")},
 
     Row{StringId::NewProjectTab, QT_TRANSLATE_NOOP("Text", "Project")},

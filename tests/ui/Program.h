@@ -4,8 +4,8 @@
 #include "platform/fake/FakePlatform.h"
 #include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"
-#include "ui/CommandLine.h"
 #include "ui/CPaletteBar.h"
+#include "ui/CommandLine.h"
 
 #include <QTest>
 
