@@ -141,7 +141,9 @@ std::string CDyeworksDoc::displayName() const {
 }
 
 bool CDyeworksDoc::hasUnsavedChanges() const {
-    return isModified() || history_->position() != savedPosition_;
+    bool floats = false;
+    forEachView([&](const CDyeworksView& view) { floats = floats || view.hasFloatingPiece(); });
+    return floats || isModified() || history_->position() != savedPosition_;
 }
 
 void CDyeworksDoc::OnUpdateAttach(CommandUi& ui) {

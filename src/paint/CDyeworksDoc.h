@@ -2,6 +2,7 @@
 
 #include "core/UndoHistory.h"
 #include "framework/CDocument.h"
+#include "paint/CDyeworksView.h"
 #include "paint/ImageHost.h"
 #include "paint/ImageUndoRecord.h"
 #include "paint/Rect.h"
@@ -15,10 +16,10 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace dyeworks {
 
-class CDyeworksView;
 class TextureLookupTable;
 
 /// The document of an image: its canvas, the name of the palette that it is attached to, and the history of
@@ -137,7 +138,8 @@ public:
     bool onSaveDocument(const std::string& path) override;
     void onCloseDocument() override;
     [[nodiscard]] std::string displayName() const override;
-    /// Also when the history stands elsewhere than it stood when the file was last written.
+    /// Also when the history stands elsewhere than it stood when the file was last written, and while a piece
+    /// floats above the image.
     [[nodiscard]] bool hasUnsavedChanges() const override;
 
 private:
@@ -151,7 +153,16 @@ private:
     template <typename Draw>
     void edit(CDyeworksView* view, Draw draw);
     void replaceHistory(std::int32_t savedPosition);
+    /// Calls `visit` with each of the document's image views.
+    template <typename Visit>
+    void forEachView(Visit visit) const {
+        for (DocumentView* view : std::vector(views())) {
+            if (auto* const imageView = dynamic_cast<CDyeworksView*>(view))
+                visit(*imageView);
+        }
+    }
     void takeBackDrags();
+    void dropSelections();
     void followHistory();
     [[nodiscard]] std::int32_t firstEntryFor(const TextureLookupTable& palette) const;
     [[nodiscard]] const std::string& nameWithoutParts() const;

@@ -195,10 +195,7 @@ void CDyeworksDoc::replaceHistory(std::int32_t savedPosition) {
 
 /// What a drag has drawn so far belongs to no step yet: it must neither be saved nor mixed with other edits.
 void CDyeworksDoc::takeBackDrags() {
-    for (DocumentView* view : std::vector(views())) {
-        if (auto* const imageView = dynamic_cast<CDyeworksView*>(view))
-            imageView->CancelDrag();
-    }
+    forEachView([](CDyeworksView& view) { view.CancelDrag(); });
 }
 
 } // namespace dyeworks

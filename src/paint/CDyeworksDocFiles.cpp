@@ -81,6 +81,11 @@ void CDyeworksDoc::makePaletteOfColours() {
 
 bool CDyeworksDoc::onSaveDocument(const std::string& path) {
     takeBackDrags();
+    // What floats above the image is a part of what the user sees and saves.
+    forEachView([](CDyeworksView& view) {
+        if (view.hasFloatingPiece())
+            view.CommitFloatingPiece(true);
+    });
     std::string target = path;
     if (target.empty()) {
         const auto chosen = platform().fileDialogs().save(saveRequest(nameToSaveUnder()));
@@ -129,6 +134,7 @@ void CDyeworksDoc::Revert() {
     TextureCanvas saved;
     if (!loadCanvas(saved, pathName()))
         return;
+    dropSelections();
     takeContents(saved);
     replaceHistory(0);
     historyMoved_ = false;
@@ -150,15 +156,18 @@ void CDyeworksDoc::takeContents(const TextureCanvas& contents) {
         std::ranges::copy(colours, table.begin());
     else
         std::copy_n(own.begin(), std::min(own.size(), table.size()), table.begin());
-    for (DocumentView* view : std::vector(views())) {
-        if (auto* const imageView = dynamic_cast<CDyeworksView*>(view)) {
-            imageView->SetFloatingPiece(nullptr);
-            imageView->SetSelection(std::nullopt, false);
-            imageView->SetZoom(imageView->zoom());
-            if (host_.isActiveImage(*this))
-                imageView->ShowSize();
-        }
-    }
+    forEachView([this](CDyeworksView& view) {
+        view.SetZoom(view.zoom());
+        if (host_.isActiveImage(*this))
+            view.ShowSize();
+    });
+}
+
+void CDyeworksDoc::dropSelections() {
+    forEachView([](CDyeworksView& view) {
+        view.DropFloatingPiece();
+        view.SetSelection(std::nullopt, false);
+    });
 }
 
 void CDyeworksDoc::OnUpdateRevert(CommandUi& ui) {

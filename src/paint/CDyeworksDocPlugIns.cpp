@@ -58,9 +58,7 @@ void CDyeworksDoc::ImportThrough(std::int32_t plugIn) {
     if (brought == nullptr || view == nullptr)
         return;
     view->window().repaintNow();
-    const Rect place{0, 0, brought->width() - 1, brought->height() - 1};
     view->SetFloatingPiece(std::move(brought));
-    view->SetSelection(place, true);
 }
 
 void CDyeworksDoc::ExportThrough(std::int32_t plugIn) {

@@ -73,6 +73,9 @@ void CDyeworksView::Resized() {
 }
 
 void CDyeworksView::Closing() {
+    // The image lives on in its other windows, and what floats in this one is a part of the work.
+    if (document_.views().size() > 1)
+        CommitFloatingPiece(false);
     saveSettings();
 }
 

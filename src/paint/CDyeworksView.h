@@ -21,6 +21,7 @@ class CDyeworksDoc;
 class DrawTool;
 class TextureCanvas;
 class ViewWindow;
+enum class CursorShape;
 
 /// A view of an image: what it shows and what the pointer, the keys and the commands do in it. Works through
 /// the window that shows it and needs no widget.
@@ -70,8 +71,19 @@ public:
     void PointerReleased(const PointerEvent& event);
     /// The capture was taken away other than by `releasePointer`.
     void PointerCaptureLost();
-    void KeyPressed(const KeyEvent& event);
+    /// True when the key was of use.
+    bool KeyPressed(const KeyEvent& event);
     void KeyReleased(const KeyEvent& event);
+
+    /// What a context menu offers, which depends on the tool that is chosen.
+    enum class ContextMenu {
+        None,
+        Selection,      ///< Clipboard and selection.
+        Tools,          ///< All tools.
+        ToolsToReplace, ///< All but the replacer.
+        Zoom            ///< The zoom factors.
+    };
+    [[nodiscard]] ContextMenu contextMenu() const;
 
     void update(DocumentView* sender, int hint) override;
 
@@ -100,13 +112,27 @@ public:
 
     /// Inclusive texels; all zero when there is none.
     [[nodiscard]] const Rect& selection() const noexcept { return selection_; }
-    /// Whether there is something selected to work with: more than a line of texels.
+    /// Whether there is something selected to work with: more than a line of texels, and the tool of the last
+    /// press was none that draws.
     [[nodiscard]] bool SelectionExists() const noexcept;
+    /// What of the selection's frame is at the client point.
+    [[nodiscard]] TrackerHit HitSelection(Point client) const;
     /// Selects the texels between two corners (inclusive), or nothing. With `redraw` the window shows it
     /// before the call returns.
     void SetSelection(const std::optional<Rect>& texels, bool redraw);
-    /// What is shown inside the selection, or null; from the next repaint on.
+
+    // The floating piece: texels that are shown inside the selection, scaled to it, and belong to no image
+    // yet.
+    [[nodiscard]] bool hasFloatingPiece() const noexcept { return floatingPiece_ != nullptr; }
+    /// Lets the piece float from the anchor on, moved into the image as far as it fits, and selects it with
+    /// the Select tool. One that floats already is committed. A null or empty piece changes nothing.
     void SetFloatingPiece(std::unique_ptr<TextureCanvas> piece);
+    /// Puts the floating piece, if there is one, into the image; then nothing is selected.
+    void CommitFloatingPiece(bool redraw);
+    /// Forgets the floating piece. It shows until the next repaint.
+    void DropFloatingPiece() noexcept;
+    /// Where the next floating piece is placed: the texel that the last drag began at, or as far as it came.
+    void setAnchor(Point texel) noexcept { anchor_ = texel; }
 
     /// A shape is being dragged between two corners (inclusive texels): its frame shows in the next paint,
     /// which `redrawRequest` limits.
@@ -128,7 +154,11 @@ private:
     void scrollDrag(Point client);
     [[nodiscard]] std::unique_ptr<DrawTool> endDrag();
     void showPosition(Point texel);
-    void setCursorFor(bool shift);
+    void updateCursor(Point client, bool shift, bool control);
+    [[nodiscard]] CursorShape selectionCursor(Point client) const;
+    bool moveSelection(const KeyEvent& event);
+    bool zoomByKey(Key key);
+    void takeBackSelecting();
     void restoreSettings();
     void restoreAttachment(const std::string& name);
     void saveSettings() const;
@@ -151,6 +181,17 @@ private:
     void OnUpdateUndo(CommandUi& ui);
     void OnRedo();
     void OnUpdateRedo(CommandUi& ui);
+    void OnSpuit();
+    void OnUpdateSpuit(CommandUi& ui);
+    void OnSelectAll();
+    void OnUpdateSelectAll(CommandUi& ui);
+    void OnCancelSelection();
+    void OnFlip(CommandId id);
+    void OnCopy();
+    void OnCut();
+    void OnUpdateSelected(CommandUi& ui);
+    void OnPaste();
+    void OnUpdatePaste(CommandUi& ui);
 
     CDyeworksDoc& document_;
     ViewWindow& window_;
@@ -168,8 +209,10 @@ private:
     bool antsPhase_ = false;
     std::unique_ptr<TextureCanvas> floatingPiece_;
     std::uint32_t drawingValue_ = 0;
-    std::unique_ptr<DrawTool>
-        tool_; ///< The tool of the drag that is going on, as it was chosen at the press.
+    Tool toolAtPress_ = Tool::Select; ///< The tool that was chosen at the last press.
+    std::unique_ptr<DrawTool> tool_;  ///< Of the drag that is going on.
+    Point anchor_;
+    bool spuit_ = false; ///< A right press picks the colour under it.
     bool scrollDragging_ = false;
     Point scrollDragPoint_; ///< Client point up to which the scroll drag has been followed.
     Point scrollDragStart_; ///< Scroll position at its press.

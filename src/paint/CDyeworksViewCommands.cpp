@@ -17,6 +17,9 @@ void CDyeworksView::addToolCommand(CommandId id) {
 }
 
 void CDyeworksView::addCommands() {
+    addToolCommand<Tool::Select>(ID_TOOL_SELECT);
+    addToolCommand<Tool::ZoomLens>(ID_TOOL_ZOOM_LENS);
+    addToolCommand<Tool::Replacer>(ID_TOOL_REPLACER);
     addToolCommand<Tool::Pixel>(ID_TOOL_PIXEL);
     addToolCommand<Tool::Pen>(ID_TOOL_PEN);
     addToolCommand<Tool::Line>(ID_TOOL_LINE);
@@ -34,11 +37,22 @@ void CDyeworksView::addCommands() {
     on(ID_VIEW_GRID, &CDyeworksView::ToggleGrid, &CDyeworksView::OnUpdateGrid);
     on(ID_EDIT_UNDO, &CDyeworksView::OnUndo, &CDyeworksView::OnUpdateUndo);
     on(ID_EDIT_REDO, &CDyeworksView::OnRedo, &CDyeworksView::OnUpdateRedo);
+    on(ID_TOOL_SPUIT, &CDyeworksView::OnSpuit, &CDyeworksView::OnUpdateSpuit);
+    on(ID_EDIT_SELECT_ALL, &CDyeworksView::OnSelectAll, &CDyeworksView::OnUpdateSelectAll);
+    on(ID_CANCEL_SELECTION, &CDyeworksView::OnCancelSelection, &CDyeworksView::OnUpdateSelected);
+    onRange(ID_FLIP_X, ID_FLIP_Y, &CDyeworksView::OnFlip, &CDyeworksView::OnUpdateSelected);
+    on(ID_EDIT_COPY, &CDyeworksView::OnCopy, &CDyeworksView::OnUpdateSelected);
+    on(ID_EDIT_CUT, &CDyeworksView::OnCut, &CDyeworksView::OnUpdateSelected);
+    on(ID_EDIT_PASTE, &CDyeworksView::OnPaste, &CDyeworksView::OnUpdatePaste);
 }
 
 template <Tool kTool>
 void CDyeworksView::OnTool() {
     setCurrentTool(kTool);
+    if (keepsSelection(kTool))
+        return;
+    takeBackSelecting();
+    CommitFloatingPiece(true);
 }
 
 template <Tool kTool>

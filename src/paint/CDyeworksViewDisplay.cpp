@@ -64,7 +64,8 @@ void CDyeworksView::Paint(Surface& surface, const Rect& logicalArea, std::uint32
     const auto select = [&](const Rect& texels) {
         look.selection = {texels, floatingPiece_.get(), trackerStyle_, antsPhase_};
     };
-    if (redrawRequest == 0 && SelectionExists())
+    // A piece that floats shows also after a tool that draws.
+    if (redrawRequest == 0 && (SelectionExists() || floatingPiece_ != nullptr))
         select(selection_);
     else if ((redrawRequest & kRedrawDrag) != 0)
         select(dragRectangle_);
@@ -72,7 +73,7 @@ void CDyeworksView::Paint(Surface& surface, const Rect& logicalArea, std::uint32
 }
 
 bool CDyeworksView::SelectionExists() const noexcept {
-    return isArea(selection_);
+    return keepsSelection(toolAtPress_) && isArea(selection_);
 }
 
 void CDyeworksView::SetSelection(const std::optional<Rect>& texels, bool redraw) {
@@ -92,10 +93,6 @@ void CDyeworksView::SetSelection(const std::optional<Rect>& texels, bool redraw)
     }
     if (shown)
         window_.startTicking(kAntsInterval);
-}
-
-void CDyeworksView::SetFloatingPiece(std::unique_ptr<TextureCanvas> piece) {
-    floatingPiece_ = std::move(piece);
 }
 
 void CDyeworksView::Tick() {

@@ -15,22 +15,28 @@ constexpr int kPositionPane = 1;
 } // namespace
 
 void CDyeworksView::PointerPressed(const PointerEvent& event) {
-    if (event.button != PointerButton::Left || dragging())
+    if (dragging())
+        return;
+    if (event.button == PointerButton::Right && spuit_ && currentTool() != Tool::Select &&
+        currentTool() != Tool::ZoomLens)
+        pickColour(event.position);
+    if (event.button != PointerButton::Left)
         return;
     if (event.shift) {
         scrollDragging_ = true;
         scrollDragPoint_ = event.position;
         scrollDragStart_ = window_.scrollPosition();
         window_.capturePointer();
-        setCursorFor(event.shift);
+        updateCursor(event.position, event.shift, event.control);
         return;
     }
-    if (event.control) {
+    toolAtPress_ = currentTool();
+    if (event.control && toolAtPress_ != Tool::Select && toolAtPress_ != Tool::ZoomLens) {
         pickColour(event.position);
         return;
     }
     takeDrawingValue();
-    auto tool = makeDrawTool(currentTool(), *this);
+    auto tool = makeDrawTool(toolAtPress_, *this);
     if (tool->press(geometry().texelAt(event.position), event)) {
         tool_ = std::move(tool);
         window_.capturePointer();
@@ -38,7 +44,7 @@ void CDyeworksView::PointerPressed(const PointerEvent& event) {
 }
 
 void CDyeworksView::PointerMoved(const PointerEvent& event) {
-    setCursorFor(event.shift);
+    updateCursor(event.position, event.shift, event.control);
     if (scrollDragging_) {
         scrollDrag(event.position);
         return;
@@ -46,7 +52,7 @@ void CDyeworksView::PointerMoved(const PointerEvent& event) {
     const Point texel = geometry().texelAt(event.position);
     showPosition(texel);
     if (tool_ != nullptr)
-        tool_->move(texel);
+        tool_->move(texel, event);
 }
 
 void CDyeworksView::PointerReleased(const PointerEvent& event) {
@@ -54,8 +60,8 @@ void CDyeworksView::PointerReleased(const PointerEvent& event) {
         return;
     const std::unique_ptr<DrawTool> tool = endDrag();
     if (tool != nullptr)
-        tool->release(geometry().texelAt(event.position));
-    setCursorFor(event.shift);
+        tool->release(geometry().texelAt(event.position), event);
+    updateCursor(event.position, event.shift, event.control);
 }
 
 void CDyeworksView::PointerCaptureLost() {
@@ -86,36 +92,6 @@ void CDyeworksView::scrollDrag(Point client) {
     scrollDragPoint_ = client;
 }
 
-void CDyeworksView::KeyPressed(const KeyEvent& event) {
-    if (event.key == Key::Escape) {
-        CancelDrag();
-        return;
-    }
-    if (event.repeatCount != 1)
-        return;
-    switch (event.key) {
-    case Key::Shift:
-    case Key::Control:
-        setCursorFor(event.shift);
-        break;
-    case Key::I:
-    case Key::Numpad9:
-        ZoomAt(window_.pointerPosition(), false);
-        break;
-    case Key::O:
-    case Key::NumpadDivide:
-        ZoomAt(window_.pointerPosition(), true);
-        break;
-    default:
-        break;
-    }
-}
-
-void CDyeworksView::KeyReleased(const KeyEvent& event) {
-    if (event.repeatCount == 1 && (event.key == Key::Shift || event.key == Key::Control))
-        setCursorFor(event.shift);
-}
-
 void CDyeworksView::pickColour(Point client) {
     const Point texel = geometry().texelAt(client);
     const TextureCanvas& canvas = document_.canvas();
@@ -142,10 +118,6 @@ void CDyeworksView::showPosition(Point texel) {
     document_.host().setStatusText("(" + std::to_string(texel.x) + ", " + std::to_string(texel.y) + ") " +
                                        std::to_string(zoom_ * 100) + "%",
                                    kPositionPane);
-}
-
-void CDyeworksView::setCursorFor(bool shift) {
-    window_.setCursor(shift && !scrollDragging_ ? CursorShape::OpenHand : CursorShape::Arrow);
 }
 
 } // namespace dyeworks

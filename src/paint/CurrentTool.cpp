@@ -4,7 +4,7 @@ namespace dyeworks {
 
 namespace {
 
-Tool chosen = Tool::Pen;
+Tool chosen = Tool::Select;
 
 } // namespace
 

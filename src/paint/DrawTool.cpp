@@ -4,7 +4,10 @@
 #include "paint/FillTool.h"
 #include "paint/PenTool.h"
 #include "paint/PixelTool.h"
+#include "paint/ReplacerTool.h"
+#include "paint/SelectTool.h"
 #include "paint/ShapeTool.h"
+#include "paint/ZoomLensTool.h"
 
 namespace dyeworks {
 
@@ -14,6 +17,12 @@ CDyeworksDoc& DrawTool::document() const noexcept {
 
 std::unique_ptr<DrawTool> makeDrawTool(Tool tool, CDyeworksView& view) {
     switch (tool) {
+    case Tool::Select:
+        return std::make_unique<SelectTool>(view);
+    case Tool::ZoomLens:
+        return std::make_unique<ZoomLensTool>(view);
+    case Tool::Replacer:
+        return std::make_unique<ReplacerTool>(view);
     case Tool::Pixel:
         return std::make_unique<PixelTool>(view);
     case Tool::Pen:

@@ -24,8 +24,8 @@ public:
 
     /// True when a drag begins; otherwise the press was all, and none of the others is called.
     virtual bool press(Point texel, const PointerEvent& event) = 0;
-    virtual void move(Point /*texel*/) {}
-    virtual void release(Point /*texel*/) {}
+    virtual void move(Point /*texel*/, const PointerEvent& /*event*/) {}
+    virtual void release(Point /*texel*/, const PointerEvent& /*event*/) {}
     /// Instead of `release`: leaves the image as it was before the press.
     virtual void cancel() {}
 

@@ -6,6 +6,7 @@
 namespace dyeworks {
 
 bool FillTool::press(Point texel, const PointerEvent& /*event*/) {
+    view().CommitFloatingPiece(true);
     document().Fill(&view(), texel.x, texel.y, view().drawingValue());
     return false;
 }

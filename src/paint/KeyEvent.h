@@ -3,7 +3,21 @@
 namespace dyeworks {
 
 /// The keys that an image view acts on.
-enum class Key { Other, Escape, Shift, Control, I, O, Numpad9, NumpadDivide };
+enum class Key {
+    Other,
+    Escape,
+    Enter, ///< Either of them.
+    Shift,
+    Control,
+    Left,
+    Up,
+    Right,
+    Down,
+    I,
+    O,
+    Numpad9,
+    NumpadDivide
+};
 
 /// A press or release of a key while a view has the focus.
 struct KeyEvent {

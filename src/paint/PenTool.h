@@ -13,11 +13,13 @@ public:
         , stroke_(view) {}
 
     bool press(Point texel, const PointerEvent& event) override;
-    void move(Point texel) override;
-    void release(Point texel) override;
+    void move(Point texel, const PointerEvent& event) override;
+    void release(Point texel, const PointerEvent& event) override;
     void cancel() override { stroke_.takeBack(); }
 
 private:
+    void follow(Point texel);
+
     Stroke stroke_;
     Point anchor_; ///< Up to where the line has been drawn.
 };

@@ -6,6 +6,8 @@
 namespace dyeworks {
 
 bool PixelTool::press(Point texel, const PointerEvent& /*event*/) {
+    view().CommitFloatingPiece(true);
+    view().setAnchor(texel);
     const std::int32_t before = document().history().position();
     document().Pixel(&view(), texel.x, texel.y, view().drawingValue());
     if (document().history().position() != before)

@@ -24,6 +24,17 @@ std::array<Rect, 8> SelectionTracker::handles() const {
             at(middleX, frame_.top),     at(endX, middleY),    at(middleX, endY), at(frame_.left, middleY)};
 }
 
+TrackerHit SelectionTracker::hitTest(Point point) const {
+    const auto isIn = [point](const Rect& area) {
+        return point.x >= area.left && point.x < area.right && point.y >= area.top && point.y < area.bottom;
+    };
+    if (!isIn(frame_))
+        return TrackerHit::None;
+    const std::array<Rect, 8> areas = handles();
+    const auto* const handle = std::find_if(areas.begin(), areas.end(), isIn);
+    return static_cast<TrackerHit>(handle - areas.begin());
+}
+
 void SelectionTracker::draw(const Surface& surface, const Rect& clip) const {
     if ((style_ & kDottedLine) != 0) {
         drawOutline(surface, frame_, clip, [](std::int32_t x, std::int32_t y, std::uint32_t& pixel) {

@@ -8,6 +8,20 @@
 
 namespace dyeworks {
 
+/// What of a selection a point lies on.
+enum class TrackerHit {
+    None = -1,
+    TopLeft = 0,
+    TopRight = 1,
+    BottomRight = 2,
+    BottomLeft = 3,
+    Top = 4,
+    Right = 5,
+    Bottom = 6,
+    Left = 7,
+    Inside = 8
+};
+
 /// The frame around a selection that can be dragged: a dotted outline, and handles inside it.
 class SelectionTracker {
 public:
@@ -26,6 +40,9 @@ public:
 
     /// Top left, top right, bottom right, bottom left, top, right, bottom, left; right and bottom exclusive.
     [[nodiscard]] std::array<Rect, 8> handles() const;
+
+    /// A handle comes before the inside, and the first in their order before the others.
+    [[nodiscard]] TrackerHit hitTest(Point point) const;
 
     /// Draws what lies in `clip`, all of which is on the surface. Of the outline, the pixels whose x + y is
     /// even are black and the others are left as they are. Handles are white with a black border.

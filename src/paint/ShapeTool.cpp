@@ -7,7 +7,9 @@ namespace dyeworks {
 
 bool ShapeTool::press(Point texel, const PointerEvent& event) {
     centred_ = event.alt;
+    view().CommitFloatingPiece(true);
     centre_ = anchor_ = current_ = previous_ = texel;
+    view().setAnchor(anchor_);
     if (!stroke_.begin())
         return false;
     showFrame(CDyeworksView::kRedrawDrag);
@@ -15,7 +17,7 @@ bool ShapeTool::press(Point texel, const PointerEvent& event) {
     return true;
 }
 
-void ShapeTool::move(Point texel) {
+void ShapeTool::move(Point texel, const PointerEvent& /*event*/) {
     if (texel == previous_)
         return;
     follow(texel);
@@ -25,7 +27,7 @@ void ShapeTool::move(Point texel) {
     previous_ = texel;
 }
 
-void ShapeTool::release(Point texel) {
+void ShapeTool::release(Point texel, const PointerEvent& /*event*/) {
     hideFrame();
     stroke_.takeBack();
     if (shape_ == Tool::Line)
@@ -53,6 +55,7 @@ void ShapeTool::follow(Point texel) {
     current_ = texel;
     if (centred_)
         anchor_ = {2 * centre_.x - texel.x, 2 * centre_.y - texel.y};
+    view().setAnchor(anchor_);
 }
 
 void ShapeTool::drawShape() {

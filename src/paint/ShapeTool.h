@@ -17,8 +17,8 @@ public:
         , stroke_(view) {}
 
     bool press(Point texel, const PointerEvent& event) override;
-    void move(Point texel) override;
-    void release(Point texel) override;
+    void move(Point texel, const PointerEvent& event) override;
+    void release(Point texel, const PointerEvent& event) override;
     void cancel() override;
 
 private:

@@ -116,6 +116,12 @@ public:
     virtual bool LoadTmf(const std::string& path);
     virtual bool SaveTmf(const std::string& path) const;
 
+    /// Puts the pixels of the rectangle (inclusive) with the colour table on the clipboard, as a packed
+    /// bitmap. False, leaving the clipboard alone, when that cannot be done.
+    bool CopyToClipboard(const Rect& rectangle) const;
+    /// The bitmap on the clipboard as a canvas, or null when there is none that a canvas can hold.
+    [[nodiscard]] static std::unique_ptr<TextureCanvas> PasteFromClipboard();
+
     /// Entries of the colour table: the header's number when it has one, otherwise 2^bits; 0 above 8 bits.
     [[nodiscard]] std::uint32_t GetColorCount() const;
 

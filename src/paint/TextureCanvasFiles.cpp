@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <new>
+#include <optional>
+#include <vector>
 
 namespace dyeworks {
 
@@ -89,6 +91,23 @@ TextureCanvas::BmpRead TextureCanvas::ReadBmp(const std::string& path) {
 
 bool TextureCanvas::LoadBmp(const std::string& path) {
     return ReadBmp(path) == BmpRead::Done;
+}
+
+bool TextureCanvas::CopyToClipboard(const Rect& rectangle) const {
+    const Rect part = rectangle.normalised();
+    const std::unique_ptr<TextureCanvas> copy = CopyRect(part.left, part.top, part.right, part.bottom);
+    return copy != nullptr && platform().clipboard().setBitmap(copy->block().subspan(bmp::kFileHeaderSize));
+}
+
+std::unique_ptr<TextureCanvas> TextureCanvas::PasteFromClipboard() {
+    const std::optional<std::vector<std::byte>> bytes = platform().clipboard().bitmap();
+    if (!bytes)
+        return nullptr;
+    const Result<BmpImage, BmpError> bitmap = parsePackedBitmap(*bytes);
+    auto canvas = std::unique_ptr<TextureCanvas>(new (std::nothrow) TextureCanvas);
+    if (!bitmap || canvas == nullptr || !canvas->CreateFrom(bitmap.value()))
+        return nullptr;
+    return canvas;
 }
 
 bool TextureCanvas::SaveBmp(const std::string& path) const {

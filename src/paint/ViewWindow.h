@@ -9,7 +9,18 @@ namespace dyeworks {
 
 class DisplayPalette;
 
-enum class CursorShape { Arrow, OpenHand };
+enum class CursorShape {
+    Arrow,
+    OpenHand,
+    ZoomIn,  ///< A magnifier with a plus.
+    ZoomOut, ///< A magnifier with a minus.
+    // What can be dragged: along a diagonal from the top left (top right), up and down, sideways, anywhere.
+    SizeBackwardDiagonal,
+    SizeForwardDiagonal,
+    SizeVertical,
+    SizeHorizontal,
+    SizeAll
+};
 
 /// What an image view asks of the window that shows it. The window carries out and decides nothing.
 class ViewWindow {

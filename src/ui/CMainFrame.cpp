@@ -169,6 +169,13 @@ void CMainFrame::openImageWindow(CDyeworksDoc& document) {
     image.setWhatsThis(shown(StringId::HelpImageView));
     auto child = std::make_unique<CChildFrame>(document, std::move(view), image);
     child->setMenus(imageMenu());
+    connect(&image, &ImageView::contextMenuRequested, this,
+            [this](CDyeworksView::ContextMenu which, const QPoint& global) {
+                auto* menu = new QMenu(this);
+                menu->setAttribute(Qt::WA_DeleteOnClose);
+                fillMenu(*menu, imageContextMenu(which), actions_);
+                menu->popup(global);
+            });
     // The palette that an image is attached to is part of its title, and its bank is what the bar shows.
     connect(child.get(), &QWidget::windowTitleChanged, paletteBar_, &CPaletteBar::ImageChanged);
     addChild(std::move(child));

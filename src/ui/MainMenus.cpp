@@ -191,6 +191,29 @@ constexpr std::array kPaletteBarMenu{
     MenuItem{ID_PALETTE_PASTE},
 };
 
+// The context menus of an image.
+constexpr std::array kSelectionMenu{
+    MenuItem{ID_EDIT_CUT},
+    MenuItem{ID_EDIT_COPY},
+    MenuItem{ID_EDIT_PASTE},
+    kSeparator,
+    MenuItem{ID_EDIT_SELECT_ALL},
+    MenuItem{ID_CANCEL_SELECTION},
+    kSeparator,
+    MenuItem{ID_FLIP_X},
+    MenuItem{ID_FLIP_Y},
+    kSeparator,
+    MenuItem{ID_IMAGE_ADD_TO_PROJECT},
+};
+
+// The replacer comes last, so that its own menu is the same without it.
+constexpr std::array kToolsMenu{
+    MenuItem{ID_TOOL_SELECT},      MenuItem{ID_TOOL_ZOOM_LENS}, kSeparator,
+    MenuItem{ID_TOOL_PIXEL},       MenuItem{ID_TOOL_PEN},       MenuItem{ID_TOOL_LINE},
+    MenuItem{ID_TOOL_BOX},         MenuItem{ID_TOOL_BOX_FILL},  MenuItem{ID_TOOL_CIRCLE},
+    MenuItem{ID_TOOL_CIRCLE_FILL}, MenuItem{ID_TOOL_PAINT},     MenuItem{ID_TOOL_REPLACER},
+};
+
 constexpr std::array kPictureMenu{
     MenuItem{ID_PICTURE_ADD},
     MenuItem{ID_PICTURE_CHANGE},
@@ -316,6 +339,21 @@ std::span<const MenuItem> projectMenu() {
 }
 std::span<const MenuItem> barsMenu() {
     return kBarsMenu;
+}
+std::span<const MenuItem> imageContextMenu(CDyeworksView::ContextMenu menu) {
+    switch (menu) {
+    case CDyeworksView::ContextMenu::Selection:
+        return kSelectionMenu;
+    case CDyeworksView::ContextMenu::Tools:
+        return kToolsMenu;
+    case CDyeworksView::ContextMenu::ToolsToReplace:
+        return std::span(kToolsMenu).first(kToolsMenu.size() - 1);
+    case CDyeworksView::ContextMenu::Zoom:
+        return kZoomMenu;
+    case CDyeworksView::ContextMenu::None:
+        break;
+    }
+    return {};
 }
 std::span<const MenuItem> paletteBarMenu() {
     return kPaletteBarMenu;

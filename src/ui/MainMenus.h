@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/Menu.h"
+#include "paint/CDyeworksView.h"
 
 #include <span>
 
@@ -17,6 +18,8 @@ std::span<const MenuItem> projectMenu();
 /// What can be shown and hidden; also the context menu of the bars.
 std::span<const MenuItem> barsMenu();
 
+/// The context menus of an image.
+std::span<const MenuItem> imageContextMenu(CDyeworksView::ContextMenu menu);
 /// The context menu of the palette bar.
 std::span<const MenuItem> paletteBarMenu();
 

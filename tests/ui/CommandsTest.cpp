@@ -17,12 +17,7 @@ namespace {
 using Ids = std::set<CommandId>;
 
 /// Nobody takes these, whatever is open.
-const Ids kTakenByNobody{// Selection and clipboard.
-                         ID_TOOL_SELECT, ID_CANCEL_SELECTION, ID_EDIT_SELECT_ALL, ID_EDIT_CUT, ID_EDIT_COPY,
-                         ID_EDIT_PASTE, ID_FLIP_X, ID_FLIP_Y,
-                         // Tools that draw nothing, or only here and there.
-                         ID_TOOL_ZOOM_LENS, ID_TOOL_REPLACER, ID_TOOL_SPUIT,
-                         // Nodes of the project's tree.
+const Ids kTakenByNobody{// Nodes of the project's tree.
                          ID_NODE_ADD, ID_NODE_EDIT, ID_NODE_REMOVE, ID_NODE_PROPERTY,
                          // Stands in the zoom menu and asks for nothing.
                          ID_ZOOM_SPECIFY};
@@ -43,7 +38,8 @@ const Ids kEnabledWithImage{
     ID_ZOOM_X16, ID_VIEW_GRID, ID_PREVIEW1, ID_PREVIEW2,
     // Drawing.
     ID_TOOL_PIXEL, ID_TOOL_PEN, ID_TOOL_LINE, ID_TOOL_BOX, ID_TOOL_BOX_FILL, ID_TOOL_CIRCLE,
-    ID_TOOL_CIRCLE_FILL, ID_TOOL_PAINT,
+    ID_TOOL_CIRCLE_FILL, ID_TOOL_PAINT, ID_TOOL_SELECT, ID_TOOL_ZOOM_LENS, ID_TOOL_REPLACER, ID_TOOL_SPUIT,
+    ID_EDIT_SELECT_ALL,
     // The palette's file.
     ID_PALETTE_EDIT, ID_PALETTE_CLOSE, ID_PALETTE_SAVE, ID_PALETTE_SAVE_AS, ID_RECENT_PALETTE_FIRST};
 
@@ -166,6 +162,10 @@ TEST_F(Commands, HaveALetterThatNoOtherOfTheirMenuHas) {
                 const std::string letters = lettersOf(menu, *language);
                 EXPECT_EQ(std::set(letters.begin(), letters.end()).size(), letters.size()) << letters;
             });
+        }
+        for (const auto menu : {CDyeworksView::ContextMenu::Selection, CDyeworksView::ContextMenu::Tools}) {
+            const std::string letters = lettersOf(imageContextMenu(menu), *language);
+            EXPECT_EQ(std::set(letters.begin(), letters.end()).size(), letters.size()) << letters;
         }
     }
 }

@@ -88,6 +88,7 @@ TEST_F(MainWindow, PanesFollowTheImage) {
     openAttached(texels(20, 9, [](int, int) { return 0U; }), 8, 256);
     EXPECT_EQ(size->text(), QStringLiteral("(20, 9) 8bit"));
     run(ID_ZOOM_X4);
+    run(ID_TOOL_PEN);
     drag({{12, 3}});
     EXPECT_EQ(position->text(), QStringLiteral("(12, 3) 400%"));
     EXPECT_EQ(app_.mainFrame().windowTitle(), QStringLiteral("Orrery Dyeworks - pic.tmf [pic] * "));

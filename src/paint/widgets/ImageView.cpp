@@ -2,9 +2,11 @@
 
 #include "paint/CDyeworksDoc.h"
 #include "paint/widgets/CChildFrame.h"
+#include "paint/widgets/LensCursor.h"
 #include "platform/Text.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QImage>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -15,9 +17,14 @@
 #include <QWheelEvent>
 #include <QtMath>
 
+#include <utility>
+
 namespace dyeworks {
 
 namespace {
+
+/// Of a context menu that was asked for with the keyboard, from the corner of the client area.
+constexpr QPoint kMenuPlace{5, 5};
 
 constexpr int kWheelNotch = 120; // Angle that one notch of a wheel reports.
 
@@ -50,11 +57,46 @@ PointerEvent pointerEvent(const QMouseEvent& event) {
     return result;
 }
 
+QCursor cursorOf(CursorShape shape, qreal devicePixelRatio) {
+    switch (shape) {
+    case CursorShape::OpenHand:
+        return Qt::OpenHandCursor;
+    case CursorShape::ZoomIn:
+        return lensCursor(LensSign::Plus, devicePixelRatio);
+    case CursorShape::ZoomOut:
+        return lensCursor(LensSign::Minus, devicePixelRatio);
+    case CursorShape::SizeBackwardDiagonal:
+        return Qt::SizeFDiagCursor;
+    case CursorShape::SizeForwardDiagonal:
+        return Qt::SizeBDiagCursor;
+    case CursorShape::SizeVertical:
+        return Qt::SizeVerCursor;
+    case CursorShape::SizeHorizontal:
+        return Qt::SizeHorCursor;
+    case CursorShape::SizeAll:
+        return Qt::SizeAllCursor;
+    case CursorShape::Arrow:
+        break;
+    }
+    return Qt::ArrowCursor;
+}
+
 Key keyOf(const QKeyEvent& event) {
     const bool keypad = event.modifiers().testFlag(Qt::KeypadModifier);
     switch (event.key()) {
     case Qt::Key_Escape:
         return Key::Escape;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return Key::Enter;
+    case Qt::Key_Left:
+        return Key::Left;
+    case Qt::Key_Up:
+        return Key::Up;
+    case Qt::Key_Right:
+        return Key::Right;
+    case Qt::Key_Down:
+        return Key::Down;
     case Qt::Key_Shift:
         return Key::Shift;
     case Qt::Key_Control:
@@ -156,8 +198,10 @@ void ImageView::repaintNow() {
 }
 
 void ImageView::setCursor(CursorShape shape) {
-    if (!isPanning())
-        viewport()->setCursor(shape == CursorShape::OpenHand ? Qt::OpenHandCursor : Qt::ArrowCursor);
+    const auto wanted = std::pair(shape, devicePixelRatioF());
+    if (isPanning() || std::exchange(cursor_, wanted) == wanted)
+        return;
+    viewport()->setCursor(cursorOf(shape, wanted.second));
 }
 
 void ImageView::fitFrame() {
@@ -302,9 +346,16 @@ void ImageView::mouseDoubleClickEvent(QMouseEvent* event) {
     mousePressEvent(event);
 }
 
+void ImageView::contextMenuEvent(QContextMenuEvent* event) {
+    const CDyeworksView::ContextMenu menu = view_.contextMenu();
+    if (menu == CDyeworksView::ContextMenu::None)
+        return;
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    Q_EMIT contextMenuRequested(menu, byKey ? viewport()->mapToGlobal(kMenuPlace) : event->globalPos());
+}
+
 void ImageView::keyPressEvent(QKeyEvent* event) {
-    view_.KeyPressed(keyEvent(*event, true));
-    if (keyOf(*event) == Key::Other)
+    if (!view_.KeyPressed(keyEvent(*event, true)))
         ScrollView::keyPressEvent(event);
 }
 

@@ -8,6 +8,8 @@
 #include <QBasicTimer>
 #include <QRegion>
 
+#include <utility>
+
 namespace dyeworks {
 
 /// The widget of an image view. A client pixel is a pixel of the viewport in Qt's sense: where the scale
@@ -28,6 +30,9 @@ public:
     void activated(ChildFrame& frame) override;
     void closing(ChildFrame& frame) override;
 
+Q_SIGNALS:
+    void contextMenuRequested(CDyeworksView::ContextMenu menu, const QPoint& global);
+
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -38,6 +43,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -76,6 +82,8 @@ private:
     QRegion stale_;       ///< Of the viewport: asked to be repainted and not painted yet.
     qreal wheelTurn_ = 0; ///< Of the wheel with Ctrl, too little for a step so far.
     QBasicTimer ticks_;
+    std::pair<CursorShape, qreal> cursor_{CursorShape::Arrow,
+                                          0}; ///< And the device pixel ratio it is drawn for.
     // Last: it talks to the rest of this object while it lives.
     CDyeworksView view_;
 };

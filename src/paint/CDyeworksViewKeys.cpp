@@ -1,0 +1,127 @@
+#include "paint/CDyeworksDoc.h"
+#include "paint/CDyeworksView.h"
+#include "paint/ViewWindow.h"
+
+namespace dyeworks {
+
+namespace {
+
+/// How far an arrow key reaches, in texels; nowhere for any other key.
+Point stepOf(Key key) {
+    switch (key) {
+    case Key::Left:
+        return {-1, 0};
+    case Key::Up:
+        return {0, -1};
+    case Key::Right:
+        return {1, 0};
+    case Key::Down:
+        return {0, 1};
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+bool CDyeworksView::KeyPressed(const KeyEvent& event) {
+    if (event.key == Key::Escape && dragging()) {
+        CancelDrag();
+        return true;
+    }
+    const bool ends = event.key == Key::Escape || event.key == Key::Enter;
+    if (ends && (SelectionExists() || hasFloatingPiece())) {
+        if (event.key == Key::Escape)
+            DropFloatingPiece();
+        CommitFloatingPiece(true);
+        return true;
+    }
+    if (event.repeatCount != 1)
+        return false;
+    if (event.key == Key::Shift || event.key == Key::Control) {
+        updateCursor(window_.pointerPosition(), event.shift, event.control);
+        return true;
+    }
+    return zoomByKey(event.key) || moveSelection(event);
+}
+
+void CDyeworksView::KeyReleased(const KeyEvent& event) {
+    if (event.repeatCount == 1 && (event.key == Key::Shift || event.key == Key::Control))
+        updateCursor(window_.pointerPosition(), event.shift, event.control);
+}
+
+bool CDyeworksView::zoomByKey(Key key) {
+    const bool in = key == Key::I || key == Key::Numpad9;
+    const bool out = key == Key::O || key == Key::NumpadDivide;
+    if (in || out)
+        ZoomAt(window_.pointerPosition(), out);
+    return in || out;
+}
+
+/// With Shift its right or its bottom edge moves alone.
+bool CDyeworksView::moveSelection(const KeyEvent& event) {
+    const Point step = stepOf(event.key);
+    if (step == Point{} || !SelectionExists())
+        return false;
+    selection_.right += step.x;
+    selection_.bottom += step.y;
+    if (!event.shift) {
+        selection_.left += step.x;
+        selection_.top += step.y;
+    }
+    window_.invalidateAll();
+    return true;
+}
+
+void CDyeworksView::updateCursor(Point client, bool shift, bool control) {
+    const Size size = window_.clientSize();
+    if (client.x < 0 || client.y < 0 || client.x >= size.width || client.y >= size.height)
+        return;
+    CursorShape shape = CursorShape::Arrow;
+    if (currentTool() == Tool::ZoomLens)
+        shape = control ? CursorShape::ZoomOut : CursorShape::ZoomIn;
+    else if (shift && !scrollDragging_)
+        shape = CursorShape::OpenHand;
+    else if (currentTool() == Tool::Select && SelectionExists())
+        shape = selectionCursor(client);
+    window_.setCursor(shape);
+}
+
+CursorShape CDyeworksView::selectionCursor(Point client) const {
+    switch (HitSelection(client)) {
+    case TrackerHit::TopLeft:
+    case TrackerHit::BottomRight:
+        return CursorShape::SizeBackwardDiagonal;
+    case TrackerHit::TopRight:
+    case TrackerHit::BottomLeft:
+        return CursorShape::SizeForwardDiagonal;
+    case TrackerHit::Top:
+    case TrackerHit::Bottom:
+        return CursorShape::SizeVertical;
+    case TrackerHit::Left:
+    case TrackerHit::Right:
+        return CursorShape::SizeHorizontal;
+    case TrackerHit::Inside:
+        return CursorShape::SizeAll;
+    case TrackerHit::None:
+        break;
+    }
+    return CursorShape::Arrow;
+}
+
+CDyeworksView::ContextMenu CDyeworksView::contextMenu() const {
+    if (dragging())
+        return ContextMenu::None;
+    switch (currentTool()) {
+    case Tool::Select:
+        return ContextMenu::Selection;
+    case Tool::ZoomLens:
+        return ContextMenu::Zoom;
+    case Tool::Replacer:
+        return ContextMenu::ToolsToReplace;
+    default:
+        return spuit_ ? ContextMenu::None : ContextMenu::Tools;
+    }
+}
+
+} // namespace dyeworks
