@@ -1489,5 +1489,141 @@ Do you use project?</source>
         <source>Gradient</source>
         <translation>グラデーション</translation>
     </message>
+    <message>
+        <source>Project already opened.
+(You can use only one Project.)
+Do you close it?
+</source>
+        <translation>プロジェクトは既に開かれています。
+（使用できるプロジェクトは一つだけです。）
+閉じますか？
+</translation>
+    </message>
+    <message>
+        <source>Incorrect parameter.</source>
+        <translation>指定が正しくありません。</translation>
+    </message>
+    <message>
+        <source>Please specify new file name.</source>
+        <translation>新しいファイル名を指定してください。</translation>
+    </message>
+    <message>
+        <source>File name has already existed.
+Please give unique name.</source>
+        <translation>そのファイル名は既に存在します。
+別の名前を付けてください。</translation>
+    </message>
+    <message>
+        <source>%1 is not found.
+Do you ignore error to continue?</source>
+        <translation>%1 が見つかりません。
+無視して続けますか？</translation>
+    </message>
+    <message>
+        <source>%1 file already exists.
+Over write?</source>
+        <translation>%1 は既に存在します。
+上書きしますか？</translation>
+    </message>
+    <message>
+        <source>Cannot open &quot;%1&quot;.
+%2</source>
+        <translation>「%1」を開けません。
+%2</translation>
+    </message>
+    <message>
+        <source>Cannot save the project as &quot;%1&quot;.</source>
+        <translation>プロジェクトを「%1」に保存できません。</translation>
+    </message>
+    <message>
+        <source>A project cannot keep the folder &quot;%1&quot;: its path is too long or has a &quot;#&quot; in it.</source>
+        <translation>プロジェクトはフォルダー「%1」を記録できません。パスが長すぎるか「#」を含んでいます。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not found.</source>
+        <translation>「%1」が見つかりません。</translation>
+    </message>
+    <message>
+        <source>A picture needs a name, which begins with no blank and has none of , # = \ and $( in it.</source>
+        <translation>ピクチャーには名前が必要です。空白で始まる名前や、, # = \ $( を含む名前は使えません。</translation>
+    </message>
+    <message>
+        <source>A project cannot keep the file name &quot;%1&quot;: it has one of , # and $( in it.</source>
+        <translation>プロジェクトはファイル名「%1」を記録できません。, # $( のどれかを含んでいます。</translation>
+    </message>
+    <message>
+        <source>The names of the picture and of its files are too long together.</source>
+        <translation>ピクチャーの名前とファイル名を合わせた長さが長すぎます。</translation>
+    </message>
+    <message>
+        <source>There is a picture &quot;%1&quot; already.
+Do you want to replace it?</source>
+        <translation>ピクチャー「%1」は既にあります。
+置き換えますか？</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>ピクチャー</translation>
+    </message>
+    <message>
+        <source>Picture &amp;name</source>
+        <translation>ピクチャー名(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Texture (TMF)</source>
+        <translation>テクスチャ (TMF)</translation>
+    </message>
+    <message>
+        <source>Palette (TLF)</source>
+        <translation>パレット (TLF)</translation>
+    </message>
+    <message>
+        <source>Palette N&amp;o.</source>
+        <translation>パレット番号(&amp;O)</translation>
+    </message>
+    <message>
+        <source>New...</source>
+        <translation>新規...</translation>
+    </message>
+    <message>
+        <source>What the picture is called in the project</source>
+        <translation>プロジェクトでのピクチャーの名前</translation>
+    </message>
+    <message>
+        <source>A file in the project&apos;s image folder, or one with a folder of its own</source>
+        <translation>プロジェクトの画像フォルダーのファイル、またはフォルダーを付けたファイル名</translation>
+    </message>
+    <message>
+        <source>A file in the project&apos;s palette folder, or one with a folder of its own</source>
+        <translation>プロジェクトのパレットフォルダーのファイル、またはフォルダーを付けたファイル名</translation>
+    </message>
+    <message>
+        <source>The 16 entries of a large palette that a 4-bit image is shown through, 0 to 15</source>
+        <translation>4bit画像の表示に使う、大きなパレットの16色の番号（0～15）</translation>
+    </message>
+    <message>
+        <source>Choose an image file</source>
+        <translation>画像ファイルを選ぶ</translation>
+    </message>
+    <message>
+        <source>Choose a palette file</source>
+        <translation>パレットファイルを選ぶ</translation>
+    </message>
+    <message>
+        <source>Make a new image file of this name</source>
+        <translation>この名前で新しい画像ファイルを作る</translation>
+    </message>
+    <message>
+        <source>Make a new palette file of this name</source>
+        <translation>この名前で新しいパレットファイルを作る</translation>
+    </message>
+    <message>
+        <source>The image in the colours of the palette</source>
+        <translation>パレットの色で表示した画像</translation>
+    </message>
+    <message>
+        <source>The project and its pictures, each an image with a palette. Double-click a picture to open it; drag it to another place, with Ctrl for a copy.</source>
+        <translation>プロジェクトと、そのピクチャー（画像とパレットの組）です。ダブルクリックで開きます。ドラッグで移動し、Ctrlを押しながらドラッグすると複製します。</translation>
+    </message>
 </context>
 </TS>

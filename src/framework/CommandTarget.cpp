@@ -2,6 +2,13 @@
 
 namespace dyeworks {
 
+void showListEntry(CommandUi& ui, CommandId first, const std::vector<std::string>& names) {
+    const std::size_t index = ui.id - first;
+    ui.visible = ui.enabled = index < names.size();
+    if (ui.enabled)
+        ui.text = "&" + std::to_string(index % 10) + " " + names[index];
+}
+
 bool CommandTarget::handles(CommandId id) const {
     return handlers_.contains(id);
 }

@@ -6,6 +6,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace dyeworks {
 
@@ -17,6 +18,10 @@ struct CommandUi {
     std::optional<bool> checked; ///< Set for commands that show a check mark.
     std::optional<std::string> text; ///< Replaces the menu text.
 };
+
+/// Shows the entry of a list of plug-ins that the command stands for, numbered from `first` on; a command
+/// beyond the list is not shown.
+void showListEntry(CommandUi& ui, CommandId first, const std::vector<std::string>& names);
 
 /// An object that carries out commands. Its constructor fills the map:
 ///

@@ -6,18 +6,6 @@
 
 namespace dyeworks {
 
-namespace {
-
-/// The command shows the plug-in of its number; without one it is not shown.
-void showPlugIn(CommandUi& ui, CommandId first, const std::vector<std::string>& names) {
-    const std::size_t index = ui.id - first;
-    ui.visible = ui.enabled = index < names.size();
-    if (ui.enabled)
-        ui.text = "&" + std::to_string(index % 10) + " " + names[index];
-}
-
-} // namespace
-
 TlutData* CDyeworksDoc::attachedTable() const {
     TextureLookupTable* const palette = GetAttachedPalette();
     return palette == nullptr ? nullptr : &palette->table;
@@ -83,7 +71,7 @@ void CDyeworksDoc::OnImport(CommandId id) {
 }
 
 void CDyeworksDoc::OnUpdateImport(CommandUi& ui) {
-    showPlugIn(ui, ID_IMPORT_FIRST, host_.imagePlugIns().importNames());
+    showListEntry(ui, ID_IMPORT_FIRST, host_.imagePlugIns().importNames());
 }
 
 void CDyeworksDoc::OnExport(CommandId id) {
@@ -91,7 +79,7 @@ void CDyeworksDoc::OnExport(CommandId id) {
 }
 
 void CDyeworksDoc::OnUpdateExport(CommandUi& ui) {
-    showPlugIn(ui, ID_EXPORT_FIRST, host_.imagePlugIns().exportNames());
+    showListEntry(ui, ID_EXPORT_FIRST, host_.imagePlugIns().exportNames());
 }
 
 } // namespace dyeworks

@@ -16,6 +16,7 @@ struct Message {
     MessageButtons buttons = MessageButtons::Ok;
     MessageIcon icon = MessageIcon::None;
     MessageOwner owner = MessageOwner::MainWindow;
+    bool cancelIsDefault = false; ///< The button that Enter presses; otherwise the first one.
 };
 
 class Messages {

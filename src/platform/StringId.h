@@ -151,6 +151,37 @@ enum class StringId {
     UseProjectOpenTip,
     UseProjectCancelTip,
     UseProjectNotifyTip,
+    ProjectAlreadyOpened,
+    IncorrectParameter,
+    NewFileNameMissing,
+    FileNameExists,
+    FileIsNotFoundIgnore,    ///< %1 file
+    ProjectFileExists,       ///< %1 file
+    CannotOpenFile,          ///< %1 file, %2 why
+    CannotSaveProject,       ///< %1 file
+    ProjectCannotHoldFolder, ///< %1 folders
+    FileIsNotFound,          ///< %1 file
+    PictureNameCannotBeHeld,
+    FileNameCannotBeHeld, ///< %1 file
+    PictureNamesAreTooLong,
+    ReplacePictureQuestion, ///< %1 name
+    PictureCaption,
+    PictureName,
+    PictureImage,
+    PicturePalette,
+    PicturePaletteNumber,
+    PictureNewFile,
+    PictureNameTip,
+    PictureImageTip,
+    PicturePaletteTip,
+    PicturePaletteNumberTip,
+    PictureBrowseImageTip,
+    PictureBrowsePaletteTip,
+    PictureNewImageTip,
+    PictureNewPaletteTip,
+    PicturePreview,
+    PicturePreviewTip,
+    HelpProjectTree,
 
     Count
 };

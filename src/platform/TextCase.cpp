@@ -79,6 +79,17 @@ std::u32string foldedCase(std::string_view text) {
     return characters;
 }
 
+std::size_t characterLength(std::string_view text) {
+    return firstCharacter(text).length;
+}
+
+std::size_t characterCount(std::string_view text) {
+    std::size_t count = 0;
+    for (; !text.empty(); text.remove_prefix(characterLength(text)))
+        ++count;
+    return count;
+}
+
 bool equalIgnoringCase(std::string_view a, std::string_view b) {
     return a == b || foldedCase(a) == foldedCase(b);
 }

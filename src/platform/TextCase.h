@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -9,6 +10,12 @@ namespace dyeworks {
 /// letters become small letters, whatever the C locale. A byte that is no UTF-8 becomes a value above
 /// U+10FFFF of its own, so that texts in another encoding stay apart.
 std::u32string foldedCase(std::string_view text);
+
+/// Bytes of the character at the front of a text that is not empty; 1 for a byte that is no UTF-8.
+std::size_t characterLength(std::string_view text);
+
+/// Characters of the text, whatever their length in bytes.
+std::size_t characterCount(std::string_view text);
 
 bool equalIgnoringCase(std::string_view a, std::string_view b);
 

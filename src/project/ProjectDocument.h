@@ -2,6 +2,7 @@
 
 #include "framework/CDocument.h"
 #include "paint/OpenProject.h"
+#include "project/PictureEntry.h"
 
 #include <cstdint>
 #include <optional>
@@ -19,6 +20,9 @@ public:
 
     /// The names of the pictures in the project's order.
     [[nodiscard]] virtual std::vector<std::string> pictureNames() const = 0;
+
+    /// False when there is no such picture.
+    [[nodiscard]] virtual bool GetPicture(const std::string& name, PictureEntry& entry) const = 0;
 
     // What the user is shown and may cancel. True when the project was changed.
     virtual bool ChangePicture(const std::string& name) = 0;

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
 namespace dyeworks {
 
-class CDocument;
+class CDyeworksDoc;
 class ProjectDocument;
 class ProjectPlugIns;
 
@@ -30,6 +31,9 @@ struct PictureSettings {
     std::string paletteDirectories;
 };
 
+/// A field of the picture dialog.
+enum class PictureField { None, Name, Image, Palette };
+
 /// What the project document and its tree ask of the application.
 class ProjectHost {
 public:
@@ -45,6 +49,8 @@ public:
     virtual bool CloseProject() = 0;
     /// Shows what the open project is, after its pictures have changed.
     virtual void ProjectChanged() = 0;
+    /// The open project's title is another one.
+    virtual void ProjectRenamed() = 0;
     /// Makes the picture the chosen one.
     virtual void SelectPicture(const std::string& name) = 0;
 
@@ -53,11 +59,14 @@ public:
     virtual bool askNewProject(ProjectSettings& settings) = 0;
     /// The name and the project's own folder are only shown.
     virtual bool askProjectProperties(ProjectSettings& settings) = 0;
-    virtual bool askPicture(PictureSettings& settings) = 0;
+    /// `check` is asked before the dialog closes, and answers which field the user has been told to change.
+    virtual bool askPicture(PictureSettings& settings,
+                            const std::function<PictureField(const PictureSettings&)>& check) = 0;
 
-    /// Opens an image or a palette. The image's document; null for a palette and when it could not be opened,
-    /// which has been reported.
-    virtual CDocument* openFile(const std::string& path) = 0;
+    /// Opens the palette. False when it could not be opened, which has been reported.
+    virtual bool openPalette(const std::string& path) = 0;
+    /// Opens the image. Null when it could not be opened, which has been reported.
+    virtual CDyeworksDoc* openImage(const std::string& path) = 0;
     /// Closes the images and palettes of these paths that are open; unless `force` is set, asks once before.
     virtual void ClosePictureDocuments(const std::vector<std::string>& paths, bool force) = 0;
     /// Whether the main window is there, and whether it is just closing.

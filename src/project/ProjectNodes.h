@@ -18,8 +18,8 @@ public:
     /// Adds a node below `parent` (none, or one that is not there: at the top). `place`: 0 is first, k behind
     /// child number k counted from 0, a text behind the child called so, the empty text last; what is not
     /// there makes it first. False when the node could not be added.
-    virtual bool AddNode(const std::string& text, std::int32_t image, const std::optional<std::string>& parent,
-                         const NodePlace& place) = 0;
+    virtual bool AddNode(const std::string& text, std::int32_t image,
+                         const std::optional<std::string>& parent, const NodePlace& place) = 0;
     /// False when there is no such node.
     virtual bool RenameNode(const std::string& text, const NodePlace& node,
                             const std::optional<std::string>& parent) = 0;

@@ -5,7 +5,7 @@
 #include "paint/widgets/ImageView.h"
 #include "platform/Platform.h"
 #include "platform/TextCase.h"
-#include "project/ProjectDocument.h"
+#include "project/CTPFDocument.h"
 #include "ui/CFileNewSheet.h"
 #include "ui/CFileNewTexturePage.h"
 #include "ui/CMainFrame.h"
@@ -312,7 +312,10 @@ void CDyeworksApp::setActivePaletteValue(std::int32_t firstEntry) {
 }
 
 bool CDyeworksApp::openWindow(CDocument& document) {
-    mainFrame_->openImageWindow(static_cast<CDyeworksDoc&>(document));
+    if (auto* const project = dynamic_cast<CTPFDocument*>(&document))
+        mainFrame_->openProjectWindow(*project);
+    else
+        mainFrame_->openImageWindow(static_cast<CDyeworksDoc&>(document));
     return true;
 }
 

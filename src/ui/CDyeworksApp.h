@@ -7,6 +7,7 @@
 #include "paint/CDyeworksDoc.h"
 #include "paint/ImageHost.h"
 #include "paint/ImagePlugIns.h"
+#include "ui/ApplicationProjectHost.h"
 #include "ui/OpenRequestQueue.h"
 #include "ui/OpenedFile.h"
 #include "ui/PaletteBarHost.h"
@@ -47,6 +48,8 @@ public:
     int ExitInstance();
 
     [[nodiscard]] CMainFrame& mainFrame() noexcept { return *mainFrame_; }
+    /// False before the main window is made and after it has gone.
+    [[nodiscard]] bool hasMainFrame() const noexcept { return mainFrame_ != nullptr; }
     [[nodiscard]] CommandRouter& router() noexcept { return router_; }
     /// The open palettes; before there are any, an empty set.
     PaletteSet* paletteSet() override { return palettes_ == nullptr ? &noPalettes_ : palettes_.get(); }
@@ -110,7 +113,7 @@ public:
     void setCurrentPicture(const std::string& name) { currentPicture_ = name; }
     /// Closes the project after asking about its changes. True when none is open afterwards.
     bool CloseProject();
-    /// A new project document; null when it was abandoned or projects are not among the kinds of documents.
+    /// A new project document; null when it was abandoned.
     CDocument* NewProject();
     /// Asks for a project file and opens it.
     void OpenProjectFile();
@@ -163,7 +166,7 @@ private:
     void showSplashScreen();
     void readSettings();
     [[nodiscard]] static bool registerControls();
-    void createImageTemplate();
+    void createTemplates();
     [[nodiscard]] bool createMainFrame();
     void listenForOpenRequests(const CommandLine& commandLine);
     [[nodiscard]] bool createPaletteSet();
@@ -179,7 +182,6 @@ private:
     void updateNeedsPalette(CommandUi& ui);
     void updateNeedsProject(CommandUi& ui);
     void updateNeedsPicture(CommandUi& ui);
-    void updateNeedsProjectKind(CommandUi& ui);
     void OnFileNew();
     void OnFileOpen();
     void OnProjectNew();
@@ -209,6 +211,7 @@ private:
     void OnUpdateRecentPalette(CommandUi& ui);
 
     StartUpParts parts_;
+    ApplicationProjectHost projectHost_{*this};
     CommandRouter router_;
     RecentFileList recentProjects_{"Recent TPF List"};
     RecentFileList recentImages_{"Recent TMF List"};

@@ -15,15 +15,13 @@ constexpr int kProjectFilter = 1;
 constexpr int kImageFilter = 2;
 constexpr int kPaletteFilter = 3;
 
-constexpr const char* kProjectKind = "Project";
-
 } // namespace
 
 void CDyeworksApp::fillCommands() {
     on(ID_FILE_NEW, &CDyeworksApp::OnFileNew);
     on(ID_FILE_OPEN, &CDyeworksApp::OnFileOpen);
-    on(ID_PROJECT_NEW, &CDyeworksApp::OnProjectNew, &CDyeworksApp::updateNeedsProjectKind);
-    on(ID_PROJECT_OPEN, &CDyeworksApp::OpenProjectFile, &CDyeworksApp::updateNeedsProjectKind);
+    on(ID_PROJECT_NEW, &CDyeworksApp::OnProjectNew);
+    on(ID_PROJECT_OPEN, &CDyeworksApp::OpenProjectFile);
     on(ID_PROJECT_CLOSE, &CDyeworksApp::OnProjectClose, &CDyeworksApp::updateNeedsProject);
     on(ID_PROJECT_SAVE, &CDyeworksApp::OnProjectSave, &CDyeworksApp::updateNeedsProject);
     on(ID_PROJECT_SAVE_AS, &CDyeworksApp::OnProjectSaveAs, &CDyeworksApp::updateNeedsProject);
@@ -70,10 +68,6 @@ void CDyeworksApp::updateNeedsPicture(CommandUi& ui) {
     ui.enabled = project_ != nullptr && !currentPicture_.empty();
 }
 
-void CDyeworksApp::updateNeedsProjectKind(CommandUi& ui) {
-    ui.enabled = FindDocTemplate(kProjectKind) != nullptr;
-}
-
 void CDyeworksApp::OnFileNew() {
     imageTemplate().newDocument();
 }
@@ -83,8 +77,7 @@ void CDyeworksApp::OnFileOpen() {
 }
 
 CDocument* CDyeworksApp::NewProject() {
-    DocumentTemplate* kind = FindDocTemplate(kProjectKind);
-    return kind == nullptr ? nullptr : kind->newDocument();
+    return FindDocTemplate("Project")->newDocument();
 }
 
 void CDyeworksApp::OpenProjectFile() {

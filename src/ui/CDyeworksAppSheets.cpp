@@ -19,9 +19,6 @@ std::optional<NewImage> CDyeworksApp::askNewImage() {
 }
 
 void CDyeworksApp::AskUseProject() {
-    // Without that kind of documents there is nothing to offer.
-    if (FindDocTemplate("Project") == nullptr)
-        return;
     UseProjectParts parts;
     parts.projectIsOpen = project_ != nullptr;
     parts.ask = [this](bool& notifyNextTime) {

@@ -1,6 +1,7 @@
 #include "framework/widgets/ChildFrame.h"
 #include "paint/widgets/ImageView.h"
 #include "platform/Platform.h"
+#include "project/CTPFDocument.h"
 #include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"
 #include "ui/CPaletteBar.h"
@@ -68,7 +69,7 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
     keepsImageSettings_ = commandLine.isInteractive();
     if (!registerControls())
         return false;
-    createImageTemplate();
+    createTemplates();
     if (!createMainFrame())
         return false;
     programFolder_ = platform().files().programFolder();
@@ -148,13 +149,15 @@ bool CDyeworksApp::registerControls() {
     return true;
 }
 
-void CDyeworksApp::createImageTemplate() {
+void CDyeworksApp::createTemplates() {
     DocumentWindows& windows = *this;
     addDocTemplate(std::make_unique<DocumentTemplate>(
         DocumentTemplate::Names{"Texture", ".tmf"},
         [this](DocumentTemplate& own) { return std::make_unique<CDyeworksDoc>(*this, &own); }, windows));
-    // The first kind takes the files that no kind claims.
-    std::rotate(templates_.begin(), templates_.end() - 1, templates_.end());
+    addDocTemplate(std::make_unique<DocumentTemplate>(
+        DocumentTemplate::Names{"Project", ".tpf"},
+        [this](DocumentTemplate& own) { return std::make_unique<CTPFDocument>(projectHost_, &own); },
+        windows));
 }
 
 bool CDyeworksApp::createMainFrame() {

@@ -9,7 +9,9 @@
 #include "paint/widgets/CChildFrame.h"
 #include "paint/widgets/ImageView.h"
 #include "platform/Platform.h"
-#include "project/ProjectDocument.h"
+#include "project/CTPFDocument.h"
+#include "project/widgets/CTPFChildFrame.h"
+#include "project/widgets/ProjectTreeWidget.h"
 #include "ui/BarLayout.h"
 #include "ui/CDyeworksApp.h"
 #include "ui/CPaletteBar.h"
@@ -171,14 +173,29 @@ void CMainFrame::openImageWindow(CDyeworksDoc& document) {
     child->setMenus(imageMenu());
     connect(&image, &ImageView::contextMenuRequested, this,
             [this](CDyeworksView::ContextMenu which, const QPoint& global) {
-                auto* menu = new QMenu(this);
-                menu->setAttribute(Qt::WA_DeleteOnClose);
-                fillMenu(*menu, imageContextMenu(which), actions_);
-                menu->popup(global);
+                popUpMenu(imageContextMenu(which), global);
             });
     // The palette that an image is attached to is part of its title, and its bank is what the bar shows.
     connect(child.get(), &QWidget::windowTitleChanged, paletteBar_, &CPaletteBar::ImageChanged);
     addChild(std::move(child));
+}
+
+void CMainFrame::openProjectWindow(CTPFDocument& document) {
+    auto tree = std::make_unique<ProjectTreeWidget>(document);
+    ProjectTreeWidget& view = *tree;
+    view.setWhatsThis(shown(StringId::HelpProjectTree));
+    auto child = std::make_unique<CTPFChildFrame>(document, std::move(tree), view);
+    child->setMenus(projectMenu());
+    connect(&view, &ProjectTreeWidget::contextMenuRequested, this,
+            [this](const QPoint& global) { popUpMenu(nodeMenu(), global); });
+    addChild(std::move(child));
+}
+
+void CMainFrame::popUpMenu(std::span<const MenuItem> items, const QPoint& place) {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    fillMenu(*menu, items, actions_);
+    menu->popup(place);
 }
 
 void CMainFrame::activateWindowOf(const CDocument& document) {

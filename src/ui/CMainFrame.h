@@ -17,6 +17,7 @@ namespace dyeworks {
 
 class CDyeworksApp;
 class CDyeworksDoc;
+class CTPFDocument;
 class CPaletteBar;
 class CProjectBar;
 class ImageView;
@@ -39,8 +40,9 @@ public:
     [[nodiscard]] CPaletteBar& paletteBar() noexcept { return *paletteBar_; }
     [[nodiscard]] PrintCommands& printing() noexcept { return printing_; }
 
-    /// Opens a window with a view of the document and makes it the active one.
+    // Each opens a window with a view of the document and makes it the active one.
     void openImageWindow(CDyeworksDoc& document);
+    void openProjectWindow(CTPFDocument& document);
     /// Brings a window of the document to the front.
     void activateWindowOf(const CDocument& document);
     /// The view in the active window; null when there is none.
@@ -52,6 +54,8 @@ public:
 
     /// The open project, its title or its pictures are others now.
     void ProjectChanged();
+    /// The open project's title, which is part of the caption, is another one.
+    void ProjectRenamed() { OnUpdateFrameTitle(); }
     /// Makes the picture of this name the one that is chosen in the project bar.
     void SelectPicture(const std::string& name);
 
@@ -68,6 +72,9 @@ public:
     /// Shows the active image through another bank of the current palette.
     void SetPaletteBarNumber(std::int32_t number);
 
+    /// Whether the window is closing: documents are recorded, questions asked, the project is closed.
+    [[nodiscard]] bool isClosing() const noexcept { return closing_; }
+
     /// The window as a picture, with the palette bar where it floats above it.
     [[nodiscard]] QPixmap picture();
 
@@ -82,6 +89,7 @@ protected:
     QMenu* createPopupMenu() override;
 
 private:
+    void popUpMenu(std::span<const MenuItem> items, const QPoint& place);
     void describeCommands();
     void makeToolBar(const char* name, CommandId id, StringId title, StringId help,
                      std::span<const MenuItem> items);

@@ -118,11 +118,16 @@ void CProjectBar::SelectPicture(const std::string& name) {
 }
 
 void CProjectBar::updatePictureButton() {
-    const std::vector<std::string> names = picturesOf(application_.projectDocument());
+    const ProjectDocument* const project = application_.projectDocument();
     const std::string chosen = pictures_->currentText().toStdString();
-    const bool known = std::ranges::find(names, chosen) != names.end();
+    PictureEntry entry;
+    const bool known = project != nullptr && project->GetPicture(chosen, entry);
     application_.setCurrentPicture(known ? chosen : "");
-    const QString text = known ? QString::fromStdString(chosen) : QString::fromLatin1(kNoPicture);
+    const QString text =
+        known ? QStringLiteral("%1 + %2 (%3)")
+                    .arg(QString::fromStdString(entry.tmfFile), QString::fromStdString(entry.tlfFile))
+                    .arg(entry.paletteNo)
+              : QString::fromLatin1(kNoPicture);
     const int room = picture_->width() - 2 * fontMetrics().averageCharWidth();
     // An ampersand of the name is no mnemonic.
     picture_->setText(fontMetrics()

@@ -355,6 +355,9 @@ std::span<const MenuItem> imageContextMenu(CDyeworksView::ContextMenu menu) {
     }
     return {};
 }
+std::span<const MenuItem> nodeMenu() {
+    return kNodeMenu;
+}
 std::span<const MenuItem> paletteBarMenu() {
     return kPaletteBarMenu;
 }

@@ -20,6 +20,8 @@ std::span<const MenuItem> barsMenu();
 
 /// The context menus of an image.
 std::span<const MenuItem> imageContextMenu(CDyeworksView::ContextMenu menu);
+/// The context menu of a project's tree.
+std::span<const MenuItem> nodeMenu();
 /// The context menu of the palette bar.
 std::span<const MenuItem> paletteBarMenu();
 

@@ -1,5 +1,4 @@
 #include "Program.h"
-#include "TestProject.h"
 #include "framework/CommandTable.h"
 #include "platform/qt/Language.h"
 #include "ui/MainMenus.h"
@@ -17,16 +16,14 @@ namespace {
 using Ids = std::set<CommandId>;
 
 /// Nobody takes these, whatever is open.
-const Ids kTakenByNobody{// Nodes of the project's tree.
-                         ID_NODE_ADD, ID_NODE_EDIT, ID_NODE_REMOVE, ID_NODE_PROPERTY,
-                         // Stands in the zoom menu and asks for nothing.
+const Ids kTakenByNobody{// Stands in the zoom menu and asks for nothing.
                          ID_ZOOM_SPECIFY};
 
-const Ids kAlwaysEnabled{ID_FILE_NEW,     ID_FILE_OPEN,    ID_FILE_PRINT_SETUP, ID_PALETTE_NEW,
-                         ID_PALETTE_OPEN, ID_OPTIONS,      ID_APP_ABOUT,        ID_APP_EXIT,
-                         ID_HELP_INDEX,   ID_HELP,         ID_CONTEXT_HELP,     ID_VIEW_PALETTEBAR,
-                         ID_VIEW_TOOLBAR, ID_VIEW_DRAWBAR, ID_VIEW_PROJECTBAR,  ID_VIEW_STATUS_BAR,
-                         ID_VIEW_VIEWBAR};
+const Ids kAlwaysEnabled{ID_PROJECT_NEW,      ID_PROJECT_OPEN,    ID_FILE_NEW,     ID_FILE_OPEN,
+                         ID_FILE_PRINT_SETUP, ID_PALETTE_NEW,     ID_PALETTE_OPEN, ID_OPTIONS,
+                         ID_APP_ABOUT,        ID_APP_EXIT,        ID_HELP_INDEX,   ID_HELP,
+                         ID_CONTEXT_HELP,     ID_VIEW_PALETTEBAR, ID_VIEW_TOOLBAR, ID_VIEW_DRAWBAR,
+                         ID_VIEW_PROJECTBAR,  ID_VIEW_STATUS_BAR, ID_VIEW_VIEWBAR};
 
 /// Besides, with an image that is attached to a palette, both unchanged.
 const Ids kEnabledWithImage{
@@ -112,7 +109,7 @@ TEST_F(Commands, AreTakenByAnObjectOfTheProgram) {
     Ids ids = taken();
     openImage();
     ids.merge(taken());
-    TestProject::openIn(app_);
+    openProject();
     ids.merge(taken());
     EXPECT_EQ(without(everyCommand(), ids), kTakenByNobody);
 }

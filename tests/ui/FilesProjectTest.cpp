@@ -1,5 +1,4 @@
 #include "Program.h"
-#include "project/ProjectDocument.h"
 #include "ui/CFileNewSheet.h"
 #include "ui/CUseProjectDlg.h"
 
@@ -14,66 +13,8 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// A project that only remembers what was asked of it.
-class TestProject : public ProjectDocument {
-public:
-    TestProject(DocumentTemplate* own, CDyeworksApp& app, std::vector<std::string>& log)
-        : ProjectDocument(own)
-        , app_(app)
-        , log_(log) {
-        app.setProjectDocument(this);
-    }
-    bool onSaveDocument(const std::string& path) override {
-        log_.push_back("save " + path);
-        setModified(false);
-        return saves_;
-    }
-    void onCloseDocument() override {
-        log_.emplace_back("close");
-        app_.setProjectDocument(nullptr);
-    }
-    [[nodiscard]] std::string imageDirectory() const override { return {}; }
-    bool AddPicture(const std::optional<std::string>& name, const std::string& imageFile,
-                    const std::string& paletteFile, std::int32_t paletteNumber,
-                    const std::optional<std::string>& after, bool silent) override {
-        log_.emplace_back(name || !imageFile.empty() || !paletteFile.empty() || paletteNumber != 0 || after ||
-                                  silent
-                              ? "add something"
-                              : "add");
-        return true;
-    }
-    [[nodiscard]] std::vector<std::string> pictureNames() const override { return {}; }
-    bool ChangePicture(const std::string& name) override { return note("change " + name); }
-    bool RemovePicture(const std::string& name) override { return note("remove " + name); }
-    bool EditProperties() override { return note("properties"); }
-    bool OpenPicture(const std::string& name) override { return note("open " + name); }
-
-    bool saves_ = true;
-
-private:
-    bool note(std::string line) {
-        log_.push_back(std::move(line));
-        return true;
-    }
-    CDyeworksApp& app_;
-    std::vector<std::string>& log_;
-};
-
-class FilesProject : public Program, public DocumentWindows {
+class FilesProject : public Program {
 protected:
-    void addProjectKind() {
-        app_.addDocTemplate(std::make_unique<DocumentTemplate>(
-            DocumentTemplate::Names{"Project", ".tpf"},
-            [this](DocumentTemplate& own) { return std::make_unique<TestProject>(&own, app_, log_); },
-            *this));
-    }
-    void openProject() {
-        addProjectKind();
-        ASSERT_TRUE(app_.OpenDocumentFile("c:\\p.tpf"));
-        ASSERT_NE(app_.projectDocument(), nullptr);
-    }
-    bool openWindow(CDocument& /*document*/) override { return true; }
-    void activate(CDocument& /*document*/) override {}
     /// An image and a palette, both with unsaved changes.
     void openAndChange() {
         openAttached(texels(8, 8, [](int, int) { return 0U; }), 8, 256);
@@ -91,12 +32,10 @@ protected:
             result.push_back(message.text);
         return result;
     }
-
-    std::vector<std::string> log_;
 };
 
 constexpr const char* kAskPalette = "\"pic\" (TLF) is modified. save now?";
-constexpr const char* kAskProject = "Save changes to c:\\p.tpf?";
+constexpr const char* kAskProject = "Save changes to c:\\proj\\sea.tpf?";
 constexpr const char* kAskImage = "Save changes to c:\\tex\\pic.tmf?";
 constexpr const char* kAskClose = "Do you close all pictures?";
 
@@ -104,23 +43,16 @@ TEST_F(FilesProject, CommandsAreEnabledByWhatThereIs) {
     const CommandId projectCommands[] = {ID_PROJECT_CLOSE, ID_PROJECT_SAVE, ID_PROJECT_SAVE_AS,
                                          ID_PROJECT_PROPERTY, ID_PICTURE_ADD};
     const CommandId pictureCommands[] = {ID_PICTURE_CHANGE, ID_PICTURE_REMOVE};
-    EXPECT_FALSE(enabled(ID_PROJECT_NEW)) << "no such kind of document";
-    EXPECT_FALSE(enabled(ID_PROJECT_OPEN));
-    openProject();
-    EXPECT_TRUE(enabled(ID_PROJECT_NEW));
-    EXPECT_TRUE(enabled(ID_PROJECT_OPEN));
+    openProject({"Sky"});
     for (const CommandId id : projectCommands)
         EXPECT_TRUE(enabled(id)) << id;
     for (const CommandId id : pictureCommands)
-        EXPECT_FALSE(enabled(id)) << id;
-    app_.setCurrentPicture("Sky");
-    for (const CommandId id : pictureCommands)
         EXPECT_TRUE(enabled(id)) << id;
-    for (const CommandId id : {ID_PICTURE_ADD, ID_PICTURE_CHANGE, ID_PICTURE_REMOVE, ID_PROJECT_PROPERTY,
-                               ID_PROJECT_SAVE, ID_PROJECT_SAVE_AS})
-        ASSERT_TRUE(run(id));
-    EXPECT_THAT(log_,
-                ElementsAre("add", "change Sky", "remove Sky", "properties", "save c:\\p.tpf", "save "));
+    ASSERT_TRUE(run(ID_PICTURE_REMOVE));
+    EXPECT_TRUE(app_.projectDocument()->isModified());
+    for (const CommandId id : pictureCommands)
+        EXPECT_FALSE(enabled(id)) << id;
+    ASSERT_TRUE(run(ID_PROJECT_SAVE));
     ASSERT_TRUE(run(ID_PROJECT_CLOSE));
     EXPECT_TRUE(app_.currentPicture().empty());
     for (const CommandId id : projectCommands)
@@ -129,8 +61,8 @@ TEST_F(FilesProject, CommandsAreEnabledByWhatThereIs) {
 
 TEST_F(FilesProject, FilesGoToTheirKindAndUnknownOnesToImages) {
     openProject();
-    EXPECT_EQ(app_.FindOpenDocument("C:\\P.TPF"), app_.projectDocument());
-    EXPECT_THAT(app_.recentProjects().paths(), ElementsAre("c:\\p.tpf"));
+    EXPECT_EQ(app_.FindOpenDocument("C:\\PROJ\\SEA.TPF"), app_.projectDocument());
+    EXPECT_THAT(app_.recentProjects().paths(), ElementsAre("c:\\proj\\sea.tpf"));
     for (const char* path : {"c:\\no.bmp2", "c:\\tlf", "c:\\old.tlf\\sky", "c:\\a.tlf.txt"}) {
         EXPECT_FALSE(app_.OpenDocumentFile(path)) << path;
         EXPECT_EQ(fake_.messages.lastText(), "[" + std::string(path) + "] file open failed.\n");
@@ -147,7 +79,7 @@ TEST_F(FilesProject, ClosesOnlyAfterItsQuestion) {
     fake_.messages.answerWith(MessageAnswer::Yes);
     ASSERT_TRUE(run(ID_PROJECT_CLOSE));
     EXPECT_EQ(app_.projectDocument(), nullptr);
-    EXPECT_THAT(log_, ElementsAre("save c:\\p.tpf", "close"));
+    EXPECT_THAT(fake_.files.textOf("c:\\proj\\sea.tpf").value(), testing::HasSubstr("PICT_NUM\t=\t0"));
     EXPECT_THAT(app_.FindDocTemplate("Project")->documents(), IsEmpty());
 }
 
@@ -238,28 +170,35 @@ TEST_F(FilesProject, ANewPaletteIsWhatItsPageAsksFor) {
     EXPECT_EQ(palette->table.entries[255], 0xFFC8);
 }
 
-TEST_F(FilesProject, OffersAProjectOnlyWhereThereAreProjects) {
+TEST_F(FilesProject, ANewImageMayBringANewProject) {
+    fake_.files.putFile("c:\\proj\\old.txt", "");
     int asked = 0;
-    const auto answer = [&asked](int button) {
-        QMetaObject::invokeMethod(
-            qApp,
-            [&asked, button] {
-                if (auto* question = qobject_cast<CUseProjectDlg*>(QApplication::activeModalWidget())) {
-                    ++asked;
-                    question->done(button);
-                }
-            },
-            Qt::QueuedConnection);
+    // The sheet comes when the question has gone, and again when there is no name in it.
+    std::vector<QString> names{QString(), QStringLiteral("lake")};
+    std::function<void()> answer = [&] {
+        QWidget* const dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        if (!names.empty())
+            QMetaObject::invokeMethod(qApp, answer, Qt::QueuedConnection);
+        if (auto* question = qobject_cast<CUseProjectDlg*>(dialog)) {
+            ++asked;
+            question->done(static_cast<int>(UseProjectAnswer::NewProject));
+            return;
+        }
+        dialog->findChild<QLineEdit*>(QStringLiteral("IDC_TPF_NAME"))->setText(names.front());
+        dialog->findChild<QLineEdit*>(QStringLiteral("IDC_TPF_DIR"))->setText(QStringLiteral("c:\\proj"));
+        names.erase(names.begin());
+        qobject_cast<QDialog*>(dialog)->accept();
     };
-    answer(static_cast<int>(UseProjectAnswer::NewProject));
-    app_.AskUseProject();
-    EXPECT_EQ(asked, 0);
-    QCoreApplication::processEvents();
-    addProjectKind();
-    answer(static_cast<int>(UseProjectAnswer::NewProject));
+    QMetaObject::invokeMethod(qApp, answer, Qt::QueuedConnection);
     app_.AskUseProject();
     EXPECT_EQ(asked, 1);
-    EXPECT_NE(app_.projectDocument(), nullptr);
+    EXPECT_THAT(texts(), ElementsAre("Incorrect parameter."));
+    ASSERT_NE(app_.projectDocument(), nullptr);
+    EXPECT_EQ(app_.projectDocument()->title(), "lake.tpf");
+    EXPECT_EQ(fake_.files.textOf("c:\\proj\\lake.tpf"),
+              "TPF_DIR\t=\tc:\\proj\r\nTMF_DIR\t=\t\r\nTLF_DIR\t=\t\r\n"
+              "PICT_NUM\t=\t0\r\n");
     app_.AskUseProject();
     EXPECT_EQ(asked, 1) << "a project is open";
 }

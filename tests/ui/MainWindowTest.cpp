@@ -1,5 +1,4 @@
 #include "Program.h"
-#include "TestProject.h"
 
 #include <QComboBox>
 #include <QDragEnterEvent>
@@ -136,14 +135,11 @@ TEST_F(MainWindow, TheProjectBarOffersThePicturesOfTheOpenProject) {
     expectNone("without a project");
     EXPECT_EQ(tip(*list), QStringLiteral("Project is not open yet."));
 
-    TestProject& project = TestProject::openIn(app_);
-    frame.ProjectChanged();
+    openProject().setTitle(std::string(200, 'x'));
     expectNone("without pictures");
-    project.setTitle(std::string(200, 'x'));
     EXPECT_EQ(tip(*button).size(), 127);
-
-    project.pictures = {"Picture1", "A & B", "Picture10"};
-    frame.ProjectChanged();
+    ASSERT_TRUE(app_.CloseProject());
+    CTPFDocument& project = openProject({"Picture1", "A & B", "Picture10"});
     EXPECT_TRUE(list->isEnabled());
     EXPECT_EQ(list->itemText(1), QStringLiteral("A & B")) << "in the project's order";
     EXPECT_EQ(app_.currentPicture(), "Picture10") << "the last one";
@@ -154,24 +150,24 @@ TEST_F(MainWindow, TheProjectBarOffersThePicturesOfTheOpenProject) {
     EXPECT_EQ(list->currentText(), QStringLiteral("Picture1"));
     list->setFocus();
     QTest::keyClick(list, Qt::Key_Down);
-    EXPECT_EQ(button->text(), QStringLiteral("A && B"));
+    EXPECT_EQ(button->accessibleName(), QStringLiteral("A & B.tmf + A & B.tlf (2)"));
+    EXPECT_TRUE(button->text().contains(QStringLiteral("A && B"))) << "no mnemonic";
     QTest::mouseClick(button, Qt::LeftButton);
-    EXPECT_EQ(project.opened, std::vector<std::string>{"A & B"});
+    EXPECT_EQ(fake_.messages.lastText(), "\"A & B.tmf\" is not found.");
+    EXPECT_FALSE(project.isModified());
 
     ASSERT_TRUE(app_.CloseProject());
-    frame.ProjectChanged();
     expectNone("after it was closed");
 }
 
 TEST_F(MainWindow, TheTitleNamesTheProjectBeforeTheImage) {
-    TestProject& project = TestProject::openIn(app_);
-    app_.mainFrame().ProjectChanged();
-    EXPECT_EQ(app_.mainFrame().windowTitle(), QStringLiteral("Orrery Dyeworks @ sea.tpf"));
+    CTPFDocument& project = openProject();
     openAttached(blank(), 8, 256);
     EXPECT_EQ(app_.mainFrame().windowTitle(), QStringLiteral("Orrery Dyeworks @ sea.tpf - pic.tmf [pic]"));
-    project.setTitle("lake[*].tpf");
-    ASSERT_TRUE(run(ID_FILE_CLOSE));
-    EXPECT_EQ(app_.mainFrame().windowHandle()->title(), QStringLiteral("Orrery Dyeworks @ lake[*].tpf"));
+    project.setPathName("c:\\proj\\lake[*].tpf");
+    project.setModified(true);
+    EXPECT_EQ(app_.mainFrame().windowHandle()->title(),
+              QStringLiteral("Orrery Dyeworks @ lake[*].tpf * - pic.tmf [pic]"));
 }
 
 } // namespace

@@ -1,5 +1,4 @@
 #include "Restart.h"
-#include "TestProject.h"
 #include "framework/WindowPlacement.h"
 #include "framework/widgets/WidgetPlacement.h"
 
@@ -105,31 +104,30 @@ protected:
 TEST_F(Closing, CancelAtAnyQuestionLeavesTheProgramRunning) {
     ASSERT_TRUE(app_->OpenDocumentFile("c:\\a.tmf"));
     changeImage();
-    TestProject& project = TestProject::openIn(*app_);
-    project.maySave = false;
+    fake_.files.putFile("c:\\sea.tpf", "");
+    ASSERT_TRUE(app_->OpenDocumentFile("c:\\sea.tpf"));
+    app_->projectDocument()->setModified(true);
+    constexpr const char* kQuestion = "Save changes to c:\\sea.tpf?";
+    fake_.messages.answerWith(MessageAnswer::Cancel);
     EXPECT_FALSE(frame().close());
     EXPECT_TRUE(frame().isVisible());
-    EXPECT_EQ(app_->projectDocument(), &project);
-    EXPECT_EQ(TestProject::questions, 1);
-    EXPECT_THAT(asked(), ElementsAre()) << "nobody else is asked any more";
+    EXPECT_NE(app_->projectDocument(), nullptr);
+    EXPECT_THAT(asked(), ElementsAre(kQuestion)) << "nobody else is asked any more";
 
-    project.maySave = true;
-    fake_.messages.answerWith(MessageAnswer::Cancel);
+    fake_.messages.answerWith({MessageAnswer::No, MessageAnswer::Cancel});
     EXPECT_FALSE(frame().close());
     EXPECT_TRUE(frame().isVisible());
     EXPECT_TRUE(frame().paletteBar().isVisible());
     EXPECT_EQ(frame().childFrames().size(), 1U);
     EXPECT_TRUE(app_->activeView()->document().isModified());
     EXPECT_EQ(app_->projectDocument(), nullptr) << "closed before the documents are asked about";
-    EXPECT_EQ(TestProject::questions, 2);
-    EXPECT_EQ(asked().size(), 1U);
-    EXPECT_EQ(fake_.profile.sections["Settings\\Documents"]["count"], "1");
+    EXPECT_THAT(asked(), ElementsAre(kQuestion, kQuestion, "Save changes to c:\\a.tmf?"));
+    EXPECT_EQ(fake_.profile.sections["Settings\\Documents"]["count"], "2");
 
     fake_.messages.answerWith(MessageAnswer::No);
     EXPECT_TRUE(frame().close());
     EXPECT_FALSE(frame().paletteBar().isVisible());
-    EXPECT_EQ(TestProject::questions, 2);
-    EXPECT_EQ(asked().size(), 2U);
+    EXPECT_EQ(asked().size(), 4U);
 }
 
 } // namespace

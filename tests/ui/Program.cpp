@@ -70,6 +70,18 @@ void Program::openAttached(const Texels& image, int bits, int paletteEntries) {
     ASSERT_TRUE(this->image().IsAttached());
 }
 
+CTPFDocument& Program::openProject(const std::vector<std::string>& pictures) {
+    std::string file = "PICT_NUM = " + std::to_string(pictures.size()) + "\n";
+    for (std::size_t i = 0; i < pictures.size(); ++i) {
+        const std::string& name = pictures[i];
+        file.append("PICT.").append(std::to_string(i)).append(" = ").append(name);
+        file.append("," + name + ".tmf," + name + ".tlf,2\n");
+    }
+    fake_.files.putFile("c:\\proj\\sea.tpf", file);
+    EXPECT_TRUE(app_.OpenDocumentFile("c:\\proj\\sea.tpf"));
+    return dynamic_cast<CTPFDocument&>(*app_.projectDocument());
+}
+
 Texels Program::canvas() {
     const TextureCanvas& shown = image().canvas();
     return texels(shown.width(), shown.height(), [&](int x, int y) { return shown.GetPixel(x, y); });

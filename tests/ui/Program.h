@@ -2,6 +2,7 @@
 
 #include "paint/widgets/ImageView.h"
 #include "platform/fake/FakePlatform.h"
+#include "project/CTPFDocument.h"
 #include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"
 #include "ui/CPaletteBar.h"
@@ -37,6 +38,9 @@ protected:
     void openAttached(const Texels& image, int bits, int paletteEntries);
     [[nodiscard]] ImageView& view() { return *app_.mainFrame().activeImageView(); }
     [[nodiscard]] CDyeworksDoc& image() { return view().view().document(); }
+    /// Opens the project "c:\proj\sea.tpf" with pictures of these names, each "<name>.tmf" and "<name>.tlf"
+    /// with number 2, none of which is there.
+    CTPFDocument& openProject(const std::vector<std::string>& pictures = {});
     /// What the image holds now.
     [[nodiscard]] Texels canvas();
 

@@ -84,7 +84,7 @@ MessageAnswer QtMessages::show(const Message& message) {
     box.setTextInteractionFlags(box.textInteractionFlags() | Qt::TextSelectableByMouse);
     box.setIcon(iconOf(message.icon));
     box.setStandardButtons(buttons.shown);
-    box.setDefaultButton(buttons.onEnter);
+    box.setDefaultButton(message.cancelIsDefault ? QMessageBox::Cancel : buttons.onEnter);
     box.setEscapeButton(buttons.onClose);
     return answerOf(static_cast<QMessageBox::StandardButton>(box.exec()));
 }

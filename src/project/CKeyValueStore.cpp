@@ -1,0 +1,191 @@
+#include "project/CKeyValueStore.h"
+
+#include "platform/CodePage932.h"
+#include "platform/Platform.h"
+#include "platform/TextCase.h"
+
+#include <algorithm>
+#include <optional>
+#include <span>
+#include <utility>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view kOpening = "$(";
+
+/// The next piece of the text, at most as long as a line may be, with the line feed that ends it.
+std::string_view takePiece(std::string_view& text) {
+    std::size_t length = 0;
+    for (std::size_t characters = 0; characters < CKeyValueStore::kLongestLine && length < text.size();
+         ++characters) {
+        const bool ends = text[length] == '\n';
+        length += characterLength(text.substr(length));
+        if (ends)
+            break;
+    }
+    const std::string_view piece = text.substr(0, length);
+    text.remove_prefix(length);
+    return piece;
+}
+
+std::string withoutCarriageReturns(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\r' || i + 1 == text.size() || text[i + 1] != '\n')
+            result += text[i];
+    }
+    return result;
+}
+
+std::string assignment(const std::string& name, const std::string& value) {
+    return name + " = " + value;
+}
+
+} // namespace
+
+bool CKeyValueStore::LoadFile(const std::string& path) {
+    const Result<ByteBuffer, FileError> file = platform().files().read(path);
+    if (!file)
+        return false;
+    const std::span<const std::byte> bytes = file.value().bytes();
+    std::string_view raw(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    byteOrderMark_ = raw.starts_with(kByteOrderMark);
+    if (byteOrderMark_)
+        raw.remove_prefix(kByteOrderMark.size());
+    const std::optional<std::string> japanese = isUtf8(raw) ? std::nullopt : fromCodePage932(raw);
+    codePage932_ = japanese.has_value();
+
+    const std::string text = withoutCarriageReturns(japanese ? *japanese : raw);
+    for (std::string_view rest = text; !rest.empty();) {
+        std::string_view line = takePiece(rest);
+        if (line.ends_with('\n'))
+            line.remove_suffix(1);
+        AddLine(std::string(line));
+    }
+    return true;
+}
+
+bool CKeyValueStore::SaveFile(const std::string& path) {
+    std::string text;
+    for (const StoreLine& line : lines_) {
+        for (std::size_t i = 0; i < line.size(); ++i)
+            (i == 0 ? text : text += '\t') += line[i];
+        text += "\r\n";
+    }
+    if (codePage932_) {
+        std::optional<std::string> japanese = toCodePage932(text);
+        codePage932_ = japanese.has_value();
+        if (japanese)
+            text = std::move(*japanese);
+    } else if (byteOrderMark_) {
+        text.insert(0, kByteOrderMark);
+    }
+    return !platform().files().write(path, std::as_bytes(std::span(text))).has_value();
+}
+
+std::size_t CKeyValueStore::AddLine(const std::string& text) {
+    StoreLine line;
+    std::size_t place = lines_.size();
+    if (TokenizeLine(text, line) > 1)
+        place = places().try_emplace(line[0], place).first->second;
+    if (ClassifyLine(line) == LineKind::Assignment)
+        values_[line[0]] = line[2];
+    if (place == lines_.size())
+        lines_.push_back(std::move(line));
+    else
+        lines_[place] = std::move(line);
+    return lines_.size();
+}
+
+/// Removing lines moves those behind them, so the places are found anew when they are needed next.
+std::unordered_map<std::string, std::size_t>& CKeyValueStore::places() {
+    if (std::exchange(placesAreValid_, true))
+        return places_;
+    places_.clear();
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+        if (lines_[i].size() > 1)
+            places_.try_emplace(lines_[i][0], i);
+    }
+    return places_;
+}
+
+std::size_t CKeyValueStore::SetValue(const std::string& name, const std::string& value) {
+    const std::string line = assignment(name, value);
+    return characterCount(line) > kLongestLine ? lines_.size() : AddLine(line);
+}
+
+std::size_t CKeyValueStore::SetLongValue(const std::string& name, std::int32_t value) {
+    return SetValue(name, std::to_string(value));
+}
+
+bool CKeyValueStore::holds(const std::string& name, const std::string& value) {
+    const std::string line = assignment(name, value);
+    StoreLine tokens;
+    return characterCount(line) <= kLongestLine && line.find_first_of("\r\n") == std::string::npos &&
+           TokenizeLine(line, tokens) == 3 && tokens[0] == name && tokens[2] == value;
+}
+
+bool CKeyValueStore::GetValue(const std::string& name, std::string& value) const {
+    const auto found = values_.find(name);
+    if (found == values_.end())
+        return false;
+    value = found->second;
+    return true;
+}
+
+void CKeyValueStore::RemoveKey(const std::string& name) {
+    const auto found =
+        std::ranges::find_if(lines_, [&](const StoreLine& line) { return !line.empty() && line[0] == name; });
+    if (found != lines_.end())
+        RemoveLine(static_cast<std::size_t>(found - lines_.begin()));
+}
+
+void CKeyValueStore::RemoveKeys(std::unordered_set<std::string> names) {
+    std::erase_if(lines_, [&](const StoreLine& line) {
+        if (line.empty() || names.erase(line[0]) == 0)
+            return false;
+        values_.erase(line[0]);
+        return true;
+    });
+    placesAreValid_ = false;
+}
+
+void CKeyValueStore::RemoveLine(std::size_t index) {
+    if (index >= lines_.size())
+        return;
+    const auto line = lines_.begin() + static_cast<std::ptrdiff_t>(index);
+    if (!line->empty())
+        values_.erase((*line)[0]);
+    lines_.erase(line);
+    placesAreValid_ = false;
+}
+
+void CKeyValueStore::RemoveAll() {
+    lines_.clear();
+    values_.clear();
+    placesAreValid_ = false;
+}
+
+bool CKeyValueStore::Expand(const std::string& text, std::string& out) const {
+    std::string work = text;
+    for (int substitutions = 0; characterCount(work) <= kLongestExpansion; ++substitutions) {
+        const std::size_t opening = work.find(kOpening);
+        const std::size_t closing = work.find(')');
+        if (opening == std::string::npos || closing == std::string::npos) {
+            out = work;
+            return true;
+        }
+        std::string value;
+        if (closing < opening || substitutions == kMostSubstitutions ||
+            !GetValue(work.substr(opening + kOpening.size(), closing - opening - kOpening.size()), value))
+            return false;
+        work.replace(opening, closing + 1 - opening, value);
+    }
+    return false;
+}
+
+} // namespace dyeworks

@@ -1,0 +1,281 @@
+#include "project/CTPFDocument.h"
+
+#include "framework/DocumentTemplate.h"
+#include "platform/Platform.h"
+#include "platform/TextCase.h"
+#include "project/PathHelpers.h"
+
+#include <vector>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr const char* kExtension = ".tpf";
+constexpr const char* kFilter = "Project Files (*.tpf)|*.tpf||";
+constexpr std::string_view kModifiedMark = " *";
+
+MessageAnswer show(const std::string& text, MessageButtons buttons, MessageIcon icon) {
+    return platform().messages().show({text, "", buttons, icon, MessageOwner::MainWindow});
+}
+
+/// Whether the file can hold the folders of a project in this folder; if not, the user is told.
+bool foldersAreHeld(const ProjectSettings& settings) {
+    for (const std::string* folders : {&settings.imageDirectories, &settings.paletteDirectories}) {
+        std::string kept;
+        PathRelativeTo(kept, settings.projectDirectory, *folders);
+        if (!CKeyValueStore::holds("TMF_DIR", kept)) {
+            show(text(StringId::ProjectCannotHoldFolder, {displayPath(*folders)}), MessageButtons::Ok,
+                 MessageIcon::Stop);
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Folders without a root are inside the project's own.
+ProjectSettings absolute(ProjectSettings settings) {
+    PathAbsolute(settings.projectDirectory);
+    for (std::string* folder : {&settings.imageDirectories, &settings.paletteDirectories}) {
+        if (!folder->empty())
+            PathAbsolute(*folder, settings.projectDirectory);
+    }
+    return settings;
+}
+
+} // namespace
+
+CTPFDocument::CTPFDocument(ProjectHost& host, DocumentTemplate* documentTemplate)
+    : ProjectDocument(documentTemplate)
+    , host_(host) {
+    onRange(ID_EXPORT_FIRST, ID_EXPORT_LAST, &CTPFDocument::OnExport, &CTPFDocument::OnUpdateExport);
+}
+
+/// Only one project is open at a time.
+bool CTPFDocument::closeOther() {
+    if (host_.projectDocument() == nullptr)
+        return true;
+    return show(text(StringId::ProjectAlreadyOpened), MessageButtons::OkCancel, MessageIcon::Warning) ==
+               MessageAnswer::Ok &&
+           host_.CloseProject();
+}
+
+bool CTPFDocument::onNewDocument() {
+    if (!closeOther() || !CDocument::onNewDocument())
+        return false;
+    ProjectSettings settings{title(), platform().files().currentDirectory(), {}, {}};
+    do {
+        if (!host_.askNewProject(settings))
+            return false;
+    } while (!create(settings));
+    becomeOpen();
+    return true;
+}
+
+/// False when the user is to be asked again.
+bool CTPFDocument::create(const ProjectSettings& entered) {
+    const ProjectSettings settings = absolute(entered);
+    if (!settings.name.empty()) {
+        const std::size_t length = std::string_view(kExtension).size();
+        std::string path = settings.name;
+        if (path.size() < length || !equalIgnoringCase(path.substr(path.size() - length), kExtension))
+            path += kExtension;
+        PathAbsolute(path, settings.projectDirectory);
+        path = platform().files().fullPath(path);
+        if (platform().files().exists(path) &&
+            show(text(StringId::ProjectFileExists, {displayPath(path)}), MessageButtons::YesNo,
+                 MessageIcon::Warning) != MessageAnswer::Yes)
+            return false;
+        if (!foldersAreHeld(settings))
+            return false;
+        if (projectFile_.Create(path, settings.projectDirectory, settings.imageDirectories,
+                                settings.paletteDirectories)) {
+            if (write(path)) {
+                setPathName(path);
+                return true;
+            }
+            projectFile_.Clear();
+        }
+    }
+    show(text(StringId::IncorrectParameter), MessageButtons::Ok, MessageIcon::Stop);
+    return false;
+}
+
+void CTPFDocument::becomeOpen() {
+    host_.setProjectDocument(this);
+    host_.projectPlugIns().TPF_OnNew(plugInHandles_);
+}
+
+bool CTPFDocument::onOpenDocument(const std::string& path) {
+    if (!closeOther())
+        return false;
+    const auto file = platform().files().openForReading(path);
+    if (!file) {
+        applicationMessage(text(StringId::CannotOpenFile, {displayPath(path), describe(file.error())}));
+        return false;
+    }
+    if (!CDocument::onOpenDocument(path) || !projectFile_.Read(path)) {
+        applicationMessage(text(StringId::CannotReadFile, {displayPath(path)}));
+        return false;
+    }
+    setPathName(path);
+    becomeOpen();
+    host_.projectPlugIns().TPF_OnUpdate(plugInHandles_);
+    return true;
+}
+
+bool CTPFDocument::onSaveDocument(const std::string& path) {
+    std::string target = path;
+    if (target.empty()) {
+        FileDialogRequest request;
+        request.filter = kFilter;
+        request.defaultExtension = kExtension;
+        request.initialName = pathName();
+        request.hideReadOnly = true;
+        request.overwritePrompt = true;
+        const std::optional<std::string> chosen = platform().fileDialogs().save(request);
+        if (!chosen)
+            return false;
+        target = *chosen;
+    }
+    if (!write(target)) {
+        applicationMessage(text(StringId::CannotSaveProject, {displayPath(target)}));
+        return false;
+    }
+    if (path.empty())
+        setPathName(target);
+    return true;
+}
+
+bool CTPFDocument::write(const std::string& path) {
+    if (!projectFile_.Write(path))
+        return false;
+    setModified(false);
+    updateAllViews(nullptr, kHintSelection);
+    return true;
+}
+
+void CTPFDocument::onCloseDocument() {
+    if (host_.hasMainFrame())
+        closePictureFiles(host_.isClosingMainFrame());
+    host_.projectPlugIns().TPF_OnDelete(plugInHandles_);
+    if (host_.projectDocument() == this)
+        host_.setProjectDocument(nullptr);
+    CDocument::onCloseDocument();
+}
+
+void CTPFDocument::closePictureFiles(bool withoutAsking) {
+    std::vector<std::string> paths;
+    const auto add = [&](const std::string& directories, const std::string& name) {
+        if (std::string path = findFile(directories, name); !path.empty())
+            paths.push_back(std::move(path));
+    };
+    for (const std::string& name : projectFile_.order) {
+        PictureEntry entry;
+        if (!projectFile_.GetPicture(name, entry))
+            continue;
+        add(projectFile_.tmfDir, entry.tmfFile);
+        add(projectFile_.tlfDir, entry.tlfFile);
+    }
+    host_.ClosePictureDocuments(paths, withoutAsking);
+}
+
+/// Empty when there is no such file.
+std::string CTPFDocument::findFile(const std::string& directories, const std::string& name) const {
+    std::string path;
+    static_cast<void>(PathSearch(path, directories, name, true));
+    return path;
+}
+
+void CTPFDocument::setPathName(const std::string& path) {
+    CDocument::setPathName(path);
+    updateTitleMark();
+}
+
+void CTPFDocument::setModified(bool modified) {
+    CDocument::setModified(modified);
+    projectFile_.SetModified(modified);
+    updateTitleMark();
+}
+
+std::string CTPFDocument::displayName() const {
+    return pathName().empty() ? title() : CDocument::displayName();
+}
+
+void CTPFDocument::updateTitleMark() {
+    const bool marked = title().size() > kModifiedMark.size() && title().ends_with(kModifiedMark);
+    if (marked && !isModified())
+        setTitle(title().substr(0, title().size() - kModifiedMark.size()));
+    else if (!marked && isModified())
+        setTitle(title() + std::string(kModifiedMark));
+    if (host_.projectDocument() == this)
+        host_.ProjectRenamed();
+}
+
+bool CTPFDocument::EditProperties() {
+    ProjectSettings settings{title(), projectFile_.tpfDir, projectFile_.tmfDir, projectFile_.tlfDir};
+    do {
+        if (!host_.askProjectProperties(settings))
+            return false;
+    } while (!foldersAreHeld(absolute(settings)));
+    settings = absolute(settings);
+    projectFile_.SetDirectories(settings.projectDirectory, settings.imageDirectories,
+                                settings.paletteDirectories);
+    setModified(true);
+    return true;
+}
+
+bool CTPFDocument::GetValue(const std::string& key, std::string& value) const {
+    return projectFile_.store != nullptr && projectFile_.store->GetValue(key, value);
+}
+
+void CTPFDocument::SetValue(const std::string& key, const std::string& value) {
+    if (projectFile_.store == nullptr)
+        return;
+    projectFile_.store->SetValue(key, value);
+    setModified(true);
+}
+
+bool CTPFDocument::RemoveKey(const std::string& key) {
+    std::string value;
+    if (!GetValue(key, value))
+        return false;
+    projectFile_.store->RemoveKey(key);
+    setModified(true);
+    return true;
+}
+
+template <typename Change>
+bool CTPFDocument::changeNodes(Change change) {
+    for (DocumentView* view : std::vector(views())) {
+        if (auto* const nodes = dynamic_cast<ProjectNodes*>(view); nodes != nullptr && !change(*nodes))
+            return false;
+    }
+    return true;
+}
+
+bool CTPFDocument::AddNode(const std::string& text, std::int32_t image,
+                           const std::optional<std::string>& parent, const NodePlace& place) {
+    return changeNodes([&](ProjectNodes& nodes) { return nodes.AddNode(text, image, parent, place); });
+}
+
+bool CTPFDocument::RenameNode(const std::string& text, const NodePlace& node,
+                              const std::optional<std::string>& parent) {
+    return changeNodes([&](ProjectNodes& nodes) { return nodes.RenameNode(text, node, parent); });
+}
+
+bool CTPFDocument::RemoveNode(const NodePlace& node, const std::optional<std::string>& parent) {
+    return changeNodes([&](ProjectNodes& nodes) { return nodes.RemoveNode(node, parent); });
+}
+
+void CTPFDocument::OnExport(CommandId id) {
+    if (saveModified())
+        host_.projectPlugIns().TPF_Export(plugInHandles_, static_cast<std::int32_t>(id - ID_EXPORT_FIRST),
+                                          pathName());
+}
+
+void CTPFDocument::OnUpdateExport(CommandUi& ui) {
+    showListEntry(ui, ID_EXPORT_FIRST, host_.projectPlugIns().projectExportNames());
+}
+
+} // namespace dyeworks

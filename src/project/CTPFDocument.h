@@ -1,0 +1,109 @@
+#pragma once
+
+#include "framework/CommandTarget.h"
+#include "project/CTPFFile.h"
+#include "project/ProjectDocument.h"
+#include "project/ProjectHost.h"
+#include "project/ProjectNodes.h"
+#include "project/ProjectPlugIns.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace dyeworks {
+
+/// The document of a project. Nodes of its tree are named by their paths, such as "\Project\Picture\sky".
+class CTPFDocument : public ProjectDocument {
+public:
+    // Hints that views are updated with.
+    static constexpr int kHintSelection = 0; ///< The chosen picture is to be shown.
+    static constexpr int kHintPictures = 1;  ///< Besides, the pictures have changed.
+
+    /// `host` must outlive the document.
+    explicit CTPFDocument(ProjectHost& host, DocumentTemplate* documentTemplate = nullptr);
+
+    [[nodiscard]] ProjectHost& host() const noexcept { return host_; }
+    [[nodiscard]] const CTPFFile& projectFile() const noexcept { return projectFile_; }
+    [[nodiscard]] CTPFFile& projectFile() noexcept { return projectFile_; }
+    /// What the plug-ins that handle nodes keep for this project.
+    [[nodiscard]] const PlugInHandles& plugInHandles() const noexcept { return plugInHandles_; }
+
+    /// Asks what the project is to be like and writes its file at once.
+    bool onNewDocument() override;
+    bool onOpenDocument(const std::string& path) override;
+    /// Saved under another name, the project is that file's.
+    bool onSaveDocument(const std::string& path) override;
+    /// Closes the images and palettes of its pictures, after one question unless the program is being left.
+    void onCloseDocument() override;
+    void setPathName(const std::string& path) override;
+    void setModified(bool modified) override;
+    [[nodiscard]] std::string displayName() const override;
+
+    // Pictures. What the user is shown may be cancelled; the result is then false.
+    [[nodiscard]] std::string imageDirectory() const override { return projectFile_.tmfDir; }
+    [[nodiscard]] std::vector<std::string> pictureNames() const override { return projectFile_.order; }
+    [[nodiscard]] bool GetPicture(const std::string& name, PictureEntry& entry) const override {
+        return projectFile_.GetPicture(name, entry);
+    }
+    bool AddPicture(const std::optional<std::string>& name, const std::string& imageFile,
+                    const std::string& paletteFile, std::int32_t paletteNumber,
+                    const std::optional<std::string>& after, bool silent) override;
+    bool ChangePicture(const std::string& name) override;
+    bool RemovePicture(const std::string& name) override;
+    bool OpenPicture(const std::string& name) override;
+    bool EditProperties() override;
+
+    // What the tree asks.
+    /// Opens the picture, if the node is one.
+    void OnNodeDoubleClick(const std::string& node);
+    /// The node as the text that a drag carries, "path=values". False for a node that cannot be dragged.
+    [[nodiscard]] bool NodeToString(const std::string& node, std::string& text) const;
+    /// What dropping the data on the node would do (`drop_effect`). No data: nothing that is text.
+    [[nodiscard]] std::uint32_t DragOverNode(const std::string& target,
+                                             const std::optional<std::string>& data,
+                                             std::uint32_t keyState) const;
+    /// Carries out the drop of one line or several. False when nothing may be dropped there.
+    bool DropOnNode(const std::string& target, const std::optional<std::string>& data, std::uint32_t effect);
+
+    // What plug-ins ask. Changes count as unsaved.
+    bool GetValue(const std::string& key, std::string& value) const;
+    void SetValue(const std::string& key, const std::string& value);
+    /// False when there is no such key.
+    bool RemoveKey(const std::string& key);
+    // In every tree of the project; false as soon as one fails.
+    bool AddNode(const std::string& text, std::int32_t image, const std::optional<std::string>& parent,
+                 const NodePlace& place);
+    bool RenameNode(const std::string& text, const NodePlace& node, const std::optional<std::string>& parent);
+    bool RemoveNode(const NodePlace& node, const std::optional<std::string>& parent);
+    /// False for a picture that the file could not hold.
+    bool SetPicture(const std::string& name, PictureEntry entry);
+
+private:
+    [[nodiscard]] bool closeOther();
+    void becomeOpen();
+    [[nodiscard]] bool create(const ProjectSettings& settings);
+    [[nodiscard]] bool write(const std::string& path);
+    void updateTitleMark();
+    void closePictureFiles(bool withoutAsking);
+    [[nodiscard]] std::string findFile(const std::string& directories, const std::string& name) const;
+    [[nodiscard]] std::string freeName(const std::string& proposed) const;
+    bool askForPicture(PictureSettings& settings, const std::string& ownName);
+    [[nodiscard]] PictureField check(const PictureSettings& settings, const std::string& ownName) const;
+    void picturesChanged();
+    void dropLine(const std::string& target, const std::string& line, std::uint32_t effect);
+    void dropPicture(const std::string& target, std::string_view name, const std::string& value,
+                     std::uint32_t effect);
+    template <typename Change>
+    bool changeNodes(Change change);
+    void OnExport(CommandId id);
+    void OnUpdateExport(CommandUi& ui);
+
+    ProjectHost& host_;
+    CTPFFile projectFile_;
+    PlugInHandles plugInHandles_;
+};
+
+} // namespace dyeworks

@@ -1,0 +1,270 @@
+#include "core/PaletteSet.h"
+#include "paint/CDyeworksDoc.h"
+#include "platform/Platform.h"
+#include "project/CTPFDocument.h"
+#include "project/PathHelpers.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdlib>
+#include <vector>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr const char* kFirstName = "Picture0";
+
+constexpr std::string_view kBelowProject = "\\Project\\";
+constexpr std::string_view kPictures = "\\Project\\Picture\\";
+constexpr std::string_view kPictureNodes = "\\Project\\Picture";
+
+MessageAnswer ask(const std::string& text) {
+    return platform().messages().show(
+        {text, "", MessageButtons::YesNo, MessageIcon::Question, MessageOwner::MainWindow});
+}
+
+void tell(const std::string& text) {
+    platform().messages().show(
+        {text, "", MessageButtons::Ok, MessageIcon::Warning, MessageOwner::MainWindow});
+}
+
+/// The name of the picture that the node is; nothing for any other node.
+std::optional<std::string> pictureOf(const std::string& node) {
+    if (!node.starts_with(kPictures))
+        return std::nullopt;
+    return node.substr(kPictures.size());
+}
+
+/// Whether a picture may be given the name: the file can hold it, and so can the paths of nodes.
+bool isPictureName(const std::string& name) {
+    return !name.empty() && name.find_first_of("=\\") == name.npos && CTPFFile::holdsPicture(name, {});
+}
+
+/// What is dragged, by the text that the drag carries.
+std::string keyOf(const std::string& data) {
+    const std::size_t equals = data.find('=');
+    return equals == std::string::npos || equals == 0 ? data : data.substr(0, equals);
+}
+
+bool canBeTarget(const std::string& target, const std::optional<std::string>& data) {
+    return data.has_value() && target.starts_with(kBelowProject);
+}
+
+} // namespace
+
+/// The proposed name, or the first one of the same stem with a number behind it that no picture has.
+std::string CTPFDocument::freeName(const std::string& proposed) const {
+    std::string name = proposed.empty() ? kFirstName : proposed;
+    std::string base = name;
+    std::uint64_t next = 0;
+    const std::size_t digits = name.find_last_not_of("0123456789") + 1;
+    std::uint64_t number = 0;
+    // A number beyond all counting is a part of the name.
+    if (digits < name.size() &&
+        std::from_chars(name.data() + digits, name.data() + name.size(), number).ec == std::errc()) {
+        base = name.substr(0, digits);
+        next = number + 1;
+    }
+    while (projectFile_.pictures.contains(name))
+        name = base + std::to_string(next++);
+    return name;
+}
+
+bool CTPFDocument::AddPicture(const std::optional<std::string>& name, const std::string& imageFile,
+                              const std::string& paletteFile, std::int32_t paletteNumber,
+                              const std::optional<std::string>& after, bool silent) {
+    PictureSettings settings{freeName(name.value_or("")),
+                             fileNameIn(projectFile_.tmfDir, imageFile),
+                             fileNameIn(projectFile_.tlfDir, paletteFile),
+                             paletteNumber,
+                             projectFile_.tmfDir,
+                             projectFile_.tlfDir};
+    if (!silent && !askForPicture(settings, ""))
+        return false;
+    PictureEntry entry{settings.imageFile, settings.paletteFile, settings.paletteNumber};
+    if (!CTPFFile::holdsPicture(settings.name, entry))
+        return false;
+    projectFile_.SetPicture(settings.name, entry, after);
+    picturesChanged();
+    return true;
+}
+
+bool CTPFDocument::ChangePicture(const std::string& name) {
+    // A copy: the name may belong to what changes below.
+    const std::string oldName = name;
+    PictureEntry entry;
+    if (!projectFile_.GetPicture(oldName, entry))
+        return false;
+    PictureSettings settings{oldName,         entry.tmfFile,       entry.tlfFile,
+                             entry.paletteNo, projectFile_.tmfDir, projectFile_.tlfDir};
+    if (!askForPicture(settings, oldName))
+        return false;
+    entry = {settings.imageFile, settings.paletteFile, settings.paletteNumber};
+    if (settings.name != oldName)
+        projectFile_.RemovePicture(oldName);
+    projectFile_.SetPicture(settings.name, entry, std::nullopt);
+    picturesChanged();
+    return true;
+}
+
+bool CTPFDocument::askForPicture(PictureSettings& settings, const std::string& ownName) {
+    return host_.askPicture(settings,
+                            [&](const PictureSettings& entered) { return check(entered, ownName); });
+}
+
+/// The field that does not do, which the user has been told. `ownName`: the picture that is changed.
+PictureField CTPFDocument::check(const PictureSettings& settings, const std::string& ownName) const {
+    const PictureEntry entry{fileNameIn(projectFile_.tmfDir, settings.imageFile),
+                             fileNameIn(projectFile_.tlfDir, settings.paletteFile), settings.paletteNumber};
+    if (!isPictureName(settings.name)) {
+        tell(text(StringId::PictureNameCannotBeHeld));
+        return PictureField::Name;
+    }
+    if (!CTPFFile::holdsPicture("", {entry.tmfFile, "", 0})) {
+        tell(text(StringId::FileNameCannotBeHeld, {displayPath(settings.imageFile)}));
+        return PictureField::Image;
+    }
+    if (!CTPFFile::holdsPicture("", {"", entry.tlfFile, 0})) {
+        tell(text(StringId::FileNameCannotBeHeld, {displayPath(settings.paletteFile)}));
+        return PictureField::Palette;
+    }
+    if (!CTPFFile::holdsPicture(settings.name, entry)) {
+        tell(text(StringId::PictureNamesAreTooLong));
+        return PictureField::Name;
+    }
+    if (settings.name != ownName && projectFile_.pictures.contains(settings.name) &&
+        ask(text(StringId::ReplacePictureQuestion, {settings.name})) != MessageAnswer::Yes)
+        return PictureField::Name;
+    return PictureField::None;
+}
+
+bool CTPFDocument::RemovePicture(const std::string& name) {
+    const std::string picture = name;
+    if (!projectFile_.RemovePicture(picture))
+        return false;
+    picturesChanged();
+    return true;
+}
+
+void CTPFDocument::picturesChanged() {
+    setModified(true);
+    updateAllViews(nullptr, kHintPictures);
+    host_.ProjectChanged();
+}
+
+bool CTPFDocument::SetPicture(const std::string& name, PictureEntry entry) {
+    entry.tmfFile = fileNameIn(projectFile_.tmfDir, entry.tmfFile);
+    entry.tlfFile = fileNameIn(projectFile_.tlfDir, entry.tlfFile);
+    if (!isPictureName(name) || !CTPFFile::holdsPicture(name, entry))
+        return false;
+    projectFile_.SetPicture(name, entry, std::nullopt);
+    picturesChanged();
+    return true;
+}
+
+bool CTPFDocument::OpenPicture(const std::string& name) {
+    PictureEntry entry;
+    if (!projectFile_.GetPicture(name, entry))
+        return false;
+    const auto find = [this](const std::string& directories, const std::string& file) {
+        std::string path = findFile(directories, file);
+        if (path.empty())
+            tell(text(StringId::FileIsNotFound, {displayPath(file)}));
+        return path;
+    };
+    const std::string palette = find(projectFile_.tlfDir, entry.tlfFile);
+    const bool paletteIsOpen = !palette.empty() && host_.openPalette(palette);
+    const std::string imagePath = find(projectFile_.tmfDir, entry.tmfFile);
+    CDyeworksDoc* const image = imagePath.empty() ? nullptr : host_.openImage(imagePath);
+    if (image == nullptr)
+        return true;
+    PaletteSet* const set = image->host().paletteSet();
+    if (paletteIsOpen && set != nullptr) {
+        // Opening an image that is attached already has made another palette the current one.
+        set->setCurrent(palette);
+        image->Attach();
+        host_.SetPaletteBarNumber(entry.paletteNo);
+    }
+    return true;
+}
+
+void CTPFDocument::OnNodeDoubleClick(const std::string& node) {
+    const std::optional<std::string> picture = pictureOf(node);
+    if (picture && projectFile_.pictures.contains(*picture))
+        OpenPicture(*picture);
+}
+
+bool CTPFDocument::NodeToString(const std::string& node, std::string& text) const {
+    if (!node.starts_with(kBelowProject))
+        return false;
+    const std::optional<std::string> picture = pictureOf(node);
+    if (!picture)
+        return host_.projectPlugIns().TPF_ToString(plugInHandles_, node, text);
+    PictureEntry entry;
+    if (!projectFile_.GetPicture(*picture, entry))
+        return false;
+    text = node + "=" + entry.tmfFile + "," + entry.tlfFile + "," + std::to_string(entry.paletteNo);
+    return true;
+}
+
+std::uint32_t CTPFDocument::DragOverNode(const std::string& target, const std::optional<std::string>& data,
+                                         std::uint32_t keyState) const {
+    if (!canBeTarget(target, data))
+        return drop_effect::kNone;
+    const std::string dragged = keyOf(*data);
+    if (!target.starts_with(kPictureNodes))
+        return host_.projectPlugIns().TPF_IsDroppable(plugInHandles_, target, dragged, keyState);
+    if (!dragged.starts_with(kPictures))
+        return drop_effect::kNone;
+    if ((keyState & drag_key::kControl) != 0)
+        return drop_effect::kCopy;
+    return dragged == target ? drop_effect::kNone : drop_effect::kMove;
+}
+
+bool CTPFDocument::DropOnNode(const std::string& target, const std::optional<std::string>& data,
+                              std::uint32_t effect) {
+    if (!canBeTarget(target, data))
+        return false;
+    std::vector<std::string> lines;
+    SplitFields(*data, "\n", lines);
+    for (const std::string& line : lines)
+        dropLine(target, line, effect);
+    return true;
+}
+
+void CTPFDocument::dropLine(const std::string& target, const std::string& line, std::uint32_t effect) {
+    StoreLine tokens;
+    // The names of nodes may have letters that keys of the file have not.
+    const std::size_t count = line.starts_with(kBelowProject) ? TokenizeLine(line, kBelowProject, tokens)
+                                                              : TokenizeLine(line, tokens);
+    if (count != 3)
+        return;
+    const std::optional<std::string> picture = pictureOf(tokens[0]);
+    if (!target.starts_with(kPictureNodes))
+        host_.projectPlugIns().TPF_OnDrop(plugInHandles_, target, tokens[0], tokens[2], effect);
+    else if (picture)
+        dropPicture(target, *picture, tokens[2], effect);
+}
+
+void CTPFDocument::dropPicture(const std::string& target, std::string_view name, const std::string& value,
+                               std::uint32_t effect) {
+    const std::size_t first = std::min(value.find(','), value.size());
+    const std::size_t second = std::min(value.find(',', first + 1), value.size());
+    const auto between = [&](std::size_t from, std::size_t to) {
+        return from < to ? value.substr(from, to - from) : std::string();
+    };
+    const std::string image = value.substr(0, first);
+    const std::string palette = between(first + 1, second);
+    const std::string number = between(second + 1, value.size());
+    const std::string picture(name);
+    const auto palettes = static_cast<std::int32_t>(std::strtol(number.c_str(), nullptr, 10));
+    // Before anything is taken away.
+    if (!CTPFFile::holdsPicture(picture, {image, palette, palettes}))
+        return;
+    if ((effect & drop_effect::kMove) != 0)
+        RemovePicture(picture);
+    AddPicture(picture, image, palette, palettes, pictureOf(target), true);
+}
+
+} // namespace dyeworks

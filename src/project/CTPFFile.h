@@ -1,0 +1,67 @@
+#pragma once
+
+#include "project/CKeyValueStore.h"
+#include "project/PictureEntry.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace dyeworks {
+
+/// A project in memory: its folders, its pictures in their order, and whatever else stands in its file.
+class CTPFFile {
+public:
+    /// A new project in these folders; for images and palettes, empty means the project's own. False when a
+    /// folder does not exist, which the user has been told.
+    bool Create(const std::string& path, const std::string& tpfFolder, const std::string& tmfFolder,
+                const std::string& tlfFolder);
+    /// Forgets the file. Pictures and folders stay.
+    void Clear();
+    /// Reads a project. False when there are unsaved changes, which it would overwrite, and when the file
+    /// cannot be read.
+    bool Read(const std::string& path);
+    /// Writes the project, which is then that file's. False when it has nothing to write, when an entry is
+    /// too long to be read again, or when the file cannot be written.
+    bool Write(const std::string& path);
+
+    /// Sets the folders that exist. Of others it tells the user, and returns false.
+    bool SetDirectories(const std::string& tpfFolder, const std::string& tmfFolder,
+                        const std::string& tlfFolder);
+
+    /// Puts a picture behind the one called `after`, or at the head, in the place of one of its own name. Its
+    /// file names become relative to the project's folders, in `entry` too. Always true.
+    bool SetPicture(const std::string& name, PictureEntry& entry, const std::optional<std::string>& after);
+    /// False when there is no such picture.
+    bool RemovePicture(const std::string& name);
+    [[nodiscard]] bool GetPicture(const std::string& name, PictureEntry& entry) const;
+    /// In their order. The result is their number.
+    std::size_t GetPictureNames(std::vector<std::string>& names) const;
+
+    [[nodiscard]] bool IsModified() const noexcept { return modified; }
+    void SetModified(bool isModified) noexcept { modified = isModified; }
+
+    /// Whether the file can hold a picture like this one and give it back.
+    [[nodiscard]] static bool holdsPicture(const std::string& name, const PictureEntry& entry);
+
+    std::unordered_map<std::string, PictureEntry> pictures;
+    std::vector<std::string> order;
+    std::string pathName;
+    std::string tpfDir; ///< The project file's folder.
+    std::string tmfDir; ///< Absolute; several folders, separated by ";", are all looked in.
+    std::string tlfDir;
+    std::unique_ptr<CKeyValueStore> store; ///< Null while there is no file.
+    std::string projectName;
+    bool modified = false;
+
+private:
+    bool takeFolder(const char* entry, const std::string& folder, std::string& directory,
+                    std::string& errors);
+    void readFolder(const char* entry, std::string& directory) const;
+    void readPictures();
+    [[nodiscard]] std::string expanded(const std::string& value) const;
+};
+
+} // namespace dyeworks

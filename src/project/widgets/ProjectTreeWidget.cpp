@@ -1,0 +1,274 @@
+#include "project/widgets/ProjectTreeWidget.h"
+
+#include "framework/widgets/ChildFrame.h"
+#include "platform/Platform.h"
+#include "project/CTPFDocument.h"
+#include "project/PathHelpers.h"
+#include "project/PictureImage.h"
+#include "project/widgets/DragCursors.h"
+#include "project/widgets/PictureThumbnail.h"
+
+#include <QBuffer>
+#include <QContextMenuEvent>
+#include <QDrag>
+#include <QHelpEvent>
+#include <QMimeData>
+#include <QPainter>
+#include <QToolTip>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr QPoint kMenuPlace{5, 5};
+constexpr int kMarkHeight = 2;
+/// Of the picture in a tip.
+constexpr QSize kTipRoom{128, 128};
+constexpr std::string_view kPictures = "\\Project\\Picture\\";
+
+std::optional<std::string> textOf(const QMimeData* data) {
+    if (data == nullptr || !data->hasText())
+        return std::nullopt;
+    return data->text().toStdString();
+}
+
+std::uint32_t keysOf(Qt::KeyboardModifiers modifiers) {
+    return (modifiers.testFlag(Qt::ShiftModifier) ? drag_key::kShift : 0U) |
+           (modifiers.testFlag(Qt::ControlModifier) ? drag_key::kControl : 0U);
+}
+
+Qt::DropAction actionOf(std::uint32_t effect) {
+    if ((effect & drop_effect::kMove) != 0)
+        return Qt::MoveAction;
+    if ((effect & drop_effect::kCopy) != 0)
+        return Qt::CopyAction;
+    return (effect & drop_effect::kLink) != 0 ? Qt::LinkAction : Qt::IgnoreAction;
+}
+
+QString imageTag(const QImage& image) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (image.isNull() || !image.save(&buffer, "PNG"))
+        return {};
+    return QStringLiteral("<br><img src=\"data:image/png;base64,%1\">")
+        .arg(QString::fromLatin1(bytes.toBase64()));
+}
+
+} // namespace
+
+ProjectTreeWidget::ProjectTreeWidget(CTPFDocument& document, QWidget* parent)
+    : QTreeView(parent)
+    , view_(document, *this)
+    , model_(view_.tree()) {
+    setObjectName(QStringLiteral("projectTree"));
+    setAccessibleName(QString::fromStdString(text(StringId::BarProject)));
+    setModel(&model_);
+    setHeaderHidden(true);
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setEditTriggers(NoEditTriggers);
+    setDragEnabled(true);
+    setAcceptDrops(true);
+    setDropIndicatorShown(false);
+    setFrameShape(NoFrame);
+}
+
+ProjectTreeWidget::~ProjectTreeWidget() {
+    // Before the nodes go.
+    setModel(nullptr);
+}
+
+void ProjectTreeWidget::initialUpdate(ChildFrame& frame) {
+    frame_ = &frame;
+    view_.InitialUpdate();
+}
+
+void ProjectTreeWidget::closing(ChildFrame& /*frame*/) {
+    view_.Closing();
+    frame_ = nullptr;
+}
+
+bool ProjectTreeWidget::isExpanded(const ProjectNode& node) const {
+    return QTreeView::isExpanded(model_.indexOf(&node));
+}
+
+void ProjectTreeWidget::expand(const ProjectNode& node) {
+    QTreeView::expand(model_.indexOf(&node));
+}
+
+void ProjectTreeWidget::select(const ProjectNode* node) {
+    setCurrentIndex(model_.indexOf(node));
+}
+
+std::optional<WindowPlacement> ProjectTreeWidget::placement() const {
+    return frame_ == nullptr ? std::nullopt : std::optional(frame_->placement());
+}
+
+void ProjectTreeWidget::setPlacement(const WindowPlacement& placement) {
+    if (frame_ != nullptr)
+        frame_->setPlacement(placement);
+}
+
+void ProjectTreeWidget::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTreeView::currentChanged(current, previous);
+    view_.SelectionChanged(ProjectTreeModel::nodeOf(current));
+}
+
+QModelIndex ProjectTreeWidget::rowAt(const QPoint& point) const {
+    const QModelIndex index = indexAt(point);
+    if (!index.isValid() || !model_.hasChildren(index))
+        return index;
+    const int left = visualRect(index).left();
+    const bool onButton = index.parent().isValid() && point.x() < left && point.x() >= left - indentation();
+    return onButton ? QModelIndex() : index;
+}
+
+void ProjectTreeWidget::mousePressEvent(QMouseEvent* event) {
+    // The right button selects as well, for the menu that follows.
+    if (const QModelIndex index = rowAt(event->position().toPoint()); index.isValid())
+        setCurrentIndex(index);
+    QTreeView::mousePressEvent(event);
+}
+
+void ProjectTreeWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    QTreeView::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton && rowAt(event->position().toPoint()).isValid())
+        view_.DoubleClicked();
+}
+
+void ProjectTreeWidget::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        view_.DoubleClicked();
+    else
+        QTreeView::keyPressEvent(event);
+}
+
+bool ProjectTreeWidget::event(QEvent* event) {
+    // A letter leads to the node that begins with it, not to a command of the program.
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        const Qt::KeyboardModifiers beside = key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+        if (beside == Qt::NoModifier && !key.text().isEmpty() && key.text().front().isPrint()) {
+            event->accept();
+            return true;
+        }
+    }
+    return QTreeView::event(event);
+}
+
+void ProjectTreeWidget::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    Q_EMIT contextMenuRequested(byKey ? viewport()->mapToGlobal(kMenuPlace) : event->globalPos());
+}
+
+bool ProjectTreeWidget::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QTreeView::viewportEvent(event);
+    const auto& help = *static_cast<QHelpEvent*>(event);
+    const QModelIndex index = indexAt(help.pos());
+    const QString tip = tipOf(index);
+    if (tip.isEmpty())
+        QToolTip::hideText();
+    else
+        QToolTip::showText(help.globalPos(), tip, viewport(), visualRect(index));
+    return true;
+}
+
+/// Of a picture: its name, its files and how it looks.
+QString ProjectTreeWidget::tipOf(const QModelIndex& index) const {
+    std::string path;
+    const ProjectNode* const node = ProjectTreeModel::nodeOf(index);
+    if (!view_.tree().GetNodePath(node, path) || !path.starts_with(kPictures))
+        return {};
+    const CTPFFile& file = view_.document().projectFile();
+    PictureEntry entry;
+    if (!file.GetPicture(path.substr(kPictures.size()), entry))
+        return {};
+    std::string image;
+    std::string palette;
+    QImage thumbnail;
+    if (PathSearch(image, file.tmfDir, entry.tmfFile, true) &&
+        PathSearch(palette, file.tlfDir, entry.tlfFile, true)) {
+        if (const auto canvas = readPicture(image, palette, entry.paletteNo))
+            thumbnail = thumbnailOf(*canvas, kTipRoom);
+    }
+    return QStringLiteral("<b>%1</b><br>%2 + %3 (%4)%5")
+        .arg(QString::fromStdString(node->text).toHtmlEscaped(),
+             QString::fromStdString(entry.tmfFile).toHtmlEscaped(),
+             QString::fromStdString(entry.tlfFile).toHtmlEscaped(), QString::number(entry.paletteNo),
+             imageTag(thumbnail));
+}
+
+void ProjectTreeWidget::startDrag(Qt::DropActions /*supported*/) {
+    const std::optional<std::string> text = view_.dragData();
+    if (!text)
+        return;
+    auto* carried = new QMimeData;
+    carried->setText(QString::fromStdString(*text));
+    auto* drag = new QDrag(this);
+    drag->setMimeData(carried);
+    for (const Qt::DropAction action : {Qt::MoveAction, Qt::CopyAction, Qt::LinkAction})
+        drag->setDragCursor(dragCursor(action, devicePixelRatioF()), action);
+    drag->exec(Qt::CopyAction | Qt::MoveAction | Qt::LinkAction, Qt::MoveAction);
+}
+
+void ProjectTreeWidget::dragEnterEvent(QDragEnterEvent* event) {
+    setDropMark({});
+    dragOver(*event);
+    // Further moves are wanted even where nothing may be dropped.
+    event->accept();
+}
+
+void ProjectTreeWidget::dragMoveEvent(QDragMoveEvent* event) {
+    // For the scrolling at the edges; what it thinks of the drop does not count.
+    QTreeView::dragMoveEvent(event);
+    dragOver(*event);
+}
+
+void ProjectTreeWidget::dragLeaveEvent(QDragLeaveEvent* event) {
+    QTreeView::dragLeaveEvent(event);
+    setDropMark({});
+}
+
+void ProjectTreeWidget::dropEvent(QDropEvent* event) {
+    const std::uint32_t effect = dragOver(*event);
+    const ProjectNode* const node = ProjectTreeModel::nodeOf(rowAt(event->position().toPoint()));
+    QDragLeaveEvent over;
+    dragLeaveEvent(&over);
+    if (effect == drop_effect::kNone)
+        return;
+    // The data, because the drop may change the nodes it came from.
+    const std::optional<std::string> dropped = textOf(event->mimeData());
+    view_.Drop(node, dropped, effect);
+}
+
+/// What a drop here would do, which the event is answered with.
+std::uint32_t ProjectTreeWidget::dragOver(QDropEvent& event) {
+    const QModelIndex index = rowAt(event.position().toPoint());
+    setDropMark(index);
+    const std::uint32_t effect =
+        view_.DragOver(ProjectTreeModel::nodeOf(index), textOf(event.mimeData()), keysOf(event.modifiers()));
+    event.setDropAction(actionOf(effect));
+    event.setAccepted(effect != drop_effect::kNone);
+    return effect;
+}
+
+void ProjectTreeWidget::setDropMark(const QModelIndex& index) {
+    if (dropMark_ == index)
+        return;
+    dropMark_ = index;
+    viewport()->update();
+}
+
+void ProjectTreeWidget::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    if (!dropMark_.isValid())
+        return;
+    const QRect row = visualRect(dropMark_);
+    QPainter painter(viewport());
+    // White takes every colour to its opposite.
+    painter.setCompositionMode(QPainter::CompositionMode_Difference);
+    painter.fillRect(0, row.bottom(), viewport()->width(), kMarkHeight, Qt::white);
+}
+
+} // namespace dyeworks

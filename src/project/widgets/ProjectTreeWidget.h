@@ -1,0 +1,65 @@
+#pragma once
+
+#include "framework/widgets/FrameView.h"
+#include "project/CTPFTreeView.h"
+#include "project/ProjectTreeWindow.h"
+#include "project/widgets/ProjectTreeModel.h"
+
+#include <QTreeView>
+
+namespace dyeworks {
+
+/// The widget of a project's tree.
+class ProjectTreeWidget : public QTreeView, public FrameView, private ProjectTreeWindow {
+    Q_OBJECT
+
+public:
+    /// The document must outlive the widget.
+    explicit ProjectTreeWidget(CTPFDocument& document, QWidget* parent = nullptr);
+    ~ProjectTreeWidget() override;
+
+    [[nodiscard]] CTPFTreeView& view() noexcept { return view_; }
+
+    CommandTarget& commandTarget() override { return view_; }
+    DocumentView& documentView() override { return view_; }
+    void initialUpdate(ChildFrame& frame) override;
+    void closing(ChildFrame& frame) override;
+
+Q_SIGNALS:
+    void contextMenuRequested(const QPoint& global);
+
+protected:
+    bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void startDrag(Qt::DropActions supported) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    [[nodiscard]] bool isExpanded(const ProjectNode& node) const override;
+    void expand(const ProjectNode& node) override;
+    void select(const ProjectNode* node) override;
+    [[nodiscard]] std::optional<WindowPlacement> placement() const override;
+    void setPlacement(const WindowPlacement& placement) override;
+
+    /// The node on whose row the point of the viewport lies, other than on the button that opens it.
+    [[nodiscard]] QModelIndex rowAt(const QPoint& point) const;
+    std::uint32_t dragOver(QDropEvent& event);
+    void setDropMark(const QModelIndex& index);
+    [[nodiscard]] QString tipOf(const QModelIndex& index) const;
+
+    ChildFrame* frame_ = nullptr;
+    QPersistentModelIndex dropMark_; ///< The node that a drop would go to.
+    CTPFTreeView view_;
+    ProjectTreeModel model_;
+};
+
+} // namespace dyeworks

@@ -1,0 +1,118 @@
+#include "ui/ApplicationProjectHost.h"
+
+#include "platform/Platform.h"
+#include "ui/CDyeworksApp.h"
+#include "ui/CFileNewProjectPage.h"
+#include "ui/CFileNewSheet.h"
+#include "ui/CMainFrame.h"
+#include "ui/CPictureDlg.h"
+#include "ui/ProjectPropertySheet.h"
+
+namespace dyeworks {
+
+namespace {
+
+CFileNewProjectPage::Values valuesOf(const ProjectSettings& settings) {
+    return {settings.name, settings.projectDirectory, settings.imageDirectories, settings.paletteDirectories};
+}
+
+ProjectSettings settingsOf(const CFileNewProjectPage::Values& values) {
+    return {values.name, values.projectDirectory, values.imageDirectories, values.paletteDirectories};
+}
+
+} // namespace
+
+ProjectDocument* ApplicationProjectHost::projectDocument() const {
+    return application_.projectDocument();
+}
+
+void ApplicationProjectHost::setProjectDocument(ProjectDocument* project) {
+    application_.setProjectDocument(project);
+}
+
+bool ApplicationProjectHost::CloseProject() {
+    return application_.CloseProject();
+}
+
+void ApplicationProjectHost::ProjectChanged() {
+    if (hasMainFrame())
+        application_.mainFrame().ProjectChanged();
+}
+
+void ApplicationProjectHost::ProjectRenamed() {
+    if (hasMainFrame())
+        application_.mainFrame().ProjectRenamed();
+}
+
+void ApplicationProjectHost::SelectPicture(const std::string& name) {
+    if (hasMainFrame())
+        application_.mainFrame().SelectPicture(name);
+}
+
+bool ApplicationProjectHost::askNewProject(ProjectSettings& settings) {
+    CFileNewSheet sheet(&application_.mainFrame());
+    CFileNewProjectPage& page = sheet.projectPage();
+    sheet.keepOnly(page);
+    page.setValues(valuesOf(settings));
+    if (sheet.exec() != QDialog::Accepted)
+        return false;
+    settings = settingsOf(page.values());
+    return true;
+}
+
+bool ApplicationProjectHost::askProjectProperties(ProjectSettings& settings) {
+    ProjectPropertySheet sheet(valuesOf(settings), &application_.mainFrame());
+    if (sheet.exec() != QDialog::Accepted)
+        return false;
+    settings = settingsOf(sheet.values());
+    return true;
+}
+
+bool ApplicationProjectHost::askPicture(PictureSettings& settings,
+                                        const std::function<PictureField(const PictureSettings&)>& check) {
+    CPictureDlg dialog(settings, check, &application_.mainFrame());
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    settings = dialog.settings();
+    return true;
+}
+
+bool ApplicationProjectHost::openPalette(const std::string& path) {
+    return static_cast<bool>(application_.OpenDocumentFile(path));
+}
+
+CDyeworksDoc* ApplicationProjectHost::openImage(const std::string& path) {
+    return dynamic_cast<CDyeworksDoc*>(application_.OpenDocumentFile(path).document());
+}
+
+void ApplicationProjectHost::ClosePictureDocuments(const std::vector<std::string>& paths, bool force) {
+    application_.ClosePictureDocuments(paths, force);
+}
+
+bool ApplicationProjectHost::hasMainFrame() const {
+    return application_.hasMainFrame();
+}
+
+bool ApplicationProjectHost::isClosingMainFrame() const {
+    return hasMainFrame() && application_.mainFrame().isClosing();
+}
+
+void ApplicationProjectHost::SetPaletteBarNumber(std::int32_t number) {
+    if (!hasMainFrame())
+        return;
+    application_.mainFrame().RefreshPaletteBar();
+    application_.mainFrame().SetPaletteBarNumber(number);
+}
+
+void ApplicationProjectHost::runCommand(std::uint32_t command) {
+    application_.router().run(command);
+}
+
+std::uint32_t ApplicationProjectHost::TPF_Export(const PlugInHandles& /*handles*/, std::int32_t /*index*/,
+                                                 const std::string& /*projectPath*/) {
+    platform().messages().show({"TPF Export Plug-In not installed.\n", "", MessageButtons::Ok,
+                                MessageIcon::None, MessageOwner::MainWindow});
+    return 0;
+}
+
+} // namespace dyeworks
