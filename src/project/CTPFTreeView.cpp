@@ -13,6 +13,8 @@ namespace {
 
 constexpr std::string_view kPictures = "\\Project\\Picture\\";
 constexpr const char* kCountEntry = "count";
+/// Expanded nodes that are remembered; damaged settings may tell of more than there are.
+constexpr int kMostExpanded = 65536;
 
 /// What a node command is for the pictures, and for the project itself; 0 for none.
 constexpr CommandId pictureCommand(NodeCommand command) {
@@ -53,9 +55,9 @@ CTPFTreeView::~CTPFTreeView() {
 }
 
 void CTPFTreeView::InitialUpdate() {
-    ProjectNode& project = tree_.insert(nullptr, ProjectTree::kEnd, "Project", kProjectImage);
-    pictureNode_ = &tree_.insert(&project, ProjectTree::kEnd, "Picture", kPicturesImage);
-    window_.expand(project);
+    projectNode_ = &tree_.insert(nullptr, ProjectTree::kEnd, "Project", kProjectImage);
+    pictureNode_ = &tree_.insert(projectNode_, ProjectTree::kEnd, "Picture", kPicturesImage);
+    window_.expand(*projectNode_);
     document_.host().projectPlugIns().TPF_OnUpdateNodes(document_.plugInHandles());
     update(nullptr, CTPFDocument::kHintPictures);
     restoreWindow();
@@ -75,48 +77,51 @@ void CTPFTreeView::restoreWindow() {
     window_.setPlacement(*placement);
     const Profile& profile = platform().profile();
     const std::string section = sectionOf(key);
-    const int count = profile.integer(section, kCountEntry, 0);
+    const int count = std::min(profile.integer(section, kCountEntry, 0), kMostExpanded);
     for (int i = 0; i < count; ++i) {
         const std::optional<std::string> path = profile.text(section, std::to_string(i));
-        // Settings that were damaged may tell of more than there are.
-        if (!path)
-            break;
-        if (const ProjectNode* const node = tree_.FindNode(*path))
+        const ProjectNode* const node = path ? tree_.FindNode(*path) : nullptr;
+        if (node != nullptr)
             window_.expand(*node);
     }
 }
 
-/// Calls `visit` with the nodes that no closed node hides, from above to below.
+/// Calls `visit` with the nodes that no closed node hides, from the project's on.
 template <typename Visit>
 void CTPFTreeView::forEachVisible(Visit visit) const {
+    if (projectNode_ == nullptr)
+        return;
     std::vector<const ProjectNode*> waiting;
-    const auto push = [&](const std::vector<std::unique_ptr<ProjectNode>>& nodes) {
-        for (auto node = nodes.rbegin(); node != nodes.rend(); ++node)
-            waiting.push_back(node->get());
+    const auto push = [&](const std::vector<std::unique_ptr<ProjectNode>>& nodes, std::size_t first) {
+        for (std::size_t i = nodes.size(); i > first; --i)
+            waiting.push_back(nodes[i - 1].get());
     };
-    push(tree_.topNodes());
+    push(tree_.childrenOf(projectNode_->parent), tree_.rowOf(*projectNode_));
     while (!waiting.empty()) {
         const ProjectNode& node = *waiting.back();
         waiting.pop_back();
         visit(node);
         if (window_.isExpanded(node))
-            push(node.children);
+            push(node.children, 0);
     }
 }
 
 void CTPFTreeView::Closing() {
     const std::string key = settingsKey();
-    const std::optional<WindowPlacement> placement = window_.placement();
-    if (key.empty() || !placement)
+    if (key.empty())
         return;
-    writeWindowPlacement(key, *placement);
+    if (const std::optional<WindowPlacement> placement = window_.placement())
+        writeWindowPlacement(key, *placement);
     Profile& profile = platform().profile();
     const std::string section = sectionOf(key);
     int count = 0;
     forEachVisible([&](const ProjectNode& node) {
+        if (count == kMostExpanded || !window_.isExpanded(node))
+            return;
         std::string path;
-        if (window_.isExpanded(node) && tree_.GetNodePath(&node, path))
-            profile.setText(section, std::to_string(count++), path);
+        // Also of nodes beside the first top node, for which it is false.
+        static_cast<void>(tree_.GetNodePath(&node, path));
+        profile.setText(section, std::to_string(count++), path);
     });
     profile.setInteger(section, kCountEntry, count);
 }
@@ -129,45 +134,57 @@ void CTPFTreeView::update(DocumentView* /*sender*/, int hint) {
 
 /// The selection stays on its picture, and moves to the next one when that is gone.
 void CTPFTreeView::fillPictures() {
-    const bool selectedIsPicture = selected_ != nullptr && selected_->parent == pictureNode_;
-    const std::string text = selectedIsPicture ? selected_->text : std::string();
-    const std::size_t row = selectedIsPicture ? tree_.rowOf(*selected_) : 0;
-    if (selectedIsPicture)
-        selected_ = nullptr;
-    tree_.replaceChildren(*pictureNode_, document_.pictureNames(), kPictureImage);
-    if (!selectedIsPicture)
+    const std::optional<std::string> picture = selectedPicture();
+    const std::size_t row = picture ? tree_.rowOf(*tree_.selected()) : 0;
+    tree_.setChildren(*pictureNode_, document_.pictureNames(), kPictureImage);
+    if (!picture || selectPicture(*picture))
         return;
     const auto& pictures = pictureNode_->children;
-    const auto same = std::ranges::find(pictures, text, [](const auto& node) { return node->text; });
-    if (same != pictures.end())
-        window_.select(same->get());
-    else
-        window_.select(pictures.empty() ? pictureNode_ : pictures[std::min(row, pictures.size() - 1)].get());
+    window_.select(pictures.empty() ? pictureNode_ : pictures[std::min(row, pictures.size() - 1)].get());
+}
+
+/// Nothing unless a child of the picture node is selected.
+std::optional<std::string> CTPFTreeView::selectedPicture() const {
+    const ProjectNode* const node = tree_.selected();
+    if (node == nullptr || pictureNode_ == nullptr || node->parent != pictureNode_)
+        return std::nullopt;
+    return node->text;
+}
+
+/// False when there is no such picture.
+bool CTPFTreeView::selectPicture(const std::string& name) {
+    if (selectedPicture() == name)
+        return true;
+    const auto& pictures = pictureNode_->children;
+    const auto same = std::ranges::find(pictures, name, [](const auto& node) { return node->text; });
+    if (same == pictures.end())
+        return false;
+    window_.select(same->get());
+    return true;
 }
 
 void CTPFTreeView::chooseSelectedPicture() {
     std::string path;
-    if (!tree_.GetNodePath(selected_, path) || path.size() <= kPictures.size() ||
-        !equalIgnoringCase(path.substr(0, kPictures.size()), kPictures))
-        return;
-    document_.host().SelectPicture(path.substr(kPictures.size()));
+    if (tree_.GetNodePath(tree_.selected(), path) && path.size() >= kPictures.size() &&
+        equalIgnoringCase(std::string_view(path).substr(0, kPictures.size()), kPictures))
+        document_.host().SelectPicture(path.substr(kPictures.size()));
 }
 
 void CTPFTreeView::SelectionChanged(const ProjectNode* node) {
-    selected_ = node;
+    tree_.setSelected(node);
     update(nullptr, CTPFDocument::kHintSelection);
 }
 
 void CTPFTreeView::DoubleClicked() {
     std::string path;
-    if (tree_.GetNodePath(selected_, path))
+    if (tree_.GetNodePath(tree_.selected(), path))
         document_.OnNodeDoubleClick(path);
 }
 
 std::optional<std::string> CTPFTreeView::dragData() const {
     std::string path;
     std::string text;
-    if (!tree_.GetNodePath(selected_, path) || !document_.NodeToString(path, text))
+    if (!tree_.GetNodePath(tree_.selected(), path) || !document_.NodeToString(path, text))
         return std::nullopt;
     return text;
 }
@@ -181,7 +198,14 @@ std::uint32_t CTPFTreeView::DragOver(const ProjectNode* node, const std::optiona
 bool CTPFTreeView::Drop(const ProjectNode* node, const std::optional<std::string>& data,
                         std::uint32_t effect) {
     std::string path;
-    return tree_.GetNodePath(node, path) && document_.DropOnNode(path, data, effect);
+    if (!tree_.GetNodePath(node, path))
+        return false;
+    const std::optional<std::string> picture = selectedPicture();
+    const bool dropped = document_.DropOnNode(path, data, effect);
+    // A picture that was moved had to go before it could come again.
+    if (picture)
+        selectPicture(*picture);
+    return dropped;
 }
 
 bool CTPFTreeView::AddNode(const std::string& text, std::int32_t image,
@@ -195,21 +219,14 @@ bool CTPFTreeView::RenameNode(const std::string& text, const NodePlace& node,
 }
 
 bool CTPFTreeView::RemoveNode(const NodePlace& node, const std::optional<std::string>& parent) {
-    if (!tree_.RemoveNode(node, parent))
+    const ProjectNode* const going = tree_.nodeAt(node, parent);
+    if (going == nullptr)
         return false;
-    if (!tree_.holds(selected_))
-        selected_ = nullptr;
-    if (!tree_.holds(pictureNode_))
-        pictureNode_ = nullptr;
-    return true;
-}
-
-void CTPFTreeView::ClassifyNode(bool& isProject, bool& isPicture, std::string& path) const {
-    path.clear();
-    static_cast<void>(tree_.GetNodePath(selected_, path));
-    const NodeKind kind = kindOfNode(path);
-    isProject = kind.isProject;
-    isPicture = kind.isPicture;
+    for (ProjectNode** kept : {&projectNode_, &pictureNode_}) {
+        if (isWithin(*kept, going))
+            *kept = nullptr;
+    }
+    return tree_.RemoveNode(node, parent);
 }
 
 template <NodeCommand kCommand>
@@ -246,8 +263,8 @@ void CTPFTreeView::OnUpdateNodeCommand(CommandUi& ui) {
     else if (isPicture)
         ui.enabled = pictureCommand(kCommand) != 0;
     else
-        ui.enabled = selected_ != nullptr && document_.host().projectPlugIns().TPF_QueryCommand(
-                                                 document_.plugInHandles(), path, kCommand);
+        ui.enabled = tree_.selected() != nullptr && document_.host().projectPlugIns().TPF_QueryCommand(
+                                                        document_.plugInHandles(), path, kCommand);
 }
 
 } // namespace dyeworks

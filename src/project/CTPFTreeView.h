@@ -31,7 +31,6 @@ public:
     [[nodiscard]] CTPFDocument& document() const noexcept { return document_; }
     [[nodiscard]] ProjectTree& tree() noexcept { return tree_; }
     [[nodiscard]] const ProjectTree& tree() const noexcept { return tree_; }
-    [[nodiscard]] const ProjectNode* selected() const noexcept { return selected_; }
 
     // What the window tells the view.
     /// Once, when it can be asked: makes the nodes, and brings back what was expanded when the project was
@@ -63,11 +62,14 @@ public:
     bool RenameNode(const std::string& text, const NodePlace& node,
                     const std::optional<std::string>& parent) override;
     bool RemoveNode(const NodePlace& node, const std::optional<std::string>& parent) override;
-    /// What the selected node is, and its path, empty when none is selected.
-    void ClassifyNode(bool& isProject, bool& isPicture, std::string& path) const;
+    void ClassifyNode(bool& isProject, bool& isPicture, std::string& path) const {
+        tree_.ClassifyNode(isProject, isPicture, path);
+    }
 
 private:
     void fillPictures();
+    bool selectPicture(const std::string& name);
+    [[nodiscard]] std::optional<std::string> selectedPicture() const;
     void chooseSelectedPicture();
     void restoreWindow();
     [[nodiscard]] std::string settingsKey() const;
@@ -84,8 +86,9 @@ private:
     CTPFDocument& document_;
     ProjectTreeWindow& window_;
     ProjectTree tree_;
-    ProjectNode* pictureNode_ = nullptr; ///< Null also when a plug-in has removed it.
-    const ProjectNode* selected_ = nullptr;
+    // Null also when a plug-in has removed them.
+    ProjectNode* projectNode_ = nullptr;
+    ProjectNode* pictureNode_ = nullptr;
 };
 
 } // namespace dyeworks

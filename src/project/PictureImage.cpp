@@ -29,10 +29,9 @@ std::unique_ptr<TextureCanvas> readPicture(const std::string& imagePath, const s
     auto canvas = std::unique_ptr<TextureCanvas>(new (std::nothrow) TextureCanvas(image.value()));
     if (canvas == nullptr || canvas->block().empty())
         return nullptr;
-    // A palette without so many banks shows its first.
-    const std::int32_t first = kBankSize * paletteNumber;
-    const TextureLookupTable palette(table.value());
-    canvas->ApplyPalette(palette, first + kBankSize <= table.value().count ? first : 0);
+    // A palette without such a bank shows its first.
+    const bool isBank = paletteNumber >= 0 && paletteNumber < table.value().count / kBankSize;
+    canvas->ApplyPalette(TextureLookupTable(table.value()), isBank ? kBankSize * paletteNumber : 0);
     return canvas;
 }
 

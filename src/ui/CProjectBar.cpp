@@ -23,7 +23,7 @@ namespace {
 
 constexpr const char* kNoPicture = "(no picture)";
 constexpr int kListLetters = 16; // That the list has room for.
-constexpr int kButtonLetters = 20;
+constexpr int kButtonLetters = 30;
 constexpr qsizetype kTipLetters = 127;
 
 QString shown(StringId id) {

@@ -14,17 +14,13 @@ constexpr std::array<const char*, CTPFTreeView::kImageCount> kIcons{
     "node-pictures", "node-folder",  "node-note", "node-mark", "node-project",
     "node-picture",  "node-palette", "node-link", "node-value"};
 
-QIcon iconOf(std::int32_t image) {
-    if (image < 0 || image >= CTPFTreeView::kImageCount)
-        return {};
-    return commandIcon(QString::fromLatin1(kIcons.at(static_cast<std::size_t>(image))));
-}
-
 } // namespace
 
 ProjectTreeModel::ProjectTreeModel(ProjectTree& tree, QObject* parent)
     : QAbstractItemModel(parent)
     , tree_(tree) {
+    for (const char* const name : kIcons)
+        icons_.push_back(commandIcon(QString::fromLatin1(name)));
     tree_.setListener(this);
 }
 
@@ -66,8 +62,9 @@ QVariant ProjectTreeModel::data(const QModelIndex& index, int role) const {
         return {};
     if (role == Qt::DisplayRole)
         return QString::fromStdString(node->text);
-    if (role == Qt::DecorationRole)
-        return iconOf(node->image);
+    // Plug-ins may number icons that there are not.
+    if (role == Qt::DecorationRole && node->image >= 0 && node->image < CTPFTreeView::kImageCount)
+        return icons_[static_cast<std::size_t>(node->image)];
     return {};
 }
 

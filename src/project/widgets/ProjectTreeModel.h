@@ -3,6 +3,9 @@
 #include "project/ProjectTree.h"
 
 #include <QAbstractItemModel>
+#include <QIcon>
+
+#include <vector>
 
 namespace dyeworks {
 
@@ -35,6 +38,7 @@ private:
     void nodeRenamed(const ProjectNode& node) override;
 
     ProjectTree& tree_;
+    std::vector<QIcon> icons_; ///< By their index in a node.
 };
 
 } // namespace dyeworks

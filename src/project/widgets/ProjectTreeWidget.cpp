@@ -22,7 +22,8 @@ namespace {
 
 constexpr QPoint kMenuPlace{5, 5};
 constexpr int kMarkHeight = 2;
-/// Of the picture in a tip.
+constexpr QSize kIconSize{16, 16};
+/// Of the picture in a tip, in pixels of a ratio of 1.
 constexpr QSize kTipRoom{128, 128};
 constexpr std::string_view kPictures = "\\Project\\Picture\\";
 
@@ -45,13 +46,15 @@ Qt::DropAction actionOf(std::uint32_t effect) {
     return (effect & drop_effect::kLink) != 0 ? Qt::LinkAction : Qt::IgnoreAction;
 }
 
-QString imageTag(const QImage& image) {
+QString imageTag(const QImage& image, qreal devicePixelRatio) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     if (image.isNull() || !image.save(&buffer, "PNG"))
         return {};
-    return QStringLiteral("<br><img src=\"data:image/png;base64,%1\">")
-        .arg(QString::fromLatin1(bytes.toBase64()));
+    const QSize size = (QSizeF(image.size()) / devicePixelRatio).toSize();
+    return QStringLiteral("<br><img width=\"%1\" height=\"%2\" src=\"data:image/png;base64,%3\">")
+        .arg(QString::number(size.width()), QString::number(size.height()),
+             QString::fromLatin1(bytes.toBase64()));
 }
 
 } // namespace
@@ -65,6 +68,7 @@ ProjectTreeWidget::ProjectTreeWidget(CTPFDocument& document, QWidget* parent)
     setModel(&model_);
     setHeaderHidden(true);
     setRootIsDecorated(false);
+    setIconSize(kIconSize);
     setUniformRowHeights(true);
     setEditTriggers(NoEditTriggers);
     setDragEnabled(true);
@@ -112,6 +116,12 @@ void ProjectTreeWidget::setPlacement(const WindowPlacement& placement) {
 void ProjectTreeWidget::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTreeView::currentChanged(current, previous);
     view_.SelectionChanged(ProjectTreeModel::nodeOf(current));
+}
+
+/// Whatever keys are held, one node is selected, and it is the current one.
+QItemSelectionModel::SelectionFlags ProjectTreeWidget::selectionCommand(const QModelIndex& index,
+                                                                        const QEvent* /*event*/) const {
+    return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 
 QModelIndex ProjectTreeWidget::rowAt(const QPoint& point) const {
@@ -174,15 +184,20 @@ bool ProjectTreeWidget::viewportEvent(QEvent* event) {
     return true;
 }
 
-/// Of a picture: its name, its files and how it looks.
 QString ProjectTreeWidget::tipOf(const QModelIndex& index) const {
     std::string path;
-    const ProjectNode* const node = ProjectTreeModel::nodeOf(index);
-    if (!view_.tree().GetNodePath(node, path) || !path.starts_with(kPictures))
+    if (!view_.GetNodePath(ProjectTreeModel::nodeOf(index), path))
         return {};
+    if (kindOfNode(path).isProject)
+        return QString::fromStdString(displayPath(view_.document().pathName()));
+    return path.starts_with(kPictures) ? pictureTip(path.substr(kPictures.size())) : QString();
+}
+
+/// The picture's name, its files and how it looks.
+QString ProjectTreeWidget::pictureTip(const std::string& name) const {
     const CTPFFile& file = view_.document().projectFile();
     PictureEntry entry;
-    if (!file.GetPicture(path.substr(kPictures.size()), entry))
+    if (!file.GetPicture(name, entry))
         return {};
     std::string image;
     std::string palette;
@@ -190,13 +205,13 @@ QString ProjectTreeWidget::tipOf(const QModelIndex& index) const {
     if (PathSearch(image, file.tmfDir, entry.tmfFile, true) &&
         PathSearch(palette, file.tlfDir, entry.tlfFile, true)) {
         if (const auto canvas = readPicture(image, palette, entry.paletteNo))
-            thumbnail = thumbnailOf(*canvas, kTipRoom);
+            thumbnail = thumbnailOf(*canvas, kTipRoom * devicePixelRatioF());
     }
     return QStringLiteral("<b>%1</b><br>%2 + %3 (%4)%5")
-        .arg(QString::fromStdString(node->text).toHtmlEscaped(),
-             QString::fromStdString(entry.tmfFile).toHtmlEscaped(),
-             QString::fromStdString(entry.tlfFile).toHtmlEscaped(), QString::number(entry.paletteNo),
-             imageTag(thumbnail));
+        .arg(QString::fromStdString(name).toHtmlEscaped(),
+             QString::fromStdString(displayPath(entry.tmfFile)).toHtmlEscaped(),
+             QString::fromStdString(displayPath(entry.tlfFile)).toHtmlEscaped(),
+             QString::number(entry.paletteNo), imageTag(thumbnail, devicePixelRatioF()));
 }
 
 void ProjectTreeWidget::startDrag(Qt::DropActions /*supported*/) {
@@ -232,20 +247,20 @@ void ProjectTreeWidget::dragLeaveEvent(QDragLeaveEvent* event) {
 
 void ProjectTreeWidget::dropEvent(QDropEvent* event) {
     const std::uint32_t effect = dragOver(*event);
-    const ProjectNode* const node = ProjectTreeModel::nodeOf(rowAt(event->position().toPoint()));
+    // The view scrolls no more, and the mark goes.
     QDragLeaveEvent over;
     dragLeaveEvent(&over);
-    if (effect == drop_effect::kNone)
-        return;
-    // The data, because the drop may change the nodes it came from.
-    const std::optional<std::string> dropped = textOf(event->mimeData());
-    view_.Drop(node, dropped, effect);
+    const ProjectNode* const node = ProjectTreeModel::nodeOf(rowAt(event->position().toPoint()));
+    if (effect == drop_effect::kNone || !view_.Drop(node, textOf(event->mimeData()), effect))
+        event->ignore();
 }
 
 /// What a drop here would do, which the event is answered with.
 std::uint32_t ProjectTreeWidget::dragOver(QDropEvent& event) {
     const QModelIndex index = rowAt(event.position().toPoint());
-    setDropMark(index);
+    // Between nodes the mark stays where it was.
+    if (index.isValid())
+        setDropMark(index);
     const std::uint32_t effect =
         view_.DragOver(ProjectTreeModel::nodeOf(index), textOf(event.mimeData()), keysOf(event.modifiers()));
     event.setDropAction(actionOf(effect));

@@ -7,6 +7,10 @@
 
 #include <QTreeView>
 
+#include <cstdint>
+#include <optional>
+#include <string>
+
 namespace dyeworks {
 
 /// The widget of a project's tree.
@@ -37,6 +41,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                                       const QEvent* event) const override;
     void startDrag(Qt::DropActions supported) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
@@ -55,6 +61,7 @@ private:
     std::uint32_t dragOver(QDropEvent& event);
     void setDropMark(const QModelIndex& index);
     [[nodiscard]] QString tipOf(const QModelIndex& index) const;
+    [[nodiscard]] QString pictureTip(const std::string& name) const;
 
     ChildFrame* frame_ = nullptr;
     QPersistentModelIndex dropMark_; ///< The node that a drop would go to.
