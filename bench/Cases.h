@@ -6,5 +6,6 @@ void registerCanvasCases();
 void registerDocumentCases();
 void registerDrawCases();
 void registerFileCases();
+void registerProjectCases();
 
 } // namespace dyeworks

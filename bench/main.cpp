@@ -14,6 +14,7 @@ int main(int argc, char** argv) {
     dyeworks::registerDocumentCases();
     dyeworks::registerDrawCases();
     dyeworks::registerFileCases();
+    dyeworks::registerProjectCases();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

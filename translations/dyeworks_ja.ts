@@ -1625,5 +1625,45 @@ Do you want to replace it?</source>
         <source>The project and its pictures, each an image with a palette. Double-click a picture to open it; drag it to another place, with Ctrl for a copy.</source>
         <translation>プロジェクトと、そのピクチャー（画像とパレットの組）です。ダブルクリックで開きます。ドラッグで移動し、Ctrlを押しながらドラッグすると複製します。</translation>
     </message>
+    <message>
+        <source>The plug-in %1 failed.</source>
+        <translation>プラグイン %1 でエラーが起きました。</translation>
+    </message>
+    <message>
+        <source>PlugIns</source>
+        <translation>プラグイン</translation>
+    </message>
+    <message>
+        <source>The folder of the plug-ins, which the program reads when it starts</source>
+        <translation>プラグインのフォルダー（起動時に読み込まれます）</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>Company</source>
+        <translation>会社</translation>
+    </message>
+    <message>
+        <source>The plug-ins that are loaded</source>
+        <translation>読み込まれているプラグイン</translation>
+    </message>
 </context>
 </TS>

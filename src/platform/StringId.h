@@ -182,6 +182,16 @@ enum class StringId {
     PicturePreview,
     PicturePreviewTip,
     HelpProjectTree,
+    PlugInFailed, ///< %1 file
+    AboutPlugIns,
+    AboutPlugInsTip,
+    AboutName,
+    AboutType,
+    AboutFile,
+    AboutVersionColumn,
+    AboutInformation,
+    AboutCompany,
+    AboutPlugInList,
 
     Count
 };

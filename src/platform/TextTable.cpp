@@ -258,6 +258,17 @@ constexpr std::array kRows{
             "Text",
             "The project and its pictures, each an image with a palette. Double-click a picture to open "
             "it; drag it to another place, with Ctrl for a copy.")},
+    Row{StringId::PlugInFailed, QT_TRANSLATE_NOOP("Text", "The plug-in %1 failed.")},
+    Row{StringId::AboutPlugIns, QT_TRANSLATE_NOOP("Text", "PlugIns")},
+    Row{StringId::AboutPlugInsTip,
+        QT_TRANSLATE_NOOP("Text", "The folder of the plug-ins, which the program reads when it starts")},
+    Row{StringId::AboutName, QT_TRANSLATE_NOOP("Text", "Name")},
+    Row{StringId::AboutType, QT_TRANSLATE_NOOP("Text", "Type")},
+    Row{StringId::AboutFile, QT_TRANSLATE_NOOP("Text", "File")},
+    Row{StringId::AboutVersionColumn, QT_TRANSLATE_NOOP("Text", "Version")},
+    Row{StringId::AboutInformation, QT_TRANSLATE_NOOP("Text", "Information")},
+    Row{StringId::AboutCompany, QT_TRANSLATE_NOOP("Text", "Company")},
+    Row{StringId::AboutPlugInList, QT_TRANSLATE_NOOP("Text", "The plug-ins that are loaded")},
 };
 
 static_assert(kRows.size() == static_cast<std::size_t>(StringId::Count), "every StringId needs its text");

@@ -245,27 +245,33 @@ bool CTPFDocument::RemoveKey(const std::string& key) {
     return true;
 }
 
+/// `withoutTree`: the result while the project has no tree.
 template <typename Change>
-bool CTPFDocument::changeNodes(Change change) {
+bool CTPFDocument::changeNodes(bool withoutTree, Change change) {
+    bool result = withoutTree;
     for (DocumentView* view : std::vector(views())) {
-        if (auto* const nodes = dynamic_cast<ProjectNodes*>(view); nodes != nullptr && !change(*nodes))
-            return false;
+        auto* const nodes = dynamic_cast<ProjectNodes*>(view);
+        if (nodes == nullptr)
+            continue;
+        result = change(*nodes);
+        if (!result)
+            break;
     }
-    return true;
+    return result;
 }
 
 bool CTPFDocument::AddNode(const std::string& text, std::int32_t image,
                            const std::optional<std::string>& parent, const NodePlace& place) {
-    return changeNodes([&](ProjectNodes& nodes) { return nodes.AddNode(text, image, parent, place); });
+    return changeNodes(true, [&](ProjectNodes& nodes) { return nodes.AddNode(text, image, parent, place); });
 }
 
 bool CTPFDocument::RenameNode(const std::string& text, const NodePlace& node,
                               const std::optional<std::string>& parent) {
-    return changeNodes([&](ProjectNodes& nodes) { return nodes.RenameNode(text, node, parent); });
+    return changeNodes(false, [&](ProjectNodes& nodes) { return nodes.RenameNode(text, node, parent); });
 }
 
 bool CTPFDocument::RemoveNode(const NodePlace& node, const std::optional<std::string>& parent) {
-    return changeNodes([&](ProjectNodes& nodes) { return nodes.RemoveNode(node, parent); });
+    return changeNodes(false, [&](ProjectNodes& nodes) { return nodes.RemoveNode(node, parent); });
 }
 
 void CTPFDocument::OnExport(CommandId id) {

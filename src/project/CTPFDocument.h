@@ -73,7 +73,7 @@ public:
     void SetValue(const std::string& key, const std::string& value);
     /// False when there is no such key.
     bool RemoveKey(const std::string& key);
-    // In every tree of the project; false as soon as one fails.
+    // In every tree of the project; false as soon as one fails, and when there is no tree to find a node in.
     bool AddNode(const std::string& text, std::int32_t image, const std::optional<std::string>& parent,
                  const NodePlace& place);
     bool RenameNode(const std::string& text, const NodePlace& node, const std::optional<std::string>& parent);
@@ -97,7 +97,7 @@ private:
     void dropPicture(const std::string& target, std::string_view name, const std::string& value,
                      std::uint32_t effect);
     template <typename Change>
-    bool changeNodes(Change change);
+    bool changeNodes(bool withoutTree, Change change);
     void OnExport(CommandId id);
     void OnUpdateExport(CommandUi& ui);
 

@@ -5,7 +5,10 @@
 #include "core/TmfFormat.h"
 #include "platform/Platform.h"
 
+#include <array>
+#include <cstddef>
 #include <new>
+#include <span>
 
 namespace dyeworks {
 
@@ -13,17 +16,21 @@ namespace {
 
 /// Entries of a palette that a 4-bit image shows.
 constexpr std::int32_t kBankSize = 16;
+/// Bytes that are read while somebody waits for a small picture.
+constexpr std::uint64_t kLargestImage = std::uint64_t{65} << 20;
 
 } // namespace
 
 std::unique_ptr<TextureCanvas> readPicture(const std::string& imagePath, const std::string& palettePath,
                                            std::int32_t paletteNumber) {
     const auto imageFile = platform().files().openForReading(imagePath);
-    const auto paletteFile = platform().files().read(palettePath);
-    if (!imageFile || !paletteFile)
+    const auto paletteFile = platform().files().openForReading(palettePath);
+    if (!imageFile || !paletteFile || imageFile.value()->size() > kLargestImage)
         return nullptr;
+    std::array<std::byte, kLargestTlfSize> bytes;
+    const std::size_t count = paletteFile.value()->read(bytes);
     const Result<TmfImage, TmfError> image = parseTmf(*imageFile.value());
-    const Result<TlutData, TlfError> table = parseTlf(paletteFile.value().bytes());
+    const Result<TlutData, TlfError> table = parseTlf(std::span(bytes).first(count));
     if (!image || !table)
         return nullptr;
     auto canvas = std::unique_ptr<TextureCanvas>(new (std::nothrow) TextureCanvas(image.value()));

@@ -2,14 +2,25 @@
 
 #include <QDialog>
 
+class QTreeWidget;
+
 namespace dyeworks {
 
-/// What the program is and which version of it runs.
+class PlugInCatalogue;
+
+/// What the program is, which version of it runs, and which plug-ins it has loaded. Opened with Shift, it
+/// names who made it instead.
 class AboutDialog : public QDialog {
     Q_OBJECT
 
 public:
-    explicit AboutDialog(QWidget* parent = nullptr);
+    AboutDialog(const PlugInCatalogue& plugIns, QWidget* parent = nullptr);
+
+private:
+    void listPlugIns(const PlugInCatalogue& plugIns);
+    void listCredits();
+
+    QTreeWidget* list_;
 };
 
 } // namespace dyeworks

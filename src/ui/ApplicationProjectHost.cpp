@@ -1,6 +1,5 @@
 #include "ui/ApplicationProjectHost.h"
 
-#include "platform/Platform.h"
 #include "ui/CDyeworksApp.h"
 #include "ui/CFileNewProjectPage.h"
 #include "ui/CFileNewSheet.h"
@@ -21,6 +20,10 @@ ProjectSettings settingsOf(const CFileNewProjectPage::Values& values) {
 }
 
 } // namespace
+
+ProjectPlugIns& ApplicationProjectHost::projectPlugIns() {
+    return application_.projectPlugIns();
+}
 
 ProjectDocument* ApplicationProjectHost::projectDocument() const {
     return application_.projectDocument();
@@ -106,13 +109,6 @@ void ApplicationProjectHost::SetPaletteBarNumber(std::int32_t number) {
 
 void ApplicationProjectHost::runCommand(std::uint32_t command) {
     application_.router().run(command);
-}
-
-std::uint32_t ApplicationProjectHost::TPF_Export(const PlugInHandles& /*handles*/, std::int32_t /*index*/,
-                                                 const std::string& /*projectPath*/) {
-    platform().messages().show({"TPF Export Plug-In not installed.\n", "", MessageButtons::Ok,
-                                MessageIcon::None, MessageOwner::MainWindow});
-    return 0;
 }
 
 } // namespace dyeworks

@@ -17,14 +17,6 @@
 
 namespace dyeworks {
 
-namespace {
-
-void tellNotInstalled(const char* text) {
-    platform().messages().show({text, "", MessageButtons::Ok, MessageIcon::None, MessageOwner::MainWindow});
-}
-
-} // namespace
-
 CDyeworksApp::CDyeworksApp(StartUpParts parts)
     : parts_(std::move(parts))
     , router_([this] { return commandChain(); })
@@ -276,25 +268,6 @@ bool CDyeworksApp::isActiveImage(const CDyeworksDoc& document) const {
 CDyeworksView* CDyeworksApp::activeView() const {
     ImageView* view = mainFrame_ == nullptr ? nullptr : mainFrame_->activeImageView();
     return view == nullptr ? nullptr : &view->view();
-}
-
-std::unique_ptr<TextureCanvas> CDyeworksApp::ImportImage(std::int32_t /*index*/, TmfImage* /*image*/,
-                                                         TlutData* /*palette*/,
-                                                         std::int32_t /*paletteNumber*/) {
-    tellNotInstalled("TMF Import Plug-In not installed.\n");
-    return nullptr;
-}
-
-bool CDyeworksApp::ExportImage(std::int32_t /*index*/, TmfImage* /*image*/, TlutData* /*palette*/,
-                               std::int32_t /*paletteNumber*/) {
-    tellNotInstalled("TMF Export Plug-In not installed.\n");
-    return false;
-}
-
-std::uint32_t CDyeworksApp::PreviewImage(TmfImage* /*image*/, TlutData* /*palette*/,
-                                         std::int32_t /*paletteNumber*/, std::int32_t /*which*/) {
-    tellNotInstalled("TMF Preview Plug-In not installed.\n");
-    return 0;
 }
 
 std::optional<PaletteBarHost::Image> CDyeworksApp::activeImage() const {

@@ -6,7 +6,10 @@
 #include "framework/RecentFileList.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/ImageHost.h"
-#include "paint/ImagePlugIns.h"
+#include "plugin/ImagePlugInCalls.h"
+#include "plugin/PlugInCatalogue.h"
+#include "plugin/ProjectPlugInCalls.h"
+#include "ui/ApplicationPlugInHost.h"
 #include "ui/ApplicationProjectHost.h"
 #include "ui/OpenRequestQueue.h"
 #include "ui/OpenedFile.h"
@@ -30,11 +33,7 @@ struct CommandLine;
 /// The application: starts and stops the program, owns the open palettes, the kinds of documents, the recent
 /// files and the main window, opens files by their kind and carries out the commands that belong to no
 /// window. The platform is installed before it is made; there is one at a time.
-class CDyeworksApp : public CommandTarget,
-                     public ImageHost,
-                     public ImagePlugIns,
-                     public PaletteBarHost,
-                     private DocumentWindows {
+class CDyeworksApp : public CommandTarget, public ImageHost, public PaletteBarHost, private DocumentWindows {
 public:
     explicit CDyeworksApp(StartUpParts parts = {});
     ~CDyeworksApp() override;
@@ -98,6 +97,8 @@ public:
     /// Closes the images and palettes of these paths that are open. Unless `force` is set, asks once before
     /// the first; No leaves them all open.
     void ClosePictureDocuments(const std::vector<std::string>& paths, bool force);
+    /// Shows the About box until the user closes it.
+    void ShowAbout();
     /// Opens a file with the desktop's program for it, such as a help page. `relativePath` starts from the
     /// program's folder.
     void ShowHelp(const std::string& relativePath);
@@ -126,21 +127,15 @@ public:
     void setStatusText(const std::string& text, int pane) override;
     [[nodiscard]] bool isActiveImage(const CDyeworksDoc& document) const override;
     [[nodiscard]] CDyeworksView* activeView() const override;
-    [[nodiscard]] ImagePlugIns& imagePlugIns() override { return *this; }
+    [[nodiscard]] ImagePlugIns& imagePlugIns() override { return imagePlugIns_; }
     [[nodiscard]] OpenProject* openProject() override;
     [[nodiscard]] std::optional<NewImage> askNewImage() override;
     void AskUseProject() override;
     [[nodiscard]] bool keepsImageSettings() const override { return keepsImageSettings_; }
 
-    // The image plug-ins. None is installed.
-    [[nodiscard]] std::vector<std::string> importNames() const override { return {}; }
-    [[nodiscard]] std::vector<std::string> exportNames() const override { return {}; }
-    [[nodiscard]] std::unique_ptr<TextureCanvas>
-    ImportImage(std::int32_t index, TmfImage* image, TlutData* palette, std::int32_t paletteNumber) override;
-    bool ExportImage(std::int32_t index, TmfImage* image, TlutData* palette,
-                     std::int32_t paletteNumber) override;
-    [[nodiscard]] std::uint32_t PreviewImage(TmfImage* image, TlutData* palette, std::int32_t paletteNumber,
-                                             std::int32_t which) override;
+    // The plug-ins.
+    [[nodiscard]] const PlugInCatalogue& plugIns() const noexcept { return plugIns_; }
+    [[nodiscard]] ProjectPlugIns& projectPlugIns() noexcept { return projectPlugIns_; }
 
     // What the palette bar asks besides.
     [[nodiscard]] std::optional<Image> activeImage() const override;
@@ -198,7 +193,6 @@ private:
     void OnPaletteSave();
     void OnPaletteSaveAs();
     void OnOptions();
-    void OnAppAbout();
     void OnAppExit();
 
     [[nodiscard]] RecentFileList& recentListFor(const std::string& path);
@@ -211,6 +205,10 @@ private:
     void OnUpdateRecentPalette(CommandUi& ui);
 
     StartUpParts parts_;
+    PlugInCatalogue plugIns_;
+    ApplicationPlugInHost plugInHost_{*this};
+    ImagePlugInCalls imagePlugIns_{plugIns_, plugInHost_};
+    ProjectPlugInCalls projectPlugIns_{plugIns_, plugInHost_};
     ApplicationProjectHost projectHost_{*this};
     CommandRouter router_;
     RecentFileList recentProjects_{"Recent TPF List"};

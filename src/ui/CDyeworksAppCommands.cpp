@@ -35,7 +35,7 @@ void CDyeworksApp::fillCommands() {
     on(ID_PALETTE_SAVE, &CDyeworksApp::OnPaletteSave, &CDyeworksApp::updateNeedsPalette);
     on(ID_PALETTE_SAVE_AS, &CDyeworksApp::OnPaletteSaveAs, &CDyeworksApp::updateNeedsPalette);
     on(ID_OPTIONS, &CDyeworksApp::OnOptions);
-    on(ID_APP_ABOUT, &CDyeworksApp::OnAppAbout);
+    on(ID_APP_ABOUT, &CDyeworksApp::ShowAbout);
     on(ID_APP_EXIT, &CDyeworksApp::OnAppExit);
     onRange(ID_RECENT_PROJECT_FIRST, ID_RECENT_PROJECT_LAST, &CDyeworksApp::OnRecentProject,
             &CDyeworksApp::OnUpdateRecentProject);
@@ -136,8 +136,8 @@ void CDyeworksApp::OnPaletteSaveAs() {
     keepAttachments([this] { palettes_->savePaletteAs("", true); });
 }
 
-void CDyeworksApp::OnAppAbout() {
-    AboutDialog(mainFrame_.get()).exec();
+void CDyeworksApp::ShowAbout() {
+    AboutDialog(plugIns_, mainFrame_.get()).exec();
 }
 
 void CDyeworksApp::OnAppExit() {

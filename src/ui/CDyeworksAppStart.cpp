@@ -1,6 +1,7 @@
 #include "framework/widgets/ChildFrame.h"
 #include "paint/widgets/ImageView.h"
 #include "platform/Platform.h"
+#include "plugin/HostFunctions.h"
 #include "project/CTPFDocument.h"
 #include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"
@@ -79,6 +80,8 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
     if (!createPaletteSet())
         return false;
     helpPath_ = programFolder_ + "..\\doc\\index.html";
+    setPlugInHost(&plugInHost_);
+    plugIns_.LoadPlugIns(programFolder_);
     if (commandLine.task == CommandLine::Task::Serve || !processCommandLine(commandLine))
         return false;
     showMainFrame();
@@ -93,6 +96,8 @@ int CDyeworksApp::ExitInstance() {
     Profile& profile = platform().profile();
     if (keepsSettings_)
         profile.setText(kAppSection, kDirectoryEntry, platform().files().currentDirectory());
+    setPlugInHost(nullptr);
+    plugIns_.FreePlugIns();
     if (palettes_ != nullptr)
         palettes_->setListener(nullptr);
     mainFrame_.reset();

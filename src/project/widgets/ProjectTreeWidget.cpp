@@ -75,6 +75,11 @@ ProjectTreeWidget::ProjectTreeWidget(CTPFDocument& document, QWidget* parent)
     setAcceptDrops(true);
     setDropIndicatorShown(false);
     setFrameShape(NoFrame);
+    // What is hidden is not selected: commands would act on it.
+    connect(this, &QTreeView::collapsed, this, [this](const QModelIndex& closed) {
+        if (isWithin(view_.tree().selected(), ProjectTreeModel::nodeOf(closed)))
+            setCurrentIndex(closed);
+    });
 }
 
 ProjectTreeWidget::~ProjectTreeWidget() {

@@ -1,0 +1,180 @@
+#include "plugin/ImagePlugInCalls.h"
+
+#include "core/PaletteSet.h"
+#include "paint/TextureCanvas.h"
+#include "platform/Platform.h"
+#include "platform/WaitCursor.h"
+#include "plugin/GuardedCall.h"
+#include "plugin/PlugInRecords.h"
+
+#include <new>
+#include <optional>
+
+namespace dyeworks {
+
+namespace {
+
+void tell(const char* text) {
+    platform().messages().show({text, "", MessageButtons::Ok, MessageIcon::None, MessageOwner::MainWindow});
+}
+
+bool isIn(std::int32_t index, const std::vector<PlugInInfo>& list) {
+    return index >= 0 && static_cast<std::size_t>(index) < list.size();
+}
+
+/// The picture that a call passes. Its records are the host's: whatever a plug-in does to their fields is
+/// undone, so that the blocks are freed as they were made. False from `restore` when it had to.
+class PassedPicture {
+public:
+    PassedPicture(TmfImage* image, TlutData* palette, std::int32_t paletteNumber)
+        : picture_{plainRecord(image), plainRecord(palette), 0, paletteNumber} {
+        if (picture_.image != nullptr)
+            image_ = *picture_.image;
+        if (picture_.palette != nullptr)
+            palette_ = *picture_.palette;
+    }
+
+    [[nodiscard]] const PlugInPicture* get() const noexcept { return &picture_; }
+
+    bool restore() noexcept {
+        bool kept = true;
+        if (::TmfImage* const now = picture_.image) {
+            kept = now->width == image_.width && now->height == image_.height && now->bits == image_.bits &&
+                   now->texels == image_.texels;
+            *now = image_;
+        }
+        if (::TlutData* const now = picture_.palette) {
+            kept = kept && now->colourType == palette_.colourType && now->count == palette_.count &&
+                   now->entries == palette_.entries;
+            *now = palette_;
+        }
+        return kept;
+    }
+
+private:
+    PlugInPicture picture_;
+    ::TmfImage image_{};
+    ::TlutData palette_{};
+};
+
+/// The canvas of an image in the palette's colours, or null when it cannot be made.
+std::unique_ptr<TextureCanvas> canvasOf(const TmfImage& image, const TlutData* table,
+                                        std::int32_t firstEntry) {
+    auto canvas = std::unique_ptr<TextureCanvas>(new (std::nothrow) TextureCanvas(image));
+    if (canvas == nullptr || canvas->block().empty())
+        return nullptr;
+    if (table != nullptr)
+        canvas->ApplyPalette(TextureLookupTable(*table), firstEntry);
+    return canvas;
+}
+
+} // namespace
+
+std::unique_ptr<TextureCanvas> ImagePlugInCalls::ImportImage(std::int32_t index, TmfImage* image,
+                                                             TlutData* palette, std::int32_t paletteNumber) {
+    if (catalogue_.importers().empty()) {
+        tell("TMF Import Plug-In not installed.\n");
+        return nullptr;
+    }
+    if (host_.paletteSet() == nullptr || image == nullptr || !isIn(index, catalogue_.importers()))
+        return nullptr;
+    const PlugInInfo& plugIn = catalogue_.importers()[static_cast<std::size_t>(index)];
+    std::optional<WaitCursorScope> working(std::in_place);
+    const auto entryPoint = plugIn.module->findFunction<decltype(DWPI_import)>("_DWPI_import@8");
+    if (entryPoint == nullptr) {
+        tell("TMF import entry not found");
+        return nullptr;
+    }
+    PassedPicture passed(image, palette, paletteNumber);
+    PlugInPicture out{nullptr, nullptr, 0, paletteNumber};
+    const std::optional<std::uint32_t> result = guarded(entryPoint, passed.get(), &out);
+    bool fine = passed.restore() && result.has_value();
+
+    // What is the host's own, or shares a block with it, is nothing new.
+    if (out.image == passed.get()->image)
+        out.image = nullptr;
+    if (out.palette == passed.get()->palette)
+        out.palette = nullptr;
+    if (out.image != nullptr && out.image->texels == image->texels)
+        out.image->texels = nullptr;
+    if (out.palette != nullptr && palette != nullptr && out.palette->entries == palette->entries)
+        out.palette->entries = nullptr;
+    std::unique_ptr<TextureCanvas> canvas;
+    if (result.value_or(0) != 0) {
+        const PlainImage newImage(out.image);
+        const PlainTable newTable(out.palette);
+        const TmfImage* const texels = usable(newImage.get());
+        const TlutData* const table = usable(newTable.get());
+        fine =
+            fine && (newImage == nullptr || texels != nullptr) && (newTable == nullptr || table != nullptr);
+        if (texels != nullptr)
+            canvas = canvasOf(*texels, table != nullptr ? table : palette, paletteNumber);
+        if (table != nullptr)
+            takeUpPalette(*table, palette);
+    }
+    working.reset();
+    if (!fine)
+        host_.tellPlugInFailed(plugIn.fileName);
+    return canvas;
+}
+
+/// The image's palette takes the place of the one it has; it is no step of the palette's history.
+bool ImagePlugInCalls::takeUpPalette(const TlutData& brought, TlutData* palette) {
+    bool taken = false;
+    if (palette == nullptr)
+        taken = host_.paletteSet()->addCopy(brought);
+    else if (palette->create(brought.count, brought.colourType))
+        taken = palette->copyEntriesFrom(brought) > 0;
+    host_.refreshPaletteBar();
+    return taken;
+}
+
+bool ImagePlugInCalls::ExportImage(std::int32_t index, TmfImage* image, TlutData* palette,
+                                   std::int32_t paletteNumber) {
+    if (catalogue_.exporters().empty()) {
+        tell("TMF Export Plug-In not installed.\n");
+        return false;
+    }
+    if (host_.paletteSet() == nullptr || image == nullptr || !isIn(index, catalogue_.exporters()))
+        return false;
+    const PlugInInfo& plugIn = catalogue_.exporters()[static_cast<std::size_t>(index)];
+    std::optional<WaitCursorScope> working(std::in_place);
+    const auto entryPoint = plugIn.module->findFunction<decltype(DWPI_export)>("_DWPI_export@4");
+    if (entryPoint == nullptr) {
+        tell("TMF export entry not found.");
+        return false;
+    }
+    PassedPicture passed(image, palette, paletteNumber);
+    const std::optional<std::uint32_t> result = guarded(entryPoint, passed.get());
+    const bool fine = passed.restore() && result.has_value();
+    working.reset();
+    if (!fine)
+        host_.tellPlugInFailed(plugIn.fileName);
+    return result.value_or(0) != 0;
+}
+
+std::uint32_t ImagePlugInCalls::PreviewImage(TmfImage* image, TlutData* palette, std::int32_t paletteNumber,
+                                             std::int32_t which) {
+    if (catalogue_.previews().empty()) {
+        tell("TMF Preview Plug-In not installed.\n");
+        return 0;
+    }
+    if (host_.paletteSet() == nullptr || palette == nullptr)
+        return 0;
+    const PlugInInfo& plugIn = catalogue_.previews().front();
+    PassedPicture passed(image, palette, paletteNumber);
+    std::optional<std::uint32_t> result;
+    if (const auto both = plugIn.module->findFunction<decltype(DWPI_preview2)>("_DWPI_preview2@8")) {
+        result = guarded(both, passed.get(), static_cast<std::uint32_t>(which));
+    } else if (const auto one = plugIn.module->findFunction<decltype(DWPI_preview)>("_DWPI_preview@4")) {
+        result = guarded(one, passed.get());
+    } else {
+        tell("TMF preview entry not found");
+        return 0;
+    }
+    if (!passed.restore() || !result)
+        host_.tellPlugInFailed(plugIn.fileName);
+    return result.value_or(0);
+}
+
+} // namespace dyeworks

@@ -1,0 +1,103 @@
+#include "plugin/PlugInCatalogue.h"
+
+#include "dyeworks/plugin.h"
+#include "platform/Platform.h"
+#include "plugin/GuardedCall.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <iterator>
+#include <optional>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr const char* kEnglishBlock = "040904E4";
+constexpr const char* kJapaneseBlock = "041104B0";
+
+std::string stringOf(const VersionRecord& record, const std::string& name) {
+    const auto find = [&](const char* block) -> std::optional<std::string> {
+        const auto strings = record.strings.find(block);
+        if (strings == record.strings.end())
+            return std::nullopt;
+        const auto text = strings->second.find(name);
+        return text == strings->second.end() ? std::nullopt : std::optional(text->second);
+    };
+    std::optional<std::string> text;
+    if (platform().locale().defaultLocale() == kLocaleJapanese)
+        text = find(kJapaneseBlock);
+    if (!text)
+        text = find(kEnglishBlock);
+    return text.value_or("");
+}
+
+void describe(PlugInInfo& info, const std::string& path) {
+    const std::optional<VersionRecord> record = platform().versionInfo().read(path);
+    if (!record)
+        return;
+    info.internalName = stringOf(*record, "InternalName");
+    info.productName = stringOf(*record, "ProductName");
+    info.comments = stringOf(*record, "Comments");
+    std::ranges::reverse_copy(record->fileVersion, info.version.begin());
+    info.companyName = stringOf(*record, "CompanyName");
+}
+
+} // namespace
+
+std::uint32_t hostVersionWord() {
+    std::uint32_t word = 0;
+    for (const std::uint16_t part : platform().versionInfo().program().fileVersion)
+        word = word << 8U | (part & 0xFFU);
+    return word;
+}
+
+bool PlugInCatalogue::LoadPlugIns(const std::string& programFolder) {
+    folder_ = programFolder + "PlugIns\\";
+    for (const FileEntry& entry :
+         platform().files().enumerate(folder_ + "*" + platform().library().extension())) {
+        if (!entry.directory)
+            add(entry.name);
+    }
+    return true;
+}
+
+void PlugInCatalogue::add(const std::string& fileName) {
+    PlugInInfo info;
+    info.module = platform().library().load(folder_ + fileName);
+    if (info.module == nullptr)
+        return;
+    const auto isAvail = info.module->findFunction<decltype(DWPI_isAvail)>("_DWPI_isAvail@4");
+    if (isAvail == nullptr || guarded(isAvail, hostVersionWord()).value_or(0) == 0)
+        return;
+    if (const auto getType = info.module->findFunction<decltype(DWPI_getType)>("_DWPI_getType@0"))
+        info.type = guarded(getType).value_or(0);
+    info.fileName = fileName;
+    describe(info, folder_ + fileName);
+
+    const struct {
+        std::uint32_t bit;
+        std::vector<PlugInInfo>& list;
+    } roles[] = {{DWPI_TMF_PREVIEW, previews_},        {DWPI_TMF_IMPORT, importers_},
+                 {DWPI_TMF_EXPORT, exporters_},        {DWPI_TPF_IMPORT, projectImporters_},
+                 {DWPI_TPF_EXPORT, projectExporters_}, {DWPI_TPF_NODE, nodeHandlers_}};
+    for (const auto& role : roles) {
+        if ((info.type & role.bit) != 0)
+            role.list.push_back(info);
+    }
+    all_.push_back(std::move(info));
+}
+
+void PlugInCatalogue::FreePlugIns() {
+    for (auto* list : {&importers_, &exporters_, &previews_, &projectImporters_, &projectExporters_,
+                       &nodeHandlers_, &all_})
+        list->clear();
+}
+
+std::vector<std::string> menuNames(const std::vector<PlugInInfo>& plugIns) {
+    std::vector<std::string> names;
+    std::ranges::transform(plugIns, std::back_inserter(names), &PlugInInfo::internalName);
+    return names;
+}
+
+} // namespace dyeworks

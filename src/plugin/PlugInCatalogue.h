@@ -1,0 +1,54 @@
+#pragma once
+
+#include "plugin/PlugInInfo.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace dyeworks {
+
+/// The plug-ins of the program, read once when it starts. A plug-in stands in the list of each of its roles;
+/// all lists are in the order of the file names, whatever their case.
+class PlugInCatalogue {
+public:
+    /// Loads the libraries in the folder "PlugIns" of the program's folder ("c:\program\") that accept the
+    /// program. The result is always true.
+    bool LoadPlugIns(const std::string& programFolder);
+    /// Empties all lists and unloads the libraries. Nothing of a plug-in may be in use any more.
+    void FreePlugIns();
+
+    /// With a trailing "\".
+    [[nodiscard]] const std::string& folder() const noexcept { return folder_; }
+    [[nodiscard]] const std::vector<PlugInInfo>& all() const noexcept { return all_; }
+    [[nodiscard]] const std::vector<PlugInInfo>& importers() const noexcept { return importers_; }
+    [[nodiscard]] const std::vector<PlugInInfo>& exporters() const noexcept { return exporters_; }
+    [[nodiscard]] const std::vector<PlugInInfo>& previews() const noexcept { return previews_; }
+    [[nodiscard]] const std::vector<PlugInInfo>& projectImporters() const noexcept {
+        return projectImporters_;
+    }
+    [[nodiscard]] const std::vector<PlugInInfo>& projectExporters() const noexcept {
+        return projectExporters_;
+    }
+    [[nodiscard]] const std::vector<PlugInInfo>& nodeHandlers() const noexcept { return nodeHandlers_; }
+
+private:
+    void add(const std::string& fileName);
+
+    std::string folder_;
+    std::vector<PlugInInfo> all_;
+    std::vector<PlugInInfo> importers_;
+    std::vector<PlugInInfo> exporters_;
+    std::vector<PlugInInfo> previews_;
+    std::vector<PlugInInfo> projectImporters_;
+    std::vector<PlugInInfo> projectExporters_;
+    std::vector<PlugInInfo> nodeHandlers_;
+};
+
+/// What the menu entries of these plug-ins are called.
+[[nodiscard]] std::vector<std::string> menuNames(const std::vector<PlugInInfo>& plugIns);
+
+/// The program's version in a word, the first of its four parts in the highest byte.
+[[nodiscard]] std::uint32_t hostVersionWord();
+
+} // namespace dyeworks

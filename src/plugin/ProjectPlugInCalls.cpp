@@ -1,0 +1,155 @@
+#include "plugin/ProjectPlugInCalls.h"
+
+#include "dyeworks/plugin.h"
+#include "platform/Platform.h"
+#include "platform/WaitCursor.h"
+#include "plugin/GuardedCall.h"
+
+#include <algorithm>
+#include <cstring>
+#include <new>
+#include <optional>
+
+namespace dyeworks {
+
+namespace {
+
+/// Bytes that a plug-in may write for a dragged node, with the zero at the end.
+constexpr std::size_t kDragTextSize = 65536;
+
+void tell(const char* text) {
+    platform().messages().show({text, "", MessageButtons::Ok, MessageIcon::None, MessageOwner::MainWindow});
+}
+
+constexpr auto kNothingBefore = [] {};
+
+} // namespace
+
+template <typename EntryPoint, typename Before, typename... Arguments>
+std::uint32_t ProjectPlugInCalls::firstAnswer(const char* name, const PlugInHandles& handles, Before before,
+                                              Arguments... arguments) {
+    // A copy of the handle, because a call may close the project they belong to.
+    const PlugInHandles own = handles;
+    const std::vector<PlugInInfo>& plugIns = catalogue_.nodeHandlers();
+    for (std::size_t i = 0; i < std::min(plugIns.size(), own.size()); ++i) {
+        EntryPoint* const entryPoint = plugIns[i].module->findFunction<EntryPoint>(name);
+        if (entryPoint == nullptr)
+            continue;
+        before();
+        const std::optional<std::uint32_t> answer = guarded(entryPoint, own[i], arguments...);
+        if (!answer)
+            host_.tellPlugInFailed(plugIns[i].fileName);
+        else if (*answer != 0)
+            return *answer;
+    }
+    return 0;
+}
+
+template <typename EntryPoint, typename... Arguments>
+void ProjectPlugInCalls::tellAll(const char* name, const PlugInHandles& handles, Arguments... arguments) {
+    const PlugInHandles own = handles;
+    const std::vector<PlugInInfo>& plugIns = catalogue_.nodeHandlers();
+    for (std::size_t i = 0; i < std::min(plugIns.size(), own.size()); ++i) {
+        EntryPoint* const entryPoint = plugIns[i].module->findFunction<EntryPoint>(name);
+        if (entryPoint != nullptr && !guarded(entryPoint, own[i], arguments...))
+            host_.tellPlugInFailed(plugIns[i].fileName);
+    }
+}
+
+std::size_t ProjectPlugInCalls::TPF_OnNew(PlugInHandles& handles) {
+    for (const PlugInInfo& plugIn : catalogue_.nodeHandlers()) {
+        const auto entryPoint = plugIn.module->findFunction<decltype(DWPI_TPF_onNew)>("_DWPI_TPF_onNew@0");
+        const std::optional<DwHandle> handle =
+            entryPoint == nullptr ? std::optional<DwHandle>(nullptr) : guarded(entryPoint);
+        if (!handle)
+            host_.tellPlugInFailed(plugIn.fileName);
+        handles.push_back(handle.value_or(nullptr));
+    }
+    return handles.size();
+}
+
+void ProjectPlugInCalls::TPF_OnUpdate(const PlugInHandles& handles) {
+    tellAll<decltype(DWPI_TPF_onUpdate)>("_DWPI_TPF_onUpdate@4", handles);
+}
+
+void ProjectPlugInCalls::TPF_OnUpdateNodes(const PlugInHandles& handles) {
+    tellAll<decltype(DWPI_TPF_onUpdateNodes)>("_DWPI_TPF_onUpdateNodes@4", handles);
+}
+
+void ProjectPlugInCalls::TPF_OnDelete(const PlugInHandles& handles) {
+    tellAll<decltype(DWPI_TPF_onDelete)>("_DWPI_TPF_onDelete@4", handles);
+}
+
+void ProjectPlugInCalls::TPF_OnCommand(const PlugInHandles& handles, const std::string& node,
+                                       NodeCommand command) {
+    tellAll<decltype(DWPI_TPF_onCommand)>("_DWPI_TPF_onCommand@16", handles, node.c_str(),
+                                          static_cast<std::uint32_t>(command), std::uint32_t{0});
+}
+
+bool ProjectPlugInCalls::TPF_QueryCommand(const PlugInHandles& handles, const std::string& node,
+                                          NodeCommand command) {
+    return firstAnswer<decltype(DWPI_TPF_onCommand)>("_DWPI_TPF_onCommand@16", handles, kNothingBefore,
+                                                     node.c_str(), static_cast<std::uint32_t>(command),
+                                                     std::uint32_t{1}) != 0;
+}
+
+bool ProjectPlugInCalls::TPF_ToString(const PlugInHandles& handles, const std::string& node,
+                                      std::string& text) {
+    const std::unique_ptr<char[]> buffer(new (std::nothrow) char[kDragTextSize]());
+    if (buffer == nullptr || firstAnswer<decltype(DWPI_TPF_toString)>(
+                                 "_DWPI_TPF_toString@16", handles, kNothingBefore, node.c_str(), buffer.get(),
+                                 static_cast<std::uint32_t>(kDragTextSize)) == 0)
+        return false;
+    text.assign(buffer.get(), strnlen(buffer.get(), kDragTextSize));
+    return true;
+}
+
+std::uint32_t ProjectPlugInCalls::TPF_IsDroppable(const PlugInHandles& handles, const std::string& target,
+                                                  const std::string& dragged, std::uint32_t keyState) {
+    std::uint32_t effect = drop_effect::kNone;
+    const auto reset = [&effect] { effect = drop_effect::kNone; };
+    const std::uint32_t answer = firstAnswer<decltype(DWPI_TPF_isDroppable)>(
+        "_DWPI_TPF_isDroppable@20", handles, reset, target.c_str(), dragged.c_str(), keyState, &effect);
+    return answer == 0 ? drop_effect::kNone : effect;
+}
+
+bool ProjectPlugInCalls::TPF_OnDrop(const PlugInHandles& handles, const std::string& target,
+                                    const std::string& key, const std::string& value, std::uint32_t effect) {
+    return firstAnswer<decltype(DWPI_TPF_onDrop)>("_DWPI_TPF_onDrop@20", handles, kNothingBefore,
+                                                  target.c_str(), key.c_str(), value.c_str(), effect) != 0;
+}
+
+std::uint32_t ProjectPlugInCalls::TPF_Export(const PlugInHandles& handles, std::int32_t index,
+                                             const std::string& projectPath) {
+    const std::vector<PlugInInfo>& exporters = catalogue_.projectExporters();
+    if (exporters.empty()) {
+        tell("TPF Export Plug-In not installed.\n");
+        return 0;
+    }
+    if (index < 0 || static_cast<std::size_t>(index) >= exporters.size())
+        return 0;
+    const PlugInInfo& plugIn = exporters[static_cast<std::size_t>(index)];
+    DwHandle handle = nullptr;
+    if ((plugIn.type & DWPI_TPF_NODE) != 0) {
+        const std::vector<PlugInInfo>& handlers = catalogue_.nodeHandlers();
+        const auto same = std::ranges::find(handlers, plugIn.internalName, &PlugInInfo::internalName);
+        const auto position = static_cast<std::size_t>(same - handlers.begin());
+        if (same != handlers.end() && position < handles.size())
+            handle = handles[position];
+    }
+    std::optional<WaitCursorScope> working(std::in_place);
+    const auto entryPoint = plugIn.module->findFunction<decltype(DWPI_TPF_export)>("_DWPI_TPF_export@8");
+    if (entryPoint == nullptr) {
+        tell("TPF export entry not found.");
+        return 0;
+    }
+    // A copy, because the plug-in may have the project renamed.
+    const std::string path = projectPath;
+    const std::optional<std::uint32_t> result = guarded(entryPoint, handle, path.c_str());
+    working.reset();
+    if (!result)
+        host_.tellPlugInFailed(plugIn.fileName);
+    return result.value_or(0);
+}
+
+} // namespace dyeworks
