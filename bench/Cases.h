@@ -7,5 +7,6 @@ void registerDocumentCases();
 void registerDrawCases();
 void registerFileCases();
 void registerProjectCases();
+void registerViewCases();
 
 } // namespace dyeworks

@@ -15,6 +15,7 @@ int main(int argc, char** argv) {
     dyeworks::registerDrawCases();
     dyeworks::registerFileCases();
     dyeworks::registerProjectCases();
+    dyeworks::registerViewCases();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

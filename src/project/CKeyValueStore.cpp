@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <optional>
 #include <span>
+#include <unordered_set>
 #include <utility>
 
 namespace dyeworks {
@@ -45,6 +46,17 @@ std::string assignment(const std::string& name, const std::string& value) {
     return name + " = " + value;
 }
 
+/// The line as it stands in the file.
+std::string lineText(const StoreLine& tokens) {
+    std::string text;
+    for (std::size_t i = 0; i < tokens.size(); ++i)
+        (i == 0 ? text : text += '\t') += tokens[i];
+    // "name=value" may have been read where the tabs no longer fit into what is read as one line.
+    if (tokens.size() == 3 && characterCount(text) > CKeyValueStore::kLongestLine)
+        return tokens[0] + tokens[1] + tokens[2];
+    return text;
+}
+
 } // namespace
 
 bool CKeyValueStore::LoadFile(const std::string& path) {
@@ -53,10 +65,11 @@ bool CKeyValueStore::LoadFile(const std::string& path) {
         return false;
     const std::span<const std::byte> bytes = file.value().bytes();
     std::string_view raw(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-    byteOrderMark_ = raw.starts_with(kByteOrderMark);
+    const bool utf8 = isUtf8(raw);
+    byteOrderMark_ = utf8 && raw.starts_with(kByteOrderMark);
     if (byteOrderMark_)
         raw.remove_prefix(kByteOrderMark.size());
-    const std::optional<std::string> japanese = isUtf8(raw) ? std::nullopt : fromCodePage932(raw);
+    const std::optional<std::string> japanese = utf8 ? std::nullopt : fromCodePage932(raw);
     codePage932_ = japanese.has_value();
 
     const std::string text = withoutCarriageReturns(japanese ? *japanese : raw);
@@ -69,17 +82,13 @@ bool CKeyValueStore::LoadFile(const std::string& path) {
     return true;
 }
 
-bool CKeyValueStore::SaveFile(const std::string& path) {
+bool CKeyValueStore::SaveFile(const std::string& path) const {
     std::string text;
-    for (const StoreLine& line : lines_) {
-        for (std::size_t i = 0; i < line.size(); ++i)
-            (i == 0 ? text : text += '\t') += line[i];
-        text += "\r\n";
-    }
+    for (const StoreLine& line : lines_)
+        text += lineText(line) + "\r\n";
     if (codePage932_) {
-        std::optional<std::string> japanese = toCodePage932(text);
-        codePage932_ = japanese.has_value();
-        if (japanese)
+        // A few texts in code page 932 would be taken for UTF-8 when they are read again.
+        if (std::optional<std::string> japanese = toCodePage932(text); japanese && !isUtf8(*japanese))
             text = std::move(*japanese);
     } else if (byteOrderMark_) {
         text.insert(0, kByteOrderMark);
@@ -144,13 +153,19 @@ void CKeyValueStore::RemoveKey(const std::string& name) {
         RemoveLine(static_cast<std::size_t>(found - lines_.begin()));
 }
 
-void CKeyValueStore::RemoveKeys(std::unordered_set<std::string> names) {
-    std::erase_if(lines_, [&](const StoreLine& line) {
-        if (line.empty() || names.erase(line[0]) == 0)
-            return false;
-        values_.erase(line[0]);
-        return true;
-    });
+void CKeyValueStore::TakeValues(const std::vector<std::string>& names,
+                                const std::function<void(const std::string& value)>& take) {
+    std::unordered_set<std::string> taken;
+    for (const std::string& name : names) {
+        const auto found = values_.find(name);
+        if (found == values_.end())
+            continue;
+        take(found->second);
+        values_.erase(found);
+        taken.insert(name);
+    }
+    // Of each name its first line.
+    std::erase_if(lines_, [&](const StoreLine& line) { return !line.empty() && taken.erase(line[0]) > 0; });
     placesAreValid_ = false;
 }
 

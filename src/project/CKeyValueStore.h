@@ -2,10 +2,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 namespace dyeworks {
@@ -46,7 +46,7 @@ public:
     bool LoadFile(const std::string& path);
     /// Writes all lines in the encoding of the file that was loaded last, in UTF-8 when there was none or
     /// that cannot hold them. False when the file cannot be written; it then is as it was.
-    bool SaveFile(const std::string& path);
+    bool SaveFile(const std::string& path) const;
 
     /// Appends the line, or puts an assignment in the place of the one of the same name. The result is the
     /// number of lines.
@@ -60,8 +60,10 @@ public:
     bool GetValue(const std::string& name, std::string& value) const;
     /// Removes the first line whose first token is the name.
     void RemoveKey(const std::string& name);
-    /// The same for each of the names, in one pass.
-    void RemoveKeys(std::unordered_set<std::string> names);
+    /// One name after the other: hands the value to `take`, which must leave the store alone, and removes the
+    /// key. Names without a value are passed over. Costs one pass over the lines, however many names.
+    void TakeValues(const std::vector<std::string>& names,
+                    const std::function<void(const std::string& value)>& take);
     /// Nothing when there is no such line.
     void RemoveLine(std::size_t index);
     void RemoveAll();

@@ -68,6 +68,9 @@ std::string changedFolders(const std::string& directories, Change change) {
     std::string list;
     for (std::string& folder : folders) {
         change(folder);
+        // Between separators nothing would stand for no folder at all.
+        if (folder.empty() && folders.size() > 1)
+            folder = ".";
         list += (&folder == &folders.front() ? "" : ";") + folder;
     }
     return list;
@@ -114,19 +117,18 @@ bool CTPFFile::SetDirectories(const std::string& tpfFolder, const std::string& t
     return false;
 }
 
-bool CTPFFile::takeFolder(const char* entry, const std::string& folder, std::string& directory,
+void CTPFFile::takeFolder(const char* entry, const std::string& folder, std::string& directory,
                           std::string& errors) {
     std::string normal = folder;
     if (!PathNormalizeDir(normal)) {
         errors += errors.empty() ? "" : "and,\n";
         errors += std::string(entry) + " = \"" + displayPath(folder) + "\"";
-        return false;
+        return;
     }
     if (normal != directory) {
         directory = normal;
         modified = true;
     }
-    return true;
 }
 
 std::string CTPFFile::expanded(const std::string& value) const {
@@ -171,26 +173,27 @@ void CTPFFile::readPictures() {
     pictures.clear();
     std::string count;
     const std::int32_t told = store->GetValue(kPictureCount, count) ? numberIn(expanded(count)) : 0;
-    std::vector<std::pair<std::int32_t, std::string>> entries;
+    std::vector<std::int32_t> indices;
     for (const auto& [key, value] : store->values()) {
         if (const auto index = indexOf(key); index && *index < told)
-            entries.emplace_back(*index, value);
+            indices.push_back(*index);
     }
-    std::ranges::sort(entries);
+    std::ranges::sort(indices);
+    std::vector<std::string> keys;
+    keys.reserve(indices.size());
+    for (const std::int32_t index : indices)
+        keys.push_back(pictureKey(static_cast<std::size_t>(index)));
+    store->TakeValues(keys, [this](const std::string& value) { readPicture(expanded(value)); });
+}
 
-    std::unordered_set<std::string> taken;
-    for (const auto& [index, value] : entries) {
-        taken.insert(pictureKey(static_cast<std::size_t>(index)));
-        const std::vector<std::string> fields = commaFields(expanded(value));
-        if (fields.size() < 2)
-            continue;
-        PictureEntry entry{fields[1], fields.size() > 2 ? fields[2] : "",
-                           fields.size() > 3 ? numberIn(fields[3]) : 0};
-        // A later entry of the same name changes the picture where it is.
-        if (pictures.insert_or_assign(fields[0], std::move(entry)).second)
-            order.push_back(fields[0]);
-    }
-    store->RemoveKeys(std::move(taken));
+void CTPFFile::readPicture(const std::string& value) {
+    std::vector<std::string> fields = commaFields(value);
+    if (fields.size() < 2)
+        return;
+    fields.resize(std::max<std::size_t>(fields.size(), 4));
+    // A later entry of the same name changes the picture where it is.
+    if (pictures.insert_or_assign(fields[0], PictureEntry{fields[1], fields[2], numberIn(fields[3])}).second)
+        order.push_back(fields[0]);
 }
 
 bool CTPFFile::Write(const std::string& path) {

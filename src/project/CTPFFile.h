@@ -57,10 +57,11 @@ public:
     bool modified = false;
 
 private:
-    bool takeFolder(const char* entry, const std::string& folder, std::string& directory,
+    void takeFolder(const char* entry, const std::string& folder, std::string& directory,
                     std::string& errors);
     void readFolder(const char* entry, std::string& directory) const;
     void readPictures();
+    void readPicture(const std::string& value);
     [[nodiscard]] std::string expanded(const std::string& value) const;
 };
 

@@ -120,7 +120,7 @@ void CTPFTreeView::Closing() {
             return;
         std::string path;
         // Also of nodes beside the first top node, for which it is false.
-        static_cast<void>(tree_.GetNodePath(&node, path));
+        static_cast<void>(GetNodePath(&node, path));
         profile.setText(section, std::to_string(count++), path);
     });
     profile.setInteger(section, kCountEntry, count);
@@ -165,7 +165,7 @@ bool CTPFTreeView::selectPicture(const std::string& name) {
 
 void CTPFTreeView::chooseSelectedPicture() {
     std::string path;
-    if (tree_.GetNodePath(tree_.selected(), path) && path.size() >= kPictures.size() &&
+    if (GetNodePath(tree_.selected(), path) && path.size() >= kPictures.size() &&
         equalIgnoringCase(std::string_view(path).substr(0, kPictures.size()), kPictures))
         document_.host().SelectPicture(path.substr(kPictures.size()));
 }
@@ -177,14 +177,14 @@ void CTPFTreeView::SelectionChanged(const ProjectNode* node) {
 
 void CTPFTreeView::DoubleClicked() {
     std::string path;
-    if (tree_.GetNodePath(tree_.selected(), path))
+    if (GetNodePath(tree_.selected(), path))
         document_.OnNodeDoubleClick(path);
 }
 
 std::optional<std::string> CTPFTreeView::dragData() const {
     std::string path;
     std::string text;
-    if (!tree_.GetNodePath(tree_.selected(), path) || !document_.NodeToString(path, text))
+    if (!GetNodePath(tree_.selected(), path) || !document_.NodeToString(path, text))
         return std::nullopt;
     return text;
 }
@@ -192,13 +192,13 @@ std::optional<std::string> CTPFTreeView::dragData() const {
 std::uint32_t CTPFTreeView::DragOver(const ProjectNode* node, const std::optional<std::string>& data,
                                      std::uint32_t keyState) const {
     std::string path;
-    return tree_.GetNodePath(node, path) ? document_.DragOverNode(path, data, keyState) : drop_effect::kNone;
+    return GetNodePath(node, path) ? document_.DragOverNode(path, data, keyState) : drop_effect::kNone;
 }
 
 bool CTPFTreeView::Drop(const ProjectNode* node, const std::optional<std::string>& data,
                         std::uint32_t effect) {
     std::string path;
-    if (!tree_.GetNodePath(node, path))
+    if (!GetNodePath(node, path))
         return false;
     const std::optional<std::string> picture = selectedPicture();
     const bool dropped = document_.DropOnNode(path, data, effect);

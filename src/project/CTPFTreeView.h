@@ -50,7 +50,7 @@ public:
 
     void update(DocumentView* sender, int hint) override;
 
-    [[nodiscard]] bool GetNodePath(const ProjectNode* node, std::string& path) const {
+    [[nodiscard]] virtual bool GetNodePath(const ProjectNode* node, std::string& path) const {
         return tree_.GetNodePath(node, path);
     }
     [[nodiscard]] ProjectNode* FindNode(const std::string& path, std::size_t& position,

@@ -46,8 +46,10 @@ Front frontOf(std::string_view text) {
     return {foldedCase(text.substr(0, length)), length, false};
 }
 
-std::string joined(const std::string& folder, const std::string& name) {
-    return endsWithSeparator(folder) ? folder + name : folder + kSeparator + name;
+std::string joined(std::string folder, const std::string& name) {
+    if (endsWithSeparator(folder))
+        folder.pop_back();
+    return folder + kSeparator + name;
 }
 
 /// Of a path, where it leads to in one step up for each separator of the base from `common` on.
@@ -81,13 +83,13 @@ bool PathNormalizeDir(std::string& path) {
         path = normal;
         return true;
     }
-    // A drive that is asked for with its root may do without.
-    if (normal.size() < 2 || normal.back() != kSeparator)
+    // A root may be asked for without the separator that it ends with: two at the front name a server.
+    if (normal.back() != kSeparator)
         return false;
     normal.pop_back();
-    if (normal.back() == kSeparator || !isDirectory(normal))
+    if (endsWithSeparator(normal) || !isDirectory(normal))
         return false;
-    path = normal;
+    path = normal.empty() ? std::string(1, kSeparator) : normal;
     return true;
 }
 
@@ -242,12 +244,16 @@ std::string fileNameIn(const std::string& directories, const std::string& name) 
     }
     if (!isRooted(name))
         return name;
+    PathAbsolute(path);
     for (const std::string& folder : folders) {
         PathRelativeTo(relative, folder, path);
-        if (!isRooted(relative) && !relative.starts_with(".."))
+        if (isRooted(relative) || relative.starts_with(".."))
+            continue;
+        // Another file of this name may be in a folder before this one.
+        std::string found;
+        if (!PathSearch(found, directories, relative, true) || equalIgnoringCase(found, path))
             return relative;
     }
-    PathAbsolute(path);
     return path;
 }
 

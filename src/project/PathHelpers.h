@@ -45,7 +45,7 @@ bool PathRelativeTo(std::string& relative, const std::string& base, const std::s
 [[nodiscard]] std::int32_t PathCommonLength(const std::string& a, const std::string& b, std::int32_t limit);
 
 /// The file's name as it is kept: relative to the folder, in which names without a root are. Of a list, to
-/// the first folder that the file is in; outside all of them its absolute path.
+/// the first folder that the file is in and that a search finds it in; otherwise its absolute path.
 [[nodiscard]] std::string fileNameIn(const std::string& directories, const std::string& name);
 
 } // namespace dyeworks

@@ -1,6 +1,7 @@
 #include "../project/ProjectTestHost.h"
 #include "core/TlfFormat.h"
 #include "core/TmfImage.h"
+#include "project/widgets/CNodeDropSource.h"
 #include "project/widgets/DragCursors.h"
 #include "project/widgets/ProjectTreeWidget.h"
 
@@ -76,6 +77,10 @@ protected:
 
 TEST_F(TreeWidget, EveryClickSelectsOneNodeWhateverKeysAreHeld) {
     show({"A", "B"});
+    QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
+    QApplication::sendEvent(&tree(), &focus);
+    EXPECT_EQ(current(), "Project");
+    EXPECT_TRUE(tree().selectionModel()->isSelected(at("\\Project")));
     const QPoint a = middleOf("\\Project\\Picture\\A");
     for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
         QTest::mouseClick(tree().viewport(), button, {}, middleOf("\\Project\\Picture\\B"));
@@ -190,6 +195,11 @@ TEST_F(TreeWidget, CursorsTellTheEffectsApartAtEveryScale) {
         EXPECT_EQ(move.size(), QSize(32, 32) * scale);
         EXPECT_TRUE(move != copy && copy != link && link != move);
     }
+    constexpr std::uint32_t kAllEffects = drop_effect::kMove | drop_effect::kCopy | drop_effect::kLink;
+    EXPECT_EQ(CNodeDropSource::GiveFeedback(kAllEffects), Qt::MoveAction);
+    EXPECT_EQ(CNodeDropSource::GiveFeedback(kAllEffects & ~drop_effect::kMove), Qt::CopyAction);
+    EXPECT_EQ(CNodeDropSource::GiveFeedback(drop_effect::kLink), Qt::LinkAction);
+    EXPECT_EQ(CNodeDropSource::GiveFeedback(8), Qt::IgnoreAction);
 }
 
 TEST_F(TreeWidget, ModelTellsEveryChangeAsItHappens) {

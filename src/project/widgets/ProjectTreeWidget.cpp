@@ -5,12 +5,11 @@
 #include "project/CTPFDocument.h"
 #include "project/PathHelpers.h"
 #include "project/PictureImage.h"
-#include "project/widgets/DragCursors.h"
+#include "project/widgets/CNodeDropSource.h"
 #include "project/widgets/PictureThumbnail.h"
 
 #include <QBuffer>
 #include <QContextMenuEvent>
-#include <QDrag>
 #include <QHelpEvent>
 #include <QMimeData>
 #include <QPainter>
@@ -36,14 +35,6 @@ std::optional<std::string> textOf(const QMimeData* data) {
 std::uint32_t keysOf(Qt::KeyboardModifiers modifiers) {
     return (modifiers.testFlag(Qt::ShiftModifier) ? drag_key::kShift : 0U) |
            (modifiers.testFlag(Qt::ControlModifier) ? drag_key::kControl : 0U);
-}
-
-Qt::DropAction actionOf(std::uint32_t effect) {
-    if ((effect & drop_effect::kMove) != 0)
-        return Qt::MoveAction;
-    if ((effect & drop_effect::kCopy) != 0)
-        return Qt::CopyAction;
-    return (effect & drop_effect::kLink) != 0 ? Qt::LinkAction : Qt::IgnoreAction;
 }
 
 QString imageTag(const QImage& image, qreal devicePixelRatio) {
@@ -120,6 +111,8 @@ void ProjectTreeWidget::setPlacement(const WindowPlacement& placement) {
 
 void ProjectTreeWidget::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTreeView::currentChanged(current, previous);
+    // The focus alone makes the first node the current one, without showing it as selected.
+    selectionModel()->select(current, QItemSelectionModel::ClearAndSelect);
     view_.SelectionChanged(ProjectTreeModel::nodeOf(current));
 }
 
@@ -220,16 +213,8 @@ QString ProjectTreeWidget::pictureTip(const std::string& name) const {
 }
 
 void ProjectTreeWidget::startDrag(Qt::DropActions /*supported*/) {
-    const std::optional<std::string> text = view_.dragData();
-    if (!text)
-        return;
-    auto* carried = new QMimeData;
-    carried->setText(QString::fromStdString(*text));
-    auto* drag = new QDrag(this);
-    drag->setMimeData(carried);
-    for (const Qt::DropAction action : {Qt::MoveAction, Qt::CopyAction, Qt::LinkAction})
-        drag->setDragCursor(dragCursor(action, devicePixelRatioF()), action);
-    drag->exec(Qt::CopyAction | Qt::MoveAction | Qt::LinkAction, Qt::MoveAction);
+    if (const std::optional<std::string> text = view_.dragData())
+        (new CNodeDropSource(*this, *text))->DoDragDrop();
 }
 
 void ProjectTreeWidget::dragEnterEvent(QDragEnterEvent* event) {
@@ -268,7 +253,7 @@ std::uint32_t ProjectTreeWidget::dragOver(QDropEvent& event) {
         setDropMark(index);
     const std::uint32_t effect =
         view_.DragOver(ProjectTreeModel::nodeOf(index), textOf(event.mimeData()), keysOf(event.modifiers()));
-    event.setDropAction(actionOf(effect));
+    event.setDropAction(CNodeDropSource::GiveFeedback(effect));
     event.setAccepted(effect != drop_effect::kNone);
     return effect;
 }

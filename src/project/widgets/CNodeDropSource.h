@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QDrag>
+
+#include <cstdint>
+#include <string>
+
+class QWidget;
+
+namespace dyeworks {
+
+/// A drag of a node's text, with cursors of its own for what a drop would do.
+class CNodeDropSource : public QDrag {
+    Q_OBJECT
+
+public:
+    /// `source` owns the drag; Qt deletes it when it is over.
+    CNodeDropSource(QWidget& source, const std::string& text);
+
+    /// Returns when the drag is over. It may end in a copy, a move or a link.
+    void DoDragDrop();
+
+    /// The action whose cursor is shown for an effect (`drop_effect`) of several bits. `Qt::IgnoreAction`:
+    /// the desktop's own cursor.
+    [[nodiscard]] static Qt::DropAction GiveFeedback(std::uint32_t effect);
+};
+
+} // namespace dyeworks
