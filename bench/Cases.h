@@ -6,6 +6,8 @@ void registerCanvasCases();
 void registerDocumentCases();
 void registerDrawCases();
 void registerFileCases();
+void registerPngCases();
+void registerPreviewCases();
 void registerProjectCases();
 void registerViewCases();
 

@@ -73,16 +73,6 @@ private:
     }
 };
 
-void makeWindowsPossible() {
-    if (qApp != nullptr)
-        return;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int count = 1;
-    static char name[] = "dyeworks_bench";
-    static char* arguments[] = {name, nullptr};
-    static const QApplication application(count, arguments);
-}
-
 void writeProject(std::int64_t pictures) {
     std::string lines = "PICT_NUM = " + std::to_string(pictures) + "\n";
     for (std::int64_t i = 0; i < pictures; ++i) {
@@ -126,7 +116,6 @@ using Step = std::function<void(OpenProjectWindow& window, std::int64_t turn)>;
 void add(const char* name, const Step& step) {
     benchmark::RegisterBenchmark(name,
                                  [step](benchmark::State& state) {
-                                     makeWindowsPossible();
                                      writeProject(state.range(0));
                                      OpenProjectWindow window;
                                      std::int64_t turn = 0;
@@ -143,7 +132,6 @@ void add(const char* name, const Step& step) {
 void addOpen() {
     benchmark::RegisterBenchmark("ProjectOpen",
                                  [](benchmark::State& state) {
-                                     makeWindowsPossible();
                                      writeProject(state.range(0));
                                      for (auto _ : state)
                                          const OpenProjectWindow window;

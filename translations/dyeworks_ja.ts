@@ -811,6 +811,26 @@ Help</source>
         <translation>キーボード フォーカスのある項目を説明します
 ヘルプ</translation>
     </message>
+    <message>
+        <source>Import &amp;BMP...</source>
+        <translation>BMP のインポート(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Open a bitmap as an image, its colours as a palette
+Import BMP</source>
+        <translation>ビットマップを画像として、その色をパレットとして開きます
+BMP のインポート</translation>
+    </message>
+    <message>
+        <source>Expor&amp;t BMP...</source>
+        <translation>BMP のエクスポート(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>Write a copy of the image as a bitmap
+Export BMP</source>
+        <translation>画像の写しをビットマップとして書き出します
+BMP のエクスポート</translation>
+    </message>
 </context>
 <context>
     <name>FolderPick</name>
@@ -1664,6 +1684,45 @@ Do you want to replace it?</source>
     <message>
         <source>The plug-ins that are loaded</source>
         <translation>読み込まれているプラグイン</translation>
+    </message>
+    <message>
+        <source>The file is not a bitmap, or one of an unknown kind.</source>
+        <translation>ビットマップではないか、未知の種類のビットマップです。</translation>
+    </message>
+    <message>
+        <source>The file is damaged or ends before the bitmap does.</source>
+        <translation>ファイルが壊れているか、途中で終わっています。</translation>
+    </message>
+    <message>
+        <source>The width or height of the bitmap is out of range.</source>
+        <translation>ビットマップの幅または高さが範囲外です。</translation>
+    </message>
+    <message>
+        <source>A TMF image has 4 or 8 bits for each texel, and this one has %1.
+Give it a name that ends in .bmp.</source>
+        <translation>TMF 画像は 1 テクセルが 4 ビットか 8 ビットですが、この画像は %1 ビットです。
+.bmp で終わる名前を付けてください。</translation>
+    </message>
+    <message>
+        <source>Bitmap Files</source>
+        <translation>ビットマップ ファイル</translation>
+    </message>
+    <message>
+        <source>Import BMP</source>
+        <translation>BMP のインポート</translation>
+    </message>
+    <message>
+        <source>Export BMP</source>
+        <translation>BMP のエクスポート</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not found.
+The program does not know what folder drive %2 stands for. Start it once with
+--drive %2=FOLDER</source>
+        <translation>「%1」が見つかりません。
+ドライブ%2がどのフォルダーにあたるのか分かりません。一度
+--drive %2=フォルダー
+を付けて起動してください。</translation>
     </message>
 </context>
 </TS>

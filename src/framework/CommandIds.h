@@ -119,6 +119,8 @@ inline constexpr CommandId ID_CANCEL_SELECTION = 32981;
 inline constexpr CommandId ID_OPTIONS = 33002;
 
 inline constexpr CommandId ID_FILE_REVERT = 33100;
+inline constexpr CommandId ID_FILE_IMPORT_BMP = 33101;
+inline constexpr CommandId ID_FILE_EXPORT_BMP = 33102;
 // NOLINTEND(readability-identifier-naming)
 
 } // namespace dyeworks

@@ -154,6 +154,12 @@ constexpr std::array kRows{
                QT_TRANSLATE_NOOP("Command", "Change the settings of the program\nOptions"), "", "options"},
     CommandRow{ID_FILE_REVERT, QT_TRANSLATE_NOOP("Command", "&Revert"),
                QT_TRANSLATE_NOOP("Command", "Go back to the document as it was saved last\nRevert"), "", ""},
+    CommandRow{
+        ID_FILE_IMPORT_BMP, QT_TRANSLATE_NOOP("Command", "Import &BMP..."),
+        QT_TRANSLATE_NOOP("Command", "Open a bitmap as an image, its colours as a palette\nImport BMP"), "",
+        ""},
+    CommandRow{ID_FILE_EXPORT_BMP, QT_TRANSLATE_NOOP("Command", "Expor&t BMP..."),
+               QT_TRANSLATE_NOOP("Command", "Write a copy of the image as a bitmap\nExport BMP"), "", ""},
     CommandRow{ID_FILE_NEW, QT_TRANSLATE_NOOP("Command", "&New"),
                QT_TRANSLATE_NOOP("Command", "Create a new document\nNew"), "Ctrl+N", "new"},
     CommandRow{ID_FILE_OPEN, QT_TRANSLATE_NOOP("Command", "&Open..."),

@@ -2,6 +2,7 @@
 
 #include "paint/BmpFormat.h"
 #include "paint/PixelAccess.h"
+#include "paint/TextureCanvas.h"
 #include "platform/Platform.h"
 
 #include <new>
@@ -11,6 +12,8 @@ namespace dyeworks {
 namespace {
 
 constexpr std::uint32_t kOpaque = 0xFF000000;
+/// Of 4 bytes each; a bitmap of few colours can have far more in a small file.
+constexpr std::int64_t kMostPixels = TextureCanvas::kMaxBlockSize / 4;
 
 std::uint32_t colourOf(std::uint32_t red, std::uint32_t green, std::uint32_t blue) {
     return kOpaque | red << 16U | green << 8U | blue;
@@ -72,6 +75,8 @@ BackgroundPicture BackgroundPicture::read(const std::string& path) {
                                         MessageIcon::None, MessageOwner::None});
         return {};
     }
+    if (std::int64_t{bitmap.value().width} * bitmap.value().height > kMostPixels)
+        return {};
     try {
         return {bitmap.value().width, bitmap.value().height, pixelsOf(bitmap.value())};
     } catch (const std::bad_alloc&) {

@@ -23,6 +23,7 @@ CDyeworksDoc::CDyeworksDoc(ImageHost& host, DocumentTemplate* documentTemplate)
     onRange(ID_EXPORT_FIRST, ID_EXPORT_LAST, &CDyeworksDoc::OnExport, &CDyeworksDoc::OnUpdateExport);
     on(ID_IMAGE_ATTACH, &CDyeworksDoc::Attach, &CDyeworksDoc::OnUpdateAttach);
     on(ID_IMAGE_ADD_TO_PROJECT, &CDyeworksDoc::AddToProject, &CDyeworksDoc::OnUpdateAddToProject);
+    on(ID_FILE_EXPORT_BMP, &CDyeworksDoc::ExportBmp);
     on(ID_FILE_REVERT, &CDyeworksDoc::Revert, &CDyeworksDoc::OnUpdateRevert);
 }
 

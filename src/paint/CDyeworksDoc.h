@@ -126,6 +126,9 @@ public:
     /// Adds the image and its palette to the open project as a picture, which takes a palette to be attached
     /// and a file to be there; asks for what is missing.
     void AddToProject();
+    /// Writes a copy of the image as a bitmap to a file that is asked for, which does not become the
+    /// document's. Failures are reported.
+    void ExportBmp();
     /// Goes back to what the file holds, after asking when that would lose something.
     void Revert();
 
@@ -169,6 +172,10 @@ private:
     [[nodiscard]] TlutData* attachedTable() const;
     [[nodiscard]] std::string nameToSaveUnder() const;
     void makePaletteOfColours();
+    /// Ends drags and puts pieces that float into the image.
+    void settleForSaving();
+    /// False when the file could not be written or belongs to another document, which has been reported.
+    [[nodiscard]] bool writeCanvas(const std::string& path) const;
     void takeContents(const TextureCanvas& contents);
 
     void OnTogglePreview(CommandId id);

@@ -1,4 +1,3 @@
-#include "core/PaletteSet.h"
 #include "framework/DocumentTemplate.h"
 #include "framework/PathText.h"
 #include "paint/CDyeworksDoc.h"
@@ -60,32 +59,8 @@ bool CDyeworksDoc::onOpenDocument(const std::string& path) {
     return true;
 }
 
-/// The document is not attached to the palette; that is up to the user.
-void CDyeworksDoc::makePaletteOfColours() {
-    PaletteSet* const set = host_.paletteSet();
-    const auto count = static_cast<std::int32_t>(canvas_.GetColorCount());
-    if (set == nullptr || !set->newPalette(count, ColourType::Rgba, -1))
-        return;
-    if (TextureLookupTable* const palette = set->lookup("")) {
-        const auto colours = canvas_.colourTable();
-        std::int32_t entry = 0;
-        for (auto colour = colours.begin(); colour != colours.end(); colour += 4, ++entry) {
-            palette->setRed(entry, colour[2] >> 3);
-            palette->setGreen(entry, colour[1] >> 3);
-            palette->setBlue(entry, colour[0] >> 3);
-            palette->setAlpha(entry, colour[3] >> 3);
-        }
-    }
-    host_.refreshPaletteBar();
-}
-
 bool CDyeworksDoc::onSaveDocument(const std::string& path) {
-    takeBackDrags();
-    // What floats above the image is a part of what the user sees and saves.
-    forEachView([](CDyeworksView& view) {
-        if (view.hasFloatingPiece())
-            view.CommitFloatingPiece(true);
-    });
+    settleForSaving();
     std::string target = path;
     if (target.empty()) {
         const auto chosen = platform().fileDialogs().save(saveRequest(nameToSaveUnder()));
@@ -93,20 +68,35 @@ bool CDyeworksDoc::onSaveDocument(const std::string& path) {
             return false;
         target = *chosen;
     }
-    const CDocument* const open =
-        documentTemplate() == nullptr ? nullptr : documentTemplate()->findDocument(target);
-    if (open != nullptr && open != this) {
-        applicationMessage(text(StringId::FileIsOpenElsewhere, {displayPath(target)}));
+    if (!writeCanvas(target))
         return false;
-    }
-    if (const std::optional<FileError> error = saveCanvas(canvas_, target)) {
-        applicationMessage(text(StringId::CannotSaveFile, {displayPath(target), describe(*error)}));
-        return false;
-    }
     savedPosition_ = history_->position();
     setModified(false);
     if (path.empty())
         setPathName(target);
+    return true;
+}
+
+void CDyeworksDoc::settleForSaving() {
+    takeBackDrags();
+    // What floats above the image is a part of what the user sees and saves.
+    forEachView([](CDyeworksView& view) {
+        if (view.hasFloatingPiece())
+            view.CommitFloatingPiece(true);
+    });
+}
+
+bool CDyeworksDoc::writeCanvas(const std::string& path) const {
+    const CDocument* const open =
+        documentTemplate() == nullptr ? nullptr : documentTemplate()->findDocument(path);
+    if (open != nullptr && open != this) {
+        applicationMessage(text(StringId::FileIsOpenElsewhere, {displayPath(path)}));
+        return false;
+    }
+    if (const std::optional<std::string> reason = saveCanvas(canvas_, path)) {
+        applicationMessage(text(StringId::CannotSaveFile, {displayPath(path), *reason}));
+        return false;
+    }
     return true;
 }
 

@@ -149,15 +149,17 @@ private:
     void applyZoom(bool redraw);
     void scrollTo(Point position);
     void pickColour(Point client);
+    void setToolAtPress(Tool tool);
     void takeDrawingValue();
     [[nodiscard]] std::uint32_t depthMask() const;
     void scrollDrag(Point client);
-    [[nodiscard]] std::unique_ptr<DrawTool> endDrag();
+    std::unique_ptr<DrawTool> endDrag();
     void showPosition(Point texel);
     void updateCursor(Point client, bool shift, bool control);
     [[nodiscard]] CursorShape selectionCursor(Point client) const;
     bool moveSelection(const KeyEvent& event);
     bool zoomByKey(Key key);
+    [[nodiscard]] bool selecting() const noexcept;
     void takeBackSelecting();
     void restoreSettings();
     void restoreAttachment(const std::string& name);

@@ -1,5 +1,6 @@
 #include "paint/CDyeworksDoc.h"
 #include "paint/CDyeworksView.h"
+#include "paint/DrawTool.h"
 #include "paint/ViewWindow.h"
 
 namespace dyeworks {
@@ -31,6 +32,9 @@ bool CDyeworksView::KeyPressed(const KeyEvent& event) {
     }
     const bool ends = event.key == Key::Escape || event.key == Key::Enter;
     if (ends && (SelectionExists() || hasFloatingPiece())) {
+        // What is placed is not dragged any further.
+        if (selecting())
+            endDrag();
         if (event.key == Key::Escape)
             DropFloatingPiece();
         CommitFloatingPiece(true);

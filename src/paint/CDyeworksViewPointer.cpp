@@ -3,6 +3,8 @@
 #include "paint/DrawTool.h"
 #include "paint/ViewWindow.h"
 
+#include <algorithm>
+#include <limits>
 #include <string>
 #include <utility>
 
@@ -30,7 +32,7 @@ void CDyeworksView::PointerPressed(const PointerEvent& event) {
         updateCursor(event.position, event.shift, event.control);
         return;
     }
-    toolAtPress_ = currentTool();
+    setToolAtPress(currentTool());
     if (event.control && toolAtPress_ != Tool::Select && toolAtPress_ != Tool::ZoomLens) {
         pickColour(event.position);
         return;
@@ -44,7 +46,9 @@ void CDyeworksView::PointerPressed(const PointerEvent& event) {
 }
 
 void CDyeworksView::PointerMoved(const PointerEvent& event) {
-    updateCursor(event.position, event.shift, event.control);
+    // While it is captured, the pointer runs ahead of the handle that it drags.
+    if (!dragging())
+        updateCursor(event.position, event.shift, event.control);
     if (scrollDragging_) {
         scrollDrag(event.position);
         return;
@@ -59,8 +63,11 @@ void CDyeworksView::PointerReleased(const PointerEvent& event) {
     if (event.button != PointerButton::Left || !dragging())
         return;
     const std::unique_ptr<DrawTool> tool = endDrag();
-    if (tool != nullptr)
+    if (tool != nullptr) {
         tool->release(geometry().texelAt(event.position), event);
+        if (toolAtPress_ == Tool::ZoomLens)
+            setToolAtPress(currentTool());
+    }
     updateCursor(event.position, event.shift, event.control);
 }
 
@@ -99,7 +106,18 @@ void CDyeworksView::pickColour(Point client) {
         return;
     drawingValue_ = canvas.GetPixel(texel.x, texel.y);
     ImageHost& host = document_.host();
-    host.selectPaletteBarCell(host.paletteBarFirstEntry() + static_cast<std::int32_t>(drawingValue_));
+    const std::int64_t cell = std::int64_t{host.paletteBarFirstEntry()} + drawingValue_;
+    // No palette reaches as far as the values of deep images do.
+    host.selectPaletteBarCell(
+        static_cast<std::int32_t>(std::min<std::int64_t>(cell, std::numeric_limits<std::int32_t>::max())));
+}
+
+/// A selection shows only after a tool that keeps it.
+void CDyeworksView::setToolAtPress(Tool tool) {
+    const bool existed = SelectionExists();
+    toolAtPress_ = tool;
+    if (SelectionExists() != existed)
+        window_.invalidateAll();
 }
 
 /// Without a selected cell the last value stays.

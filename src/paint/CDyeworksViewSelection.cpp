@@ -54,8 +54,12 @@ void CDyeworksView::DropFloatingPiece() noexcept {
 
 /// A selection must not change hands while it is dragged.
 void CDyeworksView::takeBackSelecting() {
-    if (toolAtPress_ == Tool::Select)
+    if (selecting())
         CancelDrag();
+}
+
+bool CDyeworksView::selecting() const noexcept {
+    return tool_ != nullptr && toolAtPress_ == Tool::Select;
 }
 
 void CDyeworksView::OnSpuit() {

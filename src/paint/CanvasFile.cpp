@@ -5,7 +5,30 @@
 #include "platform/Platform.h"
 #include "platform/TextCase.h"
 
+#include <variant>
+
 namespace dyeworks {
+
+namespace {
+
+std::string reasonOf(const TextureCanvas::BmpFailure& failure) {
+    if (const auto* const error = std::get_if<FileError>(&failure))
+        return describe(*error);
+    switch (std::get<BmpError>(failure)) {
+    case BmpError::Truncated:
+        return text(StringId::BmpErrorTruncated);
+    case BmpError::BadSize:
+        return text(StringId::BmpErrorBadSize);
+    default:
+        return text(StringId::BmpErrorNotABitmap);
+    }
+}
+
+std::optional<std::string> reasonOf(const std::optional<FileError>& error) {
+    return error ? std::optional(describe(*error)) : std::nullopt;
+}
+
+} // namespace
 
 bool isBmpName(const std::string& path) {
     const std::size_t stop = path.rfind('.');
@@ -15,21 +38,23 @@ bool isBmpName(const std::string& path) {
 bool loadCanvas(TextureCanvas& canvas, const std::string& path) {
     if (!isBmpName(path))
         return canvas.LoadTmf(path);
-    const TextureCanvas::BmpRead read = canvas.ReadBmp(path);
-    if (read == TextureCanvas::BmpRead::Failed)
-        applicationMessage(text(StringId::CannotReadFile, {displayPath(path)}));
-    return read == TextureCanvas::BmpRead::Done;
+    const std::optional<TextureCanvas::BmpFailure> failure = canvas.ReadBmp(path);
+    if (!failure)
+        return true;
+    if (*failure != TextureCanvas::BmpFailure(BmpError::Compressed))
+        applicationMessage(text(StringId::CannotOpenFile, {displayPath(path), reasonOf(*failure)}));
+    return false;
 }
 
-std::optional<FileError> saveCanvas(const TextureCanvas& canvas, const std::string& path) {
+std::optional<std::string> saveCanvas(const TextureCanvas& canvas, const std::string& path) {
+    if (canvas.block().empty())
+        return describe(FileError::Other);
     if (isBmpName(path))
-        return canvas.block().empty() ? FileError::Other : platform().files().write(path, canvas.block());
+        return reasonOf(platform().files().write(path, canvas.block()));
     if (canvas.bitsPerPixel() != 4 && canvas.bitsPerPixel() != 8)
-        return FileError::Other;
+        return text(StringId::DepthTakesABitmap, {std::to_string(canvas.bitsPerPixel())});
     const std::unique_ptr<TmfImage> image = canvas.ToImage();
-    if (image == nullptr)
-        return FileError::TooLarge;
-    return writeTmf(*image, path);
+    return reasonOf(image == nullptr ? FileError::TooLarge : writeTmf(*image, path));
 }
 
 } // namespace dyeworks

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/Files.h"
-
 #include <optional>
 #include <string>
 
@@ -16,8 +14,8 @@ class TextureCanvas;
 /// read, which has been reported.
 [[nodiscard]] bool loadCanvas(TextureCanvas& canvas, const std::string& path);
 
-/// Writes the canvas as a BMP file or, by any other name, a TMF file. Nothing: written; otherwise why not,
-/// the file being as it was.
-[[nodiscard]] std::optional<FileError> saveCanvas(const TextureCanvas& canvas, const std::string& path);
+/// Writes the canvas as a BMP file or, by any other name, a TMF file. Nothing: written; otherwise why not, in
+/// a sentence for the user, the file being as it was.
+[[nodiscard]] std::optional<std::string> saveCanvas(const TextureCanvas& canvas, const std::string& path);
 
 } // namespace dyeworks

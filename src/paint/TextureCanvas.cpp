@@ -1,7 +1,7 @@
 #include "paint/TextureCanvas.h"
 
-#include "paint/LittleEndian.h"
 #include "paint/PixelAccess.h"
+#include "platform/LittleEndian.h"
 
 #include <algorithm>
 #include <cassert>

@@ -7,12 +7,15 @@
 #include "paint/Range.h"
 #include "paint/Rect.h"
 #include "paint/Surface.h"
+#include "platform/Files.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
+#include <variant>
 
 namespace dyeworks {
 
@@ -102,13 +105,11 @@ public:
     /// both with right and bottom exclusive. The result is the number of surface rows written.
     virtual std::int32_t Draw(Surface& surface, const Rect& destination, const Rect& source) const;
 
-    enum class BmpRead {
-        Done,
-        Compressed, ///< Which the user has been told.
-        Failed
-    };
-    /// Reads an uncompressed BMP file, or leaves the canvas empty.
-    BmpRead ReadBmp(const std::string& path);
+    /// Why a BMP file could not be read: the fault of the file or of what is in it.
+    using BmpFailure = std::variant<FileError, BmpError>;
+    /// Reads an uncompressed BMP file, or leaves the canvas empty. Nothing: read. A compressed file has been
+    /// reported to the user.
+    [[nodiscard]] std::optional<BmpFailure> ReadBmp(const std::string& path);
     /// The same. False when the file cannot be read.
     virtual bool LoadBmp(const std::string& path);
     virtual bool SaveBmp(const std::string& path) const;

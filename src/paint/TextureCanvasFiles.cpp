@@ -74,29 +74,31 @@ bool TextureCanvas::SaveTmf(const std::string& path) const {
     return image != nullptr && image->saveTmf(path);
 }
 
-TextureCanvas::BmpRead TextureCanvas::ReadBmp(const std::string& path) {
+std::optional<TextureCanvas::BmpFailure> TextureCanvas::ReadBmp(const std::string& path) {
     Destroy();
     const Result<ByteBuffer, FileError> file = platform().files().read(path);
     if (!file)
-        return BmpRead::Failed;
+        return file.error();
     const Result<BmpImage, BmpError> bitmap = parseBmp(file.value().bytes());
-    if (bitmap)
-        return CreateFrom(bitmap.value()) ? BmpRead::Done : BmpRead::Failed;
-    if (bitmap.error() != BmpError::Compressed)
-        return BmpRead::Failed;
-    platform().messages().show({"compressed format not supported.\n", "", MessageButtons::Ok,
-                                MessageIcon::None, MessageOwner::MainWindow});
-    return BmpRead::Compressed;
+    if (!bitmap) {
+        if (bitmap.error() == BmpError::Compressed)
+            platform().messages().show({"compressed format not supported.\n", "", MessageButtons::Ok,
+                                        MessageIcon::None, MessageOwner::MainWindow});
+        return bitmap.error();
+    }
+    if (!CreateFrom(bitmap.value()))
+        return FileError::TooLarge;
+    return std::nullopt;
 }
 
 bool TextureCanvas::LoadBmp(const std::string& path) {
-    return ReadBmp(path) == BmpRead::Done;
+    return !ReadBmp(path);
 }
 
 bool TextureCanvas::CopyToClipboard(const Rect& rectangle) const {
     const Rect part = rectangle.normalised();
     const std::unique_ptr<TextureCanvas> copy = CopyRect(part.left, part.top, part.right, part.bottom);
-    return copy != nullptr && platform().clipboard().setBitmap(copy->block().subspan(bmp::kFileHeaderSize));
+    return copy != nullptr && platform().clipboard().setBitmap(copy->packedBitmap());
 }
 
 std::unique_ptr<TextureCanvas> TextureCanvas::PasteFromClipboard() {

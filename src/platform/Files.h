@@ -13,6 +13,9 @@
 
 namespace dyeworks {
 
+/// Section of the settings with the host folders that drives stand for, an entry "c:" for each.
+inline constexpr const char* kDriveSection = "Drives";
+
 /// Why a file could not be read or written, in terms that a person can act on.
 enum class FileError {
     NotFound,     ///< The file, its folder or its drive does not exist.

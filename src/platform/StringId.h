@@ -23,6 +23,14 @@ enum class StringId {
     FileIsOpenElsewhere, ///< %1 file
     RevertQuestion,      ///< %1 document
 
+    BmpErrorNotABitmap,
+    BmpErrorTruncated,
+    BmpErrorBadSize,
+    DepthTakesABitmap, ///< %1 bits
+    BitmapFiles,       ///< Of a file dialog's filter.
+    ImportBmpCaption,
+    ExportBmpCaption,
+
     ChosenFileMissing,   ///< %1 file
     ReplaceFileQuestion, ///< %1 file
 
@@ -160,6 +168,7 @@ enum class StringId {
     CannotOpenFile,          ///< %1 file, %2 why
     CannotSaveProject,       ///< %1 file
     ProjectCannotHoldFolder, ///< %1 folders
+    DriveIsNotMapped,        ///< %1 file, %2 letter
     FileIsNotFound,          ///< %1 file
     PictureNameCannotBeHeld,
     FileNameCannotBeHeld, ///< %1 file

@@ -35,6 +35,19 @@ constexpr std::array kRows{
     Row{StringId::RevertQuestion,
         QT_TRANSLATE_NOOP("Text", "Go back to the saved file?\nThe changes to \"%1\" will be lost.")},
 
+    Row{StringId::BmpErrorNotABitmap,
+        QT_TRANSLATE_NOOP("Text", "The file is not a bitmap, or one of an unknown kind.")},
+    Row{StringId::BmpErrorTruncated,
+        QT_TRANSLATE_NOOP("Text", "The file is damaged or ends before the bitmap does.")},
+    Row{StringId::BmpErrorBadSize,
+        QT_TRANSLATE_NOOP("Text", "The width or height of the bitmap is out of range.")},
+    Row{StringId::DepthTakesABitmap,
+        QT_TRANSLATE_NOOP("Text", "A TMF image has 4 or 8 bits for each texel, and this one has %1.\n"
+                                  "Give it a name that ends in .bmp.")},
+    Row{StringId::BitmapFiles, QT_TRANSLATE_NOOP("Text", "Bitmap Files")},
+    Row{StringId::ImportBmpCaption, QT_TRANSLATE_NOOP("Text", "Import BMP")},
+    Row{StringId::ExportBmpCaption, QT_TRANSLATE_NOOP("Text", "Export BMP")},
+
     Row{StringId::ChosenFileMissing,
         QT_TRANSLATE_NOOP("Text", "\"%1\" does not exist.\nPlease check the name.")},
     Row{StringId::ReplaceFileQuestion,
@@ -221,6 +234,11 @@ constexpr std::array kRows{
     Row{StringId::ProjectCannotHoldFolder,
         QT_TRANSLATE_NOOP(
             "Text", "A project cannot keep the folder \"%1\": its path is too long or has a \"#\" in it.")},
+    Row{StringId::DriveIsNotMapped,
+        QT_TRANSLATE_NOOP(
+            "Text",
+            "\"%1\" is not found.\nThe program does not know what folder drive %2 stands for. Start it "
+            "once with\n--drive %2=FOLDER")},
     Row{StringId::FileIsNotFound, QT_TRANSLATE_NOOP("Text", "\"%1\" is not found.")},
     Row{StringId::PictureNameCannotBeHeld,
         QT_TRANSLATE_NOOP(

@@ -164,8 +164,8 @@ void CKeyValueStore::TakeValues(const std::vector<std::string>& names,
         values_.erase(found);
         taken.insert(name);
     }
-    // Of each name its first line.
-    std::erase_if(lines_, [&](const StoreLine& line) { return !line.empty() && taken.erase(line[0]) > 0; });
+    // Not a line that merely consists of such a name.
+    std::erase_if(lines_, [&](const StoreLine& line) { return line.size() > 1 && taken.contains(line[0]); });
     placesAreValid_ = false;
 }
 

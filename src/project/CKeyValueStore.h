@@ -61,7 +61,7 @@ public:
     /// Removes the first line whose first token is the name.
     void RemoveKey(const std::string& name);
     /// One name after the other: hands the value to `take`, which must leave the store alone, and removes the
-    /// key. Names without a value are passed over. Costs one pass over the lines, however many names.
+    /// assignment. Names without a value are passed over. Costs one pass over the lines, however many names.
     void TakeValues(const std::vector<std::string>& names,
                     const std::function<void(const std::string& value)>& take);
     /// Nothing when there is no such line.

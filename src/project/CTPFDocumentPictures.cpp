@@ -1,6 +1,7 @@
 #include "core/PaletteSet.h"
 #include "paint/CDyeworksDoc.h"
 #include "platform/Platform.h"
+#include "platform/ProgramPath.h"
 #include "project/CTPFDocument.h"
 #include "project/PathHelpers.h"
 
@@ -39,6 +40,14 @@ std::optional<std::string> pictureOf(const std::string& node) {
 /// Whether a picture may be given the name: the file can hold it, and so can the paths of nodes.
 bool isPictureName(const std::string& name) {
     return !name.empty() && name.find_first_of("=\\") == name.npos && CTPFFile::holdsPicture(name, {});
+}
+
+/// A project of another host may name drives that stand for nothing here.
+std::string whyNotFound(const std::string& directories, const std::string& file) {
+    const std::string place = isRooted(file) ? file : directories;
+    if (place.size() > 1 && place[1] == ':' && platform().files().hostPath(place.substr(0, 2) + "\\").empty())
+        return text(StringId::DriveIsNotMapped, {displayPath(file), place.substr(0, 1)});
+    return text(StringId::FileIsNotFound, {displayPath(file)});
 }
 
 /// What is dragged, by the text that the drag carries.
@@ -170,7 +179,7 @@ bool CTPFDocument::OpenPicture(const std::string& name) {
     const auto find = [this](const std::string& directories, const std::string& file) {
         std::string path = findFile(directories, file);
         if (path.empty())
-            tell(text(StringId::FileIsNotFound, {displayPath(file)}));
+            tell(whyNotFound(directories, file));
         return path;
     };
     const std::string palette = find(projectFile_.tlfDir, entry.tlfFile);

@@ -15,6 +15,7 @@ namespace {
 
 constexpr char kSeparator = '\\';
 constexpr std::string_view kSeparators = "\\/";
+constexpr std::string_view kServer = "\\\\";
 constexpr const char* kListSeparator = ";";
 
 bool endsWithSeparator(std::string_view path) {
@@ -131,7 +132,7 @@ void PathSplitRoot(const std::string& path, std::string& server, std::string& dr
     if (path[1] == ':') {
         drive = path.substr(0, 2);
         rest = path.substr(2);
-    } else if (path.starts_with("\\\\")) {
+    } else if (path.starts_with(kServer)) {
         const std::size_t end = std::min(path.find(kSeparator, 2), path.size());
         server = path.substr(0, end);
         rest = path.substr(end);
@@ -190,7 +191,8 @@ bool PathRelativeTo(std::string& relative, const std::string& base, const std::s
     if (folder.size() > 1 && folder.back() != kSeparator)
         folder += kSeparator;
     const std::int32_t common = PathCommonLength(full, folder, static_cast<std::int32_t>(folder.size()));
-    if (common < 0) {
+    // The separator that both begin with is no folder in common when it is half of a server's two.
+    if (common < 0 || full.starts_with(kServer) != folder.starts_with(kServer)) {
         relative = full;
         return true;
     }

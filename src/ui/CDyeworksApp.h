@@ -6,6 +6,7 @@
 #include "framework/RecentFileList.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/ImageHost.h"
+#include "platform/FileDialogs.h"
 #include "plugin/ImagePlugInCalls.h"
 #include "plugin/PlugInCatalogue.h"
 #include "plugin/ProjectPlugInCalls.h"
@@ -174,11 +175,13 @@ private:
 
     void fillCommands();
     void openWithDialog(const char* defaultExtension, int filterIndex);
+    void openWithDialog(FileDialogRequest request);
     void updateNeedsPalette(CommandUi& ui);
     void updateNeedsProject(CommandUi& ui);
     void updateNeedsPicture(CommandUi& ui);
     void OnFileNew();
     void OnFileOpen();
+    void OnFileImportBmp();
     void OnProjectNew();
     void OnProjectClose();
     void OnProjectSave();

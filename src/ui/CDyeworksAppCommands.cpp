@@ -20,6 +20,7 @@ constexpr int kPaletteFilter = 3;
 void CDyeworksApp::fillCommands() {
     on(ID_FILE_NEW, &CDyeworksApp::OnFileNew);
     on(ID_FILE_OPEN, &CDyeworksApp::OnFileOpen);
+    on(ID_FILE_IMPORT_BMP, &CDyeworksApp::OnFileImportBmp);
     on(ID_PROJECT_NEW, &CDyeworksApp::OnProjectNew);
     on(ID_PROJECT_OPEN, &CDyeworksApp::OpenProjectFile);
     on(ID_PROJECT_CLOSE, &CDyeworksApp::OnProjectClose, &CDyeworksApp::updateNeedsProject);
@@ -50,6 +51,10 @@ void CDyeworksApp::openWithDialog(const char* defaultExtension, int filterIndex)
     request.filter = kOpenFilter;
     request.filterIndex = filterIndex;
     request.defaultExtension = defaultExtension;
+    openWithDialog(request);
+}
+
+void CDyeworksApp::openWithDialog(FileDialogRequest request) {
     request.fileMustExist = true;
     request.hideReadOnly = true;
     if (const std::optional<std::string> path = platform().fileDialogs().open(request))
@@ -74,6 +79,14 @@ void CDyeworksApp::OnFileNew() {
 
 void CDyeworksApp::OnFileOpen() {
     openWithDialog(".tmf", kImageFilter);
+}
+
+void CDyeworksApp::OnFileImportBmp() {
+    FileDialogRequest request;
+    request.title = text(StringId::ImportBmpCaption);
+    request.filter = text(StringId::BitmapFiles) + " (*.bmp)|*.bmp||";
+    request.defaultExtension = ".bmp";
+    openWithDialog(request);
 }
 
 CDocument* CDyeworksApp::NewProject() {

@@ -57,6 +57,8 @@ std::set<int> storedDocuments(int count) {
 bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
     exitCode_ = 1;
     followLocale(commandLine);
+    for (const auto& [letter, folder] : commandLine.drives)
+        platform().profile().setText(kDriveSection, {letter, ':'}, folder.toStdString());
     if (!parts_.startObjectServices()) {
         applicationMessage(text(StringId::ObjectServicesFailed));
         return false;

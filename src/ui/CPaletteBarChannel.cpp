@@ -91,6 +91,11 @@ CPaletteBarChannel::CPaletteBarChannel(PaletteBarState& state, Channel channel, 
     identify(*track_, ids.track);
     label_->setBuddy(field_);
     field_->setFixedWidth(field_->sizeHint().width());
+    // The first channel's colours go by the kind of the palette; the others keep theirs.
+    if (channel == Channel::Green || channel == Channel::Blue) {
+        slider_->setHighColour(channel == Channel::Green ? 0x00FF00 : 0xFF0000);
+        slider_->setMarkerColour(0xFFFFFF);
+    }
     readOut_->setReadOnly(true);
     readOut_->setFocusPolicy(Qt::ClickFocus);
     readOut_->setAlignment(Qt::AlignHCenter);
@@ -140,7 +145,12 @@ void CPaletteBarChannel::showLayout() {
     const IntegerField::Range range{0, row.highest};
     field_->setRanges(range, range);
     slider_->setRange(0, row.highest);
-    showColours();
+    if (channel_ == Channel::Red) {
+        const PaletteBarState::SliderColours colours = state_.sliderColours();
+        slider_->setLowColour(colours.lowColour);
+        slider_->setHighColour(colours.highColour);
+        slider_->setMarkerColour(colours.markerColour);
+    }
     const QSignalBlocker quiet(track_);
     track_->setRange(0, row.highest);
 }
@@ -158,25 +168,6 @@ void CPaletteBarChannel::showNames(bool intensity, const std::string& highest) {
     const QString readOutTip = shown(StringId::EntryReadOutTip, {text(name)});
     readOut_->setToolTip(readOutTip);
     readOut_->setAccessibleName(readOutTip);
-}
-
-void CPaletteBarChannel::showColours() {
-    PaletteBarState::SliderColours colours = state_.sliderColours();
-    switch (channel_) {
-    case Channel::Red:
-        break;
-    case Channel::Green:
-        colours.highColour = 0x00FF00;
-        break;
-    case Channel::Blue:
-        colours.highColour = 0xFF0000;
-        break;
-    case Channel::Alpha:
-        return;
-    }
-    slider_->setLowColour(colours.lowColour);
-    slider_->setHighColour(colours.highColour);
-    slider_->setMarkerColour(colours.markerColour);
 }
 
 void CPaletteBarChannel::showValue() {

@@ -41,7 +41,6 @@ private:
     void typed();
     void scrolled(int action);
     void showNames(bool intensity, const std::string& highest);
-    void showColours();
 
     PaletteBarState& state_;
     Channel channel_;

@@ -82,10 +82,10 @@ QWidget* CPaletteBarControls::makeEmptyNotice() {
     auto* notice = new QLabel(shown(StringId::NoPaletteOpen));
     notice->setWordWrap(true);
     notice->setAlignment(Qt::AlignCenter);
-    auto* open = new QToolButton;
-    open->setDefaultAction(actions_.action(ID_PALETTE_OPEN));
-    open->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    open->setFocusPolicy(Qt::StrongFocus);
+    // Not a button with the command's own tip: the one that no palette is open is to show here too.
+    const QAction* const command = actions_.action(ID_PALETTE_OPEN);
+    auto* open = new QPushButton(command->icon(), command->iconText());
+    connect(open, &QPushButton::clicked, this, [this] { actions_.run(ID_PALETTE_OPEN); });
     auto* layout = new QVBoxLayout(page);
     layout->addStretch();
     layout->addWidget(notice);

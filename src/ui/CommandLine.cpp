@@ -43,6 +43,10 @@ struct Options {
                                 QStringLiteral("language")};
     QCommandLineOption settings{QStringLiteral("settings"), QStringLiteral("Keep the settings in this file."),
                                 QStringLiteral("file")};
+    QCommandLineOption drive{
+        QStringLiteral("drive"),
+        QStringLiteral("Let a drive of projects made elsewhere stand for a folder, from now on."),
+        QStringLiteral("letter=folder")};
     QCommandLineOption newInstance{QStringLiteral("new-instance"),
                                    QStringLiteral("Start another program even when one is running.")};
     QCommandLineOption attach{
@@ -73,8 +77,8 @@ struct Options {
         return option;
     }
     void addTo(QCommandLineParser& parser) const {
-        parser.addOptions({help, version, language, settings, newInstance, attach, print, printTo, render,
-                           noSplash, unregister, printWithDriver, receive, serve});
+        parser.addOptions({help, version, language, settings, drive, newInstance, attach, print, printTo,
+                           render, noSplash, unregister, printWithDriver, receive, serve});
     }
 };
 
@@ -107,7 +111,7 @@ std::optional<QString> optionOfSwitch(const QString& argument) {
 /// The arguments with options in the place of such switches.
 QStringList withoutSwitches(const QStringList& arguments) {
     static const QStringList kTakeValue{QStringLiteral("--language"), QStringLiteral("--settings"),
-                                        QStringLiteral("--render")};
+                                        QStringLiteral("--drive"), QStringLiteral("--render")};
     QStringList result;
     bool optionsEnded = false;
     for (const QString& argument : arguments) {
@@ -153,7 +157,7 @@ CommandLine parseCommandLine(const QStringList& arguments) {
     parser.setApplicationDescription(QStringLiteral("Editor for colour-indexed console textures."));
     options.addTo(parser);
     parser.addPositionalArgument(QStringLiteral("files"),
-                                 QStringLiteral("Images (.tmf, .bmp) and palettes (.tlf)."),
+                                 QStringLiteral("Projects (.tpf), images (.tmf, .bmp) and palettes (.tlf)."),
                                  QStringLiteral("[files...]"));
     if (!parser.parse(withoutSwitches(arguments)))
         return refused(parser.errorText());
@@ -172,6 +176,15 @@ CommandLine parseCommandLine(const QStringList& arguments) {
         result.language != QLatin1String("en"))
         return refused(QStringLiteral("the language \"%1\" is neither ja nor en").arg(result.language));
     result.settingsFile = absolute(parser.value(options.settings));
+    for (const QString& drive : parser.values(options.drive)) {
+        const QString folder = absolute(drive.mid(2));
+        const bool named = drive.size() > 2 && drive.at(1) == QLatin1Char('=') && drive.at(0).isLetter() &&
+                           drive.at(0).unicode() < 0x80;
+        if (!named || !QFileInfo(folder).isDir())
+            return refused(QStringLiteral("\"%1\" does not name a drive and a folder, as in c=/home/kei/work")
+                               .arg(drive));
+        result.drives.emplace_back(drive.at(0).toLower().toLatin1(), folder);
+    }
     result.attach = parser.isSet(options.attach);
     result.newInstance = parser.isSet(options.newInstance);
     result.noSplash = parser.isSet(options.noSplash);

@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace dyeworks {
@@ -21,11 +22,13 @@ struct CommandLine {
     };
 
     Task task = Task::Nothing;
-    QStringList files;        ///< As the host writes them, absolute, as are all files below.
-    QString printer;          ///< Name of the printer to print to.
-    QString printFile;        ///< PDF file to print into instead, or empty.
-    QString language;         ///< "ja", "en", or empty for the desktop's.
-    QString settingsFile;     ///< Empty for the user's own settings.
+    QStringList files;    ///< As the host writes them, absolute, as are all files below.
+    QString printer;      ///< Name of the printer to print to.
+    QString printFile;    ///< PDF file to print into instead, or empty.
+    QString language;     ///< "ja", "en", or empty for the desktop's.
+    QString settingsFile; ///< Empty for the user's own settings.
+    std::vector<std::pair<char, QString>>
+        drives;               ///< Letters and the folders that they stand for from now on.
     bool attach = false;      ///< Attach each image to the palette that is current when it opens.
     bool newInstance = false; ///< Start another program even when one runs.
     bool noSplash = false;
@@ -42,7 +45,9 @@ struct CommandLine {
         return !prints() && !renders() && task != Task::Serve && task != Task::Unregister;
     }
     /// Whether a program that is running can do what is asked for.
-    [[nodiscard]] bool canBeHandedOver() const noexcept { return isInteractive() && !newInstance && !attach; }
+    [[nodiscard]] bool canBeHandedOver() const noexcept {
+        return isInteractive() && !newInstance && !attach && drives.empty();
+    }
 };
 
 /// Reads the program's arguments, the program's name first. Prints what `--help` and `--version` ask for,

@@ -145,18 +145,118 @@ TEST_F(DocFile, ColoursOfABitmapBecomeTheCurrentPalette) {
                 ElementsAre(31, 17, 8, 1));
     EXPECT_EQ(table.getAlpha(3), 0);
     EXPECT_EQ(host.barRefreshes, 1);
+}
 
-    platform.files.putFile("c:\\bad.bmp", "BMP");
-    EXPECT_FALSE(document.onOpenDocument("c:\\bad.bmp"));
-    EXPECT_EQ(host.palettes.palettes.size(), 1U);
+TEST_F(DocFile, BitmapsThatCannotBeOpenedAreToldWithTheReasonAndLeaveNothingBehind) {
+    ASSERT_TRUE(document.canvas().SaveBmp("c:\\pic.bmp"));
+    const std::string whole = platform.files.textOf("c:\\pic.bmp").value();
+    const auto with = [&](std::size_t at, char byte) {
+        std::string changed = whole;
+        changed[at] = byte;
+        return changed;
+    };
+    const std::string cannot = "Cannot open \"c:\\x.bmp\".\n";
+    const std::string damaged = cannot + "The file is damaged or ends before the bitmap does.";
+    const struct {
+        std::string contents, message;
+    } cases[] = {
+        {with(0, 'P'), cannot + "The file is not a bitmap, or one of an unknown kind."},
+        {whole.substr(0, whole.size() - 1), damaged},
+        {"BM", damaged},
+        {with(21, -1), cannot + "The width or height of the bitmap is out of range."},
+        {with(30, 1), "compressed format not supported.\n"}, // run lengths
+        {with(30, 3), "compressed format not supported.\n"}, // bit fields
+    };
+    for (const auto& [contents, message] : cases) {
+        platform.messages.shown.clear();
+        platform.files.putFile("c:\\x.bmp", contents);
+        EXPECT_FALSE(document.onOpenDocument("c:\\x.bmp"));
+        EXPECT_EQ(platform.messages.shown.size(), 1U) << "told once";
+        EXPECT_EQ(platform.messages.lastText(), message);
+    }
+    EXPECT_FALSE(document.onOpenDocument("c:\\gone.bmp"));
+    EXPECT_EQ(platform.messages.lastText(),
+              "Cannot open \"c:\\gone.bmp\".\nThe file or its folder does not exist.");
+    EXPECT_TRUE(host.palettes.palettes.empty());
+}
 
-    EXPECT_EQ(platform.messages.shown.size(), 1U);
-    std::string compressed = platform.files.textOf("c:\\pic.bmp").value();
-    compressed[30] = 1; // run lengths
-    platform.files.putFile("c:\\rle.bmp", compressed);
-    EXPECT_FALSE(document.onOpenDocument("c:\\rle.bmp"));
-    EXPECT_EQ(platform.messages.lastText(), "compressed format not supported.\n");
-    EXPECT_EQ(platform.messages.shown.size(), 2U) << "told once";
+TEST_F(DocFile, EveryDepthOpensAndIsSavedAsABitmapOnly) {
+    const struct {
+        std::uint16_t bits;
+        std::int32_t colours; ///< Of the new palette; 0 for none.
+    } cases[] = {{1, 2}, {16, 0}, {24, 0}, {32, 0}};
+    for (const auto& [bits, colours] : cases) {
+        SCOPED_TRACE(bits);
+        const std::size_t palettes = host.palettes.palettes.size();
+        TextureCanvas picture;
+        picture.Create(3, 2, 1, bits);
+        picture.SetPixel(2, 1, 0xABCDEF01);
+        ASSERT_TRUE(picture.SaveBmp("c:\\deep.bmp"));
+        ASSERT_TRUE(document.onOpenDocument("c:\\deep.bmp"));
+        EXPECT_EQ(host.palettes.palettes.size(), palettes + (colours == 0 ? 0 : 1));
+        EXPECT_EQ(host.palettes.palettes.empty() ? 0 : host.palettes.lookup("")->table.count,
+                  host.palettes.palettes.empty() ? 0 : 2);
+        document.Pixel(nullptr, 0, 0, 1);
+        ASSERT_TRUE(document.onSaveDocument("c:\\again.bmp"));
+        TextureCanvas again;
+        ASSERT_TRUE(again.LoadBmp("c:\\again.bmp"));
+        picture.SetPixel(0, 0, 1);
+        EXPECT_TRUE(std::ranges::equal(again.block(), picture.block()));
+
+        EXPECT_FALSE(document.onSaveDocument("c:\\no.tmf"));
+        EXPECT_EQ(
+            platform.messages.lastText(),
+            "Cannot save \"c:\\no.tmf\".\nA TMF image has 4 or 8 bits for each texel, and this one has " +
+                std::to_string(bits) + ".\nGive it a name that ends in .bmp.");
+        EXPECT_FALSE(platform.files.exists("c:\\no.tmf"));
+    }
+}
+
+TEST_F(DocFile, ExportedBitmapIsACopyAndTheDocumentKeepsItsFile) {
+    document.Pixel(nullptr, 1, 1, 5);
+    const std::string title = document.title();
+    document.runCommand(ID_FILE_EXPORT_BMP); // cancelled
+    const FileDialogRequest& request = platform.dialogs.shown.back().request;
+    EXPECT_EQ(request.filter, "Bitmap Files (*.bmp)|*.bmp||");
+    EXPECT_EQ(request.initialName, "tex.bmp");
+    EXPECT_TRUE(request.overwritePrompt);
+
+    platform.files.putFile("c:\\copy.v2.bmp", "old");
+    const std::string question = "\"c:\\copy.v2.bmp\" exists already.\nDo you want to replace it?";
+    const struct {
+        const char* name;
+        const char* written;
+        std::vector<MessageAnswer> answers;
+        const char* failure;
+    } cases[] = {
+        {"c:\\copy.bmp", "c:\\copy.bmp", {}, nullptr},
+        {"c:\\COPY2.BMP", "c:\\COPY2.BMP", {}, nullptr},
+        {"c:\\copy.tmf", "c:\\copy.tmf.bmp", {}, nullptr},
+        {"c:\\copy.v2", nullptr, {MessageAnswer::No}, nullptr},
+        {"c:\\copy.v2", "c:\\copy.v2.bmp", {MessageAnswer::Yes}, nullptr},
+        {"c:\\full.bmp", nullptr, {}, "Cannot save \"c:\\full.bmp\".\nThere is no space left on the disk."}};
+    for (const auto& [name, written, answers, failure] : cases) {
+        SCOPED_TRACE(name);
+        platform.messages.shown.clear();
+        for (const MessageAnswer answer : answers)
+            platform.messages.answerWith(answer);
+        if (failure != nullptr)
+            platform.files.failNextWrite(FileError::NoSpace);
+        platform.dialogs.answerWith(name);
+        document.runCommand(ID_FILE_EXPORT_BMP);
+        EXPECT_EQ(platform.messages.lastText(), failure != nullptr ? failure
+                                                : answers.empty()  ? ""
+                                                                   : question);
+        if (written != nullptr) {
+            EXPECT_TRUE(
+                std::ranges::equal(platform.files.bytesOf(written).value(), document.canvas().block()));
+        }
+    }
+    EXPECT_EQ(platform.files.textOf("c:\\copy.v2.bmp")->substr(0, 2), "BM");
+    EXPECT_FALSE(platform.files.exists("c:\\full.bmp"));
+    EXPECT_EQ(document.title(), title);
+    EXPECT_EQ(document.pathName(), "c:\\tex.tmf");
+    EXPECT_TRUE(document.hasUnsavedChanges());
 }
 
 TEST_F(DocFile, RevertGoesBackToTheFileAndKeepsThePalette) {

@@ -29,7 +29,7 @@ public:
         if (view != nullptr)
             view->PointerCaptureLost();
     }
-    void setCursor(CursorShape) override {}
+    void setCursor(CursorShape shape) override { cursor = shape; }
     void fitFrame() override { fitted = content; }
     std::optional<WindowPlacement> placement() const override { return place; }
     void setPlacement(const WindowPlacement& placement) override { place = placement; }
@@ -52,6 +52,7 @@ public:
     const DisplayPalette* displayPalette = nullptr;
     int interval = 0; ///< In milliseconds; 0 while it does not tick.
     Point pointer;
+    CursorShape cursor = CursorShape::Arrow;
     CDyeworksView* view = nullptr;
 };
 

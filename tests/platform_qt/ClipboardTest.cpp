@@ -1,5 +1,5 @@
 #include "Desktop.h"
-#include "platform/qt/PackedDib.h"
+#include "platform/PackedDib.h"
 
 #include <QBuffer>
 #include <QClipboard>
@@ -75,11 +75,28 @@ TEST(PackedDib, BecomesAFileThatOtherProgramsRead) {
 }
 
 TEST(PackedDib, ComesOutOfAFileWithoutTheGapBeforeItsPixels) {
-    const Bytes dib = dibOf(40, 8, 256, 0);
+    const Bytes dib = dibOf(124, 8, 256, 0);
     Bytes bmp = bmpFromDib(dib).value();
     bmp.insert(bmp.end() - 4, 2, std::byte{0xEE});
-    put(bmp, 10, 14 + 40 + 1024 + 2);
+    put(bmp, 10, 14 + 124 + 1024 + 2);
     EXPECT_EQ(dibFromBmp(bmp), dib);
+}
+
+TEST(PackedDib, GetsTheColoursThatItsFileLeavesOut) {
+    // Five colours and a part of a sixth.
+    for (const std::uint32_t headerSize : {12U, 124U}) {
+        const std::uint32_t entry = headerSize == 12 ? 3 : 4;
+        const auto at = [&](std::uint32_t colours) { return 14 + headerSize + entry * colours; };
+        const Bytes whole = bmpFromDib(dibOf(headerSize, 4, 16, 0)).value();
+        Bytes bmp = whole;
+        bmp.erase(bmp.begin() + at(5) + 2, bmp.begin() + at(16));
+        put(bmp, at(5), 0xEEEE, 2);
+        put(bmp, 10, at(5) + 2);
+        EXPECT_EQ(dibFromBmp(bmp), Bytes(whole.begin() + 14, whole.end())) << headerSize;
+    }
+    Bytes damaged = bmpFromDib(dibOf(124, 8, 256, 0)).value();
+    put(damaged, 14 + 32, 0xFFFFFFFF);
+    EXPECT_EQ(dibFromBmp(damaged), std::nullopt);
 }
 
 TEST(PackedDib, IsRefusedWhenCutOffOrOfNoKnownKind) {
@@ -94,6 +111,9 @@ TEST(PackedDib, IsRefusedWhenCutOffOrOfNoKnownKind) {
     Bytes colours = dibOf(40, 8, 256, 0);
     put(colours, 32, 0xFFFFFFFF);
     EXPECT_EQ(bmpFromDib(colours), std::nullopt);
+    Bytes compressed = whole;
+    put(compressed, 14 + 16, 3);
+    EXPECT_EQ(dibFromBmp(compressed), std::nullopt);
 }
 
 TEST_F(ClipboardTest, HandsABitmapToOthersAndBackUnchanged) {
@@ -120,6 +140,42 @@ TEST_F(ClipboardTest, TakesThePictureOfAProgramThatOffersNoBmp) {
     const std::optional<Bytes> dib = platform_.clipboard().bitmap();
     ASSERT_TRUE(dib);
     EXPECT_EQ(QImage::fromData(arrayOf(bmpFromDib(*dib).value()), "BMP").pixel(0, 0), qRgb(30, 20, 10));
+}
+
+TEST_F(ClipboardTest, OffersAnIndexedPictureAsSuch) {
+    constexpr struct {
+        std::uint32_t bits, colours;
+        QImage::Format format;
+    } kCases[] = {
+        {1, 2, QImage::Format_Mono}, {4, 16, QImage::Format_Indexed8}, {8, 256, QImage::Format_Indexed8}};
+    for (const auto& [bits, colours, format] : kCases) {
+        ASSERT_TRUE(platform_.clipboard().setBitmap(dibOf(40, bits, colours, 0)));
+        QByteArray png;
+        QBuffer buffer(&png);
+        ASSERT_TRUE(QApplication::clipboard()->image().save(&buffer, "PNG"));
+        const QImage image = QImage::fromData(png, "PNG");
+        EXPECT_EQ(image.format(), format) << bits;
+        EXPECT_EQ(image.colorCount(), static_cast<int>(colours)) << bits;
+        // Of two colours Qt makes the darker one the first.
+        EXPECT_TRUE(bits == 1 || image.pixelIndex(0, 0) == 1) << bits;
+        EXPECT_EQ(image.pixel(0, 0), qRgb(30, 20, 10)) << bits;
+    }
+}
+
+TEST_F(ClipboardTest, TakesThePictureBesideACompressedBmp) {
+    Bytes bmp = bmpFromDib(dibOf(40, 8, 256, 0)).value();
+    put(bmp, 14 + 16, 3);
+    QImage picture(2, 1, QImage::Format_Indexed8);
+    picture.setColorTable(QList<QRgb>(200, qRgb(1, 2, 3)));
+    picture.fill(150);
+    auto* data = new QMimeData;
+    data->setData(QStringLiteral("image/bmp"), arrayOf(bmp));
+    data->setImageData(picture);
+    QApplication::clipboard()->setMimeData(data);
+    const std::optional<Bytes> dib = platform_.clipboard().bitmap();
+    ASSERT_TRUE(dib);
+    EXPECT_EQ((*dib)[16], std::byte{0}) << "not compressed";
+    EXPECT_EQ(QImage::fromData(arrayOf(bmpFromDib(*dib).value()), "BMP").pixelIndex(1, 0), 150);
 }
 
 TEST_F(ClipboardTest, OffersOnlyWhatItHolds) {

@@ -222,6 +222,12 @@ TEST_F(Project, OpensWhatIsThereOfAPicture) {
     EXPECT_TRUE(document_.OpenPicture("B"));
     EXPECT_THAT(host_.take(), ElementsAre("palette c:\\p\\a.tlf"));
     EXPECT_THAT(messages(), ElementsAre("\"b.tmf\" is not found."));
+    fake_.messages.shown.clear();
+    document_.SetPicture("D", {"z:\\d.tmf", "a.tlf", 0});
+    EXPECT_TRUE(document_.OpenPicture("D"));
+    EXPECT_THAT(messages(), ElementsAre(HasSubstr("--drive z=FOLDER")));
+    ASSERT_TRUE(document_.RemovePicture("D"));
+    host_.log.clear();
     document_.OnNodeDoubleClick("\\Project\\Picture\\a");
     document_.OnNodeDoubleClick("\\Project\\Picture");
     EXPECT_THAT(host_.take(), IsEmpty());

@@ -171,6 +171,7 @@ TEST_F(Path, RelativeFormLeadsFromTheBaseToThePath) {
         {"c:", "c:\\a\\y.tmf", "a\\y.tmf"},
         {"\\", "\\a\\y.tmf", "a\\y.tmf"},
         {"\\a\\b", "\\", "..\\..\\"},
+        {"\\a\\b", "\\\\server\\b", "\\\\server\\b"},
         // Equal but for their case.
         {"c:\\\xC3\x84", "c:\\\xC3\xA4\\y.tmf", "y.tmf"},
         // The bytes of the two begin alike.

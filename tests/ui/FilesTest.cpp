@@ -182,6 +182,38 @@ TEST_F(FilesTest, SaveAsGivesThePaletteAndTheImageNewNames) {
     EXPECT_EQ(fake_.messages.lastText(), "\"c:\\tex\\NEW.tmf\" is open in another window.");
 }
 
+TEST_F(FilesTest, AnImportedBitmapIsAnImageAndAPaletteAndIsExportedAsTheSameFile) {
+    TextureCanvas picture;
+    ASSERT_TRUE(picture.Create(5, 3, 1, 4));
+    picture.colourTable()[4 * 9 + 2] = 0xF8;
+    picture.SetPixel(4, 2, 9);
+    ASSERT_TRUE(picture.SaveBmp("c:\\pic.bmp"));
+
+    EXPECT_TRUE(run(ID_FILE_IMPORT_BMP)); // cancelled
+    EXPECT_EQ(windows(), 0U);
+    EXPECT_TRUE(fake_.dialogs.shown.back().request.fileMustExist);
+    EXPECT_EQ(fake_.dialogs.shown.back().request.filter, "Bitmap Files (*.bmp)|*.bmp||");
+    fake_.dialogs.answerWith("c:\\pic.bmp");
+    ASSERT_TRUE(run(ID_FILE_IMPORT_BMP));
+    EXPECT_EQ(image().pathName(), "c:\\pic.bmp");
+    EXPECT_EQ(image().attachedName(), "");
+    EXPECT_EQ(app_.paletteSet()->lookup("")->table.getRed(9), 31);
+
+    fake_.dialogs.answerWith("c:\\copy.bmp");
+    ASSERT_TRUE(run(ID_FILE_EXPORT_BMP));
+    EXPECT_EQ(fake_.files.textOf("c:\\copy.bmp"), fake_.files.textOf("c:\\pic.bmp"));
+    EXPECT_EQ(image().pathName(), "c:\\pic.bmp");
+    image().Pixel(nullptr, 0, 0, 1);
+    ASSERT_TRUE(app_.OpenDocumentFile("c:\\copy.bmp"));
+    fake_.dialogs.answerWith("c:\\PIC.bmp");
+    ASSERT_TRUE(run(ID_FILE_EXPORT_BMP));
+    EXPECT_EQ(fake_.messages.lastText(), "\"c:\\PIC.bmp\" is open in another window.");
+    ASSERT_TRUE(app_.OpenDocumentFile("c:\\pic.bmp"));
+    fake_.dialogs.answerWith("c:\\PIC.bmp");
+    ASSERT_TRUE(run(ID_FILE_EXPORT_BMP));
+    EXPECT_FALSE(image().hasUnsavedChanges()) << "its own file: that saves it";
+}
+
 TEST_F(FilesTest, DroppedFilesOpen) {
     fake_.files.putFile("c:\\a b.tmf", imageFile(texels(4, 4, [](int, int) { return 1U; }), 4));
     fake_.files.putFile("c:\\p.tlf", paletteFile(16, [](int) { return 1U; }));

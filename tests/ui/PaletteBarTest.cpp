@@ -25,6 +25,7 @@
 #include <gmock/gmock.h>
 
 #include <functional>
+#include <map>
 #include <set>
 #include <string>
 #include <tuple>
@@ -38,6 +39,8 @@ using testing::ElementsAre;
 /// The bar in the program, with an image that shows what its palette holds, or seems to hold.
 class PaletteBarWindow : public Program {
 protected:
+    using Program::Program;
+
     CPaletteBar& bar() { return app_.mainFrame().paletteBar(); }
     template <typename Widget>
     Widget& find(const PaletteBarId& id) {
@@ -55,6 +58,8 @@ protected:
         bar().RefreshFromPalette();
         ASSERT_TRUE(app_.OpenDocumentFile("c:\\a.tmf"));
         ASSERT_TRUE(run(ID_IMAGE_ATTACH));
+        // The main window takes the keys when the window manager shows it, which may be after now.
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&app_.mainFrame()));
         bar().activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&bar()));
     }
@@ -251,6 +256,39 @@ TEST_F(PaletteBarWindow, PastingARangeIsOneStep) {
     EXPECT_FALSE(palette().canUndo());
 }
 
+TEST_F(PaletteBarWindow, ASavedFileHoldsTheEntriesAsTheyWereEdited) {
+    for (const bool intensity : {false, true}) {
+        const auto fileWith = [&](const std::map<int, unsigned>& edited) {
+            std::string file = paletteFile(16, [&](int i) {
+                return edited.contains(i) ? edited.at(i) : static_cast<unsigned>(i) * 0x1111U;
+            });
+            file[11] = intensity ? 1 : 0;
+            return file;
+        };
+        const std::string path = intensity ? "c:\\ia.tlf" : "c:\\rgba.tlf";
+        fake_.files.putFile(path, fileWith({}));
+        ASSERT_TRUE(app_.OpenDocumentFile(path));
+        clickCell(5);
+        type(IDC_ENTRY, "abcd");
+        apply();
+        clickCell(6);
+        type(IDC_RED, "5");
+        apply();
+        QTest::keyClick(&gridWindow(), Qt::Key_Left, Qt::ShiftModifier);
+        QTest::keyClick(&gridWindow(), Qt::Key_C, Qt::ControlModifier);
+        clickCell(8);
+        QTest::keyClick(&gridWindow(), Qt::Key_V, Qt::ControlModifier);
+        clickCell(15);
+        type(IDC_ENTRY, "0");
+        apply();
+        ASSERT_TRUE(run(ID_PALETTE_UNDO) && run(ID_PALETTE_SAVE));
+        const unsigned reddened = intensity ? 0x0566 : 0x2E66;
+        EXPECT_EQ(fake_.files.textOf(path),
+                  fileWith({{5, 0xABCD}, {6, reddened}, {8, 0xABCD}, {9, reddened}}))
+            << path;
+    }
+}
+
 TEST_F(PaletteBarWindow, ABankIsChosenByCellSpinAndTyping) {
     open(ColourType::Rgba, 4);
     auto& spin = find<IntegerField>(IDC_PALETTE_NUMBER_SPIN);
@@ -340,6 +378,26 @@ TEST_F(PaletteBarWindow, AValueOutOfRangeIsRefusedAndLeftBehind) {
     EXPECT_FALSE(mark.isVisible());
     EXPECT_THAT(readOuts(), ElementsAre("0F", "1F", "1F", "01"));
     EXPECT_EQ(shown(IDC_RED), "15");
+}
+
+class PaletteBarWithoutSliders : public PaletteBarWindow {
+protected:
+    PaletteBarWithoutSliders()
+        : PaletteBarWindow("RampSlider.ocx") {}
+};
+
+TEST_F(PaletteBarWithoutSliders, ChannelsAreStillTypedAndSpun) {
+    EXPECT_EQ(fake_.messages.lastText(), "RampSlider.ocx is not found");
+    open(ColourType::Rgba);
+    clickCell(3);
+    EXPECT_FALSE(find<CRampSlider>(IDC_RED_SLIDER).isVisible());
+    type(IDC_RED, "31");
+    QTest::keyClick(&find<IntegerField>(IDC_RED_SPIN), Qt::Key_Tab);
+    EXPECT_TRUE(find<IntegerField>(IDC_GREEN_SPIN).hasFocus()) << "not in a bar that is not there";
+    QTest::keyClick(&find<IntegerField>(IDC_GREEN_SPIN), Qt::Key_Up);
+    EXPECT_EQ(seen(3), std::make_tuple(248, 8, 0));
+    apply();
+    EXPECT_EQ(stored(3), 0xF840U);
 }
 
 TEST_F(PaletteBarWindow, TextFieldsKeepTheirKeysAndTheOthersAreThePalettes) {
@@ -464,7 +522,10 @@ TEST_F(PaletteBarWindow, WithoutAPaletteOnlyTheTabsAreLeft) {
     EXPECT_FALSE(find<QTabBar>(IDC_PALETTE_TABS).isEnabled());
     for (const CommandId id : {ID_PALETTE_EDIT, ID_PALETTE_COPY, ID_PALETTE_PASTE, ID_PALETTE_UNDO})
         EXPECT_FALSE(enabled(id)) << id;
-    EXPECT_EQ(tipOf(*bar().childAt(bar().rect().center()), {}), "Palette is not open yet.");
+    for (QWidget* child : bar().findChildren<QWidget*>()) {
+        if (child->isVisible())
+            EXPECT_EQ(tipOf(*child, {}), "Palette is not open yet.") << child->metaObject()->className();
+    }
     EXPECT_THAT(menus(), ElementsAre());
 
     open(ColourType::Ia);

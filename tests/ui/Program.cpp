@@ -52,8 +52,9 @@ void defineControls(FakePlatform& fake) {
         fake.library.defineFile(control, std::string(DYEWORKS_CONTROL_FOLDER "/") + control);
 }
 
-Program::Program() {
+Program::Program(const char* missingControl) {
     defineControls(fake_);
+    fake_.library.forget(missingControl);
     CommandLine commandLine;
     commandLine.noSplash = true;
     if (!app_.InitInstance(commandLine))

@@ -32,7 +32,8 @@ void defineControls(FakePlatform& fake);
 /// The program on a platform of fakes, its window open on the offscreen display.
 class Program : public testing::Test {
 protected:
-    Program();
+    /// With all companion controls but this one.
+    explicit Program(const char* missingControl = "");
 
     /// Opens "c:\tex\pic.tmf" with these texels and "c:\tex\pic.tlf", attached.
     void openAttached(const Texels& image, int bits, int paletteEntries);

@@ -1,6 +1,6 @@
 #include "platform/qt/QtClipboard.h"
 
-#include "platform/qt/PackedDib.h"
+#include "platform/PackedDib.h"
 
 #include <QBuffer>
 #include <QClipboard>
@@ -43,6 +43,20 @@ QByteArray asBmp(const QImage& image) {
     return buffer.data();
 }
 
+/// `dib` as a BMP file, and as a picture that is turned into any other form when a program asks for it.
+std::unique_ptr<QMimeData> offerOf(std::span<const std::byte> dib) {
+    const std::optional<std::vector<std::byte>> bmp = bmpFromDib(dib);
+    if (!bmp)
+        return nullptr;
+    const QByteArray bytes(reinterpret_cast<const char*>(bmp->data()), static_cast<qsizetype>(bmp->size()));
+    auto data = std::make_unique<QMimeData>();
+    data->setData(kBmpFormats.front(), bytes);
+    const QImage picture = QImage::fromData(bytes, "BMP");
+    if (!picture.isNull())
+        data->setImageData(picture);
+    return data;
+}
+
 } // namespace
 
 bool QtClipboard::offers(ClipboardFormat format) const {
@@ -57,29 +71,34 @@ bool QtClipboard::offers(ClipboardFormat format) const {
 
 bool QtClipboard::setBitmap(std::span<const std::byte> dib) {
     QClipboard* clipboard = desktopClipboard();
-    const std::optional<std::vector<std::byte>> bmp = bmpFromDib(dib);
-    if (clipboard == nullptr || !bmp)
+    if (clipboard == nullptr)
         return false;
-    const QByteArray bytes(reinterpret_cast<const char*>(bmp->data()), static_cast<qsizetype>(bmp->size()));
-    auto data = std::make_unique<QMimeData>();
-    data->setData(kBmpFormats.front(), bytes);
-    const QImage picture = QImage::fromData(bytes, "BMP");
-    if (!picture.isNull())
-        data->setImageData(picture);
-    clipboard->setMimeData(data.release());
-    const QMimeData* now = clipboard->mimeData();
-    return now != nullptr && now->data(kBmpFormats.front()) == bytes;
+    try {
+        std::unique_ptr<QMimeData> data = offerOf(dib);
+        if (data == nullptr)
+            return false;
+        const QByteArray bytes = data->data(kBmpFormats.front());
+        clipboard->setMimeData(data.release());
+        const QMimeData* now = clipboard->mimeData();
+        return now != nullptr && now->data(kBmpFormats.front()) == bytes;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
 }
 
 std::optional<std::vector<std::byte>> QtClipboard::bitmap() const {
     const QMimeData* data = offered();
     if (data == nullptr)
         return std::nullopt;
-    for (const QString& name : kBmpFormats) {
-        if (std::optional<std::vector<std::byte>> dib = dibOf(data->data(name)))
-            return dib;
+    try {
+        for (const QString& name : kBmpFormats) {
+            if (std::optional<std::vector<std::byte>> dib = dibOf(data->data(name)))
+                return dib;
+        }
+        return dibOf(asBmp(qvariant_cast<QImage>(data->imageData())));
+    } catch (const std::bad_alloc&) {
+        return std::nullopt;
     }
-    return dibOf(asBmp(qvariant_cast<QImage>(data->imageData())));
 }
 
 bool QtClipboard::setText(const std::string& text) {

@@ -5,8 +5,8 @@
 namespace dyeworks {
 
 /// The desktop's clipboard. A bitmap travels as a BMP file ("image/bmp"), and beside it as a picture for
-/// programs that take other forms. A picture that another program offers without a BMP form is turned into
-/// a bitmap of its own depth.
+/// programs that take other forms, PNG foremost. A picture that another program offers without a BMP form, or
+/// with one that is compressed, is turned into a bitmap of its own depth.
 class QtClipboard : public Clipboard {
 public:
     [[nodiscard]] bool offers(ClipboardFormat format) const override;

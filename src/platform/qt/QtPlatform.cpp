@@ -8,12 +8,6 @@
 
 namespace dyeworks {
 
-namespace {
-
-constexpr const char* kDriveSection = "Drives";
-
-} // namespace
-
 std::optional<std::string> mappedDrive(const Profile& profile, char letter) {
     const auto code = static_cast<unsigned char>(letter);
     for (const int spelling : {std::tolower(code), std::toupper(code)}) {

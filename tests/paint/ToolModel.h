@@ -1,0 +1,382 @@
+#pragma once
+
+#include "framework/CommandIds.h"
+#include "paint/CDyeworksView.h"
+#include "paint/TextureCanvas.h"
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace dyeworks {
+
+struct ToolCommand {
+    const char* name;
+    Tool tool;
+    CommandId command;
+};
+
+inline constexpr ToolCommand kToolCommands[] = {{"Select", Tool::Select, ID_TOOL_SELECT},
+                                                {"Pixel", Tool::Pixel, ID_TOOL_PIXEL},
+                                                {"Pen", Tool::Pen, ID_TOOL_PEN},
+                                                {"Line", Tool::Line, ID_TOOL_LINE},
+                                                {"Box", Tool::Box, ID_TOOL_BOX},
+                                                {"BoxFill", Tool::BoxFill, ID_TOOL_BOX_FILL},
+                                                {"Circle", Tool::Circle, ID_TOOL_CIRCLE},
+                                                {"CircleFill", Tool::CircleFill, ID_TOOL_CIRCLE_FILL},
+                                                {"Paint", Tool::Paint, ID_TOOL_PAINT},
+                                                {"ZoomLens", Tool::ZoomLens, ID_TOOL_ZOOM_LENS},
+                                                {"Replacer", Tool::Replacer, ID_TOOL_REPLACER}};
+
+/// Second description of what pointer, keys and commands do in a view: whole images for undo steps, and no
+/// thought for repaints. Of the view it uses nothing but the canvas's primitives and the tracker's handles.
+struct ToolModel {
+    using Image = std::unique_ptr<TextureCanvas>;
+    using Menu = CDyeworksView::ContextMenu;
+
+    // What can be seen.
+    Image image;
+    std::vector<Image> undone, redone; ///< Images to go back and forth to.
+    bool modified = false;
+    Tool tool = Tool::Select;
+    Tool atPress = Tool::Select;
+    bool spuit = false;
+    bool dragging = false;
+    Rect selection;
+    Image piece;
+    std::uint32_t value = 15;
+    std::int32_t cell = 0;
+    std::int32_t firstEntry = 0;
+    std::int32_t zoom = 1;
+    Point scroll;
+    Size client;
+    std::string position; ///< What the status line says of the pointer.
+
+    // Of the drag, and to take it back.
+    bool scrolling = false;
+    bool centred = false;
+    bool cut = false;
+    bool hasStep = false;
+    TrackerHit hit = TrackerHit::None;
+    Point anchor, current, previous, start, scrollBefore;
+    Image snapshot;
+    Rect selectionBefore;
+    Image clipboard;
+
+    static Point plus(Point a, Point b) { return {a.x + b.x, a.y + b.y}; }
+    static Point minus(Point a, Point b) { return {a.x - b.x, a.y - b.y}; }
+    static Rect between(Point a, Point b) { return Rect{a.x, a.y, b.x, b.y}.normalised(); }
+    [[nodiscard]] Point texel(Point p) const { return {(p.x + scroll.x) / zoom, (p.y + scroll.y) / zoom}; }
+    [[nodiscard]] Rect whole() const { return {0, 0, image->width() - 1, image->height() - 1}; }
+    [[nodiscard]] bool selecting() const { return dragging && !scrolling && atPress == Tool::Select; }
+    [[nodiscard]] bool exists() const {
+        return keepsSelection(atPress) && selection.right > selection.left &&
+               selection.bottom > selection.top;
+    }
+    [[nodiscard]] Menu menu() const {
+        return dragging                 ? Menu::None
+               : tool == Tool::Select   ? Menu::Selection
+               : tool == Tool::ZoomLens ? Menu::Zoom
+               : tool == Tool::Replacer ? Menu::ToolsToReplace
+               : spuit                  ? Menu::None
+                                        : Menu::Tools;
+    }
+
+    bool record(Image before) {
+        if (std::ranges::equal(before->pixelRows(), image->pixelRows()))
+            return false;
+        undone.push_back(std::move(before));
+        if (undone.size() > 100)
+            undone.erase(undone.begin());
+        redone.clear();
+        return modified = true;
+    }
+    template <typename Draw>
+    bool edit(Draw draw) {
+        Image before = image->Clone();
+        draw(*image);
+        return record(std::move(before));
+    }
+    void go(std::vector<Image>& from, std::vector<Image>& to) {
+        if (from.empty())
+            return;
+        to.push_back(std::exchange(image, std::move(from.back())));
+        from.pop_back();
+        modified = !undone.empty();
+    }
+    bool clearSelected() {
+        return edit([this](TextureCanvas& c) {
+            c.FillBox(selection.left, selection.top, selection.right, selection.bottom, 0);
+        });
+    }
+    void commit() {
+        if (piece != nullptr)
+            edit([this](TextureCanvas& c) {
+                c.StretchPaste(*piece, selection.left, selection.top, selection.right + 1,
+                               selection.bottom + 1);
+            });
+        piece.reset();
+        selection = {};
+    }
+    [[nodiscard]] Image selected() const {
+        auto part = std::make_unique<TextureCanvas>();
+        if (part->Create(selection.right - selection.left + 1, selection.bottom - selection.top + 1, 1, 4)) {
+            for (std::int32_t y = 0; y < part->height(); ++y) {
+                for (std::int32_t x = 0; x < part->width(); ++x)
+                    part->SetPixel(x, y, image->GetPixel(selection.left + x, selection.top + y));
+            }
+        }
+        return part;
+    }
+    void letFloat(Image newPiece) {
+        if (piece != nullptr)
+            commit();
+        piece = std::move(newPiece);
+        tool = Tool::Select;
+        anchor = {std::max(std::min(anchor.x, image->width() - piece->width()), 0),
+                  std::max(std::min(anchor.y, image->height() - piece->height()), 0)};
+        current = plus(anchor, {piece->width() - 1, piece->height() - 1});
+        selection = between(anchor, current);
+    }
+
+    void pick(Point p) {
+        const Point at = texel(p);
+        if (at.x < 0 || at.y < 0 || at.x >= image->width() || at.y >= image->height())
+            return;
+        value = image->GetPixel(at.x, at.y);
+        cell = firstEntry + static_cast<std::int32_t>(value);
+    }
+    void rightPress(Point p) {
+        if (!dragging && spuit && tool != Tool::Select && tool != Tool::ZoomLens)
+            pick(p);
+    }
+    void press(const PointerEvent& e) {
+        if (dragging)
+            return;
+        if (e.shift) {
+            dragging = scrolling = true;
+            previous = e.position;
+            scrollBefore = scroll;
+            return;
+        }
+        atPress = tool;
+        if (e.control && tool != Tool::Select && tool != Tool::ZoomLens)
+            return pick(e.position);
+        if (cell >= 0)
+            value = static_cast<std::uint32_t>(cell - firstEntry) & 15U;
+        start = texel(e.position);
+        dragging = tool != Tool::Paint && tool != Tool::Replacer;
+        if (tool == Tool::Select)
+            grab(e.position);
+        if (tool == Tool::Replacer)
+            edit([this](TextureCanvas& c) {
+                c.ReplaceColor(selection == Rect{} ? whole() : selection, start.x, start.y, value);
+            });
+        if (keepsSelection(tool))
+            return;
+        commit();
+        if (tool == Tool::Paint) {
+            edit([this](TextureCanvas& c) { c.FloodFill(start.x, start.y, value); });
+            return;
+        }
+        anchor = current = previous = start;
+        centred = e.alt;
+        snapshot = image->Clone();
+        if (tool == Tool::Pixel)
+            hasStep = edit([this](TextureCanvas& c) { c.SetPixel(start.x, start.y, value); });
+        else if (tool == Tool::Pen)
+            image->SetPixel(start.x, start.y, value);
+        else
+            drawShape();
+    }
+    void grab(Point p) {
+        const auto& [l, t, r, b] = selection;
+        const Point at = plus(p, scroll);
+        const Rect frame{l * zoom + 1, t * zoom + 1, r * zoom + zoom - 1, b * zoom + zoom - 1};
+        hit = selection == Rect{} ? TrackerHit::None : SelectionTracker(frame, 10).hitTest(at);
+        cut = hasStep = false;
+        selectionBefore = hit == TrackerHit::None && piece != nullptr ? Rect{} : selection;
+        const bool left =
+            hit == TrackerHit::TopLeft || hit == TrackerHit::BottomLeft || hit == TrackerHit::Left;
+        const bool top = hit == TrackerHit::TopLeft || hit == TrackerHit::TopRight || hit == TrackerHit::Top;
+        anchor = {left ? r : l, top ? b : t};
+        current = {left ? l : r, top ? t : b};
+        if (hit != TrackerHit::None)
+            return;
+        commit();
+        anchor = current = start;
+        selection = between(start, start);
+    }
+
+    void scrollTo(Point wanted) {
+        scroll = {std::max(std::min(wanted.x, image->width() * zoom - client.width), 0),
+                  std::max(std::min(wanted.y, image->height() * zoom - client.height), 0)};
+    }
+    void move(const PointerEvent& e) {
+        if (scrolling) {
+            scrollTo(plus(scroll, minus(previous, e.position)));
+            previous = e.position;
+            return;
+        }
+        const Point at = texel(e.position);
+        position =
+            "(" + std::to_string(at.x) + ", " + std::to_string(at.y) + ") " + std::to_string(zoom) + "00%";
+        if (!dragging || atPress == Tool::Pixel || atPress == Tool::ZoomLens)
+            return;
+        if (atPress == Tool::Select) {
+            if (current != at)
+                select(at, e.control);
+        } else if (atPress == Tool::Pen) {
+            if (anchor != at)
+                image->DrawLine(anchor.x, anchor.y, at.x, at.y, value);
+            anchor = at;
+        } else if (previous != at) {
+            follow(at);
+            image->CopyFrom(*snapshot);
+            drawShape();
+            previous = at;
+        }
+    }
+    void select(Point at, bool control) {
+        if (hit == TrackerHit::Inside) {
+            if (piece == nullptr) {
+                Image copy = selected();
+                cut = true;
+                hasStep = !control && clearSelected();
+                letFloat(std::move(copy));
+            }
+            const Point way = minus(at, std::exchange(start, at));
+            anchor = plus(anchor, way);
+            current = plus(current, way);
+        } else {
+            if (hit != TrackerHit::Top && hit != TrackerHit::Bottom)
+                current.x = at.x;
+            if (hit != TrackerHit::Left && hit != TrackerHit::Right)
+                current.y = at.y;
+        }
+        selection = between(anchor, current);
+    }
+    void follow(Point at) {
+        current = at;
+        if (centred)
+            anchor = minus(start, minus(at, start));
+    }
+    void drawShape() {
+        TextureCanvas& c = *image;
+        if (atPress == Tool::Line)
+            c.DrawLine(anchor.x, anchor.y, current.x, current.y, value);
+        else if (atPress == Tool::Box)
+            c.DrawBox(anchor.x, anchor.y, current.x, current.y, value);
+        else if (atPress == Tool::BoxFill)
+            c.FillBox(anchor.x, anchor.y, current.x, current.y, value);
+        else if (atPress == Tool::Circle)
+            c.DrawEllipse(anchor.x, anchor.y, current.x, current.y, value);
+        else
+            c.FillEllipse(anchor.x, anchor.y, current.x, current.y, value);
+    }
+    /// True when the view is to zoom there.
+    bool release(const PointerEvent& e) {
+        if (!std::exchange(dragging, false) || std::exchange(scrolling, false))
+            return false;
+        if (atPress == Tool::ZoomLens) {
+            atPress = tool;
+            return true;
+        }
+        if (atPress == Tool::Select || atPress == Tool::Pixel)
+            return false;
+        if (atPress != Tool::Pen) {
+            if (atPress == Tool::Line)
+                follow(texel(e.position));
+            image->CopyFrom(*snapshot);
+            drawShape();
+        }
+        record(std::move(snapshot));
+        return false;
+    }
+    void cancel() {
+        if (!std::exchange(dragging, false))
+            return;
+        if (std::exchange(scrolling, false))
+            return scrollTo(scrollBefore);
+        if (atPress == Tool::Select) {
+            if (cut)
+                piece.reset();
+            selection = selectionBefore;
+        }
+        if (atPress != Tool::Select && atPress != Tool::Pixel && atPress != Tool::ZoomLens)
+            image->CopyFrom(*snapshot);
+        else if (atPress != Tool::ZoomLens && hasStep)
+            go(undone, redone);
+    }
+
+    /// True when the view is to zoom at the pointer.
+    bool keyDown(const KeyEvent& e) {
+        if (e.key == Key::Escape && dragging) {
+            cancel();
+            return false;
+        }
+        if ((e.key == Key::Escape || e.key == Key::Enter) && (exists() || piece != nullptr)) {
+            if (selecting())
+                dragging = false;
+            if (e.key == Key::Escape)
+                piece.reset();
+            commit();
+            return false;
+        }
+        if (e.repeatCount != 1)
+            return false;
+        const Point way{e.key == Key::Left    ? -1
+                        : e.key == Key::Right ? 1
+                                              : 0,
+                        e.key == Key::Up     ? -1
+                        : e.key == Key::Down ? 1
+                                             : 0};
+        if (exists())
+            selection = {selection.left + (e.shift ? 0 : way.x), selection.top + (e.shift ? 0 : way.y),
+                         selection.right + way.x, selection.bottom + way.y};
+        return e.key == Key::I || e.key == Key::O || e.key == Key::Numpad9 || e.key == Key::NumpadDivide;
+    }
+
+    void command(CommandId id) {
+        if (id == ID_EDIT_SELECT_ALL || id == ID_EDIT_PASTE || id == ID_EDIT_UNDO || id == ID_EDIT_REDO)
+            cancel();
+        for (const ToolCommand& choice : kToolCommands) {
+            if (choice.command == id)
+                tool = choice.tool;
+        }
+        const bool choosesPen = id != ID_TOOL_SPUIT && !keepsSelection(tool) &&
+                                std::ranges::any_of(kToolCommands, [id](auto& c) { return c.command == id; });
+        const bool changesSelected =
+            id == ID_CANCEL_SELECTION || id == ID_FLIP_X || id == ID_FLIP_Y || id == ID_EDIT_CUT;
+        if (selecting() && (choosesPen || changesSelected))
+            cancel();
+        if (id == ID_EDIT_SELECT_ALL || id == ID_CANCEL_SELECTION || choosesPen)
+            commit();
+        if (id == ID_TOOL_SPUIT)
+            spuit = !spuit;
+        if (id == ID_EDIT_SELECT_ALL) {
+            tool = Tool::Select;
+            selection = whole();
+        }
+        if (exists() && (id == ID_FLIP_X || id == ID_FLIP_Y))
+            edit([&](TextureCanvas& c) {
+                c.Flip(selection.left, selection.top, selection.right, selection.bottom,
+                       id == ID_FLIP_X ? 1 : 2);
+            });
+        if (exists() && (id == ID_EDIT_COPY || id == ID_EDIT_CUT)) {
+            clipboard = selected();
+            if (id == ID_EDIT_CUT)
+                clearSelected();
+        }
+        if (id == ID_EDIT_PASTE && clipboard != nullptr)
+            letFloat(clipboard->Clone());
+        if (id == ID_EDIT_UNDO)
+            go(undone, redone);
+        if (id == ID_EDIT_REDO)
+            go(redone, undone);
+    }
+};
+
+} // namespace dyeworks

@@ -1,0 +1,242 @@
+#include "CanvasTesting.h"
+#include "ToolModel.h"
+#include "ViewTestWindow.h"
+
+#include <random>
+#include <sstream>
+
+namespace dyeworks {
+
+void PrintTo(const ToolCommand& tool, std::ostream* out) {
+    *out << tool.name;
+}
+
+namespace {
+
+/// A window that keeps what it shows and, like a desktop, paints only what it was asked to.
+class PaintingWindow : public FakeViewWindow {
+public:
+    void scrollTo(Point position) override {
+        FakeViewWindow::scrollTo(position);
+        invalidateAll();
+    }
+    void invalidate(const Rect& area) override {
+        const Rect inside = intersection(area, {0, 0, client.width, client.height});
+        for (std::int32_t y = inside.top; y < inside.bottom; ++y) {
+            for (std::int32_t x = inside.left; x < inside.right; ++x)
+                stale_[index(x, y)] = true;
+        }
+    }
+    void invalidateAll() override { stale_.assign(pixelCount(), true); }
+    void repaintNow() override {
+        if (view == nullptr)
+            return;
+        const CDyeworksView::RedrawRequest request = view->BeginPaint();
+        const Rect& limit = request.clientArea;
+        const auto ordinary = painted(0);
+        const auto limited = painted(request.bits | CDyeworksView::kRedrawImage);
+        for (std::int32_t y = 0; y < client.height; ++y) {
+            for (std::int32_t x = 0; x < client.width; ++x) {
+                const bool inLimit = request.bits != 0 && x >= limit.left && x < limit.right &&
+                                     y >= limit.top && y < limit.bottom;
+                if (stale_[index(x, y)])
+                    shown[index(x, y)] = (inLimit ? limited : ordinary)[index(x, y)];
+            }
+        }
+        stale_.assign(pixelCount(), false);
+    }
+    /// What a paint of the whole window shows.
+    [[nodiscard]] std::vector<std::uint32_t> painted(std::uint32_t request) const {
+        std::vector<std::uint32_t> pixels(pixelCount());
+        Surface surface{pixels.data(), client.width, client.height, client.width, scroll.x, scroll.y};
+        view->Paint(surface, {scroll.x, scroll.y, scroll.x + client.width, scroll.y + client.height},
+                    0xFF808080, request);
+        return pixels;
+    }
+
+    std::vector<std::uint32_t> shown = std::vector<std::uint32_t>(pixelCount());
+
+private:
+    [[nodiscard]] std::size_t pixelCount() const { return index(0, client.height); }
+    [[nodiscard]] std::size_t index(std::int32_t x, std::int32_t y) const {
+        return static_cast<std::size_t>(y * client.width + x);
+    }
+
+    std::vector<bool> stale_ = std::vector<bool>(pixelCount(), true);
+};
+
+constexpr CommandId kCommands[] = {ID_EDIT_UNDO,  ID_EDIT_UNDO,        ID_EDIT_REDO, ID_EDIT_SELECT_ALL,
+                                   ID_TOOL_SPUIT, ID_CANCEL_SELECTION, ID_FLIP_X,    ID_FLIP_Y,
+                                   ID_EDIT_COPY,  ID_EDIT_CUT,         ID_EDIT_PASTE};
+
+constexpr Key kKeys[] = {Key::Escape, Key::Enter, Key::Left,    Key::Up,           Key::Right, Key::Down,
+                         Key::I,      Key::O,     Key::Numpad9, Key::NumpadDivide, Key::Other};
+
+/// A view and the model of it, side by side.
+class ToolScript : public DocFixture, public testing::WithParamInterface<ToolCommand> {
+protected:
+    ToolScript() {
+        window.view = &view;
+        openPalette(256);
+        document.Attach();
+        view.InitialUpdate();
+        for (std::int32_t y = 0; y < 12; ++y)
+            document.canvas().DrawLine(0, y, 15, 11 - y, static_cast<std::uint32_t>(y));
+        document.canvas().ResetChangedRect();
+        setCurrentTool(Tool::Select);
+        title_ = document.title();
+        model.image = document.canvas().Clone();
+        model.client = window.client;
+        model.firstEntry = host.firstEntry = 32;
+        model.cell = host.cell = 41;
+    }
+    ~ToolScript() override {
+        window.view = nullptr;
+        setCurrentTool(Tool::Select);
+    }
+
+    void zoomTo(std::int32_t zoom) {
+        view.SetZoom(zoom);
+        followZoom(true);
+    }
+    /// Where zooming leads is the geometry's affair.
+    void followZoom(bool zooms) {
+        if (zooms) {
+            model.zoom = view.zoom();
+            model.scroll = window.scroll;
+        }
+    }
+    void run(CommandId id) {
+        view.runCommand(id);
+        model.command(id);
+        log_ << "command " << id;
+    }
+    void play() {
+        PointerEvent event{{below(52) - 6, below(42) - 6},
+                           below(12) == 0,
+                           below(8) == 0,
+                           below(5) == 0,
+                           PointerButton::Left};
+        log_.str("at ");
+        log_ << event.position.x << ' ' << event.position.y << ' ' << event.shift << event.control
+             << event.alt << ' ';
+        window.pointer = event.position;
+        const std::int32_t dice = below(100);
+        if (dice < 22) {
+            log_ << "press";
+            view.PointerPressed(event);
+            model.press(event);
+        } else if (dice < 58) {
+            log_ << "move";
+            event.button = PointerButton::None;
+            view.PointerMoved(event);
+            model.move(event);
+        } else if (dice < 74) {
+            log_ << "release";
+            view.PointerReleased(event);
+            followZoom(model.release(event));
+        } else if (dice < 84) {
+            const KeyEvent key{oneOf(kKeys), below(6) == 0 ? 2 : 1, below(2) == 0, false};
+            log_ << "key " << static_cast<int>(key.key) << " x" << key.repeatCount << ' ' << key.shift;
+            view.KeyPressed(key);
+            followZoom(model.keyDown(key));
+        } else if (dice < 91) {
+            run(below(3) == 0 ? oneOf(kToolCommands).command : oneOf(kCommands));
+        } else if (dice < 94) {
+            model.cell = host.cell = below(5) == 0 ? -1 : 32 + below(16);
+        } else if (dice < 96) {
+            log_ << "right press";
+            event.button = PointerButton::Right;
+            view.PointerPressed(event);
+            model.rightPress(event.position);
+        } else if (dice < 97) {
+            log_ << "capture lost";
+            view.PointerCaptureLost();
+            model.cancel();
+        } else if (dice < 98) {
+            view.Tick();
+        } else {
+            log_ << "tool chosen in another window";
+            model.tool = oneOf(kToolCommands).tool;
+            setCurrentTool(model.tool);
+        }
+    }
+
+    std::string seen() {
+        const Rect& s = view.selection();
+        return described(document.canvas(), document.title(), host.panes[1],
+                         {document.CanUndo(), document.CanRedo(), document.history().count(), s.left, s.top,
+                          s.right, s.bottom, view.hasFloatingPiece(), view.drawingValue(), host.cell,
+                          view.zoom(), window.scroll.x, window.scroll.y, static_cast<int>(view.contextMenu()),
+                          window.captured, stateOf(view, ID_EDIT_SELECT_ALL).enabled,
+                          stateOf(view, ID_FLIP_Y).enabled, static_cast<int>(currentTool()),
+                          window.interval});
+    }
+    std::string expected() const {
+        const Rect& s = model.selection;
+        const std::size_t steps = model.undone.size() + model.redone.size();
+        return described(*model.image, title_ + (model.modified ? " * " : ""), model.position,
+                         {!model.undone.empty(), !model.redone.empty(), static_cast<std::int64_t>(steps),
+                          s.left, s.top, s.right, s.bottom, model.piece != nullptr, model.value, model.cell,
+                          model.zoom, model.scroll.x, model.scroll.y, static_cast<int>(model.menu()),
+                          model.dragging, keepsSelection(model.atPress), model.exists(),
+                          static_cast<int>(model.tool), s == Rect{} ? 0 : 200});
+    }
+    std::string lastEvent() const { return log_.str(); }
+
+    PaintingWindow window;
+    CDyeworksView view{document, window};
+    ToolModel model;
+
+private:
+    std::int32_t below(std::int32_t limit) {
+        return static_cast<std::int32_t>(random_() % static_cast<unsigned>(limit));
+    }
+    template <typename T, std::size_t kCount>
+    const T& oneOf(const T (&choices)[kCount]) {
+        return choices[below(static_cast<std::int32_t>(kCount))];
+    }
+
+    static std::string described(const TextureCanvas& image, const std::string& title,
+                                 const std::string& position, std::initializer_list<std::int64_t> numbers) {
+        std::ostringstream out;
+        for (const std::string& row : rowsOf(image))
+            out << row << '\n';
+        out << title << '\n' << position;
+        const char* const names[] = {"\nundo ",  " redo ",  " steps ",  "\nselected ", " ",
+                                     " ",        " ",       " floats ", "\nvalue ",    " cell ",
+                                     " zoom ",   " at ",    " ",        "\nmenu ",     " captured ",
+                                     " select ", " flips ", " tool ",   " ants "};
+        const char* const* name = names;
+        for (const std::int64_t number : numbers)
+            out << *name++ << number;
+        return out.str();
+    }
+
+    std::mt19937 random_{static_cast<unsigned>(GetParam().tool) + 1};
+    std::string title_;
+    std::ostringstream log_;
+};
+
+TEST_P(ToolScript, DoesWhatTheModelDoesAndShowsIt) {
+    for (int turn = 0; turn < 1200; ++turn) {
+        if (turn % 300 == 0)
+            zoomTo(1 + turn / 300);
+        // Other tools come in between, but soon it is this one's turn again.
+        if (turn % 12 == 0)
+            run(GetParam().command);
+        play();
+        ASSERT_EQ(seen(), expected()) << "event " << turn << ' ' << lastEvent();
+        // A frame is shown while it is drawn out, also around what is too small to be a selection.
+        window.repaintNow();
+        if (!view.dragging() && (view.selection() == Rect{} || view.SelectionExists())) {
+            ASSERT_EQ(window.shown, window.painted(0)) << "event " << turn << ' ' << lastEvent();
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Tools, ToolScript, testing::ValuesIn(kToolCommands),
+                         [](const auto& test) { return test.param.name; });
+
+} // namespace
+} // namespace dyeworks

@@ -1,0 +1,93 @@
+#include "PngFiles.h"
+#include "common/IndexedPng.h"
+#include "png/PngImport.h"
+
+#include <QFileInfo>
+#include <QImage>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace dyeworks::plugins {
+namespace {
+
+struct ExportCase {
+    int bits;
+    std::uint32_t colourType;
+    int count; ///< 0 without palette.
+    int first;
+};
+
+class PngExport : public testing::TestWithParam<ExportCase> {
+protected:
+    QTemporaryDir folder_;
+    QString path_ = folder_.filePath(QStringLiteral("out.png"));
+};
+
+unsigned entryAt(int entry) {
+    return static_cast<unsigned>(entry) * 40503U & 0xFFFFU;
+}
+
+// An odd width and a last texel in the high half; the lowest entries, the highest, and alpha of all kinds.
+TEST_P(PngExport, KeepsTexelsAndColours) {
+    const auto [bits, colourType, count, first] = GetParam();
+    const int colours = 1 << bits;
+    const ImageRecord image =
+        imageOf(37, 9, bits, [&](int x, int y) { return static_cast<unsigned>((x + 37 * y) * 7 % colours); });
+    const PaletteRecord palette = count == 0 ? nullptr : paletteOf(colourType, count, entryAt);
+    ASSERT_EQ(writeIndexedPng(path_, *image, palette.get(), first), QString());
+    EXPECT_EQ(bytesOf(path_).at(24), bits); // Depth, in the header chunk.
+
+    const QImage read(path_);
+    ASSERT_EQ(read.size(), QSize(37, 9));
+    for (int y = 0; y < 9; ++y) {
+        for (int x = 0; x < 37; ++x) {
+            const int texel = DW_getTexel(image.get(), x, y);
+            ASSERT_EQ(read.pixelIndex(x, y), texel);
+            std::array<std::uint8_t, 4> rgba{0, 0, 0, 255};
+            if (palette == nullptr)
+                rgba[0] = rgba[1] = rgba[2] = static_cast<std::uint8_t>(texel * 255 / (colours - 1));
+            else if (first + texel < count)
+                DW_colour(palette.get(), first + texel, rgba.data());
+            ASSERT_EQ(read.pixel(x, y), qRgba(rgba[0], rgba[1], rgba[2], rgba[3])) << texel;
+        }
+    }
+}
+
+TEST_P(PngExport, ComesBackTheSame) {
+    const auto [bits, colourType, count, first] = GetParam();
+    if (count == 0)
+        return;
+    const ImageRecord image =
+        imageOf(18, 5, bits, [&](int x, int y) { return static_cast<unsigned>(x * 3 + y) % (1U << bits); });
+    const PaletteRecord palette = paletteOf(colourType, count, entryAt);
+    ASSERT_EQ(writeIndexedPng(path_, *image, palette.get(), first), QString());
+    const PngImport back = importPng(path_, {image.get(), palette.get(), 0, first});
+    ASSERT_EQ(back.refusal, QString());
+    for (int y = 0; y < 5; ++y) {
+        for (int x = 0; x < 18; ++x)
+            ASSERT_EQ(DW_getTexel(back.image.get(), x, y), DW_getTexel(image.get(), x, y));
+    }
+    for (int i = 0; i < count; ++i)
+        ASSERT_EQ(back.palette->entries[i], palette->entries[i]) << i;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, PngExport,
+    testing::Values(ExportCase{4, DW_COLOUR_RGBA, 16, 0}, ExportCase{4, DW_COLOUR_RGBA, 256, 240},
+                    ExportCase{4, DW_COLOUR_IA, 256, 32}, ExportCase{8, DW_COLOUR_RGBA, 256, 0},
+                    ExportCase{8, DW_COLOUR_IA, 256, 0}, ExportCase{8, DW_COLOUR_RGBA, 16, 0},
+                    ExportCase{4, 0, 0, 0}, ExportCase{8, 0, 0, 0}));
+
+TEST(PngExportFailure, LeavesTheOldFileAndSaysWhy) {
+    const QTemporaryDir folder;
+    const ImageRecord empty = imageOf(0, 4, 8, {});
+    const QString path = folder.filePath(QStringLiteral("old.png"));
+    writeBytes(path, "old");
+    EXPECT_NE(writeIndexedPng(path, *empty, nullptr, 0), QString());
+    EXPECT_EQ(bytesOf(path), "old");
+    const ImageRecord image = imageOf(1, 1, 8, [](int, int) { return 0U; });
+    EXPECT_NE(writeIndexedPng(folder.filePath(QStringLiteral("no/such.png")), *image, nullptr, 0), QString());
+}
+
+} // namespace
+} // namespace dyeworks::plugins

@@ -1,0 +1,90 @@
+#include "Pictures.h"
+
+#include <QApplication>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <dlfcn.h>
+#include <memory>
+
+namespace dyeworks::plugins {
+namespace {
+
+class ViewerPlugIn : public testing::Test {
+protected:
+    ViewerPlugIn() {
+        EXPECT_NE(library_, nullptr) << ::dlerror();
+        preview_ = reinterpret_cast<decltype(preview_)>(::dlsym(library_, "DWPI_preview2"));
+        EXPECT_NE(preview_, nullptr);
+    }
+    ~ViewerPlugIn() override { unload(); }
+
+    void startApplication() { application_ = std::make_unique<QApplication>(argc_, argv_); }
+    std::uint32_t preview(std::uint32_t which) { return preview_(&source_.record, which); }
+    void unload() {
+        if (library_ != nullptr)
+            ::dlclose(library_);
+        library_ = nullptr;
+    }
+    /// The visible window with that title.
+    static QWidget* window(const char* title) {
+        for (QWidget* const widget : QApplication::topLevelWidgets()) {
+            if (widget->isVisible() && widget->windowTitle() == QLatin1String(title))
+                return widget;
+        }
+        return nullptr;
+    }
+
+    char name_[5] = "test";
+    char* argv_[2] = {name_, nullptr};
+    int argc_ = 1;
+    RandomPicture source_{16, 16, 4, DW_COLOUR_RGBA, 16};
+    std::unique_ptr<QApplication> application_;
+    void* library_ = ::dlopen(DYEWORKS_VIEWER_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+    std::uint32_t (*preview_)(const PlugInPicture*, std::uint32_t) = nullptr;
+};
+
+TEST_F(ViewerPlugIn, ShowsNothingWithoutAnApplicationOrAThirdWindow) {
+    EXPECT_EQ(preview(0), 0u);
+    startApplication();
+    EXPECT_EQ(preview(2), 0u);
+    EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
+}
+
+TEST_F(ViewerPlugIn, WindowClosedByTheUserAnswersZeroOnceAndComesBack) {
+    startApplication();
+    EXPECT_EQ(preview(0), 1u);
+    EXPECT_EQ(preview(1), 1u);
+    ASSERT_NE(window("Preview 1"), nullptr);
+    ASSERT_NE(window("Preview 2"), nullptr);
+    QTest::keyClick(window("Preview 2"), Qt::Key_Escape);
+    EXPECT_EQ(window("Preview 2"), nullptr);
+    EXPECT_EQ(preview(0), 1u) << "the other one stays";
+    EXPECT_EQ(preview(1), 0u);
+    EXPECT_EQ(window("Preview 2"), nullptr);
+    EXPECT_EQ(preview(1), 1u);
+    EXPECT_NE(window("Preview 2"), nullptr);
+}
+
+TEST_F(ViewerPlugIn, WindowsGoWithTheLibrary) {
+    startApplication();
+    EXPECT_EQ(preview(0), 1u);
+    QApplication::processEvents();
+    EXPECT_EQ(preview(0), 1u) << "a repaint is waiting";
+    unload();
+    EXPECT_EQ(::dlopen(DYEWORKS_VIEWER_LIBRARY, RTLD_NOW | RTLD_NOLOAD), nullptr) << "still loaded";
+    EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
+    QApplication::processEvents();
+}
+
+TEST_F(ViewerPlugIn, WindowsGoWithTheApplication) {
+    for (int run = 0; run < 2; ++run) {
+        startApplication();
+        EXPECT_EQ(preview(1), 1u);
+        EXPECT_NE(window("Preview 2"), nullptr);
+        application_.reset();
+    }
+}
+
+} // namespace
+} // namespace dyeworks::plugins
