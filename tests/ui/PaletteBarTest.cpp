@@ -58,7 +58,8 @@ protected:
         bar().RefreshFromPalette();
         ASSERT_TRUE(app_.OpenDocumentFile("c:\\a.tmf"));
         ASSERT_TRUE(run(ID_IMAGE_ATTACH));
-        // The main window takes the keys when the window manager shows it, which may be after now.
+        // The window manager may show the main window after now, and give it the keys then.
+        app_.mainFrame().activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&app_.mainFrame()));
         bar().activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&bar()));
