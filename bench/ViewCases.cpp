@@ -115,7 +115,7 @@ struct ShownImage {
 };
 
 constexpr std::int32_t kLargeSide = 4096;
-constexpr Size kScreen{1920, 1080};
+constexpr Size kLargeWindow{2100, 2100};
 
 PointerEvent pointer(Point at, PointerButton button = PointerButton::None) {
     PointerEvent event;
@@ -124,54 +124,60 @@ PointerEvent pointer(Point at, PointerButton button = PointerButton::None) {
     return event;
 }
 
-/// Measures a move of a drag with the repaint that it brings. `press` begins the drag; `at(n)` is where move
-/// number n leads. `pixels`: those that have to change with each.
-void addDrag(const std::string& name, Tool tool, std::size_t pixels,
+/// Measures each of the `moves` of a drag with the repaint that it brings. `press` begins the drag; `at(n)`
+/// is where move number n leads. `pixels`: those of the rectangle that changes with each.
+void addDrag(const std::string& name, Tool tool, std::int32_t moves, std::size_t pixels,
              const std::function<void(ShownImage&)>& press, const std::function<Point(std::int32_t)>& at) {
     const std::string base = baseline(Baseline::Memcpy, pixels * sizeof(std::uint32_t));
-    benchmark::RegisterBenchmark((name + "/4096").c_str(), [=](benchmark::State& state) {
-        ShownImage image(kLargeSide, kScreen);
-        setCurrentTool(tool);
-        press(image);
-        std::int32_t turn = 0;
-        for (auto _ : state) {
-            image.view->PointerMoved(pointer(at(turn++)));
-            image.window.repaintNow();
-        }
-        image.view->CancelDrag();
-        state.SetLabel(base);
-    })->Unit(benchmark::kMicrosecond);
+    benchmark::RegisterBenchmark((name + "/4096").c_str(),
+                                 [=](benchmark::State& state) {
+                                     ShownImage image(kLargeSide, kLargeWindow);
+                                     setCurrentTool(tool);
+                                     press(image);
+                                     std::int32_t turn = 0;
+                                     for (auto _ : state) {
+                                         image.view->PointerMoved(pointer(at(turn++)));
+                                         image.window.repaintNow();
+                                     }
+                                     image.view->CancelDrag();
+                                     state.SetLabel(base);
+                                 })
+        ->Unit(benchmark::kMicrosecond)
+        ->Iterations(moves);
 }
 
 void pressAt(ShownImage& image, Point at) {
     image.view->PointerPressed(pointer(at, PointerButton::Left));
 }
 
+/// 0, 1, 2 and on up to `top`, and back the same way.
+std::int32_t toAndFro(std::int32_t step, std::int32_t top) {
+    const std::int32_t rest = step % (2 * top);
+    return rest <= top ? rest : 2 * top - rest;
+}
+
 void addDrags() {
     constexpr std::int32_t kStep = 128; // Of a quick stroke, in pixels each way.
     addDrag(
-        "Pen-move", Tool::Pen, std::size_t{kStep} * kStep,
+        "Pen-move", Tool::Pen, 1000, std::size_t{kStep} * kStep,
         [](ShownImage& image) {
             pressAt(image, {9, 9});
         },
         [](std::int32_t turn) {
-            const std::int32_t n = turn % 14;
-            return Point{9 + kStep * (n + 1), 9 + kStep * (n % 2 + turn / 14 % 7)};
+            return Point{9 + kStep * toAndFro(turn + 1, 15), 9 + kStep * toAndFro(turn + 1, 13)};
         });
-    // The corner goes to and fro, so that old and new ellipse cover each other but for a rim.
-    constexpr Size kEllipse{1900, 1060};
+    constexpr std::int32_t kEllipse = 2000;
     addDrag(
-        "Ellipse-move", Tool::Circle,
-        static_cast<std::size_t>(kEllipse.width) * static_cast<std::size_t>(kEllipse.height),
+        "Ellipse-move", Tool::Circle, 100, std::size_t{kEllipse} * kEllipse,
         [](ShownImage& image) {
             pressAt(image, {4, 4});
         },
-        [=](std::int32_t turn) {
-            return Point{kEllipse.width + turn % 9, kEllipse.height + turn % 7};
+        [](std::int32_t turn) {
+            return Point{kEllipse + toAndFro(turn + 1, 9), kEllipse + toAndFro(turn + 1, 7)};
         });
     constexpr std::int32_t kPiece = 1024;
     addDrag(
-        "Piece-move", Tool::Select, std::size_t{kPiece} * kPiece,
+        "Piece-move", Tool::Select, 100, std::size_t{kPiece} * kPiece,
         [](ShownImage& image) {
             pressAt(image, {8, 8});
             image.view->PointerMoved(pointer({7 + kPiece, 7 + kPiece}));
@@ -179,7 +185,7 @@ void addDrags() {
             pressAt(image, {500, 500});
         },
         [](std::int32_t turn) {
-            return Point{501 + turn % 100, 500 + turn % 40};
+            return Point{501 + turn, 500 + turn / 2};
         });
 }
 

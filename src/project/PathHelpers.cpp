@@ -79,7 +79,7 @@ bool PathNormalizeDir(std::string& path) {
     }
     const bool empty = normal.empty();
     if (empty)
-        normal = ".";
+        normal.assign(1, '.');
     if (empty ? platform().files().isDirectory(normal) : isDirectory(normal)) {
         path = normal;
         return true;

@@ -1,16 +1,9 @@
 #include "ViewTestWindow.h"
 
-#include <gmock/gmock.h>
-
 #include <utility>
 
 namespace dyeworks {
 namespace {
-
-using testing::IsEmpty;
-
-constexpr Keys kShift{true, false, false};
-constexpr Keys kControl{false, true, false};
 
 constexpr std::pair<CommandId, Tool> kTools[] = {{ID_TOOL_PIXEL, Tool::Pixel},
                                                  {ID_TOOL_PEN, Tool::Pen},
@@ -126,39 +119,6 @@ TEST_F(ToolFixture, OtherChangesEndADragFirst) {
         EXPECT_EQ(pixels(), save ? before : expected([](TextureCanvas&) {}));
         EXPECT_FALSE(view.dragging());
     }
-}
-
-TEST_F(ToolFixture, ControlPicksAndDrawsNothing) {
-    document.Pixel(nullptr, 3, 4, 6);
-    const auto before = pixels();
-    host.firstEntry = 32;
-    setCurrentTool(Tool::Pixel);
-    press({3, 4}, kControl);
-    release({3, 4}, kControl);
-    EXPECT_EQ(view.drawingValue(), 6U);
-    EXPECT_EQ(host.cell, 38);
-    press({16, 4}, kControl); // beside the image
-    EXPECT_EQ(host.cell, 38);
-    EXPECT_EQ(pixels(), before);
-}
-
-TEST_F(ToolFixture, ShiftDragScrollsWithinTheContent) {
-    view.runCommand(ID_ZOOM_X4); // 64 by 48 in 40 by 30
-    const auto before = pixels();
-    host.panes.clear();
-    press({30, 20}, kShift);
-    move({25, 22}, kShift);
-    move({24, 22}, kShift);
-    EXPECT_EQ(window.scroll, (Point{6, 0}));
-    move({-40, 0});
-    EXPECT_EQ(window.scroll, (Point{24, 18}));
-    EXPECT_THAT(host.panes, IsEmpty());
-    release({-40, 0});
-    EXPECT_FALSE(window.captured);
-    EXPECT_EQ(pixels(), before);
-
-    move({1, 2});
-    EXPECT_EQ(host.panes[1], "(6, 5) 400%");
 }
 
 } // namespace

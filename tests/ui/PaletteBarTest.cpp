@@ -524,8 +524,9 @@ TEST_F(PaletteBarWindow, WithoutAPaletteOnlyTheTabsAreLeft) {
     for (const CommandId id : {ID_PALETTE_EDIT, ID_PALETTE_COPY, ID_PALETTE_PASTE, ID_PALETTE_UNDO})
         EXPECT_FALSE(enabled(id)) << id;
     for (QWidget* child : bar().findChildren<QWidget*>()) {
-        if (child->isVisible())
+        if (child->isVisible()) {
             EXPECT_EQ(tipOf(*child, {}), "Palette is not open yet.") << child->metaObject()->className();
+        }
     }
     EXPECT_THAT(menus(), ElementsAre());
 

@@ -321,13 +321,16 @@ qreal ImageView::wheelTurn(const QWheelEvent& event) const {
 }
 
 void ImageView::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::MiddleButton && !captured_)
+    if (isPanning() || (event->button() == Qt::MiddleButton && !captured_))
         ScrollView::mousePressEvent(event);
     else
         view_.PointerPressed(pointerEvent(*event));
 }
 
 void ImageView::mouseMoveEvent(QMouseEvent* event) {
+    // A screen lock, for one, can keep the release to itself.
+    if (!event->buttons().testFlag(Qt::LeftButton))
+        loseCapture();
     if (isPanning())
         ScrollView::mouseMoveEvent(event);
     else

@@ -1,0 +1,166 @@
+#include "Program.h"
+
+#include <QContextMenuEvent>
+#include <QMenu>
+
+namespace dyeworks {
+namespace {
+
+constexpr int kSide = 24;
+
+Texels ground() {
+    return texels(kSide, kSide, [](int x, int y) { return static_cast<unsigned>(1 + (x + 5 * y) % 14); });
+}
+
+/// The program with an image of 24 by 24 texels at zoom 4.
+class Tools : public Program {
+protected:
+    void SetUp() override {
+        openAttached(ground(), 8, 256);
+        run(ID_ZOOM_X4);
+        run(ID_TOOL_SELECT);
+        app_.selectPaletteBarCell(200);
+    }
+    Rect selection() { return view().view().selection(); }
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&view(), key, modifiers); }
+    void click(QPoint texel, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::mouseClick(view().viewport(), button, modifiers, at(texel.x(), texel.y()));
+    }
+    /// What the context menu at a texel offers; empty when there is none.
+    QStringList contextMenu(QPoint texel) {
+        const QPoint place = at(texel.x(), texel.y());
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, view().viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(view().viewport(), &event);
+        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QStringList items;
+        if (menu == nullptr)
+            return items;
+        for (const QAction* action : menu->actions()) {
+            if (!action->isSeparator())
+                items += action->text().section(QLatin1Char('\t'), 0, 0);
+        }
+        menu->close();
+        return items;
+    }
+};
+
+TEST_F(Tools, ASelectionIsMovedScaledAndPlaced) {
+    drag({{2, 2}, {5, 5}});
+    EXPECT_EQ(selection(), (Rect{2, 2, 5, 5}));
+    drag({{3, 4}, {6, 6}, {10, 9}}); // between the handles
+    EXPECT_EQ(selection(), (Rect{9, 7, 12, 10}));
+    drag({{12, 10}, {14, 15}, {16, 14}}); // by the bottom right one
+    EXPECT_EQ(selection(), (Rect{9, 7, 16, 14}));
+    key(Qt::Key_Left);
+    key(Qt::Key_Return);
+    EXPECT_EQ(selection(), Rect{});
+
+    const Texels before = ground();
+    EXPECT_EQ(canvas(), texels(kSide, kSide, [&](int x, int y) {
+                  if (x >= 8 && x < 16 && y >= 7 && y < 15)
+                      return before[static_cast<std::size_t>(2 + (y - 7) / 2)]
+                                   [static_cast<std::size_t>(2 + (x - 8) / 2)];
+                  const bool cut = x >= 2 && x <= 5 && y >= 2 && y <= 5;
+                  return cut ? 0U : before[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)];
+              }));
+    EXPECT_EQ(image().title(), "pic.tmf [pic] * ");
+    ASSERT_TRUE(run(ID_EDIT_UNDO) && run(ID_EDIT_UNDO));
+    EXPECT_FALSE(enabled(ID_EDIT_UNDO));
+    EXPECT_EQ(canvas(), ground());
+}
+
+TEST_F(Tools, TheLensZoomsInAndWithControlOutAndKeepsTheTexel) {
+    run(ID_TOOL_ZOOM_LENS);
+    const auto zoom = [&] { return view().view().zoom(); };
+    click({10, 10});
+    EXPECT_EQ(zoom(), 6);
+    EXPECT_EQ(view().viewport()->cursor().hotSpot(), QPoint(8, 8));
+    click({10, 10});
+    EXPECT_EQ(zoom(), 8);
+    click({10, 10}, Qt::LeftButton, Qt::ControlModifier);
+    EXPECT_EQ(zoom(), 6);
+    EXPECT_EQ(canvas(), ground());
+}
+
+TEST_F(Tools, TheReplacerChangesWhatIsSelectedAlone) {
+    drag({{4, 3}, {15, 20}});
+    run(ID_TOOL_REPLACER);
+    click({6, 8});
+    const Texels before = ground();
+    const unsigned old = before[8][6];
+    EXPECT_EQ(canvas(), texels(kSide, kSide, [&](int x, int y) {
+                  const unsigned value = before[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)];
+                  const bool selected = x >= 4 && x <= 15 && y >= 3 && y <= 20;
+                  return selected && value == old ? 200U : value;
+              }));
+    EXPECT_EQ(selection(), (Rect{4, 3, 15, 20}));
+}
+
+TEST_F(Tools, ColoursArePickedWithControlAndWithTheSpuit) {
+    run(ID_TOOL_PEN);
+    click({5, 6}, Qt::LeftButton, Qt::ControlModifier);
+    EXPECT_EQ(app_.paletteBarCell(), static_cast<int>(ground()[6][5]));
+    click({7, 7}, Qt::RightButton);
+    EXPECT_EQ(app_.paletteBarCell(), static_cast<int>(ground()[6][5])) << "not before it is on";
+    run(ID_TOOL_SPUIT);
+    click({7, 7}, Qt::RightButton);
+    EXPECT_EQ(app_.paletteBarCell(), static_cast<int>(ground()[7][7]));
+    EXPECT_THAT(contextMenu({7, 7}), testing::IsEmpty());
+    EXPECT_EQ(canvas(), ground());
+}
+
+TEST_F(Tools, ContextMenusFollowTheTool) {
+    const struct {
+        CommandId tool;
+        int items;
+        const char* first;
+        const char* last;
+    } cases[] = {{ID_TOOL_SELECT, 8, "Cu&t", "&Add to Project"},
+                 {ID_TOOL_PEN, 11, "&Select", "&Replacer"},
+                 {ID_TOOL_ZOOM_LENS, 9, "x1", "&Specify..."},
+                 {ID_TOOL_REPLACER, 10, "&Select", "&Paint"}};
+    for (const auto& [tool, count, first, last] : cases) {
+        run(tool);
+        const QStringList items = contextMenu({3, 3});
+        ASSERT_EQ(items.size(), count) << tool;
+        EXPECT_EQ(items.first(), QString::fromLatin1(first));
+        EXPECT_EQ(items.last(), QString::fromLatin1(last));
+    }
+}
+
+TEST_F(Tools, LettersChooseToolsAndLeaveTheZoomKeysAlone) {
+    QCursor::setPos(view().viewport()->mapToGlobal(at(8, 8)));
+    key(Qt::Key_N);
+    EXPECT_EQ(currentTool(), Tool::Pen);
+    key(Qt::Key_I);
+    EXPECT_EQ(view().view().zoom(), 6);
+    key(Qt::Key_Slash, Qt::KeypadModifier);
+    EXPECT_EQ(view().view().zoom(), 4);
+    EXPECT_EQ(currentTool(), Tool::Pen);
+}
+
+TEST_F(Tools, LosingTheFocusOrTheReleaseTakesADragBack) {
+    run(ID_TOOL_LINE);
+    const auto moveTo = [&](QPoint place, Qt::MouseButtons held) {
+        QMouseEvent move(QEvent::MouseMove, place, view().viewport()->mapToGlobal(place), Qt::NoButton, held,
+                         {});
+        QCoreApplication::sendEvent(view().viewport(), &move);
+    };
+    for (const bool focus : {true, false}) {
+        QTest::mousePress(view().viewport(), Qt::LeftButton, {}, at(2, 2));
+        moveTo(at(9, 4), Qt::LeftButton);
+        EXPECT_NE(canvas(), ground());
+        QFocusEvent away(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+        if (focus)
+            QCoreApplication::sendEvent(&view(), &away);
+        else
+            moveTo(at(9, 5), Qt::NoButton);
+        EXPECT_EQ(canvas(), ground());
+        QTest::mouseRelease(view().viewport(), Qt::LeftButton, {}, at(9, 4));
+        EXPECT_EQ(canvas(), ground());
+        EXPECT_EQ(image().title(), "pic.tmf [pic]");
+    }
+}
+
+} // namespace
+} // namespace dyeworks
