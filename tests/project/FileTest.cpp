@@ -61,9 +61,10 @@ TEST_F(ProjectFile, IsWrittenInItsOrder) {
 }
 
 TEST_F(ProjectFile, KeepsWhatOthersWroteAndWhereItStands) {
-    read("# mine\nPICT.0 = A,a.tmf\nPICT_NUM = 3\n\nNote.1 = x\nPICT.2 = B,,b.tlf,0x1F,more\nPICT.7 = Z,z\n");
+    read("# mine\nPICT.0\nPICT.0 = A,a.tmf\nPICT_NUM = 3\n\nNote.1 = x\nPICT.2 = B,,b.tlf,0x1F,more\nPICT.7 "
+         "= Z,z\n");
     EXPECT_THAT(listed(), ElementsAre("A,a.tmf,,0", "B,,b.tlf,31"));
-    EXPECT_EQ(written(), "# mine\r\nPICT_NUM\t=\t2\r\n\r\nNote.1\t=\tx\r\nPICT.7\t=\tZ,z\r\n"
+    EXPECT_EQ(written(), "# mine\r\nPICT.0\r\nPICT_NUM\t=\t2\r\n\r\nNote.1\t=\tx\r\nPICT.7\t=\tZ,z\r\n"
                          "TPF_DIR\t=\tc:\\p\r\nTMF_DIR\t=\t\r\nTLF_DIR\t=\t\r\n"
                          "PICT.0\t=\tA,a.tmf,,0\r\nPICT.1\t=\tB,,b.tlf,31\r\n");
 }
