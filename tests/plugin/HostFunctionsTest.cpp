@@ -1,0 +1,135 @@
+#include "plugin/HostFunctions.h"
+
+#include "../project/ProjectTestHost.h"
+#include "core/PaletteSet.h"
+#include "dyeworks/plugin.h"
+#include "platform/fake/FakePlatform.h"
+#include "plugin/PlugInHost.h"
+
+#include <memory>
+#include <string>
+#include <thread>
+
+namespace dyeworks {
+namespace {
+
+class HostFunctions : public ProjectFixture, public PlugInHost {
+protected:
+    HostFunctions() { setPlugInHost(this); }
+    ~HostFunctions() override { setPlugInHost(nullptr); }
+
+    CTPFDocument* openProject() const override { return open_; }
+    CDyeworksDoc* findImage(const std::string& /*path*/) const override { return nullptr; }
+    PaletteSet* paletteSet() const override { return &palettes_; }
+    void refreshPaletteBar() override {}
+    void showAbout() override { ++abouts_; }
+    void tellPlugInFailed(const std::string& /*fileName*/) override {}
+
+    void openPictures(const std::vector<std::string>& names) {
+        ProjectFixture::openPictures(names);
+        open_ = &document_;
+    }
+
+    CTPFDocument* open_ = nullptr;
+    mutable PaletteSet palettes_;
+    int abouts_ = 0;
+};
+
+TEST_F(HostFunctions, DoNothingWithoutAProjectAndOnAnotherThread) {
+    char buffer[8] = "kept";
+    EXPECT_EQ(DW_getTPFDir(buffer, 8), 0U);
+    EXPECT_EQ(DW_setValue("a", "b"), 0U);
+    EXPECT_EQ(DW_addNode("a", 0, nullptr, 0), 0U);
+    EXPECT_EQ(DW_getTLF("x.tlf"), nullptr);
+    EXPECT_STREQ(buffer, "kept");
+    openPictures({"A"});
+    std::thread([&] {
+        DW_About();
+        EXPECT_EQ(DW_setValue("a", "b"), 0U);
+        EXPECT_EQ(DW_getPictureName(0, buffer, 8), 0U);
+    }).join();
+    EXPECT_EQ(abouts_, 0);
+    EXPECT_FALSE(document_.isModified());
+    DW_About();
+    EXPECT_EQ(abouts_, 1);
+}
+
+TEST_F(HostFunctions, FillBuffersWithWholeCharacters) {
+    openPictures({"A\xE7\xA9\xBA", "B"});
+    char buffer[6];
+    const auto name = [&](std::int32_t size) {
+        std::fill(std::begin(buffer), std::end(buffer), '#');
+        EXPECT_EQ(DW_getPictureName(0, buffer, size), 1U);
+        return std::string(buffer, sizeof(buffer));
+    };
+    EXPECT_EQ(name(6), std::string("A\xE7\xA9\xBA\0\0", 6));
+    EXPECT_EQ(name(5), std::string("A\xE7\xA9\xBA\0#", 6));
+    EXPECT_EQ(name(4), std::string("A\0#\0##", 6));
+    EXPECT_EQ(name(1), std::string("\0#####", 6));
+    EXPECT_EQ(name(0), "######");
+    EXPECT_EQ(name(-5), "######");
+    EXPECT_EQ(DW_getPictureName(2, buffer, 6), 0U);
+    EXPECT_EQ(DW_getPictureName(-1, buffer, 6), 0U);
+}
+
+TEST_F(HostFunctions, ChangeTheProjectAsTheUserWould) {
+    openPictures({"A"});
+    std::uint32_t number = 9;
+    char file[16];
+    EXPECT_EQ(DW_setPicture("N", "c:\\p\\n.tmf", "n.tlf", 3), 1U);
+    EXPECT_EQ(DW_setPicture("a,b", "", "", 0), 0U);
+    EXPECT_EQ(document_.pictureNames().front(), "N");
+    EXPECT_EQ(DW_getPicture("N", file, 16, nullptr, 0, &number), 1U);
+    EXPECT_STREQ(file, "n.tmf");
+    EXPECT_EQ(number, 3U);
+    EXPECT_EQ(DW_getPicture("n", nullptr, 0, nullptr, 0, nullptr), 0U);
+    EXPECT_TRUE(document_.isModified());
+
+    EXPECT_EQ(DW_setValue("\\Project\\Note", " x "), 1U);
+    EXPECT_EQ(DW_getValue("\\Project\\Note", file, 16), 1U);
+    EXPECT_STREQ(file, "x");
+    EXPECT_EQ(DW_removeKey("\\Project\\Note"), 1U);
+    EXPECT_EQ(DW_removeKey("\\Project\\Note"), 0U);
+    EXPECT_EQ(DW_setTMFDir("d:\\a;d:\\b"), 1U);
+    EXPECT_EQ(DW_getTMFDir(file, 16), 1U);
+    EXPECT_STREQ(file, "d:\\a;d:\\b");
+    // Without a tree a node is added to all there are, and found in none.
+    EXPECT_EQ(DW_addNode("a", 0, nullptr, 0), 1U);
+    EXPECT_EQ(DW_removeNode(0, nullptr), 0U);
+}
+
+TEST_F(HostFunctions, HandOutCopiesAndTakeOnlyWhatCanBeUsed) {
+    openPictures({});
+    const std::unique_ptr<::TmfImage, void (*)(::TmfImage*)> made(DW_newImage(3, 2, 4), DW_freeImage);
+    DW_setTexel(made.get(), 1, 0, 7);
+    EXPECT_EQ(DW_setTMF("c:\\p\\new.tmf", made.get()), 1U);
+    const std::unique_ptr<::TmfImage, void (*)(::TmfImage*)> read(DW_getTMF("c:\\p\\new.tmf"), DW_freeImage);
+    ASSERT_NE(read, nullptr);
+    EXPECT_EQ(DW_getTexel(read.get(), 1, 0), 7);
+    EXPECT_EQ(DW_getTMF("c:\\p\\gone.tmf"), nullptr);
+    ::TmfImage broken = *made;
+    broken.width = -1;
+    EXPECT_EQ(DW_setTMF("c:\\p\\new.tmf", &broken), 0U);
+    broken = {3, 2, 5, made->texels};
+    EXPECT_EQ(DW_setTMF("c:\\p\\new.tmf", &broken), 0U);
+    EXPECT_EQ(DW_setTMF("c:\\p\\new.tmf", nullptr), 0U);
+
+    ASSERT_TRUE(palettes_.newPalette(16, ColourType::Rgba, 1));
+    const std::unique_ptr<::TlutData, void (*)(::TlutData*)> table(DW_getTLF(""), DW_freePalette);
+    ASSERT_NE(table, nullptr);
+    table->entries[3] = 0x1234;
+    EXPECT_NE(palettes_.lookup("")->table.getEntry(3), 0x1234);
+    EXPECT_EQ(DW_setTLF("", table.get()), 1U);
+    EXPECT_EQ(palettes_.lookup("")->table.getEntry(3), 0x1234);
+    EXPECT_TRUE(palettes_.lookup("")->canUndo());
+    EXPECT_EQ(DW_setTLF("new.tlf", table.get()), 0U) << "only files that are there are written";
+    fake_.files.putFile("c:\\p\\new.tlf", "");
+    EXPECT_EQ(DW_setTLF("new.tlf", table.get()), 1U);
+    const std::unique_ptr<::TlutData, void (*)(::TlutData*)> again(DW_getTLF("new.tlf"), DW_freePalette);
+    ASSERT_NE(again, nullptr);
+    EXPECT_EQ(again->entries[3], 0x1234);
+    EXPECT_TRUE(messages().empty());
+}
+
+} // namespace
+} // namespace dyeworks
