@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QTabBar>
 
 #include <algorithm>
@@ -61,6 +62,9 @@ void CPaletteBarControls::showEntry() {
     cell_->setText(QString::number(state_.CurrentCell()));
     showText(*entry_, state_.entryText());
     const bool wrong = state_.entryTextIsWrong();
+    // To find its first icon, the desktop's theme is searched, which takes longer than all else of the bar.
+    if (wrong && mark_->icon().isNull())
+        mark_->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
     mark_->setVisible(wrong);
     const QString tip = shown(wrong ? StringId::PaletteEntryWrong : StringId::PaletteEntryTip);
     entry_->setToolTip(tip);

@@ -12,11 +12,11 @@
 #include <QCheckBox>
 #include <QFrame>
 #include <QGridLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStyle>
 #include <QTabBar>
 #include <QToolButton>
 
@@ -185,8 +185,7 @@ QBoxLayout* CPaletteBarControls::makeEntryRow() {
     identify(*entry_, IDC_ENTRY);
     entry_->setAccessibleName(shown(StringId::PaletteEntryName));
     entry_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000")) + 2 * letter);
-    mark_ =
-        entry_->addAction(style()->standardIcon(QStyle::SP_MessageBoxWarning), QLineEdit::TrailingPosition);
+    mark_ = entry_->addAction(QIcon(), QLineEdit::TrailingPosition);
     connect(entry_, &QLineEdit::textEdited, this,
             [this](const QString& typed) { state_.EntryTyped(typed.toStdString()); });
 
