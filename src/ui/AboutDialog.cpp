@@ -1,12 +1,13 @@
 #include "ui/AboutDialog.h"
 
 #include "platform/Platform.h"
+#include "platform/qt/DesktopEntries.h"
 #include "plugin/PlugInCatalogue.h"
 #include "ui/SheetControls.h"
 
-#include <QApplication>
 #include <QDialogButtonBox>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -69,7 +70,7 @@ AboutDialog::AboutDialog(const PlugInCatalogue& plugIns, QWidget* parent)
 
     auto* icon = new QLabel;
     const int side = 2 * style()->pixelMetric(QStyle::PM_LargeIconSize, nullptr, this);
-    icon->setPixmap(QApplication::windowIcon().pixmap(QSize(side, side), devicePixelRatio()));
+    icon->setPixmap(programIcon().pixmap(QSize(side, side), devicePixelRatioF()));
 
     auto* version = new QLabel(versionLine());
     version->setObjectName(QStringLiteral("IDC_ABOUT_VERSION"));
@@ -93,7 +94,7 @@ AboutDialog::AboutDialog(const PlugInCatalogue& plugIns, QWidget* parent)
     list_->setRootIsDecorated(false);
     list_->setAllColumnsShowFocus(true);
     list_->header()->setStretchLastSection(false);
-    if (QApplication::queryKeyboardModifiers().testFlag(Qt::ShiftModifier))
+    if (QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ShiftModifier))
         listCredits();
     else
         listPlugIns(plugIns);

@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QPixmap>
+#include <QtMath>
 
 #include <algorithm>
 #include <cstdio>
@@ -21,6 +22,10 @@
 namespace dyeworks {
 
 namespace {
+
+/// In pixels of the desktop's. Every window hands over all sizes of its icon when it is made; what desktops
+/// show larger they take from the files that they know the program by.
+constexpr qreal kLargestWindowIcon = 64;
 
 /// Whether the arguments look as if they asked for something that needs no display. One may be the name of a
 /// file, or belong to an option.
@@ -99,7 +104,7 @@ int runDyeworks(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationVersion(QString::fromLatin1(kVersionText));
     QGuiApplication::setDesktopFileName(QStringLiteral("orrery-dyeworks"));
-    QApplication::setWindowIcon(programIcon());
+    QApplication::setWindowIcon(programIcon(qCeil(kLargestWindowIcon * application.devicePixelRatio())));
     const CommandLine commandLine = parseCommandLine(QApplication::arguments());
     if (const auto exitCode = doneWithoutWindow(commandLine))
         return *exitCode;

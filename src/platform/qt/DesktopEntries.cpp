@@ -49,13 +49,15 @@ QByteArray resource(const QString& path) {
 
 } // namespace
 
-QIcon programIcon() {
+QIcon programIcon(int largest) {
     initializeDesktopFiles();
     QIcon icon;
-    for (const int side : {16, 24, 32, 48, 64, 128, 256})
-        icon.addFile(
-            QStringLiteral("%1icons/hicolor/%2x%2/apps/orrery-dyeworks.png").arg(kResources).arg(side),
-            {side, side});
+    for (const int side : {16, 24, 32, 48, 64, 128, 256}) {
+        if (side <= largest)
+            icon.addFile(
+                QStringLiteral("%1icons/hicolor/%2x%2/apps/orrery-dyeworks.png").arg(kResources).arg(side),
+                {side, side});
+    }
     return icon;
 }
 

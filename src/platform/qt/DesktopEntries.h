@@ -17,8 +17,11 @@ struct DesktopFile {
     QByteArray bytes;
 };
 
-/// The program's icon, in all the sizes that the desktop gets.
-[[nodiscard]] QIcon programIcon();
+constexpr int kLargestProgramIcon = 256;
+
+/// The program's icon, in those of the sizes that the desktop gets whose side, in device pixels, is `largest`
+/// at most. Every one of them is decoded.
+[[nodiscard]] QIcon programIcon(int largest = kLargestProgramIcon);
 
 /// Where the desktop entry stands below a data folder.
 [[nodiscard]] QString desktopEntryPath();
