@@ -40,9 +40,8 @@ CFileNewPalettePage::CFileNewPalettePage()
 
     auto* layout = new QFormLayout(this);
     layout->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
-    layout->addRow(shown(StringId::NewImageBitMode),
-                   choiceColumn(StringId::NewImageBitMode, {bits4_, bits8_}));
-    layout->addRow(shown(StringId::NewPaletteType), choiceColumn(StringId::NewPaletteType, {rgba_, ia_}));
+    addChoices(*layout, StringId::NewImageBitMode, {bits4_, bits8_});
+    addChoices(*layout, StringId::NewPaletteType, {rgba_, ia_});
     layout->addRow(shown(StringId::NewPaletteAlpha), alphaField_);
     layout->addRow(shown(StringId::NewImageSize), size_);
 

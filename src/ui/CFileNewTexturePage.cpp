@@ -45,8 +45,7 @@ CFileNewTexturePage::CFileNewTexturePage()
     layout->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     layout->addRow(shown(StringId::NewImageWidth), widthField_);
     layout->addRow(shown(StringId::NewImageHeight), heightField_);
-    layout->addRow(shown(StringId::NewImageBitMode),
-                   choiceColumn(StringId::NewImageBitMode, {bits4_, bits8_}));
+    addChoices(*layout, StringId::NewImageBitMode, {bits4_, bits8_});
     layout->addRow(shown(StringId::NewImageSize), size_);
 
     setFocusProxy(widthField_);

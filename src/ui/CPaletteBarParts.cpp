@@ -84,7 +84,7 @@ QWidget* CPaletteBarControls::makeEmptyNotice() {
     notice->setAlignment(Qt::AlignCenter);
     // Not a button with the command's own tip: the one that no palette is open is to show here too.
     const QAction* const command = actions_.action(ID_PALETTE_OPEN);
-    auto* open = new QPushButton(command->icon(), command->iconText());
+    auto* open = new QPushButton(command->icon(), command->text());
     connect(open, &QPushButton::clicked, this, [this] { actions_.run(ID_PALETTE_OPEN); });
     auto* layout = new QVBoxLayout(page);
     layout->addStretch();

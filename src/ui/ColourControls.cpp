@@ -85,7 +85,9 @@ void ColourScrollBar::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     QStyleOptionSlider option;
     initStyleOption(&option);
-    painter.fillRect(rect(), trough_);
+    // Not below the arrows, whose buttons need not reach to the edge.
+    painter.fillRect(style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarGroove, this),
+                     trough_);
     drawEdge(painter, rect(), edgeColour(*this));
     option.subControls =
         QStyle::SC_ScrollBarAddLine | QStyle::SC_ScrollBarSubLine | QStyle::SC_ScrollBarSlider;

@@ -3,6 +3,8 @@
 #include "platform/Text.h"
 
 #include <QFontMetrics>
+#include <QFormLayout>
+#include <QLabel>
 #include <QLocale>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -20,16 +22,22 @@ QRadioButton* choiceButton(const char* name, StringId caption, StringId tip) {
     return button;
 }
 
-QWidget* choiceColumn(StringId name, std::initializer_list<QRadioButton*> buttons) {
+void addChoices(QFormLayout& form, StringId label, std::initializer_list<QRadioButton*> buttons) {
     auto* column = new QWidget;
-    column->setAccessibleName(shown(name));
+    column->setAccessibleName(shown(label));
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
     // Closer than rows of a form, so that a group is seen as one.
     layout->setSpacing(column->fontMetrics().height() / 8);
     for (QRadioButton* button : buttons)
         layout->addWidget(button);
-    return column;
+    auto* name = new QLabel(shown(label));
+    name->setBuddy(column);
+    // In line with the first button. The form by itself sets it a little lower beside a field of several
+    // lines.
+    name->setMinimumHeight((*buttons.begin())->sizeHint().height());
+    form.addRow(name, column);
+    form.setAlignment(name, Qt::AlignTop);
 }
 
 QString byteCount(qlonglong bytes) {

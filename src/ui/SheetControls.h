@@ -8,6 +8,7 @@
 #include <initializer_list>
 #include <string>
 
+class QFormLayout;
 class QRadioButton;
 
 namespace dyeworks {
@@ -15,10 +16,10 @@ namespace dyeworks {
 /// The text in the user's language, for a control to show.
 [[nodiscard]] QString shown(StringId id, std::initializer_list<std::string> arguments = {});
 
-/// A button of a group of choices. Those of one choiceColumn exclude each other.
+/// A button of a group of choices. Those that are added together exclude each other.
 [[nodiscard]] QRadioButton* choiceButton(const char* name, StringId caption, StringId tip);
-/// The buttons below each other; `name` is what screen readers call the group.
-[[nodiscard]] QWidget* choiceColumn(StringId name, std::initializer_list<QRadioButton*> buttons);
+/// Adds a row with the buttons below each other. Its label is also what screen readers call the group.
+void addChoices(QFormLayout& form, StringId label, std::initializer_list<QRadioButton*> buttons);
 
 /// "2,048 bytes", the way the user's country writes numbers.
 [[nodiscard]] QString byteCount(qlonglong bytes);

@@ -97,6 +97,13 @@ protected:
     [[nodiscard]] std::uint16_t seen(std::int32_t entry) {
         return images_[set_.currentKey].at(static_cast<std::size_t>(entry));
     }
+    /// Palettes stand in the order of their names, which count on through a whole run.
+    [[nodiscard]] std::int32_t tabOf(const std::string& key) {
+        std::int32_t tab = 0;
+        for (std::string found; set_.keyAt(tab, found) && found != key;)
+            ++tab;
+        return tab;
+    }
     void click(std::int32_t cell) {
         grid_.setMarker(0, cell);
         bar_.GridClicked();
@@ -365,7 +372,7 @@ TEST_F(PaletteBar, KeepsTheCellInsideTheGrid) {
     open(256, ColourType::Rgba);
     EXPECT_EQ(bar_.CurrentCell(), 15);
     click(200);
-    bar_.TabChosen(0);
+    bar_.TabChosen(tabOf(small));
     EXPECT_EQ(set_.currentKey, small);
     EXPECT_EQ(bar_.CurrentCell(), 15);
     EXPECT_EQ(bar_.entryText(), "FFFE");
@@ -516,20 +523,18 @@ TEST_F(PaletteBar, EditPaletteWritesIntoThePaletteThatItWasOpenedFor) {
 }
 
 TEST_F(PaletteBar, PreviewNeverOutlivesItsCause) {
-    open(16, ColourType::Rgba);
     open(16, ColourType::Ia);
-    bar_.TabChosen(0);
+    const std::string other = set_.currentKey;
+    open(16, ColourType::Rgba);
     const std::string key = set_.currentKey;
     const struct {
         const char* cause;
         std::function<void()> end;
     } cases[] = {
-        {"another tab", [this] { bar_.TabChosen(1); }},
+        {"another tab", [&] { bar_.TabChosen(tabOf(other)); }},
         {"another palette", [this] { open(16, ColourType::Rgba); }},
         {"another document's palette",
-         [this] {
-             std::string other;
-             set_.keyAt(1, other);
+         [&] {
              set_.setCurrent(other);
              palettesChanged();
          }},
@@ -595,18 +600,21 @@ TEST_F(PaletteBar, StripRunsBetweenItsEnds) {
 
 TEST_F(PaletteBar, TabsFollowTheSet) {
     const std::string title = open(16, ColourType::Rgba).title;
+    const std::string key = set_.currentKey;
     open(16, ColourType::Ia);
     ASSERT_EQ(bar_.tabs().size(), 2U);
-    EXPECT_EQ(bar_.currentTab(), 1);
-    bar_.TabChosen(0);
-    EXPECT_EQ(bar_.currentTab(), 0);
-    EXPECT_EQ(bar_.tabTip(0), set_.currentKey);
+    const std::int32_t tab = tabOf(key);
+    EXPECT_EQ(bar_.currentTab(), 1 - tab);
+    bar_.TabChosen(tab);
+    EXPECT_EQ(bar_.currentTab(), tab);
+    EXPECT_EQ(bar_.tabTip(tab), key);
     bar_.EntryTyped("1234");
     bar_.Apply();
     bar_.Undo();
-    EXPECT_EQ(bar_.tabs()[0].title, title);
+    const auto& shown = bar_.tabs()[static_cast<std::size_t>(tab)];
+    EXPECT_EQ(shown.title, title);
     bar_.Redo();
-    EXPECT_EQ(bar_.tabs()[0].title, title + " * ");
+    EXPECT_EQ(shown.title, title + " * ");
 }
 
 TEST_F(PaletteBar, TipsAreCutBetweenCharacters) {

@@ -32,19 +32,23 @@ constexpr std::array kAccents{Accent{"#2a7de1", "#64a9ff"}, Accent{"#d98a1f", "#
                               Accent{"#d1495b", "#f27c8a"}};
 
 constexpr qreal kDisabledOpacity = 0.38;
+constexpr float kPlateOpacity = 0.25F;
 
 class SvgIconEngine : public QIconEngine {
 public:
     explicit SvgIconEngine(const QString& name)
         : name_(name) {}
 
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override {
-        QSvgRenderer renderer(inColours(textColour(mode)));
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
+        const QColor text = textColour(mode);
+        QSvgRenderer renderer(inColours(text));
         if (!renderer.isValid())
             return;
         const int side = std::min(rect.width(), rect.height());
         const QRectF square(rect.x() + (rect.width() - side) / 2, rect.y() + (rect.height() - side) / 2, side,
                             side);
+        if (state == QIcon::On && isLight(text))
+            drawPlate(*painter, square, text);
         if (mode != QIcon::Disabled) {
             renderer.render(painter, square);
             return;
@@ -72,7 +76,7 @@ public:
                                 .arg(name_)
                                 .arg(size.width())
                                 .arg(size.height())
-                                .arg(static_cast<int>(mode))
+                                .arg(static_cast<int>(mode) * 2 + static_cast<int>(state))
                                 .arg(textColour(mode).rgba());
         QPixmap pixmap;
         if (!QPixmapCache::find(key, &pixmap)) {
@@ -91,6 +95,20 @@ public:
     QIconEngine* clone() const override { return new SvgIconEngine(*this); }
 
 private:
+    /// Styles shade a button that is switched on by some part of its brightness, which shows little on a dark
+    /// bar.
+    static void drawPlate(QPainter& painter, const QRectF& square, QColor colour) {
+        colour.setAlphaF(kPlateOpacity);
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(colour);
+        painter.drawRoundedRect(square, square.width() / 8, square.width() / 8);
+        painter.restore();
+    }
+
+    static bool isLight(const QColor& text) { return text.lightnessF() > 0.5F; }
+
     static QColor textColour(QIcon::Mode mode) {
         const QPalette palette = QGuiApplication::palette();
         // Menus show the chosen line in the colours of a selection.
@@ -105,7 +123,7 @@ private:
         QFile file(fileName());
         QByteArray drawing = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
         drawing.replace("currentColor", text.name().toLatin1());
-        if (text.lightnessF() > 0.5F) {
+        if (isLight(text)) {
             for (const Accent& accent : kAccents)
                 drawing.replace(accent.onLight, accent.onDark);
         }
