@@ -64,7 +64,7 @@ std::string RecentFileList::displayName(std::size_t index) const {
     std::string folder = withoutDrive(platform().files().currentDirectory());
     if (!folder.ends_with('\\'))
         folder += '\\';
-    if (equalIgnoringCase(std::string_view(path).substr(0, folder.size()), folder))
+    if (beginsIgnoringCase(path, folder))
         path.erase(0, folder.size());
     return displayPath(abbreviatedPath(path, kDisplayLength));
 }

@@ -134,6 +134,9 @@ void CDyeworksDoc::RestoreSnapshot(CDyeworksView* view) {
     canvas_.ResetWrittenRect();
     canvas_.SetChangedRect(drawn);
     AfterEdit(view);
+    // Other views may have been painted while the stroke stood on the canvas.
+    if (stroke_)
+        updateAllViews(view, kHintPixels);
     canvas_.ResetChangedRect();
 }
 

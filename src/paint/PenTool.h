@@ -15,7 +15,7 @@ public:
     bool press(Point texel, const PointerEvent& event) override;
     void move(Point texel, const PointerEvent& event) override;
     void release(Point texel, const PointerEvent& event) override;
-    void cancel() override { stroke_.takeBack(); }
+    void cancel() override { stroke_.cancel(); }
 
 private:
     void follow(Point texel);

@@ -37,7 +37,7 @@ void ShapeTool::release(Point texel, const PointerEvent& /*event*/) {
 
 void ShapeTool::cancel() {
     hideFrame();
-    stroke_.takeBack();
+    stroke_.cancel();
 }
 
 /// A line is its own outline.

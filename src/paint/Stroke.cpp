@@ -18,6 +18,11 @@ void Stroke::takeBack() {
     touched_ = kNothing;
 }
 
+void Stroke::cancel() {
+    takeBack();
+    view_.document().RefreshPreviews();
+}
+
 void Stroke::setStrokeFlag(bool stroke) {
     view_.document().SetStrokeFlag(stroke);
 }
@@ -26,6 +31,7 @@ void Stroke::noteChanges() {
     Rect changed;
     if (!view_.document().canvas().GetChangedRect(changed))
         return;
+    view_.document().RefreshPreviews();
     if (touched_ == kNothing) {
         touched_ = changed;
         return;

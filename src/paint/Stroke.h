@@ -6,8 +6,8 @@ namespace dyeworks {
 
 class CDyeworksView;
 
-/// What a drag draws on the canvas before its edit is complete. It shows in the view that draws it alone, and
-/// can be taken back.
+/// What a drag draws on the canvas before its edit is complete. It shows in the view that draws it and in the
+/// previews, and can be taken back.
 class Stroke {
 public:
     /// `view` must outlive the stroke.
@@ -28,6 +28,8 @@ public:
 
     /// Puts the canvas back to what it was at `begin`.
     void takeBack();
+    /// The same at the end of a drag that is given up, for the previews too.
+    void cancel();
 
     /// The canvas's changes since `begin` (inclusive, inverted when there are none). Kept here because the
     /// canvas's own changed rectangle starts anew whenever somebody has shown it.

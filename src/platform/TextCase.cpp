@@ -94,4 +94,12 @@ bool equalIgnoringCase(std::string_view a, std::string_view b) {
     return a == b || foldedCase(a) == foldedCase(b);
 }
 
+bool beginsIgnoringCase(std::string_view text, std::string_view beginning) {
+    return text.size() >= beginning.size() && equalIgnoringCase(text.substr(0, beginning.size()), beginning);
+}
+
+bool endsIgnoringCase(std::string_view text, std::string_view end) {
+    return text.size() >= end.size() && equalIgnoringCase(text.substr(text.size() - end.size()), end);
+}
+
 } // namespace dyeworks

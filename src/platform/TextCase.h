@@ -18,5 +18,7 @@ std::size_t characterLength(std::string_view text);
 std::size_t characterCount(std::string_view text);
 
 bool equalIgnoringCase(std::string_view a, std::string_view b);
+bool beginsIgnoringCase(std::string_view text, std::string_view beginning);
+bool endsIgnoringCase(std::string_view text, std::string_view end);
 
 } // namespace dyeworks

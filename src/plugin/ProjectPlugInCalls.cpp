@@ -21,39 +21,44 @@ void tell(const char* text) {
     platform().messages().show({text, "", MessageButtons::Ok, MessageIcon::None, MessageOwner::MainWindow});
 }
 
-constexpr auto kNothingBefore = [] {};
-
 } // namespace
 
-template <typename EntryPoint, typename Before, typename... Arguments>
-std::uint32_t ProjectPlugInCalls::firstAnswer(const char* name, const PlugInHandles& handles, Before before,
-                                              Arguments... arguments) {
-    // A copy of the handle, because a call may close the project they belong to.
+template <typename EntryPoint, typename Call>
+void ProjectPlugInCalls::eachHandler(const char* name, const PlugInHandles& handles, Call call) {
+    // A copy, because a call may close the project that the handles belong to.
     const PlugInHandles own = handles;
     const std::vector<PlugInInfo>& plugIns = catalogue_.nodeHandlers();
     for (std::size_t i = 0; i < std::min(plugIns.size(), own.size()); ++i) {
         EntryPoint* const entryPoint = plugIns[i].module->findFunction<EntryPoint>(name);
         if (entryPoint == nullptr)
             continue;
-        before();
-        const std::optional<std::uint32_t> answer = guarded(entryPoint, own[i], arguments...);
+        const std::optional<std::uint32_t> answer = call(entryPoint, own[i]);
         if (!answer)
             host_.tellPlugInFailed(plugIns[i].fileName);
         else if (*answer != 0)
-            return *answer;
+            return;
     }
-    return 0;
+}
+
+template <typename EntryPoint, typename... Arguments>
+std::uint32_t ProjectPlugInCalls::firstAnswer(const char* name, const PlugInHandles& handles,
+                                              Arguments... arguments) {
+    std::uint32_t first = 0;
+    eachHandler<EntryPoint>(name, handles, [&](EntryPoint* entryPoint, DwHandle handle) {
+        const std::optional<std::uint32_t> answer = guarded(entryPoint, handle, arguments...);
+        first = answer.value_or(0);
+        return answer;
+    });
+    return first;
 }
 
 template <typename EntryPoint, typename... Arguments>
 void ProjectPlugInCalls::tellAll(const char* name, const PlugInHandles& handles, Arguments... arguments) {
-    const PlugInHandles own = handles;
-    const std::vector<PlugInInfo>& plugIns = catalogue_.nodeHandlers();
-    for (std::size_t i = 0; i < std::min(plugIns.size(), own.size()); ++i) {
-        EntryPoint* const entryPoint = plugIns[i].module->findFunction<EntryPoint>(name);
-        if (entryPoint != nullptr && !guarded(entryPoint, own[i], arguments...))
-            host_.tellPlugInFailed(plugIns[i].fileName);
-    }
+    eachHandler<EntryPoint>(name, handles, [&](EntryPoint* entryPoint, DwHandle handle) {
+        const bool done = guarded(entryPoint, handle, arguments...).has_value();
+        // Whatever it answers, the others are to hear of it as well.
+        return done ? std::optional<std::uint32_t>(0) : std::nullopt;
+    });
 }
 
 std::size_t ProjectPlugInCalls::TPF_OnNew(PlugInHandles& handles) {
@@ -88,17 +93,17 @@ void ProjectPlugInCalls::TPF_OnCommand(const PlugInHandles& handles, const std::
 
 bool ProjectPlugInCalls::TPF_QueryCommand(const PlugInHandles& handles, const std::string& node,
                                           NodeCommand command) {
-    return firstAnswer<decltype(DWPI_TPF_onCommand)>("_DWPI_TPF_onCommand@16", handles, kNothingBefore,
-                                                     node.c_str(), static_cast<std::uint32_t>(command),
+    return firstAnswer<decltype(DWPI_TPF_onCommand)>("_DWPI_TPF_onCommand@16", handles, node.c_str(),
+                                                     static_cast<std::uint32_t>(command),
                                                      std::uint32_t{1}) != 0;
 }
 
 bool ProjectPlugInCalls::TPF_ToString(const PlugInHandles& handles, const std::string& node,
                                       std::string& text) {
     const std::unique_ptr<char[]> buffer(new (std::nothrow) char[kDragTextSize]());
-    if (buffer == nullptr || firstAnswer<decltype(DWPI_TPF_toString)>(
-                                 "_DWPI_TPF_toString@16", handles, kNothingBefore, node.c_str(), buffer.get(),
-                                 static_cast<std::uint32_t>(kDragTextSize)) == 0)
+    if (buffer == nullptr ||
+        firstAnswer<decltype(DWPI_TPF_toString)>("_DWPI_TPF_toString@16", handles, node.c_str(), buffer.get(),
+                                                 static_cast<std::uint32_t>(kDragTextSize)) == 0)
         return false;
     text.assign(buffer.get(), strnlen(buffer.get(), kDragTextSize));
     return true;
@@ -107,16 +112,23 @@ bool ProjectPlugInCalls::TPF_ToString(const PlugInHandles& handles, const std::s
 std::uint32_t ProjectPlugInCalls::TPF_IsDroppable(const PlugInHandles& handles, const std::string& target,
                                                   const std::string& dragged, std::uint32_t keyState) {
     std::uint32_t effect = drop_effect::kNone;
-    const auto reset = [&effect] { effect = drop_effect::kNone; };
-    const std::uint32_t answer = firstAnswer<decltype(DWPI_TPF_isDroppable)>(
-        "_DWPI_TPF_isDroppable@20", handles, reset, target.c_str(), dragged.c_str(), keyState, &effect);
-    return answer == 0 ? drop_effect::kNone : effect;
+    std::uint32_t accepted = drop_effect::kNone;
+    using IsDroppable = decltype(DWPI_TPF_isDroppable);
+    eachHandler<IsDroppable>(
+        "_DWPI_TPF_isDroppable@20", handles, [&](IsDroppable* entryPoint, DwHandle handle) {
+            effect = drop_effect::kNone;
+            const std::optional<std::uint32_t> answer =
+                guarded(entryPoint, handle, target.c_str(), dragged.c_str(), keyState, &effect);
+            accepted = answer.value_or(0) == 0 ? drop_effect::kNone : effect;
+            return answer;
+        });
+    return accepted;
 }
 
 bool ProjectPlugInCalls::TPF_OnDrop(const PlugInHandles& handles, const std::string& target,
                                     const std::string& key, const std::string& value, std::uint32_t effect) {
-    return firstAnswer<decltype(DWPI_TPF_onDrop)>("_DWPI_TPF_onDrop@20", handles, kNothingBefore,
-                                                  target.c_str(), key.c_str(), value.c_str(), effect) != 0;
+    return firstAnswer<decltype(DWPI_TPF_onDrop)>("_DWPI_TPF_onDrop@20", handles, target.c_str(), key.c_str(),
+                                                  value.c_str(), effect) != 0;
 }
 
 std::uint32_t ProjectPlugInCalls::TPF_Export(const PlugInHandles& handles, std::int32_t index,

@@ -34,11 +34,12 @@ public:
                              const std::string& projectPath) override;
 
 private:
-    /// Calls the entry point of that name in each plug-in that has it, with the plug-in's handle first, until
-    /// one answers other than 0; `before` runs before each call.
-    template <typename EntryPoint, typename Before, typename... Arguments>
-    std::uint32_t firstAnswer(const char* name, const PlugInHandles& handles, Before before,
-                              Arguments... arguments);
+    /// Calls `call` with the entry point of that name of each plug-in that has it, and with its handle, until
+    /// one answers other than 0. No answer: the plug-in broke off.
+    template <typename EntryPoint, typename Call>
+    void eachHandler(const char* name, const PlugInHandles& handles, Call call);
+    template <typename EntryPoint, typename... Arguments>
+    std::uint32_t firstAnswer(const char* name, const PlugInHandles& handles, Arguments... arguments);
     template <typename EntryPoint, typename... Arguments>
     void tellAll(const char* name, const PlugInHandles& handles, Arguments... arguments);
 

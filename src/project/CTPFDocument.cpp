@@ -76,9 +76,8 @@ bool CTPFDocument::onNewDocument() {
 bool CTPFDocument::create(const ProjectSettings& entered) {
     const ProjectSettings settings = absolute(entered);
     if (!settings.name.empty()) {
-        const std::size_t length = std::string_view(kExtension).size();
         std::string path = settings.name;
-        if (path.size() < length || !equalIgnoringCase(path.substr(path.size() - length), kExtension))
+        if (!endsIgnoringCase(path, kExtension))
             path += kExtension;
         PathAbsolute(path, settings.projectDirectory);
         path = platform().files().fullPath(path);

@@ -165,8 +165,7 @@ bool CTPFTreeView::selectPicture(const std::string& name) {
 
 void CTPFTreeView::chooseSelectedPicture() {
     std::string path;
-    if (GetNodePath(tree_.selected(), path) && path.size() >= kPictures.size() &&
-        equalIgnoringCase(std::string_view(path).substr(0, kPictures.size()), kPictures))
+    if (GetNodePath(tree_.selected(), path) && beginsIgnoringCase(path, kPictures))
         document_.host().SelectPicture(path.substr(kPictures.size()));
 }
 

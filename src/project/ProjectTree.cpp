@@ -12,10 +12,6 @@ namespace {
 
 constexpr char kSeparator = '\\';
 
-bool beginsWith(std::string_view text, std::string_view beginning) {
-    return text.size() >= beginning.size() && equalIgnoringCase(text.substr(0, beginning.size()), beginning);
-}
-
 } // namespace
 
 const std::vector<std::unique_ptr<ProjectNode>>& ProjectTree::childrenOf(const ProjectNode* parent) const {
@@ -211,10 +207,10 @@ bool isWithin(const ProjectNode* node, const ProjectNode* ancestor) {
 NodeKind kindOfNode(std::string_view path) {
     constexpr std::string_view kProject = "\\Project";
     constexpr std::string_view kPicture = "\\Picture";
-    if (!beginsWith(path, kProject))
+    if (!beginsIgnoringCase(path, kProject))
         return {};
     path.remove_prefix(kProject.size());
-    return {path.empty(), beginsWith(path, kPicture)};
+    return {path.empty(), beginsIgnoringCase(path, kPicture)};
 }
 
 } // namespace dyeworks

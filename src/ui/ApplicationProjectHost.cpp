@@ -9,18 +9,6 @@
 
 namespace dyeworks {
 
-namespace {
-
-CFileNewProjectPage::Values valuesOf(const ProjectSettings& settings) {
-    return {settings.name, settings.projectDirectory, settings.imageDirectories, settings.paletteDirectories};
-}
-
-ProjectSettings settingsOf(const CFileNewProjectPage::Values& values) {
-    return {values.name, values.projectDirectory, values.imageDirectories, values.paletteDirectories};
-}
-
-} // namespace
-
 ProjectPlugIns& ApplicationProjectHost::projectPlugIns() {
     return application_.projectPlugIns();
 }
@@ -56,18 +44,18 @@ bool ApplicationProjectHost::askNewProject(ProjectSettings& settings) {
     CFileNewSheet sheet(&application_.mainFrame());
     CFileNewProjectPage& page = sheet.projectPage();
     sheet.keepOnly(page);
-    page.setValues(valuesOf(settings));
+    page.setValues(settings);
     if (sheet.exec() != QDialog::Accepted)
         return false;
-    settings = settingsOf(page.values());
+    settings = page.values();
     return true;
 }
 
 bool ApplicationProjectHost::askProjectProperties(ProjectSettings& settings) {
-    ProjectPropertySheet sheet(valuesOf(settings), &application_.mainFrame());
+    ProjectPropertySheet sheet(settings, &application_.mainFrame());
     if (sheet.exec() != QDialog::Accepted)
         return false;
-    settings = settingsOf(sheet.values());
+    settings = sheet.values();
     return true;
 }
 

@@ -17,14 +17,11 @@ void showEntry(const RecentFileList& list, std::size_t index, CommandUi& ui) {
 } // namespace
 
 RecentFileList& CDyeworksApp::recentListFor(const std::string& path) {
-    constexpr std::size_t kExtensionLength = 4;
-    const std::string end =
-        path.size() < kExtensionLength ? path : path.substr(path.size() - kExtensionLength);
-    if (equalIgnoringCase(end, ".tpf"))
+    if (endsIgnoringCase(path, ".tpf"))
         return recentProjects_;
-    if (equalIgnoringCase(end, ".tmf"))
+    if (endsIgnoringCase(path, ".tmf"))
         return recentImages_;
-    if (equalIgnoringCase(end, ".tlf"))
+    if (endsIgnoringCase(path, ".tlf"))
         return recentPalettes_;
     return recentOthers_;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/widgets/PropertySheet.h"
+#include "project/ProjectHost.h"
 
 #include <memory>
 #include <string>
@@ -22,13 +23,7 @@ class CFileNewProjectPage : public PropertyPage {
     Q_OBJECT
 
 public:
-    struct Values {
-        std::string name;
-        std::string projectDirectory = "c:\\halcyon\\orrerykit\\dyedit\\user_data";
-        // Each one folder or several, separated by ";".
-        std::string imageDirectories;
-        std::string paletteDirectories;
-    };
+    using Values = ProjectSettings;
     enum class Directory { Project, Images, Palettes };
 
     CFileNewProjectPage();
@@ -59,7 +54,7 @@ private:
     [[nodiscard]] std::string& directory(Directory field);
 
     std::unique_ptr<CFolderPick> folderPick_; ///< Null when the control is missing.
-    Values values_;
+    Values values_{{}, "c:\\halcyon\\orrerykit\\dyedit\\user_data", {}, {}};
     bool nameFixed_ = false;
     PathEdit* name_;
     DirectoryRow project_;

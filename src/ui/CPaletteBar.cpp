@@ -15,13 +15,6 @@
 
 namespace dyeworks {
 
-namespace {
-
-/// Of a context menu that was asked for with the keyboard, from the corner of the bar.
-constexpr QPoint kMenuPlace{5, 5};
-
-} // namespace
-
 CPaletteBar::CPaletteBar(PaletteBarHost& host, CommandActions& actions, QWidget& owner)
     : QWidget(&owner, Qt::Tool | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint)
     , host_(host)
@@ -82,8 +75,7 @@ void CPaletteBar::closeEvent(QCloseEvent* event) {
 void CPaletteBar::contextMenuEvent(QContextMenuEvent* event) {
     if (!controls_->state().hasPalette())
         return;
-    menu_->popup(event->reason() == QContextMenuEvent::Keyboard ? mapToGlobal(kMenuPlace)
-                                                                : event->globalPos());
+    menu_->popup(contextMenuPlace(*event, *this));
 }
 
 void CPaletteBar::OnEditPalette() {

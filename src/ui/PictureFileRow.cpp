@@ -35,11 +35,6 @@ std::string firstFolder(const std::string& directories) {
     return SplitFields(directories, ";", folders) == 0 ? std::string() : folders.front();
 }
 
-bool endsWith(const std::string& name, const std::string& extension) {
-    return name.size() >= extension.size() &&
-           equalIgnoringCase(name.substr(name.size() - extension.size()), extension);
-}
-
 } // namespace
 
 PictureFileRow::PictureFileRow(const Kind& kind, std::string directories, const std::string& name, Make make)
@@ -143,7 +138,7 @@ void PictureFileRow::makeNew() {
         takeFocus();
         return;
     }
-    if (!endsWith(name, kind_.extension))
+    if (!endsIgnoringCase(name, kind_.extension))
         name += kind_.extension;
     std::string target;
     if (!PathSearch(target, directories_, name, false) || platform().files().exists(target)) {

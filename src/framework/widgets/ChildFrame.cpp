@@ -144,6 +144,8 @@ void ChildFrame::release() {
     view_ = nullptr;
     document_ = nullptr;
     delete widget();
+    // The document may ask something before it goes.
+    hide();
     if (document.views().empty() && document.documentTemplate() != nullptr)
         document.documentTemplate()->dropDocument(document);
 }

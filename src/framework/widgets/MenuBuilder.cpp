@@ -5,6 +5,7 @@
 #include "platform/Platform.h"
 
 #include <QAction>
+#include <QContextMenuEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
@@ -88,6 +89,11 @@ void fillMenuBar(QMenuBar& bar, std::span<const MenuItem> items, CommandActions&
 
 void fillToolBar(QToolBar& bar, std::span<const MenuItem> items, CommandActions& actions) {
     fill(bar, items, actions, [](const MenuItem&) {});
+}
+
+QPoint contextMenuPlace(const QContextMenuEvent& event, const QWidget& area) {
+    constexpr QPoint kFromCorner{5, 5};
+    return event.reason() == QContextMenuEvent::Keyboard ? area.mapToGlobal(kFromCorner) : event.globalPos();
 }
 
 } // namespace dyeworks

@@ -1,5 +1,6 @@
 #include "paint/widgets/ImageView.h"
 
+#include "framework/widgets/MenuBuilder.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/widgets/CChildFrame.h"
 #include "paint/widgets/LensCursor.h"
@@ -22,9 +23,6 @@
 namespace dyeworks {
 
 namespace {
-
-/// Of a context menu that was asked for with the keyboard, from the corner of the client area.
-constexpr QPoint kMenuPlace{5, 5};
 
 constexpr int kWheelNotch = 120; // Angle that one notch of a wheel reports.
 
@@ -353,8 +351,7 @@ void ImageView::contextMenuEvent(QContextMenuEvent* event) {
     const CDyeworksView::ContextMenu menu = view_.contextMenu();
     if (menu == CDyeworksView::ContextMenu::None)
         return;
-    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    Q_EMIT contextMenuRequested(menu, byKey ? viewport()->mapToGlobal(kMenuPlace) : event->globalPos());
+    Q_EMIT contextMenuRequested(menu, contextMenuPlace(*event, *viewport()));
 }
 
 void ImageView::keyPressEvent(QKeyEvent* event) {

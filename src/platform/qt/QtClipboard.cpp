@@ -59,14 +59,34 @@ std::unique_ptr<QMimeData> offerOf(std::span<const std::byte> dib) {
 
 } // namespace
 
+QtClipboard::~QtClipboard() {
+    QObject::disconnect(changes_);
+}
+
+/// Not before there is an application.
+void QtClipboard::followChanges() const {
+    if (changes_)
+        return;
+    changes_ = QObject::connect(desktopClipboard(), &QClipboard::dataChanged, [this] {
+        offersText_.reset();
+        offersBitmap_.reset();
+    });
+}
+
 bool QtClipboard::offers(ClipboardFormat format) const {
+    const bool text = format == ClipboardFormat::Text;
+    std::optional<bool>& answer = text ? offersText_ : offersBitmap_;
+    if (answer)
+        return *answer;
     const QMimeData* data = offered();
     if (data == nullptr)
         return false;
-    if (format == ClipboardFormat::Text)
-        return data->hasText();
-    return data->hasImage() || std::any_of(kBmpFormats.begin(), kBmpFormats.end(),
-                                           [data](const QString& name) { return data->hasFormat(name); });
+    followChanges();
+    answer =
+        text ? data->hasText()
+             : data->hasImage() || std::any_of(kBmpFormats.begin(), kBmpFormats.end(),
+                                               [data](const QString& name) { return data->hasFormat(name); });
+    return *answer;
 }
 
 bool QtClipboard::setBitmap(std::span<const std::byte> dib) {

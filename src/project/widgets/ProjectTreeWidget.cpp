@@ -1,6 +1,7 @@
 #include "project/widgets/ProjectTreeWidget.h"
 
 #include "framework/widgets/ChildFrame.h"
+#include "framework/widgets/MenuBuilder.h"
 #include "platform/Platform.h"
 #include "project/CTPFDocument.h"
 #include "project/PathHelpers.h"
@@ -19,7 +20,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr QPoint kMenuPlace{5, 5};
 constexpr int kMarkHeight = 2;
 constexpr QSize kIconSize{16, 16};
 /// Of the picture in a tip, in pixels of a ratio of 1.
@@ -165,8 +165,7 @@ bool ProjectTreeWidget::event(QEvent* event) {
 }
 
 void ProjectTreeWidget::contextMenuEvent(QContextMenuEvent* event) {
-    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    Q_EMIT contextMenuRequested(byKey ? viewport()->mapToGlobal(kMenuPlace) : event->globalPos());
+    Q_EMIT contextMenuRequested(contextMenuPlace(*event, *viewport()));
 }
 
 bool ProjectTreeWidget::viewportEvent(QEvent* event) {
