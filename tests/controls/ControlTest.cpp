@@ -23,6 +23,13 @@ void RecordingSink::controlEvent(DispatchId event, DispatchArguments arguments) 
     events_.push_back(line + ")");
 }
 
+std::vector<DispatchValue> shortValues(std::initializer_list<int> values) {
+    std::vector<DispatchValue> arguments;
+    for (const int value : values)
+        arguments.push_back(shortValue(value));
+    return arguments;
+}
+
 ControlTest::ControlTest() {
     for (const char* file : {"SwatchGrid.ocx", "RampSlider.ocx", "FolderPick.ocx"}) {
         fake_.library.defineFile(file, std::string(DYEWORKS_CONTROL_FOLDER "/") + file);
@@ -50,16 +57,6 @@ void ControlTest::create(const std::string& className) {
     widget().activateWindow();
     widget().setFocus();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&widget()));
-}
-
-void ControlTest::destroy() {
-    control_.reset();
-    library_.reset();
-}
-
-DispatchResult ControlTest::invoke(DispatchId id, DispatchKind kind,
-                                   std::initializer_list<DispatchValue> arguments) {
-    return control_->invoke(id, kind, {arguments.begin(), arguments.size()});
 }
 
 int ControlTest::number(const DispatchResult& result) {

@@ -27,6 +27,15 @@ private:
     std::vector<std::string> events_;
 };
 
+/// As a member's short argument, or several.
+inline DispatchValue shortValue(int value) {
+    return static_cast<std::int16_t>(value);
+}
+std::vector<DispatchValue> shortValues(std::initializer_list<int> values);
+inline DispatchValue longValue(int value) {
+    return std::int32_t{value};
+}
+
 /// The controls' real files on a platform of fakes, called through numbers only.
 class ControlTest : public testing::Test {
 protected:
@@ -36,11 +45,19 @@ protected:
     /// Loads "<className>.ocx", creates its object and shows its window, if any, with the keyboard in it.
     void create(const std::string& className);
     /// Destroys the object, then unloads.
-    void destroy();
+    void destroy() {
+        control_.reset();
+        library_.reset();
+    }
 
-    DispatchResult invoke(DispatchId id, DispatchKind kind, std::initializer_list<DispatchValue> arguments);
-    DispatchResult call(DispatchId id, std::initializer_list<DispatchValue> arguments) {
+    DispatchResult invoke(DispatchId id, DispatchKind kind, const std::vector<DispatchValue>& arguments) {
+        return control_->invoke(id, kind, arguments);
+    }
+    DispatchResult call(DispatchId id, const std::vector<DispatchValue>& arguments) {
         return invoke(id, DispatchKind::Method, arguments);
+    }
+    DispatchResult callShort(DispatchId id, std::initializer_list<int> arguments) {
+        return call(id, shortValues(arguments));
     }
     DispatchResult set(DispatchId id, const DispatchValue& value) {
         return invoke(id, DispatchKind::Set, {value});
@@ -56,13 +73,5 @@ private:
     std::unique_ptr<LoadedLibrary> library_;
     std::unique_ptr<Control> control_;
 };
-
-/// As a member's short argument.
-inline DispatchValue shortValue(int value) {
-    return static_cast<std::int16_t>(value);
-}
-inline DispatchValue longValue(int value) {
-    return std::int32_t{value};
-}
 
 } // namespace dyeworks

@@ -43,19 +43,15 @@ TEST_F(ControlTest, WrongCallsAreRefusedByEveryControl) {
         {"SwatchGrid", 2, Set, {longValue(2)}, BadParameter},
         {"SwatchGrid", 9, Set, {}, MemberNotFound},
         {"SwatchGrid", 3, Set, {}, BadParameterCount},
-        {"SwatchGrid", 4, Method, {shortValue(4), shortValue(4)}, BadParameterCount},
-        {"SwatchGrid", 4, Method, {shortValue(-1), shortValue(4), shortValue(0)}, BadParameter},
+        {"SwatchGrid", 4, Method, shortValues({4, 4}), BadParameterCount},
+        {"SwatchGrid", 4, Method, shortValues({-1, 4, 0}), BadParameter},
         {"SwatchGrid", 5, Method, {std::string("4")}, BadParameter},
         {"SwatchGrid", 5, Method, {longValue(0x8000)}, BadParameter},
         {"SwatchGrid", 5, Method, {longValue(4)}, Done},
-        {"SwatchGrid", 6, Method, {shortValue(0)}, BadParameter},
+        {"SwatchGrid", 6, Method, shortValues({0}), BadParameter},
         {"SwatchGrid", 7, Method, {shortValue(-1), longValue(0)}, BadParameter},
-        {"SwatchGrid",
-         14,
-         Method,
-         {shortValue(0), shortValue(0), shortValue(0), shortValue(0)},
-         BadParameter},
-        {"SwatchGrid", 17, Method, {shortValue(0), shortValue(0)}, Done},
+        {"SwatchGrid", 14, Method, shortValues({0, 0, 0, 0}), BadParameter},
+        {"SwatchGrid", 17, Method, shortValues({0, 0}), Done},
         {"SwatchGrid", 26, Method, {shortValue(9), longValue(0)}, BadParameter},
         {"RampSlider", 3, Method, {longValue(0)}, MemberNotFound},
         {"RampSlider", 3, Set, {&text}, BadParameter},
@@ -68,11 +64,8 @@ TEST_F(ControlTest, WrongCallsAreRefusedByEveryControl) {
         {"FolderPick", 4, Method, {longValue(0), std::string()}, BadParameter},
     };
     for (const Case& c : cases) {
-        const auto loaded = fake_.library.load(std::string(c.control) + ".ocx");
-        ASSERT_TRUE(loaded);
-        const std::unique_ptr<Control> control(
-            loaded->findFunction<CreateControlFunction>(kCreateControlName)());
-        EXPECT_EQ(control->invoke(c.id, c.kind, c.arguments).status, c.status) << c.control << " " << c.id;
+        create(c.control);
+        EXPECT_EQ(invoke(c.id, c.kind, c.arguments).status, c.status) << c.control << " " << c.id;
     }
 }
 

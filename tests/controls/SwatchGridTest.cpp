@@ -22,8 +22,8 @@ protected:
     SwatchGridTest() { create("SwatchGrid"); }
 
     void layOut(int columns, int rows, int count) {
-        call(5, {shortValue(count)});
-        call(4, {shortValue(columns), shortValue(rows), shortValue(0)});
+        callShort(5, {count});
+        callShort(4, {columns, rows, 0});
         widget().resize(columns * 20 + 20, rows * 20 + 20);
         for (int cell = 0; cell < count; ++cell)
             call(7, {shortValue(cell), longValue(cell)});
@@ -41,8 +41,8 @@ protected:
         EXPECT_FALSE(area.isEmpty()) << cell;
         return area.center();
     }
-    int marker(int slot) { return number(call(12, {shortValue(slot)})); }
-    int value(int cell) { return number(call(6, {shortValue(cell)})); }
+    int marker(int slot) { return number(callShort(12, {slot})); }
+    int value(int cell) { return number(callShort(6, {cell})); }
     /// Corners of the selection; empty without one.
     std::vector<int> range() {
         std::array<std::int16_t, 4> corners{};
@@ -83,7 +83,7 @@ TEST_F(SwatchGridTest, KeysWalkWithinTheGridAndEveryStepIsAClick) {
     };
     layOut(4, 3, 10);
     for (const Case& c : cases) {
-        call(11, {shortValue(0), shortValue(c.from)});
+        callShort(11, {0, c.from});
         sink_.taken();
         press(c.key, c.modifiers);
         EXPECT_EQ(marker(0), c.to) << c.key << " from " << c.from;
@@ -115,18 +115,18 @@ TEST_F(SwatchGridTest, DragAndShiftSelectRangesAroundTheCurrentCell) {
     std::int16_t* const unasked = nullptr;
     EXPECT_EQ(number(call(14, {unasked, unasked, unasked, unasked})), 1);
     // Only another current cell or another shape ends it.
-    call(11, {shortValue(0), shortValue(6)});
-    call(4, {shortValue(4), shortValue(4), shortValue(0)});
-    call(5, {shortValue(16)});
+    callShort(11, {0, 6});
+    callShort(4, {4, 4, 0});
+    callShort(5, {16});
     EXPECT_THAT(range(), ElementsAre(2, 1, 2, 1));
-    call(11, {shortValue(0), shortValue(7)});
+    callShort(11, {0, 7});
     EXPECT_THAT(range(), IsEmpty());
 }
 
 TEST_F(SwatchGridTest, CellsAreOnlyClickedWhereNothingIsCurrent) {
     layOut(8, 1, 8);
     for (int slot = 0; slot < 4; ++slot)
-        EXPECT_EQ(number(call(11, {shortValue(slot), shortValue(-2)})), 1);
+        EXPECT_EQ(number(callShort(11, {slot, -2})), 1);
     click(3);
     EXPECT_EQ(number(call(102, {})), 3);
     EXPECT_EQ(marker(0), -2);
@@ -150,7 +150,7 @@ TEST_F(SwatchGridTest, MarkersKeepWhatTheyAreGiven) {
     const Case cases[] = {{1, 3, 1, 3}, {1, -1, 1, -1}, {3, -2, 1, -2}, {3, -3, 0, -2},
                           {2, 9, 1, 9}, {4, 0, 0, -1},  {-1, 0, 0, -1}, {3, 0, 1, 0}};
     for (const Case& c : cases) {
-        EXPECT_EQ(number(call(11, {shortValue(c.slot), shortValue(c.cell)})), c.accepted) << c.slot;
+        EXPECT_EQ(number(callShort(11, {c.slot, c.cell})), c.accepted) << c.slot;
         EXPECT_EQ(marker(c.slot), c.kept) << c.slot << " " << c.cell;
     }
 }
@@ -161,7 +161,7 @@ TEST_F(SwatchGridTest, PasteIsCutAtTheEdgesAndNamesTheChangedCells) {
     set(3, shortValue(1));
     EXPECT_EQ(number(call(15, {})), 0);
     EXPECT_EQ(number(call(16, {})), 0);
-    EXPECT_EQ(number(call(17, {shortValue(0), shortValue(0)})), 0);
+    EXPECT_EQ(number(callShort(17, {0, 0})), 0);
     drag(0, at(6)); // 0 1 2, 4 5 6
     EXPECT_EQ(number(call(15, {})), 1);
     EXPECT_EQ(number(call(16, {})), 1);
@@ -175,7 +175,7 @@ TEST_F(SwatchGridTest, PasteIsCutAtTheEdgesAndNamesTheChangedCells) {
                           {1, 2, 1, "2(9,15)"},  // 0 1 2 on 9 10 11; 4 5 6 on 13 14 15
                           {4, 0, 0, ""},         {0, 4, 0, ""}, {-1, 0, 0, ""}};
     for (const Case& c : cases) {
-        EXPECT_EQ(number(call(17, {shortValue(c.column), shortValue(c.row)})), c.pasted);
+        EXPECT_EQ(number(callShort(17, {c.column, c.row})), c.pasted);
         const std::vector<std::string> events = sink_.taken();
         EXPECT_EQ(events.empty() ? "" : events.front(), c.event) << c.column << " " << c.row;
     }
@@ -188,7 +188,7 @@ TEST_F(SwatchGridTest, PasteIsCutAtTheEdgesAndNamesTheChangedCells) {
               QStringLiteral("#000000\t#010000\t#020000\n#040000\t#050000\t#060000\n"));
     create("SwatchGrid");
     layOut(2, 2, 3);
-    EXPECT_EQ(number(call(17, {shortValue(0), shortValue(0)})), 1);
+    EXPECT_EQ(number(callShort(17, {0, 0})), 1);
     EXPECT_THAT(sink_.taken(), ElementsAre("2(2,2)"));
     EXPECT_EQ(value(2), 4);
 }
@@ -225,12 +225,12 @@ TEST_F(SwatchGridTest, TheCurrentCellAndTheBankStandOutOnAnyColour) {
     for (const std::uint32_t colour : {0x000000U, 0xffffffU, 0x808080U, 0xff0000U}) {
         for (int cell = 0; cell < 256; ++cell)
             call(7, {shortValue(cell), longValue(static_cast<int>(colour))});
-        call(11, {shortValue(0), shortValue(-1)});
+        callShort(11, {0, -1});
         set(2, false);
         const QImage plain = widget().grab().toImage();
         set(2, true);
         EXPECT_EQ(widget().grab().toImage(), plain);
-        call(11, {shortValue(0), shortValue(85)});
+        callShort(11, {0, 85});
         const QImage banked = widget().grab().toImage();
         EXPECT_NE(banked, plain);
         // Frames stay clear of the colour in the middle of the cells.
@@ -251,7 +251,7 @@ TEST_F(SwatchGridTest, TheCurrentCellAndTheBankStandOutOnAnyColour) {
 TEST_F(SwatchGridTest, TipsAndReadersGetTheTextOfTheHostOrTheValue) {
     layOut(4, 4, 16);
     call(7, {shortValue(6), longValue(0x7fabcdef)});
-    call(11, {shortValue(0), shortValue(6)});
+    callShort(11, {0, 6});
     QAccessibleInterface* const table = QAccessible::queryAccessibleInterface(&widget());
     ASSERT_NE(table, nullptr);
     EXPECT_EQ(table->role(), QAccessible::Table);
@@ -272,7 +272,7 @@ TEST_F(SwatchGridTest, TipsAndReadersGetTheTextOfTheHostOrTheValue) {
     QApplication::sendEvent(&widget(), &help);
     EXPECT_EQ(QToolTip::text(), QStringLiteral("Sky"));
     // A cell that goes takes what was known of it along.
-    call(5, {shortValue(2)});
+    callShort(5, {2});
     EXPECT_EQ(table->tableInterface()->cellAt(1, 2), nullptr);
     EXPECT_EQ(table->childCount(), 2);
 }
@@ -286,7 +286,7 @@ TEST_F(SwatchGridTest, CellsStaySquareAndFillTheWindow) {
         EXPECT_EQ(cellAt({size.width() - 1, size.height() - 1}), -1);
         EXPECT_LE(widget().heightForWidth(size.width()), size.width() + 1);
     }
-    call(4, {shortValue(0), shortValue(0), shortValue(0)});
+    callShort(4, {0, 0, 0});
     EXPECT_EQ(cellAt({10, 10}), -1);
     press(Qt::Key_Right);
     EXPECT_FALSE(widget().grab().isNull());

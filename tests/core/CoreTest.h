@@ -8,34 +8,31 @@
 #include <initializer_list>
 #include <string>
 
-namespace dyeworks::test {
+namespace dyeworks {
 
-/// Big-endian bytes of 32-bit numbers.
-inline std::string be32(std::initializer_list<std::uint32_t> values) {
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// The 64 bytes that a palette or image file begins with: big-endian 32-bit numbers, then zeroes.
+inline std::string header(std::initializer_list<std::uint32_t> numbers) {
     std::string bytes;
-    for (const std::uint32_t value : values)
+    for (const std::uint32_t number : numbers)
         for (int shift = 24; shift >= 0; shift -= 8)
-            bytes.push_back(static_cast<char>(value >> shift & 0xFFU));
+            bytes.push_back(static_cast<char>(number >> shift & 0xFFU));
+    bytes.resize(64);
     return bytes;
 }
 
-inline bool operator==(const Message& a, const Message& b) {
-    return a.text == b.text && a.caption == b.caption && a.buttons == b.buttons && a.icon == b.icon &&
-           a.owner == b.owner;
-}
-
 /// The box of a file reader.
-inline Message report(const std::string& caption, const std::string& text) {
-    return {text, caption, MessageButtons::Ok, MessageIcon::Stop, MessageOwner::None};
+MATCHER_P2(Reports, caption, text, "") {
+    return arg.caption == caption && arg.text == text && arg.buttons == MessageButtons::Ok &&
+           arg.icon == MessageIcon::Stop && arg.owner == MessageOwner::None;
 }
 
 /// A question of the application itself.
-inline Message question(const std::string& text, MessageButtons buttons) {
-    return {text, "Orrery Dyeworks", buttons, MessageIcon::Question, MessageOwner::MainWindow};
+MATCHER_P2(Asks, text, buttons, "") {
+    return arg.caption == "Orrery Dyeworks" && arg.text == text && arg.buttons == buttons &&
+           arg.icon == MessageIcon::Question && arg.owner == MessageOwner::MainWindow;
 }
 
-MATCHER_P(Shows, message, message.text) {
-    return arg == message;
-}
-
-} // namespace dyeworks::test
+} // namespace dyeworks

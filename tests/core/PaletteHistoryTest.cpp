@@ -1,31 +1,21 @@
 #include "CoreTest.h"
 #include "core/TextureLookupTable.h"
 
+#include <functional>
+#include <map>
 #include <new>
+#include <sstream>
 
-using namespace dyeworks;
-using namespace dyeworks::test;
-using testing::ElementsAre;
-
+namespace dyeworks {
 namespace {
 
-const std::string kPath = "c:\\sky.tlf";
+constexpr const char* kPath = "c:\\sky.tlf";
 
 class PaletteHistory : public testing::Test {
 protected:
     PaletteHistory() {
         EXPECT_TRUE(palette.create(16, ColourType::Rgba));
-        EXPECT_TRUE(palette.save(kPath.c_str(), false));
-    }
-
-    void edit(std::uint16_t entry) {
-        EXPECT_TRUE(palette.beginEdit());
-        EXPECT_TRUE(palette.setEntry(0, entry));
-        EXPECT_TRUE(palette.commitEdit());
-    }
-    void editAndSave(std::uint16_t entry) {
-        edit(entry);
-        EXPECT_TRUE(palette.save(nullptr, false));
+        EXPECT_TRUE(palette.save(kPath, false));
     }
 
     /// Whether closing the palette would ask; the question is answered with Cancel.
@@ -35,7 +25,47 @@ protected:
         EXPECT_EQ(mayClose, fake.messages.shown.empty());
         return !mayClose;
     }
-    bool asks() { return asks(palette); }
+    /// The same for a copy, which has a history of its own.
+    bool copyAsks() {
+        TextureLookupTable copy(palette);
+        EXPECT_EQ(copy.modified, palette.modified);
+        EXPECT_FALSE(copy.canRedo());
+        return asks(copy);
+    }
+
+    /// Goes through the words of a script, each of which must hold. A number is an edit of the first entry.
+    void run(const std::string& script) {
+        const std::map<std::string, std::function<bool()>> words{
+            {"begin", [&] { return palette.beginEdit(); }},
+            {"set-9", [&] { return palette.setEntry(0, 9); }},
+            {"commit", [&] { return palette.commitEdit(); }},
+            {"save", [&] { return palette.save(nullptr, false); }},
+            {"cannot-save",
+             [&] { return fake.files.failNextWrite(FileError::NoSpace), !palette.save(nullptr, false); }},
+            {"answer-yes", [&] { return fake.messages.answerWith(MessageAnswer::Yes), palette.querySave(); }},
+            {"open", [&] { return palette.open(kPath); }},
+            {"undo", [&] { return palette.undo(); }},
+            {"redo", [&] { return palette.redo(); }},
+            {"reset", [&] { return palette.resetHistory(), true; }},
+            {"unmark", [&] { return palette.modified = false, true; }},
+            {"unmodified", [&] { return !palette.modified; }},
+            {"asks", [&] { return asks(palette); }},
+            {"silent", [&] { return !asks(palette); }},
+            {"copy-asks", [&] { return copyAsks(); }},
+            {"copy-silent", [&] { return !copyAsks(); }},
+        };
+        SCOPED_TRACE(script);
+        std::istringstream in(script);
+        for (std::string word; in >> word;) {
+            if (words.contains(word))
+                ASSERT_TRUE(words.at(word)()) << word << ", before byte " << in.tellg();
+            else
+                edit(static_cast<std::uint16_t>(std::stoi(word)));
+        }
+    }
+    void edit(std::uint16_t entry) {
+        EXPECT_TRUE(palette.beginEdit() && palette.setEntry(0, entry) && palette.commitEdit());
+    }
 
     void expect(bool modified, const std::string& title, std::uint16_t entry) {
         EXPECT_EQ(palette.modified, modified);
@@ -46,132 +76,79 @@ protected:
     FakePlatform fake;
     TextureLookupTable palette;
 };
-using PaletteSavedPosition = PaletteHistory;
-
-} // namespace
 
 TEST_F(PaletteHistory, TitleMarkFollowsUndoAndRedoButNotTheEditItself) {
     EXPECT_FALSE(palette.undo());
     expect(false, "sky", 0);
-    edit(1);
-    edit(2);
+    run("1 2");
     expect(true, "sky", 2);
-    EXPECT_TRUE(palette.undo());
+    run("undo");
     expect(true, "sky", 1);
-    EXPECT_TRUE(palette.undo());
+    run("undo");
     expect(false, "sky", 0);
-    EXPECT_TRUE(palette.redo());
+    run("redo");
     expect(true, "sky * ", 1);
-    EXPECT_TRUE(palette.redo());
+    run("redo");
     EXPECT_FALSE(palette.redo());
     expect(true, "sky * ", 2);
-    ASSERT_TRUE(palette.save(nullptr, false));
+    run("save");
     expect(false, "sky", 2);
     palette.title = "a * b * ";
-    EXPECT_TRUE(palette.undo());
+    run("undo");
     expect(true, "a * ", 1);
 }
 
 TEST_F(PaletteHistory, RecordWithoutMemoryKeepsTheEditAndAsksAboutTheOthers) {
     using Record = std::unique_ptr<UndoRecord>;
+    const std::pair<TextureLookupTable::RecordFactory, MessageAnswer> cases[] = {
+        {[](const TlutData*, const TlutData*) { return Record(); }, MessageAnswer::No},
+        {[](const TlutData*, const TlutData*) -> Record { throw std::bad_alloc(); }, MessageAnswer::Yes}};
     edit(1);
-    for (const MessageAnswer answer : {MessageAnswer::No, MessageAnswer::Yes}) {
+    for (const auto& [factory, answer] : cases) {
         fake.messages.shown.clear();
-        if (answer == MessageAnswer::No)
-            palette.setRecordFactory([](const TlutData*, const TlutData*) { return Record(); });
-        else
-            palette.setRecordFactory(
-                [](const TlutData*, const TlutData*) -> Record { throw std::bad_alloc(); });
-        ASSERT_TRUE(palette.beginEdit());
-        palette.setEntry(0, 2);
         fake.messages.answerWith(answer);
+        palette.setRecordFactory(factory);
+        run("begin set-9");
         EXPECT_FALSE(palette.commitEdit());
-        EXPECT_THAT(fake.messages.shown,
-                    ElementsAre(Shows(question("Could not allocate buffer for UNDO information.\n"
-                                               "Do you clear all UNDO buffer?",
-                                               MessageButtons::YesNo))));
-        EXPECT_EQ(palette.table.getEntry(0), 2);
+        EXPECT_THAT(fake.messages.shown, ElementsAre(Asks("Could not allocate buffer for UNDO information.\n"
+                                                          "Do you clear all UNDO buffer?",
+                                                          MessageButtons::YesNo)));
+        EXPECT_EQ(palette.table.getEntry(0), 9);
         EXPECT_EQ(palette.canUndo(), answer == MessageAnswer::No);
     }
     palette.updateTitle();
-    EXPECT_FALSE(palette.modified);
-    EXPECT_TRUE(asks()) << "the file does not hold the edit, whatever the fresh history says";
+    run("unmodified asks"); // The file does not hold the edit, whatever the fresh history says.
 }
 
-TEST_F(PaletteSavedPosition, UndoBehindTheLastSaveAsksAndRedoToItDoesNot) {
-    editAndSave(1);
-    EXPECT_FALSE(asks());
-    ASSERT_TRUE(palette.undo());
-    EXPECT_FALSE(palette.modified);
-    EXPECT_TRUE(asks());
-    ASSERT_TRUE(palette.redo());
-    palette.modified = false;
-    EXPECT_FALSE(asks());
-    ASSERT_TRUE(palette.undo());
-    fake.messages.answerWith(MessageAnswer::Yes);
-    EXPECT_TRUE(palette.querySave());
-    EXPECT_FALSE(asks());
+TEST_F(PaletteHistory, AsksWheneverTheTableMayNotBeWhatTheFileHolds) {
+    run("1 save silent undo unmodified asks redo unmark silent undo answer-yes silent");
 }
 
-TEST_F(PaletteSavedPosition, IsLostWithTheBranchItStoodOn) {
-    editAndSave(1);
-    ASSERT_TRUE(palette.undo());
-    edit(2);
-    palette.modified = false;
-    EXPECT_TRUE(asks());
-    ASSERT_TRUE(palette.undo());
-    EXPECT_TRUE(asks());
+TEST_F(PaletteHistory, LosesTheSavedPositionWithTheBranchItStoodOn) {
+    run("1 save undo 2 unmark asks undo asks");
 }
 
-TEST_F(PaletteSavedPosition, IsLostWhenTheHistoryForgetsItsStart) {
+TEST_F(PaletteHistory, LosesTheSavedPositionWhenItForgetsItsStart) {
     for (std::uint16_t i = 1; i <= 101; ++i)
         edit(i);
     while (palette.undo()) {
     }
     expect(false, "sky", 1);
-    EXPECT_TRUE(asks());
-    ASSERT_TRUE(palette.save(nullptr, false) && palette.redo() && palette.undo());
-    EXPECT_FALSE(asks()) << "back at the edit that was dropped and then saved";
+    run("asks save redo undo silent"); // Back at the edit that was dropped and then saved.
 }
 
-TEST_F(PaletteSavedPosition, CarriesOverToAFreshHistoryOnlyFromWhereItStood) {
-    editAndSave(1);
-    TextureLookupTable saved(palette);
-    EXPECT_FALSE(asks(saved));
-    palette.resetHistory();
-    edit(2);
-    ASSERT_TRUE(palette.undo());
-    EXPECT_FALSE(asks());
-
-    editAndSave(3);
-    ASSERT_TRUE(palette.undo());
-    TextureLookupTable unsaved(palette);
-    EXPECT_FALSE(unsaved.modified || unsaved.canRedo());
-    EXPECT_TRUE(asks(unsaved));
-    palette.resetHistory();
-    EXPECT_FALSE(palette.modified);
-    EXPECT_TRUE(asks());
+TEST_F(PaletteHistory, HandsTheSavedPositionToAFreshOneOnlyFromWhereItStood) {
+    run("1 save copy-silent reset 2 undo silent 3 save undo unmodified copy-asks reset unmodified asks");
 }
 
-TEST_F(PaletteSavedPosition, SurvivesAFailedSave) {
-    edit(1);
-    fake.files.failNextWrite(FileError::NoSpace);
-    EXPECT_FALSE(palette.save(nullptr, false));
-    EXPECT_TRUE(asks());
-    ASSERT_TRUE(palette.undo());
-    EXPECT_FALSE(asks());
+TEST_F(PaletteHistory, KeepsTheSavedPositionOverAFailedSave) {
+    run("1 cannot-save asks undo silent");
 }
 
-TEST_F(PaletteSavedPosition, IsNoProofWhenTheTableIsNotWhatTheFileHolds) {
-    editAndSave(1);
-    ASSERT_TRUE(palette.undo() && palette.open(kPath.c_str()));
-    EXPECT_FALSE(asks()) << "the file was read again over the history";
-    ASSERT_TRUE(palette.redo() && palette.undo());
-    EXPECT_FALSE(palette.modified);
-    EXPECT_TRUE(asks()) << "the history led back to the table before that";
-
-    ASSERT_TRUE(palette.beginEdit() && palette.setEntry(0, 9) && palette.save(nullptr, false));
-    ASSERT_TRUE(palette.commitEdit() && palette.undo());
-    palette.modified = false;
-    EXPECT_TRUE(asks()) << "saved in the middle of an edit that was then undone";
+TEST_F(PaletteHistory, IsNoProofOfWhatTheFileHoldsAfterReadingItAgainOrSavingAmidAnEdit) {
+    run("1 save undo open silent redo undo unmodified asks");
+    run("begin set-9 save commit undo unmark asks");
 }
+
+} // namespace
+} // namespace dyeworks

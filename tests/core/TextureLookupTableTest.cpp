@@ -3,11 +3,7 @@
 #include "CoreTest.h"
 #include "core/PaletteSet.h"
 
-using namespace dyeworks;
-using namespace dyeworks::test;
-using testing::ElementsAre;
-using testing::IsEmpty;
-
+namespace dyeworks {
 namespace {
 
 const std::string kPath = "c:\\tex\\sky.tlf";
@@ -25,15 +21,13 @@ using PaletteNames = Palette;
 using PaletteFile = Palette;
 using PaletteColours = Palette;
 
-} // namespace
-
 TEST_F(PaletteNames, CountOnlyThePalettesThatWereCreated) {
     EXPECT_EQ(palette.path, "*" + palette.title);
     TextureLookupTable failing, next;
     EXPECT_FALSE(failing.create(-5, ColourType::Ia));
     EXPECT_EQ(failing.title, "palette" + std::to_string(std::stoi(palette.title.substr(7)) + 1));
     EXPECT_THAT(fake.messages.shown,
-                ElementsAre(Shows(report("[TLF]", "TextureLookupTable::create(-5, 1) ... failed.\n"))));
+                ElementsAre(Reports("[TLF]", "TextureLookupTable::create(-5, 1) ... failed.\n")));
     EXPECT_TRUE(next.create(0, ColourType::Rgba));
     EXPECT_EQ(next.path, failing.path);
 }
@@ -131,8 +125,8 @@ TEST_F(PaletteFile, QuestionBeforeClosingHasThreeAnswers) {
     palette.setRed(0, 9);
     fake.messages.answerWith({MessageAnswer::Cancel, MessageAnswer::No, MessageAnswer::Yes});
     EXPECT_FALSE(palette.querySave());
-    EXPECT_THAT(fake.messages.shown, ElementsAre(Shows(question("\"sky\" (TLF) is modified. save now?",
-                                                                MessageButtons::YesNoCancel))));
+    EXPECT_THAT(fake.messages.shown,
+                ElementsAre(Asks("\"sky\" (TLF) is modified. save now?", MessageButtons::YesNoCancel)));
     EXPECT_TRUE(palette.querySave());
     fake.files.failNextWrite(FileError::Other);
     EXPECT_FALSE(palette.querySave()) << "the save failed";
@@ -184,5 +178,8 @@ TEST_F(PaletteColours, MakeADisplayPaletteOrAReport) {
     display.release();
     EXPECT_FALSE(palette.createPalette(display));
     EXPECT_THAT(fake.messages.shown,
-                ElementsAre(Shows(report("[TLF]", "TextureLookupTable::newLogPalette() ... !!!Error!!!\n"))));
+                ElementsAre(Reports("[TLF]", "TextureLookupTable::newLogPalette() ... !!!Error!!!\n")));
 }
+
+} // namespace
+} // namespace dyeworks

@@ -3,22 +3,14 @@
 
 #include <vector>
 
-using namespace dyeworks;
-using namespace dyeworks::test;
-using namespace std::string_literals;
-using testing::ElementsAre;
-using testing::IsEmpty;
-
+namespace dyeworks {
 namespace {
+
+using namespace std::string_literals;
 
 constexpr std::uint32_t kTag4 = 0x00120200;
 constexpr std::uint32_t kTag8 = 0x00120300;
 const std::string kPath = "c:\\sky.tmf";
-
-std::string file(std::uint32_t tag, std::uint32_t width, std::uint32_t height, std::uint32_t bits,
-                 const std::string& body = "") {
-    return be32({tag, width, height, bits}) + std::string(48, '\0') + body;
-}
 
 /// An image whose texels are 1, 2, 3 … row by row from the top.
 TmfImage counted(std::int32_t width, std::int32_t height, std::int32_t bits) {
@@ -35,18 +27,16 @@ struct TmfFile : testing::Test {
 using TmfReader = TmfFile;
 using TmfWriter = TmfFile;
 
-} // namespace
-
 TEST_F(TmfWriter, PacksRowsFromTheBottomUpAndPadsTheBody) {
     const struct {
         std::int32_t width, height, bits;
         std::string file;
     } cases[] = {
-        {3, 2, 4, file(kTag4, 3, 2, 4, "\x45\x60\x12\x30")},
-        {3, 1, 4, file(kTag4, 3, 1, 4, "\x12\x30\0\0"s)},
-        {5, 1, 8, file(kTag8, 5, 1, 8, "\1\2\3\4\5\0\0\0"s)},
-        {4, 2, 8, file(kTag8, 4, 2, 8, "\5\6\7\x08\1\2\3\4")},
-        {0, 3, 8, file(kTag8, 0, 3, 8)},
+        {3, 2, 4, header({kTag4, 3, 2, 4}) + "\x45\x60\x12\x30"},
+        {3, 1, 4, header({kTag4, 3, 1, 4}) + "\x12\x30\0\0"s},
+        {5, 1, 8, header({kTag8, 5, 1, 8}) + "\1\2\3\4\5\0\0\0"s},
+        {4, 2, 8, header({kTag8, 4, 2, 8}) + "\5\6\7\x08\1\2\3\4"},
+        {0, 3, 8, header({kTag8, 0, 3, 8})},
     };
     for (const auto& c : cases) {
         ASSERT_TRUE(counted(c.width, c.height, c.bits).saveTmf(kPath));
@@ -56,7 +46,7 @@ TEST_F(TmfWriter, PacksRowsFromTheBottomUpAndPadsTheBody) {
     TmfImage image = counted(3, 2, 4);
     std::fill_n(image.texels, image.blockSize(), std::uint8_t{0xFF});
     ASSERT_TRUE(image.saveTmf(kPath));
-    EXPECT_EQ(fake.files.textOf(kPath), file(kTag4, 3, 2, 4, "\xFF\xF0\xFF\xF0"));
+    EXPECT_EQ(fake.files.textOf(kPath), header({kTag4, 3, 2, 4}) + "\xFF\xF0\xFF\xF0");
 }
 
 TEST_F(TmfWriter, FailsWithoutAWordAndLeavesTheFileAlone) {
@@ -78,17 +68,17 @@ TEST_F(TmfReader, TellsPackedRowsFromPaddedOnesByTheSizeOfTheBody) {
         std::string file;
         std::vector<std::uint32_t> texels; // Row by row from the top.
     } cases[] = {
-        {"packed", file(kTag8, 5, 2, 8, "\6\7\x08\x09\x0A\1\2\3\4\5\0\0"s), ten},
-        {"padded", file(kTag8, 5, 2, 8, "\6\7\x08\x09\x0A***\1\2\3\4\5***"), ten},
+        {"packed", header({kTag8, 5, 2, 8}) + "\6\7\x08\x09\x0A\1\2\3\4\5\0\0"s, ten},
+        {"padded", header({kTag8, 5, 2, 8}) + "\6\7\x08\x09\x0A***\1\2\3\4\5***", ten},
         {"less than packed",
-         file(kTag8, 5, 2, 8, "\6\7\x08\x09\x0A***\1\2\3"),
+         header({kTag8, 5, 2, 8}) + "\6\7\x08\x09\x0A***\1\2\3",
          {1, 2, 3, 0, 0, 6, 7, 8, 9, 10}},
-        {"more than packed", file(kTag8, 5, 2, 8, "\6\7\x08\x09\x0A***\1\2\3\4\5"), ten},
-        {"excess", file(kTag8, 1, 1, 8, "\7*****"), {7}},
-        {"no body", file(kTag8, 2, 2, 8), {0, 0, 0, 0}},
-        {"4 bits packed", file(kTag4, 3, 2, 4, "\x45\x6F\x12\x3F"), six},
-        {"4 bits padded", file(kTag4, 3, 2, 4, "\x45\x6F**\x12\x3F**"), six},
-        {"both forms alike", file(kTag4, 8, 1, 4, "\x12\x34\x56\x78"), {1, 2, 3, 4, 5, 6, 7, 8}},
+        {"more than packed", header({kTag8, 5, 2, 8}) + "\6\7\x08\x09\x0A***\1\2\3\4\5", ten},
+        {"excess", header({kTag8, 1, 1, 8}) + "\7*****", {7}},
+        {"no body", header({kTag8, 2, 2, 8}), {0, 0, 0, 0}},
+        {"4 bits packed", header({kTag4, 3, 2, 4}) + "\x45\x6F\x12\x3F", six},
+        {"4 bits padded", header({kTag4, 3, 2, 4}) + "\x45\x6F**\x12\x3F**", six},
+        {"both forms alike", header({kTag4, 8, 1, 4}) + "\x12\x34\x56\x78", {1, 2, 3, 4, 5, 6, 7, 8}},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
@@ -108,21 +98,21 @@ TEST_F(TmfReader, RefusalsSayWhyAndClearTheRecord) {
     const std::string noMemory = "not enough memory for create TMF.\n";
     const std::pair<std::string, std::string> cases[] = {
         {"", tooShort},
-        {file(kTag8, 1, 1, 8).substr(1), tooShort},
-        {file(kTag8, 1, 1, 4), "improper tag=0x120300, bits=4\n"},
-        {file(kTag4, 1, 1, 8), "improper tag=0x120200, bits=8\n"},
-        {file(0xFEDCBA98, 1, 1, 0xFFFFFFFC), "improper tag=0xfedcba98, bits=-4\n"},
-        {file(kTag8, 70000, 1, 8), noMemory},
-        {file(kTag8, 0xFFFFFFFF, 1, 8), noMemory},
-        {file(kTag4, 1, 65537, 4), noMemory},
-        {file(kTag8, 65536, 65536, 8), noMemory},
+        {header({kTag8, 1, 1, 8}).substr(1), tooShort},
+        {header({kTag8, 1, 1, 4}), "improper tag=0x120300, bits=4\n"},
+        {header({kTag4, 1, 1, 8}), "improper tag=0x120200, bits=8\n"},
+        {header({0xFEDCBA98, 1, 1, 0xFFFFFFFC}), "improper tag=0xfedcba98, bits=-4\n"},
+        {header({kTag8, 70000, 1, 8}), noMemory},
+        {header({kTag8, 0xFFFFFFFF, 1, 8}), noMemory},
+        {header({kTag4, 1, 65537, 4}), noMemory},
+        {header({kTag8, 65536, 65536, 8}), noMemory},
     };
     for (const auto& [bytes, text] : cases) {
         fake.messages.shown.clear();
         fake.files.putFile(kPath, bytes);
         TmfImage image = counted(2, 2, 8);
         EXPECT_FALSE(image.readTmf(kPath));
-        EXPECT_THAT(fake.messages.shown, ElementsAre(Shows(report("[TMF]", text))));
+        EXPECT_THAT(fake.messages.shown, ElementsAre(Reports("[TMF]", text)));
         EXPECT_EQ(image.texels, nullptr);
         EXPECT_EQ(image.width + image.height + image.bits, 0);
     }
@@ -130,3 +120,6 @@ TEST_F(TmfReader, RefusalsSayWhyAndClearTheRecord) {
     EXPECT_FALSE(counted(2, 2, 8).readTmf("c:\\none.tmf"));
     EXPECT_EQ(fake.messages.lastText(), "[" + fake.files.hostPath("c:\\none.tmf") + "] file open failed.\n");
 }
+
+} // namespace
+} // namespace dyeworks

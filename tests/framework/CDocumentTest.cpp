@@ -1,32 +1,36 @@
 #include "TestDocument.h"
 #include "framework/CommandRouter.h"
-#include "platform/fake/FakePlatform.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 using namespace dyeworks;
 using testing::ElementsAre;
 
-TEST(CDocument, SaveQuestionDecidesWhetherTheCallerGoesOn) {
-    struct Case {
+namespace {
+
+struct CDocumentFile : testing::Test {
+    FakePlatform fake;
+    TestDocument document;
+    CDocumentFile() { document.setPathName("c:\\tex\\sky.tmf"); }
+};
+
+} // namespace
+
+TEST_F(CDocumentFile, SaveQuestionDecidesWhetherTheCallerGoesOn) {
+    const struct {
         MessageAnswer answer;
-        bool saveSucceeds;
-        bool goesOn;
-        std::size_t saves;
-        bool stillModified;
-    };
-    for (const Case& c :
-         {Case{MessageAnswer::Yes, true, true, 1, false}, Case{MessageAnswer::Yes, false, false, 1, true},
-          Case{MessageAnswer::No, true, true, 0, true}, Case{MessageAnswer::Cancel, true, false, 0, true}}) {
-        FakePlatform fake;
-        TestDocument document;
-        document.setPathName("c:\\tex\\sky.tmf");
+        bool saveSucceeds, goesOn, saved, stillModified;
+    } cases[] = {{MessageAnswer::Yes, true, true, true, false},
+                 {MessageAnswer::Yes, false, false, true, true},
+                 {MessageAnswer::No, true, true, false, true},
+                 {MessageAnswer::Cancel, true, false, false, true}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        fake.messages.shown.clear();
+        document.saves.clear();
         document.setModified(true);
         document.saveSucceeds = c.saveSucceeds;
         fake.messages.answerWith(c.answer);
         EXPECT_EQ(document.saveModified(), c.goesOn);
-        EXPECT_EQ(document.saves.size(), c.saves);
+        EXPECT_EQ(document.saves.size(), c.saved ? 1U : 0U);
         EXPECT_EQ(document.isModified(), c.stillModified);
         ASSERT_EQ(fake.messages.shown.size(), 1U);
         EXPECT_EQ(fake.messages.lastText(), "Save changes to c:\\tex\\sky.tmf?");
@@ -34,10 +38,7 @@ TEST(CDocument, SaveQuestionDecidesWhetherTheCallerGoesOn) {
     }
 }
 
-TEST(CDocument, SaveTakesMarksOutOfTheTitleAndAFailedOneLeavesIt) {
-    const FakePlatform fake;
-    TestDocument document;
-    document.setPathName("c:\\tex\\sky.tmf");
+TEST_F(CDocumentFile, SaveTakesMarksOutOfTheTitleAndAFailedOneLeavesIt) {
     document.setTitle("sky.tmf [dawn] * ");
     document.saveSucceeds = false;
     EXPECT_FALSE(document.save());
@@ -51,17 +52,16 @@ TEST(CDocument, SaveCommandUsesThePathAndSaveAsAlwaysAsks) {
     const FakePlatform fake;
     TestDocument document;
     CommandRouter router([&] { return std::vector<CommandTarget*>{&document}; });
-    router.run(ID_FILE_SAVE); // Without a path it has to ask as well.
-    router.run(ID_FILE_SAVE);
-    router.run(ID_FILE_SAVE_AS);
-    EXPECT_THAT(document.saves, ElementsAre("", "c:\\tex\\chosen.tmf", ""));
+    for (const CommandId id : {ID_FILE_SAVE, ID_FILE_SAVE, ID_FILE_SAVE_AS})
+        router.run(id);
+    EXPECT_THAT(document.saves, ElementsAre("", "c:\\tex\\chosen.tmf", ""))
+        << "without a path it asks as well";
     EXPECT_EQ(document.title(), "chosen.tmf");
 }
 
 TEST(CDocument, TellsAllViewsButTheSenderOfAChange) {
     TestDocument document;
-    TestView sender;
-    TestView other;
+    TestView sender, other;
     document.addView(sender);
     document.addView(other);
     document.updateAllViews(&sender, 7);

@@ -11,27 +11,21 @@
 
 using namespace dyeworks;
 
-TEST(CommandTable, EveryCommandHasTextsForMenuStatusLineAndToolTip) {
+TEST(CommandTable, EveryRowHasItsTextsAndReachesToItsLastNumber) {
     const FakePlatform fake;
-    for (const CommandRow& row : commandTable()) {
-        EXPECT_FALSE(menuText(row).empty()) << row.id;
-        EXPECT_FALSE(statusText(row).empty()) << row.id;
-        EXPECT_FALSE(toolTipText(row).empty()) << row.id;
-        EXPECT_EQ(toolTipText(row).find('\n'), std::string::npos) << row.id;
-        EXPECT_EQ(findCommand(row.id), &row);
-    }
-    EXPECT_EQ(findCommand(ID_ZOOM_X4 + 1), nullptr);
-}
-
-TEST(CommandTable, ListsReachToTheirLastNumberAndIntoNoOtherRow) {
     CommandId previous = 0;
     for (const CommandRow& row : commandTable()) {
+        SCOPED_TRACE(row.id);
+        EXPECT_FALSE(menuText(row).empty() || statusText(row).empty() || toolTipText(row).empty());
+        EXPECT_EQ(toolTipText(row).find('\n'), std::string::npos);
         EXPECT_GT(row.id, previous);
         previous = std::max(row.id, row.last);
-        EXPECT_EQ(findCommand(previous), &row) << previous;
-        EXPECT_NE(findCommand(previous + 1), &row) << previous;
+        EXPECT_EQ(findCommand(row.id), &row);
+        EXPECT_EQ(findCommand(previous), &row);
+        EXPECT_NE(findCommand(previous + 1), &row);
     }
     EXPECT_EQ(findCommand(ID_RECENT_IMAGE_FIRST + 7), findCommand(ID_RECENT_IMAGE_LAST));
+    EXPECT_EQ(findCommand(ID_ZOOM_X4 + 1), nullptr);
 }
 
 TEST(CommandTable, NoShortcutStandsForTwoCommands) {

@@ -1,8 +1,4 @@
 #include "TestDocument.h"
-#include "platform/fake/FakePlatform.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 using namespace dyeworks;
 using testing::ElementsAre;

@@ -4,7 +4,6 @@
 #include "platform/fake/FakePlatform.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 using namespace dyeworks;
 using testing::ElementsAre;
@@ -48,18 +47,15 @@ TEST(RecentFileList, LabelsAreRelativeToTheCurrentDirectory) {
 }
 
 TEST(PathText, CutsFoldersFromTheMiddleAndThenTheNameItself) {
-    struct Case {
-        const char* path;
-        const char* expected;
+    const std::pair<const char*, const char*> cases[] = {
+        {"\\home\\kei\\textures\\sky1234.tmf", "\\home\\kei\\textures\\sky1234.tmf"}, // Just 30.
+        {"\\home\\kei\\textures\\sky12345.tmf", "\\home\\...\\sky12345.tmf"},
+        {"c:\\home\\kei\\textures\\big\\sky12.tmf", "c:\\home\\...\\big\\sky12.tmf"},
+        {"\\home\\kei\\a-sky-with-many-clouds.tmf", "a-sky-with-many-clouds.tmf"},
+        {"\\home\\a-name-that-is-too-long-itself.tmf", "a-name-that-i...ong-itself.tmf"},
+        {"\\空\\森\\山\\川\\海\\島\\雲\\星\\月\\日\\風\\花\\鳥\\夢\\色.tmf",
+         "\\空\\...\\島\\雲\\星\\月\\日\\風\\花\\鳥\\夢\\色.tmf"},
     };
-    for (const Case& c : {
-             Case{"\\home\\kei\\textures\\sky1234.tmf", "\\home\\kei\\textures\\sky1234.tmf"}, // Just 30.
-             Case{"\\home\\kei\\textures\\sky12345.tmf", "\\home\\...\\sky12345.tmf"},
-             Case{"c:\\home\\kei\\textures\\big\\sky12.tmf", "c:\\home\\...\\big\\sky12.tmf"},
-             Case{"\\home\\kei\\a-sky-with-many-clouds.tmf", "a-sky-with-many-clouds.tmf"},
-             Case{"\\home\\a-name-that-is-too-long-itself.tmf", "a-name-that-i...ong-itself.tmf"},
-             Case{"\\空\\森\\山\\川\\海\\島\\雲\\星\\月\\日\\風\\花\\鳥\\夢\\色.tmf",
-                  "\\空\\...\\島\\雲\\星\\月\\日\\風\\花\\鳥\\夢\\色.tmf"},
-         })
-        EXPECT_EQ(abbreviatedPath(c.path, 30), c.expected);
+    for (const auto& [path, expected] : cases)
+        EXPECT_EQ(abbreviatedPath(path, 30), expected);
 }

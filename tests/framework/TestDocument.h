@@ -2,6 +2,9 @@
 
 #include "framework/CDocument.h"
 #include "framework/DocumentTemplate.h"
+#include "platform/fake/FakePlatform.h"
+
+#include <gmock/gmock.h>
 
 #include <string>
 #include <vector>

@@ -23,8 +23,13 @@ public:
         on(ID_ZOOM_X2, &Viewer::OnZoom, &Viewer::OnUpdateZoom);
         on(ID_EDIT_UNDO, &Viewer::OnUndo, &Viewer::OnUpdateUndo);
     }
+    void takeList() {
+        onRange(ID_RECENT_IMAGE_FIRST, ID_RECENT_IMAGE_LAST, &Viewer::OnOpen, &Viewer::OnUpdateOpen);
+    }
     int zooms = 0;
     bool canUndo = false;
+    std::vector<std::string> names{"&1 sea", "&2 sky"};
+    CommandId opened = 0;
 
 private:
     void OnZoom() { ++zooms; }
@@ -35,16 +40,6 @@ private:
         if (canUndo)
             ui.text = "&Undo Line";
     }
-};
-
-/// Two of the commands of a list have something to say.
-class Lister : public CommandTarget {
-public:
-    Lister() { onRange(ID_RECENT_IMAGE_FIRST, ID_RECENT_IMAGE_LAST, &Lister::OnOpen, &Lister::OnUpdateOpen); }
-    std::vector<std::string> names{"&1 sea", "&2 sky"};
-    CommandId opened = 0;
-
-private:
     void OnOpen(CommandId id) { opened = id; }
     void OnUpdateOpen(CommandUi& ui) {
         const std::size_t index = ui.id - ID_RECENT_IMAGE_FIRST;
@@ -57,9 +52,7 @@ private:
 struct Actions : testing::Test {
     FakePlatform fake;
     Viewer viewer;
-    Lister lister;
-    std::vector<CommandTarget*> chain{&viewer};
-    CommandRouter router{[this] { return chain; }};
+    CommandRouter router{[this] { return std::vector<CommandTarget*>{&viewer}; }};
     CommandActions actions{router};
 };
 
@@ -114,15 +107,15 @@ TEST_F(Actions, MenuShowsTheEntriesOfAListAndCannotOpenAnEmptyOne) {
     Q_EMIT menu.aboutToShow();
     const QStringList placeholder{QString::fromStdString(menuText(*findCommand(ID_RECENT_IMAGE_FIRST)))};
     EXPECT_EQ(shownIn(list), placeholder) << "nobody takes them";
-    chain.push_back(&lister);
+    viewer.takeList();
     Q_EMIT menu.aboutToShow();
     const QStringList entries{QStringLiteral("&1 sea"), QStringLiteral("&2 sky")};
     EXPECT_EQ(shownIn(list), entries);
     EXPECT_TRUE(opener.isEnabled());
     list.actions()[1]->trigger();
-    EXPECT_EQ(lister.opened, ID_RECENT_IMAGE_FIRST + 1);
+    EXPECT_EQ(viewer.opened, ID_RECENT_IMAGE_FIRST + 1);
 
-    lister.names.clear();
+    viewer.names.clear();
     Q_EMIT menu.aboutToShow();
     EXPECT_EQ(shownIn(list), QStringList());
     EXPECT_FALSE(opener.isEnabled());

@@ -9,7 +9,6 @@
 #include <QMenuBar>
 #include <QTest>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 using namespace dyeworks;
 using testing::ElementsAre;

@@ -52,6 +52,7 @@ struct ToolModel {
     std::int32_t zoom = 1;
     Point scroll;
     Size client;
+    bool antsPhase = false;
     std::string position; ///< What the status line says of the pointer.
 
     // Of the drag, and to take it back.
@@ -70,10 +71,13 @@ struct ToolModel {
     static Rect between(Point a, Point b) { return Rect{a.x, a.y, b.x, b.y}.normalised(); }
     [[nodiscard]] Point texel(Point p) const { return {(p.x + scroll.x) / zoom, (p.y + scroll.y) / zoom}; }
     [[nodiscard]] Rect whole() const { return {0, 0, image->width() - 1, image->height() - 1}; }
+    static bool keeps(Tool t) { return t == Tool::Select || t == Tool::ZoomLens || t == Tool::Replacer; }
+    static bool zooms(Key k) {
+        return k == Key::I || k == Key::O || k == Key::Numpad9 || k == Key::NumpadDivide;
+    }
     [[nodiscard]] bool selecting() const { return dragging && !scrolling && atPress == Tool::Select; }
     [[nodiscard]] bool exists() const {
-        return keepsSelection(atPress) && selection.right > selection.left &&
-               selection.bottom > selection.top;
+        return keeps(atPress) && selection.right > selection.left && selection.bottom > selection.top;
     }
     [[nodiscard]] Menu menu() const {
         return dragging                 ? Menu::None
@@ -123,6 +127,7 @@ struct ToolModel {
     [[nodiscard]] Image selected() const {
         auto part = std::make_unique<TextureCanvas>();
         if (part->Create(selection.right - selection.left + 1, selection.bottom - selection.top + 1, 1, 4)) {
+            std::ranges::copy(image->colourTable(), part->colourTable().begin());
             for (std::int32_t y = 0; y < part->height(); ++y) {
                 for (std::int32_t x = 0; x < part->width(); ++x)
                     part->SetPixel(x, y, image->GetPixel(selection.left + x, selection.top + y));
@@ -174,7 +179,7 @@ struct ToolModel {
             edit([this](TextureCanvas& c) {
                 c.ReplaceColor(selection == Rect{} ? whole() : selection, start.x, start.y, value);
             });
-        if (keepsSelection(tool))
+        if (keeps(tool))
             return;
         commit();
         if (tool == Tool::Paint) {
@@ -311,11 +316,11 @@ struct ToolModel {
             go(undone, redone);
     }
 
-    /// True when the view is to zoom at the pointer.
+    /// False when the key does nothing; a key that zooms is left to the view.
     bool keyDown(const KeyEvent& e) {
         if (e.key == Key::Escape && dragging) {
             cancel();
-            return false;
+            return true;
         }
         if ((e.key == Key::Escape || e.key == Key::Enter) && (exists() || piece != nullptr)) {
             if (selecting())
@@ -323,7 +328,7 @@ struct ToolModel {
             if (e.key == Key::Escape)
                 piece.reset();
             commit();
-            return false;
+            return true;
         }
         if (e.repeatCount != 1)
             return false;
@@ -336,7 +341,14 @@ struct ToolModel {
         if (exists())
             selection = {selection.left + (e.shift ? 0 : way.x), selection.top + (e.shift ? 0 : way.y),
                          selection.right + way.x, selection.bottom + way.y};
-        return e.key == Key::I || e.key == Key::O || e.key == Key::Numpad9 || e.key == Key::NumpadDivide;
+        return zooms(e.key) || (exists() && way != Point{});
+    }
+
+    void save() {
+        cancel();
+        if (piece != nullptr)
+            commit();
+        modified = false;
     }
 
     void command(CommandId id) {
@@ -346,7 +358,7 @@ struct ToolModel {
             if (choice.command == id)
                 tool = choice.tool;
         }
-        const bool choosesPen = id != ID_TOOL_SPUIT && !keepsSelection(tool) &&
+        const bool choosesPen = id != ID_TOOL_SPUIT && !keeps(tool) &&
                                 std::ranges::any_of(kToolCommands, [id](auto& c) { return c.command == id; });
         const bool changesSelected =
             id == ID_CANCEL_SELECTION || id == ID_FLIP_X || id == ID_FLIP_Y || id == ID_EDIT_CUT;

@@ -1,6 +1,7 @@
 #include "CanvasTesting.h"
 #include "ToolModel.h"
 #include "ViewTestWindow.h"
+#include "paint/ViewRenderer.h"
 
 #include <random>
 #include <sstream>
@@ -12,6 +13,10 @@ void PrintTo(const ToolCommand& tool, std::ostream* out) {
 }
 
 namespace {
+
+constexpr const char* kPath = "c:\\a [b] * c.tmf";
+constexpr std::uint32_t kOutside = 0xFF808080;
+constexpr CommandId kOfSelected[] = {ID_CANCEL_SELECTION, ID_FLIP_X, ID_FLIP_Y, ID_EDIT_COPY, ID_EDIT_CUT};
 
 /// A window that keeps what it shows and, like a desktop, paints only what it was asked to.
 class PaintingWindow : public FakeViewWindow {
@@ -29,7 +34,7 @@ public:
     }
     void invalidateAll() override { stale_.assign(pixelCount(), true); }
     void repaintNow() override {
-        if (view == nullptr)
+        if (view == nullptr || std::ranges::find(stale_, true) == stale_.end())
             return;
         const CDyeworksView::RedrawRequest request = view->BeginPaint();
         const Rect& limit = request.clientArea;
@@ -47,10 +52,15 @@ public:
     }
     /// What a paint of the whole window shows.
     [[nodiscard]] std::vector<std::uint32_t> painted(std::uint32_t request) const {
+        return drawn(
+            [&](Surface& surface, const Rect& area) { view->Paint(surface, area, kOutside, request); });
+    }
+    /// The window's pixels after `draw`, which is given its logical area.
+    template <typename Draw>
+    [[nodiscard]] std::vector<std::uint32_t> drawn(Draw draw) const {
         std::vector<std::uint32_t> pixels(pixelCount());
         Surface surface{pixels.data(), client.width, client.height, client.width, scroll.x, scroll.y};
-        view->Paint(surface, {scroll.x, scroll.y, scroll.x + client.width, scroll.y + client.height},
-                    0xFF808080, request);
+        draw(surface, Rect{scroll.x, scroll.y, scroll.x + client.width, scroll.y + client.height});
         return pixels;
     }
 
@@ -65,9 +75,9 @@ private:
     std::vector<bool> stale_ = std::vector<bool>(pixelCount(), true);
 };
 
-constexpr CommandId kCommands[] = {ID_EDIT_UNDO,  ID_EDIT_UNDO,        ID_EDIT_REDO, ID_EDIT_SELECT_ALL,
-                                   ID_TOOL_SPUIT, ID_CANCEL_SELECTION, ID_FLIP_X,    ID_FLIP_Y,
-                                   ID_EDIT_COPY,  ID_EDIT_CUT,         ID_EDIT_PASTE};
+constexpr CommandId kCommands[] = {ID_EDIT_UNDO,  ID_EDIT_UNDO,        ID_EDIT_REDO,  ID_EDIT_SELECT_ALL,
+                                   ID_TOOL_SPUIT, ID_CANCEL_SELECTION, ID_FLIP_X,     ID_FLIP_Y,
+                                   ID_EDIT_COPY,  ID_EDIT_CUT,         ID_EDIT_PASTE, ID_EDIT_PASTE};
 
 constexpr Key kKeys[] = {Key::Escape, Key::Enter, Key::Left,    Key::Up,           Key::Right, Key::Down,
                          Key::I,      Key::O,     Key::Numpad9, Key::NumpadDivide, Key::Other};
@@ -78,20 +88,28 @@ protected:
     ToolScript() {
         window.view = &view;
         openPalette(256);
+        document.setPathName(kPath);
         document.Attach();
         view.InitialUpdate();
+        otherWindow.view = &other;
+        other.InitialUpdate();
         for (std::int32_t y = 0; y < 12; ++y)
             document.canvas().DrawLine(0, y, 15, 11 - y, static_cast<std::uint32_t>(y));
         document.canvas().ResetChangedRect();
         setCurrentTool(Tool::Select);
-        title_ = document.title();
+        title_ = "a [b] * c.tmf [" + host.palettes.palettes.begin()->second->title + "]";
         model.image = document.canvas().Clone();
         model.client = window.client;
         model.firstEntry = host.firstEntry = 32;
         model.cell = host.cell = 41;
+        // Wider than the image.
+        model.clipboard = std::make_unique<TextureCanvas>();
+        EXPECT_TRUE(model.clipboard->Create(20, 3, 1, 4));
+        model.clipboard->FillEllipse(0, 0, 19, 2, 12);
+        EXPECT_TRUE(model.clipboard->CopyToClipboard({0, 0, 19, 2}));
     }
     ~ToolScript() override {
-        window.view = nullptr;
+        window.view = otherWindow.view = nullptr;
         setCurrentTool(Tool::Select);
     }
 
@@ -121,7 +139,7 @@ protected:
         log_ << event.position.x << ' ' << event.position.y << ' ' << event.shift << event.control
              << event.alt << ' ';
         window.pointer = event.position;
-        const std::int32_t dice = below(100);
+        const std::int32_t dice = below(102);
         if (dice < 22) {
             log_ << "press";
             view.PointerPressed(event);
@@ -138,12 +156,13 @@ protected:
         } else if (dice < 84) {
             const KeyEvent key{oneOf(kKeys), below(6) == 0 ? 2 : 1, below(2) == 0, false};
             log_ << "key " << static_cast<int>(key.key) << " x" << key.repeatCount << ' ' << key.shift;
-            view.KeyPressed(key);
-            followZoom(model.keyDown(key));
+            const bool taken = model.keyDown(key);
+            EXPECT_EQ(view.KeyPressed(key), taken) << lastEvent();
+            followZoom(taken && model.zooms(key.key));
         } else if (dice < 91) {
             run(below(3) == 0 ? oneOf(kToolCommands).command : oneOf(kCommands));
         } else if (dice < 94) {
-            model.cell = host.cell = below(5) == 0 ? -1 : 32 + below(16);
+            model.cell = host.cell = below(64) - 1;
         } else if (dice < 96) {
             log_ << "right press";
             event.button = PointerButton::Right;
@@ -155,6 +174,18 @@ protected:
             model.cancel();
         } else if (dice < 98) {
             view.Tick();
+            model.antsPhase = model.antsPhase != (model.selection != Rect{});
+        } else if (dice < 99) {
+            log_ << "colours";
+            document.RefreshPalette();
+        } else if (dice < 100) {
+            log_ << "save";
+            model.save();
+            EXPECT_TRUE(document.save());
+            EXPECT_FALSE(document.hasUnsavedChanges());
+            TextureCanvas saved;
+            EXPECT_TRUE(saved.LoadTmf(kPath));
+            EXPECT_EQ(rowsOf(saved), rowsOf(*model.image));
         } else {
             log_ << "tool chosen in another window";
             model.tool = oneOf(kToolCommands).tool;
@@ -164,13 +195,14 @@ protected:
 
     std::string seen() {
         const Rect& s = view.selection();
-        return described(document.canvas(), document.title(), host.panes[1],
-                         {document.CanUndo(), document.CanRedo(), document.history().count(), s.left, s.top,
-                          s.right, s.bottom, view.hasFloatingPiece(), view.drawingValue(), host.cell,
-                          view.zoom(), window.scroll.x, window.scroll.y, static_cast<int>(view.contextMenu()),
-                          window.captured, stateOf(view, ID_EDIT_SELECT_ALL).enabled,
-                          stateOf(view, ID_FLIP_Y).enabled, static_cast<int>(currentTool()),
-                          window.interval});
+        return described(
+            document.canvas(), document.title(), host.panes[1],
+            {document.CanUndo(), document.CanRedo(), document.history().count(), s.left, s.top, s.right,
+             s.bottom, view.hasFloatingPiece(), view.drawingValue(), host.cell, view.zoom(), window.scroll.x,
+             window.scroll.y, static_cast<int>(view.contextMenu()), window.captured,
+             stateOf(view, ID_EDIT_SELECT_ALL).enabled,
+             std::ranges::count_if(kOfSelected, [this](CommandId id) { return stateOf(view, id).enabled; }),
+             static_cast<int>(currentTool()), window.interval});
     }
     std::string expected() const {
         const Rect& s = model.selection;
@@ -179,13 +211,25 @@ protected:
                          {!model.undone.empty(), !model.redone.empty(), static_cast<std::int64_t>(steps),
                           s.left, s.top, s.right, s.bottom, model.piece != nullptr, model.value, model.cell,
                           model.zoom, model.scroll.x, model.scroll.y, static_cast<int>(model.menu()),
-                          model.dragging, keepsSelection(model.atPress), model.exists(),
+                          model.dragging, model.keeps(model.atPress), model.exists() ? 5 : 0,
                           static_cast<int>(model.tool), s == Rect{} ? 0 : 200});
+    }
+    std::vector<std::uint32_t> expectedPicture() const {
+        ViewLook look;
+        look.zoom = model.zoom;
+        look.outsideColour = kOutside;
+        if (model.exists() || model.piece != nullptr)
+            look.selection = {model.selection, model.piece.get(), 10, model.antsPhase};
+        return window.drawn([&](Surface& surface, const Rect& area) {
+            ViewRenderer(*model.image, look).draw(surface, area);
+        });
     }
     std::string lastEvent() const { return log_.str(); }
 
     PaintingWindow window;
     CDyeworksView view{document, window};
+    PaintingWindow otherWindow;
+    CDyeworksView other{document, otherWindow};
     ToolModel model;
 
 private:
@@ -203,10 +247,10 @@ private:
         for (const std::string& row : rowsOf(image))
             out << row << '\n';
         out << title << '\n' << position;
-        const char* const names[] = {"\nundo ",  " redo ",  " steps ",  "\nselected ", " ",
-                                     " ",        " ",       " floats ", "\nvalue ",    " cell ",
-                                     " zoom ",   " at ",    " ",        "\nmenu ",     " captured ",
-                                     " select ", " flips ", " tool ",   " ants "};
+        const char* const names[] = {
+            "\nundo ",    " redo ",   " steps ",       "\nselected ", " ",     " ", " ",
+            " floats ",   "\nvalue ", " cell ",        " zoom ",      " at ",  " ", "\nmenu ",
+            " captured ", " select ", " of selected ", " tool ",      " ants "};
         const char* const* name = names;
         for (const std::int64_t number : numbers)
             out << *name++ << number;
@@ -227,9 +271,14 @@ TEST_P(ToolScript, DoesWhatTheModelDoesAndShowsIt) {
             run(GetParam().command);
         play();
         ASSERT_EQ(seen(), expected()) << "event " << turn << ' ' << lastEvent();
-        // A frame is shown while it is drawn out, also around what is too small to be a selection.
         window.repaintNow();
-        if (!view.dragging() && (view.selection() == Rect{} || view.SelectionExists())) {
+        otherWindow.repaintNow();
+        if (view.dragging())
+            continue;
+        ASSERT_EQ(otherWindow.shown, otherWindow.painted(0)) << "event " << turn << ' ' << lastEvent();
+        ASSERT_EQ(window.painted(0), expectedPicture()) << "event " << turn << ' ' << lastEvent();
+        // A frame is shown while it is drawn out, also around what is too small to be a selection.
+        if (view.selection() == Rect{} || view.SelectionExists() || view.hasFloatingPiece()) {
             ASSERT_EQ(window.shown, window.painted(0)) << "event " << turn << ' ' << lastEvent();
         }
     }

@@ -11,21 +11,18 @@
 namespace dyeworks {
 namespace {
 
-/// Puts the environment back as it was.
 class PosixLocaleTest : public testing::Test {
 protected:
-    PosixLocaleTest() {
-        for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-            const char* const value = std::getenv(name);
-            before_[name] = value == nullptr ? std::string() : value;
-        }
-    }
     ~PosixLocaleTest() override {
         for (const auto& [name, value] : before_)
-            set(name, value);
+            locale.putEnvironment(name + ("=" + value));
     }
 
-    void set(const std::string& name, const std::string& value) { locale.putEnvironment(name + "=" + value); }
+    void set(const char* name, const std::string& value) {
+        const char* const before = std::getenv(name);
+        before_.try_emplace(name, before == nullptr ? "" : before);
+        locale.putEnvironment(name + ("=" + value));
+    }
 
     PosixLocale locale;
 
@@ -34,13 +31,10 @@ private:
 };
 
 TEST_F(PosixLocaleTest, ReadsTheUsersLanguageFromTheFirstVariableThatIsSet) {
-    struct Case {
-        const char* all;
-        const char* messages;
-        const char* lang;
+    const struct {
+        const char *all, *messages, *lang;
         int number;
-    };
-    constexpr Case kCases[] = {
+    } cases[] = {
         {"", "", "", kLocaleEnglish},
         {"", "", "ja_JP.UTF-8", kLocaleJapanese},
         {"", "ja", "en_US.UTF-8", kLocaleJapanese},
@@ -48,7 +42,7 @@ TEST_F(PosixLocaleTest, ReadsTheUsersLanguageFromTheFirstVariableThatIsSet) {
         {"POSIX", "", "ja_JP", kLocaleEnglish},
         {"", "", "de_DE.UTF-8", 0},
     };
-    for (const Case& c : kCases) {
+    for (const auto& c : cases) {
         set("LC_ALL", c.all);
         set("LC_MESSAGES", c.messages);
         set("LANG", c.lang);
@@ -58,22 +52,18 @@ TEST_F(PosixLocaleTest, ReadsTheUsersLanguageFromTheFirstVariableThatIsSet) {
 
 TEST(PosixLocale, ReadsTheHostsLanguageFromTheFirstFileThatTellsOne) {
     const ScratchFolder scratch;
-    const std::string first = scratch.path() + "/first";
-    const std::string second = scratch.path() + "/second";
+    const std::string first = scratch.path() + "/first", second = scratch.path() + "/second";
     std::ofstream(second) << "LANG='ja_JP.UTF-8'\n";
-    const struct {
-        const char* text;
-        int number;
-    } cases[] = {
+    const std::pair<const char*, int> cases[] = {
         {"", kLocaleJapanese},
         {"# LANG=en_US\nLANGUAGE=en\nLANG=\n", kLocaleJapanese},
         {"LANG=\"en_US.UTF-8\"\n", kLocaleEnglish},
         {"LANG=ja_JP\nLANG=de_DE\n", 0},
         {"LANG=en_US\nLC_ALL=ja_JP.UTF-8", kLocaleJapanese},
     };
-    for (const auto& c : cases) {
-        std::ofstream(first) << c.text;
-        EXPECT_EQ(PosixLocale({first, second}).systemLocale(), c.number) << c.text;
+    for (const auto& [text, number] : cases) {
+        std::ofstream(first) << text;
+        EXPECT_EQ(PosixLocale({first, second}).systemLocale(), number) << text;
     }
     EXPECT_EQ(PosixLocale({scratch.path() + "/gone"}).systemLocale(), kLocaleEnglish);
 }

@@ -7,29 +7,20 @@ namespace dyeworks {
 namespace {
 
 TEST(Text, PutsArgumentsIntoTheTranslation) {
-    struct Case {
-        const char* translation;
-        const char* filled;
-    };
-    constexpr Case kCases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"%2: %1 %1", "why: %2.tlf %2.tlf"},
         {"100%, %, %%1", "100%, %, %%2.tlf"},
         {"%0%3%10", "%0%3%10"},
     };
     FakePlatform fake;
-    for (const Case& c : kCases) {
-        fake.texts.translations[englishText(StringId::CannotSaveFile)] = c.translation;
-        EXPECT_EQ(text(StringId::CannotSaveFile, {"%2.tlf", "why"}), c.filled) << c.translation;
+    for (const auto& [translation, filled] : cases) {
+        fake.texts.translations[englishText(StringId::CannotSaveFile)] = translation;
+        EXPECT_EQ(text(StringId::CannotSaveFile, {"%2.tlf", "why"}), filled) << translation;
     }
 }
 
 TEST(TextCase, FoldsLettersOfEachScriptAndNothingElse) {
-    struct Case {
-        const char* a;
-        const char* b;
-        bool equal;
-    };
-    constexpr Case kCases[] = {
+    const std::tuple<const char*, const char*, bool> cases[] = {
         {"Sky.TLF", "sKY.tlf", true},
         {"\u00C9\u00DE", "\u00E9\u00FE", true},
         {"\u0100\u0136\u014A\u0176", "\u0101\u0137\u014B\u0177", true},
@@ -38,31 +29,25 @@ TEST(TextCase, FoldsLettersOfEachScriptAndNothingElse) {
         {"\xC1\x81", "A", false},
         {"a", "ab", false},
     };
-    for (const Case& c : kCases)
-        EXPECT_EQ(equalIgnoringCase(c.a, c.b), c.equal) << c.a << " " << c.b;
+    for (const auto& [a, b, equal] : cases)
+        EXPECT_EQ(equalIgnoringCase(a, b), equal) << a << " " << b;
 }
 
 TEST(Profile, TakesOnlyWholeNumbersInRangeForIntegers) {
-    struct Case {
-        const char* text;
-        int number;
-    };
     constexpr int kFallback = -77;
-    constexpr Case kCases[] = {
-        {"0", 0},
-        {"-12", -12},
-        {"+12", 12},
-        {"2147483647", 2147483647},
-        {"-2147483648", -2147483648LL},
-        {"2147483648", kFallback},
-        {"", kFallback},
-        {" 1", kFallback},
-        {"1.0", kFallback},
-    };
+    const std::pair<const char*, int> cases[] = {{"0", 0},
+                                                 {"-12", -12},
+                                                 {"+12", 12},
+                                                 {"2147483647", 2147483647},
+                                                 {"-2147483648", -2147483647 - 1},
+                                                 {"2147483648", kFallback},
+                                                 {"", kFallback},
+                                                 {" 1", kFallback},
+                                                 {"1.0", kFallback}};
     FakePlatform fake;
-    for (const Case& c : kCases) {
-        fake.profile.setText("Settings\\Images", "Zoom", c.text);
-        EXPECT_EQ(fake.profile.integer("Settings\\Images", "Zoom", kFallback), c.number) << c.text;
+    for (const auto& [text, number] : cases) {
+        fake.profile.setText("Settings\\Images", "Zoom", text);
+        EXPECT_EQ(fake.profile.integer("Settings\\Images", "Zoom", kFallback), number) << text;
     }
     EXPECT_EQ(fake.profile.integer("Settings", "Zoom", kFallback), kFallback);
 }

@@ -4,25 +4,19 @@
 #include <QMdiArea>
 
 #include <initializer_list>
-#include <memory>
 
 namespace dyeworks {
 namespace {
 
-using testing::IsEmpty;
-
-std::string little(std::uint32_t value, int bytes) {
+std::string little(std::uint32_t value, int count) {
     std::string text;
-    for (int i = 0; i < bytes; ++i, value >>= 8)
+    for (int i = 0; i < count; ++i, value >>= 8)
         text += static_cast<char>(value);
     return text;
 }
 
-std::string bytes(std::initializer_list<int> values) {
-    std::string text;
-    for (const int value : values)
-        text += static_cast<char>(value);
-    return text;
+std::string bytes(std::initializer_list<unsigned char> values) {
+    return {values.begin(), values.end()};
 }
 
 struct Bitmap {
@@ -42,9 +36,7 @@ struct Bitmap {
 constexpr std::uint32_t kRed = 0xFFFF0000, kGreen = 0xFF00FF00, kBlue = 0xFF0000FF, kWhite = 0xFFFFFFFF,
                         kBlack = 0xFF000000;
 
-std::string fourColours() {
-    return bytes({0, 0, 255, 0, 0, 255, 0, 0, 255, 0, 0, 0, 255, 255, 255, 0});
-}
+const std::string kFourColours = bytes({0, 0, 255, 0, 0, 255, 0, 0, 255, 0, 0, 0, 255, 255, 255, 0});
 
 TEST(BackgroundPicture, ReadsEveryDepthFromTheTopDown) {
     FakePlatform fake;
@@ -56,13 +48,13 @@ TEST(BackgroundPicture, ReadsEveryDepthFromTheTopDown) {
     } cases[] = {
         {{2, 2, 1, bytes({0, 0, 255, 0, 255, 0, 0, 0}), bytes({0x80, 0, 0, 0, 0x40, 0, 0, 0})},
          {kRed, kBlue, kBlue, kRed}},
-        {{2, 2, 4, fourColours(), bytes({0x23, 0, 0, 0, 0x01, 0, 0, 0}), 4}, picture},
-        {{2, 2, 8, fourColours(), bytes({2, 3, 0, 0, 0, 1, 0, 0}), 4}, picture},
-        {{1, 1, 8, fourColours(), bytes({9, 0, 0, 0}), 4}, {kBlack}}, // beyond its colours
+        {{2, 2, 4, kFourColours, bytes({0x23, 0, 0, 0, 0x01, 0, 0, 0}), 4}, picture},
+        {{2, 2, 8, kFourColours, bytes({2, 3, 0, 0, 0, 1, 0, 0}), 4}, picture},
+        {{1, 1, 8, kFourColours, bytes({9, 0, 0, 0}), 4}, {kBlack}}, // beyond its colours
         {{2, 2, 16, "", bytes({0x1F, 0, 0xFF, 0x7F, 0, 0x7C, 0xE0, 0x03})}, picture},
         {{2, 2, 24, "", bytes({255, 0, 0, 255, 255, 255, 0, 0, 0, 0, 255, 0, 255, 0, 0, 0})}, picture},
         {{2, 2, 32, "", bytes({255, 0, 0, 0, 255, 255, 255, 9, 0, 0, 255, 255, 0, 255, 0, 0})}, picture},
-        {{2, 0xFFFFFFFE, 8, fourColours(), bytes({0, 1, 0, 0, 2, 3, 0, 0}), 4}, picture}, // top row first
+        {{2, 0xFFFFFFFE, 8, kFourColours, bytes({0, 1, 0, 0, 2, 3, 0, 0}), 4}, picture}, // top row first
     };
     for (const auto& c : cases) {
         fake.files.putFile("c:\\b.bmp", c.bitmap.file());
@@ -75,43 +67,26 @@ TEST(BackgroundPicture, ReadsEveryDepthFromTheTopDown) {
 
 TEST(BackgroundPicture, IsAbsentWhenTheFileIsNoGood) {
     FakePlatform fake;
-    const Bitmap good{2, 2, 8, fourColours(), bytes({2, 3, 0, 0, 0, 1, 0, 0}), 4};
+    const Bitmap good{2, 2, 8, kFourColours, bytes({2, 3, 0, 0, 0, 1, 0, 0}), 4};
     const std::string whole = good.file();
     Bitmap compressed = good;
     compressed.compression = 1;
-    const std::pair<std::string, int> cases[] = {
-        {"", 0},
-        {"MB" + whole.substr(2), 0},
-        {whole.substr(0, whole.size() - 1), 0},
-        {Bitmap{2, 2, 2, fourColours(), little(0, 8), 4}.file(), 0},
-        {Bitmap{0, 2, 8, fourColours(), "", 4}.file(), 0},
-        {compressed.file(), 1},
-    };
-    for (const auto& [file, messages] : cases) {
-        fake.messages.shown.clear();
+    EXPECT_TRUE(BackgroundPicture::read("c:\\b.bmp").empty()) << "not there";
+    for (const std::string& file : {std::string(), "MB" + whole.substr(2), whole.substr(0, whole.size() - 1),
+                                    Bitmap{2, 2, 2, kFourColours, little(0, 8), 4}.file(),
+                                    Bitmap{0, 2, 8, kFourColours, "", 4}.file(), compressed.file()}) {
+        EXPECT_THAT(fake.messages.shown, IsEmpty());
         fake.files.putFile("c:\\b.bmp", file);
         EXPECT_TRUE(BackgroundPicture::read("c:\\b.bmp").empty());
-        ASSERT_EQ(fake.messages.shown.size(), static_cast<std::size_t>(messages));
-        EXPECT_EQ(fake.messages.lastText(), messages == 0 ? "" : "compressed format not supported.\n");
     }
-    EXPECT_TRUE(BackgroundPicture::read("c:\\none.bmp").empty());
+    EXPECT_THAT(texts(fake), ElementsAre("compressed format not supported.\n"));
 }
 
-class Background : public testing::Test {
+class Background : public Launch {
 protected:
-    Background() { defineControls(fake_); }
-    void start() {
-        CommandLine commandLine;
-        commandLine.noSplash = true;
-        app_ = std::make_unique<CDyeworksApp>();
-        ASSERT_TRUE(app_->InitInstance(commandLine));
-    }
     [[nodiscard]] QImage shown() {
-        QWidget& viewport = *app_->mainFrame().area().viewport();
-        return viewport.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        return frame().area().viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32);
     }
-    FakePlatform fake_;
-    std::unique_ptr<CDyeworksApp> app_;
 };
 
 TEST_F(Background, TilesTheDocumentAreaFromItsTopLeftCornerWhateverItsSize) {
@@ -122,7 +97,7 @@ TEST_F(Background, TilesTheDocumentAreaFromItsTopLeftCornerWhateverItsSize) {
             rows += little((height - 1 - y) << 20 | x << 12 | 0xFF, 4);
     }
     fake_.files.putFile("c:\\!bg.bmp", Bitmap{width, height, 32, "", rows}.file());
-    start();
+    ASSERT_TRUE(launch());
     const auto check = [&](const char* when) {
         const QImage picture = shown();
         for (int y = 0; y < picture.height(); ++y) {
@@ -136,20 +111,21 @@ TEST_F(Background, TilesTheDocumentAreaFromItsTopLeftCornerWhateverItsSize) {
     check("at the start");
     // The file is read once.
     fake_.files.remove("c:\\!bg.bmp");
-    app_->mainFrame().resize(533, 391);
+    frame().resize(533, 391);
     QCoreApplication::processEvents();
     check("resized");
 }
 
 TEST_F(Background, IsPlainWithoutAPictureAndFollowsThePalette) {
     fake_.files.putFile("c:\\!bg.bmp", "broken");
-    start();
-    QPalette palette = app_->mainFrame().palette();
-    palette.setColor(QPalette::Dark, QColor(12, 34, 56));
-    app_->mainFrame().setPalette(palette);
+    ASSERT_TRUE(launch());
+    const QColor dark(12, 34, 56);
+    QPalette palette = frame().palette();
+    palette.setColor(QPalette::Dark, dark);
+    frame().setPalette(palette);
     const QImage picture = shown();
-    EXPECT_EQ(picture.pixelColor(0, 0), QColor(12, 34, 56));
-    EXPECT_EQ(picture.pixelColor(picture.width() - 1, picture.height() - 1), QColor(12, 34, 56));
+    EXPECT_EQ(picture.pixelColor(0, 0), dark);
+    EXPECT_EQ(picture.pixelColor(picture.width() - 1, picture.height() - 1), dark);
 }
 
 } // namespace

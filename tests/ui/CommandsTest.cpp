@@ -15,17 +15,17 @@ namespace {
 
 using Ids = std::set<CommandId>;
 
-/// Nobody takes these, whatever is open.
-const Ids kTakenByNobody{// Stands in the zoom menu and asks for nothing.
-                         ID_ZOOM_SPECIFY};
-
 const Ids kAlwaysEnabled{ID_PROJECT_NEW,      ID_PROJECT_OPEN,    ID_FILE_NEW,     ID_FILE_OPEN,
                          ID_FILE_PRINT_SETUP, ID_PALETTE_NEW,     ID_PALETTE_OPEN, ID_OPTIONS,
                          ID_APP_ABOUT,        ID_APP_EXIT,        ID_HELP_INDEX,   ID_HELP,
                          ID_CONTEXT_HELP,     ID_VIEW_PALETTEBAR, ID_VIEW_TOOLBAR, ID_VIEW_DRAWBAR,
                          ID_VIEW_PROJECTBAR,  ID_VIEW_STATUS_BAR, ID_VIEW_VIEWBAR, ID_FILE_IMPORT_BMP};
 
-/// Besides, with an image that is attached to a palette, both unchanged.
+/// Besides, with a palette that is unchanged.
+const Ids kEnabledWithPalette{ID_PALETTE_EDIT, ID_PALETTE_CLOSE, ID_PALETTE_SAVE, ID_PALETTE_SAVE_AS,
+                              ID_RECENT_PALETTE_FIRST};
+
+/// Besides, with an unchanged image.
 const Ids kEnabledWithImage{// Its file and its windows.
                             ID_FILE_CLOSE, ID_FILE_SAVE, ID_FILE_SAVE_AS, ID_FILE_PRINT, ID_FILE_PRINT_DIRECT,
                             ID_FILE_PRINT_PREVIEW, ID_RECENT_IMAGE_FIRST, ID_WINDOW_NEW, ID_WINDOW_CASCADE,
@@ -36,10 +36,7 @@ const Ids kEnabledWithImage{// Its file and its windows.
                             // Drawing.
                             ID_TOOL_PIXEL, ID_TOOL_PEN, ID_TOOL_LINE, ID_TOOL_BOX, ID_TOOL_BOX_FILL,
                             ID_TOOL_CIRCLE, ID_TOOL_CIRCLE_FILL, ID_TOOL_PAINT, ID_TOOL_SELECT,
-                            ID_TOOL_ZOOM_LENS, ID_TOOL_REPLACER, ID_TOOL_SPUIT, ID_EDIT_SELECT_ALL,
-                            // The palette's file.
-                            ID_PALETTE_EDIT, ID_PALETTE_CLOSE, ID_PALETTE_SAVE, ID_PALETTE_SAVE_AS,
-                            ID_RECENT_PALETTE_FIRST};
+                            ID_TOOL_ZOOM_LENS, ID_TOOL_REPLACER, ID_TOOL_SPUIT, ID_EDIT_SELECT_ALL};
 
 /// What a menu shows of the table; in a list of files or plug-ins each command counts.
 Ids everyCommand() {
@@ -51,44 +48,48 @@ Ids everyCommand() {
     return ids;
 }
 
-Ids without(Ids ids, const Ids& others) {
-    std::erase_if(ids, [&](CommandId id) { return others.contains(id); });
-    return ids;
-}
-
 std::string lettersOf(std::span<const MenuItem> items, const QTranslator& language) {
     std::string letters;
     for (const MenuItem& item : items) {
-        const CommandRow* row = item.title == nullptr ? findCommand(item.id) : nullptr;
-        if (item.title == nullptr && row == nullptr)
+        const CommandRow* row = findCommand(item.id);
+        const bool submenu = item.title != nullptr;
+        if (!submenu && row == nullptr)
             continue;
-        const char* source = row == nullptr ? item.title : row->menuText;
-        const QString translated =
-            language.translate(row == nullptr ? kMenuContext : kCommandContext, source);
-        const QString text = translated.isEmpty() ? QString::fromUtf8(source) : translated;
-        const qsizetype mark = text.indexOf(QLatin1Char('&'));
+        const char* source = submenu ? item.title : row->menuText;
+        const QString translated = language.translate(submenu ? kMenuContext : kCommandContext, source);
+        const QString text = translated.isEmpty() ? source : translated;
+        const qsizetype mark = text.indexOf('&');
         if (mark >= 0)
             letters += text.mid(mark + 1, 1).toLower().toStdString();
     }
     return letters;
 }
 
-template <typename Visit>
-void forEachMenu(std::span<const MenuItem> items, const Visit& visit) {
-    visit(items);
-    for (const MenuItem& item : items) {
+using Menu = std::span<const MenuItem>;
+
+/// A menu and all below it.
+void collect(Menu menu, std::vector<Menu>& found) {
+    found.push_back(menu);
+    for (const MenuItem& item : menu) {
         if (item.title != nullptr)
-            forEachMenu(item.items, visit);
+            collect(item.items, found);
     }
+}
+
+std::vector<Menu> menusOfTheBars() {
+    std::vector<Menu> found;
+    for (const Menu bar : {mainMenu(), imageMenu(), projectMenu()})
+        collect(bar, found);
+    return found;
 }
 
 class Commands : public Program {
 protected:
     /// What somebody would take as things stand.
     [[nodiscard]] Ids taken() {
-        std::vector<CommandTarget*> chain = app_.mainFrame().commandTargets();
-        chain.push_back(&app_.mainFrame().paletteBar());
-        chain.push_back(&app_.mainFrame().printing());
+        std::vector<CommandTarget*> chain = frame().commandTargets();
+        chain.push_back(&frame().paletteBar());
+        chain.push_back(&frame().printing());
         chain.push_back(&app_);
         Ids ids = everyCommand();
         std::erase_if(ids, [&](CommandId id) {
@@ -101,50 +102,53 @@ protected:
         for (const CommandId id : everyCommand())
             EXPECT_EQ(enabled(id), expected.contains(id)) << id;
     }
-    void openImage() {
-        openAttached(texels(8, 8, [](int, int) { return 0U; }), 8, 256);
-    }
 };
 
 TEST_F(Commands, AreTakenByAnObjectOfTheProgram) {
     Ids ids = taken();
-    openImage();
+    openBlank();
     ids.merge(taken());
     openProject();
     ids.merge(taken());
-    EXPECT_EQ(without(everyCommand(), ids), kTakenByNobody);
+    Ids expected = everyCommand();
+    // Stands in the zoom menu and asks for nothing.
+    expected.erase(ID_ZOOM_SPECIFY);
+    EXPECT_EQ(ids, expected);
 }
 
 TEST_F(Commands, AreEnabledWhereTheyCanDoSomething) {
-    expectEnabled(kAlwaysEnabled);
-    openImage();
+    fake_.files.putFile("c:\\p.tlf", paletteFile(16, [](int i) { return static_cast<unsigned>(i); }));
+    putImages(fake_, {"c:\\a.tmf"});
     Ids expected = kAlwaysEnabled;
-    expected.insert(kEnabledWithImage.begin(), kEnabledWithImage.end());
-    expectEnabled(expected);
+    const auto alsoExpect = [&](const Ids& more) {
+        expected.insert(more.begin(), more.end());
+        expectEnabled(expected);
+    };
+    alsoExpect({});
+    ASSERT_TRUE(app_.OpenDocumentFile("c:\\p.tlf"));
+    alsoExpect(kEnabledWithPalette);
+    ASSERT_TRUE(app_.OpenDocumentFile("c:\\a.tmf"));
+    expected.insert(ID_IMAGE_ATTACH);
+    alsoExpect(kEnabledWithImage);
+    ASSERT_TRUE(run(ID_IMAGE_ATTACH));
+    expected.erase(ID_IMAGE_ATTACH);
+    alsoExpect({});
 }
 
 TEST_F(Commands, StandInAMenuAndShowTheirPromptAndToolTip) {
     Ids inMenus;
-    for (const auto menuBar : {mainMenu(), imageMenu(), projectMenu()}) {
-        forEachMenu(menuBar, [&](std::span<const MenuItem> menu) {
-            for (const MenuItem& item : menu)
-                inMenus.insert(item.id);
-        });
+    for (const Menu menu : menusOfTheBars()) {
+        for (const MenuItem& item : menu)
+            inMenus.insert(item.id);
     }
     for (const CommandRow& row : commandTable()) {
         EXPECT_TRUE(inMenus.contains(row.id)) << row.id << " is in no menu";
-        QAction* const action = app_.mainFrame().commandActions().action(row.id);
-        action->showStatusText(&app_.mainFrame());
-        EXPECT_EQ(app_.mainFrame().statusBar()->currentMessage().toStdString(), statusText(row));
-        EXPECT_TRUE(action->toolTip().startsWith(QString::fromStdString(toolTipText(row)))) << row.id;
-    }
-}
-
-TEST_F(Commands, OnABarHaveAnIcon) {
-    for (const auto bar : {toolBarItems(), viewBarItems(), drawBarItems()}) {
-        for (const MenuItem& item : bar)
-            EXPECT_TRUE(item.id == 0 || !app_.mainFrame().commandActions().action(item.id)->icon().isNull())
-                << item.id;
+        const QString prompt = QString::fromStdString(statusText(row));
+        QAction& action = *frame().commandActions().action(row.id);
+        action.showStatusText(&frame());
+        EXPECT_EQ(frame().statusBar()->currentMessage(), prompt) << row.id;
+        EXPECT_TRUE(action.toolTip().startsWith(QString::fromStdString(toolTipText(row)))) << row.id;
+        EXPECT_TRUE(action.whatsThis().contains(prompt.toHtmlEscaped())) << row.id;
     }
 }
 
@@ -152,17 +156,14 @@ TEST_F(Commands, HaveALetterThatNoOtherOfTheirMenuHas) {
     QTranslator english;
     QTranslator japanese;
     installLanguage(*QCoreApplication::instance(), std::string("ja"));
-    EXPECT_TRUE(japanese.load(QStringLiteral(":/translations/dyeworks_ja.qm")));
+    EXPECT_TRUE(japanese.load(":/translations/dyeworks_ja.qm"));
     installLanguage(*QCoreApplication::instance(), std::string("en"));
+    std::vector<Menu> menus = menusOfTheBars();
+    for (const auto menu : {CDyeworksView::ContextMenu::Selection, CDyeworksView::ContextMenu::Tools})
+        menus.push_back(imageContextMenu(menu));
     for (const QTranslator* language : {&english, &japanese}) {
-        for (const auto menuBar : {mainMenu(), imageMenu(), projectMenu()}) {
-            forEachMenu(menuBar, [&](std::span<const MenuItem> menu) {
-                const std::string letters = lettersOf(menu, *language);
-                EXPECT_EQ(std::set(letters.begin(), letters.end()).size(), letters.size()) << letters;
-            });
-        }
-        for (const auto menu : {CDyeworksView::ContextMenu::Selection, CDyeworksView::ContextMenu::Tools}) {
-            const std::string letters = lettersOf(imageContextMenu(menu), *language);
+        for (const Menu menu : menus) {
+            const std::string letters = lettersOf(menu, *language);
             EXPECT_EQ(std::set(letters.begin(), letters.end()).size(), letters.size()) << letters;
         }
     }

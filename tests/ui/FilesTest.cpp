@@ -10,96 +10,80 @@
 namespace dyeworks {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 constexpr const char* kImage = "c:\\tex\\pic.tmf";
 constexpr const char* kPalette = "c:\\tex\\pic.tlf";
 
 class FilesTest : public Program {
 protected:
     void openAndDraw() {
-        openAttached(texels(8, 8, [](int, int) { return 0U; }), 8, 256);
-        ASSERT_TRUE(run(ID_TOOL_PIXEL));
-        app_.selectPaletteBarCell(5);
-        drag({{1, 1}});
+        openBlank();
+        drawPixel({1, 1}, 5);
         ASSERT_TRUE(image().isModified());
     }
-    [[nodiscard]] std::vector<std::string> texts() const {
-        std::vector<std::string> result;
-        for (const Message& message : fake_.messages.shown)
-            result.push_back(message.text);
-        return result;
-    }
-    [[nodiscard]] std::size_t windows() { return app_.mainFrame().childFrames().size(); }
+    [[nodiscard]] std::size_t windows() { return frame().childFrames().size(); }
 };
 
-TEST_F(FilesTest, ClosingTheWindowAsksAndCancelKeepsIt) {
+TEST_F(FilesTest, CancelAtAnyQuestionAndAFailedSaveLeaveTheProgramRunning) {
     openAndDraw();
+    openProject().setModified(true);
+    const std::string project = "Save changes to c:\\proj\\sea.tpf?";
+    const std::string image = "Save changes to c:\\tex\\pic.tmf?";
     fake_.messages.answerWith(MessageAnswer::Cancel);
-    EXPECT_FALSE(app_.mainFrame().close());
-    EXPECT_TRUE(app_.mainFrame().isVisible());
+    EXPECT_FALSE(frame().close());
+    EXPECT_TRUE(frame().isVisible());
+    EXPECT_NE(app_.projectDocument(), nullptr);
+    EXPECT_THAT(texts(fake_), ElementsAre(project)) << "nobody else is asked any more";
+
+    fake_.messages.answerWith({MessageAnswer::No, MessageAnswer::Cancel});
+    EXPECT_FALSE(frame().close());
+    EXPECT_TRUE(frame().isVisible());
+    EXPECT_TRUE(frame().paletteBar().isVisible());
     EXPECT_EQ(windows(), 1U);
-    EXPECT_THAT(texts(), ElementsAre("Save changes to c:\\tex\\pic.tmf?"));
-}
+    EXPECT_TRUE(this->image().isModified());
+    EXPECT_EQ(app_.projectDocument(), nullptr) << "closed before the documents are asked about";
+    EXPECT_THAT(texts(fake_), ElementsAre(project, project, image));
+    EXPECT_EQ(fake_.profile.sections["Settings\\Documents"]["count"], "3");
 
-TEST_F(FilesTest, ClosingTheWindowWithoutSavingAsksOnce) {
-    openAndDraw();
-    const auto before = fake_.files.textOf(kImage);
-    fake_.messages.answerWith(MessageAnswer::No);
-    EXPECT_TRUE(run(ID_APP_EXIT));
-    EXPECT_FALSE(app_.mainFrame().isVisible());
-    EXPECT_EQ(fake_.messages.shown.size(), 1U);
-    EXPECT_EQ(fake_.files.textOf(kImage), before);
-    EXPECT_THAT(app_.imageTemplate().documents(), IsEmpty());
-}
-
-TEST_F(FilesTest, AFailedSaveKeepsTheWindowAndTheChanges) {
-    openAndDraw();
     fake_.messages.answerWith({MessageAnswer::Yes, MessageAnswer::Ok});
     fake_.files.failNextWrite(FileError::NoSpace);
-    EXPECT_FALSE(app_.mainFrame().close());
-    EXPECT_TRUE(image().isModified());
-    EXPECT_EQ(fake_.messages.shown.size(), 2U);
-}
+    EXPECT_FALSE(frame().close());
+    EXPECT_TRUE(this->image().isModified());
+    EXPECT_EQ(texts(fake_).size(), 5U);
 
-TEST_F(FilesTest, PalettesAreAskedForBeforeImages) {
-    openAndDraw();
-    TextureLookupTable& palette = *app_.paletteSet()->lookup("");
-    palette.beginEdit();
-    palette.setEntry(3, 0x1234);
-    palette.commitEdit();
-    palette.updateTitle();
-    fake_.messages.answerWith({MessageAnswer::Yes, MessageAnswer::Yes});
-    EXPECT_TRUE(app_.mainFrame().close());
-    EXPECT_THAT(fake_.files.written(), ElementsAre(kPalette, kImage));
-    EXPECT_EQ(fake_.files.textOf(kPalette)->substr(64 + 6, 2), "\x12\x34");
+    fake_.messages.answerWith(MessageAnswer::No);
+    EXPECT_TRUE(run(ID_APP_EXIT));
+    EXPECT_FALSE(frame().isVisible());
+    EXPECT_FALSE(frame().paletteBar().isVisible());
+    EXPECT_EQ(texts(fake_).size(), 6U);
+    EXPECT_THAT(fake_.files.written(), IsEmpty());
+    EXPECT_THAT(app_.imageTemplate().documents(), IsEmpty());
 }
 
 TEST_F(FilesTest, FilesThatCannotBeOpenedAreToldAndLeaveNothingBehind) {
     fake_.files.putFile("c:\\bad.tmf", "no image");
     fake_.files.putFile("c:\\bad.TLF", "no palette");
-    struct Case {
-        const char* path;
-        std::vector<std::string> messages;
-    };
-    const Case cases[] = {
+    const std::pair<const char*, std::vector<std::string>> cases[] = {
         {"c:\\gone.tmf", {"[c:\\gone.tmf] file open failed.\n"}},
+        // What has no kind of its own is taken for an image.
+        {"c:\\no.bmp2", {"[c:\\no.bmp2] file open failed.\n"}},
+        {"c:\\tlf", {"[c:\\tlf] file open failed.\n"}},
+        {"c:\\old.tlf\\sky", {"[c:\\old.tlf\\sky] file open failed.\n"}},
+        {"c:\\a.tlf.txt", {"[c:\\a.tlf.txt] file open failed.\n"}},
         {"c:\\bad.tmf", {"[c:\\bad.tmf] file read failed.\n"}},
         {"c:\\gone.tlf", {"[c:\\gone.tlf] file open failed.\n", "c:\\gone.tlf open failed"}},
         {"c:\\bad.TLF", {"[c:\\bad.TLF] incorrect header size.\n", "c:\\bad.TLF open failed"}},
     };
-    for (const Case& c : cases) {
+    for (const auto& [path, messages] : cases) {
         fake_.messages.shown.clear();
-        EXPECT_FALSE(app_.OpenDocumentFile(c.path)) << c.path;
-        EXPECT_EQ(texts(), c.messages) << c.path;
+        EXPECT_FALSE(app_.OpenDocumentFile(path)) << path;
+        EXPECT_EQ(texts(fake_), messages) << path;
     }
     EXPECT_EQ(windows(), 0U);
     EXPECT_TRUE(app_.paletteSet()->palettes.empty());
 }
 
 TEST_F(FilesTest, OneBadFileDoesNotKeepTheOthersFromOpening) {
-    fake_.files.putFile("c:\\a.tmf", imageFile(texels(4, 4, [](int, int) { return 1U; }), 4));
+    putImages(fake_, {"c:\\a.tmf"});
     fake_.files.putFile("c:\\p.tlf", paletteFile(16, [](int i) { return static_cast<unsigned>(i) * 99; }));
     EXPECT_FALSE(app_.OpenFiles({"c:\\a.tmf", "c:\\gone.tmf", "c:\\p.tlf"}, true));
     EXPECT_EQ(windows(), 1U);
@@ -108,7 +92,7 @@ TEST_F(FilesTest, OneBadFileDoesNotKeepTheOthersFromOpening) {
 
 TEST_F(FilesTest, AnOpenFileIsBroughtToTheFrontAndNotOpenedAgain) {
     openAndDraw();
-    fake_.files.putFile("c:\\b.tmf", imageFile(texels(4, 4, [](int, int) { return 1U; }), 4));
+    putImages(fake_, {"c:\\b.tmf"});
     ASSERT_TRUE(app_.OpenDocumentFile("c:\\b.tmf"));
     ASSERT_EQ(image().pathName(), "c:\\b.tmf");
     EXPECT_TRUE(app_.OpenDocumentFile("C:\\TEX\\PIC.TMF"));
@@ -126,9 +110,9 @@ TEST_F(FilesTest, ClosingAPaletteLeavesItsImagesWithoutOne) {
     EXPECT_EQ(app_.paletteBarCell(), -1);
 
     const auto shown = [this] { return view().viewport()->grab().toImage(); };
-    app_.mainFrame().activeChild()->resize(120, 100);
+    frame().activeChild()->resize(120, 100);
     ASSERT_TRUE(run(ID_ZOOM_X16));
-    app_.mainFrame().activeChild()->resize(120, 100);
+    frame().activeChild()->resize(120, 100);
     view().verticalScrollBar()->setValue(0);
     const QImage words = shown();
     view().verticalScrollBar()->setValue(40);
@@ -149,12 +133,9 @@ TEST_F(FilesTest, APaletteThatIsOpenedAgainColoursItsImages) {
 
 TEST_F(FilesTest, ASavedPaletteLosesItsMarkInTheTitleOfItsImageToo) {
     openAndDraw();
-    TextureLookupTable& palette = *app_.paletteSet()->lookup("");
-    palette.beginEdit();
-    palette.setEntry(3, 0x1234);
-    palette.commitEdit();
-    palette.undo();
-    palette.redo();
+    changePalette();
+    app_.paletteSet()->lookup("")->undo();
+    app_.paletteSet()->lookup("")->redo();
     app_.RefreshImagePalettes();
     ASSERT_NE(image().title().find("[pic * ]"), std::string::npos) << image().title();
     ASSERT_TRUE(run(ID_PALETTE_SAVE));
@@ -174,7 +155,7 @@ TEST_F(FilesTest, SaveAsGivesThePaletteAndTheImageNewNames) {
     EXPECT_EQ(image().pathName(), "c:\\tex\\new.tmf");
     EXPECT_EQ(fake_.files.textOf("c:\\tex\\new.tmf")->size(), 64U + 64U);
 
-    fake_.files.putFile("c:\\other.tmf", imageFile(texels(4, 4, [](int, int) { return 1U; }), 4));
+    putImages(fake_, {"c:\\other.tmf"});
     ASSERT_TRUE(app_.OpenDocumentFile("c:\\other.tmf"));
     fake_.dialogs.answerWith("c:\\tex\\NEW.tmf");
     run(ID_FILE_SAVE_AS);
@@ -214,21 +195,25 @@ TEST_F(FilesTest, AnImportedBitmapIsAnImageAndAPaletteAndIsExportedAsTheSameFile
     EXPECT_FALSE(image().hasUnsavedChanges()) << "its own file: that saves it";
 }
 
-TEST_F(FilesTest, DroppedFilesOpen) {
-    fake_.files.putFile("c:\\a b.tmf", imageFile(texels(4, 4, [](int, int) { return 1U; }), 4));
+TEST_F(FilesTest, DroppedFilesOpenAndAreCopiedEvenWhenTheyAreMoved) {
+    putImages(fake_, {"c:\\a b.tmf"});
     fake_.files.putFile("c:\\p.tlf", paletteFile(16, [](int) { return 1U; }));
     QMimeData files;
-    files.setUrls({QUrl::fromLocalFile(QString::fromStdString(fake_.files.hostPath("c:\\a b.tmf"))),
-                   QUrl::fromLocalFile(QString::fromStdString(fake_.files.hostPath("c:\\p.tlf"))),
-                   QUrl(QStringLiteral("https://example.com/c.tmf"))});
-    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&app_.mainFrame(), &enter);
-    EXPECT_TRUE(enter.isAccepted());
-    QDropEvent drop({10, 10}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&app_.mainFrame(), &drop);
+    files.setUrls({QUrl::fromLocalFile(onHost(fake_, "c:\\a b.tmf")),
+                   QUrl::fromLocalFile(onHost(fake_, "c:\\p.tlf")), QUrl("https://example.com/c.tmf")});
+    const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter({10, 10}, offered, &files, Qt::LeftButton, Qt::ShiftModifier);
+    QDropEvent drop({10, 10}, offered, &files, Qt::LeftButton, Qt::ShiftModifier);
+    for (QDropEvent* event : {static_cast<QDropEvent*>(&enter), &drop}) {
+        EXPECT_EQ(windows(), 0U);
+        event->setDropAction(Qt::MoveAction);
+        QCoreApplication::sendEvent(&frame(), event);
+        EXPECT_TRUE(event->isAccepted());
+        EXPECT_EQ(event->dropAction(), Qt::CopyAction);
+    }
     EXPECT_EQ(windows(), 1U);
     EXPECT_EQ(app_.paletteSet()->palettes.size(), 1U);
-    EXPECT_THAT(texts(), IsEmpty());
+    EXPECT_THAT(texts(fake_), IsEmpty());
 }
 
 } // namespace

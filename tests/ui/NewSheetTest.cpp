@@ -3,12 +3,14 @@
 #include "ui/CFileNewSheet.h"
 #include "ui/CFileNewTexturePage.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QShowEvent>
 #include <QTabBar>
+#include <QTabWidget>
+
+#include <tuple>
 
 namespace dyeworks {
 namespace {
@@ -19,15 +21,19 @@ protected:
         sheet_.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&sheet_));
     }
+    void showOnly(const PropertyPage& page) {
+        sheet_.keepOnly(page);
+        show();
+    }
     template <typename Widget>
     Widget& find(const char* name) {
-        return *sheet_.findChild<Widget*>(QString::fromLatin1(name));
+        return *sheet_.findChild<Widget*>(name);
     }
     void type(const char* field, const char* text) {
         auto& edit = find<QLineEdit>(field);
         edit.setFocus();
         edit.clear();
-        QTest::keyClicks(&edit, QString::fromLatin1(text));
+        QTest::keyClicks(&edit, text);
     }
     void press(const char* button) { find<QAbstractButton>(button).click(); }
     QTabBar& tabs() { return *sheet_.findChild<QTabBar*>(); }
@@ -37,8 +43,7 @@ protected:
 };
 
 TEST_F(NewSheet, StaysOpenAtTheFieldThatIsOutOfRange) {
-    sheet_.keepOnly(sheet_.texturePage());
-    show();
+    showOnly(sheet_.texturePage());
     for (const char* text : {"1025", "-1", "", "6x", "99999999999"}) {
         fake_.messages.shown.clear();
         type("IDC_TEXTURE_HEIGHT", text);
@@ -48,7 +53,7 @@ TEST_F(NewSheet, StaysOpenAtTheFieldThatIsOutOfRange) {
         ASSERT_EQ(fake_.messages.shown.size(), 1U) << text;
         EXPECT_EQ(fake_.messages.shown[0].text, "Please enter an integer between 0 and 1024.");
         EXPECT_EQ(sheet_.focusWidget(), &find<QWidget>("IDC_TEXTURE_HEIGHT_SPIN")) << text;
-        EXPECT_EQ(find<QLineEdit>("IDC_TEXTURE_HEIGHT").selectedText(), QString::fromLatin1(text));
+        EXPECT_EQ(find<QLineEdit>("IDC_TEXTURE_HEIGHT").selectedText(), text);
     }
     type("IDC_TEXTURE_HEIGHT", "0");
     press("IDOK");
@@ -57,61 +62,43 @@ TEST_F(NewSheet, StaysOpenAtTheFieldThatIsOutOfRange) {
 }
 
 TEST_F(NewSheet, SpinButtonsStopShortOfTheTypedZero) {
-    sheet_.keepOnly(sheet_.texturePage());
-    show();
-    const struct {
-        const char* from;
-        Qt::Key key;
-        const char* to;
-    } cases[] = {{"2", Qt::Key_Down, "1"},        {"1", Qt::Key_Down, "1"},     {"0", Qt::Key_Up, "1"},
-                 {"0", Qt::Key_Down, "0"},        {"1023", Qt::Key_Up, "1024"}, {"1024", Qt::Key_Up, "1024"},
-                 {"1020", Qt::Key_PageUp, "1024"}};
+    showOnly(sheet_.texturePage());
+    const std::tuple<const char*, Qt::Key, const char*> cases[] = {
+        {"2", Qt::Key_Down, "1"},        {"1", Qt::Key_Down, "1"},     {"0", Qt::Key_Up, "1"},
+        {"0", Qt::Key_Down, "0"},        {"1023", Qt::Key_Up, "1024"}, {"1024", Qt::Key_Up, "1024"},
+        {"1020", Qt::Key_PageUp, "1024"}};
     for (const auto& [from, key, to] : cases) {
         type("IDC_TEXTURE_WIDTH", from);
         QTest::keyClick(&find<QWidget>("IDC_TEXTURE_WIDTH_SPIN"), key);
-        EXPECT_EQ(find<QLineEdit>("IDC_TEXTURE_WIDTH").text().toStdString(), to) << from;
+        EXPECT_EQ(find<QLineEdit>("IDC_TEXTURE_WIDTH").text(), to) << from;
     }
 }
 
 TEST_F(NewSheet, AlphaGoesAsFarAsTheColourType) {
-    sheet_.keepOnly(sheet_.palettePage());
-    show();
-    const struct {
-        const char* type;
-        const char* alpha;
-        const char* refusal; // Null: taken.
-    } cases[] = {
-        {"IDC_COLORTYPE_RGBA", "1", nullptr},
-        {"IDC_COLORTYPE_RGBA", "2", "Please enter an integer between 0 and 1."},
-        {"IDC_COLORTYPE_IA", "2", nullptr},
-        {"IDC_COLORTYPE_IA", "255", nullptr},
-        {"IDC_COLORTYPE_IA", "256", "Please enter an integer between 0 and 255."},
-        {"IDC_COLORTYPE_IA", "", "Please enter an integer between 0 and 255."},
-        {"IDC_COLORTYPE_RGBA", "200", "Please enter an integer between 0 and 1."},
-    };
+    showOnly(sheet_.palettePage());
+    const char* const rgba = "IDC_COLORTYPE_RGBA";
+    const char* const ia = "IDC_COLORTYPE_IA";
+    const std::string none, upTo1 = "Please enter an integer between 0 and 1.",
+                            upTo255 = "Please enter an integer between 0 and 255.";
+    const std::tuple<const char*, const char*, std::string> cases[] = {
+        {rgba, "1", none},    {rgba, "2", upTo1}, {ia, "2", none},     {ia, "255", none},
+        {ia, "256", upTo255}, {ia, "", upTo255},  {rgba, "200", upTo1}};
     for (const auto& [colourType, alpha, refusal] : cases) {
+        SCOPED_TRACE(std::string(colourType) + " " + alpha);
         show();
         type("IDC_DEFAULT_ALPHA", alpha);
         press(colourType); // After the number, which the new range then has to hold.
         fake_.messages.shown.clear();
         press("IDOK");
-        EXPECT_EQ(sheet_.isVisible(), refusal != nullptr) << colourType << " " << alpha;
-        EXPECT_EQ(fake_.messages.lastText(), refusal == nullptr ? "" : refusal) << colourType << " " << alpha;
-        if (refusal == nullptr) {
+        EXPECT_EQ(sheet_.isVisible(), !refusal.empty());
+        EXPECT_EQ(fake_.messages.lastText(), refusal);
+        const auto& field = find<QLineEdit>("IDC_DEFAULT_ALPHA");
+        if (refusal.empty())
             EXPECT_EQ(sheet_.palettePage().defaultAlpha(), std::stoi(alpha));
-        } else {
-            EXPECT_TRUE(find<QLineEdit>("IDC_DEFAULT_ALPHA").hasFocus() ||
-                        sheet_.focusWidget() == find<QLineEdit>("IDC_DEFAULT_ALPHA").parentWidget());
-        }
+        else
+            EXPECT_TRUE(field.hasFocus() || sheet_.focusWidget() == field.parentWidget());
     }
     EXPECT_EQ(sheet_.palettePage().colourType(), ColourType::Ia) << "what was refused is not taken over";
-}
-
-TEST_F(NewSheet, TellsTheSizeOfThePalettesFile) {
-    auto& size = find<QLabel>("IDC_PALETTE_SIZE");
-    EXPECT_EQ(size.text(), QStringLiteral("96 bytes"));
-    sheet_.palettePage().findChild<QRadioButton*>(QStringLiteral("IDC_BITMODE_8BIT"))->click();
-    EXPECT_EQ(size.text(), QStringLiteral("576 bytes"));
 }
 
 TEST_F(NewSheet, KnowsThePageThatWasInFront) {
@@ -135,38 +122,38 @@ TEST_F(NewSheet, KnowsThePageThatWasInFront) {
     EXPECT_EQ(sheet_.focusWidget(), &find<QWidget>("IDC_TEXTURE_WIDTH_SPIN"));
 }
 
-TEST_F(NewSheet, CancelChangesNoValue) {
+TEST_F(NewSheet, TellsTheSizeOfAPalettesFileAndCancelChangesNoValue) {
     show();
     type("IDC_TEXTURE_WIDTH", "7");
-    sheet_.palettePage().findChild<QRadioButton*>(QStringLiteral("IDC_BITMODE_8BIT"))->click();
+    EXPECT_EQ(find<QLabel>("IDC_PALETTE_SIZE").text(), "96 bytes");
+    sheet_.palettePage().findChild<QRadioButton*>("IDC_BITMODE_8BIT")->click();
+    EXPECT_EQ(find<QLabel>("IDC_PALETTE_SIZE").text(), "576 bytes");
     press("IDCANCEL");
     EXPECT_EQ(sheet_.texturePage().imageWidth(), 64);
     EXPECT_EQ(sheet_.palettePage().entryCount(), 16);
     show();
-    EXPECT_EQ(find<QLineEdit>("IDC_TEXTURE_WIDTH").text(), QStringLiteral("64"));
+    EXPECT_EQ(find<QLineEdit>("IDC_TEXTURE_WIDTH").text(), "64");
     press("IDOK");
     EXPECT_EQ(sheet_.palettePage().entryCount(), 16);
 }
 
 TEST_F(NewSheet, KeepsWhatIsTypedWhileItIsAnIcon) {
-    sheet_.keepOnly(sheet_.texturePage());
-    show();
+    showOnly(sheet_.texturePage());
     type("IDC_TEXTURE_HEIGHT", "31");
     QShowEvent back;
     QSpontaneKeyEvent::setSpontaneous(&back);
     // Not by sendEvent, which calls every event one of the program.
     qApp->notify(&sheet_, &back);
-    EXPECT_EQ(find<QLineEdit>("IDC_TEXTURE_HEIGHT").text(), QStringLiteral("31"));
+    EXPECT_EQ(find<QLineEdit>("IDC_TEXTURE_HEIGHT").text(), "31");
     EXPECT_EQ(sheet_.focusWidget(), &find<QWidget>("IDC_TEXTURE_HEIGHT_SPIN"));
 }
 
 TEST_F(NewSheet, PagesTakenOutHoldNothingUp) {
-    find<QLineEdit>("IDC_TEXTURE_WIDTH").setText(QStringLiteral("x"));
-    sheet_.keepOnly(sheet_.palettePage());
-    show();
+    find<QLineEdit>("IDC_TEXTURE_WIDTH").setText("x");
+    showOnly(sheet_.palettePage());
     EXPECT_TRUE(tabs().isVisible());
     ASSERT_EQ(tabs().count(), 1);
-    EXPECT_EQ(tabs().tabText(0), QStringLiteral("Palette"));
+    EXPECT_EQ(tabs().tabText(0), "Palette");
     EXPECT_FALSE(sheet_.texturePage().isVisible());
     press("IDOK");
     EXPECT_FALSE(sheet_.isVisible());
@@ -177,24 +164,17 @@ TEST_F(NewSheet, PagesTakenOutHoldNothingUp) {
 class NewCommand : public Program {
 protected:
     NewCommand() { fake_.profile.setInteger("Settings", "UseNotify_AskUseProject", 0); }
-    /// Runs a command of the sheet and lets `answer` use the sheet.
-    void runNew(const std::function<void(CFileNewSheet&)>& answer, CommandId command = ID_FILE_NEW) {
-        QMetaObject::invokeMethod(
-            &app_.mainFrame(),
-            [&] {
-                auto* sheet = qobject_cast<CFileNewSheet*>(QApplication::activeModalWidget());
-                ASSERT_NE(sheet, nullptr);
-                answer(*sheet);
-            },
-            Qt::QueuedConnection);
+    /// Runs a command of the sheet and lets `use` have the sheet.
+    void runNew(CommandId command, const std::function<void(QDialog&)>& use) {
+        withNextDialog(use);
         ASSERT_TRUE(run(command));
     }
 };
 
 TEST_F(NewCommand, MakesTheImageThatTheSheetAsksFor) {
-    runNew([](CFileNewSheet& sheet) {
-        sheet.findChild<QLineEdit*>(QStringLiteral("IDC_TEXTURE_WIDTH"))->setText(QStringLiteral("33"));
-        sheet.findChild<QRadioButton*>(QStringLiteral("IDC_BITMODE_8BIT"))->click();
+    runNew(ID_FILE_NEW, [](QDialog& sheet) {
+        sheet.findChild<QLineEdit*>("IDC_TEXTURE_WIDTH")->setText("33");
+        sheet.findChild<QRadioButton*>("IDC_BITMODE_8BIT")->click();
         sheet.accept();
     });
     EXPECT_EQ(image().title(), "Texture1");
@@ -203,9 +183,9 @@ TEST_F(NewCommand, MakesTheImageThatTheSheetAsksFor) {
     EXPECT_EQ(image().canvas().height(), 64);
     EXPECT_EQ(image().canvas().bitsPerPixel(), 8);
 
-    runNew([](CFileNewSheet& sheet) { sheet.reject(); });
-    EXPECT_EQ(app_.mainFrame().childFrames().size(), 1U);
-    runNew([](CFileNewSheet& sheet) { sheet.accept(); });
+    runNew(ID_FILE_NEW, &QDialog::reject);
+    EXPECT_EQ(frame().childFrames().size(), 1U);
+    runNew(ID_FILE_NEW, &QDialog::accept);
     EXPECT_EQ(image().title(), "Texture2") << "cancelling uses up no number";
     EXPECT_EQ(image().canvas().bitsPerPixel(), 4);
 
@@ -214,24 +194,21 @@ TEST_F(NewCommand, MakesTheImageThatTheSheetAsksFor) {
 }
 
 TEST_F(NewCommand, MakesThePaletteThatTheSheetAsksFor) {
-    runNew(
-        [](CFileNewSheet& sheet) {
-            const auto press = [&](const char* name) {
-                sheet.palettePage().findChild<QRadioButton*>(QString::fromLatin1(name))->click();
-            };
-            press("IDC_BITMODE_8BIT");
-            press("IDC_COLORTYPE_IA");
-            sheet.findChild<QLineEdit*>(QStringLiteral("IDC_DEFAULT_ALPHA"))->setText(QStringLiteral("200"));
-            sheet.accept();
-        },
-        ID_PALETTE_NEW);
+    runNew(ID_PALETTE_NEW, [](QDialog& sheet) {
+        EXPECT_EQ(sheet.findChild<QTabWidget*>()->count(), 1);
+        for (const char* choice : {"IDC_BITMODE_8BIT", "IDC_COLORTYPE_IA"})
+            sheet.findChild<QRadioButton*>(choice)->click();
+        sheet.findChild<QLineEdit*>("IDC_DEFAULT_ALPHA")->setText("200");
+        sheet.accept();
+    });
     const TextureLookupTable* palette = app_.paletteSet()->lookup("");
     ASSERT_NE(palette, nullptr);
     EXPECT_EQ(palette->table.colourType, ColourType::Ia);
     ASSERT_EQ(palette->table.count, 256);
+    EXPECT_EQ(palette->table.entries[255], 0xFFC8);
     for (int i = 0; i < 256; ++i)
         ASSERT_EQ(palette->table.getAlpha(i), 200) << i;
-    runNew([](CFileNewSheet& sheet) { sheet.reject(); }, ID_PALETTE_NEW);
+    runNew(ID_PALETTE_NEW, &QDialog::reject);
     EXPECT_EQ(app_.paletteSet()->lookup(""), palette);
 }
 

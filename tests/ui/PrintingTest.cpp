@@ -15,24 +15,20 @@ namespace dyeworks {
 namespace {
 
 TEST(PagePlan, CountsPagesAtTheEdge) {
-    const struct {
-        Size content;
-        int pages;
-    } cases[] = {{{0, 0}, 1},     {{1, 1}, 1},     {{100, 100}, 1},
-                 {{101, 100}, 2}, {{101, 101}, 4}, {{65536, 65536}, 656 * 656}};
-    for (const auto& c : cases)
-        EXPECT_EQ(PagePlan(c.content, {100, 100}, {96, 96}, {96, 96}).pageCount(), c.pages)
-            << c.content.width << " " << c.content.height;
+    const std::pair<Size, int> cases[] = {{{0, 0}, 1},     {{1, 1}, 1},     {{100, 100}, 1},
+                                          {{101, 100}, 2}, {{101, 101}, 4}, {{65536, 65536}, 656 * 656}};
+    for (const auto& [content, pages] : cases)
+        EXPECT_EQ(PagePlan(content, {100, 100}, {96, 96}, {96, 96}).pageCount(), pages) << content.width;
     EXPECT_EQ(PagePlan({3, 1}, {1, 1}, {96, 1200}, {96, 1200}).pageCount(), 3) << "paper below a pixel";
 }
 
 class Printing : public Program {
 protected:
     Printing() {
-        app_.mainFrame().printing().setChooser([this](QPrinter& printer) {
+        frame().printing().setChooser([this](QPrinter& printer) {
             ++asked_;
             printer.setOutputFormat(QPrinter::PdfFormat);
-            printer.setOutputFileName(folder_.filePath(QStringLiteral("out.pdf")));
+            printer.setOutputFileName(target());
             // The screen's resolution, so that a page read at it gives back the pixels.
             printer.setResolution(view().logicalDpiX());
             printer.setPageSize(QPageSize(QSizeF(216, 144), QPageSize::Point));
@@ -41,21 +37,23 @@ protected:
             return !cancelled_;
         });
     }
+    [[nodiscard]] QString target() const { return folder_.filePath(target_); }
+    void openPattern() {
+        openAttached(pattern(90, 70), 8, 256);
+        ASSERT_TRUE(run(ID_ZOOM_X6));
+    }
     /// The printed pages, read by a program that knows nothing of ours.
     std::vector<QImage> pages() {
-        const int dpi = view().logicalDpiX();
-        EXPECT_EQ(QProcess::execute(QStringLiteral("pdftoppm"),
-                                    {QStringLiteral("-r"), QString::number(dpi), QStringLiteral("-png"),
-                                     folder_.filePath(QStringLiteral("out.pdf")),
-                                     folder_.filePath(QStringLiteral("page"))}),
-                  0);
+        const QString dpi = QString::number(view().logicalDpiX());
+        EXPECT_EQ(QProcess::execute("pdftoppm", {"-r", dpi, "-png", target(), folder_.filePath("page")}), 0);
         std::vector<QImage> images;
-        for (const QString& name : QDir(folder_.path()).entryList({QStringLiteral("page*.png")}))
+        for (const QString& name : QDir(folder_.path()).entryList({"page*.png"}))
             images.emplace_back(folder_.filePath(name));
         return images;
     }
 
     QTemporaryDir folder_;
+    const char* target_ = "out.pdf";
     int asked_ = 0;
     bool cancelled_ = false;
     int firstPage_ = 0;
@@ -63,9 +61,7 @@ protected:
 };
 
 TEST_F(Printing, PagesHoldThePixelsOfTheViewAndWhitePaper) {
-    openAttached(texels(90, 70, [](int x, int y) { return static_cast<unsigned>(x * 7 + y * 13) & 255U; }), 8,
-                 256);
-    ASSERT_TRUE(run(ID_ZOOM_X6));
+    openPattern();
     ASSERT_TRUE(run(ID_FILE_PRINT));
     ASSERT_TRUE(fake_.messages.shown.empty());
     const std::vector<QImage> printed = pages();
@@ -90,11 +86,10 @@ TEST_F(Printing, PagesHoldThePixelsOfTheViewAndWhitePaper) {
 }
 
 TEST_F(Printing, PrintsTheChosenPagesAndNothingWhenCancelled) {
-    openAttached(texels(90, 70, [](int, int) { return 3U; }), 8, 256);
-    ASSERT_TRUE(run(ID_ZOOM_X6));
+    openPattern();
     cancelled_ = true;
     ASSERT_TRUE(run(ID_FILE_PRINT));
-    EXPECT_FALSE(QFile::exists(folder_.filePath(QStringLiteral("out.pdf"))));
+    EXPECT_FALSE(QFile::exists(target()));
     cancelled_ = false;
     firstPage_ = 2;
     lastPage_ = 4;
@@ -107,15 +102,10 @@ TEST_F(Printing, PrintsTheChosenPagesAndNothingWhenCancelled) {
 }
 
 TEST_F(Printing, FailuresAreTold) {
-    openAttached(texels(8, 8, [](int, int) { return 3U; }), 8, 256);
-    app_.mainFrame().printing().setChooser([this](QPrinter& printer) {
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(folder_.filePath(QStringLiteral("gone/out.pdf")));
-        return true;
-    });
+    openBlank();
+    target_ = "gone/out.pdf";
     ASSERT_TRUE(run(ID_FILE_PRINT));
-    ASSERT_EQ(fake_.messages.shown.size(), 1U);
-    EXPECT_EQ(fake_.messages.shown[0].text, "The document could not be printed.");
+    EXPECT_THAT(texts(fake_), ElementsAre("The document could not be printed."));
 }
 
 TEST_F(Printing, ThePreviewShowsAsManyPagesSideBySideAsTheLastOne) {
@@ -129,10 +119,10 @@ TEST_F(Printing, ThePreviewShowsAsManyPagesSideBySideAsTheLastOne) {
                 return;
             whenIdle.stop();
             for (QAction* action : preview->findChildren<QAction*>()) {
-                if (action->isChecked() && action->objectName().endsWith(QStringLiteral("ModeAction")))
+                if (action->isChecked() && action->objectName().endsWith("ModeAction"))
                     shown = action->objectName();
             }
-            preview->findChild<QAction*>(QString::fromLatin1(mode))->trigger();
+            preview->findChild<QAction*>(mode)->trigger();
             preview->close();
         });
         whenIdle.start();

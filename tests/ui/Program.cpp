@@ -1,5 +1,8 @@
 #include "Program.h"
 
+#include <QApplication>
+#include <QTimer>
+
 namespace dyeworks {
 
 namespace {
@@ -18,6 +21,10 @@ Texels texels(int width, int height, const std::function<unsigned(int x, int y)>
             image[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)] = valueAt(x, y);
     }
     return image;
+}
+
+Texels pattern(int width, int height) {
+    return texels(width, height, [](int x, int y) { return static_cast<unsigned>(x * 7 + y * 13) & 255U; });
 }
 
 std::string imageFile(const Texels& image, int bits) {
@@ -52,6 +59,30 @@ void defineControls(FakePlatform& fake) {
         fake.library.defineFile(control, std::string(DYEWORKS_CONTROL_FOLDER "/") + control);
 }
 
+void putImages(FakePlatform& fake, std::initializer_list<const char*> paths) {
+    for (const char* path : paths)
+        fake.files.putFile(path, imageFile(texels(4, 4, [](int, int) { return 1U; }), 4));
+}
+
+std::vector<std::string> texts(const FakePlatform& fake) {
+    std::vector<std::string> result;
+    for (const Message& message : fake.messages.shown)
+        result.push_back(message.text);
+    return result;
+}
+
+QString onHost(FakePlatform& fake, const std::string& path) {
+    return QString::fromStdString(fake.files.hostPath(path));
+}
+
+void withNextDialog(std::function<void(QDialog&)> use) {
+    QTimer::singleShot(0, qApp, [use = std::move(use)] {
+        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        use(*dialog);
+    });
+}
+
 Program::Program(const char* missingControl) {
     defineControls(fake_);
     fake_.library.forget(missingControl);
@@ -69,6 +100,23 @@ void Program::openAttached(const Texels& image, int bits, int paletteEntries) {
                         }));
     ASSERT_TRUE(app_.OpenFiles({"c:\\tex\\pic.tlf", "c:\\tex\\pic.tmf"}, true));
     ASSERT_TRUE(this->image().IsAttached());
+}
+
+void Program::openBlank() {
+    openAttached(texels(8, 8, [](int, int) { return 0U; }), 8, 256);
+}
+
+void Program::drawPixel(QPoint texel, int entry) {
+    ASSERT_TRUE(run(ID_TOOL_PIXEL));
+    app_.selectPaletteBarCell(entry);
+    drag({texel});
+}
+
+void Program::changePalette() {
+    TextureLookupTable& palette = *app_.paletteSet()->lookup("");
+    palette.beginEdit();
+    palette.setEntry(3, 0x1234);
+    palette.commitEdit();
 }
 
 CTPFDocument& Program::openProject(const std::vector<std::string>& pictures) {
@@ -94,18 +142,20 @@ QPoint Program::at(int x, int y) {
            static_cast<const ScrollView&>(view()).scrollPosition();
 }
 
+void Program::moveMouse(QPoint place, Qt::MouseButtons held, Qt::KeyboardModifiers modifiers) {
+    // QTest::mouseMove reports no button.
+    QMouseEvent move(QEvent::MouseMove, place, view().viewport()->mapToGlobal(place), Qt::NoButton, held,
+                     modifiers);
+    QCoreApplication::sendEvent(view().viewport(), &move);
+}
+
 void Program::drag(const std::vector<QPoint>& texelPath, Qt::KeyboardModifiers modifiers) {
     QWidget* viewport = view().viewport();
     const QPoint first = texelPath.front();
     const QPoint last = texelPath.back();
     QTest::mousePress(viewport, Qt::LeftButton, modifiers, at(first.x(), first.y()));
-    for (const QPoint& texel : texelPath) {
-        // QTest::mouseMove reports no button, so that the move has to be made by hand.
-        QMouseEvent move(QEvent::MouseMove, at(texel.x(), texel.y()),
-                         viewport->mapToGlobal(at(texel.x(), texel.y())), Qt::NoButton, Qt::LeftButton,
-                         modifiers);
-        QCoreApplication::sendEvent(viewport, &move);
-    }
+    for (const QPoint& texel : texelPath)
+        moveMouse(at(texel.x(), texel.y()), Qt::LeftButton, modifiers);
     QTest::mouseRelease(viewport, Qt::LeftButton, modifiers, at(last.x(), last.y()));
 }
 

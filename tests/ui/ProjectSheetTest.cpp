@@ -4,11 +4,9 @@
 #include "ui/ProjectPropertySheet.h"
 #include "ui/controls/ControlRegistration.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QPushButton>
-#include <QTimer>
 
 #include <optional>
 
@@ -17,8 +15,6 @@ namespace {
 
 using Directory = CFileNewProjectPage::Directory;
 
-constexpr const char* kButtons[] = {"IDC_TPF_DIR_BROWSE", "IDC_TMF_DIR_BROWSE", "IDC_TLF_DIR_BROWSE"};
-
 class ProjectPage : public testing::Test {
 protected:
     void make() {
@@ -26,29 +22,25 @@ protected:
         ASSERT_TRUE(registerControl("FolderPick.ocx"));
         page_.emplace();
     }
-    QLineEdit& edit(const char* name) { return *page_->findChild<QLineEdit*>(QString::fromLatin1(name)); }
-    QPushButton& button(const char* name) {
-        return *page_->findChild<QPushButton*>(QString::fromLatin1(name));
-    }
+    QLineEdit& edit(const char* name) { return *page_->findChild<QLineEdit*>(name); }
+    QPushButton& button(const char* name) { return *page_->findChild<QPushButton*>(name); }
     /// Answers the folder dialog that `press` opens; the folder that it began at.
     std::string choose(const char* press, const std::optional<std::string>& folder) {
         std::string began;
-        QTimer::singleShot(0, &button(press), [&] {
-            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            ASSERT_NE(dialog, nullptr);
-            began = fake_.files.fromHostPath(dialog->directory().canonicalPath().toStdString());
+        withNextDialog([&](QDialog& shown) {
+            auto& dialog = dynamic_cast<QFileDialog&>(shown);
+            began = fake_.files.fromHostPath(dialog.directory().canonicalPath().toStdString());
             if (!folder)
-                return dialog->reject();
-            dialog->selectFile(QString::fromStdString(fake_.files.hostPath(*folder)));
-            QMetaObject::invokeMethod(dialog, "accept");
+                return dialog.reject();
+            dialog.selectFile(onHost(fake_, *folder));
+            QMetaObject::invokeMethod(&dialog, "accept");
         });
         button(press).click();
         return began;
     }
     /// Without the drive.
     std::string real(const std::string& path) {
-        return fake_.files.fromHostPath(
-            QDir(QString::fromStdString(fake_.files.hostPath(path))).canonicalPath().toStdString());
+        return fake_.files.fromHostPath(QDir(onHost(fake_, path)).canonicalPath().toStdString());
     }
 
     FakePlatform fake_;
@@ -59,19 +51,19 @@ TEST_F(ProjectPage, TheChosenFolderReplacesAllThatIsInTheField) {
     for (const char* folder : {"c:\\old", "c:\\new"})
         fake_.files.createDirectory(folder);
     make();
-    edit("IDC_TPF_NAME").setText(QStringLiteral("sky"));
-    edit("IDC_TMF_DIR").setText(QStringLiteral("c:/old"));
+    edit("IDC_TPF_NAME").setText("sky");
+    edit("IDC_TMF_DIR").setText("c:/old");
     EXPECT_EQ(choose("IDC_TMF_DIR_BROWSE", "c:\\new"), real("c:\\old"));
     EXPECT_EQ(page_->values().imageDirectories, real("c:\\new"));
     EXPECT_EQ(edit("IDC_TMF_DIR").text().toStdString(), real("c:\\new"));
-    EXPECT_EQ(edit("IDC_TPF_NAME").text(), QStringLiteral("sky")) << "the other fields stay as typed";
+    EXPECT_EQ(edit("IDC_TPF_NAME").text(), "sky") << "the other fields stay as typed";
     EXPECT_EQ(page_->values().name, "sky");
 
     EXPECT_EQ(choose("IDC_TMF_DIR_BROWSE", std::nullopt), real("c:\\new"));
     EXPECT_EQ(page_->values().imageDirectories, real("c:\\new"));
 
     EXPECT_EQ(choose("IDC_TLF_DIR_BROWSE", "c:\\old"), real(fake_.files.currentDirectory()));
-    edit("IDC_TLF_DIR").setText(QStringLiteral("c:/old;c:/new"));
+    edit("IDC_TLF_DIR").setText("c:/old;c:/new");
     choose("IDC_TLF_DIR_BROWSE", "c:\\new");
     EXPECT_EQ(page_->values().paletteDirectories, real("c:\\new"));
     choose("IDC_TPF_DIR_BROWSE", "c:\\old");
@@ -80,13 +72,13 @@ TEST_F(ProjectPage, TheChosenFolderReplacesAllThatIsInTheField) {
 
 TEST_F(ProjectPage, WithoutTheChooserFoldersCanBeTyped) {
     page_.emplace();
-    for (const char* name : kButtons) {
+    for (const char* name : {"IDC_TPF_DIR_BROWSE", "IDC_TMF_DIR_BROWSE", "IDC_TLF_DIR_BROWSE"}) {
         EXPECT_FALSE(button(name).isEnabled()) << name;
-        EXPECT_TRUE(button(name).toolTip().contains(QStringLiteral("FolderPick.ocx is not found")));
+        EXPECT_TRUE(button(name).toolTip().contains("FolderPick.ocx is not found"));
     }
-    edit("IDC_TMF_DIR").setText(QStringLiteral("typed"));
+    edit("IDC_TMF_DIR").setText("typed");
     page_->ChooseFolder(Directory::Images);
-    EXPECT_EQ(edit("IDC_TMF_DIR").text(), QStringLiteral("typed"));
+    EXPECT_EQ(edit("IDC_TMF_DIR").text(), "typed");
 }
 
 TEST_F(ProjectPage, AFixedNameLeavesTheOtherDirectoriesToChange) {
@@ -96,7 +88,7 @@ TEST_F(ProjectPage, AFixedNameLeavesTheOtherDirectoriesToChange) {
         EXPECT_EQ(edit("IDC_TPF_DIR").isEnabled(), !fixed);
         EXPECT_EQ(button("IDC_TPF_DIR_BROWSE").isEnabled(), !fixed);
         for (const char* name : {"IDC_TMF_DIR", "IDC_TMF_DIR_BROWSE", "IDC_TLF_DIR", "IDC_TLF_DIR_BROWSE"})
-            EXPECT_TRUE(page_->findChild<QWidget*>(QString::fromLatin1(name))->isEnabled()) << name;
+            EXPECT_TRUE(page_->findChild<QWidget*>(name)->isEnabled()) << name;
     };
     expectFixed(false);
     page_->setNameFixed(true);
@@ -114,14 +106,12 @@ TEST(ProjectPropertySheetTest, GivesBackTheProjectsOwnValuesWhenNothingIsTyped) 
     ProjectPropertySheet sheet(values);
     sheet.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&sheet));
-    const auto edit = [&](const char* name) {
-        return sheet.findChild<QLineEdit*>(QString::fromLatin1(name));
-    };
+    const auto edit = [&](const char* name) { return sheet.findChild<QLineEdit*>(name); };
     EXPECT_EQ(edit("IDC_TMF_DIR")->text().toStdString(), fake.files.displayPath("c:\\sky\\Tex") + ";../more");
-    EXPECT_EQ(edit("IDC_TPF_NAME")->text(), QStringLiteral("Sky *"));
+    EXPECT_EQ(edit("IDC_TPF_NAME")->text(), "Sky *");
     EXPECT_FALSE(edit("IDC_TPF_NAME")->isEnabled());
     EXPECT_TRUE(edit("IDC_TMF_DIR")->hasFocus()) << "the first field that can be changed";
-    edit("IDC_TLF_DIR")->setText(QStringLiteral("/home/kei/tex/"));
+    edit("IDC_TLF_DIR")->setText("/home/kei/tex/");
     sheet.accept();
     EXPECT_EQ(sheet.values().projectDirectory, values.projectDirectory);
     EXPECT_EQ(sheet.values().imageDirectories, values.imageDirectories);
@@ -131,20 +121,17 @@ TEST(ProjectPropertySheetTest, GivesBackTheProjectsOwnValuesWhenNothingIsTyped) 
 TEST(PathEditTest, TakesEitherFormAndLeavesRelativePathsRelative) {
     const FakePlatform fake;
     PathEdit edit("edit");
-    const struct {
-        const char* typed;
-        const char* path;
-    } cases[] = {{"/home/kei/tex", "\\home\\kei\\tex"},
-                 {"//home//kei", "\\home\\kei"},
-                 {"c:/tex", "c:\\tex"},
-                 {"c:\\tex", "c:\\tex"},
-                 {"../tex/sky", "..\\tex\\sky"},
-                 {"tex", "tex"},
-                 {"/a;b/c;;c:/d", "\\a;b\\c;;c:\\d"},
-                 {"", ""}};
+    const std::pair<const char*, const char*> cases[] = {{"/home/kei/tex", "\\home\\kei\\tex"},
+                                                         {"//home//kei", "\\home\\kei"},
+                                                         {"c:/tex", "c:\\tex"},
+                                                         {"c:\\tex", "c:\\tex"},
+                                                         {"../tex/sky", "..\\tex\\sky"},
+                                                         {"tex", "tex"},
+                                                         {"/a;b/c;;c:/d", "\\a;b\\c;;c:\\d"},
+                                                         {"", ""}};
     for (const auto& [typed, path] : cases) {
         edit.setPath("c:\\before");
-        edit.setText(QString::fromLatin1(typed));
+        edit.setText(typed);
         EXPECT_EQ(edit.path(), path) << typed;
     }
 }

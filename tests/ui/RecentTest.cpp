@@ -3,18 +3,7 @@
 namespace dyeworks {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-class Recent : public Program {
-protected:
-    void putImage(const char* path) {
-        fake_.files.putFile(path, imageFile(texels(4, 4, [](int, int) { return 1U; }), 4));
-    }
-    void putPalette(const char* path) {
-        fake_.files.putFile(path, paletteFile(16, [](int) { return 1U; }));
-    }
-};
+using Recent = Program;
 
 TEST_F(Recent, FilesGoIntoTheListOfTheirLastFourCharacters) {
     for (const char* path : {"c:\\a.TPF", "c:\\a.Tmf", "c:\\a.tLF", "c:\\a.tmf.bak", "c:\\.tlf", "c:\\x"})
@@ -26,9 +15,7 @@ TEST_F(Recent, FilesGoIntoTheListOfTheirLastFourCharacters) {
 
 TEST_F(Recent, TheMenuShowsThePlaceholderOrTheEntries) {
     CommandUi first = app_.router().state(ID_RECENT_IMAGE_FIRST);
-    EXPECT_TRUE(first.visible);
-    EXPECT_FALSE(first.enabled);
-    EXPECT_FALSE(first.text.has_value());
+    EXPECT_TRUE(first.visible && !first.enabled && !first.text.has_value());
     EXPECT_FALSE(app_.router().state(ID_RECENT_IMAGE_FIRST + 1).visible);
     EXPECT_FALSE(run(ID_RECENT_IMAGE_FIRST));
 
@@ -37,18 +24,21 @@ TEST_F(Recent, TheMenuShowsThePlaceholderOrTheEntries) {
     EXPECT_EQ(app_.router().state(ID_RECENT_IMAGE_FIRST).text, "&1 4.tmf");
     const CommandUi last = app_.router().state(ID_RECENT_IMAGE_FIRST + 3);
     EXPECT_EQ(last.text, "&4 a&&b.tmf");
-    EXPECT_TRUE(last.visible);
-    EXPECT_TRUE(last.enabled);
+    EXPECT_TRUE(last.visible && last.enabled);
     EXPECT_FALSE(app_.router().state(ID_RECENT_IMAGE_FIRST + 4).visible);
     EXPECT_FALSE(app_.router().state(ID_RECENT_IMAGE_LAST).visible);
     EXPECT_FALSE(run(ID_RECENT_IMAGE_FIRST + 4));
 }
 
-TEST_F(Recent, OpeningAndSavingUnderAnotherNamePutFilesFirst) {
-    putImage("c:\\a.tmf");
-    putImage("c:\\b.tmf");
-    putPalette("c:\\p.tlf");
-    ASSERT_TRUE(app_.OpenFiles({"c:\\a.tmf", "p.TLF", "c:\\b.tmf"}, false));
+TEST_F(Recent, EntriesOpenTheirFilesAndWhatIsOpenedOrSavedUnderAnotherNameIsFirst) {
+    putImages(fake_, {"c:\\a.tmf", "c:\\b.tmf"});
+    fake_.files.putFile("c:\\p.tlf", paletteFile(16, [](int) { return 1U; }));
+    app_.AddToRecentFileList("c:\\a.tmf");
+    app_.AddToRecentFileList("c:\\b.tmf");
+    ASSERT_TRUE(run(ID_RECENT_IMAGE_FIRST + 1));
+    EXPECT_NE(app_.FindOpenDocument("C:\\A.TMF"), nullptr);
+    EXPECT_THAT(app_.recentImages().paths(), ElementsAre("c:\\a.tmf", "c:\\b.tmf"));
+    ASSERT_TRUE(app_.OpenFiles({"p.TLF", "c:\\b.tmf"}, false));
     EXPECT_THAT(app_.recentImages().paths(), ElementsAre("c:\\b.tmf", "c:\\a.tmf"));
     EXPECT_THAT(app_.recentPalettes().paths(), ElementsAre("c:\\p.TLF"));
     fake_.dialogs.answerWith("c:\\c.tmf");
@@ -56,15 +46,6 @@ TEST_F(Recent, OpeningAndSavingUnderAnotherNamePutFilesFirst) {
     EXPECT_THAT(app_.recentImages().paths(), ElementsAre("c:\\c.tmf", "c:\\b.tmf", "c:\\a.tmf"));
     ASSERT_FALSE(app_.OpenDocumentFile("c:\\gone.tmf"));
     EXPECT_EQ(app_.recentImages().paths().size(), 3U);
-}
-
-TEST_F(Recent, AnEntryOpensItsFile) {
-    putImage("c:\\a.tmf");
-    app_.AddToRecentFileList("c:\\a.tmf");
-    app_.AddToRecentFileList("c:\\b.tmf");
-    ASSERT_TRUE(run(ID_RECENT_IMAGE_FIRST + 1));
-    EXPECT_NE(app_.FindOpenDocument("C:\\A.TMF"), nullptr);
-    EXPECT_THAT(app_.recentImages().paths(), ElementsAre("c:\\a.tmf", "c:\\b.tmf"));
 }
 
 TEST_F(Recent, OnlyAPaletteThatFailsToOpenLeavesItsList) {

@@ -17,20 +17,16 @@ protected:
     QImage expected(int scale = 1, const std::optional<SelectionLook>& selection = std::nullopt) {
         const QPoint origin = static_cast<ScrollView&>(view()).scrollPosition();
         QImage picture(view().viewport()->size(), QImage::Format_RGB32);
-        Surface surface{reinterpret_cast<std::uint32_t*>(picture.bits()),
-                        picture.width(),
-                        picture.height(),
-                        picture.bytesPerLine() / 4,
-                        origin.x(),
-                        origin.y()};
+        auto* const pixels = reinterpret_cast<std::uint32_t*>(picture.bits());
+        const QSize size = picture.size();
+        Surface surface{pixels, size.width(), size.height(), size.width(), origin.x(), origin.y()};
         ViewLook look;
         look.zoom = view().view().zoom();
         look.gridShown = view().view().gridShown();
         look.outsideColour = view().palette().color(QPalette::Button).rgb();
         look.selection = selection;
-        ViewRenderer(image().canvas(), look)
-            .draw(surface,
-                  {origin.x(), origin.y(), origin.x() + picture.width(), origin.y() + picture.height()});
+        const Rect all{origin.x(), origin.y(), origin.x() + size.width(), origin.y() + size.height()};
+        ViewRenderer(image().canvas(), look).draw(surface, all);
         QImage enlarged = picture.scaled(picture.size() * scale);
         enlarged.setDevicePixelRatio(scale);
         return enlarged;
@@ -48,16 +44,12 @@ protected:
     }
 };
 
-Texels pattern(int width, int height) {
-    return texels(width, height, [](int x, int y) { return static_cast<unsigned>(x * 7 + y * 13) & 255U; });
-}
-
 TEST_F(Rendering, IsWhatTheRendererDrawsWhereverItIsScrolledAtAnyScale) {
     openAttached(pattern(90, 70), 8, 256);
     const SelectionLook selection{{5, 4, 30, 26}, nullptr, 10, false};
     for (const CommandId zoom : {ID_ZOOM_X1, ID_ZOOM_X3, ID_ZOOM_X16}) {
         ASSERT_TRUE(run(zoom));
-        app_.mainFrame().activeChild()->resize(300, 250);
+        frame().activeChild()->resize(300, 250);
         for (const QPoint scroll : {QPoint(0, 0), QPoint(37, 101), QPoint(9999, 9999)}) {
             static_cast<ScrollView&>(view()).scrollTo(scroll);
             EXPECT_EQ(shown(), expected()) << zoom << " " << scroll.x();
@@ -84,7 +76,7 @@ TEST_F(Rendering, TheBorderOfASelectionMovesUntilItIsCleared) {
 
 TEST_F(Rendering, ARedrawRequestLimitsNothingOutsideItsRectangle) {
     openAttached(pattern(90, 70), 8, 256);
-    app_.mainFrame().activeChild()->resize(300, 250);
+    frame().activeChild()->resize(300, 250);
     const Rect selection{50, 40, 70, 60};
     view().view().SetSelection(selection, false);
     view().view().ShowDragFrame({2, 2, 20, 20}, CDyeworksView::kRedrawDrag);
@@ -98,19 +90,19 @@ TEST_F(Rendering, ReturnsAsItWasLeftWhenTheFileIsOpenedAgain) {
     ASSERT_TRUE(run(ID_ZOOM_X8));
     ASSERT_TRUE(run(ID_VIEW_GRID));
     const QRect place(40, 30, 311, 257);
-    app_.mainFrame().activeChild()->setGeometry(place);
+    frame().activeChild()->setGeometry(place);
     static_cast<ScrollView&>(view()).scrollTo({203, 120});
     const QImage left = shown();
     for (const bool maximised : {false, true}) {
         if (maximised)
-            app_.mainFrame().activeChild()->showMaximized();
+            frame().activeChild()->showMaximized();
         ASSERT_TRUE(run(ID_FILE_CLOSE));
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         ASSERT_TRUE(app_.OpenDocumentFile("c:\\tex\\pic.tmf"));
-        ChildFrame& frame = *app_.mainFrame().activeChild();
-        EXPECT_EQ(frame.isMaximized(), maximised);
+        ChildFrame& child = *frame().activeChild();
+        EXPECT_EQ(child.isMaximized(), maximised);
         if (!maximised) {
-            EXPECT_EQ(frame.geometry(), place);
+            EXPECT_EQ(child.geometry(), place);
             EXPECT_EQ(shown(), left);
         }
     }
@@ -122,7 +114,7 @@ TEST_F(Rendering, ReturnsAsItWasLeftWhenTheFileIsOpenedAgain) {
 TEST_F(Rendering, CtrlAndWheelZoomAroundThePointerAndWheelScrolls) {
     openAttached(pattern(200, 150), 8, 256);
     // A frame that follows the zoom would leave nothing to scroll.
-    app_.mainFrame().activeChild()->showMaximized();
+    frame().activeChild()->showMaximized();
     ASSERT_TRUE(run(ID_ZOOM_X8));
     auto& scroll = static_cast<ScrollView&>(view());
     scroll.scrollTo({300, 200});

@@ -3,33 +3,17 @@
 namespace dyeworks {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
+constexpr const char *kA = "c:\\a.tmf", *kB = "c:\\b.tmf", *kC = "c:\\c.tmf";
 
-constexpr const char* kSection = "Settings\\Documents";
-constexpr const char* kResumeFailed = "Some documents failed to resume.";
-
-class Resume : public testing::Test {
+class Resume : public Launch {
 protected:
     Resume() {
-        defineControls(fake_);
-        for (const char* path : {"c:\\a.tmf", "c:\\b.tmf", "c:\\c.tmf"})
-            fake_.files.putFile(path, imageFile(texels(4, 4, [](int, int) { return 1U; }), 4));
+        putImages(fake_, {kA, kB, kC});
         fake_.files.putFile("c:\\p.tlf", paletteFile(16, [](int) { return 1U; }));
-        commandLine_.noSplash = true;
-        app_ = std::make_unique<CDyeworksApp>();
     }
-    [[nodiscard]] std::vector<std::string> openDocuments() {
-        std::vector<std::string> paths;
-        for (const CDocument* document : app_->imageTemplate().documents())
-            paths.push_back(document->pathName());
-        return paths;
+    [[nodiscard]] std::map<std::string, std::string>& stored() {
+        return fake_.profile.sections["Settings\\Documents"];
     }
-    [[nodiscard]] std::map<std::string, std::string>& stored() { return fake_.profile.sections[kSection]; }
-
-    FakePlatform fake_;
-    CommandLine commandLine_;
-    std::unique_ptr<CDyeworksApp> app_;
 };
 
 TEST_F(Resume, OpensTheRestAfterAFailureAndTellsOnce) {
@@ -40,32 +24,24 @@ TEST_F(Resume, OpensTheRestAfterAFailureAndTellsOnce) {
         bool fails;
     } cases[] = {
         {{}, {}, 0, false},
-        {{{"0", "c:\\a.tmf"}}, {}, 0, false},
-        {{{"count", "1"}, {"0", "c:\\a.tmf"}, {"1", "c:\\b.tmf"}}, {"c:\\a.tmf"}, 0, false},
-        {{{"count", "3"}, {"0", "c:\\a.tmf"}, {"1", "c:\\gone.tmf"}, {"2", "c:\\c.tmf"}},
-         {"c:\\a.tmf", "c:\\c.tmf"},
-         1,
-         true},
-        {{{"count", "2147483647"}, {"0", "c:\\a.tmf"}, {"1", "c:\\b.tmf"}},
-         {"c:\\a.tmf", "c:\\b.tmf"},
-         0,
-         true},
-        {{{"count", "3"}, {"0", "c:\\a.tmf"}, {"2", "c:\\c.tmf"}}, {"c:\\a.tmf", "c:\\c.tmf"}, 0, true},
-        {{{"count", "-1"}, {"0", "c:\\a.tmf"}}, {}, 0, false},
-        {{{"count", "many"}, {"0", "c:\\a.tmf"}}, {}, 0, false},
-        {{{"count", "2"}, {"0", "*palette"}, {"1", "c:\\b.tmf"}}, {"c:\\b.tmf"}, 1, true},
+        {{{"0", kA}}, {}, 0, false},
+        {{{"count", "1"}, {"0", kA}, {"1", kB}}, {kA}, 0, false},
+        {{{"count", "3"}, {"0", kA}, {"1", "c:\\gone.tmf"}, {"2", kC}}, {kA, kC}, 1, true},
+        {{{"count", "2147483647"}, {"0", kA}, {"1", kB}}, {kA, kB}, 0, true},
+        {{{"count", "3"}, {"0", kA}, {"2", kC}}, {kA, kC}, 0, true},
+        {{{"count", "-1"}, {"0", kA}}, {}, 0, false},
+        {{{"count", "many"}, {"0", kA}}, {}, 0, false},
+        {{{"count", "2"}, {"0", "*palette"}, {"1", kB}}, {kB}, 1, true},
     };
     for (std::size_t i = 0; i < std::size(cases); ++i) {
         const auto& c = cases[i];
         fake_.messages.shown.clear();
         stored() = c.entries;
-        app_.reset();
-        app_ = std::make_unique<CDyeworksApp>();
-        ASSERT_TRUE(app_->InitInstance(commandLine_));
-        EXPECT_EQ(openDocuments(), c.opened) << i;
+        ASSERT_TRUE(launch());
+        EXPECT_EQ(openImages(), c.opened) << i;
         EXPECT_EQ(fake_.messages.shown.size(), c.messages + (c.fails ? 1 : 0)) << i;
         if (c.fails) {
-            EXPECT_EQ(fake_.messages.lastText(), kResumeFailed) << i;
+            EXPECT_EQ(fake_.messages.lastText(), "Some documents failed to resume.") << i;
             EXPECT_EQ(fake_.messages.shown.back().icon, MessageIcon::Information) << i;
         }
     }
@@ -74,26 +50,22 @@ TEST_F(Resume, OpensTheRestAfterAFailureAndTellsOnce) {
 TEST_F(Resume, NothingWhenTheCommandLineAsksForSomething) {
     stored() = {{"count", "1"}, {"0", "c:\\gone.tmf"}};
     commandLine_.task = CommandLine::Task::Receive;
-    ASSERT_TRUE(app_->InitInstance(commandLine_));
+    ASSERT_TRUE(launch());
     EXPECT_THAT(fake_.messages.shown, IsEmpty());
 }
 
 TEST_F(Resume, PalettesAreStoredByKeyAndWindowsFromTheActiveOneDown) {
-    ASSERT_TRUE(app_->InitInstance(commandLine_));
+    ASSERT_TRUE(launch());
     ASSERT_TRUE(app_->paletteSet()->newPalette(16, ColourType::Rgba, 1));
     const std::string unsaved = app_->paletteSet()->currentKey;
-    ASSERT_TRUE(app_->OpenFiles({"c:\\a.tmf", "c:\\p.tlf", "c:\\b.tmf", "c:\\c.tmf"}, false));
-    app_->mainFrame().activateChild(*app_->mainFrame().frameOf(*app_->FindOpenDocument("c:\\a.tmf")));
+    ASSERT_TRUE(app_->OpenFiles({kA, "c:\\p.tlf", kB, kC}, false));
+    frame().activateChild(*frame().frameOf(*app_->FindOpenDocument(kA)));
     stored() = {{"count", "9"}, {"5", "old"}, {"7", "older"}};
     app_->SaveOpenDocuments();
-    EXPECT_THAT(stored(), (std::map<std::string, std::string>{{"count", "5"},
-                                                              {"0", unsaved},
-                                                              {"1", "c:\\p.tlf"},
-                                                              {"2", "c:\\a.tmf"},
-                                                              {"3", "c:\\c.tmf"},
-                                                              {"4", "c:\\b.tmf"},
-                                                              {"5", "old"},
-                                                              {"7", "older"}}));
+    const std::map<std::string, std::string> expected{{"count", "5"}, {"0", unsaved}, {"1", "c:\\p.tlf"},
+                                                      {"2", kA},      {"3", kC},      {"4", kB},
+                                                      {"5", "old"},   {"7", "older"}};
+    EXPECT_EQ(stored(), expected);
 }
 
 } // namespace

@@ -21,9 +21,6 @@ protected:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return splash.isNull();
     }
-    void openImage() {
-        openAttached(texels(8, 8, [](int, int) { return 0U; }), 8, 256);
-    }
 };
 
 TEST_F(Splash, StandsInTheMiddleWithoutABorderAndClosesByItself) {
@@ -42,22 +39,22 @@ TEST_F(Splash, StandsInTheMiddleWithoutABorderAndClosesByItself) {
 }
 
 TEST_F(Splash, AKeyClosesItAndDoesNothingElse) {
-    openImage();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&app_.mainFrame()));
-    app_.mainFrame().commandActions().refresh();
+    openBlank();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&frame()));
+    frame().commandActions().refresh();
     const QPointer<SplashScreen> splash = shown();
     QTest::keyClick(&view(), Qt::Key_W, Qt::ControlModifier);
     EXPECT_TRUE(gone(splash));
     EXPECT_EQ(app_.imageTemplate().documents().size(), 1U) << "Ctrl+W closes the image at any other time";
     // This display makes every window that comes up the active one.
-    app_.mainFrame().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&app_.mainFrame()));
+    frame().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&frame()));
     QTest::keyClick(&view(), Qt::Key_W, Qt::ControlModifier);
     EXPECT_TRUE(app_.imageTemplate().documents().empty());
 }
 
 TEST_F(Splash, APressOfAButtonClosesItAndDoesNothingElse) {
-    openImage();
+    openBlank();
     ASSERT_TRUE(run(ID_TOOL_PIXEL));
     app_.selectPaletteBarCell(5);
     for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
@@ -69,7 +66,7 @@ TEST_F(Splash, APressOfAButtonClosesItAndDoesNothingElse) {
     const QPointer<SplashScreen> splash = shown();
     QTest::mouseMove(view().viewport(), at(2, 2));
     QTest::mouseClick(view().viewport(), Qt::BackButton, {}, at(1, 1));
-    app_.mainFrame().resize(app_.mainFrame().size() + QSize(1, 1));
+    frame().resize(frame().size() + QSize(1, 1));
     EXPECT_FALSE(gone(splash)) << "everything else passes";
     drag({{1, 1}});
     EXPECT_TRUE(gone(splash));
@@ -77,18 +74,16 @@ TEST_F(Splash, APressOfAButtonClosesItAndDoesNothingElse) {
     EXPECT_EQ(canvas()[1][1], 5U);
 }
 
-TEST(SplashAtStart, IsUpWhenTheWindowIsAndOnlyForAStartThatSomebodySees) {
-    for (const bool renders : {false, true}) {
-        FakePlatform fake;
-        defineControls(fake);
-        CommandLine commandLine;
-        if (renders)
-            commandLine.renderTo = QStringLiteral("picture.png");
-        CDyeworksApp app;
-        ASSERT_TRUE(app.InitInstance(commandLine));
-        EXPECT_EQ(app.splashScreen() != nullptr, !renders);
-        EXPECT_TRUE(renders || app.splashScreen()->isVisible());
-        EXPECT_TRUE(app.mainFrame().isVisible());
+using SplashAtStart = Launch;
+
+TEST_F(SplashAtStart, IsUpWhenTheWindowIsAndOnlyForAStartThatSomebodySees) {
+    commandLine_.noSplash = false;
+    for (const char* picture : {"", "picture.png"}) {
+        commandLine_.renderTo = picture;
+        ASSERT_TRUE(launch());
+        EXPECT_EQ(app_->splashScreen() != nullptr, !commandLine_.renders());
+        EXPECT_TRUE(commandLine_.renders() || app_->splashScreen()->isVisible());
+        EXPECT_TRUE(frame().isVisible());
     }
 }
 

