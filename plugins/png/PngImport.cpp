@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <new>
+#include <span>
 #include <vector>
 
 namespace dyeworks::plugins {
@@ -34,15 +35,29 @@ std::uint16_t valueOf(unsigned red, unsigned green, unsigned blue, unsigned alph
     return shows ? entryOf<colourType>(red, green, blue, alpha) : std::uint16_t{0};
 }
 
+/// Of a new palette for the file: intensity and alpha where they alone hold its colours as they are.
+std::uint32_t colourTypeFor(const PngHeader& header) {
+    const std::span colours(header.colours.data(), static_cast<std::size_t>(header.colourCount));
+    const auto isGrey = [](const auto& colour) { return colour[0] == colour[1] && colour[1] == colour[2]; };
+    const auto isExact = [](const auto& colour) {
+        return ((colour[0] | colour[1] | colour[2]) & 7) == 0 && (colour[3] == 0 || colour[3] == 255);
+    };
+    return header.indexed && std::ranges::all_of(colours, isGrey) && !std::ranges::all_of(colours, isExact)
+               ? DW_COLOUR_IA
+               : DW_COLOUR_RGBA;
+}
+
 /// Keeps what has an index as it is, and everything else as an entry value until all have been counted.
 class ImageSink : public PngSink {
 public:
-    ImageSink(std::int32_t bits, std::uint32_t colourType)
+    /// Without a palette the file decides on the colour type.
+    ImageSink(std::int32_t bits, const TlutData* palette)
         : bits_(bits)
-        , colourType_(colourType) {}
+        , palette_(palette) {}
 
     QString begin(const PngHeader& header) override {
         header_ = header;
+        colourType_ = palette_ == nullptr ? colourTypeFor(header) : palette_->colourType;
         image.reset(DW_newImage(header.width, header.height, bits_));
         if (image == nullptr)
             return noMemory();
@@ -99,6 +114,8 @@ public:
         }
         return {};
     }
+
+    [[nodiscard]] std::uint32_t colourType() const noexcept { return colourType_; }
 
     ImageRecord image;
     std::vector<std::uint16_t> entries;
@@ -168,7 +185,8 @@ private:
     }
 
     std::int32_t bits_;
-    std::uint32_t colourType_;
+    const TlutData* palette_;
+    std::uint32_t colourType_ = DW_COLOUR_RGBA;
     PngHeader header_;
     int highest_ = 0;
     std::unique_ptr<std::uint16_t[]> values_;
@@ -203,15 +221,13 @@ PngImport importPng(const QString& path, const PlugInPicture& current) try {
     if (current.image == nullptr || (current.image->bits != 4 && current.image->bits != 8))
         return refused(say("The image has no texels of 4 or 8 bits.",
                            "4 ビットまたは 8 ビットのテクセルがありません。"));
-    const std::uint32_t colourType =
-        current.palette == nullptr ? DW_COLOUR_RGBA : current.palette->colourType;
-    ImageSink sink(current.image->bits, colourType);
+    ImageSink sink(current.image->bits, current.palette);
     QString refusal = readPng(path, sink);
     if (refusal.isEmpty())
         refusal = sink.finish();
     if (!refusal.isEmpty())
         return refused(refusal);
-    PaletteRecord palette = paletteOf(sink.entries, colourType, current);
+    PaletteRecord palette = paletteOf(sink.entries, sink.colourType(), current);
     if (palette == nullptr)
         return refused(noMemory());
     return {std::move(sink.image), std::move(palette), {}};

@@ -140,6 +140,33 @@ TEST_F(PngImporting, TakesIntensityAndFullAlphaForAnIaPalette) {
                   kEntries.at(static_cast<std::size_t>(x)));
 }
 
+TEST_F(PngImporting, ANewPaletteHoldsTheColoursOfTheFileAsTheyAre) {
+    const struct {
+        png_color colour;
+        png_byte alpha;
+        std::uint32_t type;
+        unsigned entry;
+    } cases[] = {{{8, 8, 8}, 255, DW_COLOUR_RGBA, 1U << 11 | 1U << 6 | 1U << 1 | 1U},
+                 {{8, 8, 8}, 254, DW_COLOUR_IA, 0x08FE},
+                 {{9, 9, 9}, 255, DW_COLOUR_IA, 0x09FF},
+                 {{9, 9, 8}, 255, DW_COLOUR_RGBA, 1U << 11 | 1U << 6 | 1U << 1 | 1U}};
+    for (const auto& c : cases) {
+        writeRawPng(path_, {1,
+                            1,
+                            PNG_COLOR_TYPE_PALETTE,
+                            8,
+                            false,
+                            {{0, 0, 0}, c.colour},
+                            {0, c.alpha},
+                            nullptr,
+                            [](int, int, int) { return 1U; }});
+        const PngImport got = import(8);
+        ASSERT_NE(got.palette, nullptr);
+        EXPECT_EQ(got.palette->colourType, c.type);
+        EXPECT_EQ(got.palette->entries[1], c.entry);
+    }
+}
+
 TEST_F(PngImporting, PutsColoursIntoTheImagesBankAlone) {
     const PaletteRecord current =
         paletteOf(DW_COLOUR_RGBA, 256, [](int i) { return 0x8000U + static_cast<unsigned>(i); });
