@@ -5,7 +5,7 @@
 namespace dyeworks::plugins {
 
 QString say(const char* english, const char* japanese) {
-    return QString::fromUtf8(QLocale::system().language() == QLocale::Japanese ? japanese : english);
+    return QString::fromUtf8(QLocale().language() == QLocale::Japanese ? japanese : english);
 }
 
 } // namespace dyeworks::plugins

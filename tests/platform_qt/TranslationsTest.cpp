@@ -100,10 +100,12 @@ TEST_F(Translations, FollowTheLanguageThatWasInstalledLast) {
     const auto yes = [] { return QCoreApplication::translate("QPlatformTheme", "&Yes"); };
     EXPECT_EQ(text(StringId::FileErrorNameTooLong), "名前が長すぎます。");
     EXPECT_EQ(yes(), QString::fromUtf8("はい(&Y)"));
+    EXPECT_EQ(QLocale().language(), QLocale::Japanese);
     ASSERT_TRUE(installLanguage(*QCoreApplication::instance(), std::string("ja")));
     ASSERT_TRUE(installLanguage(*QCoreApplication::instance(), std::string("en")));
     EXPECT_EQ(text(StringId::FileErrorNameTooLong), englishText(StringId::FileErrorNameTooLong));
     EXPECT_EQ(yes(), QStringLiteral("&Yes"));
+    EXPECT_NE(QLocale().language(), QLocale::Japanese);
 }
 
 } // namespace dyeworks

@@ -3,6 +3,7 @@
 #include "platform/Locale.h"
 
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QTranslator>
 
 #include <memory>
@@ -41,9 +42,18 @@ bool install(QCoreApplication& application, const QString& file, const QString& 
     return QCoreApplication::installTranslator(translator.release());
 }
 
+/// Numbers and dates stay as the desktop has them, where its language is the same. Plug-ins ask for the
+/// locale, too.
+void setDefaultLocale(QLocale::Language language) {
+    const QLocale desktop = QLocale::system();
+    const bool same = (desktop.language() == QLocale::Japanese) == (language == QLocale::Japanese);
+    QLocale::setDefault(same ? desktop : QLocale(language));
+}
+
 } // namespace
 
 bool installLanguage(QCoreApplication& application, const std::string& language) {
+    setDefaultLocale(language == "ja" ? QLocale::Japanese : QLocale::English);
     // A translator takes itself out of the application when it goes.
     qDeleteAll(application.findChildren<QTranslator*>(translatorName(), Qt::FindDirectChildrenOnly));
     if (language != "ja")
