@@ -8,8 +8,8 @@
  * that thread alone, also from inside an entry point. Called on another thread they return 0 and do nothing.
  *
  * Memory. What the host passes in belongs to the host and is valid during the call. What a plug-in hands back
- * in a DwPicture, and what DW_getTMF and DW_getTLF hand out, belongs to whoever receives it: the record and
- * its texels or entries are blocks of their own from malloc, and are released with free. DW_newImage,
+ * in a PlugInPicture, and what DW_getTMF and DW_getTLF hand out, belongs to whoever receives it: the record
+ * and its texels or entries are blocks of their own from malloc, and are released with free. DW_newImage,
  * DW_newPalette, DW_freeImage and DW_freePalette below do that.
  *
  * Results. Of the entry points, nonzero is success. A C++ exception must not leave one; should it, the result
@@ -29,7 +29,7 @@
 extern "C" {
 #endif
 
-/* Before the definition of every entry point. */
+/* Of the entry points, which a plug-in defines. */
 #define DWPI_ENTRY __attribute__((visibility("default")))
 /* Of the host functions, which the program defines. */
 #define DW_HOST __attribute__((visibility("default")))
@@ -77,11 +77,11 @@ typedef uintptr_t DwNode;
 /* ---- Entry points ----------------------------------------------------------------------------------- */
 
 /* Roles, in bits; each set bit puts the plug-in into one list of the program. */
-#define DWPI_TMF_IMPORT 0x01u  /* DWPI_import; in the image's menu "Import Plug-In". */
-#define DWPI_TMF_EXPORT 0x02u  /* DWPI_export; in the image's menu "Export Plug-In". */
+#define DWPI_TMF_IMPORT 0x01u  /* DWPI_import; in the menu File, Import of an image. */
+#define DWPI_TMF_EXPORT 0x02u  /* DWPI_export; in the menu File, Export of an image. */
 #define DWPI_TMF_PREVIEW 0x04u /* DWPI_preview2 or DWPI_preview; only the first such plug-in is called. */
 #define DWPI_TPF_IMPORT 0x08u  /* Shown in the About box only. */
-#define DWPI_TPF_EXPORT 0x10u  /* DWPI_TPF_export; in the project's menu "Export Plug-In". */
+#define DWPI_TPF_EXPORT 0x10u  /* DWPI_TPF_export; in the menu File, Export of a project. */
 #define DWPI_TPF_NODE 0x20u    /* All other DWPI_TPF_ entry points. */
 
 /* Required. Nonzero accepts the program, whose version is packed into a word: the first of its four parts in

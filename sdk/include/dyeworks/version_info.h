@@ -3,20 +3,23 @@
  * A library says what it is by one line of data, outside any function and once per library:
  *
  *     DW_VERSION_INFO(1, 0, 2, 0,
- *         DW_VERSION_STRING("040904E4", "ProductName", "Sky exporter"),
- *         DW_VERSION_STRING("040904E4", "InternalName", "Export &sky"),
- *         DW_VERSION_STRING("041104B0", "ProductName", "..."));
+ *         DW_VERSION_STRING(DW_ENGLISH, "ProductName", "Sky exporter"),
+ *         DW_VERSION_STRING(DW_ENGLISH, "InternalName", "Sky"),
+ *         DW_VERSION_STRING(DW_JAPANESE, "ProductName", "..."));
  *
  * The four numbers are the parts of the file version, each from 0 to 65535. A string belongs to a language
- * block: eight upper-case hexadecimal digits, language and code page. "040904E4" is English, "041104B0"
- * Japanese. The program looks for "ProductName", "InternalName", "CompanyName" and "Comments"; all texts are
- * UTF-8.
- * At least one string is needed.
+ * block, of which the program reads the two below. It looks for "ProductName", the name in the About box,
+ * "InternalName", the text in the menus, "CompanyName" and "Comments"; all texts are UTF-8, and what is not
+ * there in Japanese is shown in English. At least one string is needed.
  */
 #ifndef DYEWORKS_VERSION_INFO_H
 #define DYEWORKS_VERSION_INFO_H
 
 #include <stdint.h>
+
+/* Language blocks: eight upper-case hexadecimal digits, language and code page. */
+#define DW_ENGLISH "040904E4"
+#define DW_JAPANESE "041104B0"
 
 #ifdef __cplusplus
 extern "C" {
