@@ -70,7 +70,6 @@ CDocument* DocumentTemplate::openDocument(const std::string& path) {
         return nullptr;
     }
     document->setPathName(fullPath);
-    document->setModified(false);
     if (!windows_.openWindow(*document)) {
         dropDocument(*document);
         return nullptr;
@@ -79,8 +78,12 @@ CDocument* DocumentTemplate::openDocument(const std::string& path) {
 }
 
 void DocumentTemplate::dropDocument(CDocument& document) {
-    assert(document.views().empty());
     document.onCloseDocument();
+    dropClosedDocument(document);
+}
+
+void DocumentTemplate::dropClosedDocument(const CDocument& document) {
+    assert(document.views().empty());
     forget(document);
 }
 

@@ -54,6 +54,8 @@ public:
     bool newWindow(CDocument& document) { return windows_.openWindow(document); }
     /// Ends the document, which must have no view left.
     void dropDocument(CDocument& document);
+    /// The same for one that has been told that it closes.
+    void dropClosedDocument(const CDocument& document);
 
     /// Told the full path whenever a document of this kind was opened from a file or saved to one.
     void setPathListener(std::function<void(const std::string&)> listener) {

@@ -153,7 +153,7 @@ private:
     void takeDrawingValue();
     [[nodiscard]] std::uint32_t depthMask() const;
     void scrollDrag(Point client);
-    std::unique_ptr<DrawTool> endDrag();
+    std::shared_ptr<DrawTool> endDrag();
     void showPosition(Point texel);
     void updateCursor(Point client, bool shift, bool control);
     [[nodiscard]] CursorShape selectionCursor(Point client) const;
@@ -212,7 +212,9 @@ private:
     std::unique_ptr<TextureCanvas> floatingPiece_;
     std::uint32_t drawingValue_ = 0;
     Tool toolAtPress_ = Tool::Select; ///< The tool that was chosen at the last press.
-    std::unique_ptr<DrawTool> tool_;  ///< Of the drag that is going on.
+    /// Of the drag that is going on. Shared with the call that the tool is in: a preview may end the drag
+    /// there.
+    std::shared_ptr<DrawTool> tool_;
     Point anchor_;
     bool spuit_ = false; ///< A right press picks the colour under it.
     bool scrollDragging_ = false;

@@ -55,14 +55,14 @@ void CDyeworksView::PointerMoved(const PointerEvent& event) {
     }
     const Point texel = geometry().texelAt(event.position);
     showPosition(texel);
-    if (tool_ != nullptr)
-        tool_->move(texel, event);
+    if (const std::shared_ptr<DrawTool> tool = tool_)
+        tool->move(texel, event);
 }
 
 void CDyeworksView::PointerReleased(const PointerEvent& event) {
     if (event.button != PointerButton::Left || !dragging())
         return;
-    const std::unique_ptr<DrawTool> tool = endDrag();
+    const std::shared_ptr<DrawTool> tool = endDrag();
     if (tool != nullptr) {
         tool->release(geometry().texelAt(event.position), event);
         if (toolAtPress_ == Tool::ZoomLens)
@@ -80,14 +80,14 @@ void CDyeworksView::CancelDrag() {
         return;
     if (scrollDragging_)
         scrollTo(scrollDragStart_);
-    const std::unique_ptr<DrawTool> tool = endDrag();
+    const std::shared_ptr<DrawTool> tool = endDrag();
     if (tool != nullptr)
         tool->cancel();
 }
 
 /// The drag is over before the capture goes, so that its loss is not taken for an interruption.
-std::unique_ptr<DrawTool> CDyeworksView::endDrag() {
-    std::unique_ptr<DrawTool> tool = std::move(tool_);
+std::shared_ptr<DrawTool> CDyeworksView::endDrag() {
+    std::shared_ptr<DrawTool> tool = std::move(tool_);
     scrollDragging_ = false;
     window_.releasePointer();
     return tool;

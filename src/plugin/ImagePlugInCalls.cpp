@@ -14,6 +14,10 @@ namespace dyeworks {
 
 namespace {
 
+/// Calls of a preview inside each other: a preview that changes the image is shown what became of it, and not
+/// what it makes of that again.
+constexpr int kMostPreviews = 2;
+
 void tell(const char* text) {
     platform().messages().show({text, "", MessageButtons::Ok, MessageIcon::None, MessageOwner::MainWindow});
 }
@@ -90,17 +94,18 @@ std::unique_ptr<TextureCanvas> ImagePlugInCalls::ImportImage(std::int32_t index,
     const std::optional<std::uint32_t> result = guarded(entryPoint, passed.get(), &out);
     bool fine = passed.restore() && result.has_value();
 
-    // What is the host's own, or shares a block with it, is nothing new.
-    if (out.image == passed.get()->image)
-        out.image = nullptr;
-    if (out.palette == passed.get()->palette)
-        out.palette = nullptr;
-    if (out.image != nullptr && out.image->texels == image->texels)
-        out.image->texels = nullptr;
-    if (out.palette != nullptr && palette != nullptr && out.palette->entries == palette->entries)
-        out.palette->entries = nullptr;
     std::unique_ptr<TextureCanvas> canvas;
+    // What a refusal leaves behind may be anything.
     if (result.value_or(0) != 0) {
+        // What is the host's own, or shares a block with it, is nothing new.
+        if (out.image == passed.get()->image)
+            out.image = nullptr;
+        if (out.palette == passed.get()->palette)
+            out.palette = nullptr;
+        if (out.image != nullptr && out.image->texels == image->texels)
+            out.image->texels = nullptr;
+        if (out.palette != nullptr && palette != nullptr && out.palette->entries == palette->entries)
+            out.palette->entries = nullptr;
         const PlainImage newImage(out.image);
         const PlainTable newTable(out.palette);
         const TmfImage* const texels = usable(newImage.get());
@@ -161,13 +166,21 @@ std::uint32_t ImagePlugInCalls::PreviewImage(TmfImage* image, TlutData* palette,
     }
     if (host_.paletteSet() == nullptr || palette == nullptr)
         return 0;
+    if (previews_ == kMostPreviews)
+        return 1;
     const PlugInInfo& plugIn = catalogue_.previews().front();
     PassedPicture passed(image, palette, paletteNumber);
+    const auto call = [&](auto* entryPoint, auto... arguments) {
+        ++previews_;
+        const std::optional<std::uint32_t> answer = guarded(entryPoint, passed.get(), arguments...);
+        --previews_;
+        return answer;
+    };
     std::optional<std::uint32_t> result;
     if (const auto both = plugIn.module->findFunction<decltype(DWPI_preview2)>("_DWPI_preview2@8")) {
-        result = guarded(both, passed.get(), static_cast<std::uint32_t>(which));
+        result = call(both, static_cast<std::uint32_t>(which));
     } else if (const auto one = plugIn.module->findFunction<decltype(DWPI_preview)>("_DWPI_preview@4")) {
-        result = guarded(one, passed.get());
+        result = call(one);
     } else {
         tell("TMF preview entry not found");
         return 0;

@@ -32,6 +32,7 @@ private:
 
     const PlugInCatalogue& catalogue_;
     PlugInHost& host_;
+    int previews_ = 0; ///< That have been called and not come back.
 };
 
 } // namespace dyeworks

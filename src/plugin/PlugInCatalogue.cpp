@@ -2,6 +2,7 @@
 
 #include "dyeworks/plugin.h"
 #include "platform/Platform.h"
+#include "platform/TextCase.h"
 #include "plugin/GuardedCall.h"
 
 #include <algorithm>
@@ -54,8 +55,10 @@ std::uint32_t hostVersionWord() {
 
 bool PlugInCatalogue::LoadPlugIns(const std::string& programFolder) {
     folder_ = programFolder + "PlugIns\\";
-    for (const FileEntry& entry :
-         platform().files().enumerate(folder_ + "*" + platform().library().extension())) {
+    std::vector<FileEntry> entries =
+        platform().files().enumerate(folder_ + "*" + platform().library().extension());
+    std::ranges::stable_sort(entries, {}, [](const FileEntry& entry) { return foldedCase(entry.name); });
+    for (const FileEntry& entry : entries) {
         if (!entry.directory)
             add(entry.name);
     }

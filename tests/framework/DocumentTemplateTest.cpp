@@ -22,10 +22,12 @@ struct Templates : testing::Test {
     FakePlatform fake;
     TestWindows windows;
     bool nextSucceeds = true;
+    bool nextChanges = false;
     DocumentTemplate textures{{"Texture", ".tmf"},
                               [this](DocumentTemplate& owner) {
                                   auto document = std::make_unique<TestDocument>(&owner);
                                   document->openSucceeds = document->newSucceeds = nextSucceeds;
+                                  document->changesWhenRead = nextChanges;
                                   return document;
                               },
                               windows};
@@ -43,6 +45,9 @@ TEST_F(Templates, OpenDocumentIsFoundByAnySpellingOfItsPath) {
     EXPECT_EQ(textures.openDocument("C:/tex/SKY.tmf"), sky);
     EXPECT_THAT(windows.activated, ElementsAre(sky));
     EXPECT_THAT(textures.documents(), ElementsAre(sky));
+    EXPECT_FALSE(sky->isModified());
+    nextChanges = true;
+    EXPECT_TRUE(textures.openDocument("lake.tmf")->isModified()) << "what changed while it was read";
 }
 
 TEST_F(Templates, FileThatCannotBeReadOrShownLeavesNoDocument) {

@@ -17,6 +17,7 @@ public:
     using CDocument::CDocument;
 
     bool openSucceeds = true;
+    bool changesWhenRead = false;
     bool newSucceeds = true;
     bool saveSucceeds = true;
     std::string chosenName = "c:\\tex\\chosen.tmf";
@@ -24,7 +25,9 @@ public:
 
     bool onNewDocument() override { return CDocument::onNewDocument() && newSucceeds; }
     bool onOpenDocument(const std::string& path) override {
-        return CDocument::onOpenDocument(path) && openSucceeds;
+        const bool opened = CDocument::onOpenDocument(path) && openSucceeds;
+        setModified(changesWhenRead);
+        return opened;
     }
     bool onSaveDocument(const std::string& path) override {
         saves.push_back(path);

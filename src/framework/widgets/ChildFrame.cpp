@@ -88,7 +88,8 @@ void ChildFrame::fitToContent(const ScrollView& view) {
 
 void ChildFrame::closeEvent(QCloseEvent* event) {
     if (document_ != nullptr) {
-        if (asks_ && isLastOfDocument() && !document_->saveModified()) {
+        // A document that closes may run an event loop, in which the frame is closed again.
+        if (releasing_ || (asks_ && isLastOfDocument() && !document_->saveModified())) {
             event->ignore();
             return;
         }
@@ -137,17 +138,20 @@ void ChildFrame::rememberNormalGeometry() {
 void ChildFrame::release() {
     if (document_ == nullptr)
         return;
-    view_->closing(*this);
+    releasing_ = true;
     CDocument& document = *document_;
+    const bool ends = isLastOfDocument() && document.documentTemplate() != nullptr;
+    // While it still shows, for whoever wants to read what is in its view.
+    if (ends)
+        document.onCloseDocument();
+    view_->closing(*this);
     document.removeTitleListener(*this);
     document.removeView(view_->documentView());
     view_ = nullptr;
     document_ = nullptr;
     delete widget();
-    // The document may ask something before it goes.
-    hide();
-    if (document.views().empty() && document.documentTemplate() != nullptr)
-        document.documentTemplate()->dropDocument(document);
+    if (ends)
+        document.documentTemplate()->dropClosedDocument(document);
 }
 
 } // namespace dyeworks

@@ -64,6 +64,7 @@ private:
     std::span<const MenuItem> menus_;
     QRect normalGeometry_;
     bool asks_ = true;
+    bool releasing_ = false; ///< The view is being given up.
 };
 
 } // namespace dyeworks

@@ -1,0 +1,4 @@
+#include "TestPlugIn.h"
+
+ACCEPTS
+HAS_ROLES(DWPI_TMF_IMPORT | DWPI_TMF_PREVIEW)
