@@ -17,8 +17,9 @@ public:
     /// Adds a picture of these files, behind the picture called `after` (none: at the head). Without a name
     /// it gets one. Unless `silent`, the user is shown everything and may change it. False when no picture
     /// was added.
-    virtual bool AddPicture(const std::optional<std::string>& name, const std::string& imageFile,
-                            const std::string& paletteFile, std::int32_t paletteNumber,
+    virtual bool AddPicture(const std::optional<std::string>& name,
+                            const std::optional<std::string>& imageFile,
+                            const std::optional<std::string>& paletteFile, std::int32_t paletteNumber,
                             const std::optional<std::string>& after, bool silent) = 0;
 };
 

@@ -27,6 +27,9 @@ std::string_view takePiece(std::string_view& text) {
         if (ends)
             break;
     }
+    // The line feed does not count: behind a line of full length it would be read as an empty one.
+    if (length > 0 && text[length - 1] != '\n' && length < text.size() && text[length] == '\n')
+        ++length;
     const std::string_view piece = text.substr(0, length);
     text.remove_prefix(length);
     return piece;
@@ -55,6 +58,10 @@ std::string lineText(const StoreLine& tokens) {
     if (tokens.size() == 3 && characterCount(text) > CKeyValueStore::kLongestLine)
         return tokens[0] + tokens[1] + tokens[2];
     return text;
+}
+
+bool fitsALine(const std::string& text) {
+    return characterCount(text) <= CKeyValueStore::kLongestLine && text.find_first_of("\r\n") == text.npos;
 }
 
 } // namespace
@@ -101,7 +108,7 @@ std::size_t CKeyValueStore::AddLine(const std::string& text) {
     std::size_t place = lines_.size();
     if (TokenizeLine(text, line) > 1)
         place = places().try_emplace(line[0], place).first->second;
-    if (ClassifyLine(line) == LineKind::Assignment)
+    if (ClassifyLine(line) == kAssignmentLine)
         values_[line[0]] = line[2];
     if (place == lines_.size())
         lines_.push_back(std::move(line));
@@ -124,7 +131,7 @@ std::unordered_map<std::string, std::size_t>& CKeyValueStore::places() {
 
 std::size_t CKeyValueStore::SetValue(const std::string& name, const std::string& value) {
     const std::string line = assignment(name, value);
-    return characterCount(line) > kLongestLine ? lines_.size() : AddLine(line);
+    return fitsALine(line) ? AddLine(line) : lines_.size();
 }
 
 std::size_t CKeyValueStore::SetLongValue(const std::string& name, std::int32_t value) {
@@ -134,8 +141,7 @@ std::size_t CKeyValueStore::SetLongValue(const std::string& name, std::int32_t v
 bool CKeyValueStore::holds(const std::string& name, const std::string& value) {
     const std::string line = assignment(name, value);
     StoreLine tokens;
-    return characterCount(line) <= kLongestLine && line.find_first_of("\r\n") == std::string::npos &&
-           TokenizeLine(line, tokens) == 3 && tokens[0] == name && tokens[2] == value;
+    return fitsALine(line) && TokenizeLine(line, tokens) == 3 && tokens[0] == name && tokens[2] == value;
 }
 
 bool CKeyValueStore::GetValue(const std::string& name, std::string& value) const {

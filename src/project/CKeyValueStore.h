@@ -13,7 +13,7 @@ namespace dyeworks {
 /// A line of a store: the three tokens name, "=" and value of an assignment, or the line as it was read.
 using StoreLine = std::vector<std::string>;
 
-enum class LineKind { Assignment = 0, Comment = 1, Other = 2 };
+enum LineKind { kAssignmentLine = 0, kCommentLine = 1, kOtherLine = 2 };
 
 /// What a line is: of the assignments, those with a name that `IsValidName` accepts.
 [[nodiscard]] LineKind ClassifyLine(const StoreLine& line);
@@ -51,7 +51,7 @@ public:
     /// Appends the line, or puts an assignment in the place of the one of the same name. The result is the
     /// number of lines.
     std::size_t AddLine(const std::string& text);
-    /// Adds the line "name = value". Nothing when that would be too long.
+    /// Adds the line "name = value". Nothing when that would be too long or would be several lines.
     std::size_t SetValue(const std::string& name, const std::string& value);
     std::size_t SetLongValue(const std::string& name, std::int32_t value);
     /// Whether the line "name = value" is short enough, and gives the value back as it is.

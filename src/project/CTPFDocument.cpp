@@ -35,6 +35,8 @@ bool foldersAreHeld(const ProjectSettings& settings) {
 
 /// Folders without a root are inside the project's own.
 ProjectSettings absolute(ProjectSettings settings) {
+    if (settings.projectDirectory.empty())
+        settings.projectDirectory = platform().files().currentDirectory();
     PathAbsolute(settings.projectDirectory);
     for (std::string* folder : {&settings.imageDirectories, &settings.paletteDirectories}) {
         if (!folder->empty())

@@ -48,8 +48,8 @@ public:
     [[nodiscard]] bool GetPicture(const std::string& name, PictureEntry& entry) const override {
         return projectFile_.GetPicture(name, entry);
     }
-    bool AddPicture(const std::optional<std::string>& name, const std::string& imageFile,
-                    const std::string& paletteFile, std::int32_t paletteNumber,
+    bool AddPicture(const std::optional<std::string>& name, const std::optional<std::string>& imageFile,
+                    const std::optional<std::string>& paletteFile, std::int32_t paletteNumber,
                     const std::optional<std::string>& after, bool silent) override;
     bool ChangePicture(const std::string& name) override;
     bool RemovePicture(const std::string& name) override;

@@ -80,12 +80,13 @@ std::string CTPFDocument::freeName(const std::string& proposed) const {
     return name;
 }
 
-bool CTPFDocument::AddPicture(const std::optional<std::string>& name, const std::string& imageFile,
-                              const std::string& paletteFile, std::int32_t paletteNumber,
+bool CTPFDocument::AddPicture(const std::optional<std::string>& name,
+                              const std::optional<std::string>& imageFile,
+                              const std::optional<std::string>& paletteFile, std::int32_t paletteNumber,
                               const std::optional<std::string>& after, bool silent) {
     PictureSettings settings{freeName(name.value_or("")),
-                             fileNameIn(projectFile_.tmfDir, imageFile),
-                             fileNameIn(projectFile_.tlfDir, paletteFile),
+                             fileNameIn(projectFile_.tmfDir, imageFile.value_or("")),
+                             fileNameIn(projectFile_.tlfDir, paletteFile.value_or("")),
                              paletteNumber,
                              projectFile_.tmfDir,
                              projectFile_.tlfDir};
@@ -249,7 +250,10 @@ void CTPFDocument::dropLine(const std::string& target, const std::string& line, 
                                                               : TokenizeLine(line, tokens);
     if (count != 3)
         return;
-    const std::optional<std::string> picture = pictureOf(tokens[0]);
+    std::optional<std::string> picture = pictureOf(tokens[0]);
+    // Blanks at the end of a name belong to it when there is such a picture.
+    if (const auto whole = pictureOf(keyOf(line)); whole && projectFile_.pictures.contains(*whole))
+        picture = whole;
     if (!target.starts_with(kPictureNodes))
         host_.projectPlugIns().TPF_OnDrop(plugInHandles_, target, tokens[0], tokens[2], effect);
     else if (picture)

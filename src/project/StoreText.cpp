@@ -52,11 +52,10 @@ bool IsValidName(std::string_view text) {
 
 LineKind ClassifyLine(const StoreLine& line) {
     if (line.empty() || line[0].empty())
-        return LineKind::Other;
+        return kOtherLine;
     if (line[0][0] == '#' || line[0][0] == ';')
-        return LineKind::Comment;
-    return line.size() >= 3 && IsValidName(line[0]) && line[1] == "=" ? LineKind::Assignment
-                                                                      : LineKind::Other;
+        return kCommentLine;
+    return line.size() >= 3 && IsValidName(line[0]) && line[1] == "=" ? kAssignmentLine : kOtherLine;
 }
 
 std::size_t TokenizeLine(const std::string& text, StoreLine& tokens) {

@@ -118,7 +118,7 @@ void CDyeworksApp::OnProjectProperty() {
 }
 
 void CDyeworksApp::OnPictureAdd() {
-    project_->AddPicture(std::nullopt, "", "", 0, std::nullopt, false);
+    project_->AddPicture(std::nullopt, std::nullopt, std::nullopt, 0, std::nullopt, false);
 }
 
 void CDyeworksApp::OnPictureChange() {

@@ -125,8 +125,8 @@ void CProjectBar::updatePictureButton() {
     application_.setCurrentPicture(known ? chosen : "");
     const QString text =
         known ? QStringLiteral("%1 + %2 (%3)")
-                    .arg(QString::fromStdString(entry.tmfFile), QString::fromStdString(entry.tlfFile))
-                    .arg(entry.paletteNo)
+                    .arg(QString::fromStdString(entry.tmfFile), QString::fromStdString(entry.tlfFile),
+                         QString::number(entry.paletteNo))
               : QString::fromLatin1(kNoPicture);
     const int room = picture_->width() - 2 * fontMetrics().averageCharWidth();
     // An ampersand of the name is no mnemonic.

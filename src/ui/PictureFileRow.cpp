@@ -126,7 +126,6 @@ void PictureFileRow::browse() {
     request.defaultExtension = kind_.extension;
     request.initialName = firstFolder(directories_) + "\\*" + kind_.extension;
     request.hideReadOnly = true;
-    request.fileMustExist = true;
     if (const std::optional<std::string> chosen = platform().fileDialogs().open(request))
         setName(fileNameIn(directories_, *chosen));
 }

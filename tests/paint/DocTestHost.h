@@ -59,12 +59,12 @@ public:
 class FakeProject : public OpenProject {
 public:
     std::string imageDirectory() const override { return "c:\\proj"; }
-    bool AddPicture(const std::optional<std::string>& name, const std::string& imageFile,
-                    const std::string& paletteFile, std::int32_t paletteNumber,
+    bool AddPicture(const std::optional<std::string>& name, const std::optional<std::string>& imageFile,
+                    const std::optional<std::string>& paletteFile, std::int32_t paletteNumber,
                     const std::optional<std::string>& after, bool silent) override {
         EXPECT_FALSE(name || after || silent);
         EXPECT_EQ(paletteNumber, 0);
-        added.push_back(imageFile + "," + paletteFile);
+        added.push_back(imageFile.value_or("none") + "," + paletteFile.value_or("none"));
         return true;
     }
     std::vector<std::string> added;

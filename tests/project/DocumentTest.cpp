@@ -212,6 +212,14 @@ TEST_F(Project, DropsMoveCopyAndReorderPictures) {
     EXPECT_FALSE(document_.NodeToString("\\Project", text));
 }
 
+TEST_F(Project, MovesThePictureWhoseNameEndsWithABlank) {
+    openPictures({"C", "C ", "D"});
+    std::string dragged;
+    ASSERT_TRUE(document_.NodeToString(std::string(kPictures) + "C ", dragged));
+    EXPECT_TRUE(document_.DropOnNode(std::string(kPictures) + "D", dragged, drop_effect::kMove));
+    EXPECT_THAT(document_.pictureNames(), ElementsAre("C", "D", "C "));
+}
+
 TEST_F(Project, OpensWhatIsThereOfAPicture) {
     fake_.files.putFile("c:\\p\\tex\\a.tmf", "x");
     fake_.files.putFile("c:\\p\\a.tlf", "x");

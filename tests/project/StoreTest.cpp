@@ -114,10 +114,10 @@ TEST_F(Store, BreaksLinesBehind511Characters) {
     std::string text = "#";
     for (int i = 0; i < 510; ++i)
         text += wide;
-    load(text + wide + "B\r\n" + std::string(600, 'x') + "\n" + std::string(510, 'y') + "\nA=1");
+    load(text + wide + "B\r\n" + std::string(600, 'x') + "\n" + std::string(511, 'y') + "\r\nA=1");
     EXPECT_THAT(store_.lines(), ElementsAre(StoreLine{text}, StoreLine{wide + "B"},
                                             StoreLine{std::string(511, 'x')}, StoreLine{std::string(89, 'x')},
-                                            StoreLine{std::string(510, 'y')}, StoreLine{"A", "=", "1"}));
+                                            StoreLine{std::string(511, 'y')}, StoreLine{"A", "=", "1"}));
 }
 
 TEST_F(Store, EveryLineSurvives) {
