@@ -55,6 +55,7 @@ std::uint32_t hostVersionWord() {
 
 bool PlugInCatalogue::LoadPlugIns(const std::string& programFolder) {
     folder_ = programFolder + "PlugIns\\";
+    failed_.clear();
     std::vector<FileEntry> entries =
         platform().files().enumerate(folder_ + "*" + platform().library().extension());
     std::ranges::stable_sort(entries, {}, [](const FileEntry& entry) { return foldedCase(entry.name); });
@@ -70,11 +71,17 @@ void PlugInCatalogue::add(const std::string& fileName) {
     info.module = platform().library().load(folder_ + fileName);
     if (info.module == nullptr)
         return;
+    const auto answer = [&](auto* entryPoint, auto... arguments) {
+        const std::optional<std::uint32_t> result = guarded(entryPoint, arguments...);
+        if (!result)
+            failed_.push_back(fileName);
+        return result.value_or(0);
+    };
     const auto isAvail = info.module->findFunction<decltype(DWPI_isAvail)>("_DWPI_isAvail@4");
-    if (isAvail == nullptr || guarded(isAvail, hostVersionWord()).value_or(0) == 0)
+    if (isAvail == nullptr || answer(isAvail, hostVersionWord()) == 0)
         return;
     if (const auto getType = info.module->findFunction<decltype(DWPI_getType)>("_DWPI_getType@0"))
-        info.type = guarded(getType).value_or(0);
+        info.type = answer(getType);
     info.fileName = fileName;
     describe(info, folder_ + fileName);
 

@@ -20,6 +20,8 @@ public:
 
     /// With a trailing "\".
     [[nodiscard]] const std::string& folder() const noexcept { return folder_; }
+    /// Files of plug-ins that broke off when they were asked who they are.
+    [[nodiscard]] const std::vector<std::string>& failed() const noexcept { return failed_; }
     [[nodiscard]] const std::vector<PlugInInfo>& all() const noexcept { return all_; }
     [[nodiscard]] const std::vector<PlugInInfo>& importers() const noexcept { return importers_; }
     [[nodiscard]] const std::vector<PlugInInfo>& exporters() const noexcept { return exporters_; }
@@ -36,6 +38,7 @@ private:
     void add(const std::string& fileName);
 
     std::string folder_;
+    std::vector<std::string> failed_;
     std::vector<PlugInInfo> all_;
     std::vector<PlugInInfo> importers_;
     std::vector<PlugInInfo> exporters_;

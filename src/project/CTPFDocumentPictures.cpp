@@ -272,8 +272,10 @@ void CTPFDocument::dropPicture(const std::string& target, std::string_view name,
     const std::string number = between(second + 1, value.size());
     const std::string picture(name);
     const auto palettes = static_cast<std::int32_t>(std::strtol(number.c_str(), nullptr, 10));
-    // Before anything is taken away.
-    if (!CTPFFile::holdsPicture(picture, {image, palette, palettes}))
+    // Before anything is taken away. Without a name it gets one.
+    const bool mayBeCalled =
+        picture.empty() || isPictureName(picture) || projectFile_.pictures.contains(picture);
+    if (!mayBeCalled || !CTPFFile::holdsPicture(picture, {image, palette, palettes}))
         return;
     if ((effect & drop_effect::kMove) != 0)
         RemovePicture(picture);

@@ -84,6 +84,8 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
     helpPath_ = programFolder_ + "..\\doc\\index.html";
     setPlugInHost(&plugInHost_);
     plugIns_.LoadPlugIns(programFolder_);
+    for (const std::string& fileName : plugIns_.failed())
+        plugInHost_.tellPlugInFailed(fileName);
     if (commandLine.task == CommandLine::Task::Serve || !processCommandLine(commandLine))
         return false;
     showMainFrame();

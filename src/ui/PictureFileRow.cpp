@@ -24,9 +24,8 @@ namespace {
 
 constexpr int kColumns = 24; // Of the list, in letters.
 
-void tellWrong(StringId text) {
-    platform().messages().show(
-        {dyeworks::text(text), "", MessageButtons::Ok, MessageIcon::Stop, MessageOwner::MainWindow});
+void tellWrong(const std::string& text) {
+    platform().messages().show({text, "", MessageButtons::Ok, MessageIcon::Stop, MessageOwner::MainWindow});
 }
 
 /// What every folder list begins with.
@@ -133,15 +132,21 @@ void PictureFileRow::browse() {
 void PictureFileRow::makeNew() {
     std::string name = this->name();
     if (name.empty()) {
-        tellWrong(StringId::NewFileNameMissing);
+        tellWrong(text(StringId::NewFileNameMissing));
         takeFocus();
         return;
     }
     if (!endsIgnoringCase(name, kind_.extension))
         name += kind_.extension;
     std::string target;
-    if (!PathSearch(target, directories_, name, false) || platform().files().exists(target)) {
-        tellWrong(StringId::FileNameExists);
+    const bool placed = PathSearch(target, directories_, name, false);
+    if (!placed && !isRooted(name)) {
+        tellWrong(text(StringId::FileIsNotFound, {displayPath(directories_)}));
+        takeFocus();
+        return;
+    }
+    if (!placed || platform().files().exists(target)) {
+        tellWrong(text(StringId::FileNameExists));
         takeFocus();
         return;
     }

@@ -58,6 +58,7 @@ TEST_F(PlugInCalls, CatalogueListsWhatAcceptsTheProgramByItsRoles) {
     for (const auto* list :
          {&catalogue_.projectImporters(), &catalogue_.projectExporters(), &catalogue_.nodeHandlers()})
         EXPECT_THAT(menuNames(*list), ElementsAre("a"));
+    EXPECT_THAT(catalogue_.failed(), ElementsAre("d.so", "f.so"));
     EXPECT_EQ(fake_.library.loadedCount(), 4);
     catalogue_.FreePlugIns();
     EXPECT_EQ(fake_.library.loadedCount(), 0);
