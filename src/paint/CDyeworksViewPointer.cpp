@@ -42,6 +42,8 @@ void CDyeworksView::PointerPressed(const PointerEvent& event) {
     if (tool->press(geometry().texelAt(event.position), event)) {
         tool_ = std::move(tool);
         window_.capturePointer();
+        if (Rect changed; document_.canvas().GetChangedRect(changed))
+            document_.RefreshPreviews();
     }
 }
 

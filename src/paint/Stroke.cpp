@@ -31,13 +31,13 @@ void Stroke::noteChanges() {
     Rect changed;
     if (!view_.document().canvas().GetChangedRect(changed))
         return;
-    view_.document().RefreshPreviews();
-    if (touched_ == kNothing) {
-        touched_ = changed;
-        return;
-    }
-    touched_ = {std::min(touched_.left, changed.left), std::min(touched_.top, changed.top),
-                std::max(touched_.right, changed.right), std::max(touched_.bottom, changed.bottom)};
+    touched_ = touched_ == kNothing
+                   ? changed
+                   : Rect{std::min(touched_.left, changed.left), std::min(touched_.top, changed.top),
+                          std::max(touched_.right, changed.right), std::max(touched_.bottom, changed.bottom)};
+    // A preview may end the drag, so it comes last, and not before the drag has begun.
+    if (view_.dragging())
+        view_.document().RefreshPreviews();
 }
 
 } // namespace dyeworks

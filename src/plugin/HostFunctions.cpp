@@ -4,6 +4,7 @@
 #include "core/TlfFormat.h"
 #include "core/TmfFormat.h"
 #include "paint/CDyeworksDoc.h"
+#include "platform/CodePage932.h"
 #include "platform/Platform.h"
 #include "platform/TextCase.h"
 #include "plugin/PlugInHost.h"
@@ -53,6 +54,17 @@ std::string textOf(const char* text) {
     return text == nullptr ? std::string() : std::string(text);
 }
 
+/// Whether it is a text that a project's file can be written with. A single one that is not UTF-8 would have
+/// the whole file read as Japanese of another code page.
+bool isText(const char* text) {
+    return text != nullptr && isUtf8(text);
+}
+
+/// The same of one that has to stay on its line of the file.
+bool isLine(const char* text) {
+    return isText(text) && std::strpbrk(text, "\r\n") == nullptr;
+}
+
 std::optional<std::string> optionalText(const char* text) {
     return text == nullptr ? std::nullopt : std::optional<std::string>(text);
 }
@@ -90,7 +102,10 @@ std::uint32_t filled(char* buffer, std::int32_t size, std::string CTPFFile::*fol
 
 std::uint32_t replaced(const char* folders, std::string CTPFFile::*folder) {
     CTPFDocument* const open = project();
-    if (open == nullptr || folders == nullptr)
+    if (open == nullptr || !isText(folders))
+        return 0;
+    // The project's own folder is not read from the file.
+    if (folder != &CTPFFile::tpfDir && !open->projectFile().holdsFolders(folders))
         return 0;
     open->projectFile().*folder = folders;
     open->setModified(true);
@@ -137,7 +152,7 @@ std::uint32_t DW_getValue(const char* key, char* buffer, std::int32_t size) {
 
 std::uint32_t DW_setValue(const char* key, const char* value) {
     CTPFDocument* const open = project();
-    if (open == nullptr || key == nullptr || value == nullptr)
+    if (open == nullptr || !isLine(key) || !isLine(value))
         return 0;
     open->SetValue(key, value);
     return 1;
@@ -150,17 +165,15 @@ std::uint32_t DW_removeKey(const char* key) {
 
 std::uint32_t DW_addNode(const char* text, std::int32_t image, const char* parent, DwNode after) {
     CTPFDocument* const open = project();
-    return open != nullptr && text != nullptr &&
-                   open->AddNode(text, image, optionalText(parent), placeOf(after))
+    return open != nullptr && isText(text) && open->AddNode(text, image, optionalText(parent), placeOf(after))
                ? 1
                : 0;
 }
 
 std::uint32_t DW_renameNode(const char* text, DwNode node, const char* parent) {
     CTPFDocument* const open = project();
-    return open != nullptr && text != nullptr && open->RenameNode(text, placeOf(node), optionalText(parent))
-               ? 1
-               : 0;
+    return open != nullptr && isText(text) && open->RenameNode(text, placeOf(node), optionalText(parent)) ? 1
+                                                                                                          : 0;
 }
 
 std::uint32_t DW_removeNode(DwNode node, const char* parent) {
@@ -191,7 +204,7 @@ std::uint32_t DW_getPicture(const char* name, char* tmf, std::int32_t tmfSize, c
 
 std::uint32_t DW_setPicture(const char* name, const char* tmf, const char* tlf, std::uint32_t paletteNumber) {
     CTPFDocument* const open = project();
-    return open != nullptr && name != nullptr &&
+    return open != nullptr && isText(name) && isUtf8(textOf(tmf)) && isUtf8(textOf(tlf)) &&
                    open->SetPicture(name,
                                     {textOf(tmf), textOf(tlf), static_cast<std::int32_t>(paletteNumber)})
                ? 1

@@ -9,6 +9,7 @@
 
 #include <new>
 #include <optional>
+#include <utility>
 
 namespace dyeworks {
 
@@ -115,7 +116,7 @@ std::unique_ptr<TextureCanvas> ImagePlugInCalls::ImportImage(std::int32_t index,
         if (texels != nullptr)
             canvas = canvasOf(*texels, table != nullptr ? table : palette, paletteNumber);
         if (table != nullptr)
-            takeUpPalette(*table, palette);
+            fine = takeUpPalette(*table, palette) && fine;
     }
     working.reset();
     if (!fine)
@@ -126,10 +127,12 @@ std::unique_ptr<TextureCanvas> ImagePlugInCalls::ImportImage(std::int32_t index,
 /// The image's palette takes the place of the one it has; it is no step of the palette's history.
 bool ImagePlugInCalls::takeUpPalette(const TlutData& brought, TlutData* palette) {
     bool taken = false;
-    if (palette == nullptr)
+    if (palette == nullptr) {
         taken = host_.paletteSet()->addCopy(brought);
-    else if (palette->create(brought.count, brought.colourType))
-        taken = palette->copyEntriesFrom(brought) > 0;
+    } else if (TlutData copy(brought); copy.entries != nullptr) {
+        *palette = std::move(copy);
+        taken = true;
+    }
     host_.refreshPaletteBar();
     return taken;
 }

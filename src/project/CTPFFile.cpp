@@ -258,6 +258,13 @@ std::size_t CTPFFile::GetPictureNames(std::vector<std::string>& names) const {
     return names.size();
 }
 
+bool CTPFFile::holdsFolders(const std::string& directories) const {
+    std::string own;
+    std::string name;
+    PathSplitFolder(pathName, own, name);
+    return CKeyValueStore::holds(kTmfDir, relativeTo(own, directories));
+}
+
 bool CTPFFile::holdsPicture(const std::string& name, const PictureEntry& entry) {
     // Reading would put a value in the place of a reference.
     const auto isField = [](const std::string& text) {

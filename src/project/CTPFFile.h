@@ -43,6 +43,8 @@ public:
     [[nodiscard]] bool IsModified() const noexcept { return modified; }
     void SetModified(bool isModified) noexcept { modified = isModified; }
 
+    /// Whether the file can hold these folders of images or palettes.
+    [[nodiscard]] bool holdsFolders(const std::string& directories) const;
     /// Whether the file can hold a picture like this one and give it back.
     [[nodiscard]] static bool holdsPicture(const std::string& name, const PictureEntry& entry);
 

@@ -1,4 +1,5 @@
 #include "platform/Platform.h"
+#include "platform/qt/QtWaitCursor.h"
 #include "project/ProjectDocument.h"
 #include "ui/AboutDialog.h"
 #include "ui/CDyeworksApp.h"
@@ -150,6 +151,7 @@ void CDyeworksApp::OnPaletteSaveAs() {
 }
 
 void CDyeworksApp::ShowAbout() {
+    const OrdinaryPointerScope pointer;
     AboutDialog(plugIns_, mainFrame_.get()).exec();
 }
 

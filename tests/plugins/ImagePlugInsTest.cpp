@@ -203,6 +203,13 @@ TEST_F(ImagePlugIns, APreviewThatSetsTheImageEndsTheStrokeThatItShows) {
         EXPECT_FALSE(view().view().dragging()) << tool;
         QTest::mouseRelease(viewport, Qt::LeftButton, {}, {8, 3});
     }
+    ASSERT_TRUE(run(ID_PREVIEW1));
+    while (image().CanUndo())
+        image().Undo();
+    for (int y = 0; y < 8; ++y) {
+        for (int x = 0; x < 24; ++x)
+            EXPECT_EQ(texel(x, y), 1U) << x << ' ' << y;
+    }
 }
 
 } // namespace

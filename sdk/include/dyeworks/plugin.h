@@ -6,6 +6,8 @@
  *
  * All entry points are called on the program's user-interface thread, and the host functions may be called on
  * that thread alone, also from inside an entry point. Called on another thread they return 0 and do nothing.
+ * A plug-in that runs an event loop in an entry point needs a modal window to do so: the user could otherwise
+ * close what the call is about.
  *
  * Memory. What the host passes in belongs to the host and is valid during the call. What a plug-in hands back
  * in a PlugInPicture, and what DW_getTMF and DW_getTLF hand out, belongs to whoever receives it: the record
@@ -121,7 +123,7 @@ DWPI_ENTRY DwHandle DWPI_TPF_onNew(void);
 DWPI_ENTRY uint32_t DWPI_TPF_onUpdate(DwHandle handle);
 /* The project's tree stands: time to add nodes. */
 DWPI_ENTRY uint32_t DWPI_TPF_onUpdateNodes(DwHandle handle);
-/* The project closes; the last call with this handle. */
+/* The project closes; the last call with this handle. What is changed here is not saved. */
 DWPI_ENTRY uint32_t DWPI_TPF_onDelete(DwHandle handle);
 /* A command on a node that is no picture. With `query` nothing is done: nonzero enables the command. Every
  * plug-in hears of every such node and answers 0 for those of others. */
@@ -140,9 +142,10 @@ DWPI_ENTRY uint32_t DWPI_TPF_export(DwHandle handle, const char* projectPath);
 
 /* ---- Host functions --------------------------------------------------------------------------------- */
 
-/* Unless said otherwise these act on the open project, and return 0 when there is none. A function that fills
- * a buffer writes at most `size` bytes, the last of them a zero; longer texts are cut before the character
- * that does not fit, and a size of 0 or less writes nothing. */
+/* Unless said otherwise these act on the open project, and return 0 when there is none, and when its file
+ * could not hold what they are given: a text that is not UTF-8, a line break in a key or value, a "#" in a
+ * folder. A function that fills a buffer writes at most `size` bytes, the last of them a zero; longer texts
+ * are cut before the character that does not fit, and a size of 0 or less writes nothing. */
 
 /* Shows the About box until the user closes it. */
 DW_HOST void DW_About(void);
@@ -156,7 +159,7 @@ DW_HOST uint32_t DW_removeKey(const char* key);
 /* Nodes of the tree. `parent` is the path of a node; null, or one that is not found, is the top of the tree.
  * `image` is an icon, 0 to 8: pictures, folder, note, flag, project, picture, palette, link, value. */
 /* Index 0 adds the node first, index k behind child number k, a text behind the child called so, the empty
- * text at the end. */
+ * text at the end. To rename and remove, index k is child number k, and the empty text the parent itself. */
 DW_HOST uint32_t DW_addNode(const char* text, int32_t image, const char* parent, DwNode after);
 DW_HOST uint32_t DW_renameNode(const char* text, DwNode node, const char* parent);
 DW_HOST uint32_t DW_removeNode(DwNode node, const char* parent);
