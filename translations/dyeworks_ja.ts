@@ -1149,11 +1149,11 @@ The changes to &quot;%1&quot; will be lost.</source>
     </message>
     <message>
         <source>Pictures of the project</source>
-        <translation>プロジェクトのピクチャ</translation>
+        <translation>プロジェクトのピクチャー</translation>
     </message>
     <message>
         <source>Open the chosen picture</source>
-        <translation>選択したピクチャを開く</translation>
+        <translation>選択したピクチャーを開く</translation>
     </message>
     <message>
         <source>Buttons for documents, undo and redo, the clipboard, printing and help. Drag the handle to move the bar to another side of the window.</source>
@@ -1169,7 +1169,7 @@ The changes to &quot;%1&quot; will be lost.</source>
     </message>
     <message>
         <source>The pictures of the open project. Choose one in the list; the button on the right opens it, the others change the list.</source>
-        <translation>開いているプロジェクトのピクチャです。一覧から選択し、右のボタンで開きます。ほかのボタンは一覧を変更します。</translation>
+        <translation>開いているプロジェクトのピクチャーです。一覧から選択し、右のボタンで開きます。ほかのボタンは一覧を変更します。</translation>
     </message>
     <message>
         <source>What the command under the pointer does.</source>

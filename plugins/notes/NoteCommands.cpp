@@ -64,7 +64,7 @@ bool showProperties(const Note& note) {
         say("Notes: %1\n\nA note that is dropped on another goes behind it, with Shift below it. With "
             "Ctrl a copy does. Pictures can be dropped, too.",
             "ノート: %1\n\nノートを別のノートにドロップするとその後ろに、Shift キーを押しているとその下に"
-            "移動します。Ctrl キーを押しているとコピーします。ピクチャもドロップできます。")
+            "移動します。Ctrl キーを押しているとコピーします。ピクチャーもドロップできます。")
             .arg(countBelow(note));
     if (note.parent != nullptr) {
         const qsizetype lines = note.text.isEmpty() ? 0 : note.text.count(QLatin1Char('\n')) + 1;

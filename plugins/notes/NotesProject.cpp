@@ -64,7 +64,7 @@ QString lastPart(const QString& path) {
 QString textOfPicture(const QString& name, const QByteArray& value) {
     const QStringList parts = QString::fromUtf8(value).split(QLatin1Char(','));
     const QString palette = parts.value(1);
-    QString text = say("Picture: %1", "ピクチャ: %1").arg(name);
+    QString text = say("Picture: %1", "ピクチャー: %1").arg(name);
     text += say("\nImage: ", "\n画像: ") + parts.value(0);
     if (!palette.isEmpty())
         text += say("\nPalette: ", "\nパレット: ") + palette + say("\nBank: ", "\nバンク: ") + parts.value(2);

@@ -18,11 +18,11 @@ DW_VERSION_INFO(1, 0, 0, 0, DW_VERSION_STRING("040904E4", "ProductName", "Pictur
                 DW_VERSION_STRING("040904E4", "CompanyName", "Orrery Dyeworks"),
                 DW_VERSION_STRING("040904E4", "Comments",
                                   "Writes a project's pictures as PNG files with an index."),
-                DW_VERSION_STRING("041104B0", "ProductName", "ピクチャを PNG に"),
-                DW_VERSION_STRING("041104B0", "InternalName", "ピクチャを PNG に..."),
+                DW_VERSION_STRING("041104B0", "ProductName", "ピクチャーを PNG に"),
+                DW_VERSION_STRING("041104B0", "InternalName", "ピクチャーを PNG に..."),
                 DW_VERSION_STRING("041104B0", "CompanyName", "Orrery Dyeworks"),
                 DW_VERSION_STRING("041104B0", "Comments",
-                                  "プロジェクトのピクチャを PNG ファイルと一覧に書き出します。"));
+                                  "プロジェクトのピクチャーを PNG ファイルと一覧に書き出します。"));
 
 namespace {
 
@@ -32,7 +32,7 @@ using namespace dyeworks::plugins;
 constexpr qsizetype kFailuresInMessage = 10;
 
 QString title() {
-    return say("Export Pictures as PNG", "ピクチャを PNG にエクスポート");
+    return say("Export Pictures as PNG", "ピクチャーを PNG にエクスポート");
 }
 
 /// True when nothing in the folder would be lost, or may be.

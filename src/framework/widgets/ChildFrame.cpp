@@ -53,12 +53,11 @@ WindowPlacement ChildFrame::placement() const {
 }
 
 void ChildFrame::setPlacement(const WindowPlacement& placement) {
-    const QRect normal(placement.left, placement.top, placement.right - placement.left,
-                       placement.bottom - placement.top);
     if (isMaximized() || isMinimized())
         showNormal();
-    if (normal.isValid())
-        setGeometry(normal);
+    if (placement.hasRectangle())
+        setGeometry(placement.left, placement.top, placement.right - placement.left,
+                    placement.bottom - placement.top);
     if (placement.showCommand == WindowPlacement::kShowMaximized)
         showMaximized();
     else if (placement.showCommand == WindowPlacement::kShowMinimized)
