@@ -16,7 +16,7 @@ namespace {
 
 constexpr const char* kPath = "\\p\\fuzz.tpf";
 
-/// What has to come back. A line that fills what is read in one piece leaves an empty one behind.
+/// What has to come back. A line that is longer than what is read in one piece may leave an empty one behind.
 std::vector<StoreLine> linesOf(const CTPFFile& project) {
     std::vector<StoreLine> lines = project.store->lines();
     std::erase_if(lines, [](const StoreLine& line) { return line == StoreLine{""}; });
