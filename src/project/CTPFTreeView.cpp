@@ -233,6 +233,26 @@ void CTPFTreeView::addNodeCommand(CommandId id) {
     on(id, &CTPFTreeView::OnNodeCommand<kCommand>, &CTPFTreeView::OnUpdateNodeCommand<kCommand>);
 }
 
+/// What is added below a node is shown there.
+void CTPFTreeView::runPlugInCommand(const std::string& path, NodeCommand command) {
+    const auto find = [&] {
+        std::size_t position = 0;
+        return FindNode(path, position, nullptr);
+    };
+    const ProjectNode* node = find();
+    const std::size_t before = node == nullptr ? 0 : node->children.size();
+    ProjectHost& host = document_.host();
+    const CTPFDocument* const document = &document_;
+    host.projectPlugIns().TPF_OnCommand(document->plugInHandles(), path, command);
+    // While the plug-in asked the user, the project or this window of it may have been closed.
+    if (host.projectDocument() != document ||
+        std::ranges::find(document->views(), static_cast<DocumentView*>(this)) == document->views().end())
+        return;
+    node = find();
+    if (node != nullptr && node->children.size() > before)
+        window_.expand(*node);
+}
+
 template <NodeCommand kCommand>
 void CTPFTreeView::OnNodeCommand() {
     bool isProject = false;
@@ -243,7 +263,7 @@ void CTPFTreeView::OnNodeCommand() {
     if (isPicture)
         command = pictureCommand(kCommand);
     if (command == 0) {
-        document_.host().projectPlugIns().TPF_OnCommand(document_.plugInHandles(), path, kCommand);
+        runPlugInCommand(path, kCommand);
         return;
     }
     // The bar may show another picture since the pictures last changed.

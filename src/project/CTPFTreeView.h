@@ -78,6 +78,7 @@ private:
 
     template <NodeCommand kCommand>
     void addNodeCommand(CommandId id);
+    void runPlugInCommand(const std::string& path, NodeCommand command);
     template <NodeCommand kCommand>
     void OnNodeCommand();
     template <NodeCommand kCommand>

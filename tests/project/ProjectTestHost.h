@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -74,6 +75,7 @@ public:
     PictureSettings proposed; ///< What the picture dialog started with.
     PictureField refused = PictureField::None;
     bool queries = false; ///< What the plug-ins answer.
+    std::function<void()> onCommand;
     std::vector<std::string> log;
 
 private:
@@ -95,6 +97,8 @@ private:
     void TPF_OnCommand(const PlugInHandles& /*handles*/, const std::string& node,
                        NodeCommand command) override {
         log.push_back(node + " " + std::to_string(static_cast<int>(command)));
+        if (onCommand)
+            onCommand();
     }
     bool TPF_QueryCommand(const PlugInHandles& /*handles*/, const std::string& /*node*/,
                           NodeCommand /*command*/) override {

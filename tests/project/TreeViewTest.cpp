@@ -98,6 +98,23 @@ TEST_F(TreeView, CommandsGoToThePicturesTheProjectOrThePlugIns) {
     }
 }
 
+TEST_F(TreeView, ShowsWhatACommandAddsBelowItsNode) {
+    openPictures({"A"});
+    show();
+    ASSERT_TRUE(view_->AddNode("Notes", 2, "\\Project", ""));
+    select("\\Project\\Notes");
+    view_->runCommand(ID_NODE_EDIT);
+    EXPECT_FALSE(window_.isExpanded(*node("\\Project\\Notes")));
+    host_.onCommand = [this] { EXPECT_TRUE(view_->AddNode("first", 2, "\\Project\\Notes", "")); };
+    view_->runCommand(ID_NODE_ADD);
+    EXPECT_TRUE(window_.isExpanded(*node("\\Project\\Notes")));
+    host_.onCommand = [this] {
+        view_.reset();
+        host_.project = nullptr;
+    };
+    view_->runCommand(ID_NODE_ADD);
+}
+
 TEST_F(TreeView, SelectionFollowsItsPicture) {
     openPictures({"A", "B", "C"});
     show();
