@@ -104,8 +104,11 @@ std::uint32_t replaced(const char* folders, std::string CTPFFile::*folder) {
     CTPFDocument* const open = project();
     if (open == nullptr || !isText(folders))
         return 0;
+    std::string own;
+    std::string name;
+    PathSplitFolder(open->projectFile().pathName, own, name);
     // The project's own folder is not read from the file.
-    if (folder != &CTPFFile::tpfDir && !open->projectFile().holdsFolders(folders))
+    if (folder != &CTPFFile::tpfDir && !CTPFFile::holdsFolders(own, folders))
         return 0;
     open->projectFile().*folder = folders;
     open->setModified(true);

@@ -22,9 +22,7 @@ MessageAnswer show(const std::string& text, MessageButtons buttons, MessageIcon 
 /// Whether the file can hold the folders of a project in this folder; if not, the user is told.
 bool foldersAreHeld(const ProjectSettings& settings) {
     for (const std::string* folders : {&settings.imageDirectories, &settings.paletteDirectories}) {
-        std::string kept;
-        PathRelativeTo(kept, settings.projectDirectory, *folders);
-        if (!CKeyValueStore::holds("TMF_DIR", kept)) {
+        if (!CTPFFile::holdsFolders(settings.projectDirectory, *folders)) {
             show(text(StringId::ProjectCannotHoldFolder, {displayPath(*folders)}), MessageButtons::Ok,
                  MessageIcon::Stop);
             return false;

@@ -267,11 +267,8 @@ std::size_t CTPFFile::GetPictureNames(std::vector<std::string>& names) const {
     return names.size();
 }
 
-bool CTPFFile::holdsFolders(const std::string& directories) const {
-    std::string own;
-    std::string name;
-    PathSplitFolder(pathName, own, name);
-    return CKeyValueStore::holds(kTmfDir, relativeTo(own, directories));
+bool CTPFFile::holdsFolders(const std::string& tpfFolder, const std::string& directories) {
+    return CKeyValueStore::holds(kTmfDir, relativeTo(tpfFolder, directories));
 }
 
 bool CTPFFile::holdsPicture(const std::string& name, const PictureEntry& entry) {

@@ -43,8 +43,8 @@ public:
     [[nodiscard]] bool IsModified() const noexcept { return modified; }
     void SetModified(bool isModified) noexcept { modified = isModified; }
 
-    /// Whether the file can hold these folders of images or palettes.
-    [[nodiscard]] bool holdsFolders(const std::string& directories) const;
+    /// Whether a file in the folder can hold these folders of images or palettes.
+    [[nodiscard]] static bool holdsFolders(const std::string& tpfFolder, const std::string& directories);
     /// Whether the file can hold a picture like this one and give it back.
     [[nodiscard]] static bool holdsPicture(const std::string& name, const PictureEntry& entry);
 
