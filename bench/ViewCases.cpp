@@ -4,9 +4,9 @@
 #include "paint/CDyeworksDoc.h"
 #include "paint/CDyeworksView.h"
 #include "paint/ViewWindow.h"
-#include "ui/PaletteBarHost.h"
-#include "ui/PaletteBarState.h"
-#include "ui/PaletteGrid.h"
+#include "palette/PaletteBarHost.h"
+#include "palette/PaletteBarState.h"
+#include "palette/PaletteGrid.h"
 
 #include <benchmark/benchmark.h>
 

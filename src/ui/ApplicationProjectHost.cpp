@@ -1,11 +1,11 @@
 #include "ui/ApplicationProjectHost.h"
 
 #include "ui/CDyeworksApp.h"
-#include "ui/CFileNewProjectPage.h"
-#include "ui/CFileNewSheet.h"
 #include "ui/CMainFrame.h"
-#include "ui/CPictureDlg.h"
-#include "ui/ProjectPropertySheet.h"
+#include "ui/sheets/CFileNewProjectPage.h"
+#include "ui/sheets/CFileNewSheet.h"
+#include "ui/sheets/CPictureDlg.h"
+#include "ui/sheets/ProjectPropertySheet.h"
 
 namespace dyeworks {
 

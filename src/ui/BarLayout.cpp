@@ -2,7 +2,7 @@
 
 #include "framework/widgets/WidgetPlacement.h"
 #include "platform/Platform.h"
-#include "ui/CPaletteBar.h"
+#include "ui/palettebar/CPaletteBar.h"
 
 #include <QByteArray>
 #include <QCryptographicHash>

@@ -6,10 +6,10 @@
 #include "platform/Platform.h"
 #include "platform/TextCase.h"
 #include "project/CTPFDocument.h"
-#include "ui/CFileNewSheet.h"
-#include "ui/CFileNewTexturePage.h"
 #include "ui/CMainFrame.h"
-#include "ui/CPaletteBar.h"
+#include "ui/palettebar/CPaletteBar.h"
+#include "ui/sheets/CFileNewSheet.h"
+#include "ui/sheets/CFileNewTexturePage.h"
 
 #include <algorithm>
 #include <map>

@@ -6,6 +6,7 @@
 #include "framework/RecentFileList.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/ImageHost.h"
+#include "palette/PaletteBarHost.h"
 #include "platform/FileDialogs.h"
 #include "plugin/ImagePlugInCalls.h"
 #include "plugin/PlugInCatalogue.h"
@@ -14,7 +15,6 @@
 #include "ui/ApplicationProjectHost.h"
 #include "ui/OpenRequestQueue.h"
 #include "ui/OpenedFile.h"
-#include "ui/PaletteBarHost.h"
 #include "ui/StartUpParts.h"
 
 #include <QPointer>

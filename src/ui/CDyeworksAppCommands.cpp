@@ -1,9 +1,9 @@
 #include "platform/Platform.h"
 #include "platform/qt/QtWaitCursor.h"
 #include "project/ProjectDocument.h"
-#include "ui/AboutDialog.h"
 #include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"
+#include "ui/sheets/AboutDialog.h"
 
 namespace dyeworks {
 

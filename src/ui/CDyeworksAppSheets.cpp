@@ -1,11 +1,11 @@
-#include "ui/AskUseProject.h"
 #include "ui/CDyeworksApp.h"
-#include "ui/CFileNewPalettePage.h"
-#include "ui/CFileNewSheet.h"
-#include "ui/CFileNewTexturePage.h"
 #include "ui/CMainFrame.h"
-#include "ui/COptionPropertySheet.h"
-#include "ui/CUseProjectDlg.h"
+#include "ui/sheets/AskUseProject.h"
+#include "ui/sheets/CFileNewPalettePage.h"
+#include "ui/sheets/CFileNewSheet.h"
+#include "ui/sheets/CFileNewTexturePage.h"
+#include "ui/sheets/COptionPropertySheet.h"
+#include "ui/sheets/CUseProjectDlg.h"
 
 namespace dyeworks {
 

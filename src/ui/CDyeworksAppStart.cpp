@@ -5,10 +5,10 @@
 #include "project/CTPFDocument.h"
 #include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"
-#include "ui/CPaletteBar.h"
 #include "ui/CommandLine.h"
 #include "ui/SplashScreen.h"
 #include "ui/controls/ControlRegistration.h"
+#include "ui/palettebar/CPaletteBar.h"
 
 #include <QApplication>
 #include <QPixmap>

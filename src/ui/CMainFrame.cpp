@@ -14,10 +14,10 @@
 #include "project/widgets/ProjectTreeWidget.h"
 #include "ui/BarLayout.h"
 #include "ui/CDyeworksApp.h"
-#include "ui/CPaletteBar.h"
 #include "ui/CProjectBar.h"
 #include "ui/MainMenus.h"
 #include "ui/StatusPanes.h"
+#include "ui/palettebar/CPaletteBar.h"
 
 #include <QCloseEvent>
 #include <QDropEvent>

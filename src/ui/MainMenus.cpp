@@ -177,24 +177,6 @@ constexpr std::array kPaletteMenu{
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Entries"), kEntriesMenu},
 };
 
-constexpr std::array kPaletteBarMenu{
-    MenuItem{ID_PALETTE_NEW},
-    MenuItem{ID_PALETTE_OPEN},
-    MenuItem{ID_PALETTE_CLOSE},
-    kSeparator,
-    MenuItem{ID_PALETTE_SAVE},
-    MenuItem{ID_PALETTE_SAVE_AS},
-    kSeparator,
-    MenuItem{ID_PALETTE_EDIT},
-    MenuItem{ID_IMAGE_ATTACH},
-    kSeparator,
-    MenuItem{ID_PALETTE_UNDO},
-    MenuItem{ID_PALETTE_REDO},
-    kSeparator,
-    MenuItem{ID_PALETTE_COPY},
-    MenuItem{ID_PALETTE_PASTE},
-};
-
 // The context menus of an image.
 constexpr std::array kSelectionMenu{
     MenuItem{ID_EDIT_CUT},
@@ -362,10 +344,6 @@ std::span<const MenuItem> imageContextMenu(CDyeworksView::ContextMenu menu) {
 std::span<const MenuItem> nodeMenu() {
     return kNodeMenu;
 }
-std::span<const MenuItem> paletteBarMenu() {
-    return kPaletteBarMenu;
-}
-
 std::span<const MenuItem> toolBarItems() {
     return kToolBar;
 }

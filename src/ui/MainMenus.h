@@ -22,8 +22,6 @@ std::span<const MenuItem> barsMenu();
 std::span<const MenuItem> imageContextMenu(CDyeworksView::ContextMenu menu);
 /// The context menu of a project's tree.
 std::span<const MenuItem> nodeMenu();
-/// The context menu of the palette bar.
-std::span<const MenuItem> paletteBarMenu();
 
 // The buttons of the bars.
 std::span<const MenuItem> toolBarItems();

@@ -2,7 +2,7 @@
 
 #include "framework/widgets/ChildFrame.h"
 #include "platform/posix/PosixVersionInfo.h"
-#include "ui/AboutDialog.h"
+#include "ui/sheets/AboutDialog.h"
 
 #include <QApplication>
 #include <QDropEvent>

@@ -1,7 +1,7 @@
 #include "platform/fake/FakePlatform.h"
-#include "ui/CIaPaletteDialog.h"
-#include "ui/CRgbaPaletteDialog.h"
-#include "ui/ColourControls.h"
+#include "ui/sheets/CIaPaletteDialog.h"
+#include "ui/sheets/CRgbaPaletteDialog.h"
+#include "ui/sheets/ColourControls.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -1,5 +1,5 @@
 #include "Program.h"
-#include "ui/CUseProjectDlg.h"
+#include "ui/sheets/CUseProjectDlg.h"
 
 #include <QApplication>
 #include <QLineEdit>

@@ -1,7 +1,7 @@
 #include "Program.h"
-#include "ui/CFileNewPalettePage.h"
-#include "ui/CFileNewSheet.h"
-#include "ui/CFileNewTexturePage.h"
+#include "ui/sheets/CFileNewPalettePage.h"
+#include "ui/sheets/CFileNewSheet.h"
+#include "ui/sheets/CFileNewTexturePage.h"
 
 #include <QLabel>
 #include <QLineEdit>

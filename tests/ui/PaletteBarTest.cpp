@@ -1,11 +1,11 @@
 #include "Program.h"
 #include "core/PaletteSet.h"
 #include "framework/widgets/IntegerField.h"
-#include "ui/CIaPaletteDialog.h"
-#include "ui/ColourControls.h"
-#include "ui/PaletteBarIds.h"
 #include "ui/controls/CRampSlider.h"
 #include "ui/controls/CSwatchGrid.h"
+#include "ui/palettebar/PaletteBarIds.h"
+#include "ui/sheets/CIaPaletteDialog.h"
+#include "ui/sheets/ColourControls.h"
 
 #include <QAction>
 #include <QCheckBox>

@@ -5,8 +5,8 @@
 #include "project/CTPFDocument.h"
 #include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"
-#include "ui/CPaletteBar.h"
 #include "ui/CommandLine.h"
+#include "ui/palettebar/CPaletteBar.h"
 
 #include <QDialog>
 #include <QTest>

@@ -1,8 +1,8 @@
 #include "Program.h"
-#include "ui/CFileNewProjectPage.h"
-#include "ui/PathEdit.h"
-#include "ui/ProjectPropertySheet.h"
 #include "ui/controls/ControlRegistration.h"
+#include "ui/sheets/CFileNewProjectPage.h"
+#include "ui/sheets/PathEdit.h"
+#include "ui/sheets/ProjectPropertySheet.h"
 
 #include <QDir>
 #include <QFileDialog>

@@ -1,7 +1,7 @@
 #include "Program.h"
-#include "ui/AskUseProject.h"
-#include "ui/COptionPropertySheet.h"
-#include "ui/CUseProjectDlg.h"
+#include "ui/sheets/AskUseProject.h"
+#include "ui/sheets/COptionPropertySheet.h"
+#include "ui/sheets/CUseProjectDlg.h"
 
 #include <QAbstractButton>
 

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "palette/PaletteBarState.h"
+#include "ui/palettebar/PaletteBarIds.h"
+
+#include <QObject>
+
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QSlider;
+
+namespace dyeworks {
+
+class CRampSlider;
+class IntegerField;
+
+/// One channel of the palette bar: a label, a number with a spin button, a bar and a hexadecimal read-out,
+/// and the trackbar that follows them unseen. Without its control the row does without the bar.
+class CPaletteBarChannel : public QObject {
+    Q_OBJECT
+
+public:
+    struct Ids {
+        PaletteBarId label;
+        PaletteBarId edit;
+        PaletteBarId spin;
+        PaletteBarId slider;
+        PaletteBarId track;
+        PaletteBarId readOut;
+    };
+
+    /// Adds the row's widgets to the layout, whose widget owns them. `state` must outlive the row.
+    CPaletteBarChannel(PaletteBarState& state, Channel channel, const Ids& ids, QGridLayout& layout);
+
+    /// Name, range, colours and whether the row shows.
+    void showLayout();
+    void showValue();
+
+private:
+    void typed();
+    void scrolled(int action);
+    void showNames(bool intensity, const std::string& highest);
+
+    PaletteBarState& state_;
+    Channel channel_;
+    QLabel* label_;
+    IntegerField* field_;
+    CRampSlider* slider_;
+    QLineEdit* readOut_;
+    QSlider* track_;
+};
+
+} // namespace dyeworks

@@ -1,0 +1,176 @@
+#include "ui/palettebar/CPaletteBarControls.h"
+
+#include "framework/widgets/CommandActions.h"
+#include "framework/widgets/IntegerField.h"
+#include "ui/controls/CSwatchGrid.h"
+#include "ui/palettebar/CPaletteBarChannel.h"
+#include "ui/palettebar/PaletteBarWidgets.h"
+#include "ui/sheets/CIaPaletteDialog.h"
+#include "ui/sheets/CRgbaPaletteDialog.h"
+#include "ui/sheets/ColourControls.h"
+#include "ui/sheets/SheetControls.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QStyle>
+#include <QTabBar>
+
+#include <algorithm>
+
+namespace dyeworks {
+
+namespace {
+
+template <typename Dialog>
+std::optional<std::uint16_t> ask(QWidget* parent, std::uint16_t start) {
+    Dialog dialog(parent);
+    dialog.SetValue(start);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.GetValue();
+}
+
+} // namespace
+
+CPaletteBarControls::~CPaletteBarControls() {
+    // A field that has the focus loses it, and tells so, when nothing of this class is left.
+    for (QWidget* each : findChildren<QWidget*>())
+        each->disconnect(this);
+}
+
+void CPaletteBarControls::valuesChanged() {
+    for (const auto& channel : channels_)
+        channel->showValue();
+    showEntry();
+    showBank();
+    const QSignalBlocker quietRgb(rgb_);
+    const QSignalBlocker quietAlpha(alpha_);
+    (state_.viewMode() == ViewMode::Alpha ? alpha_ : rgb_)->setChecked(true);
+    const QSignalBlocker quietPreview(preview_);
+    preview_->setChecked(state_.preview());
+}
+
+void CPaletteBarControls::showEntry() {
+    edit_->setColour(colourOf(state_.editColour()));
+    edit_->setEnabled(state_.CanEditPalette());
+    cell_->setText(QString::number(state_.CurrentCell()));
+    showText(*entry_, state_.entryText());
+    const bool wrong = state_.entryTextIsWrong();
+    // To find its first icon, the desktop's theme is searched, which takes longer than all else of the bar.
+    if (wrong && mark_->icon().isNull())
+        mark_->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
+    mark_->setVisible(wrong);
+    const QString tip = shown(wrong ? StringId::PaletteEntryWrong : StringId::PaletteEntryTip);
+    entry_->setToolTip(tip);
+    entry_->setAccessibleDescription(tip);
+    apply_->setEnabled(state_.CanApply());
+}
+
+void CPaletteBarControls::showBank() {
+    number_->setEnabled(state_.inBankMode());
+    numberLabel_->setEnabled(state_.inBankMode());
+    grid_->setBankRow(state_.inBankMode() ? static_cast<std::int16_t>(state_.paletteNumber())
+                                          : CSwatchGrid::kNone);
+    const QSignalBlocker quiet(number_);
+    if (number_->value() != state_.paletteNumber())
+        number_->setValue(state_.paletteNumber());
+}
+
+void CPaletteBarControls::layoutChanged() {
+    const bool any = state_.hasPalette();
+    tabs_->setEnabled(any);
+    emptyNotice_->setVisible(!any);
+    gridArea_->setVisible(any);
+    fields_->setVisible(any);
+    stripRow_->setVisible(state_.stripVisible());
+    for (const auto& channel : channels_)
+        channel->showLayout();
+    // Where no control has a tip of its own.
+    setToolTip(QString::fromStdString(state_.tip({})));
+    updateGeometry();
+    arrange();
+}
+
+void CPaletteBarControls::tabsChanged() {
+    const QSignalBlocker quiet(tabs_);
+    const auto& tabs = state_.tabs();
+    const auto count = static_cast<int>(tabs.size());
+    while (tabs_->count() > count)
+        tabs_->removeTab(tabs_->count() - 1);
+    while (tabs_->count() < count)
+        tabs_->addTab(QString());
+    for (int i = 0; i < count; ++i) {
+        const QString title = QString::fromStdString(tabs[static_cast<std::size_t>(i)].title);
+        tabs_->setTabText(i, QString(title).replace(QLatin1Char('&'), QStringLiteral("&&")));
+        tabs_->setTabToolTip(i, QString::fromStdString(state_.tabTip(i)));
+    }
+    tabs_->setCurrentIndex(state_.currentTab());
+    // Hidden, the tab bar keeps a new height to itself.
+    tabs_->updateGeometry();
+}
+
+std::optional<std::uint16_t> CPaletteBarControls::askEntry(ColourType type, std::uint16_t start) {
+    // The command also comes from a menu, while the bar is hidden.
+    QWidget* const parent = isVisible() ? window() : window()->parentWidget();
+    return type == ColourType::Ia ? ask<CIaPaletteDialog>(parent, start)
+                                  : ask<CRgbaPaletteDialog>(parent, start);
+}
+
+void CPaletteBarControls::resizeEvent(QResizeEvent*) {
+    arrange();
+}
+
+/// Height of what stands above and below the cells and the fields.
+int CPaletteBarControls::heightOfOthers() const {
+    int height = contentsMargins().top() + contentsMargins().bottom();
+    for (const QWidget* each : {static_cast<const QWidget*>(tabs_), static_cast<const QWidget*>(stripRow_)}) {
+        if (!each->isHidden())
+            height += each->sizeHint().height() + layout()->spacing();
+    }
+    return height;
+}
+
+QSize CPaletteBarControls::smallestBeside() const {
+    const QSize cells = gridArea_->minimumSizeHint();
+    const QSize fields = fields_->minimumSizeHint();
+    return {cells.width() + body_->spacing() + fields.width(),
+            heightOfOthers() + std::max(cells.height(), fields.height())};
+}
+
+QSize CPaletteBarControls::smallestAbove() const {
+    const QSize cells = gridArea_->minimumSizeHint();
+    const QSize fields = fields_->minimumSizeHint();
+    return {std::max({cells.width(), fields.width(),
+                      stripRow_->isHidden() ? 0 : stripRow_->minimumSizeHint().width()}),
+            heightOfOthers() + cells.height() + body_->spacing() + fields.height()};
+}
+
+QSize CPaletteBarControls::minimumSizeHint() const {
+    const QSize beside = smallestBeside();
+    const QSize above = smallestAbove();
+    return {std::min(beside.width(), above.width()),
+            width() >= beside.width() ? beside.height() : above.height()};
+}
+
+void CPaletteBarControls::arrange() {
+    const QSize fields = fields_->minimumSizeHint();
+    const int room = height() - heightOfOthers();
+    const int sideBeside = std::min(width() - fields.width() - body_->spacing(), room);
+    const int sideAbove = std::min(width(), room - fields.height() - body_->spacing());
+    const bool beside = width() >= smallestBeside().width() && sideBeside >= sideAbove;
+    body_->setDirection(beside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    // No more than a square, nor than the cells can fill; the rest makes the bars of the channels longer.
+    const QSize smallest = gridArea_->minimumSizeHint();
+    const int side = std::min(beside ? room : width(), 2 * gridArea_->sizeHint().width());
+    gridArea_->setMaximumSize(beside ? QSize(std::max(side, smallest.width()), QWIDGETSIZE_MAX)
+                                     : QSize(QWIDGETSIZE_MAX, std::max(side, smallest.height())));
+    updateGeometry();
+}
+
+} // namespace dyeworks

@@ -1,0 +1,105 @@
+#pragma once
+
+#include "palette/PaletteBarHost.h"
+#include "palette/PaletteBarState.h"
+#include "ui/palettebar/PaletteGridControl.h"
+
+#include <QWidget>
+
+#include <array>
+#include <memory>
+
+class QAction;
+class QBoxLayout;
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+class QTabBar;
+
+namespace dyeworks {
+
+class CPaletteBarChannel;
+class CommandActions;
+class ColourButton;
+class CSwatchGrid;
+class IntegerField;
+
+/// The controls of the palette bar. They show what the bar's state says and report to it what the user does.
+///
+/// The cells take the room that is there: they stand beside the fields where that makes them larger, above
+/// them otherwise.
+class CPaletteBarControls : public QWidget, private PaletteBarView {
+    Q_OBJECT
+
+public:
+    /// `host` and `actions` must outlive the controls.
+    CPaletteBarControls(PaletteBarHost& host, CommandActions& actions);
+    ~CPaletteBarControls() override;
+
+    [[nodiscard]] PaletteBarState& state() noexcept { return state_; }
+    [[nodiscard]] const PaletteBarState& state() const noexcept { return state_; }
+
+    /// Room for a palette of 256 colours, with the fields beside it.
+    [[nodiscard]] QSize sizeHint() const override { return preferredSize_; }
+    /// The smallest width at all, and the smallest height at the present width.
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    /// Its texts that wrap do not shape it.
+    [[nodiscard]] bool hasHeightForWidth() const override { return false; }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    // PaletteBarView
+    void valuesChanged() override;
+    void layoutChanged() override;
+    void tabsChanged() override;
+    std::optional<std::uint16_t> askEntry(ColourType type, std::uint16_t start) override;
+
+    // What the controls are made of, from above to below.
+    void makeTabs();
+    QWidget* makeEmptyNotice();
+    QWidget* makeGrid();
+    QWidget* makeFields();
+    QBoxLayout* makeButtons();
+    QBoxLayout* makeViewRow();
+    QBoxLayout* makeEntryRow();
+    QWidget* makeChannels();
+    QWidget* makeStrip();
+
+    void arrange();
+    [[nodiscard]] QSize smallestBeside() const;
+    [[nodiscard]] QSize smallestAbove() const;
+    [[nodiscard]] int heightOfOthers() const;
+    void showEntry();
+    void showBank();
+
+    CommandActions& actions_;
+    PaletteBarState state_;
+    QTabBar* tabs_ = nullptr;
+    QWidget* emptyNotice_ = nullptr;
+    QBoxLayout* body_ = nullptr;
+    QWidget* gridArea_ = nullptr;
+    CSwatchGrid* grid_ = nullptr;
+    QWidget* fields_ = nullptr;
+    QRadioButton* rgb_ = nullptr;
+    QRadioButton* alpha_ = nullptr;
+    QLabel* numberLabel_ = nullptr;
+    IntegerField* number_ = nullptr;
+    ColourButton* edit_ = nullptr;
+    QLabel* cell_ = nullptr;
+    QLineEdit* entry_ = nullptr;
+    QAction* mark_ = nullptr; ///< In the entry edit, while its text is none.
+    QCheckBox* preview_ = nullptr;
+    QPushButton* apply_ = nullptr;
+    std::array<std::unique_ptr<CPaletteBarChannel>, kChannelCount> channels_;
+    QWidget* stripRow_ = nullptr;
+    CSwatchGrid* strip_ = nullptr;
+    std::unique_ptr<PaletteGridControl> gridControl_;
+    std::unique_ptr<PaletteGridControl> stripControl_;
+    QSize preferredSize_;
+};
+
+} // namespace dyeworks

@@ -1,0 +1,35 @@
+#include "ui/palettebar/PaletteBarMenu.h"
+
+#include "framework/CommandIds.h"
+
+#include <array>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr std::array kPaletteBarMenu{
+    MenuItem{ID_PALETTE_NEW},
+    MenuItem{ID_PALETTE_OPEN},
+    MenuItem{ID_PALETTE_CLOSE},
+    kSeparator,
+    MenuItem{ID_PALETTE_SAVE},
+    MenuItem{ID_PALETTE_SAVE_AS},
+    kSeparator,
+    MenuItem{ID_PALETTE_EDIT},
+    MenuItem{ID_IMAGE_ATTACH},
+    kSeparator,
+    MenuItem{ID_PALETTE_UNDO},
+    MenuItem{ID_PALETTE_REDO},
+    kSeparator,
+    MenuItem{ID_PALETTE_COPY},
+    MenuItem{ID_PALETTE_PASTE},
+};
+
+} // namespace
+
+std::span<const MenuItem> paletteBarMenu() {
+    return kPaletteBarMenu;
+}
+
+} // namespace dyeworks

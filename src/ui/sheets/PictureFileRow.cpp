@@ -1,0 +1,160 @@
+#include "ui/sheets/PictureFileRow.h"
+
+#include "platform/Platform.h"
+#include "platform/ProgramPath.h"
+#include "platform/TextCase.h"
+#include "project/CKeyValueStore.h"
+#include "project/PathHelpers.h"
+#include "ui/sheets/SheetControls.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr int kColumns = 24; // Of the list, in letters.
+
+void tellWrong(const std::string& text) {
+    platform().messages().show({text, "", MessageButtons::Ok, MessageIcon::Stop, MessageOwner::MainWindow});
+}
+
+/// What every folder list begins with.
+std::string firstFolder(const std::string& directories) {
+    std::vector<std::string> folders;
+    return SplitFields(directories, ";", folders) == 0 ? std::string() : folders.front();
+}
+
+} // namespace
+
+PictureFileRow::PictureFileRow(const Kind& kind, std::string directories, const std::string& name, Make make)
+    : QGroupBox(shown(kind.title))
+    , kind_(kind)
+    , directories_(std::move(directories))
+    , make_(std::move(make))
+    , list_(new QComboBox) {
+    list_->setObjectName(QString::fromLatin1(kind.listId));
+    list_->setEditable(true);
+    list_->setInsertPolicy(QComboBox::NoInsert);
+    list_->setMinimumContentsLength(kColumns);
+    list_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    list_->setAccessibleName(shown(kind.title));
+    list_->setToolTip(shown(kind.name));
+    auto* browseButton = new QPushButton(QStringLiteral("..."));
+    browseButton->setObjectName(QString::fromLatin1(kind.browseId));
+    browseButton->setToolTip(shown(kind.browseTip));
+    browseButton->setAccessibleName(shown(kind.browseTip));
+    browseButton->setAutoDefault(false);
+    browseButton->setFixedWidth(3 * fontMetrics().height());
+    auto* newButton = new QPushButton(shown(StringId::PictureNewFile));
+    newButton->setObjectName(QString::fromLatin1(kind.newId));
+    newButton->setToolTip(shown(kind.newTip));
+    newButton->setAccessibleName(shown(kind.newTip));
+    newButton->setAutoDefault(false);
+
+    auto* layout = new QHBoxLayout(this);
+    layout->addWidget(list_, 1);
+    layout->addWidget(browseButton);
+    layout->addWidget(new QLabel(QStringLiteral("<-")));
+    layout->addWidget(newButton);
+
+    fillList();
+    setName(name);
+    connect(list_, &QComboBox::editTextChanged, this, &PictureFileRow::changed);
+    connect(browseButton, &QPushButton::clicked, this, &PictureFileRow::browse);
+    connect(newButton, &QPushButton::clicked, this, &PictureFileRow::makeNew);
+}
+
+std::string PictureFileRow::name() const {
+    std::string typed = list_->currentText().toStdString();
+    if (isRooted(typed))
+        return platform().files().fromHostPath(typed);
+    PathSwapSeparators(typed);
+    return typed;
+}
+
+void PictureFileRow::setName(const std::string& name) {
+    list_->setEditText(QString::fromStdString(isRooted(name) ? displayPath(name) : name));
+}
+
+std::string PictureFileRow::path() const {
+    std::string found;
+    static_cast<void>(PathSearch(found, directories_, name(), true));
+    return found;
+}
+
+void PictureFileRow::takeFocus() {
+    list_->setFocus();
+    list_->lineEdit()->selectAll();
+}
+
+/// The text stays.
+void PictureFileRow::fillList() {
+    const QString kept = list_->currentText();
+    {
+        const QSignalBlocker quiet(list_);
+        list_->clear();
+        QStringList names;
+        std::vector<std::string> folders;
+        SplitFields(directories_, ";", folders);
+        for (const std::string& folder : folders) {
+            for (const FileEntry& entry : platform().files().enumerate(folder + "\\*" + kind_.extension)) {
+                if (!entry.directory)
+                    names << QString::fromStdString(entry.name);
+            }
+        }
+        names.removeDuplicates();
+        names.sort(Qt::CaseInsensitive);
+        list_->addItems(names);
+        list_->setEditText(kept);
+    }
+}
+
+void PictureFileRow::browse() {
+    FileDialogRequest request;
+    request.filter = kind_.filter;
+    request.defaultExtension = kind_.extension;
+    request.initialName = firstFolder(directories_) + "\\*" + kind_.extension;
+    request.hideReadOnly = true;
+    if (const std::optional<std::string> chosen = platform().fileDialogs().open(request))
+        setName(fileNameIn(directories_, *chosen));
+}
+
+void PictureFileRow::makeNew() {
+    std::string name = this->name();
+    if (name.empty()) {
+        tellWrong(text(StringId::NewFileNameMissing));
+        takeFocus();
+        return;
+    }
+    if (!endsIgnoringCase(name, kind_.extension))
+        name += kind_.extension;
+    std::string target;
+    const bool placed = PathSearch(target, directories_, name, false);
+    if (!placed && !isRooted(name)) {
+        tellWrong(text(StringId::FileIsNotFound, {displayPath(directories_)}));
+        takeFocus();
+        return;
+    }
+    if (!placed || platform().files().exists(target)) {
+        tellWrong(text(StringId::FileNameExists));
+        takeFocus();
+        return;
+    }
+    if (!make_(target))
+        return;
+    setName(fileNameIn(directories_, target));
+    fillList();
+    Q_EMIT changed();
+}
+
+} // namespace dyeworks
