@@ -52,7 +52,9 @@ bool PaletteSet::openPalette(const std::string& path) {
 bool PaletteSet::add(std::unique_ptr<TextureLookupTable>&& palette) {
     if (!palette || palette->path.empty())
         return false;
-    currentKey = insertUnderFreeKey(std::move(palette))->first;
+    const auto position = insertUnderFreeKey(std::move(palette));
+    position->second->titleFromPath();
+    currentKey = position->first;
     refreshViews();
     return true;
 }
@@ -80,7 +82,10 @@ bool PaletteSet::rekey(const PaletteKey& key, bool refresh) {
 
     auto palette = std::move(position->second);
     palettes.erase(position);
-    const std::string& taken = insertUnderFreeKey(std::move(palette))->first;
+    const auto& [taken, moved] = *insertUnderFreeKey(std::move(palette));
+    // A number tells it from the palette that has the name.
+    if (taken != wanted)
+        moved->renameFromPath();
     key.value() = taken;
     currentKey = taken;
     if (refresh)
@@ -205,7 +210,6 @@ PaletteSet::Map::iterator PaletteSet::insertUnderFreeKey(std::unique_ptr<Texture
     for (std::int32_t n = 1; palettes.contains(key); ++n)
         key = base + "_" + std::to_string(n);
     palette->path = key;
-    palette->titleFromPath();
     return palettes.emplace(key, std::move(palette)).first;
 }
 

@@ -61,7 +61,8 @@ public:
     TextureLookupTable* lookup(const PaletteKey& key);
 
     /// Moves a palette whose path has changed to its new key and makes it current. False when the key stays,
-    /// and when another palette holds the new one: this palette then takes the next free key, as in `add`.
+    /// and when another palette holds the new one: this palette then takes the next free key, as in `add`,
+    /// and only then another title.
     bool rekey(const PaletteKey& key, bool refresh);
     /// The same for every palette. True when any key changed.
     bool rekeyAll();

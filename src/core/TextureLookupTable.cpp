@@ -301,6 +301,13 @@ void TextureLookupTable::titleFromPath() {
     title = isUnsavedName(rest) ? rest.substr(1) : rest;
 }
 
+void TextureLookupTable::renameFromPath() {
+    const bool marked = title.ends_with(kModifiedMark);
+    titleFromPath();
+    if (marked)
+        title += kModifiedMark;
+}
+
 std::string TextureLookupTable::keyFor(const std::string& path) {
     return path.empty() || isUnsavedName(path) ? path : platform().files().fullPath(path);
 }

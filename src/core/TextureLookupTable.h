@@ -82,6 +82,8 @@ public:
     /// Names the palette after its path: the last part without extension and without a leading "*". A path
     /// of which nothing is left keeps the title.
     void titleFromPath();
+    /// The same for a palette that is as it was otherwise: the title keeps its " * ".
+    void renameFromPath();
 
     /// The form of `path` under which palettes are kept: a full path, while "*palette" names and an empty one
     /// stay as they are.

@@ -136,6 +136,25 @@ TEST_F(PaletteSetRekey, KeyOfAnotherPaletteGivesTheNextFreeOne) {
     EXPECT_EQ(state(), "c:\\a >c:\\z ");
 }
 
+TEST_F(PaletteSetRekey, TitleAndItsMarkStayUnlessTheKeyIsTaken) {
+    open({"c:\\x"});
+    ASSERT_TRUE(set.newPalette(16, ColourType::Rgba, 0));
+    TextureLookupTable& palette = *set.lookup("");
+    palette.beginEdit();
+    palette.table.setEntry(0, 7);
+    palette.commitEdit();
+    palette.updateTitle();
+    const std::string title = palette.title;
+    EXPECT_TRUE(title.ends_with(" * "));
+    fake.dialogs.answerWith("c:\\none\\deep\\x.tlf");
+    EXPECT_FALSE(set.savePaletteAs("", true));
+    EXPECT_TRUE(set.rekeyAll());
+    EXPECT_EQ(set.currentKey + " " + palette.title, "c:\\none\\deep\\x.tlf " + title);
+    palette.path = "c:\\x";
+    set.rekeyAll();
+    EXPECT_EQ(set.currentKey + " " + palette.title, "c:\\x_1 x_1 * ");
+}
+
 TEST_F(PaletteSetRekey, AllAtOnceWhileKeysMove) {
     open({"c:\\a", "c:\\b", "c:\\c"});
     set.lookup("c:\\a")->path = "c:\\z";
