@@ -76,17 +76,8 @@ std::string changedFolders(const std::string& directories, Change change) {
     return list;
 }
 
-/// A folder whose name would then be read as a drive's stays absolute.
 std::string relativeTo(const std::string& base, const std::string& directories) {
-    const Files& files = platform().files();
-    return changedFolders(directories, [&](std::string& folder) {
-        std::string relative;
-        PathRelativeTo(relative, base, folder);
-        std::string back = relative;
-        const std::string whole = files.fullPath(folder);
-        const bool leadsBack = back.empty() || (PathAbsolute(back, base) && files.fullPath(back) == whole);
-        folder = leadsBack ? relative : whole;
-    });
+    return changedFolders(directories, [&](std::string& folder) { folder = pathFrom(base, folder); });
 }
 
 } // namespace

@@ -61,6 +61,15 @@ std::string upwards(const std::string& base, std::size_t common) {
     return steps;
 }
 
+/// Whether both lead to the same place. The host may have two whose names differ in their case only.
+bool isSamePlace(const std::string& a, const std::string& b) {
+    const Files& files = platform().files();
+    const std::string fullA = files.fullPath(a);
+    const std::string fullB = files.fullPath(b);
+    return fullA == fullB ||
+           (equalIgnoringCase(fullA, fullB) && files.hostPath(fullA) == files.hostPath(fullB));
+}
+
 } // namespace
 
 void PathSwapSeparators(std::string& path) {
@@ -231,6 +240,13 @@ std::int32_t PathCommonLength(const std::string& a, const std::string& b, std::i
     return isSeparator(b[at]) ? result(at) : behindSeparator;
 }
 
+std::string pathFrom(const std::string& base, const std::string& path) {
+    std::string relative;
+    PathRelativeTo(relative, base, path);
+    const std::string back = isRooted(relative) ? relative : joined(base, relative);
+    return isSamePlace(back, path) ? relative : platform().files().fullPath(path);
+}
+
 std::string fileNameIn(const std::string& directories, const std::string& name) {
     // A mere name is one in the folders already.
     if (name.find_first_of(kSeparators) == name.npos)
@@ -238,22 +254,20 @@ std::string fileNameIn(const std::string& directories, const std::string& name) 
     std::vector<std::string> folders;
     SplitFields(directories, kListSeparator, folders);
     std::string path = name;
-    std::string relative;
     if (folders.size() <= 1) {
         PathAbsolute(path, directories);
-        PathRelativeTo(relative, directories, path);
-        return relative;
+        return pathFrom(directories, path);
     }
     if (!isRooted(name))
         return name;
     PathAbsolute(path);
     for (const std::string& folder : folders) {
-        PathRelativeTo(relative, folder, path);
+        const std::string relative = pathFrom(folder, path);
         if (isRooted(relative) || relative.starts_with(".."))
             continue;
         // Another file of this name may be in a folder before this one.
         std::string found;
-        if (!PathSearch(found, directories, relative, true) || equalIgnoringCase(found, path))
+        if (!PathSearch(found, directories, relative, true) || isSamePlace(found, path))
             return relative;
     }
     return path;

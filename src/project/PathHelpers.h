@@ -44,6 +44,10 @@ bool PathRelativeTo(std::string& relative, const std::string& base, const std::s
 /// common.
 [[nodiscard]] std::int32_t PathCommonLength(const std::string& a, const std::string& b, std::int32_t limit);
 
+/// The path as a project keeps it: as it is found from the base directory, or its absolute form where that
+/// would not lead back to it, as the name of a file that looks like a drive.
+[[nodiscard]] std::string pathFrom(const std::string& base, const std::string& path);
+
 /// The file's name as it is kept: relative to the folder, in which names without a root are. Of a list, to
 /// the first folder that the file is in and that a search finds it in; otherwise its absolute path.
 [[nodiscard]] std::string fileNameIn(const std::string& directories, const std::string& name);

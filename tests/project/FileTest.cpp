@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -122,6 +123,22 @@ TEST_F(ProjectFile, FoldersAreRelativeToItsOwn) {
         EXPECT_EQ(kept, c.kept) << c.folder;
     }
     EXPECT_THAT(written("c:\\tex\\sea.tpf"), testing::HasSubstr("TMF_DIR\t=\t..\\p\\tex;..\\p\r\n"));
+}
+
+TEST_F(ProjectFile, FoldersThatDifferInCaseOnlyAreOneUnlessTheHostHasBoth) {
+    fake_.files.createDirectory("c:\\Proj\\tex");
+    const auto kept = [this] {
+        EXPECT_TRUE(file_.Create("C:\\Proj\\x.tpf", "C:\\Proj", "c:\\proj\\tex", "c:\\PROJ"));
+        PictureEntry entry{"C:\\Proj\\tex\\a.tmf", "C:\\Proj\\a.tlf", 0};
+        EXPECT_TRUE(file_.SetPicture("A", entry, std::nullopt));
+        const std::string all = written("C:\\Proj\\x.tpf");
+        return all.substr(all.find("TMF_DIR"));
+    };
+    EXPECT_EQ(kept(), "TMF_DIR\t=\ttex\r\nTLF_DIR\t=\t\r\nPICT.0\t=\tA,a.tmf,a.tlf,0\r\nPICT_NUM\t=\t1\r\n");
+    for (const char* other : {"/proj/tex", "/PROJ"})
+        std::filesystem::create_directories(fake_.files.hostPath("c:\\") + other);
+    EXPECT_EQ(kept(), "TMF_DIR\t=\tc:\\proj\\tex\r\nTLF_DIR\t=\tc:\\PROJ\r\n"
+                      "PICT.0\t=\tA,C:\\Proj\\tex\\a.tmf,C:\\Proj\\a.tlf,0\r\nPICT_NUM\t=\t1\r\n");
 }
 
 TEST_F(ProjectFile, MayStandInARoot) {

@@ -214,6 +214,9 @@ TEST_F(Path, FileNamesAreKeptRelativeToTheirFolder) {
     const CaseInFolder kCases[] = {
         {"c:\\tex", "c:\\tex\\sub\\s.tmf", "sub\\s.tmf"},
         {"c:\\tex", "sub/s.tmf", "sub\\s.tmf"},
+        // Alone it would be read as one on that drive.
+        {"c:\\tex", "c:\\tex\\d:x.tmf", "c:\\tex\\d:x.tmf"},
+        {"c:\\more;c:\\tex", "c:\\tex\\d:x.tmf", "c:\\tex\\d:x.tmf"},
         {"c:\\tex", "..\\more\\m.tmf", "..\\more\\m.tmf"},
         {"c:\\tex;c:\\more", "c:\\more\\m.tmf", "m.tmf"},
         // The folder before has a file of this name.
