@@ -1,9 +1,11 @@
 #include "Program.h"
 #include "ui/controls/ControlRegistration.h"
 #include "ui/sheets/CFileNewProjectPage.h"
+#include "ui/sheets/CPictureDlg.h"
 #include "ui/sheets/PathEdit.h"
 #include "ui/sheets/ProjectPropertySheet.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QPushButton>
@@ -116,6 +118,28 @@ TEST(ProjectPropertySheetTest, GivesBackTheProjectsOwnValuesWhenNothingIsTyped) 
     EXPECT_EQ(sheet.values().projectDirectory, values.projectDirectory);
     EXPECT_EQ(sheet.values().imageDirectories, values.imageDirectories);
     EXPECT_EQ(sheet.values().paletteDirectories, "\\home\\kei\\tex");
+}
+
+TEST(PictureDialog, MakesAndFindsExactlyTheFilesThatAreNamed) {
+    FakePlatform fake;
+    putImages(fake, {"c:\\tex\\tex1.tmf", "c:\\tex\\d:x.tmf"});
+    CPictureDlg dialog({"A", "", "", 0, "c:\\tex", "c:\\tex"},
+                       [](const PictureSettings&) { return PictureField::None; });
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    auto& images = *dialog.findChild<QComboBox*>("IDC_PICTURE_IMAGE");
+    QTest::keyClicks(images.lineEdit(), "te");
+    EXPECT_EQ(images.currentText(), "te");
+    withNextDialog([](QDialog& sheet) { sheet.accept(); });
+    dialog.findChild<QPushButton*>("IDC_PICTURE_NEW_IMAGE")->click();
+    EXPECT_THAT(fake.files.written(), ElementsAre("c:\\tex\\te.tmf"));
+    EXPECT_EQ(images.currentText(), "te.tmf");
+
+    images.setCurrentText(images.itemText(0));
+    fake.messages.answerWith(MessageAnswer::Ok);
+    dialog.accept();
+    EXPECT_EQ(dialog.settings().imageFile, "c:\\tex\\d:x.tmf");
+    EXPECT_EQ(texts(fake), std::vector<std::string>{" is not found.\nDo you ignore error to continue?"});
 }
 
 TEST(PathEditTest, TakesEitherFormAndLeavesRelativePathsRelative) {

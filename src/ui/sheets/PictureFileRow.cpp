@@ -34,6 +34,10 @@ std::string firstFolder(const std::string& directories) {
     return SplitFields(directories, ";", folders) == 0 ? std::string() : folders.front();
 }
 
+QString shownName(const std::string& name) {
+    return QString::fromStdString(isRooted(name) ? displayPath(name) : name);
+}
+
 } // namespace
 
 PictureFileRow::PictureFileRow(const Kind& kind, std::string directories, const std::string& name, Make make)
@@ -45,6 +49,8 @@ PictureFileRow::PictureFileRow(const Kind& kind, std::string directories, const 
     list_->setObjectName(QString::fromLatin1(kind.listId));
     list_->setEditable(true);
     list_->setInsertPolicy(QComboBox::NoInsert);
+    // A new file's name may begin like another's.
+    list_->setCompleter(nullptr);
     list_->setMinimumContentsLength(kColumns);
     list_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     list_->setAccessibleName(shown(kind.title));
@@ -83,7 +89,7 @@ std::string PictureFileRow::name() const {
 }
 
 void PictureFileRow::setName(const std::string& name) {
-    list_->setEditText(QString::fromStdString(isRooted(name) ? displayPath(name) : name));
+    list_->setEditText(shownName(name));
 }
 
 std::string PictureFileRow::path() const {
@@ -108,8 +114,9 @@ void PictureFileRow::fillList() {
         SplitFields(directories_, ";", folders);
         for (const std::string& folder : folders) {
             for (const FileEntry& entry : platform().files().enumerate(folder + "\\*" + kind_.extension)) {
+                // The name of a file that looks like a drive would be looked for on that.
                 if (!entry.directory)
-                    names << QString::fromStdString(entry.name);
+                    names << shownName(isRooted(entry.name) ? folder + "\\" + entry.name : entry.name);
             }
         }
         names.removeDuplicates();
