@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char* kExtension = ".tpf";
 constexpr const char* kFilter = "Project Files (*.tpf)|*.tpf||";
-constexpr std::string_view kModifiedMark = " *";
+constexpr const char* kModifiedMark = " *";
 
 MessageAnswer show(const std::string& text, MessageButtons buttons, MessageIcon icon) {
     return platform().messages().show({text, "", buttons, icon, MessageOwner::MainWindow});
@@ -188,25 +188,26 @@ std::string CTPFDocument::findFile(const std::string& directories, const std::st
 
 void CTPFDocument::setPathName(const std::string& path) {
     CDocument::setPathName(path);
-    updateTitleMark();
+    updateTitle();
 }
 
 void CTPFDocument::setModified(bool modified) {
     CDocument::setModified(modified);
     projectFile_.SetModified(modified);
-    updateTitleMark();
+    updateTitle();
 }
 
 std::string CTPFDocument::displayName() const {
     return pathName().empty() ? title() : CDocument::displayName();
 }
 
-void CTPFDocument::updateTitleMark() {
-    const bool marked = title().size() > kModifiedMark.size() && title().ends_with(kModifiedMark);
-    if (marked && !isModified())
-        setTitle(title().substr(0, title().size() - kModifiedMark.size()));
-    else if (!marked && isModified())
-        setTitle(title() + std::string(kModifiedMark));
+/// A project that has no file yet keeps the title that it was given.
+void CTPFDocument::updateTitle() {
+    if (!pathName().empty()) {
+        std::string name;
+        PathTitle(name, pathName());
+        setTitle(isModified() ? name + kModifiedMark : name);
+    }
     if (host_.projectDocument() == this)
         host_.ProjectRenamed();
 }

@@ -38,6 +38,7 @@ public:
     bool onSaveDocument(const std::string& path) override;
     /// Closes the images and palettes of its pictures, after one question unless the program is being left.
     void onCloseDocument() override;
+    /// Titles the project by its file without folder and extension, with a mark while it has changes.
     void setPathName(const std::string& path) override;
     void setModified(bool modified) override;
     [[nodiscard]] std::string displayName() const override;
@@ -86,7 +87,7 @@ private:
     void becomeOpen();
     [[nodiscard]] bool create(const ProjectSettings& settings);
     [[nodiscard]] bool write(const std::string& path);
-    void updateTitleMark();
+    void updateTitle();
     void closePictureFiles(bool withoutAsking);
     [[nodiscard]] std::string findFile(const std::string& directories, const std::string& name) const;
     [[nodiscard]] std::string freeName(const std::string& proposed) const;

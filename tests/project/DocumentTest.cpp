@@ -30,7 +30,7 @@ TEST_F(Project, IsAskedForUntilItIsWrittenAtOnce) {
     EXPECT_EQ(fake_.files.textOf("c:\\p\\sea.tpf"),
               "TPF_DIR\t=\tc:\\p\r\nTMF_DIR\t=\ttex\r\nTLF_DIR\t=\t\r\nPICT_NUM\t=\t0\r\n");
     EXPECT_EQ(fake_.files.textOf("c:\\p\\old.tpf"), "old");
-    EXPECT_EQ(document_.title(), "sea.tpf");
+    EXPECT_EQ(document_.title(), "sea");
     EXPECT_EQ(host_.project, &document_);
     EXPECT_EQ(document_.plugInHandles().size(), 1U);
 }
@@ -54,11 +54,11 @@ TEST_F(Project, IsTheOnlyOne) {
 TEST_F(Project, MarksItsTitleWhileItIsModified) {
     open("");
     document_.SetValue("Note.1", "x");
-    EXPECT_EQ(document_.title(), "sea.tpf *");
+    EXPECT_EQ(document_.title(), "sea *");
     document_.setPathName("c:\\p\\lake.tpf");
-    EXPECT_EQ(document_.title(), "lake.tpf *");
+    EXPECT_EQ(document_.title(), "lake *");
     ASSERT_TRUE(document_.save());
-    EXPECT_EQ(document_.title(), "lake.tpf");
+    EXPECT_EQ(document_.title(), "lake");
     EXPECT_THAT(fake_.files.textOf("c:\\p\\lake.tpf").value(), HasSubstr("Note.1\t=\tx\r\n"));
     EXPECT_FALSE(document_.RemoveKey("Note.2"));
     EXPECT_FALSE(document_.isModified());
@@ -68,11 +68,14 @@ TEST_F(Project, MarksItsTitleWhileItIsModified) {
     fake_.dialogs.answerWith("c:\\p\\full.tpf");
     EXPECT_FALSE(document_.saveAs());
     EXPECT_EQ(document_.pathName(), "c:\\p\\lake.tpf");
-    EXPECT_EQ(document_.title(), "lake.tpf *");
+    EXPECT_EQ(document_.title(), "lake *");
+    document_.setPathName("c:\\p\\sky *.tpf");
+    document_.setModified(false);
+    EXPECT_EQ(document_.title(), "sky *") << "the file's own star";
     fake_.dialogs.answerWith("c:\\p\\tex\\pond.tpf");
     EXPECT_TRUE(document_.saveAs());
     EXPECT_EQ(document_.pathName(), "c:\\p\\tex\\pond.tpf");
-    EXPECT_EQ(document_.title(), "pond.tpf");
+    EXPECT_EQ(document_.title(), "pond");
     EXPECT_THAT(fake_.files.textOf("c:\\p\\tex\\pond.tpf").value(), HasSubstr("TMF_DIR\t=\t..\\\r\n"));
 }
 

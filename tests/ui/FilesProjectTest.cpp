@@ -138,7 +138,7 @@ TEST_F(FilesProject, ANewImageMayBringANewProject) {
     EXPECT_EQ(asked, 1);
     EXPECT_THAT(texts(fake_), ElementsAre("Incorrect parameter."));
     ASSERT_NE(app_.projectDocument(), nullptr);
-    EXPECT_EQ(app_.projectDocument()->title(), "lake.tpf");
+    EXPECT_EQ(app_.projectDocument()->title(), "lake");
     EXPECT_EQ(fake_.files.textOf("c:\\proj\\lake.tpf"),
               "TPF_DIR\t=\tc:\\proj\r\nTMF_DIR\t=\t\r\nTLF_DIR\t=\t\r\nPICT_NUM\t=\t0\r\n");
     // Answers a question that must not come, and goes unused with this test.

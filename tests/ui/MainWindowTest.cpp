@@ -100,10 +100,10 @@ TEST_F(MainWindow, TheProjectBarOffersThePicturesOfTheOpenProject) {
 TEST_F(MainWindow, TheTitleNamesTheProjectBeforeTheImage) {
     CTPFDocument& project = openProject();
     openBlank();
-    EXPECT_EQ(frame().windowTitle(), "Orrery Dyeworks @ sea.tpf - pic.tmf [pic]");
+    EXPECT_EQ(frame().windowTitle(), "Orrery Dyeworks @ sea - pic.tmf [pic]");
     project.setPathName("c:\\proj\\lake[*].tpf");
     project.setModified(true);
-    EXPECT_EQ(frame().windowHandle()->title(), "Orrery Dyeworks @ lake[*].tpf * - pic.tmf [pic]");
+    EXPECT_EQ(frame().windowHandle()->title(), "Orrery Dyeworks @ lake[*] * - pic.tmf [pic]");
 }
 
 } // namespace
