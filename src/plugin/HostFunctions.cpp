@@ -60,11 +60,6 @@ bool isText(const char* text) {
     return text != nullptr && isUtf8(text);
 }
 
-/// The same of one that has to stay on its line of the file.
-bool isLine(const char* text) {
-    return isText(text) && std::strpbrk(text, "\r\n") == nullptr;
-}
-
 std::optional<std::string> optionalText(const char* text) {
     return text == nullptr ? std::nullopt : std::optional<std::string>(text);
 }
@@ -155,10 +150,7 @@ std::uint32_t DW_getValue(const char* key, char* buffer, std::int32_t size) {
 
 std::uint32_t DW_setValue(const char* key, const char* value) {
     CTPFDocument* const open = project();
-    if (open == nullptr || !isLine(key) || !isLine(value))
-        return 0;
-    open->SetValue(key, value);
-    return 1;
+    return open != nullptr && isText(key) && isText(value) && open->SetValue(key, value) ? 1 : 0;
 }
 
 std::uint32_t DW_removeKey(const char* key) {

@@ -144,6 +144,10 @@ bool CKeyValueStore::holds(const std::string& name, const std::string& value) {
     return fitsALine(line) && TokenizeLine(line, tokens) == 3 && tokens[0] == name && tokens[2] == value;
 }
 
+bool CKeyValueStore::takes(const std::string& name, const std::string& value) {
+    return IsValidName(name) && fitsALine(assignment(name, value));
+}
+
 bool CKeyValueStore::GetValue(const std::string& name, std::string& value) const {
     const auto found = values_.find(name);
     if (found == values_.end())

@@ -54,6 +54,8 @@ public:
     /// Adds the line "name = value". Nothing when that would be too long or would be several lines.
     std::size_t SetValue(const std::string& name, const std::string& value);
     std::size_t SetLongValue(const std::string& name, std::int32_t value);
+    /// Whether `SetValue` gives the name this value, or what is left of it as a line.
+    [[nodiscard]] static bool takes(const std::string& name, const std::string& value);
     /// Whether the line "name = value" is short enough, and gives the value back as it is.
     [[nodiscard]] static bool holds(const std::string& name, const std::string& value);
     /// False, leaving `value` alone, when there is no such name.

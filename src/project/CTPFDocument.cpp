@@ -229,11 +229,12 @@ bool CTPFDocument::GetValue(const std::string& key, std::string& value) const {
     return projectFile_.store != nullptr && projectFile_.store->GetValue(key, value);
 }
 
-void CTPFDocument::SetValue(const std::string& key, const std::string& value) {
-    if (projectFile_.store == nullptr)
-        return;
+bool CTPFDocument::SetValue(const std::string& key, const std::string& value) {
+    if (projectFile_.store == nullptr || !CKeyValueStore::takes(key, value))
+        return false;
     projectFile_.store->SetValue(key, value);
     setModified(true);
+    return true;
 }
 
 bool CTPFDocument::RemoveKey(const std::string& key) {

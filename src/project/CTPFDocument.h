@@ -71,7 +71,8 @@ public:
 
     // What plug-ins ask. Changes count as unsaved.
     bool GetValue(const std::string& key, std::string& value) const;
-    void SetValue(const std::string& key, const std::string& value);
+    /// False, changing nothing, for a key that is none and for a line that would be too long.
+    bool SetValue(const std::string& key, const std::string& value);
     /// False when there is no such key.
     bool RemoveKey(const std::string& key);
     // In every tree of the project; false as soon as one fails, and when there is no tree to find a node in.

@@ -151,7 +151,8 @@ DWPI_ENTRY uint32_t DWPI_TPF_export(DwHandle handle, const char* projectPath);
 DW_HOST void DW_About(void);
 
 /* Values by key in the project's file. A key is 1 to 256 letters, digits, "_", "@", "." and "\", the first a
- * letter, "_" or "\"; a value loses the blanks at its ends and what follows a "#". */
+ * letter, "_" or "\"; a value loses the blanks at its ends and what follows a "#". Key and value together
+ * have at most 508 characters. */
 DW_HOST uint32_t DW_getValue(const char* key, char* buffer, int32_t size);
 DW_HOST uint32_t DW_setValue(const char* key, const char* value);
 DW_HOST uint32_t DW_removeKey(const char* key);
