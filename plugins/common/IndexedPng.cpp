@@ -2,8 +2,9 @@
 
 #include "common/PngFailure.h"
 #include "common/Say.h"
+#include "common/WriteFile.h"
 
-#include <QSaveFile>
+#include <QBuffer>
 #include <png.h>
 
 #include <array>
@@ -43,9 +44,9 @@ PngColours coloursOf(const TmfImage& image, const TlutData* palette, std::int32_
 }
 
 void writeBytes(png_structp png, png_bytep bytes, std::size_t size) {
-    auto* const file = static_cast<QIODevice*>(png_get_io_ptr(png));
+    auto* const device = static_cast<QIODevice*>(png_get_io_ptr(png));
     const auto length = static_cast<qint64>(size);
-    if (file->write(reinterpret_cast<const char*>(bytes), length) != length)
+    if (device->write(reinterpret_cast<const char*>(bytes), length) != length)
         png_error(png, "Write Error");
 }
 
@@ -65,10 +66,10 @@ public:
     [[nodiscard]] const char* reason() const noexcept { return failure_.reason.data(); }
 
     /// The rows need no conversion: both formats have the first of two texels in the high half of a byte.
-    [[nodiscard]] bool write(QIODevice& file, const TmfImage& image, const PngColours& colours) {
+    [[nodiscard]] bool write(QIODevice& device, const TmfImage& image, const PngColours& colours) {
         if (setjmp(png_jmpbuf(png_)) != 0)
             return false;
-        png_set_write_fn(png_, &file, writeBytes, flushBytes);
+        png_set_write_fn(png_, &device, writeBytes, flushBytes);
         png_set_user_limits(png_, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
         png_set_IHDR(png_, info_, static_cast<png_uint_32>(image.width),
                      static_cast<png_uint_32>(image.height), image.bits, PNG_COLOR_TYPE_PALETTE,
@@ -96,19 +97,14 @@ QString writeIndexedPng(const QString& path, const TmfImage& image, const TlutDa
     if ((image.bits != 4 && image.bits != 8) || image.width <= 0 || image.height <= 0)
         return say("The image has no texels of 4 or 8 bits.",
                    "4 ビットまたは 8 ビットのテクセルがありません。");
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return file.errorString();
     Writer writer;
     if (!writer.isReady())
         return say("There is not enough memory.", "メモリが足りません。");
-    if (!writer.write(file, image, coloursOf(image, palette, first))) {
-        const QString reason =
-            file.error() == QFileDevice::NoError ? QString::fromUtf8(writer.reason()) : file.errorString();
-        file.cancelWriting();
-        return reason;
-    }
-    return file.commit() ? QString() : file.errorString();
+    QBuffer png;
+    png.open(QIODevice::WriteOnly);
+    if (!writer.write(png, image, coloursOf(image, palette, first)))
+        return QString::fromUtf8(writer.reason());
+    return writeFile(path, png.data());
 }
 
 } // namespace dyeworks::plugins

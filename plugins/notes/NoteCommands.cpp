@@ -1,6 +1,7 @@
 #include "notes/NoteCommands.h"
 
 #include "common/Say.h"
+#include "common/WriteFile.h"
 #include "notes/NoteDialog.h"
 #include "notes/NotesMarkdown.h"
 

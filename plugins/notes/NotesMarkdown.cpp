@@ -1,7 +1,6 @@
 #include "notes/NotesMarkdown.h"
 
 #include <QRegularExpression>
-#include <QSaveFile>
 
 #include <algorithm>
 
@@ -82,13 +81,6 @@ QString markdownFileFor(const QString& projectPath) {
         return file;
     QString folder = projectPath.left(projectPath.lastIndexOf(kSeparator) + 1);
     return folder.replace(kSeparator, QLatin1Char('/')) + file;
-}
-
-QString writeFile(const QString& path, const QByteArray& bytes) {
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
-        return {};
-    return file.errorString();
 }
 
 } // namespace dyeworks::plugins

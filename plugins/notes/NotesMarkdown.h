@@ -18,8 +18,4 @@ namespace dyeworks::plugins {
 /// The name of the project's file without its ending.
 [[nodiscard]] QString projectNameOf(const QString& projectPath);
 
-/// Empty when the file is there; otherwise why not, in the user's language, and a file that was there is as
-/// it was.
-[[nodiscard]] QString writeFile(const QString& path, const QByteArray& bytes);
-
 } // namespace dyeworks::plugins

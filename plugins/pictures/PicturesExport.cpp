@@ -3,13 +3,13 @@
 #include "common/IndexedPng.h"
 #include "common/Records.h"
 #include "common/Say.h"
+#include "common/WriteFile.h"
 #include "pictures/PictureFileNames.h"
 
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 #include <array>
 
@@ -84,11 +84,8 @@ public:
 
     /// The list of what was written. Empty, or why it is not there.
     [[nodiscard]] QString writeIndex() const {
-        QSaveFile file(QDir(folder_).filePath(QString::fromLatin1(kIndexFile)));
-        const QByteArray text = QJsonDocument(QJsonObject{{QStringLiteral("pictures"), index_}}).toJson();
-        if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
-            return {};
-        return file.errorString();
+        return writeFile(QDir(folder_).filePath(QString::fromLatin1(kIndexFile)),
+                         QJsonDocument(QJsonObject{{QStringLiteral("pictures"), index_}}).toJson());
     }
 
 private:

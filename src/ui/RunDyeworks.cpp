@@ -1,6 +1,7 @@
 #include "ui/RunDyeworks.h"
 
 #include "platform/Version.h"
+#include "platform/posix/HostFile.h"
 #include "platform/qt/DesktopEntries.h"
 #include "platform/qt/Language.h"
 #include "platform/qt/QtPlatform.h"
@@ -9,6 +10,8 @@
 #include "ui/CommandLine.h"
 
 #include <QApplication>
+#include <QBuffer>
+#include <QFile>
 #include <QPixmap>
 #include <QtMath>
 
@@ -80,9 +83,18 @@ bool renderWindow(CMainFrame& window, const QString& file) {
     // Sizes of frames and bars settle with the events that showing them has posted.
     QApplication::processEvents();
     window.commandActions().refresh();
-    if (window.picture().save(file, "PNG"))
-        return true;
-    std::fprintf(stderr, "Dyeworks: cannot write %s\n", qPrintable(file));
+    QBuffer png;
+    png.open(QIODevice::WriteOnly);
+    std::string reason = describe(FileError::TooLarge);
+    if (window.picture().save(&png, "PNG")) {
+        const auto bytes =
+            std::as_bytes(std::span(png.data().constData(), static_cast<std::size_t>(png.size())));
+        const auto error = writeHostFile(QFile::encodeName(file).toStdString(), FilePieces(&bytes, 1));
+        if (!error)
+            return true;
+        reason = describe(*error);
+    }
+    std::fprintf(stderr, "Dyeworks: cannot write %s: %s\n", qPrintable(file), reason.c_str());
     return false;
 }
 

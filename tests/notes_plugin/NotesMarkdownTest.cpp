@@ -1,7 +1,5 @@
 #include "notes/NotesMarkdown.h"
 
-#include <QDir>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace dyeworks::plugins {
@@ -46,15 +44,6 @@ TEST(NotesMarkdown, GoesBesideTheProject) {
                                                          {"\\\\server\\share\\a.tpf", "a.md"}};
     for (const auto& [project, file] : cases)
         EXPECT_EQ(markdownFileFor(QString::fromUtf8(project)).toStdString(), file);
-}
-
-TEST(NotesMarkdown, FailureLeavesNothingBehind) {
-    const QTemporaryDir folder;
-    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("taken.md")));
-    EXPECT_FALSE(writeFile(folder.filePath(QStringLiteral("taken.md")), "x").isEmpty());
-    EXPECT_FALSE(writeFile(folder.filePath(QStringLiteral("none/a.md")), "x").isEmpty());
-    EXPECT_TRUE(writeFile(folder.filePath(QStringLiteral("a.md")), "x").isEmpty());
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("a.md")));
 }
 
 } // namespace

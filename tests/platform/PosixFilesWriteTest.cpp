@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <sys/resource.h>
@@ -140,6 +141,17 @@ TEST_F(PosixFilesWrite, LeavesProtectedFilesAndFoldersAlone) {
     EXPECT_EQ(fake.files.textOf("c:\\locked.tlf"), "old");
     EXPECT_EQ(fake.files.textOf("c:\\closed\\sky.tlf"), "old");
     EXPECT_EQ(fake.files.enumerate("c:\\closed\\*.*").size(), 1U);
+}
+
+TEST_F(PosixFilesWrite, WritesIntoAPipeThatHasNoName) {
+    std::array<int, 2> ends{};
+    ASSERT_EQ(::pipe(ends.data()), 0);
+    fs::create_symlink("/proc/self/fd/" + std::to_string(ends[1]), host("stdout"));
+    EXPECT_EQ(write("c:\\stdout", "x"), std::nullopt);
+    char seen = 0;
+    EXPECT_EQ(::read(ends[0], &seen, 1), 1);
+    ::close(ends[0]);
+    ::close(ends[1]);
 }
 
 TEST_F(PosixFilesWrite, WritesIntoADeviceAndTellsThatItIsFull) {

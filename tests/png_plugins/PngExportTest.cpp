@@ -2,10 +2,12 @@
 #include "common/IndexedPng.h"
 #include "png/PngImport.h"
 
-#include <QFileInfo>
+#include <QDir>
 #include <QImage>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+
+#include <sys/resource.h>
 
 namespace dyeworks::plugins {
 namespace {
@@ -87,6 +89,17 @@ TEST(PngExportFailure, LeavesTheOldFileAndSaysWhy) {
     EXPECT_EQ(bytesOf(path), "old");
     const ImageRecord image = imageOf(1, 1, 8, [](int, int) { return 0U; });
     EXPECT_NE(writeIndexedPng(folder.filePath(QStringLiteral("no/such.png")), *image, nullptr, 0), QString());
+    EXPECT_NE(writeIndexedPng(folder.path(), *image, nullptr, 0), QString());
+
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit full{40, before.rlim_max}; // The header, and no more.
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &full), 0);
+    const QString reason = writeIndexedPng(path, *image, nullptr, 0);
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    EXPECT_EQ(reason, QStringLiteral("There is no space left on the disk."));
+    EXPECT_EQ(bytesOf(path), "old");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
 }
 
 } // namespace

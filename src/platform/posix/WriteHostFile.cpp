@@ -164,7 +164,8 @@ Descriptor openFolder(const std::string& path) {
 
 /// `old` is null for a file that does not exist.
 ErrorNumber replaceFile(const std::string& path, const struct stat* old, FilePieces pieces) {
-    const Descriptor folder = openFolder(folderOf(path));
+    const std::string folderName = folderOf(path);
+    const Descriptor folder = openFolder(folderName.empty() ? "." : folderName);
     if (!folder.valid())
         return errno;
     // Nobody else may look into a copy of a file whose rights are not set yet.
@@ -197,7 +198,15 @@ ErrorNumber writeInto(const std::string& path, FilePieces pieces) {
     return device.close();
 }
 
+bool isDevice(const std::string& path) {
+    struct stat named {};
+    return ::stat(path.c_str(), &named) == 0 && !S_ISREG(named.st_mode) && !S_ISDIR(named.st_mode);
+}
+
 ErrorNumber writeResolved(std::string path, FilePieces pieces) {
+    // Before the links are followed: what "/dev/stdout" leads to may be a pipe, which has no name to follow.
+    if (isDevice(path))
+        return writeInto(path, pieces);
     if (const ErrorNumber error = followLinks(path); error != 0)
         return error;
     struct stat old {};
@@ -205,8 +214,6 @@ ErrorNumber writeResolved(std::string path, FilePieces pieces) {
         return errno == ENOENT ? replaceFile(path, nullptr, pieces) : errno;
     if (S_ISDIR(old.st_mode))
         return EISDIR;
-    if (!S_ISREG(old.st_mode))
-        return writeInto(path, pieces);
     // Replacing asks for rights to the folder only; a file that is protected itself is left alone.
     if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0)
         return errno;

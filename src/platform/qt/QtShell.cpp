@@ -1,6 +1,6 @@
 #include "platform/qt/QtShell.h"
 
-#include "platform/Files.h"
+#include "platform/posix/HostFile.h"
 #include "platform/qt/DesktopEntries.h"
 
 #include <QCoreApplication>
@@ -8,11 +8,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <QUrl>
 
 #include <algorithm>
+#include <span>
 #include <utility>
 
 namespace dyeworks {
@@ -31,10 +31,9 @@ Written writeWhenDifferent(const QString& path, const QByteArray& bytes) {
         return Written::Unchanged;
     if (!QDir().mkpath(QFileInfo(path).path()))
         return Written::Failed;
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        return Written::Failed;
-    return Written::Changed;
+    const auto contents = std::as_bytes(std::span(bytes.data(), static_cast<std::size_t>(bytes.size())));
+    const auto error = writeHostFile(QFile::encodeName(path).toStdString(), FilePieces(&contents, 1));
+    return error ? Written::Failed : Written::Changed;
 }
 
 bool removeFile(const QString& path) {
