@@ -3,16 +3,21 @@
 #include "paint/CDyeworksDoc.h"
 #include "paint/widgets/ImageView.h"
 #include "platform/Platform.h"
+#include "platform/posix/HostFile.h"
 #include "ui/CMainFrame.h"
 #include "ui/ImagePrinter.h"
 
 #include <QAction>
+#include <QFile>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QProgressDialog>
+#include <QTemporaryDir>
+
+#include <span>
 
 namespace dyeworks {
 
@@ -41,6 +46,25 @@ public:
 private:
     QProgressDialog dialog_;
 };
+
+/// Prints. A file is put in its place as a whole: the printer itself would write over the old one, and takes
+/// a full disk for success.
+bool printWhole(ImageView& view, QPrinter& printer, const ImagePrinter::Progress& progress) {
+    const QString file = printer.outputFileName();
+    if (file.isEmpty())
+        return ImagePrinter(view).print(printer, progress);
+    const QTemporaryDir folder;
+    QFile draft(folder.filePath(QStringLiteral("draft.pdf")));
+    printer.setOutputFileName(draft.fileName());
+    const bool printed = ImagePrinter(view).print(printer, progress);
+    printer.setOutputFileName(file);
+    if (!printed || !draft.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray pages = draft.readAll();
+    const auto bytes = std::as_bytes(std::span(pages.data(), static_cast<std::size_t>(pages.size())));
+    return pages.endsWith("%%EOF\n") &&
+           !writeHostFile(QFile::encodeName(file).toStdString(), FilePieces(&bytes, 1));
+}
 
 } // namespace
 
@@ -74,7 +98,7 @@ bool PrintCommands::printUnasked(ImageView& view, const QString& printerName, co
         target.setOutputFileName(file);
     }
     target.setDocName(QString::fromStdString(view.view().document().displayName()));
-    return ImagePrinter(view).print(target, [](int, int) { return true; });
+    return printWhole(view, target, [](int, int) { return true; });
 }
 
 bool PrintCommands::chooseByDialog(QPrinter& printer) {
@@ -90,7 +114,7 @@ void PrintCommands::printActive() {
     QPrinter& target = printer();
     target.setDocName(QString::fromStdString(view.view().document().displayName()));
     PrintProgress progress(frame_);
-    const bool printed = ImagePrinter(view).print(target, std::ref(progress));
+    const bool printed = printWhole(view, target, std::ref(progress));
     if (!printed && !progress.stopped())
         applicationMessage(text(StringId::PrintingFailed));
 }

@@ -11,6 +11,9 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace dyeworks {
 namespace {
 
@@ -101,11 +104,23 @@ TEST_F(Printing, PrintsTheChosenPagesAndNothingWhenCancelled) {
     EXPECT_EQ(pages().size(), 6U);
 }
 
-TEST_F(Printing, FailuresAreTold) {
+TEST_F(Printing, FailuresAreToldAndLeaveTheOldFile) {
     openBlank();
-    target_ = "gone/out.pdf";
     ASSERT_TRUE(run(ID_FILE_PRINT));
-    EXPECT_THAT(texts(fake_), ElementsAre("The document could not be printed."));
+    const qint64 size = QFileInfo(target()).size();
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit full{1000, before.rlim_max};
+    auto* const handler = std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &full), 0);
+    run(ID_FILE_PRINT);
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_EQ(QFileInfo(target()).size(), size);
+    target_ = "gone/out.pdf";
+    run(ID_FILE_PRINT);
+    const std::string failed = "The document could not be printed.";
+    EXPECT_THAT(texts(fake_), ElementsAre(failed, failed));
 }
 
 TEST_F(Printing, ThePreviewShowsAsManyPagesSideBySideAsTheLastOne) {
