@@ -6,6 +6,7 @@
 #include "platform/fake/FakePlatform.h"
 
 #include <QApplication>
+#include <QMdiArea>
 #include <QMenuBar>
 #include <QTest>
 #include <gmock/gmock.h>
@@ -107,6 +108,17 @@ TEST_F(MdiFrames, CaptionFollowsTheActiveDocument) {
     main.closeChildrenUnasked();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(main.windowTitle(), QStringLiteral("Dyeworks"));
+}
+
+TEST_F(MdiFrames, CaptionStaysWhileAnotherProgramComesToTheFront) {
+    open("c:\\sea.tmf");
+    open("c:\\sky.tmf");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&main));
+    // Every widget hears of it, in any order; the area may do so after the frame in it.
+    QEvent deactivation(QEvent::WindowDeactivate);
+    QApplication::sendEvent(main.activeChild(), &deactivation);
+    QApplication::sendEvent(&main.area(), &deactivation);
+    EXPECT_EQ(main.windowTitle(), QStringLiteral("Dyeworks - sky.tmf"));
 }
 
 TEST_F(MdiFrames, CommandsReachTheFrontWindowWhileAnotherWindowOfTheProgramIsActive) {

@@ -57,7 +57,10 @@ ChildFrame& MdiFrame::addChild(std::unique_ptr<ChildFrame> child) {
 }
 
 ChildFrame* MdiFrame::activeChild() const {
-    return qobject_cast<ChildFrame*>(area_->currentSubWindow());
+    if (QMdiSubWindow* current = area_->currentSubWindow())
+        return qobject_cast<ChildFrame*>(current);
+    // The area has none for a moment while another program comes to the front.
+    return activated_ != nullptr && activated_->document() != nullptr ? activated_.get() : nullptr;
 }
 
 std::vector<ChildFrame*> MdiFrame::childFrames() const {
@@ -159,6 +162,7 @@ void MdiFrame::OnUpdateWindowArrange(CommandUi& ui) {
 void MdiFrame::childActivated() {
     // Not the signal's argument, which may be null while another window of the program is active.
     ChildFrame* child = activeChild();
+    activated_ = child;
     OnUpdateFrameTitle();
     const bool ownMenus = child != nullptr && child->document() != nullptr && !child->menus().empty();
     showMenus(ownMenus ? child->menus() : menus_);

@@ -5,6 +5,7 @@
 #include "framework/WindowTiling.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <map>
 #include <memory>
@@ -86,6 +87,7 @@ private:
     int arrangeMinimized();
 
     QMdiArea* area_;
+    QPointer<ChildFrame> activated_; ///< The last that was.
     CommandActions* actions_ = nullptr;
     std::span<const MenuItem> menus_; ///< While no child frame has others.
     /// The menus made so far, by the list they are made of. They stay, because a change of the menu bar often
