@@ -11,11 +11,13 @@
 #include "ui/palettebar/CPaletteBar.h"
 
 #include <QApplication>
+#include <QMdiArea>
 #include <QPixmap>
 
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <ranges>
 #include <set>
 #include <system_error>
 
@@ -260,12 +262,20 @@ bool CDyeworksApp::ResumeDocuments() {
     const Profile& profile = platform().profile();
     const int count = profile.integer(kDocumentsSection, kCountEntry, 0);
     const std::set<int> stored = storedDocuments(count);
+    const auto pathOf = [&](int number) {
+        return profile.textOr(kDocumentsSection, std::to_string(number), "");
+    };
     // What is missing counts as failed. How much that is may be nonsense in a damaged file, so that only what
     // is there is gone through.
     bool allOpened = count <= static_cast<int>(stored.size());
     for (const int number : stored)
-        allOpened =
-            OpenDocumentFile(profile.textOr(kDocumentsSection, std::to_string(number), "")) && allOpened;
+        allOpened = OpenDocumentFile(pathOf(number)) && allOpened;
+    // The list begins with the window that was in front.
+    for (const int number : stored | std::views::reverse) {
+        const CDocument* document = FindOpenDocument(pathOf(number));
+        if (ChildFrame* frame = document == nullptr ? nullptr : mainFrame_->frameOf(*document))
+            mainFrame_->area().setActiveSubWindow(frame);
+    }
     return allOpened;
 }
 
@@ -273,6 +283,8 @@ void CDyeworksApp::SaveOpenDocuments() {
     Profile& profile = platform().profile();
     std::vector<std::string> open;
     paletteSet()->listKeys(open);
+    // One that was never saved is no file that could be opened again.
+    std::erase_if(open, [](const std::string& key) { return key.starts_with('*'); });
     for (const ChildFrame* frame : mainFrame_->childFrames()) {
         if (frame->document() != nullptr && !frame->document()->pathName().empty())
             open.push_back(frame->document()->pathName());
