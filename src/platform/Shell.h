@@ -18,7 +18,8 @@ class Shell {
 public:
     virtual ~Shell() = default;
 
-    /// Opens a file with the program that the desktop keeps for its kind.
+    /// Opens a file with the program that the desktop keeps for its kind. False when there is no such file or
+    /// no such program.
     virtual bool openWithDefaultProgram(const std::string& path) = 0;
 
     /// Tells the desktop, for this user only, that the program opens these kinds. Writes nothing where the

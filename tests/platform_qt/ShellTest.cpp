@@ -47,6 +47,25 @@ protected:
 
 } // namespace
 
+TEST_F(ShellTest, DesktopWithoutAProgramForAFileOpensNothing) {
+    write("page one.html", "");
+    const struct {
+        const char* launcher;
+        const char* file;
+        bool opens;
+    } cases[] = {{"[ \"${1##*/}\" = page%20one.html ]", "page one.html", true},
+                 {"exit 3", "page one.html", false},
+                 {"kill -9 $$", "page one.html", false},
+                 {"exit 0", "none.html", false}};
+    qputenv("PATH", scratch_.path().toUtf8());
+    for (const auto& [launcher, file, opens] : cases) {
+        write("xdg-open", QByteArray("#!/bin/sh\n") + launcher);
+        ASSERT_TRUE(
+            QFile::setPermissions(host("xdg-open"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        EXPECT_EQ(shell_.openWithDefaultProgram(path(file)), opens) << launcher;
+    }
+}
+
 TEST_F(ShellTest, RegistersTypesThatTheDesktopThenKnows) {
     ASSERT_TRUE(shell_.registerFileTypes(types_));
     ASSERT_EQ(QProcess::execute(indexBuilder_, {host("data/mime")}), 0);

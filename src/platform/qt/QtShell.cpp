@@ -6,9 +6,11 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QUrl>
 
 #include <algorithm>
@@ -98,14 +100,41 @@ bool installedForAll() {
     });
 }
 
+/// Whether the desktop's launcher found a program for what it was given. Only its end tells; where it stays
+/// with the program that it found, it does not end before that one.
+bool launch(const QString& launcher, const QString& target) {
+    constexpr int kPatience = 3000; // Milliseconds.
+    // Kept when it goes on: with the object, the program would be ended.
+    auto* process = new QProcess;
+    process->setStandardOutputFile(QProcess::nullDevice());
+    process->setStandardErrorFile(QProcess::nullDevice());
+    QEventLoop waiting;
+    QObject::connect(process, &QProcess::finished, &waiting, &QEventLoop::quit);
+    QObject::connect(process, &QProcess::errorOccurred, &waiting, &QEventLoop::quit);
+    QTimer::singleShot(kPatience, &waiting, &QEventLoop::quit);
+    process->start(launcher, {target});
+    if (process->state() != QProcess::NotRunning)
+        waiting.exec(QEventLoop::ExcludeUserInputEvents);
+    if (process->state() != QProcess::NotRunning) {
+        QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
+        return true;
+    }
+    process->deleteLater();
+    return process->error() == QProcess::UnknownError && process->exitStatus() == QProcess::NormalExit &&
+           process->exitCode() == 0;
+}
+
 } // namespace
 
 bool QtShell::openWithDefaultProgram(const std::string& path) {
-    // The desktop's launcher reports success before it has looked at the file.
     const std::string full = files_.fullPath(path);
     if (!files_.exists(full))
         return false;
-    return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(files_.hostPath(full))));
+    const QUrl url = QUrl::fromLocalFile(QString::fromStdString(files_.hostPath(full)));
+    // Qt starts the same launcher, but does not wait for what it says.
+    const QString launcher = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+    return launcher.isEmpty() ? QDesktopServices::openUrl(url)
+                              : launch(launcher, url.toString(QUrl::FullyEncoded));
 }
 
 bool QtShell::registerFileTypes(const std::vector<FileTypeRegistration>& types) {
