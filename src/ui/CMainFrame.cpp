@@ -19,6 +19,7 @@
 #include "ui/StatusPanes.h"
 #include "ui/palettebar/CPaletteBar.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QMdiArea>
@@ -80,6 +81,9 @@ CMainFrame::CMainFrame(CDyeworksApp& application)
     makePaletteBar();
     makeProjectBar();
     actions_.addTo(*this);
+    // An icon takes the place of the mark that says whether the bar is shown.
+    for (const MenuItem& item : barsMenu())
+        actions_.action(item.id)->setIconVisibleInMenu(false);
     on(ID_HELP_INDEX, &CMainFrame::OnHelpIndex);
     on(ID_DEFAULT_HELP, &CMainFrame::OnHelpIndex);
     on(ID_HELP, &CMainFrame::OnHelp);

@@ -1,6 +1,7 @@
 #include "Program.h"
 
 #include <QDebug>
+#include <QMenu>
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
@@ -65,6 +66,11 @@ TEST_F(BarLayout, AtFirstTheBarsAreAtTheTopWithTheirButtonsAndThePaletteFloats) 
         }
         EXPECT_TRUE(flat || buttons == expected);
     }
+    const std::unique_ptr<QMenu> menu(static_cast<QMainWindow&>(frame()).createPopupMenu());
+    EXPECT_EQ(menu->actions().size(), 6);
+    frame().commandActions().refresh();
+    for (const QAction* item : menu->actions())
+        EXPECT_TRUE(item->isChecked() && !item->isIconVisibleInMenu()) << item->text().toStdString();
     EXPECT_TRUE(palette().isWindow());
     EXPECT_TRUE(palette().isVisible());
     EXPECT_EQ(palette().windowTitle(), "Palette");
