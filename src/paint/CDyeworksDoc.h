@@ -170,6 +170,7 @@ private:
     [[nodiscard]] std::int32_t firstEntryFor(const TextureLookupTable& palette) const;
     [[nodiscard]] const std::string& nameWithoutParts() const;
     [[nodiscard]] TlutData* attachedTable() const;
+    [[nodiscard]] std::int32_t firstEntryForPlugIns() const;
     [[nodiscard]] std::string nameToSaveUnder() const;
     void makePaletteOfColours();
     /// Ends drags and puts pieces that float into the image.

@@ -11,6 +11,12 @@ TlutData* CDyeworksDoc::attachedTable() const {
     return palette == nullptr ? nullptr : &palette->table;
 }
 
+/// The bank stays with the image while that shows in a palette, or in none, that has no banks.
+std::int32_t CDyeworksDoc::firstEntryForPlugIns() const {
+    const TlutData* const table = attachedTable();
+    return canvas_.bitsPerPixel() == 4 && table != nullptr && table->count == 256 ? paletteValue_ : 0;
+}
+
 void CDyeworksDoc::RefreshPreviews() {
     if ((!previews_[0] && !previews_[1]) || !host_.isActiveImage(*this))
         return;
@@ -20,8 +26,8 @@ void CDyeworksDoc::RefreshPreviews() {
     for (std::int32_t which = 0; which < 2; ++which) {
         bool& shown = previews_.at(static_cast<std::size_t>(which));
         if (shown)
-            shown =
-                host_.imagePlugIns().PreviewImage(image.get(), attachedTable(), paletteValue_, which) != 0;
+            shown = host_.imagePlugIns().PreviewImage(image.get(), attachedTable(), firstEntryForPlugIns(),
+                                                      which) != 0;
     }
 }
 
@@ -31,7 +37,7 @@ void CDyeworksDoc::ImportThrough(std::int32_t plugIn) {
     if (image == nullptr)
         return;
     std::unique_ptr<TextureCanvas> brought =
-        host_.imagePlugIns().ImportImage(plugIn, image.get(), attachedTable(), paletteValue_);
+        host_.imagePlugIns().ImportImage(plugIn, image.get(), attachedTable(), firstEntryForPlugIns());
 
     const std::unique_ptr<TextureCanvas> before = canvas_.Clone();
     canvas_.FromImage(*image);
@@ -52,7 +58,7 @@ void CDyeworksDoc::ImportThrough(std::int32_t plugIn) {
 void CDyeworksDoc::ExportThrough(std::int32_t plugIn) {
     takeBackDrags();
     const std::unique_ptr<TmfImage> image = canvas_.ToImage();
-    host_.imagePlugIns().ExportImage(plugIn, image.get(), attachedTable(), paletteValue_);
+    host_.imagePlugIns().ExportImage(plugIn, image.get(), attachedTable(), firstEntryForPlugIns());
 }
 
 void CDyeworksDoc::OnTogglePreview(CommandId id) {

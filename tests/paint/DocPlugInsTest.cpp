@@ -25,7 +25,7 @@ TEST_F(DocPlugIns, PreviewsThatAreOnFollowImageAndPalette) {
         {"palette refreshed", [&] { document.RefreshPalette(); }},
         {"palette edited", [&] { document.PaletteChanged("*other", host.palettes.lookup("")); }},
         {"attached", [&] { document.Attach(); }}};
-    openPalette();
+    openPalette(256);
     document.Attach();
     for (const auto& [name, happens] : occasions) {
         happens();
@@ -33,7 +33,7 @@ TEST_F(DocPlugIns, PreviewsThatAreOnFollowImageAndPalette) {
     }
     document.setPaletteValue(48);
     document.runCommand(ID_PREVIEW2);
-    const std::string shown = "preview 1 texel 0 of 16 from 48";
+    const std::string shown = "preview 1 texel 0 of 256 from 48";
     EXPECT_THAT(calls(), ElementsAre(shown));
     document.Undo();
     calls();
@@ -51,7 +51,7 @@ TEST_F(DocPlugIns, PreviewsThatAreOnFollowImageAndPalette) {
     EXPECT_THAT(calls(), IsEmpty());
     host.active = &document;
     document.Fill(nullptr, 0, 0, 7);
-    EXPECT_THAT(calls(), ElementsAre("preview 0 texel 7 of 16 from 48", "preview 1 texel 7 of 16 from 48"));
+    EXPECT_THAT(calls(), ElementsAre("preview 0 texel 7 of 256 from 48", "preview 1 texel 7 of 256 from 48"));
 }
 
 TEST_F(DocPlugIns, FailingPreviewIsSwitchedOff) {
@@ -88,10 +88,26 @@ TEST_F(DocPlugIns, CommandsStandForThePlugInsOfTheirNumbers) {
     EXPECT_EQ(states(ID_IMPORT_FIRST)[15], "&5 x");
 
     document.Fill(nullptr, 0, 0, 9);
-    document.setPaletteValue(32);
     document.runCommand(ID_IMPORT_LAST);
     document.runCommand(ID_EXPORT_FIRST + 2);
-    EXPECT_THAT(calls(), ElementsAre("import 15 texel 9 of 0 from 32", "export 2 texel 9 of 0 from 32"));
+    EXPECT_THAT(calls(), ElementsAre("import 15 texel 9 of 0 from 0", "export 2 texel 9 of 0 from 0"));
+}
+
+TEST_F(DocPlugIns, BankCountsOnlyForSmallImagesInPalettesThatHaveBanks) {
+    document.setPaletteValue(48);
+    for (const auto& [entries, bits, from] :
+         {std::tuple(0, 4, "0"), {16, 4, "0"}, {256, 4, "48"}, {256, 8, "0"}}) {
+        if (entries != 0)
+            openPalette(entries);
+        document.canvas().Create(2, 2, 1, static_cast<std::uint16_t>(bits));
+        document.Attach();
+        document.ExportThrough(0);
+        document.runCommand(ID_PREVIEW1);
+        document.runCommand(ID_PREVIEW1);
+        document.ImportThrough(0);
+        for (const std::string& call : calls())
+            EXPECT_TRUE(call.ends_with(std::string(" from ") + from)) << call << ' ' << bits;
+    }
 }
 
 TEST_F(DocPlugIns, ImportKeepsWhatThePlugInChangedWithoutAStep) {
