@@ -17,7 +17,7 @@ namespace {
 constexpr const char* kEnglishBlock = "040904E4";
 constexpr const char* kJapaneseBlock = "041104B0";
 
-std::string stringOf(const VersionRecord& record, const std::string& name) {
+std::string stringOf(const VersionRecord& record, const std::string& name, int locale) {
     const auto find = [&](const char* block) -> std::optional<std::string> {
         const auto strings = record.strings.find(block);
         if (strings == record.strings.end())
@@ -26,22 +26,22 @@ std::string stringOf(const VersionRecord& record, const std::string& name) {
         return text == strings->second.end() ? std::nullopt : std::optional(text->second);
     };
     std::optional<std::string> text;
-    if (platform().locale().defaultLocale() == kLocaleJapanese)
+    if (locale == kLocaleJapanese)
         text = find(kJapaneseBlock);
     if (!text)
         text = find(kEnglishBlock);
     return text.value_or("");
 }
 
-void describe(PlugInInfo& info, const std::string& path) {
+void describe(PlugInInfo& info, const std::string& path, int locale) {
     const std::optional<VersionRecord> record = platform().versionInfo().read(path);
     if (!record)
         return;
-    info.internalName = stringOf(*record, "InternalName");
-    info.productName = stringOf(*record, "ProductName");
-    info.comments = stringOf(*record, "Comments");
+    info.internalName = stringOf(*record, "InternalName", locale);
+    info.productName = stringOf(*record, "ProductName", locale);
+    info.comments = stringOf(*record, "Comments", locale);
     std::ranges::reverse_copy(record->fileVersion, info.version.begin());
-    info.companyName = stringOf(*record, "CompanyName");
+    info.companyName = stringOf(*record, "CompanyName", locale);
 }
 
 } // namespace
@@ -53,7 +53,7 @@ std::uint32_t hostVersionWord() {
     return word;
 }
 
-bool PlugInCatalogue::LoadPlugIns(const std::string& programFolder) {
+bool PlugInCatalogue::LoadPlugIns(const std::string& programFolder, int locale) {
     folder_ = programFolder + "PlugIns\\";
     failed_.clear();
     std::vector<FileEntry> entries =
@@ -61,12 +61,12 @@ bool PlugInCatalogue::LoadPlugIns(const std::string& programFolder) {
     std::ranges::stable_sort(entries, {}, [](const FileEntry& entry) { return foldedCase(entry.name); });
     for (const FileEntry& entry : entries) {
         if (!entry.directory)
-            add(entry.name);
+            add(entry.name, locale);
     }
     return true;
 }
 
-void PlugInCatalogue::add(const std::string& fileName) {
+void PlugInCatalogue::add(const std::string& fileName, int locale) {
     PlugInInfo info;
     info.module = platform().library().load(folder_ + fileName);
     if (info.module == nullptr)
@@ -83,7 +83,7 @@ void PlugInCatalogue::add(const std::string& fileName) {
     if (const auto getType = info.module->findFunction<decltype(DWPI_getType)>("_DWPI_getType@0"))
         info.type = answer(getType);
     info.fileName = fileName;
-    describe(info, folder_ + fileName);
+    describe(info, folder_ + fileName, locale);
 
     const struct {
         std::uint32_t bit;

@@ -13,8 +13,9 @@ namespace dyeworks {
 class PlugInCatalogue {
 public:
     /// Loads the libraries in the folder "PlugIns" of the program's folder ("c:\program\") that accept the
-    /// program. The result is always true.
-    bool LoadPlugIns(const std::string& programFolder);
+    /// program. `locale` is the number of the language that the program speaks, which they are told, and in
+    /// which they are described. The result is always true.
+    bool LoadPlugIns(const std::string& programFolder, int locale);
     /// Empties all lists and unloads the libraries. Nothing of a plug-in may be in use any more.
     void FreePlugIns();
 
@@ -35,7 +36,7 @@ public:
     [[nodiscard]] const std::vector<PlugInInfo>& nodeHandlers() const noexcept { return nodeHandlers_; }
 
 private:
-    void add(const std::string& fileName);
+    void add(const std::string& fileName, int locale);
 
     std::string folder_;
     std::vector<std::string> failed_;

@@ -36,10 +36,12 @@ const std::array kFileTypes{
     FileTypeRegistration{"TLF.Document", ".tlf", "application/x-orrery-tlf"},
 };
 
+/// Of the language that the program speaks, which is one of two whatever the user's locale is.
 int localeOf(const CommandLine& commandLine) {
-    if (commandLine.language.isEmpty())
-        return platform().locale().defaultLocale();
-    return commandLine.language == QLatin1String("ja") ? kLocaleJapanese : kLocaleEnglish;
+    const bool japanese = commandLine.language.isEmpty()
+                              ? platform().locale().defaultLocale() == kLocaleJapanese
+                              : commandLine.language == QLatin1String("ja");
+    return japanese ? kLocaleJapanese : kLocaleEnglish;
 }
 
 /// The numbers below `count` under which the open documents have an entry.
@@ -85,7 +87,7 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
         return false;
     helpPath_ = programFolder_ + "..\\doc\\index.html";
     setPlugInHost(&plugInHost_);
-    plugIns_.LoadPlugIns(programFolder_);
+    plugIns_.LoadPlugIns(programFolder_, localeOf(commandLine));
     for (const std::string& fileName : plugIns_.failed())
         plugInHost_.tellPlugInFailed(fileName);
     if (commandLine.task == CommandLine::Task::Serve || !processCommandLine(commandLine))

@@ -23,9 +23,9 @@ protected:
         fake_.library.define(folder_ + file, std::move(symbols));
         fake_.versionInfo.records[folder_ + file].strings["040904E4"]["InternalName"] = file.substr(0, 1);
     }
-    void load() {
+    void load(int locale = kLocaleEnglish) {
         catalogue_.FreePlugIns();
-        EXPECT_TRUE(catalogue_.LoadPlugIns("c:\\program\\"));
+        EXPECT_TRUE(catalogue_.LoadPlugIns("c:\\program\\", locale));
     }
 
     const std::string folder_ = "c:\\program\\PlugIns\\";
@@ -64,22 +64,17 @@ TEST_F(PlugInCalls, CatalogueListsWhatAcceptsTheProgramByItsRoles) {
     EXPECT_EQ(fake_.library.loadedCount(), 0);
 }
 
-TEST_F(PlugInCalls, StringsAreOfTheLocaleThenEnglish) {
+TEST_F(PlugInCalls, StringsAreOfTheProgramsLanguageThenEnglish) {
     add("a.so", {}, nullptr);
+    fake_.locale.locale = kLocaleJapanese;
     fake_.versionInfo.records[folder_ + "a.so"] = {
         {1, 2, 3, 4},
         {{"040904E4", {{"InternalName", "Sky"}, {"ProductName", "Sky tool"}}},
          {"041104B0", {{"InternalName", "\xE7\xA9\xBA"}, {"Comments", "jc"}, {"CompanyName", "jn"}}}}};
     const Lines english{"Sky", "Sky tool", "", ""};
     const Lines japanese{"\xE7\xA9\xBA", "Sky tool", "jc", "jn"};
-    const std::tuple<int, int, Lines> cases[] = {{kLocaleEnglish, kLocaleJapanese, english},
-                                                 {0, kLocaleEnglish, english},
-                                                 {0, kLocaleJapanese, japanese},
-                                                 {kLocaleJapanese, kLocaleEnglish, japanese}};
-    for (const auto& [user, system, strings] : cases) {
-        fake_.locale.locale = user;
-        fake_.locale.system = system;
-        load();
+    for (const auto& [locale, strings] : {std::pair(kLocaleEnglish, english), {kLocaleJapanese, japanese}}) {
+        load(locale);
         const PlugInInfo& info = catalogue_.all().front();
         EXPECT_EQ(Lines({info.internalName, info.productName, info.comments, info.companyName}), strings);
         EXPECT_THAT(info.version, ElementsAre(4, 3, 2, 1));
