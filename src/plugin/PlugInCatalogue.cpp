@@ -80,6 +80,8 @@ void PlugInCatalogue::add(const std::string& fileName, int locale) {
     const auto isAvail = info.module->findFunction<decltype(DWPI_isAvail)>("_DWPI_isAvail@4");
     if (isAvail == nullptr || answer(isAvail, hostVersionWord()) == 0)
         return;
+    if (const auto onLanguage = info.module->findFunction<decltype(DWPI_onLanguage)>("_DWPI_onLanguage@4"))
+        answer(onLanguage, static_cast<std::uint32_t>(locale));
     if (const auto getType = info.module->findFunction<decltype(DWPI_getType)>("_DWPI_getType@0"))
         info.type = answer(getType);
     info.fileName = fileName;

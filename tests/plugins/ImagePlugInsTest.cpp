@@ -27,7 +27,9 @@ TEST_F(ImagePlugIns, AreListedAsTheySayWhoTheyAre) {
         fake_.locale.locale = c.locale;
         commandLine_.language = QString::fromLatin1(c.language);
         start();
-        EXPECT_EQ(log(), Lines{"Declining.so declines 01000200"}) << "and is asked nothing else";
+        EXPECT_THAT(log(),
+                    ElementsAre("Declining.so declines 01000200", // and is asked nothing else
+                                std::string("Japanese.so speaks ") + (c.japanese ? "Japanese" : "English")));
         EXPECT_EQ(fake_.library.loadedCount(), controls + 5);
         openImage();
         const std::string name = c.japanese ? "\xE7\xA9\xBA" : "";

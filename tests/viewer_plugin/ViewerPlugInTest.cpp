@@ -29,7 +29,7 @@ protected:
     /// The visible window with that title.
     static QWidget* window(const char* title) {
         for (QWidget* const widget : QApplication::topLevelWidgets()) {
-            if (widget->isVisible() && widget->windowTitle() == QLatin1String(title))
+            if (widget->isVisible() && widget->windowTitle() == QString::fromUtf8(title))
                 return widget;
         }
         return nullptr;
@@ -64,6 +64,15 @@ TEST_F(ViewerPlugIn, WindowClosedByTheUserAnswersZeroOnceAndComesBack) {
     EXPECT_EQ(window("Preview 2"), nullptr);
     EXPECT_EQ(preview(1), 1u);
     EXPECT_NE(window("Preview 2"), nullptr);
+}
+
+TEST_F(ViewerPlugIn, SpeaksTheProgramsLanguage) {
+    startApplication();
+    const auto speak = reinterpret_cast<std::uint32_t (*)(std::uint32_t)>(::dlsym(library_, "DWPI_onLanguage"));
+    ASSERT_NE(speak, nullptr);
+    speak(DW_LOCALE_JAPANESE);
+    EXPECT_EQ(preview(0), 1u);
+    EXPECT_NE(window("\xE3\x83\x97\xE3\x83\xAC\xE3\x83\x93\xE3\x83\xA5\xE3\x83\xBC 1"), nullptr);
 }
 
 TEST_F(ViewerPlugIn, WindowsGoWithTheLibrary) {

@@ -92,6 +92,14 @@ DWPI_ENTRY uint32_t DWPI_isAvail(uint32_t hostVersion);
 /* The roles. Without it the plug-in has none. */
 DWPI_ENTRY uint32_t DWPI_getType(void);
 
+/* Locale numbers of the languages that the program speaks. */
+#define DW_LOCALE_ENGLISH 1033u
+#define DW_LOCALE_JAPANESE 1041u
+/* Optional: the language that the program speaks, which the user may have chosen apart from the desktop's.
+ * Called once, before DWPI_getType, when the plug-in has accepted the program; what it answers is not looked
+ * at. Take any number that you do not know for English. */
+DWPI_ENTRY uint32_t DWPI_onLanguage(uint32_t locale);
+
 /* Import. May change the texels of in->image in place, which the program keeps whatever the result; may put
  * an image, a palette or both into *out (all null before), which the program then owns. The image becomes a
  * floating piece, the palette replaces the image's own, or is opened when it has none. */

@@ -42,8 +42,7 @@ bool install(QCoreApplication& application, const QString& file, const QString& 
     return QCoreApplication::installTranslator(translator.release());
 }
 
-/// Numbers and dates stay as the desktop has them, where its language is the same. Plug-ins ask for the
-/// locale, too.
+/// Numbers and dates stay as the desktop has them, where its language is the same.
 void setDefaultLocale(QLocale::Language language) {
     const QLocale desktop = QLocale::system();
     const bool same = (desktop.language() == QLocale::Japanese) == (language == QLocale::Japanese);
