@@ -34,6 +34,7 @@ public:
     ViewerWindows& operator=(const ViewerWindows&) = delete;
 
     [[nodiscard]] bool show(const PlugInPicture& picture, std::size_t which);
+    void dismiss(std::size_t which);
 
 private:
     static void applicationEnds();
@@ -63,6 +64,11 @@ bool ViewerWindows::show(const PlugInPicture& picture, std::size_t which) {
     return !window->takeClosedByUser() && window->showPicture(picture);
 }
 
+void ViewerWindows::dismiss(std::size_t which) {
+    if (which < windows_.size() && windows_.at(which) != nullptr)
+        windows_.at(which)->dismiss();
+}
+
 } // namespace
 
 std::uint32_t DWPI_isAvail(std::uint32_t /*hostVersion*/) {
@@ -79,4 +85,9 @@ std::uint32_t DWPI_preview2(const PlugInPicture* picture, std::uint32_t which) {
     } catch (const std::bad_alloc&) {
         return 0;
     }
+}
+
+std::uint32_t DWPI_previewOff(std::uint32_t which) {
+    viewerWindows.dismiss(which);
+    return 1;
 }

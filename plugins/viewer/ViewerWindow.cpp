@@ -131,6 +131,11 @@ bool ViewerWindow::showPicture(const PlugInPicture& picture) {
     return true;
 }
 
+void ViewerWindow::dismiss() {
+    closedByUser_ = false;
+    hide();
+}
+
 bool ViewerWindow::takeClosedByUser() {
     return std::exchange(closedByUser_, false);
 }

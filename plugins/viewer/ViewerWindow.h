@@ -22,7 +22,10 @@ public:
     /// program. False for a picture that cannot be shown; the window is then hidden.
     [[nodiscard]] bool showPicture(const PlugInPicture& picture);
 
-    /// Whether the user has closed the window since the last call of this.
+    /// Hides the window until the next picture; whether the user had closed it no longer matters.
+    void dismiss();
+
+    /// Whether the user has closed the window since the last call of this or of `dismiss`.
     [[nodiscard]] bool takeClosedByUser();
 
     [[nodiscard]] ViewerView& view() { return *view_; }

@@ -118,6 +118,8 @@ public:
     /// Shows the image in the previews that are on, if this is the active image. One that fails is switched
     /// off.
     void RefreshPreviews();
+    /// The image has become the active one: the previews that are on for it show it, the others are off.
+    void TakeOverPreviews();
     /// Lets the plug-in change the image, which is no step of the history. What it brings besides becomes the
     /// active view's floating piece.
     void ImportThrough(std::int32_t plugIn);
@@ -153,6 +155,13 @@ private:
     /// Saved position of a file whose contents no step of the history leads back to.
     static constexpr std::int32_t kUnreachable = -1;
 
+    static constexpr std::int32_t kPreviews = 2;
+    struct Preview {
+        bool on = false;
+        int calls = 0;          ///< That have not come back.
+        std::uint64_t seen = 0; ///< State of the image that it was last given.
+    };
+
     template <typename Draw>
     void edit(CDyeworksView* view, Draw draw);
     void replaceHistory(std::int32_t savedPosition);
@@ -171,6 +180,8 @@ private:
     [[nodiscard]] const std::string& nameWithoutParts() const;
     [[nodiscard]] TlutData* attachedTable() const;
     [[nodiscard]] std::int32_t firstEntryForPlugIns() const;
+    void showInPreview(std::int32_t which);
+    void switchPreviewOff(std::int32_t which);
     [[nodiscard]] std::string nameToSaveUnder() const;
     void makePaletteOfColours();
     /// Ends drags and puts pieces that float into the image.
@@ -195,7 +206,8 @@ private:
     RecordFactory makeRecord_;
     std::unique_ptr<TextureCanvas> snapshot_;
     bool stroke_ = false;
-    std::array<bool, 2> previews_{};
+    std::array<Preview, kPreviews> previews_{};
+    std::uint64_t newestShown_ = 0;  ///< Counts the states of the image that were to be shown.
     bool historyMoved_ = false;      ///< Since the flag and the title last followed it.
     std::int32_t savedPosition_ = 0; ///< History position that the file holds.
     DisplayPalette displayPalette_;

@@ -108,10 +108,12 @@ std::string CDyeworksDoc::nameToSaveUnder() const {
 }
 
 void CDyeworksDoc::onCloseDocument() {
-    // While another image is the active one, the panes speak of that.
+    // While another image is the active one, the panes and the previews show that.
     if (const CDyeworksDoc* const shown = host_.lastActivatedImage(); shown == nullptr || shown == this) {
         host_.setStatusText("", kPositionPane);
         host_.setStatusText("", kSizePane);
+        for (std::int32_t which = 0; which < kPreviews; ++which)
+            switchPreviewOff(which);
     }
     CDocument::onCloseDocument();
 }

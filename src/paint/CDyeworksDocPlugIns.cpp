@@ -4,7 +4,16 @@
 #include "paint/ImagePlugIns.h"
 #include "paint/ViewWindow.h"
 
+#include <utility>
+
 namespace dyeworks {
+
+namespace {
+
+/// Calls of one preview inside each other.
+constexpr int kMostPreviewCalls = 2;
+
+} // namespace
 
 TlutData* CDyeworksDoc::attachedTable() const {
     TextureLookupTable* const palette = GetAttachedPalette();
@@ -17,18 +26,46 @@ std::int32_t CDyeworksDoc::firstEntryForPlugIns() const {
     return canvas_.bitsPerPixel() == 4 && table != nullptr && table->count == 256 ? paletteValue_ : 0;
 }
 
+/// A preview may change the image, which leads back here from inside its call. It is then shown what became
+/// of the image, but not what it makes of that again; the other one is always given the newest state.
 void CDyeworksDoc::RefreshPreviews() {
-    if ((!previews_[0] && !previews_[1]) || !host_.isActiveImage(*this))
+    if ((!previews_[0].on && !previews_[1].on) || !host_.isActiveImage(*this))
         return;
+    ++newestShown_;
+    for (std::int32_t which = 0; which < kPreviews; ++which) {
+        Preview& preview = previews_.at(static_cast<std::size_t>(which));
+        if (!preview.on || std::exchange(preview.seen, newestShown_) == newestShown_)
+            continue;
+        if (preview.calls < kMostPreviewCalls)
+            showInPreview(which);
+    }
+}
+
+void CDyeworksDoc::showInPreview(std::int32_t which) {
     const std::unique_ptr<TmfImage> image = canvas_.ToImage();
     if (image == nullptr)
         return;
-    for (std::int32_t which = 0; which < 2; ++which) {
-        bool& shown = previews_.at(static_cast<std::size_t>(which));
-        if (shown)
-            shown = host_.imagePlugIns().PreviewImage(image.get(), attachedTable(), firstEntryForPlugIns(),
-                                                      which) != 0;
+    Preview& preview = previews_.at(static_cast<std::size_t>(which));
+    ++preview.calls;
+    const bool shown =
+        host_.imagePlugIns().PreviewImage(image.get(), attachedTable(), firstEntryForPlugIns(), which) != 0;
+    --preview.calls;
+    // It may also have gone off during the call, and have shown something after that.
+    if (!shown || !preview.on)
+        switchPreviewOff(which);
+}
+
+void CDyeworksDoc::switchPreviewOff(std::int32_t which) {
+    previews_.at(static_cast<std::size_t>(which)).on = false;
+    host_.imagePlugIns().PreviewOff(which);
+}
+
+void CDyeworksDoc::TakeOverPreviews() {
+    for (std::int32_t which = 0; which < kPreviews; ++which) {
+        if (!previews_.at(static_cast<std::size_t>(which)).on)
+            host_.imagePlugIns().PreviewOff(which);
     }
+    RefreshPreviews();
 }
 
 void CDyeworksDoc::ImportThrough(std::int32_t plugIn) {
@@ -62,14 +99,17 @@ void CDyeworksDoc::ExportThrough(std::int32_t plugIn) {
 }
 
 void CDyeworksDoc::OnTogglePreview(CommandId id) {
-    bool& shown = previews_.at(id - ID_PREVIEW1);
-    shown = !shown;
-    if (shown)
-        RefreshPreviews();
+    Preview& preview = previews_.at(id - ID_PREVIEW1);
+    if (preview.on) {
+        switchPreviewOff(static_cast<std::int32_t>(id - ID_PREVIEW1));
+        return;
+    }
+    preview.on = true;
+    RefreshPreviews();
 }
 
 void CDyeworksDoc::OnUpdatePreview(CommandUi& ui) {
-    ui.checked = previews_.at(ui.id - ID_PREVIEW1);
+    ui.checked = previews_.at(ui.id - ID_PREVIEW1).on;
 }
 
 void CDyeworksDoc::OnImport(CommandId id) {

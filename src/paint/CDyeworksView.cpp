@@ -59,7 +59,7 @@ void CDyeworksView::Activated() {
     host.refreshPaletteBar();
     window_.setDisplayPalette(document_.GetDisplayPalette());
     ShowSize();
-    document_.RefreshPreviews();
+    document_.TakeOverPreviews();
 }
 
 void CDyeworksView::ShowSize() const {

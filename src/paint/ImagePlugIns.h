@@ -31,6 +31,8 @@ public:
     /// could not be shown.
     [[nodiscard]] virtual std::uint32_t PreviewImage(TmfImage* image, TlutData* palette,
                                                      std::int32_t paletteNumber, std::int32_t which) = 0;
+    /// The preview is off. Nothing happens when it has shown nothing since it was last off.
+    virtual void PreviewOff(std::int32_t which) = 0;
 };
 
 } // namespace dyeworks

@@ -15,10 +15,6 @@ namespace dyeworks {
 
 namespace {
 
-/// Calls of a preview inside each other: a preview that changes the image is shown what became of it, and not
-/// what it makes of that again.
-constexpr int kMostPreviews = 2;
-
 void tell(const char* text) {
     platform().messages().show({text, "", MessageButtons::Ok, MessageIcon::None, MessageOwner::MainWindow});
 }
@@ -169,14 +165,11 @@ std::uint32_t ImagePlugInCalls::PreviewImage(TmfImage* image, TlutData* palette,
     }
     if (host_.paletteSet() == nullptr || palette == nullptr)
         return 0;
-    if (previews_ == kMostPreviews)
-        return 1;
     const PlugInInfo& plugIn = catalogue_.previews().front();
     PassedPicture passed(image, palette, paletteNumber);
     const auto call = [&](auto* entryPoint, auto... arguments) {
-        ++previews_;
         const std::optional<std::uint32_t> answer = guarded(entryPoint, passed.get(), arguments...);
-        --previews_;
+        shown_.at(static_cast<std::size_t>(which)) = true;
         return answer;
     };
     std::optional<std::uint32_t> result;
@@ -191,6 +184,16 @@ std::uint32_t ImagePlugInCalls::PreviewImage(TmfImage* image, TlutData* palette,
     if (!passed.restore() || !result)
         host_.tellPlugInFailed(plugIn.fileName);
     return result.value_or(0);
+}
+
+void ImagePlugInCalls::PreviewOff(std::int32_t which) {
+    const bool shown = std::exchange(shown_.at(static_cast<std::size_t>(which)), false);
+    if (!shown || catalogue_.previews().empty())
+        return;
+    const PlugInInfo& plugIn = catalogue_.previews().front();
+    const auto off = plugIn.module->findFunction<decltype(DWPI_previewOff)>("_DWPI_previewOff@4");
+    if (off != nullptr && !guarded(off, static_cast<std::uint32_t>(which)))
+        host_.tellPlugInFailed(plugIn.fileName);
 }
 
 } // namespace dyeworks

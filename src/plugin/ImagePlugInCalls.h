@@ -4,6 +4,8 @@
 #include "plugin/PlugInCatalogue.h"
 #include "plugin/PlugInHost.h"
 
+#include <array>
+
 namespace dyeworks {
 
 /// Hands images and their palettes to the plug-ins of the catalogue.
@@ -26,13 +28,14 @@ public:
                      std::int32_t paletteNumber) override;
     [[nodiscard]] std::uint32_t PreviewImage(TmfImage* image, TlutData* palette, std::int32_t paletteNumber,
                                              std::int32_t which) override;
+    void PreviewOff(std::int32_t which) override;
 
 private:
     bool takeUpPalette(const TlutData& brought, TlutData* palette);
 
     const PlugInCatalogue& catalogue_;
     PlugInHost& host_;
-    int previews_ = 0; ///< That have been called and not come back.
+    std::array<bool, 2> shown_{}; ///< Previews that were called and have not been told that they are off.
 };
 
 } // namespace dyeworks

@@ -61,11 +61,11 @@ TEST_F(DocPlugIns, FailingPreviewIsSwitchedOff) {
     document.runCommand(ID_PREVIEW2);
     EXPECT_FALSE(checked(ID_PREVIEW2));
     EXPECT_TRUE(checked(ID_PREVIEW1));
-    calls();
+    EXPECT_EQ(calls().back(), "off 1");
     document.runCommand(ID_PREVIEW1);
     EXPECT_FALSE(checked(ID_PREVIEW1));
     document.Pixel(nullptr, 1, 1, 5);
-    EXPECT_THAT(calls(), IsEmpty());
+    EXPECT_THAT(calls(), ElementsAre("off 0"));
 }
 
 TEST_F(DocPlugIns, CommandsStandForThePlugInsOfTheirNumbers) {
@@ -106,7 +106,7 @@ TEST_F(DocPlugIns, BankCountsOnlyForSmallImagesInPalettesThatHaveBanks) {
         document.runCommand(ID_PREVIEW1);
         document.ImportThrough(0);
         for (const std::string& call : calls())
-            EXPECT_TRUE(call.ends_with(std::string(" from ") + from)) << call << ' ' << bits;
+            EXPECT_TRUE(call == "off 0" || call.ends_with(std::string(" from ") + from)) << call << bits;
     }
 }
 

@@ -39,6 +39,7 @@ public:
         note("preview", which, image, palette, paletteNumber);
         return which == failingPreview ? 0 : 1;
     }
+    void PreviewOff(std::int32_t which) override { calls.push_back("off " + std::to_string(which)); }
     void note(const char* call, std::int32_t number, const TmfImage* image, const TlutData* palette,
               std::int32_t paletteNumber) {
         calls.push_back(call + (" " + std::to_string(number)) + " texel " +

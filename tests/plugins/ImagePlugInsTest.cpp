@@ -182,15 +182,50 @@ TEST_F(ImagePlugIns, OnlyTheFirstPreviewIsCalledAndMayChangeWhatItShows) {
     install("Previews", "a.so");
     start();
     openImage();
-    ASSERT_TRUE(run(ID_PREVIEW2));
-    EXPECT_THAT(log(), ElementsAre("a.so 2: 1", "a.so 2: 2")) << "and not without an end";
+    ASSERT_TRUE(run(ID_PREVIEW1));
+    EXPECT_THAT(log(), ElementsAre("a.so 1: 1", "a.so 1: 2")) << "and not without an end";
     EXPECT_EQ(texel(0, 0), 3U);
-    EXPECT_EQ(app_->router().state(ID_PREVIEW2).checked, true);
+    EXPECT_EQ(app_->router().state(ID_PREVIEW1).checked, true);
     ASSERT_TRUE(run(ID_EDIT_UNDO));
-    EXPECT_THAT(log(), ElementsAre("a.so 2: 2", "a.so 2: 3"));
+    EXPECT_THAT(log(), ElementsAre("a.so 1: 2", "a.so 1: 3"));
     ASSERT_TRUE(run(ID_PREVIEW2));
+    EXPECT_THAT(log(), ElementsAre("a.so 1: 4", "a.so 1: 5", "a.so 2: 6")) << "the other sees the outcome";
+    EXPECT_EQ(texel(0, 0), 6U);
+    ASSERT_TRUE(run(ID_PREVIEW1));
+    EXPECT_EQ(log(), Lines{"a.so 1: off"});
     ASSERT_TRUE(run(ID_EDIT_UNDO));
-    EXPECT_EQ(log(), Lines());
+    EXPECT_EQ(log(), Lines{"a.so 2: 5"});
+}
+
+TEST_F(ImagePlugIns, PreviewIsOffWhereTheActiveImageDoesNotShowInIt) {
+    const std::string other = "c:\\tex\\other.tmf";
+    fake_.files.putFile(other, imageFile(texels(24, 8, [](int, int) { return 9U; }), 8));
+    install("Previews", "a.so");
+    start();
+    openImage();
+    ASSERT_TRUE(run(ID_PREVIEW2));
+    const std::string shown = "a.so 2: 1";
+    const std::string off = "a.so 2: off";
+    EXPECT_EQ(log(), Lines{shown});
+    CDyeworksDoc& first = image();
+    // How often an image is shown while windows and palettes change is not the matter.
+    const auto seen = [&] {
+        Lines lines = log();
+        lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
+        return lines;
+    };
+    ASSERT_TRUE(app_->OpenDocumentFile(other));
+    EXPECT_EQ(seen().back(), off);
+    frame().activateChild(*frame().frameOf(first));
+    EXPECT_EQ(seen(), Lines{shown});
+    frame().activateChild(*frame().frameOf(*app_->FindOpenDocument(other)));
+    ASSERT_TRUE(run(ID_FILE_CLOSE));
+    EXPECT_EQ(seen(), Lines({off, shown}));
+    openProject();
+    EXPECT_EQ(seen(), Lines()) << "a project is no image";
+    frame().activateChild(*frame().frameOf(first));
+    ASSERT_TRUE(run(ID_FILE_CLOSE));
+    EXPECT_EQ(seen(), Lines{off});
 }
 
 TEST_F(ImagePlugIns, APreviewThatSetsTheImageEndsTheStrokeThatItShows) {

@@ -16,6 +16,8 @@ protected:
         EXPECT_NE(library_, nullptr) << ::dlerror();
         preview_ = reinterpret_cast<decltype(preview_)>(::dlsym(library_, "DWPI_preview2"));
         EXPECT_NE(preview_, nullptr);
+        off_ = reinterpret_cast<decltype(off_)>(::dlsym(library_, "DWPI_previewOff"));
+        EXPECT_NE(off_, nullptr);
     }
     ~ViewerPlugIn() override { unload(); }
 
@@ -42,6 +44,7 @@ protected:
     std::unique_ptr<QApplication> application_;
     void* library_ = ::dlopen(DYEWORKS_VIEWER_LIBRARY, RTLD_NOW | RTLD_LOCAL);
     std::uint32_t (*preview_)(const PlugInPicture*, std::uint32_t) = nullptr;
+    std::uint32_t (*off_)(std::uint32_t) = nullptr;
 };
 
 TEST_F(ViewerPlugIn, ShowsNothingWithoutAnApplicationOrAThirdWindow) {
@@ -64,11 +67,26 @@ TEST_F(ViewerPlugIn, WindowClosedByTheUserAnswersZeroOnceAndComesBack) {
     EXPECT_EQ(window("Preview 2"), nullptr);
     EXPECT_EQ(preview(1), 1u);
     EXPECT_NE(window("Preview 2"), nullptr);
+    QTest::keyClick(window("Preview 2"), Qt::Key_Escape);
+    off_(1);
+    EXPECT_EQ(preview(1), 1u) << "what is switched off is no longer closed by the user";
+}
+
+TEST_F(ViewerPlugIn, WindowOfAPreviewThatIsOffIsHidden) {
+    startApplication();
+    off_(0);
+    off_(2);
+    EXPECT_EQ(preview(0) + preview(1), 2u);
+    off_(0);
+    EXPECT_EQ(window("Preview 1"), nullptr);
+    EXPECT_NE(window("Preview 2"), nullptr);
+    EXPECT_EQ(preview(0), 1u);
+    EXPECT_NE(window("Preview 1"), nullptr);
 }
 
 TEST_F(ViewerPlugIn, SpeaksTheProgramsLanguage) {
     startApplication();
-    const auto speak = reinterpret_cast<std::uint32_t (*)(std::uint32_t)>(::dlsym(library_, "DWPI_onLanguage"));
+    const auto speak = reinterpret_cast<decltype(off_)>(::dlsym(library_, "DWPI_onLanguage"));
     ASSERT_NE(speak, nullptr);
     speak(DW_LOCALE_JAPANESE);
     EXPECT_EQ(preview(0), 1u);

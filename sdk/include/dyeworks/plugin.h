@@ -111,6 +111,11 @@ DWPI_ENTRY uint32_t DWPI_export(const PlugInPicture* picture);
 DWPI_ENTRY uint32_t DWPI_preview2(const PlugInPicture* picture, uint32_t which);
 /* The same for a library without DWPI_preview2. */
 DWPI_ENTRY uint32_t DWPI_preview(const PlugInPicture* picture);
+/* Optional: the preview is off, time to hide what shows it. Called once after one or more calls of the
+ * preview: when the user switches it off, when it answered 0 or cannot be shown (as without a palette), when
+ * the image closes, and when an image becomes active for which the preview is off. What it answers is not
+ * looked at. */
+DWPI_ENTRY uint32_t DWPI_previewOff(uint32_t which);
 
 /* Commands of a node. */
 #define DW_NODE_ADD 0u
