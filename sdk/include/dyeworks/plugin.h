@@ -66,7 +66,7 @@ typedef struct PlugInPicture {
     TlutData* palette;     /* Null when the image has none. */
     uint32_t reserved;     /* 0. */
     int32_t paletteNumber; /* First entry of the palette that the image uses: of a 4-bit image in a palette of
-                              256 entries 16 times its bank, otherwise 0. */
+                              256 entries 16 times its bank, otherwise 0, as without a palette. */
 } PlugInPicture;
 
 /* What a plug-in keeps for a project; the program only hands it back. */
@@ -100,14 +100,21 @@ DWPI_ENTRY uint32_t DWPI_getType(void);
  * at. Take any number that you do not know for English. */
 DWPI_ENTRY uint32_t DWPI_onLanguage(uint32_t locale);
 
-/* Import. May change the texels of in->image in place, which the program keeps whatever the result; may put
- * an image, a palette or both into *out (all null before), which the program then owns. The image becomes a
- * floating piece, the palette replaces the image's own, or is opened when it has none. */
+/* Import. May change the texels of in->image in place, which the program keeps whatever the result: it writes
+ * them back after the call, over what DW_setTMF made of the same image meanwhile. May put an image, a palette
+ * or both into *out (all null before), which the program then owns. The image becomes a floating piece, the
+ * palette replaces the image's own, or is opened when it has none.
+ * The image had best have the depth of in->image: of larger numbers the low bits count, and no colours are
+ * matched. One without texels (width or height 0) is dropped without a word; one of a size or depth that no
+ * TmfImage has, or of more than a gigabyte, counts as a failure of the plug-in, which the user is told of. */
 DWPI_ENTRY uint32_t DWPI_import(const PlugInPicture* in, PlugInPicture* out);
 /* Export. */
 DWPI_ENTRY uint32_t DWPI_export(const PlugInPicture* picture);
-/* Preview; `which` is 0 for the first and 1 for the second one. Called whenever image or palette change; 0
- * switches the preview off. */
+/* Preview; `which` is 0 for the first and 1 for the second one. Shows the active image, and is called when it
+ * or its palette changes, and when another one for which the preview is on becomes active. 0 switches the
+ * preview off, for this image. An image without a palette is not shown: its previews are switched off without
+ * a call. A preview that sets the image (DW_setTMF) is called for that from inside, but not for what it sets
+ * in that call. */
 DWPI_ENTRY uint32_t DWPI_preview2(const PlugInPicture* picture, uint32_t which);
 /* The same for a library without DWPI_preview2. */
 DWPI_ENTRY uint32_t DWPI_preview(const PlugInPicture* picture);
@@ -134,7 +141,8 @@ DWPI_ENTRY uint32_t DWPI_previewOff(uint32_t which);
 DWPI_ENTRY DwHandle DWPI_TPF_onNew(void);
 /* After an opened project's file has been read. */
 DWPI_ENTRY uint32_t DWPI_TPF_onUpdate(DwHandle handle);
-/* The project's tree stands: time to add nodes. */
+/* The project's tree stands: from here on nodes can be added. In the calls before it, DW_addNode answers 1
+ * and adds nothing. */
 DWPI_ENTRY uint32_t DWPI_TPF_onUpdateNodes(DwHandle handle);
 /* The project closes; the last call with this handle. What is changed here is not saved. */
 DWPI_ENTRY uint32_t DWPI_TPF_onDelete(DwHandle handle);
@@ -156,29 +164,37 @@ DWPI_ENTRY uint32_t DWPI_TPF_export(DwHandle handle, const char* projectPath);
 /* ---- Host functions --------------------------------------------------------------------------------- */
 
 /* Unless said otherwise these act on the open project, and return 0 when there is none, and when its file
- * could not hold what they are given: a text that is not UTF-8, a line break in a key or value, a "#" in a
- * folder. A function that fills a buffer writes at most `size` bytes, the last of them a zero; longer texts
- * are cut before the character that does not fit, and a size of 0 or less writes nothing. */
+ * could not hold what they are given: a text that is not UTF-8, a "#" in a folder. A function that fills a
+ * buffer writes at most `size` bytes, the last of them a zero; longer texts are cut before the character that
+ * does not fit, and a null buffer or a size of 0 or less takes nothing.
+ * A null text is answered with 0, except for the parent of a node (the top of the tree), the files of
+ * DW_setPicture (none) and the name of a palette (the current one). A null node is the index 0. */
 
 /* Shows the About box until the user closes it. */
 DW_HOST void DW_About(void);
 
 /* Values by key in the project's file. A key is 1 to 256 letters, digits, "_", "@", "." and "\", the first a
- * letter, "_" or "\"; a value loses the blanks at its ends and what follows a "#". Key and value together
- * have at most 508 characters. */
+ * letter, "_" or "\"; a value loses the blanks at its ends and what follows a "#". DW_setValue answers 0, and
+ * changes nothing, for a key that is none, for a line break in the value, and when "key = value" is longer
+ * than 511 characters. What the program itself keeps there (TPF_DIR, TMF_DIR, TLF_DIR, PICT_NUM, PICT.0 and
+ * so on) it writes anew when the project is saved. */
 DW_HOST uint32_t DW_getValue(const char* key, char* buffer, int32_t size);
 DW_HOST uint32_t DW_setValue(const char* key, const char* value);
 DW_HOST uint32_t DW_removeKey(const char* key);
 
-/* Nodes of the tree. `parent` is the path of a node; null, or one that is not found, is the top of the tree.
- * `image` is an icon, 0 to 8: pictures, folder, note, flag, project, picture, palette, link, value. */
+/* Nodes of the tree. `parent` is the path of a node, as "\Project"; null, or one that is not found, is the
+ * top of the tree: what is added there stands beside "Project". `image` is an icon, 0 to 8: pictures, folder,
+ * note, flag, project, picture, palette, link, value. */
 /* Index 0 adds the node first, index k behind child number k, a text behind the child called so, the empty
  * text at the end. To rename and remove, index k is child number k, and the empty text the parent itself. */
 DW_HOST uint32_t DW_addNode(const char* text, int32_t image, const char* parent, DwNode after);
 DW_HOST uint32_t DW_renameNode(const char* text, DwNode node, const char* parent);
 DW_HOST uint32_t DW_removeNode(DwNode node, const char* parent);
 
-/* Pictures of the project. Null pointers take nothing. */
+/* Pictures of the project. Null pointers take nothing. The names of the files are relative to the first of
+ * the project's folders (DW_getTMFDir, DW_getTLFDir) that the file is found in; those of files elsewhere are
+ * whole paths. DW_getTLF looks for a palette in these folders, DW_getTMF does not: see there. DW_setPicture
+ * puts its picture first in the list, one that there was as well as a new one. */
 DW_HOST uint32_t DW_getPictureName(int32_t index, char* buffer, int32_t size);
 DW_HOST uint32_t DW_getPicture(const char* name, char* tmf, int32_t tmfSize, char* tlf, int32_t tlfSize,
                                uint32_t* paletteNumber);
@@ -192,13 +208,15 @@ DW_HOST uint32_t DW_setTPFDir(const char* directory);
 DW_HOST uint32_t DW_setTMFDir(const char* directories);
 DW_HOST uint32_t DW_setTLFDir(const char* directories);
 
-/* An image: the open one with its unsaved changes, otherwise the file. Null when it cannot be read. Setting
- * an open image, which must have the same size and depth, is an edit that can be undone. No project is
- * needed. */
+/* An image: the open one with its unsaved changes, otherwise the file. Null when it cannot be read. The name
+ * is a path, and not looked for in the project's folders: put one of DW_getTMFDir before a picture's relative
+ * name. Setting an open image, which must have the same size and depth, is an edit that can be undone; in
+ * DWPI_import, what is set of the image that it was given is lost. No project is needed. */
 DW_HOST TmfImage* DW_getTMF(const char* name);
 DW_HOST uint32_t DW_setTMF(const char* name, const TmfImage* image);
-/* A palette: the open one, the current one for the empty name, otherwise the file of that name in the
- * project's palette folders, which must be there. An open palette shows what was set at its next refresh. */
+/* A palette: the open one, by its whole path, or the current one for the empty name; otherwise the file of
+ * that name in the project's palette folders, which must be there, as it was last saved. An open palette
+ * shows what was set at its next refresh. */
 DW_HOST TlutData* DW_getTLF(const char* name);
 DW_HOST uint32_t DW_setTLF(const char* name, const TlutData* table);
 
