@@ -7,7 +7,22 @@
 #include <fstream>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
+
+namespace {
+
+int emptyWrites = 0; // So many calls of write answer that they wrote nothing.
+
+} // namespace
+
+extern "C" ssize_t write(int descriptor, const void* bytes, std::size_t size) {
+    if (emptyWrites > 0) {
+        --emptyWrites;
+        return 0;
+    }
+    return ::syscall(SYS_write, descriptor, bytes, size);
+}
 
 namespace dyeworks {
 namespace {
@@ -86,6 +101,14 @@ TEST_F(PosixFilesWrite, KeepsTheOldFileWhenTheDiskIsFull) {
     EXPECT_EQ(created, FileError::NoSpace);
     EXPECT_EQ(fake.files.textOf("c:\\sky.tlf"), "old");
     EXPECT_EQ(entryCount(), entriesBefore + 1) << "a temporary file or a half-written one stayed behind";
+}
+
+TEST_F(PosixFilesWrite, TakesAWriteOfNothingForAFailure) {
+    fake.files.putFile("c:\\sky.tlf", "old");
+    emptyWrites = 3;
+    EXPECT_EQ(write("c:\\sky.tlf", "new"), FileError::Other);
+    emptyWrites = 0;
+    EXPECT_EQ(fake.files.textOf("c:\\sky.tlf"), "old");
 }
 
 TEST_F(PosixFilesWrite, PutsANewFileInPlaceOfTheOldOne) {

@@ -51,7 +51,10 @@ ErrorNumber followLinks(std::string& path) {
 ErrorNumber writeAll(int descriptor, std::span<const std::byte> bytes) {
     while (!bytes.empty()) {
         const ssize_t count = ::write(descriptor, bytes.data(), bytes.size());
-        if (count >= 0)
+        // Some devices take nothing and call it no error; they would be asked for ever.
+        if (count == 0)
+            return EIO;
+        if (count > 0)
             bytes = bytes.subspan(static_cast<std::size_t>(count));
         else if (errno != EINTR)
             return errno;
