@@ -80,7 +80,7 @@ void CDyeworksView::Closing() {
 }
 
 bool CDyeworksView::showsNoPalette() const {
-    return !document_.IsAttached();
+    return !document_.IsAttached() && !document_.canvas().holdsColours();
 }
 
 void CDyeworksView::update(DocumentView* sender, int hint) {

@@ -62,7 +62,8 @@ public:
     /// A redraw request without kRedrawImage draws onto what the surface holds.
     void Paint(Surface& surface, const Rect& logicalArea, std::uint32_t buttonFace,
                std::uint32_t redrawRequest = 0) const;
-    /// No palette was attached: there is no image to see, and the window writes so over the button face.
+    /// No palette is attached to give the pixels colours: there is no image to see, and the window writes so
+    /// over the button face.
     [[nodiscard]] bool showsNoPalette() const;
 
     /// The second press of a double-click comes like any other.

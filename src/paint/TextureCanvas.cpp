@@ -155,6 +155,10 @@ std::uint32_t TextureCanvas::GetColorCount() const {
     return used != 0 ? used : bmp::fullColourCount(bitsPerPixel_);
 }
 
+bool TextureCanvas::holdsColours() const noexcept {
+    return bitsPerPixel_ == 16 || bitsPerPixel_ == 24 || bitsPerPixel_ == 32;
+}
+
 void TextureCanvas::ExtendChangedRect(std::int32_t x, std::int32_t y) {
     extendChanged({x, x}, {y, y});
 }

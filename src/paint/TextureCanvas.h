@@ -125,6 +125,8 @@ public:
 
     /// Entries of the colour table: the header's number when it has one, otherwise 2^bits; 0 above 8 bits.
     [[nodiscard]] std::uint32_t GetColorCount() const;
+    /// Whether pixels are colours themselves and need no table: 16, 24 or 32 bits.
+    [[nodiscard]] bool holdsColours() const noexcept;
 
     void ExtendChangedRect(std::int32_t x, std::int32_t y);
     /// False for an empty changed rectangle; otherwise its inclusive bounds.

@@ -72,8 +72,10 @@ void ViewRenderer::drawImage(const Surface& surface, const Rect& area) const {
     const std::int32_t zoom = look_.zoom;
     const Rect texels{area.left / zoom, area.top / zoom, std::min(area.right / zoom + 1, canvas_.width()),
                       std::min(area.bottom / zoom + 1, canvas_.height())};
-    canvas_.Draw(part, {texels.left * zoom, texels.top * zoom, texels.right * zoom, texels.bottom * zoom},
-                 texels);
+    const Rect place{texels.left * zoom, texels.top * zoom, texels.right * zoom, texels.bottom * zoom};
+    // What a depth without colours leaves out would show what the surface happens to hold.
+    if (canvas_.Draw(part, place, texels) == 0)
+        fillArea(part, area, look_.outsideColour);
 }
 
 void ViewRenderer::drawGrid(const Surface& surface, const Rect& area) const {

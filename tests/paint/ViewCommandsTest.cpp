@@ -34,6 +34,28 @@ TEST_F(ViewFixture, KeysZoomAtThePointerAndKeepItsTexel) {
     EXPECT_EQ(view.zoom(), 8);
 }
 
+TEST_F(ViewFixture, PixelsThatAreColoursShowWithoutAPalette) {
+    constexpr std::uint32_t kFace = 0xFF808080;
+    const struct {
+        std::uint16_t bits;
+        std::uint32_t value, shown;
+    } cases[] = {{4, 5, kFace},
+                 {8, 5, kFace},
+                 {12, 5, kFace},
+                 {16, 0x7C00, 0xFFFF0000},
+                 {24, 0x123456, 0xFF123456},
+                 {32, 0x123456, 0xFF123456}};
+    for (const auto& [bits, value, shown] : cases) {
+        document.canvas().Create(2, 2, 1, bits);
+        document.canvas().SetPixel(0, 0, value);
+        std::uint32_t pixel = 0;
+        Surface surface{&pixel, 1, 1, 1};
+        view.Paint(surface, {0, 0, 1, 1}, kFace);
+        EXPECT_EQ(pixel, shown) << bits;
+        EXPECT_EQ(view.showsNoPalette(), shown == kFace) << bits;
+    }
+}
+
 TEST_F(ViewFixture, RepaintsTheZoomedChangedRectangle) {
     view.runCommand(ID_ZOOM_X4);
     window.scroll = {6, 2};

@@ -140,18 +140,22 @@ TEST_P(ViewRendererCase, DrawsWhatASimplerRuleSays) {
 
 INSTANTIATE_TEST_SUITE_P(Zooms, ViewRendererCase, testing::Values(1, 2, 3, 4, 6, 8, 12, 16));
 
-TEST(ViewRenderer, ShowsNothingOfTheImageWithoutPaletteOrPixels) {
-    TextureCanvas canvas;
-    ASSERT_TRUE(canvas.Create(4, 4, 1, 4));
-    TextureCanvas flat;
-    ASSERT_TRUE(flat.Create(4, 0, 1, 4));
-    for (const bool noPalette : {true, false}) {
+TEST(ViewRenderer, ShowsNothingOfTheImageWithoutPalettePixelsOrColours) {
+    const struct {
+        std::int32_t height;
+        std::uint16_t bits;
+        bool noPalette;
+    } cases[] = {{4, 4, true}, {0, 4, false}, {4, 12, false}};
+    for (const auto& [height, bits, noPalette] : cases) {
+        TextureCanvas canvas;
+        ASSERT_TRUE(canvas.Create(4, height, 1, bits));
         std::vector<std::uint32_t> buffer(36, kUntouched);
         Surface surface{buffer.data(), 6, 6, 6};
         ViewLook look;
         look.noPalette = noPalette;
+        look.gridShown = false;
         look.outsideColour = kOutside;
-        ViewRenderer(noPalette ? canvas : flat, look).draw(surface, {0, 0, 6, 6});
+        ViewRenderer(canvas, look).draw(surface, {0, 0, 6, 6});
         EXPECT_EQ(buffer, std::vector<std::uint32_t>(36, kOutside));
     }
 }
