@@ -121,6 +121,8 @@ public:
     /// Selects the texels between two corners (inclusive), or nothing. With `redraw` the window shows it
     /// before the call returns.
     void SetSelection(const std::optional<Rect>& texels, bool redraw);
+    /// The selection is not dragged any more: a frame around too little to work with goes from the window.
+    void SelectingEnded();
 
     // The floating piece: texels that are shown inside the selection, scaled to it, and belong to no image
     // yet.

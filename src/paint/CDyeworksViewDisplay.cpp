@@ -64,8 +64,10 @@ void CDyeworksView::Paint(Surface& surface, const Rect& logicalArea, std::uint32
     const auto select = [&](const Rect& texels) {
         look.selection = {texels, floatingPiece_.get(), trackerStyle_, antsPhase_};
     };
-    // A piece that floats shows also after a tool that draws.
-    if (redrawRequest == 0 && (SelectionExists() || floatingPiece_ != nullptr))
+    // A piece that floats shows also after a tool that draws, and whatever is being selected is framed.
+    const bool selected =
+        SelectionExists() || floatingPiece_ != nullptr || (selecting() && selection_ != Rect{});
+    if (redrawRequest == 0 && selected)
         select(selection_);
     else if ((redrawRequest & kRedrawDrag) != 0)
         select(dragRectangle_);
@@ -84,7 +86,7 @@ void CDyeworksView::SetSelection(const std::optional<Rect>& texels, bool redraw)
         window_.stopTicking();
     if (redraw) {
         dragRectangle_ = selection_;
-        redrawRequest_ = {(existed ? kRedrawImage : 0) | (texels ? kRedrawDrag : 0),
+        redrawRequest_ = {(existed ? kRedrawImage : 0) | (shown ? kRedrawDrag : 0),
                           unionOf(areaOf(geometry(), before), areaOf(geometry(), selection_))};
         window_.invalidate(redrawRequest_.clientArea);
         window_.repaintNow();
@@ -93,6 +95,11 @@ void CDyeworksView::SetSelection(const std::optional<Rect>& texels, bool redraw)
     }
     if (shown)
         window_.startTicking(kAntsInterval);
+}
+
+void CDyeworksView::SelectingEnded() {
+    if (!SelectionExists())
+        window_.invalidate(areaOf(geometry(), selection_));
 }
 
 void CDyeworksView::Tick() {

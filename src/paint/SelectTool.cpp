@@ -103,6 +103,10 @@ bool SelectTool::cutPiece(bool leaveImage) {
     return true;
 }
 
+void SelectTool::release(Point /*texel*/, const PointerEvent& /*event*/) {
+    view().SelectingEnded();
+}
+
 void SelectTool::cancel() {
     if (cut_) {
         view().DropFloatingPiece();
@@ -110,6 +114,7 @@ void SelectTool::cancel() {
             document().Undo();
     }
     view().SetSelection(before_, true);
+    view().SelectingEnded();
 }
 
 } // namespace dyeworks
