@@ -196,6 +196,8 @@ TEST_F(PaletteBarWindow, TheDialogStartsWithWhatIsEditedAndWritesOnOk) {
         type(IDC_ENTRY, "1110");
         answerDialog(colours, 0x1110, 0xABCC, QDialog::Accepted);
         ASSERT_TRUE(run(ID_PALETTE_EDIT));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == &bar(); }));
+        EXPECT_TRUE(find<QLineEdit>(IDC_ENTRY).hasFocus());
         EXPECT_EQ(stored(9), 0xABCCU);
         EXPECT_EQ(seen(9), colours == ColourType::Rgba ? Rgb(168, 120, 48) : Rgb(0xAB, 0xAB, 0xAB));
         ASSERT_TRUE(run(ID_PALETTE_UNDO));

@@ -62,12 +62,14 @@ private:
     [[nodiscard]] std::vector<QWidget*> controlsOf(const QKeyEvent& key) const;
     bool pressLetter(const QKeyEvent& key);
     void pressEnter();
+    void takeKeysBack();
 
     PaletteBarHost& host_;
     CommandActions& actions_;
     CPaletteBarControls* controls_;
     QMenu* menu_;
     bool shown_ = true;
+    bool keysLent_ = false; ///< To dialogs that opened while the bar had the keys.
 };
 
 } // namespace dyeworks

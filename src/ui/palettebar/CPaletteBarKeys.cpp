@@ -2,6 +2,7 @@
 #include "ui/palettebar/CPaletteBar.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLabel>
@@ -36,7 +37,22 @@ bool CPaletteBar::event(QEvent* event) {
             return true;
         }
     }
+    // Window managers give the keys of a dialog that ends to the main window, whichever had them before.
+    if (event->type() == QEvent::WindowBlocked)
+        keysLent_ = keysLent_ || QApplication::activeWindow() == this;
+    else if (event->type() == QEvent::WindowUnblocked && keysLent_)
+        // Not before the dialog has gone from the screen.
+        QMetaObject::invokeMethod(this, &CPaletteBar::takeKeysBack, Qt::QueuedConnection);
     return QWidget::event(event);
+}
+
+void CPaletteBar::takeKeysBack() {
+    // Another dialog may have followed.
+    if (QApplication::activeModalWidget() != nullptr)
+        return;
+    keysLent_ = false;
+    if (isVisible())
+        activateWindow();
 }
 
 bool CPaletteBar::eventFilter(QObject* watched, QEvent* event) {
