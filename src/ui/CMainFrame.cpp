@@ -1,6 +1,7 @@
 #include "ui/CMainFrame.h"
 
 #include "framework/widgets/ChildFrame.h"
+#include "framework/widgets/ContextMenuKey.h"
 #include "framework/widgets/MenuBuilder.h"
 #include "framework/widgets/WidgetPlacement.h"
 #include "paint/BackgroundPicture.h"
@@ -67,6 +68,7 @@ CMainFrame::CMainFrame(CDyeworksApp& application)
     , printing_(*this) {
     setObjectName(QStringLiteral("IDR_MAINFRAME"));
     setAcceptDrops(true);
+    new ContextMenuKey(this);
     new BackgroundPainter(area(), BackgroundPicture::read(BackgroundPicture::kFileName));
     area().setWhatsThis(shown(StringId::HelpDocumentArea));
     describeCommands();

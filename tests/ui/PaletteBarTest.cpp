@@ -10,7 +10,6 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QClipboard>
-#include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -452,8 +451,7 @@ TEST_F(PaletteBarWindow, WithoutAPaletteOnlyTheTabsAreLeft) {
         return QToolTip::text().toStdString();
     };
     const auto menus = [this] {
-        QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(), bar().mapToGlobal(QPoint()));
-        QApplication::sendEvent(&bar(), &asked);
+        QTest::keyClick(&bar(), Qt::Key_F10, Qt::ShiftModifier);
         std::vector<std::string> items;
         if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
             EXPECT_EQ(menu->pos(), bar().mapToGlobal(QPoint(5, 5)));
@@ -477,6 +475,11 @@ TEST_F(PaletteBarWindow, WithoutAPaletteOnlyTheTabsAreLeft) {
         }
     }
     EXPECT_THAT(menus(), ElementsAre());
+    for (const QPushButton* button : bar().findChildren<QPushButton*>()) {
+        if (button->isVisible()) {
+            EXPECT_GT(4 * button->parentWidget()->height(), 3 * bar().height()) << "what it is the middle of";
+        }
+    }
 
     open(ColourType::Ia);
     QApplication::clipboard()->clear();

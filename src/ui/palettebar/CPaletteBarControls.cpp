@@ -86,6 +86,8 @@ void CPaletteBarControls::layoutChanged() {
     const bool any = state_.hasPalette();
     tabs_->setEnabled(any);
     emptyNotice_->setVisible(!any);
+    // Though it shows nothing then, it would take its share of the height.
+    static_cast<QBoxLayout*>(layout())->setStretchFactor(body_, any ? 1 : 0);
     gridArea_->setVisible(any);
     fields_->setVisible(any);
     stripRow_->setVisible(state_.stripVisible());
