@@ -51,12 +51,20 @@ void CDyeworksDoc::Attach() {
 }
 
 void CDyeworksDoc::RefreshPalette() {
+    refreshPalette(false);
+}
+
+void CDyeworksDoc::RefreshOwnPalette() {
+    refreshPalette(true);
+}
+
+void CDyeworksDoc::refreshPalette(bool ofAnyPalette) {
     PaletteSet* const set = host_.paletteSet();
     if (!attachedName_.empty() && set != nullptr) {
         const TextureLookupTable* const palette = set->lookup(attachedName_);
         if (palette == nullptr)
             attachedName_.clear();
-        else if (attachedName_ == set->currentKey)
+        else if (ofAnyPalette || attachedName_ == set->currentKey)
             canvas_.ApplyPalette(*palette, firstEntryFor(*palette));
         UpdateTitle();
     }

@@ -96,6 +96,8 @@ public:
     /// Takes the colours of the attached palette if that is the current one, detaches from a palette that is
     /// no longer open, and redraws all views.
     void RefreshPalette();
+    /// The same, whether or not the attached palette is the current one.
+    void RefreshOwnPalette();
     /// Shows the colours of `palette`, which may be a passing copy, if it goes by the attached name (compared
     /// without regard to case), and redraws all views.
     void PaletteChanged(const std::string& name, const TextureLookupTable* palette);
@@ -176,6 +178,7 @@ private:
     void takeBackDrags();
     void dropSelections();
     void followHistory();
+    void refreshPalette(bool ofAnyPalette);
     [[nodiscard]] std::int32_t firstEntryFor(const TextureLookupTable& palette) const;
     [[nodiscard]] const std::string& nameWithoutParts() const;
     [[nodiscard]] TlutData* attachedTable() const;

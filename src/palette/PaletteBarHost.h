@@ -29,8 +29,10 @@ public:
     virtual void setActivePaletteValue(std::int32_t firstEntry) = 0;
     /// Recolours the images that are attached to `key` with `palette`, which may be a passing copy.
     virtual void BroadcastPaletteChange(const std::string& key, const TextureLookupTable& palette) = 0;
-    /// Lets every image take the stored colours of its palette.
+    /// Lets every image of the current palette take its stored colours.
     virtual void RefreshImagePalettes() = 0;
+    /// Lets every image take the stored colours of its palette: the view mode is that of all of them.
+    virtual void RefreshAllImages() = 0;
 };
 
 /// Shows what `PaletteBarState` says. It is told once per action what to read anew.

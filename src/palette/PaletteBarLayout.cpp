@@ -189,7 +189,7 @@ void PaletteBarState::ViewModeChosen(ViewMode mode) {
     RefreshFromPalette();
     if (PaletteSet* const set = host_.paletteSet())
         set->alphaView = static_cast<std::int32_t>(mode);
-    host_.RefreshImagePalettes();
+    host_.RefreshAllImages();
 }
 
 void PaletteBarState::SelectCell(std::int32_t cell) {

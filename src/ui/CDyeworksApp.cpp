@@ -133,6 +133,11 @@ void CDyeworksApp::RefreshImagePalettes() {
         image->RefreshPalette();
 }
 
+void CDyeworksApp::RefreshAllImages() {
+    for (CDyeworksDoc* image : imageDocuments())
+        image->RefreshOwnPalette();
+}
+
 void CDyeworksApp::BroadcastPaletteChange(const std::string& key, const TextureLookupTable& palette) {
     for (CDyeworksDoc* image : imageDocuments())
         image->PaletteChanged(key, &palette);

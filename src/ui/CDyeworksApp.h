@@ -93,6 +93,8 @@ public:
 
     /// Makes every image take its palette's colours anew. Called after palettes change.
     void RefreshImagePalettes() override;
+    /// The same, of images of other palettes than the current one, too.
+    void RefreshAllImages() override;
     /// Shows the colours of `palette`, which may be a passing copy, in every image attached to that key.
     void BroadcastPaletteChange(const std::string& key, const TextureLookupTable& palette) override;
     /// Closes the images and palettes of these paths that are open. Unless `force` is set, asks once before

@@ -69,6 +69,15 @@ TEST_F(DocFixture, ColoursOfAPaletteThatTheBarHasLeftComeFromTheImagesOwnBank) {
     host.firstEntry = 0;
     document.PaletteChanged(document.attachedName(), &palette);
     EXPECT_TRUE(std::ranges::equal(document.canvas().colourTable(), colours));
+
+    for (std::int32_t i = 0; i < 256; ++i)
+        palette.table.setRed(i, 7);
+    document.RefreshPalette();
+    EXPECT_TRUE(std::ranges::equal(document.canvas().colourTable(), colours))
+        << "of the current palette only";
+    document.RefreshOwnPalette();
+    EXPECT_EQ(document.canvas().colourTable()[2], 56);
+    EXPECT_EQ(document.canvas().colourTable()[1], colours[1]) << "from the same bank";
 }
 
 } // namespace

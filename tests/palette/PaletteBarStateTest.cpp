@@ -105,6 +105,11 @@ protected:
             BroadcastPaletteChange(set_.currentKey, palette());
     }
 
+    void RefreshAllImages() override {
+        for (const auto& [key, palette] : set_.palettes)
+            BroadcastPaletteChange(key, *palette);
+    }
+
     // PaletteBarView
     void valuesChanged() override { ++read_[0]; }
     void layoutChanged() override { ++read_[1]; }

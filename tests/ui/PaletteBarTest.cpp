@@ -413,6 +413,7 @@ TEST_F(PaletteBarWindow, TheViewModeIsThatOfTheImages) {
     find<QRadioButton>(IDC_VIEW_ALPHA).click();
     EXPECT_EQ(app_.paletteSet()->alphaView, 1);
     EXPECT_EQ(seen(5), Rgb(0xA0, 0xA0, 0xA0));
+    ASSERT_TRUE(app_.paletteSet()->newPalette(16, ColourType::Ia, 0)) << "the image is attached to another";
     find<QRadioButton>(IDC_VIEW_RGB).click();
     EXPECT_EQ(seen(5), Rgb(0x30, 0x30, 0x30));
 }
