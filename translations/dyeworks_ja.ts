@@ -1724,5 +1724,13 @@ The program does not know what folder drive %2 stands for. Start it once with
 --drive %2=フォルダー
 を付けて起動してください。</translation>
     </message>
+    <message>
+        <source>It has unsaved changes.</source>
+        <translation>保存していない変更があります。</translation>
+    </message>
+    <message>
+        <source>%1, unsaved changes</source>
+        <translation>%1、保存していない変更あり</translation>
+    </message>
 </context>
 </TS>

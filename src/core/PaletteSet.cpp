@@ -116,7 +116,7 @@ bool PaletteSet::savePalette(const PaletteKey& key, bool refresh) {
     if (palette == nullptr || !palette->save(key.value().c_str(), false))
         return false;
     if (refresh)
-        rekey(key, true);
+        afterSaving(key);
     return true;
 }
 
@@ -125,7 +125,7 @@ bool PaletteSet::savePaletteAs(const PaletteKey& key, bool refresh) {
     if (palette == nullptr || !palette->save(nullptr, true))
         return false;
     if (refresh)
-        rekey(key, true);
+        afterSaving(key);
     return true;
 }
 
@@ -134,7 +134,7 @@ bool PaletteSet::queryClose(const PaletteKey& key, bool refresh) {
     if (palette == nullptr || !palette->querySave())
         return false;
     if (refresh)
-        rekey(key, true);
+        afterSaving(key);
     return true;
 }
 
@@ -204,6 +204,16 @@ void PaletteSet::refreshViews() {
     listener_->currentPaletteChanged();
 }
 
+void PaletteSet::entriesChanged(const TextureLookupTable& palette) {
+    if (listener_ == nullptr)
+        return;
+    const auto current = palettes.find(currentKey);
+    if (current != palettes.end() && current->second.get() == &palette)
+        listener_->currentPaletteChanged();
+    else
+        listener_->titlesChanged();
+}
+
 PaletteSet::Map::iterator PaletteSet::insertUnderFreeKey(std::unique_ptr<TextureLookupTable> palette) {
     const std::string base = TextureLookupTable::keyFor(palette->path);
     std::string key = base;
@@ -216,6 +226,12 @@ PaletteSet::Map::iterator PaletteSet::insertUnderFreeKey(std::unique_ptr<Texture
 void PaletteSet::tabsChanged() {
     if (listener_ != nullptr)
         listener_->tabsChanged();
+}
+
+/// In place, too, the title loses its mark.
+void PaletteSet::afterSaving(const PaletteKey& key) {
+    if (!rekey(key, true) && listener_ != nullptr)
+        listener_->titlesChanged();
 }
 
 PaletteSet* applicationPaletteSet() {

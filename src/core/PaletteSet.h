@@ -82,6 +82,8 @@ public:
     bool getTitle(const PaletteKey& key, std::string& title);
 
     void refreshViews();
+    /// To be called when somebody else than the palette bar has changed the entries of a palette of the set.
+    void entriesChanged(const TextureLookupTable& palette);
 
     std::string currentKey;
     Map palettes;
@@ -90,6 +92,7 @@ public:
 private:
     Map::iterator insertUnderFreeKey(std::unique_ptr<TextureLookupTable> palette);
     void tabsChanged();
+    void afterSaving(const PaletteKey& key);
 
     PaletteSetListener* listener_;
 };

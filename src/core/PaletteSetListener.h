@@ -11,6 +11,8 @@ public:
     virtual void tabsChanged() = 0;
     /// The controls must show the current palette anew.
     virtual void currentPaletteChanged() = 0;
+    /// A palette was saved or changed: its title, and whether it has unsaved changes, are to be read anew.
+    virtual void titlesChanged() = 0;
 };
 
 } // namespace dyeworks

@@ -5,9 +5,7 @@
 #include "core/Report.h"
 #include "platform/Platform.h"
 
-#include <algorithm>
 #include <new>
-#include <span>
 #include <utility>
 
 namespace dyeworks {
@@ -220,8 +218,17 @@ bool TextureLookupTable::createPalette(DisplayPalette& palette) const {
     return description && palette.create(*description);
 }
 
+bool TextureLookupTable::hasUnsavedChanges() const {
+    return modified || !standsAtSavedPosition() || !holdsWhatTheFileHolds();
+}
+
+void TextureLookupTable::markUnsaved() {
+    modified = true;
+    savedPosition_ = kUnreachable;
+}
+
 bool TextureLookupTable::querySave() {
-    if (!modified && standsAtSavedPosition() && holdsWhatTheFileHolds())
+    if (!hasUnsavedChanges())
         return true;
     switch (
         applicationMessage("\"" + title + "\" (TLF) is modified. save now?", MessageButtons::YesNoCancel)) {
@@ -324,11 +331,7 @@ bool TextureLookupTable::standsAtSavedPosition() const {
 
 /// A palette that was never saved or opened has no file to differ from.
 bool TextureLookupTable::holdsWhatTheFileHolds() const {
-    if (!savedTable_)
-        return true;
-    const std::span mine(table.entries, static_cast<std::size_t>(table.count));
-    const std::span theirs(savedTable_->entries, static_cast<std::size_t>(savedTable_->count));
-    return table.colourType == savedTable_->colourType && std::ranges::equal(mine, theirs);
+    return !savedTable_ || *savedTable_ == table;
 }
 
 void TextureLookupTable::markSaved() {

@@ -61,10 +61,15 @@ public:
     /// Makes `palette` show the entries' display colours.
     bool createPalette(DisplayPalette& palette) const;
 
-    /// Asks whether to save when the palette is modified, or its history stands elsewhere than at the last
-    /// save, or the table is not what its file holds. True: the caller may go on, the palette being saved or
-    /// not to be saved.
+    /// The palette is modified, or its history stands elsewhere than at the last save, or the table is not
+    /// what its file holds.
+    [[nodiscard]] bool hasUnsavedChanges() const;
+    /// Asks whether to save when there are unsaved changes. True: the caller may go on, the palette being
+    /// saved or not to be saved.
     bool querySave();
+    /// What the palette holds is in no file: until it is saved it has unsaved changes, wherever its history
+    /// stands.
+    void markUnsaved();
 
     /// Bracket every undoable edit. `beginEdit` keeps the table as it is: false when there is no memory for
     /// that. `commitEdit` records what became of it: false without a history, and when there is no memory for

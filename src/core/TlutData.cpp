@@ -183,6 +183,14 @@ bool TlutData::setEntry(std::int32_t index, std::uint16_t entry) {
     return true;
 }
 
+bool TlutData::operator==(const TlutData& other) const {
+    if (colourType != other.colourType || count != other.count)
+        return false;
+    if (entries == nullptr || other.entries == nullptr)
+        return entries == other.entries;
+    return std::equal(entries, entries + count, other.entries);
+}
+
 std::int32_t TlutData::copyEntriesFrom(const TlutData* source) {
     if (source == nullptr || source->entries == nullptr || entries == nullptr)
         return 0;

@@ -45,6 +45,9 @@ struct TlutData {
     bool setAlpha(std::int32_t index, std::int32_t value);
     bool setEntry(std::int32_t index, std::uint16_t entry);
 
+    /// Whether both hold the same entries of the same colour type.
+    [[nodiscard]] bool operator==(const TlutData& other) const;
+
     /// Copies the first min(count, source's count) entries and answers how many; 0 when there is no source
     /// or either record has no entries. Colour types are not compared.
     std::int32_t copyEntriesFrom(const TlutData* source);

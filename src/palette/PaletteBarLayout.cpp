@@ -37,7 +37,7 @@ void PaletteBarState::RefreshFromPalette() {
     if (!initialised())
         return;
     const Change change(*this, Change::kValues);
-    readTitles();
+    ReadTitles();
     layOut();
     takeUpBank();
     grid_->setBankMode(inBankMode());
@@ -53,9 +53,13 @@ void PaletteBarState::layOut() {
     const TextureLookupTable* const palette = currentPalette();
     const std::int32_t count = palette == nullptr ? 0 : palette->table.count;
     const std::int32_t side = count == kLargePalette ? kLargeSide : count > 0 ? kSmallSide : 0;
-    const Change change(*this, side == columns_ ? 0U : Change::kLayout);
+    const ColourType type = palette == nullptr ? shownType_ : palette->table.colourType;
+    const Change change(*this, side == columns_ && type == shownType_ ? 0U : Change::kLayout);
     columns_ = side;
     rows_ = side;
+    // An import, and its undoing, may make another kind of a palette.
+    if (std::exchange(shownType_, type) != type)
+        FillStrip();
 }
 
 /// The bank that the active image shows; nothing when it shows the whole palette.
@@ -145,21 +149,21 @@ void PaletteBarState::RebuildTabs(const std::vector<std::string>& keys) {
     const Change change(*this, Change::kTabs);
     tabs_.clear();
     for (const std::string& key : keys)
-        tabs_.push_back({key, {}});
-    readTitles();
+        tabs_.push_back({key, {}, false});
+    ReadTitles();
     ConfigureChannels();
 }
 
-/// An edit, its undoing and saving change how a palette's title is marked.
-void PaletteBarState::readTitles() {
+void PaletteBarState::ReadTitles() {
     PaletteSet* const set = host_.paletteSet();
     if (set == nullptr)
         return;
     for (Tab& tab : tabs_) {
-        std::string title;
-        set->getTitle(std::as_const(tab.key), title);
-        const Change change(*this, title == tab.title ? 0U : Change::kTabs);
-        tab.title = std::move(title);
+        Tab now{tab.key, {}, false};
+        if (const TextureLookupTable* const palette = set->lookup(std::as_const(tab.key)))
+            now = {tab.key, palette->title, palette->hasUnsavedChanges()};
+        const Change change(*this, now == tab ? 0U : Change::kTabs);
+        tab = std::move(now);
     }
 }
 
@@ -291,7 +295,11 @@ std::string PaletteBarState::cellTip(std::int32_t cell) const {
 
 std::string PaletteBarState::tabTip(std::int32_t index) const {
     const bool exists = index >= 0 && static_cast<std::size_t>(index) < tabs_.size();
-    return tip(exists ? displayPath(tabs_[static_cast<std::size_t>(index)].key) : std::string());
+    if (!exists)
+        return tip({});
+    const Tab& tab = tabs_[static_cast<std::size_t>(index)];
+    const std::string key = tip(displayPath(tab.key));
+    return tab.unsaved ? key + "\n" + text(StringId::PaletteUnsaved) : key;
 }
 
 } // namespace dyeworks

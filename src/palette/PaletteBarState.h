@@ -42,6 +42,9 @@ public:
     struct Tab {
         std::string key;
         std::string title;
+        bool unsaved = false; ///< Closing the palette would ask.
+
+        bool operator==(const Tab&) const = default;
     };
 
     PaletteBarState(PaletteBarHost& host, PaletteBarView& view);
@@ -59,6 +62,9 @@ public:
     void ImageChanged();
     void ConfigureChannels();
     void RebuildTabs(const std::vector<std::string>& keys);
+    /// Titles, and which palettes are unsaved, may be others now: an edit, its undoing and saving change
+    /// them.
+    void ReadTitles();
     /// Selects a cell. One beyond the grid selects the last; without a palette, the cell is selected when one
     /// is opened.
     void SelectCell(std::int32_t cell);
@@ -135,7 +141,8 @@ public:
     [[nodiscard]] std::uint16_t stripLeft() const noexcept { return stripLeft_; }
     [[nodiscard]] std::uint16_t stripRight() const noexcept { return stripRight_; }
 
-    // Tips, at most 127 characters long. Without a palette each is a notice that none is open.
+    // Tips, at most 127 characters long but for a second line. Without a palette each is a notice that none
+    // is open.
     [[nodiscard]] std::string tip(std::string_view own) const;
     [[nodiscard]] std::string cellTip(std::int32_t cell) const;
     [[nodiscard]] std::string tabTip(std::int32_t index) const;
@@ -161,7 +168,6 @@ private:
     void takeUpBank();
     void fillGrid();
     void keepCellInGrid();
-    void readTitles();
     void storeBank();
     void takeEnd(std::uint16_t& end);
     void showPreview();
@@ -180,6 +186,7 @@ private:
     std::int32_t bankSize_ = 0;
     std::int32_t paletteNumber_ = 0;
     std::int32_t awaitedCell_ = PaletteGrid::kNowhere; ///< Selected while there was no palette.
+    ColourType shownType_ = ColourType::Rgba;          ///< That the controls are laid out for.
     std::vector<Tab> tabs_;
 
     ViewMode viewMode_ = ViewMode::Rgb;

@@ -40,6 +40,8 @@ enum class StringId {
     BarPalette,
     NoPaletteOpen,
     OpenPalettes,
+    PaletteUnsaved,
+    PaletteTabUnsaved, ///< %1 title
     PaletteColours,
     PaletteBank,
     PaletteBankTip,

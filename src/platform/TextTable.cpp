@@ -59,6 +59,8 @@ constexpr std::array kRows{
     Row{StringId::BarPalette, QT_TRANSLATE_NOOP("Text", "Palette")},
     Row{StringId::NoPaletteOpen, QT_TRANSLATE_NOOP("Text", "No palette is open.")},
     Row{StringId::OpenPalettes, QT_TRANSLATE_NOOP("Text", "Open palettes")},
+    Row{StringId::PaletteUnsaved, QT_TRANSLATE_NOOP("Text", "It has unsaved changes.")},
+    Row{StringId::PaletteTabUnsaved, QT_TRANSLATE_NOOP("Text", "%1, unsaved changes")},
     Row{StringId::PaletteColours, QT_TRANSLATE_NOOP("Text", "Palette colours")},
     Row{StringId::PaletteBank, QT_TRANSLATE_NOOP("Text", "Ban&k")},
     Row{StringId::PaletteBankTip,

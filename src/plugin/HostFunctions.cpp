@@ -280,6 +280,7 @@ std::uint32_t DW_setTLF(const char* name, const ::TlutData* table) {
             return 0;
         palette->commitEdit();
         palette->modified = true;
+        paletteSet()->entriesChanged(*palette);
         return 1;
     }
     const std::optional<std::string> path = paletteFile(name);

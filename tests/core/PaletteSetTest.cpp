@@ -9,6 +9,7 @@ class Palettes : public testing::Test, protected PaletteSetListener {
 protected:
     void tabsChanged() override { calls_ += 't'; }
     void currentPaletteChanged() override { calls_ += 'c'; }
+    void titlesChanged() override { calls_ += 's'; }
 
     /// Opens files with palettes whose first entries are 1, 2, 3 …
     void open(std::initializer_list<const char*> paths) {
@@ -21,7 +22,7 @@ protected:
         calls_.clear();
     }
     /// The keys, ">" before the current one, and behind them what the listener was told since the last time:
-    /// t for the tabs, c for the current palette.
+    /// t for the tabs, c for the current palette, s for titles after saving or a change.
     std::string state() {
         std::vector<std::string> keys{"left over"};
         const std::int32_t count = set.listKeys(keys);
@@ -115,7 +116,7 @@ TEST_F(PaletteSetRekey, SavingUnderANewNameMovesThePaletteAndTheCallersKey) {
     key = "c:\\b";
     fake.dialogs.answerWith("c:\\d");
     EXPECT_TRUE(set.savePaletteAs(key, true));
-    EXPECT_EQ(key + " | " + state(), "c:\\d | c:\\a >c:\\d t");
+    EXPECT_EQ(key + " | " + state(), "c:\\d | c:\\a >c:\\d st") << "saved in place, then elsewhere";
     EXPECT_TRUE(set.savePalette("c:\\none", false)) << "falls back to the current one";
     EXPECT_FALSE(set.savePaletteAs("c:\\none", false));
     EXPECT_EQ(fake.dialogs.shown.size(), 3U);

@@ -538,8 +538,10 @@ TEST_F(PaletteBar, TellsTheViewOncePerAction) {
         return read_;
     };
     EXPECT_THAT(count([this] { bar_.SliderMoved(Channel::Red, 9); }), ElementsAre(1, 0, 0));
-    EXPECT_THAT(count([this] { bar_.Apply(); }), ElementsAre(1, 0, 0));
-    EXPECT_THAT(count([this] { bar_.Undo(); }), ElementsAre(1, 0, 0));
+    EXPECT_THAT(count([this] { bar_.Apply(); }), ElementsAre(1, 0, 1)) << "unsaved";
+    EXPECT_THAT(count([this] { bar_.Undo(); }), ElementsAre(1, 0, 1));
+    ASSERT_TRUE(palette().table.create(256, ColourType::Rgba));
+    EXPECT_THAT(count([this] { bar_.RefreshFromPalette(); }), ElementsAre(1, 1, 0)) << "of another kind now";
     EXPECT_THAT(count([this] { bar_.TabChosen(0); }), ElementsAre(1, 1, 1));
 }
 

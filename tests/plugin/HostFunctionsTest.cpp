@@ -13,7 +13,7 @@
 namespace dyeworks {
 namespace {
 
-class HostFunctions : public ProjectFixture, public PlugInHost {
+class HostFunctions : public ProjectFixture, public PlugInHost, protected PaletteSetListener {
 protected:
     HostFunctions() { setPlugInHost(this); }
     ~HostFunctions() override { setPlugInHost(nullptr); }
@@ -25,6 +25,10 @@ protected:
     void showAbout() override { ++abouts_; }
     void tellPlugInFailed(const std::string& /*fileName*/) override {}
 
+    void tabsChanged() override {}
+    void currentPaletteChanged() override { bar_ += palettes_.lookup("")->hasUnsavedChanges() ? 'c' : '-'; }
+    void titlesChanged() override { bar_ += 't'; }
+
     void openPictures(const std::vector<std::string>& names) {
         ProjectFixture::openPictures(names);
         open_ = &document_;
@@ -33,6 +37,7 @@ protected:
     CTPFDocument* open_ = nullptr;
     mutable PaletteSet palettes_;
     int abouts_ = 0;
+    std::string bar_; ///< What the palette bar was told.
 };
 
 TEST_F(HostFunctions, DoNothingWithoutAProjectAndOnAnotherThread) {
@@ -135,9 +140,17 @@ TEST_F(HostFunctions, HandOutCopiesAndTakeOnlyWhatCanBeUsed) {
     ASSERT_NE(table, nullptr);
     table->entries[3] = 0x1234;
     EXPECT_NE(palettes_.lookup("")->table.getEntry(3), 0x1234);
+    const std::string key = palettes_.currentKey;
+    palettes_.setListener(this);
     EXPECT_EQ(DW_setTLF("", table.get()), 1U);
     EXPECT_EQ(palettes_.lookup("")->table.getEntry(3), 0x1234);
     EXPECT_TRUE(palettes_.lookup("")->canUndo());
+    EXPECT_EQ(std::exchange(bar_, {}), "c");
+    ASSERT_TRUE(palettes_.newPalette(16, ColourType::Rgba, 1));
+    bar_.clear();
+    EXPECT_EQ(DW_setTLF(key.c_str(), table.get()), 1U);
+    EXPECT_EQ(bar_, "t") << "another palette's entries are not on view";
+    palettes_.setListener(nullptr);
     EXPECT_EQ(DW_setTLF("new.tlf", table.get()), 0U) << "only files that are there are written";
     fake_.files.putFile("c:\\p\\new.tlf", "");
     EXPECT_EQ(DW_setTLF("new.tlf", table.get()), 1U);

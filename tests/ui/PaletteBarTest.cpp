@@ -434,12 +434,26 @@ TEST_F(PaletteBarWindow, TabsNameThePalettesAndChooseTheCurrentOne) {
     EXPECT_EQ(tabs.currentIndex(), 1);
     EXPECT_EQ(find<CSwatchGrid>(IDC_PALETTE_GRID).cellCount(), 16);
     EXPECT_EQ(app_.paletteBarCell(), 15);
+    // Text and sign of unsaved changes.
+    const auto second = [&tabs] {
+        const bool told = tabs.tabToolTip(1).endsWith(QStringLiteral("\nIt has unsaved changes."));
+        EXPECT_EQ(tabs.accessibleTabName(1).endsWith(QStringLiteral(", unsaved changes")), told);
+        EXPECT_EQ(!tabs.tabIcon(1).isNull(), told);
+        return tabs.tabText(1).toStdString() + (told ? "|unsaved" : "");
+    };
+    EXPECT_EQ(second(), "b&&b");
     type(IDC_RED, "9");
     apply();
-    ASSERT_TRUE(run(ID_PALETTE_UNDO) && run(ID_PALETTE_REDO));
-    EXPECT_EQ(tabs.tabText(1), QStringLiteral("b&&b * "));
+    EXPECT_EQ(second(), "b&&b|unsaved");
     ASSERT_TRUE(run(ID_PALETTE_UNDO));
-    EXPECT_EQ(tabs.tabText(1), QStringLiteral("b&&b"));
+    EXPECT_EQ(second(), "b&&b");
+    ASSERT_TRUE(run(ID_PALETTE_REDO));
+    EXPECT_EQ(second(), "b&&b * |unsaved");
+    ASSERT_TRUE(run(ID_PALETTE_SAVE));
+    EXPECT_EQ(second(), "b&&b");
+    ASSERT_TRUE(run(ID_PALETTE_UNDO));
+    EXPECT_EQ(second(), "b&&b|unsaved") << "the file holds what was taken back";
+    fake_.messages.answerWith(MessageAnswer::No);
     ASSERT_TRUE(run(ID_PALETTE_CLOSE));
     EXPECT_EQ(tabs.count(), 1);
 }

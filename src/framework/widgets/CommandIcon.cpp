@@ -36,8 +36,9 @@ constexpr float kPlateOpacity = 0.25F;
 
 class SvgIconEngine : public QIconEngine {
 public:
-    explicit SvgIconEngine(const QString& name)
-        : name_(name) {}
+    SvgIconEngine(const QString& name, bool isButton)
+        : name_(name)
+        , isButton_(isButton) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
         const QColor text = textColour(mode);
@@ -47,7 +48,7 @@ public:
         const int side = std::min(rect.width(), rect.height());
         const QRectF square(rect.x() + (rect.width() - side) / 2, rect.y() + (rect.height() - side) / 2, side,
                             side);
-        if (state == QIcon::On && isLight(text))
+        if (isButton_ && state == QIcon::On && isLight(text))
             drawPlate(*painter, square, text);
         if (mode != QIcon::Disabled) {
             renderer.render(painter, square);
@@ -131,15 +132,22 @@ private:
     }
 
     QString name_;
+    bool isButton_;
 };
+
+QIcon drawnIcon(const QString& name, bool isButton) {
+    initializeIcons();
+    return QIcon(new SvgIconEngine(name, isButton));
+}
 
 } // namespace
 
 QIcon commandIcon(const QString& name) {
-    if (name.isEmpty())
-        return {};
-    initializeIcons();
-    return QIcon(new SvgIconEngine(name));
+    return name.isEmpty() ? QIcon() : drawnIcon(name, true);
+}
+
+QIcon signIcon(const QString& name) {
+    return drawnIcon(name, false);
 }
 
 } // namespace dyeworks

@@ -10,4 +10,7 @@ namespace dyeworks {
 /// name gives an empty icon.
 QIcon commandIcon(const QString& name);
 
+/// The same of a sign that stands beside a text: it looks alike where that is chosen.
+QIcon signIcon(const QString& name);
+
 } // namespace dyeworks

@@ -28,6 +28,7 @@ public:
 
     void tabsChanged() override;
     void currentPaletteChanged() override { RefreshFromPalette(); }
+    void titlesChanged() override { controls_->state().ReadTitles(); }
 
     void RefreshFromPalette() { controls_->state().RefreshFromPalette(); }
     /// The active image may be attached otherwise now.

@@ -1,6 +1,7 @@
 #include "ui/palettebar/CPaletteBarControls.h"
 
 #include "framework/widgets/CommandActions.h"
+#include "framework/widgets/CommandIcon.h"
 #include "framework/widgets/IntegerField.h"
 #include "ui/controls/CSwatchGrid.h"
 #include "ui/palettebar/CPaletteBarChannel.h"
@@ -108,9 +109,12 @@ void CPaletteBarControls::tabsChanged() {
     while (tabs_->count() < count)
         tabs_->addTab(QString());
     for (int i = 0; i < count; ++i) {
-        const QString title = QString::fromStdString(tabs[static_cast<std::size_t>(i)].title);
+        const PaletteBarState::Tab& tab = tabs[static_cast<std::size_t>(i)];
+        const QString title = QString::fromStdString(tab.title);
         tabs_->setTabText(i, QString(title).replace(QLatin1Char('&'), QStringLiteral("&&")));
         tabs_->setTabToolTip(i, QString::fromStdString(state_.tabTip(i)));
+        tabs_->setTabIcon(i, tab.unsaved ? signIcon(QStringLiteral("unsaved")) : QIcon());
+        tabs_->setAccessibleTabName(i, tab.unsaved ? shown(StringId::PaletteTabUnsaved, {tab.title}) : title);
     }
     tabs_->setCurrentIndex(state_.currentTab());
     // Hidden, the tab bar keeps a new height to itself.

@@ -74,6 +74,9 @@ void CPaletteBarControls::makeTabs() {
     tabs_->setDrawBase(true);
     tabs_->setUsesScrollButtons(true);
     tabs_->setElideMode(Qt::ElideNone);
+    // No higher than the text, so that the bar keeps its height when a palette is edited.
+    const int dot = fontMetrics().ascent();
+    tabs_->setIconSize({dot, dot});
     connect(tabs_, &QTabBar::currentChanged, this, [this](int index) { state_.TabChosen(index); });
 }
 
