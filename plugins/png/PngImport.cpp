@@ -193,7 +193,8 @@ private:
     std::vector<std::uint32_t> counts_;
 };
 
-/// The current palette, or black, with the new entries in the place of the image's own.
+/// The current palette with the new entries in the place of the image's own. Entries that neither has are
+/// black.
 PaletteRecord paletteOf(const std::vector<std::uint16_t>& entries, std::uint32_t colourType,
                         const PlugInPicture& current) {
     const bool isSmall = current.image->bits == 4;
@@ -203,10 +204,10 @@ PaletteRecord paletteOf(const std::vector<std::uint16_t>& entries, std::uint32_t
         return palette;
     const bool isBank = isSmall && current.paletteNumber >= 0 && current.paletteNumber <= palette->count - 16;
     const std::int32_t first = isBank ? current.paletteNumber : 0;
-    if (isSmall && before > 0)
-        std::copy_n(current.palette->entries, before, palette->entries);
-    std::fill_n(palette->entries + first, isSmall ? 16 : 256,
+    std::fill_n(palette->entries, palette->count,
                 colourType == DW_COLOUR_IA ? std::uint16_t{0xFF} : std::uint16_t{1});
+    if (before > 0)
+        std::copy_n(current.palette->entries, std::min(before, palette->count), palette->entries);
     std::ranges::copy(entries, palette->entries + first);
     return palette;
 }

@@ -1,6 +1,7 @@
 #include "core/PaletteUndoRecord.h"
 
 #include <new>
+#include <utility>
 
 namespace dyeworks {
 
@@ -15,9 +16,16 @@ std::unique_ptr<TlutData> copyOf(const TlutData* table) {
     return copy;
 }
 
-bool putState(const TlutData* state, void* target) {
-    auto* const table = static_cast<TlutData*>(target);
+bool putEntries(const TlutData* state, TlutData* table) {
     return table != nullptr && table->copyEntriesFrom(state) > 0;
+}
+
+bool putWhole(const TlutData& state, TlutData* table) {
+    TlutData copy(state);
+    if (table == nullptr || copy.entries == nullptr)
+        return false;
+    *table = std::move(copy);
+    return table->count > 0;
 }
 
 } // namespace
@@ -27,11 +35,17 @@ PaletteUndoRecord::PaletteUndoRecord(const TlutData* beforeEdit, const TlutData*
     , after(copyOf(afterEdit)) {}
 
 bool PaletteUndoRecord::undo(void* target) {
-    return putState(before.get(), target);
+    auto* const table = static_cast<TlutData*>(target);
+    return changesKind() ? putWhole(*before, table) : putEntries(before.get(), table);
 }
 
 bool PaletteUndoRecord::redo(void* target) {
-    return putState(after.get(), target);
+    auto* const table = static_cast<TlutData*>(target);
+    return changesKind() ? putWhole(*after, table) : putEntries(after.get(), table);
+}
+
+bool PaletteUndoRecord::changesKind() const {
+    return before && after && (before->count != after->count || before->colourType != after->colourType);
 }
 
 std::unique_ptr<UndoRecord> PaletteUndoRecord::inverse() const {

@@ -20,6 +20,11 @@ public:
 
     std::unique_ptr<TlutData> before;
     std::unique_ptr<TlutData> after;
+
+private:
+    /// The edit gave the table another size or colour type, as an import may; entries alone would not bring
+    /// that back.
+    [[nodiscard]] bool changesKind() const;
 };
 
 } // namespace dyeworks

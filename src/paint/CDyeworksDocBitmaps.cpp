@@ -40,6 +40,7 @@ void CDyeworksDoc::makePaletteOfColours() {
             palette->setBlue(entry, colour[0] >> 3);
             palette->setAlpha(entry, colour[3] >> 3);
         }
+        palette->markUnsaved();
     }
     host_.refreshPaletteBar();
 }

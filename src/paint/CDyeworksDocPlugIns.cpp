@@ -83,7 +83,8 @@ void CDyeworksDoc::ImportThrough(std::int32_t plugIn) {
         savedPosition_ = kUnreachable;
     if (!IsAttached())
         Attach();
-    RefreshPalette();
+    // The plug-in may have changed it while the bar shows another one.
+    RefreshOwnPalette();
 
     CDyeworksView* const view = host_.activeView();
     if (brought == nullptr || view == nullptr)

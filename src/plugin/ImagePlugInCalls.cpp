@@ -7,6 +7,8 @@
 #include "plugin/GuardedCall.h"
 #include "plugin/PlugInRecords.h"
 
+#include <algorithm>
+#include <memory>
 #include <new>
 #include <optional>
 #include <utility>
@@ -58,6 +60,47 @@ private:
     ::TlutData palette_{};
 };
 
+/// Makes what an import does to the table of an open palette one step of that palette.
+class ImportStep {
+public:
+    /// `table` may be null, or in no palette, and then there is no step. Both must outlive the step.
+    ImportStep(PaletteSet& set, const TlutData* table)
+        : table_(table) {
+        const auto isOwner = [&](const auto& each) { return &each.second->table == table; };
+        const auto owner = std::ranges::find_if(set.palettes, isOwner);
+        if (owner == set.palettes.end())
+            return;
+        before_ = *table;
+        // Without memory for it there is nothing to go back to.
+        if (before_.count != table->count)
+            return;
+        palette_ = owner->second.get();
+        position_ = palette_->history->position();
+    }
+
+    /// Called when the plug-in has come back. What it changed through the program is a step already.
+    void comeBack() {
+        if (palette_ != nullptr && palette_->history->position() != position_)
+            before_ = *table_;
+    }
+
+    /// Whether there was anything to record.
+    bool record() {
+        if (palette_ == nullptr || before_ == *table_)
+            return false;
+        palette_->snapshot = std::make_unique<TlutData>(std::move(before_));
+        palette_->commitEdit();
+        palette_->modified = true;
+        return true;
+    }
+
+private:
+    const TlutData* table_;
+    TextureLookupTable* palette_ = nullptr;
+    TlutData before_;
+    std::int32_t position_ = 0;
+};
+
 /// The canvas of an image in the palette's colours, or null when it cannot be made.
 std::unique_ptr<TextureCanvas> canvasOf(const TmfImage& image, const TlutData* table,
                                         std::int32_t firstEntry) {
@@ -87,11 +130,14 @@ std::unique_ptr<TextureCanvas> ImagePlugInCalls::ImportImage(std::int32_t index,
         return nullptr;
     }
     PassedPicture passed(image, palette, paletteNumber);
+    ImportStep step(*host_.paletteSet(), palette);
     PlugInPicture out{nullptr, nullptr, 0, paletteNumber};
     const std::optional<std::uint32_t> result = guarded(entryPoint, passed.get(), &out);
     bool fine = passed.restore() && result.has_value();
+    step.comeBack();
 
     std::unique_ptr<TextureCanvas> canvas;
+    bool palettesChanged = false;
     // What a refusal leaves behind may be anything.
     if (result.value_or(0) != 0) {
         // What is the host's own, or shares a block with it, is nothing new.
@@ -111,26 +157,33 @@ std::unique_ptr<TextureCanvas> ImagePlugInCalls::ImportImage(std::int32_t index,
             fine && (newImage == nullptr || texels != nullptr) && (newTable == nullptr || table != nullptr);
         if (texels != nullptr)
             canvas = canvasOf(*texels, table != nullptr ? table : palette, paletteNumber);
-        if (table != nullptr)
+        if (table != nullptr) {
             fine = takeUpPalette(*table, palette) && fine;
+            palettesChanged = true;
+        }
     }
+    if (step.record() || palettesChanged)
+        host_.refreshPaletteBar();
     working.reset();
     if (!fine)
         host_.tellPlugInFailed(plugIn.fileName);
     return canvas;
 }
 
-/// The image's palette takes the place of the one it has; it is no step of the palette's history.
+/// The image's palette takes the place of the one it has. A first one is in no file.
 bool ImagePlugInCalls::takeUpPalette(const TlutData& brought, TlutData* palette) {
-    bool taken = false;
     if (palette == nullptr) {
-        taken = host_.paletteSet()->addCopy(brought);
-    } else if (TlutData copy(brought); copy.entries != nullptr) {
-        *palette = std::move(copy);
-        taken = true;
+        PaletteSet& set = *host_.paletteSet();
+        if (!set.addCopy(brought))
+            return false;
+        set.lookup("")->markUnsaved();
+        return true;
     }
-    host_.refreshPaletteBar();
-    return taken;
+    TlutData copy(brought);
+    if (copy.entries == nullptr)
+        return false;
+    *palette = std::move(copy);
+    return true;
 }
 
 bool ImagePlugInCalls::ExportImage(std::int32_t index, TmfImage* image, TlutData* palette,

@@ -145,6 +145,11 @@ TEST_F(DocFile, ColoursOfABitmapBecomeTheCurrentPalette) {
                 ElementsAre(31, 17, 8, 1));
     EXPECT_EQ(table.getAlpha(3), 0);
     EXPECT_EQ(host.barRefreshes, 1);
+    TextureLookupTable& palette = *host.palettes.lookup("");
+    palette.beginEdit();
+    palette.setEntry(0, 5);
+    palette.commitEdit();
+    EXPECT_TRUE(palette.undo() && palette.hasUnsavedChanges()) << "no file holds them";
 }
 
 TEST_F(DocFile, BitmapsThatCannotBeOpenedAreToldWithTheReasonAndLeaveNothingBehind) {

@@ -181,6 +181,40 @@ TEST_F(PlugInCalls, ImportTakesOnlyWhatIsNewAndRight) {
     EXPECT_EQ(fake_.waitCursor.depth, 0);
 }
 
+TEST_F(PlugInCalls, ImportIsOneStepOfTheOpenPaletteAndToBeSaved) {
+    const auto brings = [](std::int32_t count) {
+        return [count](Picture, auto* out) { out->palette = DW_newPalette(DW_COLOUR_RGBA, count); };
+    };
+    add("a.so", everything<'a'>(), always<1>());
+    load();
+    answers['a'] = 1;
+    const std::pair<const char*, decltype(import)> ways[] = {
+        {"same kind", brings(256)}, {"another kind", brings(16)}, {"in place", [](Picture in, auto) {
+                                                                       in->palette->entries[3] = 7;
+                                                                   }}};
+    for (const auto& [name, way] : ways) {
+        SCOPED_TRACE(name);
+        ASSERT_TRUE(host_.palettes.newPalette(256, ColourType::Ia, 0));
+        TextureLookupTable& palette = *host_.palettes.lookup("");
+        const TlutData before = palette.table;
+        import = way;
+        EXPECT_EQ(images_.ImportImage(0, &image_, &palette.table, 0), nullptr);
+        const TlutData after = palette.table;
+        EXPECT_FALSE(after == before);
+        EXPECT_TRUE(palette.hasUnsavedChanges() && palette.undo());
+        EXPECT_TRUE(palette.table == before);
+        EXPECT_FALSE(palette.canUndo() || palette.hasUnsavedChanges());
+        EXPECT_TRUE(palette.redo() && palette.table == after && palette.hasUnsavedChanges());
+    }
+    import = brings(16);
+    EXPECT_EQ(images_.ImportImage(0, &image_, nullptr, 0), nullptr);
+    TextureLookupTable& opened = *host_.palettes.lookup("");
+    opened.beginEdit();
+    opened.setEntry(0, 7);
+    opened.commitEdit();
+    EXPECT_TRUE(opened.undo() && opened.hasUnsavedChanges());
+}
+
 TEST_F(PlugInCalls, GoInOrderWithTheHandleOfEachPlugIn) {
     FakeLibrary::Symbols symbols = everything<'a'>();
     symbols.erase("DWPI_TPF_onNew");

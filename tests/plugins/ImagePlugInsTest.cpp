@@ -83,8 +83,8 @@ TEST_F(ImagePlugIns, BringAPaletteInPlaceOfTheImagesOrAsItsFirst) {
         EXPECT_EQ(table.table.count, 16);
         EXPECT_EQ(table.table.colourType, ColourType::Ia);
         EXPECT_EQ(table.table.getEntry(15), 0x1234);
-        EXPECT_FALSE(table.canUndo());
-        EXPECT_FALSE(attached && table.modified);
+        EXPECT_EQ(table.canUndo(), attached);
+        EXPECT_TRUE(table.hasUnsavedChanges());
         EXPECT_FALSE(image().isModified());
         EXPECT_EQ(piece(), QSize());
         leave();

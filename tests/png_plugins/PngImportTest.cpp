@@ -168,6 +168,7 @@ TEST_F(PngImporting, ANewPaletteHoldsTheColoursOfTheFileAsTheyAre) {
 }
 
 TEST_F(PngImporting, PutsColoursIntoTheImagesBankAlone) {
+    // And of an image of 8 bits, into the entries that the file has.
     const PaletteRecord current =
         paletteOf(DW_COLOUR_RGBA, 256, [](int i) { return 0x8000U + static_cast<unsigned>(i); });
     writeRawPng(path_, {1,
@@ -179,11 +180,14 @@ TEST_F(PngImporting, PutsColoursIntoTheImagesBankAlone) {
                         {},
                         nullptr,
                         [](int, int, int) { return 15U; }});
-    const PngImport got = import(4, current.get(), 32);
-    ASSERT_NE(got.palette, nullptr);
-    ASSERT_EQ(got.palette->count, 256);
-    for (int i = 0; i < 256; ++i)
-        ASSERT_EQ(got.palette->entries[i], i >= 32 && i < 48 ? 0xFFFF : 0x8000 + i) << i;
+    for (const auto& [bits, first, end] : {std::tuple{4, 32, 48}, {8, 0, 200}}) {
+        const PngImport got = import(bits, current.get(), first);
+        ASSERT_NE(got.palette, nullptr);
+        ASSERT_EQ(got.palette->count, 256);
+        for (int i = 0; i < 256; ++i)
+            ASSERT_EQ(got.palette->entries[i], i >= first && i < end ? 0xFFFF : 0x8000 + i)
+                << bits << ' ' << i;
+    }
 }
 
 TEST_F(PngImporting, RefusesIndicesThatDoNotFitAndSaysWhich) {
