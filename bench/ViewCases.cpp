@@ -242,6 +242,7 @@ public:
         image_.document.PaletteChanged(key, &palette);
     }
     void RefreshImagePalettes() override { image_.document.RefreshPalette(); }
+    void RefreshAllImages() override { image_.document.RefreshOwnPalette(); }
 
 private:
     void valuesChanged() override {}
