@@ -23,6 +23,7 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QDropEvent>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMenu>
 #include <QMimeData>
@@ -58,6 +59,12 @@ std::vector<std::string> filesIn(const QMimeData& data) {
             paths.push_back(platform().files().fromHostPath(url.toLocalFile().toStdString()));
     }
     return paths;
+}
+
+/// Whoever drags to move would delete the files once they are taken.
+void takeAsCopy(QDropEvent& event) {
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
 }
 
 } // namespace
@@ -110,7 +117,16 @@ void CMainFrame::makePaletteBar() {
     paletteBar_ = new CPaletteBar(application_, actions_, *this);
     // Also told when the main window comes to the front with the image that was active before.
     connect(this, &MdiFrame::activeChildChanged, paletteBar_, &CPaletteBar::ImageChanged);
+    acceptFiles(*paletteBar_);
     on(ID_VIEW_PALETTEBAR, &CMainFrame::OnTogglePaletteBar, &CMainFrame::OnUpdatePaletteBar);
+}
+
+void CMainFrame::acceptFiles(QWidget& bar) {
+    bar.setAcceptDrops(true);
+    bar.installEventFilter(this);
+    // A field would take the files' names for text.
+    for (QLineEdit* field : bar.findChildren<QLineEdit*>())
+        field->installEventFilter(this);
 }
 
 void CMainFrame::makeProjectBar() {
@@ -122,6 +138,7 @@ void CMainFrame::makeProjectBar() {
 
 void CMainFrame::addBar(CommandId id, QWidget& bar) {
     bars_[id] = &bar;
+    acceptFiles(bar);
     onRange(id, id, &CMainFrame::OnToggleBar, &CMainFrame::OnUpdateBar);
 }
 
@@ -303,17 +320,29 @@ void CMainFrame::setVisible(bool visible) {
         paletteBar_->setShown(paletteBar_->isShown());
 }
 
+// A bar that floats is a window of its own, so that what is dropped on it does not come to this one.
+bool CMainFrame::eventFilter(QObject* watched, QEvent* event) {
+    const bool isDrop = event->type() == QEvent::Drop;
+    if (isDrop || event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove) {
+        auto* drop = static_cast<QDropEvent*>(event);
+        if (!filesIn(*drop->mimeData()).empty()) {
+            if (isDrop)
+                dropEvent(drop);
+            else
+                takeAsCopy(*drop);
+            return true;
+        }
+    }
+    return MdiFrame::eventFilter(watched, event);
+}
+
 void CMainFrame::dragEnterEvent(QDragEnterEvent* event) {
-    if (filesIn(*event->mimeData()).empty())
-        return;
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
+    if (!filesIn(*event->mimeData()).empty())
+        takeAsCopy(*event);
 }
 
 void CMainFrame::dropEvent(QDropEvent* event) {
-    // Whoever drags to move would delete the files once they are taken.
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
+    takeAsCopy(*event);
     for (const std::string& path : filesIn(*event->mimeData()))
         application_.OpenDocumentFile(path);
 }

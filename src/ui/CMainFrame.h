@@ -84,6 +84,7 @@ public:
 protected:
     void OnUpdateFrameTitle() override;
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     QMenu* createPopupMenu() override;
@@ -102,6 +103,8 @@ private:
 
     /// The bar is shown and hidden by this command.
     void addBar(CommandId id, QWidget& bar);
+    /// Files that are dropped on the bar, wherever it stands, are opened as those on this window.
+    void acceptFiles(QWidget& bar);
     void OnToggleBar(CommandId id);
     void OnUpdateBar(CommandUi& ui);
     void OnTogglePaletteBar();

@@ -3,6 +3,7 @@
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QScrollBar>
 #include <QUrl>
@@ -195,23 +196,29 @@ TEST_F(FilesTest, AnImportedBitmapIsAnImageAndAPaletteAndIsExportedAsTheSameFile
     EXPECT_FALSE(image().hasUnsavedChanges()) << "its own file: that saves it";
 }
 
-TEST_F(FilesTest, DroppedFilesOpenAndAreCopiedEvenWhenTheyAreMoved) {
-    putImages(fake_, {"c:\\a b.tmf"});
+TEST_F(FilesTest, FilesDroppedOnWindowOrBarsOpenAndAreCopiedEvenWhenTheyAreMoved) {
     fake_.files.putFile("c:\\p.tlf", paletteFile(16, [](int) { return 1U; }));
-    QMimeData files;
-    files.setUrls({QUrl::fromLocalFile(onHost(fake_, "c:\\a b.tmf")),
-                   QUrl::fromLocalFile(onHost(fake_, "c:\\p.tlf")), QUrl("https://example.com/c.tmf")});
-    const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
-    QDragEnterEvent enter({10, 10}, offered, &files, Qt::LeftButton, Qt::ShiftModifier);
-    QDropEvent drop({10, 10}, offered, &files, Qt::LeftButton, Qt::ShiftModifier);
-    for (QDropEvent* event : {static_cast<QDropEvent*>(&enter), &drop}) {
-        EXPECT_EQ(windows(), 0U);
-        event->setDropAction(Qt::MoveAction);
-        QCoreApplication::sendEvent(&frame(), event);
-        EXPECT_TRUE(event->isAccepted());
-        EXPECT_EQ(event->dropAction(), Qt::CopyAction);
+    CPaletteBar& bar = frame().paletteBar();
+    std::size_t before = 0;
+    for (QWidget* target : {static_cast<QWidget*>(&frame()), static_cast<QWidget*>(&bar),
+                            static_cast<QWidget*>(bar.findChild<QLineEdit*>())}) {
+        const std::string path = "c:\\a " + std::to_string(before) + ".tmf";
+        putImages(fake_, {path.c_str()});
+        QMimeData files;
+        files.setUrls({QUrl::fromLocalFile(onHost(fake_, path)),
+                       QUrl::fromLocalFile(onHost(fake_, "c:\\p.tlf")), QUrl("https://example.com/c.tmf")});
+        const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
+        QDragEnterEvent enter({10, 10}, offered, &files, Qt::LeftButton, Qt::ShiftModifier);
+        QDropEvent drop({10, 10}, offered, &files, Qt::LeftButton, Qt::ShiftModifier);
+        for (QDropEvent* event : {static_cast<QDropEvent*>(&enter), &drop}) {
+            EXPECT_EQ(windows(), before);
+            event->setDropAction(Qt::MoveAction);
+            QCoreApplication::sendEvent(target, event);
+            EXPECT_TRUE(event->isAccepted());
+            EXPECT_EQ(event->dropAction(), Qt::CopyAction);
+        }
+        EXPECT_EQ(windows(), ++before);
     }
-    EXPECT_EQ(windows(), 1U);
     EXPECT_EQ(app_.paletteSet()->palettes.size(), 1U);
     EXPECT_THAT(texts(fake_), IsEmpty());
 }
