@@ -29,7 +29,7 @@ public:
     DocumentView& documentView() override { return *this; }
     void update(DocumentView* /*sender*/, int /*hint*/) override {}
     void initialUpdate(ChildFrame& frame) override {
-        setContentSize({120, 90});
+        setContentSize({20, 20});
         frame.fitToContent(*this);
     }
 };
@@ -108,6 +108,14 @@ TEST_F(MdiFrames, CaptionFollowsTheActiveDocument) {
     main.closeChildrenUnasked();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(main.windowTitle(), QStringLiteral("Dyeworks"));
+}
+
+TEST_F(MdiFrames, SmallContentsLeaveRoomForADozenLettersOfTheTitle) {
+    CDocument& sky = open("c:\\a long name of a sky.tmf");
+    const ChildFrame& frame = *main.frameOf(sky);
+    const QFontMetrics metrics(QApplication::font("QMdiSubWindowTitleBar"));
+    EXPECT_GE(frame.width(), metrics.horizontalAdvance(QStringLiteral("a long name ")) +
+                                 frame.QMdiSubWindow::minimumSizeHint().width());
 }
 
 TEST_F(MdiFrames, CaptionStaysWhileAnotherProgramComesToTheFront) {

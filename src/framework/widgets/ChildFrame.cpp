@@ -4,7 +4,9 @@
 #include "framework/widgets/ScrollView.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
+#include <QFontMetrics>
 #include <QLayout>
 #include <QMenu>
 #include <QScrollBar>
@@ -83,6 +85,17 @@ void ChildFrame::fitToContent(const ScrollView& view) {
             wanted.rheight() += view.horizontalScrollBar()->sizeHint().height();
     }
     resize(wanted.boundedTo(available).expandedTo(minimumSizeHint()));
+}
+
+QSize ChildFrame::minimumSizeHint() const {
+    constexpr int kLetters = 12;
+    const QSize buttons = QMdiSubWindow::minimumSizeHint();
+    if (isMinimized())
+        return buttons;
+    const QFontMetrics metrics(QApplication::font("QMdiSubWindowTitleBar"));
+    const int letters = std::max(metrics.horizontalAdvance(windowTitle().left(kLetters)),
+                                 kLetters * metrics.averageCharWidth());
+    return buttons + QSize(letters, 0);
 }
 
 void ChildFrame::closeEvent(QCloseEvent* event) {

@@ -47,6 +47,9 @@ public:
     /// right or bottom edge of the document area. A maximized or minimized frame keeps its size.
     void fitToContent(const ScrollView& view);
 
+    /// Room for the buttons and for a dozen letters of the title.
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
