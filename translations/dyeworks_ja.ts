@@ -910,8 +910,8 @@ BMP のエクスポート</translation>
         <translation>ノード(&amp;D)</translation>
     </message>
     <message>
-        <source>P&amp;roject</source>
-        <translation>プロジェクト(&amp;R)</translation>
+        <source>Pro&amp;ject</source>
+        <translation>プロジェクト(&amp;J)</translation>
     </message>
     <message>
         <source>&amp;Entries</source>

@@ -252,7 +252,7 @@ constexpr std::array kMainMenu{
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Edit"), kEditMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&View"), kBarsMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Palette"), kPaletteMenu},
-    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "P&roject"), kProjectMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Pro&ject"), kProjectMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Help"), kHelpMenu},
 };
 
@@ -263,7 +263,7 @@ constexpr std::array kImageMainMenu{
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Image"), kImageMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Draw"), kDrawMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Palette"), kPaletteMenu},
-    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "P&roject"), kProjectMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Pro&ject"), kProjectMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Window"), kWindowMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Help"), kHelpMenu},
 };
@@ -273,7 +273,7 @@ constexpr std::array kProjectMainMenu{
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Edit"), kEditMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&View"), kBarsMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Palette"), kPaletteMenu},
-    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "P&roject"), kTreeProjectMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Pro&ject"), kTreeProjectMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Window"), kWindowMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Help"), kHelpMenu},
 };

@@ -3,6 +3,7 @@
 #include "platform/qt/Language.h"
 #include "ui/MainMenus.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QStatusBar>
 #include <QTranslator>
@@ -48,6 +49,11 @@ Ids everyCommand() {
     return ids;
 }
 
+std::string letterOf(const QString& text) {
+    const qsizetype mark = text.indexOf('&');
+    return mark < 0 ? std::string() : text.mid(mark + 1, 1).toLower().toStdString();
+}
+
 std::string lettersOf(std::span<const MenuItem> items, const QTranslator& language) {
     std::string letters;
     for (const MenuItem& item : items) {
@@ -57,10 +63,7 @@ std::string lettersOf(std::span<const MenuItem> items, const QTranslator& langua
             continue;
         const char* source = submenu ? item.title : row->menuText;
         const QString translated = language.translate(submenu ? kMenuContext : kCommandContext, source);
-        const QString text = translated.isEmpty() ? source : translated;
-        const qsizetype mark = text.indexOf('&');
-        if (mark >= 0)
-            letters += text.mid(mark + 1, 1).toLower().toStdString();
+        letters += letterOf(translated.isEmpty() ? source : translated);
     }
     return letters;
 }
@@ -162,8 +165,16 @@ TEST_F(Commands, HaveALetterThatNoOtherOfTheirMenuHas) {
     for (const auto menu : {CDyeworksView::ContextMenu::Selection, CDyeworksView::ContextMenu::Tools})
         menus.push_back(imageContextMenu(menu));
     for (const QTranslator* language : {&english, &japanese}) {
+        std::string onBars;
+        for (const QAbstractButton* button : frame().findChildren<QAbstractButton*>()) {
+            const QString text = language->translate(kTextContext, button->text().toUtf8());
+            if (button->isVisible() && button->window() == &frame())
+                onBars += letterOf(text.isEmpty() ? button->text() : text);
+        }
+        EXPECT_EQ(onBars, "acr") << "the project bar's";
         for (const Menu menu : menus) {
-            const std::string letters = lettersOf(menu, *language);
+            const bool isBar = menu.front().title != nullptr;
+            const std::string letters = lettersOf(menu, *language) + (isBar ? onBars : "");
             EXPECT_EQ(std::set(letters.begin(), letters.end()).size(), letters.size()) << letters;
         }
     }
