@@ -139,8 +139,12 @@ bool PaletteSet::queryClose(const PaletteKey& key, bool refresh) {
 }
 
 bool PaletteSet::closePalette(const PaletteKey& key, bool refresh) {
+    return queryClose(key, false) && removePalette(key, refresh);
+}
+
+bool PaletteSet::removePalette(const PaletteKey& key, bool refresh) {
     const auto position = find(key);
-    if (position == palettes.end() || !position->second->querySave())
+    if (position == palettes.end())
         return false;
     palettes.erase(position);
     if (!palettes.contains(currentKey))

@@ -72,6 +72,8 @@ public:
     /// True when the palette has no unsaved changes left that the user wants kept.
     bool queryClose(const PaletteKey& key, bool refresh);
     bool closePalette(const PaletteKey& key, bool refresh);
+    /// The same without the question.
+    bool removePalette(const PaletteKey& key, bool refresh);
     bool queryCloseAll();
 
     void setCurrent(const PaletteKey& key);

@@ -36,6 +36,8 @@ std::string CDocument::displayName() const {
 }
 
 void CDocument::setModified(bool modified) {
+    if (modified)
+        ++changes_;
     if (modified == modified_)
         return;
     modified_ = modified;

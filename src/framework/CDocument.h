@@ -3,6 +3,7 @@
 #include "framework/CommandTarget.h"
 #include "framework/DocumentView.h"
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,8 @@ public:
     [[nodiscard]] virtual std::string displayName() const;
     [[nodiscard]] bool isModified() const noexcept { return modified_; }
     virtual void setModified(bool modified);
+    /// Another number after each change.
+    [[nodiscard]] std::uint64_t changes() const noexcept { return changes_; }
 
     [[nodiscard]] DocumentTemplate* documentTemplate() const noexcept { return template_; }
 
@@ -55,6 +58,8 @@ public:
     /// Asks "save?" when there are unsaved changes and saves on Yes. True: the caller may go on, which is so
     /// after a save that succeeded and after No.
     virtual bool saveModified();
+    /// The same before the document is closed, with what else there is to ask then.
+    virtual bool mayClose() { return saveModified(); }
 
     /// Save: to the document's file, or to one that is asked for. Save As: always asks. A document that was
     /// saved is titled by its file again. False when nothing was written.
@@ -72,6 +77,7 @@ private:
     std::string title_;
     std::string pathName_;
     bool modified_ = false;
+    std::uint64_t changes_ = 0;
     std::vector<DocumentView*> views_;
     std::vector<DocumentTitleListener*> titleListeners_;
 };

@@ -5,6 +5,7 @@
 #include "platform/TextCase.h"
 #include "project/PathHelpers.h"
 
+#include <utility>
 #include <vector>
 
 namespace dyeworks {
@@ -154,16 +155,47 @@ bool CTPFDocument::write(const std::string& path) {
     return true;
 }
 
+bool CTPFDocument::mayClose() {
+    // Questions and plug-ins let events through, another wish to close among them.
+    if (asksToClose_)
+        return false;
+    asksToClose_ = true;
+    const bool agreed =
+        saveModified() && host_.ClosePictureDocuments(pictureFiles()) && mayCloseAfterPlugIns();
+    asksToClose_ = false;
+    return agreed;
+}
+
+bool CTPFDocument::mayCloseAfterPlugIns() {
+    const std::uint64_t before = changes();
+    EndPlugIns();
+    if (changes() == before || saveModified())
+        return true;
+    RestartPlugIns();
+    return false;
+}
+
 void CTPFDocument::onCloseDocument() {
-    if (host_.hasMainFrame())
-        closePictureFiles(host_.isClosingMainFrame());
-    host_.projectPlugIns().TPF_OnDelete(plugInHandles_);
+    EndPlugIns();
     if (host_.projectDocument() == this)
         host_.setProjectDocument(nullptr);
     CDocument::onCloseDocument();
 }
 
-void CTPFDocument::closePictureFiles(bool withoutAsking) {
+void CTPFDocument::EndPlugIns() {
+    const PlugInHandles ended = std::exchange(plugInHandles_, {});
+    if (!ended.empty())
+        host_.projectPlugIns().TPF_OnDelete(ended);
+}
+
+void CTPFDocument::RestartPlugIns() {
+    host_.projectPlugIns().TPF_OnNew(plugInHandles_);
+    host_.projectPlugIns().TPF_OnUpdate(plugInHandles_);
+    updateAllViews(nullptr, kHintPlugIns);
+}
+
+/// Those that are there, in the order of the pictures.
+std::vector<std::string> CTPFDocument::pictureFiles() const {
     std::vector<std::string> paths;
     const auto add = [&](const std::string& directories, const std::string& name) {
         if (std::string path = findFile(directories, name); !path.empty())
@@ -176,7 +208,7 @@ void CTPFDocument::closePictureFiles(bool withoutAsking) {
         add(projectFile_.tmfDir, entry.tmfFile);
         add(projectFile_.tlfDir, entry.tlfFile);
     }
-    host_.ClosePictureDocuments(paths, withoutAsking);
+    return paths;
 }
 
 /// Empty when there is no such file.

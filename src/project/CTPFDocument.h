@@ -21,6 +21,7 @@ public:
     // Hints that views are updated with.
     static constexpr int kHintSelection = 0; ///< The chosen picture is to be shown.
     static constexpr int kHintPictures = 1;  ///< Besides, the pictures have changed.
+    static constexpr int kHintPlugIns = 2;   ///< Besides, the plug-ins have begun anew.
 
     /// `host` must outlive the document.
     explicit CTPFDocument(ProjectHost& host, DocumentTemplate* documentTemplate = nullptr);
@@ -36,8 +37,15 @@ public:
     bool onOpenDocument(const std::string& path) override;
     /// Saved under another name, the project is that file's.
     bool onSaveDocument(const std::string& path) override;
-    /// Closes the images and palettes of its pictures, after one question unless the program is being left.
+    /// Asks about the project's changes, then closes the images and palettes of its pictures after a
+    /// question, then tells the plug-ins of the end. When they change the project thereby, that is asked
+    /// about, too.
+    bool mayClose() override;
     void onCloseDocument() override;
+    /// Tells the plug-ins that the project ends; further calls do nothing.
+    void EndPlugIns();
+    /// Lets them begin anew, because the project stays open.
+    void RestartPlugIns();
     /// Titles the project by its file without folder and extension, with a mark while it has changes.
     void setPathName(const std::string& path) override;
     void setModified(bool modified) override;
@@ -89,7 +97,8 @@ private:
     [[nodiscard]] bool create(const ProjectSettings& settings);
     [[nodiscard]] bool write(const std::string& path);
     void updateTitle();
-    void closePictureFiles(bool withoutAsking);
+    [[nodiscard]] std::vector<std::string> pictureFiles() const;
+    [[nodiscard]] bool mayCloseAfterPlugIns();
     [[nodiscard]] std::string findFile(const std::string& directories, const std::string& name) const;
     [[nodiscard]] std::string freeName(const std::string& proposed) const;
     bool askForPicture(PictureSettings& settings, const std::string& ownName);
@@ -106,6 +115,7 @@ private:
     ProjectHost& host_;
     CTPFFile projectFile_;
     PlugInHandles plugInHandles_;
+    bool asksToClose_ = false;
 };
 
 } // namespace dyeworks

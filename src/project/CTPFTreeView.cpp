@@ -129,7 +129,33 @@ void CTPFTreeView::Closing() {
 void CTPFTreeView::update(DocumentView* /*sender*/, int hint) {
     if (hint == CTPFDocument::kHintPictures && pictureNode_ != nullptr)
         fillPictures();
+    if (hint == CTPFDocument::kHintPlugIns)
+        remakePlugInNodes();
     chooseSelectedPicture();
+}
+
+/// The nodes of plug-ins that have ended make room for their new ones; what was expanded is so again.
+void CTPFTreeView::remakePlugInNodes() {
+    std::vector<std::string> expanded;
+    forEachVisible([&](const ProjectNode& node) {
+        if (std::string path; window_.isExpanded(node) && GetNodePath(&node, path))
+            expanded.push_back(path);
+    });
+    const auto removeOthers = [this](const ProjectNode* parent, const ProjectNode* kept) {
+        for (std::size_t i = tree_.childrenOf(parent).size(); i > 0; --i) {
+            if (ProjectNode& node = *tree_.childrenOf(parent)[i - 1]; &node != kept)
+                tree_.remove(node);
+        }
+    };
+    if (projectNode_ != nullptr) {
+        removeOthers(projectNode_, pictureNode_);
+        removeOthers(nullptr, projectNode_);
+    }
+    document_.host().projectPlugIns().TPF_OnUpdateNodes(document_.plugInHandles());
+    for (const std::string& path : expanded) {
+        if (const ProjectNode* const node = tree_.FindNode(path))
+            window_.expand(*node);
+    }
 }
 
 /// The selection stays on its picture, and moves to the next one when that is gone.

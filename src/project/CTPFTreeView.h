@@ -68,6 +68,7 @@ public:
 
 private:
     void fillPictures();
+    void remakePlugInNodes();
     bool selectPicture(const std::string& name);
     [[nodiscard]] std::optional<std::string> selectedPicture() const;
     void chooseSelectedPicture();

@@ -67,11 +67,9 @@ public:
     virtual bool openPalette(const std::string& path) = 0;
     /// Opens the image. Null when it could not be opened, which has been reported.
     virtual CDyeworksDoc* openImage(const std::string& path) = 0;
-    /// Closes the images and palettes of these paths that are open; unless `force` is set, asks once before.
-    virtual void ClosePictureDocuments(const std::vector<std::string>& paths, bool force) = 0;
-    /// Whether the main window is there, and whether it is just closing.
-    [[nodiscard]] virtual bool hasMainFrame() const = 0;
-    [[nodiscard]] virtual bool isClosingMainFrame() const = 0;
+    /// Closes the images and palettes of these paths that are open, if the user agrees. False, with all of
+    /// them still open, when the user cancels a question about their changes.
+    virtual bool ClosePictureDocuments(const std::vector<std::string>& paths) = 0;
     /// Shows the active image through this bank of the current palette.
     virtual void SetPaletteBarNumber(std::int32_t number) = 0;
 

@@ -26,17 +26,17 @@ bool ApplicationProjectHost::CloseProject() {
 }
 
 void ApplicationProjectHost::ProjectChanged() {
-    if (hasMainFrame())
+    if (application_.hasMainFrame())
         application_.mainFrame().ProjectChanged();
 }
 
 void ApplicationProjectHost::ProjectRenamed() {
-    if (hasMainFrame())
+    if (application_.hasMainFrame())
         application_.mainFrame().ProjectRenamed();
 }
 
 void ApplicationProjectHost::SelectPicture(const std::string& name) {
-    if (hasMainFrame())
+    if (application_.hasMainFrame())
         application_.mainFrame().SelectPicture(name);
 }
 
@@ -76,20 +76,12 @@ CDyeworksDoc* ApplicationProjectHost::openImage(const std::string& path) {
     return dynamic_cast<CDyeworksDoc*>(application_.OpenDocumentFile(path).document());
 }
 
-void ApplicationProjectHost::ClosePictureDocuments(const std::vector<std::string>& paths, bool force) {
-    application_.ClosePictureDocuments(paths, force);
-}
-
-bool ApplicationProjectHost::hasMainFrame() const {
-    return application_.hasMainFrame();
-}
-
-bool ApplicationProjectHost::isClosingMainFrame() const {
-    return hasMainFrame() && application_.mainFrame().isClosing();
+bool ApplicationProjectHost::ClosePictureDocuments(const std::vector<std::string>& paths) {
+    return application_.ClosePictureDocuments(paths);
 }
 
 void ApplicationProjectHost::SetPaletteBarNumber(std::int32_t number) {
-    if (!hasMainFrame())
+    if (!application_.hasMainFrame())
         return;
     application_.mainFrame().RefreshPaletteBar();
     application_.mainFrame().SetPaletteBarNumber(number);

@@ -26,9 +26,7 @@ public:
                     const std::function<PictureField(const PictureSettings&)>& check) override;
     bool openPalette(const std::string& path) override;
     CDyeworksDoc* openImage(const std::string& path) override;
-    void ClosePictureDocuments(const std::vector<std::string>& paths, bool force) override;
-    [[nodiscard]] bool hasMainFrame() const override;
-    [[nodiscard]] bool isClosingMainFrame() const override;
+    bool ClosePictureDocuments(const std::vector<std::string>& paths) override;
     void SetPaletteBarNumber(std::int32_t number) override;
     void runCommand(std::uint32_t command) override;
 

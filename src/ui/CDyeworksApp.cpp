@@ -7,6 +7,7 @@
 #include "platform/TextCase.h"
 #include "project/CTPFDocument.h"
 #include "ui/CMainFrame.h"
+#include "ui/ClosingQuestions.h"
 #include "ui/palettebar/CPaletteBar.h"
 #include "ui/sheets/CFileNewSheet.h"
 #include "ui/sheets/CFileNewTexturePage.h"
@@ -14,6 +15,7 @@
 #include <algorithm>
 #include <map>
 #include <optional>
+#include <set>
 
 namespace dyeworks {
 
@@ -143,11 +145,12 @@ void CDyeworksApp::BroadcastPaletteChange(const std::string& key, const TextureL
         image->PaletteChanged(key, &palette);
 }
 
-void CDyeworksApp::keepAttachments(const std::function<void()>& save) {
+void CDyeworksApp::keepAttachments(const std::function<bool()>& save) {
     std::map<CDyeworksDoc*, const TextureLookupTable*> attached;
     for (CDyeworksDoc* image : imageDocuments())
         attached[image] = image->GetAttachedPalette();
-    save();
+    if (!save())
+        return;
     for (const auto& [image, palette] : attached) {
         if (palette != nullptr)
             image->setAttachedName(palette->path);
@@ -157,50 +160,74 @@ void CDyeworksApp::keepAttachments(const std::function<void()>& save) {
 }
 
 bool CDyeworksApp::SaveAllModified() {
-    bool agreed = false;
-    keepAttachments([&] { agreed = paletteSet()->queryCloseAll(); });
-    if (!agreed || (project_ != nullptr && !project_->saveModified()))
+    ClosingQuestions questions(*this);
+    if (!questions.ask())
         return false;
+    auto* const project = dynamic_cast<CTPFDocument*>(project_);
+    if (project == nullptr)
+        return true;
+    project->EndPlugIns();
+    if (questions.ask())
+        return true;
+    project->RestartPlugIns();
+    return false;
+}
+
+std::vector<CDocument*> CDyeworksApp::documents() const {
+    std::vector<CDocument*> all;
+    if (project_ != nullptr)
+        all.push_back(project_);
     for (const auto& kind : templates_) {
         for (CDocument* document : kind->documents()) {
-            // The project has had its question.
-            if (document != project_ && !document->saveModified())
-                return false;
+            if (document != project_)
+                all.push_back(document);
         }
     }
-    return true;
+    return all;
 }
 
-bool CDyeworksApp::closeFramesOf(const CDocument& document) {
+void CDyeworksApp::closeFramesOf(const CDocument& document) {
     for (ChildFrame* frame : mainFrame_->childFrames()) {
-        if (frame->document() == &document && !frame->close())
-            return false;
+        if (frame->document() == &document)
+            frame->closeUnasked();
     }
-    return true;
 }
 
-void CDyeworksApp::ClosePictureDocuments(const std::vector<std::string>& paths, bool force) {
-    bool agreed = force;
-    const auto mayClose = [&agreed] {
-        agreed = agreed || applicationMessage("Do you close all pictures?", MessageButtons::YesNo) ==
-                               MessageAnswer::Yes;
-        return agreed;
-    };
+bool CDyeworksApp::ClosePictureDocuments(const std::vector<std::string>& paths) {
+    // Pictures may share their files.
+    std::set<const void*> seen{nullptr, static_cast<const CDocument*>(project_)};
+    std::vector<std::string> open;
     for (const std::string& path : paths) {
         // Empty stands for a file that was not found; as a key it would mean the current palette.
         if (path.empty())
             continue;
-        if (CDocument* document = FindOpenDocument(path)) {
-            if (!mayClose())
-                return;
-            closeFramesOf(*document);
-        } else if (paletteSet()->lookup(path) != nullptr) {
-            if (!mayClose())
-                return;
-            if (palettes_->closePalette(path, true))
-                RefreshImagePalettes();
-        }
+        const void* file = FindOpenDocument(path);
+        if (file == nullptr)
+            file = paletteSet()->lookup(path);
+        if (seen.insert(file).second)
+            open.push_back(path);
     }
+    if (open.empty() ||
+        applicationMessage("Do you close all pictures?", MessageButtons::YesNo) != MessageAnswer::Yes)
+        return true;
+    const bool agreed = std::ranges::all_of(open, [this](const std::string& path) {
+        if (CDocument* document = FindOpenDocument(path))
+            return document->mayClose();
+        return paletteSet()->lookup(path) == nullptr || palettes_->queryClose(path, false);
+    });
+    if (!agreed) {
+        // What was saved before the Cancel has lost its mark.
+        palettes_->rekeyAll();
+        RefreshImagePalettes();
+        return false;
+    }
+    for (const std::string& path : open) {
+        if (const CDocument* document = FindOpenDocument(path))
+            closeFramesOf(*document);
+        else if (palettes_->removePalette(path, true))
+            RefreshImagePalettes();
+    }
+    return true;
 }
 
 void CDyeworksApp::ShowHelp(const std::string& relativePath) {
@@ -218,21 +245,15 @@ void CDyeworksApp::setProjectDocument(ProjectDocument* project) {
 }
 
 bool CDyeworksApp::CloseProject() {
+    if (project_ != nullptr && !project_->mayClose())
+        return false;
     if (project_ == nullptr)
         return true;
-    if (!project_->saveModified())
-        return false;
     ProjectDocument& project = *project_;
-    const std::vector<ChildFrame*> frames = mainFrame_->childFrames();
-    bool shown = false;
-    for (ChildFrame* frame : frames) {
-        if (frame->document() != &project)
-            continue;
-        shown = true;
-        frame->closeUnasked();
-    }
-    // Closing the last of its windows has ended the document.
-    if (!shown)
+    // Closing the last of its windows ends the document.
+    if (mainFrame_->frameOf(project) != nullptr)
+        closeFramesOf(project);
+    else
         project.documentTemplate()->dropDocument(project);
     if (project_ != nullptr)
         setProjectDocument(nullptr);

@@ -68,6 +68,12 @@ public:
     /// case; null when there is none.
     [[nodiscard]] CDocument* FindOpenDocument(const std::string& path) const;
 
+    /// All that are open, the project first.
+    [[nodiscard]] std::vector<CDocument*> documents() const;
+    /// Saving may give palettes new keys; images stay attached to theirs. `save` answers whether they are to
+    /// be shown anew.
+    void keepAttachments(const std::function<bool()>& save);
+
     /// Opens a palette (".tlf") in the palette set, any other file as a document of the kind that has its
     /// extension, as an image when no kind has. Failures have been reported.
     OpenedFile OpenDocumentFile(const std::string& path);
@@ -87,8 +93,10 @@ public:
     bool ResumeDocuments();
     /// Keeps which palettes and documents are open, for the next start.
     void SaveOpenDocuments();
-    /// Asks for every palette, for the project and for every other document with unsaved changes whether to
-    /// save it. False as soon as the user cancels or a file cannot be saved.
+    /// Before the program is left: asks for every palette, for the project and for every other document with
+    /// unsaved changes whether to save it, also for changes that plug-ins make meanwhile, as when they hear
+    /// of the project's end. False, with all of it still open, as soon as the user cancels or a file cannot
+    /// be saved.
     bool SaveAllModified();
 
     /// Makes every image take its palette's colours anew. Called after palettes change.
@@ -97,9 +105,9 @@ public:
     void RefreshAllImages() override;
     /// Shows the colours of `palette`, which may be a passing copy, in every image attached to that key.
     void BroadcastPaletteChange(const std::string& key, const TextureLookupTable& palette) override;
-    /// Closes the images and palettes of these paths that are open. Unless `force` is set, asks once before
-    /// the first; No leaves them all open.
-    void ClosePictureDocuments(const std::vector<std::string>& paths, bool force);
+    /// Closes the images and palettes of these paths that are open after one question; No leaves them open.
+    /// Each with unsaved changes is asked for once, before any is closed: false when the user cancels there.
+    bool ClosePictureDocuments(const std::vector<std::string>& paths);
     /// Shows the About box until the user closes it.
     void ShowAbout();
     /// Opens a file with the desktop's program for it, such as a help page. `relativePath` starts from the
@@ -155,9 +163,7 @@ private:
     void activate(CDocument& document) override;
 
     OpenedFile openPalette(const std::string& path);
-    /// Saving may give palettes new keys; images stay attached to theirs.
-    void keepAttachments(const std::function<void()>& save);
-    bool closeFramesOf(const CDocument& document);
+    void closeFramesOf(const CDocument& document);
 
     // The steps of starting.
     static void followLocale(const CommandLine& commandLine);

@@ -143,11 +143,11 @@ void CDyeworksApp::OnPaletteClose() {
 }
 
 void CDyeworksApp::OnPaletteSave() {
-    keepAttachments([this] { palettes_->savePalette("", true); });
+    keepAttachments([this] { return palettes_->savePalette("", true); });
 }
 
 void CDyeworksApp::OnPaletteSaveAs() {
-    keepAttachments([this] { palettes_->savePaletteAs("", true); });
+    keepAttachments([this] { return palettes_->savePaletteAs("", true); });
 }
 
 void CDyeworksApp::ShowAbout() {

@@ -289,12 +289,12 @@ void CMainFrame::OnUpdateFrameTitle() {
 }
 
 bool CMainFrame::OnClose() {
-    savePlacement();
-    application_.SaveOpenDocuments();
-    if (!application_.CloseProject())
+    if (!application_.SaveAllModified())
         return false;
+    savePlacement();
     saveBarLayout(*this, *paletteBar_);
-    return application_.SaveAllModified();
+    application_.SaveOpenDocuments();
+    return true;
 }
 
 void CMainFrame::closeEvent(QCloseEvent* event) {

@@ -72,9 +72,6 @@ public:
     /// Shows the active image through another bank of the current palette.
     void SetPaletteBarNumber(std::int32_t number);
 
-    /// Whether the window is closing: documents are recorded, questions asked, the project is closed.
-    [[nodiscard]] bool isClosing() const noexcept { return closing_; }
-
     /// The window as a picture, with the palette bar where it floats above it.
     [[nodiscard]] QPixmap picture();
 
@@ -118,7 +115,7 @@ private:
     CDyeworksApp& application_;
     CommandActions actions_;
     PrintCommands printing_;
-    bool closing_ = false; ///< While documents are recorded and the project and they are closed.
+    bool closing_ = false; ///< While questions are asked and what is open is recorded.
     StatusPanes* panes_ = nullptr;
     CProjectBar* projectBar_ = nullptr;
     CPaletteBar* paletteBar_ = nullptr;

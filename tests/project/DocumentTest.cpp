@@ -243,12 +243,25 @@ TEST_F(Project, OpensWhatIsThereOfAPicture) {
     document_.OnNodeDoubleClick("\\Project\\Picture");
     EXPECT_THAT(host_.take(), IsEmpty());
 
+    ASSERT_TRUE(document_.save());
+    const std::string ask = "ask c:\\p\\tex\\a.tmf c:\\p\\a.tlf c:\\p\\a.tlf";
+    host_.closes = false;
+    EXPECT_FALSE(document_.mayClose());
+    EXPECT_THAT(host_.take(), ElementsAre(ask));
+    host_.closes = true;
+    host_.onCall = [this] {
+        EXPECT_FALSE(document_.mayClose()) << "is being asked";
+        document_.SetValue("Note.1", "x");
+    };
+    fake_.messages.answerWith({MessageAnswer::Cancel, MessageAnswer::No});
+    EXPECT_FALSE(document_.mayClose());
+    EXPECT_THAT(host_.take(), ElementsAre(ask, "delete", "new", "update"));
+    ASSERT_TRUE(document_.save());
+    EXPECT_TRUE(document_.mayClose());
+    host_.onCall = nullptr;
     document_.onCloseDocument();
-    EXPECT_THAT(host_.take(), ElementsAre("ask c:\\p\\tex\\a.tmf c:\\p\\a.tlf c:\\p\\a.tlf", "delete"));
+    EXPECT_THAT(host_.take(), ElementsAre(ask, "delete"));
     EXPECT_EQ(host_.project, nullptr);
-    host_.closing = true;
-    document_.onCloseDocument();
-    EXPECT_THAT(host_.take().front(), testing::StartsWith("force"));
 }
 
 TEST_F(Project, ExportsAfterItsQuestionUnlessThatIsCancelled) {

@@ -52,14 +52,13 @@ public:
         log.push_back("image " + path);
         return nullptr;
     }
-    void ClosePictureDocuments(const std::vector<std::string>& paths, bool force) override {
-        std::string line = force ? "force" : "ask";
+    bool ClosePictureDocuments(const std::vector<std::string>& paths) override {
+        std::string line = "ask";
         for (const std::string& path : paths)
             line += " " + path;
         log.push_back(line);
+        return closes;
     }
-    [[nodiscard]] bool hasMainFrame() const override { return true; }
-    [[nodiscard]] bool isClosingMainFrame() const override { return closing; }
     void SetPaletteBarNumber(std::int32_t number) override {
         log.push_back("bank " + std::to_string(number));
     }
@@ -69,16 +68,20 @@ public:
 
     ProjectDocument* project = nullptr;
     bool closes = true;
-    bool closing = false;
     std::deque<ProjectSettings> newProjects; ///< What the sheets answer; cancelled when there is none left.
     std::deque<PictureSettings> pictures;
     PictureSettings proposed; ///< What the picture dialog started with.
     PictureField refused = PictureField::None;
-    bool queries = false; ///< What the plug-ins answer.
-    std::function<void()> onCommand;
+    bool queries = false;         ///< What the plug-ins answer.
+    std::function<void()> onCall; ///< What the plug-ins do in commands and drags.
     std::vector<std::string> log;
 
 private:
+    void call() const {
+        // A copy: it may be set anew meanwhile.
+        if (const auto act = onCall)
+            act();
+    }
     static bool answered(std::deque<ProjectSettings>& answers, ProjectSettings& settings) {
         if (answers.empty())
             return false;
@@ -93,12 +96,14 @@ private:
     }
     void TPF_OnUpdate(const PlugInHandles& /*handles*/) override { log.emplace_back("update"); }
     void TPF_OnUpdateNodes(const PlugInHandles& /*handles*/) override { log.emplace_back("update nodes"); }
-    void TPF_OnDelete(const PlugInHandles& /*handles*/) override { log.emplace_back("delete"); }
+    void TPF_OnDelete(const PlugInHandles& /*handles*/) override {
+        log.emplace_back("delete");
+        call();
+    }
     void TPF_OnCommand(const PlugInHandles& /*handles*/, const std::string& node,
                        NodeCommand command) override {
         log.push_back(node + " " + std::to_string(static_cast<int>(command)));
-        if (onCommand)
-            onCommand();
+        call();
     }
     bool TPF_QueryCommand(const PlugInHandles& /*handles*/, const std::string& /*node*/,
                           NodeCommand /*command*/) override {
@@ -111,11 +116,13 @@ private:
     std::uint32_t TPF_IsDroppable(const PlugInHandles& /*handles*/, const std::string& target,
                                   const std::string& dragged, std::uint32_t keyState) override {
         log.push_back(dragged + " over " + target + " " + std::to_string(keyState));
+        call();
         return drop_effect::kLink;
     }
     bool TPF_OnDrop(const PlugInHandles& /*handles*/, const std::string& target, const std::string& key,
                     const std::string& value, std::uint32_t effect) override {
         log.push_back(key + "=" + value + " on " + target + " " + std::to_string(effect));
+        call();
         return true;
     }
     std::vector<std::string> projectExportNames() const override { return {"A", "B"}; }

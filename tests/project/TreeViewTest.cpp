@@ -41,6 +41,22 @@ protected:
     std::optional<CTPFTreeView> view_;
 };
 
+TEST_F(TreeView, HasOnlyTheNewNodesOfPlugInsThatBeginAnew) {
+    openPictures({"A"});
+    show();
+    ASSERT_TRUE(view_->AddNode("Notes", 2, "\\Project", std::string()) &&
+                view_->AddNode("Top", 2, {}, std::string()));
+    select("\\Project\\Picture\\A");
+    window_.expanded.insert(node("\\Project\\Picture"));
+    host_.log.clear();
+    document_.EndPlugIns();
+    document_.RestartPlugIns();
+    EXPECT_THAT(host_.take(), ElementsAre("delete", "new", "update", "update nodes", "select A"));
+    EXPECT_EQ(view_->tree().topNodes().size(), 1U);
+    EXPECT_EQ(node("\\Project")->children.size(), 1U);
+    EXPECT_EQ(selected(), "\\Project\\Picture\\A");
+}
+
 constexpr CommandId kNodeCommands[] = {ID_NODE_ADD, ID_NODE_EDIT, ID_NODE_REMOVE, ID_NODE_PROPERTY};
 
 TEST_F(TreeView, BeginsWithTheProjectOpenAndItsPicturesInOrder) {
@@ -105,10 +121,10 @@ TEST_F(TreeView, ShowsWhatACommandAddsBelowItsNode) {
     select("\\Project\\Notes");
     view_->runCommand(ID_NODE_EDIT);
     EXPECT_FALSE(window_.isExpanded(*node("\\Project\\Notes")));
-    host_.onCommand = [this] { EXPECT_TRUE(view_->AddNode("first", 2, "\\Project\\Notes", "")); };
+    host_.onCall = [this] { EXPECT_TRUE(view_->AddNode("first", 2, "\\Project\\Notes", "")); };
     view_->runCommand(ID_NODE_ADD);
     EXPECT_TRUE(window_.isExpanded(*node("\\Project\\Notes")));
-    host_.onCommand = [this] {
+    host_.onCall = [this] {
         view_.reset();
         host_.project = nullptr;
     };

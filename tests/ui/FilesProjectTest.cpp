@@ -5,6 +5,8 @@
 #include <QLineEdit>
 #include <QTimer>
 
+#include <functional>
+
 namespace dyeworks {
 namespace {
 
@@ -67,41 +69,101 @@ TEST_F(FilesProject, PalettesThenProjectThenImagesAreAskedForOnceEach) {
     fake_.messages.answerWith({yes, yes, yes});
     EXPECT_TRUE(frame().close());
     EXPECT_THAT(fake_.files.written(),
-                ElementsAre("c:\\proj\\sea.tpf", "c:\\tex\\pic.tlf", "c:\\tex\\pic.tmf"));
+                ElementsAre("c:\\tex\\pic.tlf", "c:\\proj\\sea.tpf", "c:\\tex\\pic.tmf"));
     EXPECT_EQ(fake_.files.textOf("c:\\tex\\pic.tlf")->substr(64 + 6, 2), "\x12\x34");
 }
 
-TEST_F(FilesProject, PicturesAreClosedAfterOneQuestionOrNone) {
-    const std::vector<std::string> paths = {"", "c:\\gone.tmf", "C:\\TEX\\PIC.TMF", "c:\\tex\\pic.tlf",
-                                            "c:\\tex\\b.tlf"};
-    const auto openAll = [this] {
-        openBlank();
-        fake_.files.putFile("c:\\tex\\b.tlf", paletteFile(16, [](int) { return 1U; }));
-        ASSERT_TRUE(app_.OpenDocumentFile("c:\\tex\\b.tlf"));
+TEST_F(FilesProject, PicturesAreClosedTogetherAfterOneQuestionForEach) {
+    openBlank();
+    CTPFDocument& project = openProject();
+    app_.ClosePictureDocuments({"", "c:\\gone.tmf", "c:\\proj\\sea.tpf"});
+    EXPECT_THAT(texts(fake_), IsEmpty()) << "none is open, and none is the current palette";
+    for (const char* name : {"A", "B", "C"})
+        ASSERT_TRUE(project.AddPicture(name, "C:\\TEX\\PIC.TMF", "c:\\tex\\pic.tlf", 0, std::nullopt, true));
+    ASSERT_TRUE(project.save());
+    changePalette();
+    drawPixel({1, 1}, 5);
+    const MessageAnswer yes = MessageAnswer::Yes;
+    const MessageAnswer no = MessageAnswer::No;
+    const struct {
+        bool leaves;
+        std::vector<MessageAnswer> answers;
+        std::vector<std::string> questions;
+        bool closes;
+    } cases[] = {
+        {true, {}, {kAskPalette}, false},
+        {true, {no}, {kAskPalette, kAskImage}, false},
+        {false, {yes}, {kAskClose, kAskImage}, false},
+        {false, {yes, no}, {kAskClose, kAskImage, kAskPalette}, false},
+        {false, {yes, no, no}, {kAskClose, kAskImage, kAskPalette}, true},
     };
-    app_.ClosePictureDocuments(paths, false);
-    EXPECT_THAT(texts(fake_), IsEmpty()) << "none is open";
-    openAll();
+    for (const auto& c : cases) {
+        EXPECT_EQ(app_.projectDocument(), &project);
+        EXPECT_EQ(app_.imageTemplate().documents().size() + app_.paletteSet()->palettes.size(), 2U);
+        fake_.messages.shown.clear();
+        for (const MessageAnswer answer : c.answers)
+            fake_.messages.answerWith(answer);
+        EXPECT_EQ(c.leaves ? frame().close() : app_.CloseProject(), c.closes);
+        EXPECT_EQ(texts(fake_), c.questions);
+    }
+    EXPECT_EQ(app_.projectDocument(), nullptr);
+    EXPECT_EQ(app_.imageTemplate().documents().size() + app_.paletteSet()->palettes.size(), 0U);
+
+    openProject();
+    openBlank();
+    fake_.messages.answerWith(no);
+    app_.ClosePictureDocuments({"c:\\tex\\pic.tmf", "c:\\tex\\pic.tlf"});
+    EXPECT_EQ(app_.imageTemplate().documents().size() + app_.paletteSet()->palettes.size(), 2U);
+}
+
+std::function<void()> onEnd;     // Of a project.
+std::function<void()> onPreview; // Of an image.
+
+TEST_F(Launch, LeavingAsksForWhatPlugInsChangeMeanwhile) {
+    const std::string plugIn = "c:\\program\\PlugIns\\p.so";
+    fake_.files.putFile(plugIn, "");
+    fake_.library.define(
+        plugIn, {{"DWPI_isAvail", FakeLibrary::address(+[](std::uint32_t) { return 1U; })},
+                 {"DWPI_getType", FakeLibrary::address(+[] { return 0x24U; })}, // Previews and nodes.
+                 {"DWPI_TPF_onDelete", FakeLibrary::address(+[](void*) { return onEnd(), 1U; })},
+                 {"DWPI_preview2",
+                  FakeLibrary::address(+[](const void*, std::uint32_t) { return onPreview(), 1U; })}});
+    ASSERT_TRUE(launch());
+    putImages(fake_, {"c:\\tex\\pic.tmf"});
+    fake_.files.putFile("c:\\tex\\pic.tlf", paletteFile(16, [](int) { return 1U; }));
+    fake_.files.putFile("c:\\proj\\sea.tpf", "");
+    ASSERT_TRUE(app_->OpenFiles({"c:\\proj\\sea.tpf", "c:\\tex\\pic.tlf", "c:\\tex\\pic.tmf"}, true));
+    auto& project = dynamic_cast<CTPFDocument&>(*app_->projectDocument());
+    TextureLookupTable& palette = *app_->paletteSet()->lookup("c:\\tex\\pic.tlf");
+    std::uint16_t next = 0;
+    const auto changePalette = [&] {
+        palette.beginEdit();
+        palette.setEntry(3, ++next);
+        palette.commitEdit();
+    };
+    onPreview = [] {};
+    onEnd = [&] {
+        changePalette();
+        project.SetValue("k", std::to_string(next));
+    };
+    ASSERT_TRUE(run(ID_PREVIEW1));
     fake_.messages.answerWith(MessageAnswer::No);
-    app_.ClosePictureDocuments(paths, false);
-    EXPECT_THAT(texts(fake_), ElementsAre(kAskClose));
-    EXPECT_EQ(fake_.messages.shown[0].icon, MessageIcon::Question);
-    EXPECT_EQ(app_.imageTemplate().documents().size(), 1U);
-    EXPECT_EQ(app_.paletteSet()->palettes.size(), 2U);
+    EXPECT_FALSE(frame().close());
+    EXPECT_THAT(texts(fake_), ElementsAre(kAskPalette, kAskProject));
+    EXPECT_EQ(app_->projectDocument(), &project);
+    EXPECT_EQ(project.plugInHandles().size(), 1U) << "the plug-in has begun anew";
 
-    fake_.messages.answerWith(MessageAnswer::Yes);
-    app_.ClosePictureDocuments(paths, false);
-    EXPECT_EQ(fake_.messages.shown.size(), 2U);
-    EXPECT_THAT(app_.imageTemplate().documents(), IsEmpty());
-    EXPECT_TRUE(app_.paletteSet()->palettes.empty());
-
-    openAll();
-    app_.ClosePictureDocuments({""}, true);
-    EXPECT_EQ(app_.paletteSet()->palettes.size(), 2U)
-        << "a file that was not found is not the current palette";
-    app_.ClosePictureDocuments(paths, true);
-    EXPECT_EQ(fake_.messages.shown.size(), 2U);
-    EXPECT_THAT(app_.imageTemplate().documents(), IsEmpty());
+    fake_.messages.shown.clear();
+    int previews = 0;
+    onPreview = [&] {
+        if (previews++ == 0)
+            changePalette();
+    };
+    const MessageAnswer no = MessageAnswer::No;
+    fake_.messages.answerWith({no, no, no, no, no});
+    EXPECT_TRUE(frame().close());
+    EXPECT_THAT(texts(fake_), ElementsAre(kAskPalette, kAskProject, kAskPalette, kAskPalette, kAskProject));
+    app_.reset();
 }
 
 TEST_F(FilesProject, AChangedPaletteRecoloursTheImagesOfItsKeyOnly) {
