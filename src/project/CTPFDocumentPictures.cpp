@@ -238,8 +238,13 @@ bool CTPFDocument::DropOnNode(const std::string& target, const std::optional<std
         return false;
     std::vector<std::string> lines;
     SplitFields(*data, "\n", lines);
-    for (const std::string& line : lines)
+    const ProjectHost& host = host_;
+    for (const std::string& line : lines) {
         dropLine(target, line, effect);
+        // The plug-in that took the line may have had the project closed.
+        if (host.projectDocument() != this)
+            break;
+    }
     return true;
 }
 

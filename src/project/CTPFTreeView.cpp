@@ -38,6 +38,25 @@ std::string sectionOf(const std::string& key) {
     return "Settings\\ProjectTree\\" + key;
 }
 
+/// Whether a view and its project are still there: while a plug-in asks the user, either may be closed.
+class StillThere {
+public:
+    StillThere(const DocumentView& view, const CTPFDocument& document)
+        : host_(document.host())
+        , document_(&document)
+        , view_(&view) {}
+
+    bool operator()() const {
+        return host_.projectDocument() == document_ &&
+               std::ranges::find(document_->views(), view_) != document_->views().end();
+    }
+
+private:
+    const ProjectHost& host_;
+    const CTPFDocument* document_;
+    const DocumentView* view_;
+};
+
 } // namespace
 
 CTPFTreeView::CTPFTreeView(CTPFDocument& document, ProjectTreeWindow& window)
@@ -226,9 +245,10 @@ bool CTPFTreeView::Drop(const ProjectNode* node, const std::optional<std::string
     if (!GetNodePath(node, path))
         return false;
     const std::optional<std::string> picture = selectedPicture();
+    const StillThere isThere(*this, document_);
     const bool dropped = document_.DropOnNode(path, data, effect);
     // A picture that was moved had to go before it could come again.
-    if (picture)
+    if (picture && isThere())
         selectPicture(*picture);
     return dropped;
 }
@@ -267,12 +287,9 @@ void CTPFTreeView::runPlugInCommand(const std::string& path, NodeCommand command
     };
     const ProjectNode* node = find();
     const std::size_t before = node == nullptr ? 0 : node->children.size();
-    ProjectHost& host = document_.host();
-    const CTPFDocument* const document = &document_;
-    host.projectPlugIns().TPF_OnCommand(document->plugInHandles(), path, command);
-    // While the plug-in asked the user, the project or this window of it may have been closed.
-    if (host.projectDocument() != document ||
-        std::ranges::find(document->views(), static_cast<DocumentView*>(this)) == document->views().end())
+    const StillThere isThere(*this, document_);
+    document_.host().projectPlugIns().TPF_OnCommand(document_.plugInHandles(), path, command);
+    if (!isThere())
         return;
     node = find();
     if (node != nullptr && node->children.size() > before)

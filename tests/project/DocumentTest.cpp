@@ -210,6 +210,9 @@ TEST_F(Project, DropsMoveCopyAndReorderPictures) {
     ASSERT_TRUE(document_.GetPicture("X", entry));
     EXPECT_EQ(entry, (PictureEntry{"x.tmf", "y.tlf", 7}));
     EXPECT_FALSE(document_.DropOnNode("\\Elsewhere", lines, drop_effect::kCopy));
+    host_.onCall = [this] { document_.onCloseDocument(); };
+    EXPECT_TRUE(document_.DropOnNode("\\Project\\Notes", "A=1\nB=2\n", drop_effect::kCopy));
+    EXPECT_THAT(host_.take(), testing::Not(testing::Contains("B=2 on \\Project\\Notes 1"))) << "is closed";
     std::string text;
     EXPECT_FALSE(document_.NodeToString("\\Project\\Picture\\gone", text));
     EXPECT_FALSE(document_.NodeToString("\\Project", text));

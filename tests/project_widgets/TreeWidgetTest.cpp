@@ -170,6 +170,31 @@ TEST_F(TreeWidget, DraggingMovesCopiesAndMarks) {
     EXPECT_EQ(current(), "B");
 }
 
+TEST_F(TreeWidget, APlugInMayOutlastTheDragThatItIsAskedAbout) {
+    show({"A"});
+    ASSERT_TRUE(document_.AddNode("Notes", 2, "\\Project", 0U));
+    enter("A");
+    const QPoint notes = middleOf("\\Project\\Notes");
+    EXPECT_EQ(moveTo(notes), Qt::LinkAction);
+    QWidget* const viewport = tree().viewport();
+    const std::function<void()> ends[] = {[viewport] {
+                                              QDragLeaveEvent leave;
+                                              QApplication::sendEvent(viewport, &leave);
+                                          },
+                                          [this] { widget_.reset(); }};
+    for (const auto& end : ends) {
+        enter("A");
+        host_.onCall = [&] {
+            EXPECT_EQ(moveTo(notes), Qt::IgnoreAction) << "is not asked twice at a time";
+            end();
+        };
+        QDropEvent drop(notes, kAll, &data_, Qt::LeftButton, {});
+        QApplication::sendEvent(viewport, &drop);
+        EXPECT_FALSE(drop.isAccepted());
+        EXPECT_THAT(host_.take(), testing::Not(testing::Contains(testing::HasSubstr(" on "))));
+    }
+}
+
 TEST_F(TreeWidget, TipShowsThePictureWhenBothFilesAreThere) {
     show({"A<b>", "B"});
     EXPECT_EQ(tipAt("\\Project"), QStringLiteral("c:\\p\\sea.tpf"));

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QScrollBar>
+#include <QTreeView>
 #include <QUrl>
 
 namespace dyeworks {
@@ -198,10 +199,12 @@ TEST_F(FilesTest, AnImportedBitmapIsAnImageAndAPaletteAndIsExportedAsTheSameFile
 
 TEST_F(FilesTest, FilesDroppedOnWindowOrBarsOpenAndAreCopiedEvenWhenTheyAreMoved) {
     fake_.files.putFile("c:\\p.tlf", paletteFile(16, [](int) { return 1U; }));
+    openProject();
     CPaletteBar& bar = frame().paletteBar();
     std::size_t before = 0;
-    for (QWidget* target : {static_cast<QWidget*>(&frame()), static_cast<QWidget*>(&bar),
-                            static_cast<QWidget*>(bar.findChild<QLineEdit*>())}) {
+    for (QWidget* target :
+         {static_cast<QWidget*>(&frame()), static_cast<QWidget*>(&bar),
+          static_cast<QWidget*>(bar.findChild<QLineEdit*>()), frame().findChild<QTreeView*>()->viewport()}) {
         const std::string path = "c:\\a " + std::to_string(before) + ".tmf";
         putImages(fake_, {path.c_str()});
         QMimeData files;
@@ -211,13 +214,13 @@ TEST_F(FilesTest, FilesDroppedOnWindowOrBarsOpenAndAreCopiedEvenWhenTheyAreMoved
         QDragEnterEvent enter({10, 10}, offered, &files, Qt::LeftButton, Qt::ShiftModifier);
         QDropEvent drop({10, 10}, offered, &files, Qt::LeftButton, Qt::ShiftModifier);
         for (QDropEvent* event : {static_cast<QDropEvent*>(&enter), &drop}) {
-            EXPECT_EQ(windows(), before);
+            EXPECT_EQ(app_.imageTemplate().documents().size(), before);
             event->setDropAction(Qt::MoveAction);
             QCoreApplication::sendEvent(target, event);
             EXPECT_TRUE(event->isAccepted());
             EXPECT_EQ(event->dropAction(), Qt::CopyAction);
         }
-        EXPECT_EQ(windows(), ++before);
+        EXPECT_EQ(app_.imageTemplate().documents().size(), ++before);
     }
     EXPECT_EQ(app_.paletteSet()->palettes.size(), 1U);
     EXPECT_THAT(texts(fake_), IsEmpty());

@@ -3,13 +3,14 @@
 #include "project/ProjectPlugIns.h"
 #include "project/widgets/DragCursors.h"
 
+#include <QApplication>
 #include <QMimeData>
 #include <QWidget>
 
 namespace dyeworks {
 
-CNodeDropSource::CNodeDropSource(QWidget& source, const std::string& text)
-    : QDrag(&source) {
+CNodeDropSource::CNodeDropSource(const QWidget& source, const std::string& text)
+    : QDrag(qApp) {
     auto* carried = new QMimeData;
     carried->setText(QString::fromStdString(text));
     setMimeData(carried);

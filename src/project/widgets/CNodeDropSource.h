@@ -14,8 +14,8 @@ class CNodeDropSource : public QDrag {
     Q_OBJECT
 
 public:
-    /// `source` owns the drag; Qt deletes it when it is over.
-    CNodeDropSource(QWidget& source, const std::string& text);
+    /// Qt deletes the drag when it is over, whether `source` is still there or not.
+    CNodeDropSource(const QWidget& source, const std::string& text);
 
     /// Returns when the drag is over. It may end in a copy, a move or a link.
     void DoDragDrop();

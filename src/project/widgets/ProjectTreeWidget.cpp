@@ -9,12 +9,17 @@
 #include "project/widgets/CNodeDropSource.h"
 #include "project/widgets/PictureThumbnail.h"
 
+#include <QApplication>
 #include <QBuffer>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QPointer>
 #include <QToolTip>
+#include <QUrl>
+
+#include <algorithm>
 
 namespace dyeworks {
 
@@ -30,6 +35,10 @@ std::optional<std::string> textOf(const QMimeData* data) {
     if (data == nullptr || !data->hasText())
         return std::nullopt;
     return data->text().toStdString();
+}
+
+bool carriesFiles(const QMimeData& data) {
+    return std::ranges::any_of(data.urls(), &QUrl::isLocalFile);
 }
 
 std::uint32_t keysOf(Qt::KeyboardModifiers modifiers) {
@@ -211,16 +220,29 @@ QString ProjectTreeWidget::pictureTip(const std::string& name) const {
              QString::number(entry.paletteNo), imageTag(thumbnail, devicePixelRatioF()));
 }
 
+/// Queued: Qt's own view goes on with this widget when this returns, which may be gone when the drag is over.
 void ProjectTreeWidget::startDrag(Qt::DropActions /*supported*/) {
-    if (const std::optional<std::string> text = view_.dragData())
+    QMetaObject::invokeMethod(
+        qApp,
+        [self = QPointer(this)] {
+            if (self != nullptr)
+                self->dragSelected();
+        },
+        Qt::QueuedConnection);
+}
+
+void ProjectTreeWidget::dragSelected() {
+    const QPointer<ProjectTreeWidget> self(this);
+    const std::optional<std::string> text = view_.dragData();
+    if (text && self != nullptr)
         (new CNodeDropSource(*this, *text))->DoDragDrop();
 }
 
 void ProjectTreeWidget::dragEnterEvent(QDragEnterEvent* event) {
+    ++drag_;
     setDropMark({});
-    dragOver(*event);
-    // Further moves are wanted even where nothing may be dropped.
-    event->accept();
+    // A move follows at once and finds out what may be dropped. Files are for the main window to open.
+    event->setAccepted(!carriesFiles(*event->mimeData()));
 }
 
 void ProjectTreeWidget::dragMoveEvent(QDragMoveEvent* event) {
@@ -230,28 +252,49 @@ void ProjectTreeWidget::dragMoveEvent(QDragMoveEvent* event) {
 }
 
 void ProjectTreeWidget::dragLeaveEvent(QDragLeaveEvent* event) {
+    ++drag_;
     QTreeView::dragLeaveEvent(event);
     setDropMark({});
 }
 
 void ProjectTreeWidget::dropEvent(QDropEvent* event) {
-    const std::uint32_t effect = dragOver(*event);
+    // The data go with the drag, which may be over before a plug-in has answered.
+    const std::optional<std::string> dragged = textOf(event->mimeData());
+    const QPoint point = event->position().toPoint();
+    const QPointer<ProjectTreeWidget> self(this);
+    const std::optional<std::uint32_t> effect = dragOver(*event);
+    if (!effect)
+        return;
     // The view scrolls no more, and the mark goes.
     QDragLeaveEvent over;
     dragLeaveEvent(&over);
-    const ProjectNode* const node = ProjectTreeModel::nodeOf(rowAt(event->position().toPoint()));
-    if (effect == drop_effect::kNone || !view_.Drop(node, textOf(event->mimeData()), effect))
+    const ProjectNode* const node = ProjectTreeModel::nodeOf(rowAt(point));
+    const bool dropped = *effect != drop_effect::kNone && view_.Drop(node, dragged, *effect);
+    if (self != nullptr && !dropped)
         event->ignore();
 }
 
-/// What a drop here would do, which the event is answered with.
-std::uint32_t ProjectTreeWidget::dragOver(QDropEvent& event) {
+/// What a drop here would do, which the event is answered with. Nothing when the drag was over, and perhaps
+/// the widget gone, before a plug-in had answered: its event is not to be touched then.
+std::optional<std::uint32_t> ProjectTreeWidget::dragOver(QDropEvent& event) {
     const QModelIndex index = rowAt(event.position().toPoint());
     // Between nodes the mark stays where it was.
     if (index.isValid())
         setDropMark(index);
-    const std::uint32_t effect =
-        view_.DragOver(ProjectTreeModel::nodeOf(index), textOf(event.mimeData()), keysOf(event.modifiers()));
+    std::uint32_t effect = drop_effect::kNone;
+    // A plug-in that has asked the user is not asked again for every move meanwhile.
+    if (!asking_) {
+        const QPointer<ProjectTreeWidget> self(this);
+        const std::uint64_t drag = drag_;
+        asking_ = true;
+        effect = view_.DragOver(ProjectTreeModel::nodeOf(index), textOf(event.mimeData()),
+                                keysOf(event.modifiers()));
+        if (self == nullptr)
+            return std::nullopt;
+        asking_ = false;
+        if (drag != drag_)
+            return std::nullopt;
+    }
     event.setDropAction(CNodeDropSource::GiveFeedback(effect));
     event.setAccepted(effect != drop_effect::kNone);
     return effect;

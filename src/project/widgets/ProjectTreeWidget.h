@@ -58,12 +58,15 @@ private:
 
     /// The node on whose row the point of the viewport lies, other than on the button that opens it.
     [[nodiscard]] QModelIndex rowAt(const QPoint& point) const;
-    std::uint32_t dragOver(QDropEvent& event);
+    void dragSelected();
+    std::optional<std::uint32_t> dragOver(QDropEvent& event);
     void setDropMark(const QModelIndex& index);
     [[nodiscard]] QString tipOf(const QModelIndex& index) const;
     [[nodiscard]] QString pictureTip(const std::string& name) const;
 
     ChildFrame* frame_ = nullptr;
+    std::uint64_t drag_ = 0;         ///< Another one whenever a drag comes or is over.
+    bool asking_ = false;            ///< While a plug-in is asked what may be dropped.
     QPersistentModelIndex dropMark_; ///< The node that a drop would go to.
     CTPFTreeView view_;
     ProjectTreeModel model_;
