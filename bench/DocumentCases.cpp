@@ -27,6 +27,7 @@ public:
     std::int32_t paletteBarCell() const override { return -1; }
     void selectPaletteBarCell(std::int32_t /*cell*/) override {}
     void refreshPaletteBar() override {}
+    std::optional<std::string> savePaletteAs(const std::string& /*key*/) override { return std::nullopt; }
     void setStatusText(const std::string& /*text*/, int /*pane*/) override {}
     bool isActiveImage(const CDyeworksDoc& /*document*/) const override { return false; }
     CDyeworksView* activeView() const override { return nullptr; }

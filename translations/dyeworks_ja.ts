@@ -1731,6 +1731,8 @@ The program does not know what folder drive %2 stands for. Start it once with
     <message>
         <source>%1, unsaved changes</source>
         <translation>%1、保存していない変更あり</translation>
+        <source>Please save the palette that is added to the project.</source>
+        <translation>プロジェクトに追加するパレットを保存してください。</translation>
     </message>
 </context>
 </TS>

@@ -33,6 +33,20 @@ MessageAnswer show(const char* text, MessageButtons buttons, MessageIcon icon) {
     return platform().messages().show({text, "", buttons, icon, MessageOwner::MainWindow});
 }
 
+/// Asks for what is to be added to a project to be saved; the dialog starts in the project's folder for it.
+template <typename Save>
+bool saveForProject(const std::string& folder, const char* request, Save save) {
+    Files& files = platform().files();
+    const std::string directory = files.currentDirectory();
+    files.setCurrentDirectory(folder);
+    show(request, MessageButtons::Ok, MessageIcon::Warning);
+    const bool saved = save();
+    files.setCurrentDirectory(directory);
+    if (!saved)
+        show("not add to project.", MessageButtons::Ok, MessageIcon::Information);
+    return saved;
+}
+
 } // namespace
 
 bool CDyeworksDoc::onNewDocument() {
@@ -177,22 +191,28 @@ void CDyeworksDoc::AddToProject() {
             return;
         }
     }
-    OpenProject* const project = host_.openProject();
-    Files& files = platform().files();
-    if (pathName().empty() || !files.exists(pathName())) {
-        // The dialog starts in the project's folder of images.
-        const std::string directory = files.currentDirectory();
-        if (project != nullptr)
-            files.setCurrentDirectory(project->imageDirectory());
-        show("Please save document that adds to project.", MessageButtons::Ok, MessageIcon::Warning);
-        const bool saved = saveAs();
-        files.setCurrentDirectory(directory);
-        if (!saved) {
-            show("not add to project.", MessageButtons::Ok, MessageIcon::Information);
-            return;
-        }
-    }
-    if (project != nullptr)
+    const auto isSaved = [](const std::string& path) {
+        return !path.empty() && platform().files().exists(path);
+    };
+    const auto folder = [this](std::string (OpenProject::*of)() const) {
+        const OpenProject* const project = host_.openProject();
+        return project == nullptr ? std::string() : (project->*of)();
+    };
+    if (!isSaved(pathName()) &&
+        !saveForProject(folder(&OpenProject::imageDirectory), "Please save document that adds to project.",
+                        [this] { return saveAs(); }))
+        return;
+    const auto savePalette = [this] {
+        const std::optional<std::string> key = host_.savePaletteAs(attachedName_);
+        if (key)
+            setAttachedName(*key);
+        return key.has_value();
+    };
+    if (!isSaved(attachedName_) &&
+        !saveForProject(folder(&OpenProject::paletteDirectory), text(StringId::SavePaletteForProject).c_str(),
+                        savePalette))
+        return;
+    if (OpenProject* const project = host_.openProject())
         project->AddPicture(std::nullopt, pathName(), attachedName_, 0, std::nullopt, false);
 }
 

@@ -36,6 +36,10 @@ public:
     /// Shows the current palette anew.
     virtual void refreshPaletteBar() = 0;
 
+    /// Saves a palette in a file that the user is asked for; images that were attached to it stay so. The key
+    /// that it then has; nothing when that was cancelled or failed.
+    [[nodiscard]] virtual std::optional<std::string> savePaletteAs(const std::string& key) = 0;
+
     /// Pane 1 is the pointer position, pane 2 the image's size and depth.
     virtual void setStatusText(const std::string& text, int pane) = 0;
 

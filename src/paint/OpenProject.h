@@ -11,8 +11,9 @@ class OpenProject {
 public:
     virtual ~OpenProject() = default;
 
-    /// The folder of the project's images.
+    // The folder of the project's images, and of its palettes; of several the first.
     [[nodiscard]] virtual std::string imageDirectory() const = 0;
+    [[nodiscard]] virtual std::string paletteDirectory() const = 0;
 
     /// Adds a picture of these files, behind the picture called `after` (none: at the head). Without a name
     /// it gets one. Unless `silent`, the user is shown everything and may change it. False when no picture

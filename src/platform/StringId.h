@@ -176,6 +176,7 @@ enum class StringId {
     FileNameCannotBeHeld, ///< %1 file
     PictureNamesAreTooLong,
     ReplacePictureQuestion, ///< %1 name
+    SavePaletteForProject,
     PictureCaption,
     PictureName,
     PictureImage,

@@ -253,6 +253,8 @@ constexpr std::array kRows{
         QT_TRANSLATE_NOOP("Text", "The names of the picture and of its files are too long together.")},
     Row{StringId::ReplacePictureQuestion,
         QT_TRANSLATE_NOOP("Text", "There is a picture \"%1\" already.\nDo you want to replace it?")},
+    Row{StringId::SavePaletteForProject,
+        QT_TRANSLATE_NOOP("Text", "Please save the palette that is added to the project.")},
     Row{StringId::PictureCaption, QT_TRANSLATE_NOOP("Text", "Picture")},
     Row{StringId::PictureName, QT_TRANSLATE_NOOP("Text", "Picture &name")},
     Row{StringId::PictureImage, QT_TRANSLATE_NOOP("Text", "Texture (TMF)")},

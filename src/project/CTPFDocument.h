@@ -2,6 +2,7 @@
 
 #include "framework/CommandTarget.h"
 #include "project/CTPFFile.h"
+#include "project/PathHelpers.h"
 #include "project/ProjectDocument.h"
 #include "project/ProjectHost.h"
 #include "project/ProjectNodes.h"
@@ -52,7 +53,8 @@ public:
     [[nodiscard]] std::string displayName() const override;
 
     // Pictures. What the user is shown may be cancelled; the result is then false.
-    [[nodiscard]] std::string imageDirectory() const override { return projectFile_.tmfDir; }
+    [[nodiscard]] std::string imageDirectory() const override { return firstFolder(projectFile_.tmfDir); }
+    [[nodiscard]] std::string paletteDirectory() const override { return firstFolder(projectFile_.tlfDir); }
     [[nodiscard]] std::vector<std::string> pictureNames() const override { return projectFile_.order; }
     [[nodiscard]] bool GetPicture(const std::string& name, PictureEntry& entry) const override {
         return projectFile_.GetPicture(name, entry);

@@ -72,6 +72,11 @@ bool isSamePlace(const std::string& a, const std::string& b) {
 
 } // namespace
 
+std::string firstFolder(const std::string& directories) {
+    std::vector<std::string> folders;
+    return SplitFields(directories, kListSeparator, folders) == 0 ? std::string() : folders.front();
+}
+
 void PathSwapSeparators(std::string& path) {
     std::ranges::replace(path, '/', kSeparator);
 }

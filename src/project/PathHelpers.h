@@ -8,6 +8,9 @@ namespace dyeworks {
 // How projects treat the names of their folders and files. Paths have "\" between their parts; a folder list
 // is folders separated by ";".
 
+/// What a folder list begins with; empty for an empty one.
+[[nodiscard]] std::string firstFolder(const std::string& directories);
+
 /// Turns every "/" into "\".
 void PathSwapSeparators(std::string& path);
 

@@ -282,6 +282,13 @@ void CDyeworksApp::refreshPaletteBar() {
         mainFrame_->RefreshPaletteBar();
 }
 
+std::optional<std::string> CDyeworksApp::savePaletteAs(const std::string& key) {
+    std::string now = key;
+    bool saved = false;
+    keepAttachments([&] { return saved = paletteSet()->savePaletteAs(now, true); });
+    return saved ? std::optional(now) : std::nullopt;
+}
+
 void CDyeworksApp::setStatusText(const std::string& text, int pane) {
     if (mainFrame_ != nullptr)
         mainFrame_->SetStatusText(text, pane);

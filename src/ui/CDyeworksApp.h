@@ -135,6 +135,7 @@ public:
     [[nodiscard]] std::int32_t paletteBarCell() const override;
     void selectPaletteBarCell(std::int32_t cell) override;
     void refreshPaletteBar() override;
+    [[nodiscard]] std::optional<std::string> savePaletteAs(const std::string& key) override;
     void setStatusText(const std::string& text, int pane) override;
     [[nodiscard]] bool isActiveImage(const CDyeworksDoc& document) const override;
     [[nodiscard]] CDyeworksView* activeView() const override;

@@ -297,7 +297,7 @@ TEST_F(DocFile, RevertGoesBackToTheFileAndKeepsThePalette) {
 
 TEST_F(DocFixture, AddToProjectAsksForWhatIsMissing) {
     FakeProject project;
-    platform.files.createDirectory("c:\\proj");
+    platform.files.createDirectory("c:\\proj\\pal");
     const std::string start = platform.files.currentDirectory();
     const std::string question =
         "You must attach a palette before add to project.\nattach to active palette now?\n";
@@ -320,8 +320,13 @@ TEST_F(DocFixture, AddToProjectAsksForWhatIsMissing) {
     EXPECT_TRUE(stateOf(document, ID_IMAGE_ADD_TO_PROJECT).enabled);
     run(MessageAnswer::No, {question}, {});
     run(MessageAnswer::Yes, {question, pleaseSave, "not add to project."}, {}); // no file is chosen
+    const std::string pleaseSavePalette = "Please save the palette that is added to the project.";
     platform.dialogs.answerWith("p.tmf");
-    run(MessageAnswer::Ok, {pleaseSave}, {"c:\\proj\\p.tmf," + document.attachedName()});
+    run(MessageAnswer::Ok, {pleaseSave, pleaseSavePalette, "not add to project."}, {});
+    platform.dialogs.answerWith("p.tlf");
+    run(MessageAnswer::Ok, {pleaseSavePalette}, {"c:\\proj\\p.tmf,c:\\proj\\pal\\p.tlf"});
+    run(MessageAnswer::Ok, {}, {"c:\\proj\\p.tmf,c:\\proj\\pal\\p.tlf"});
+    EXPECT_TRUE(document.IsAttached());
 }
 
 } // namespace

@@ -60,6 +60,7 @@ public:
 class FakeProject : public OpenProject {
 public:
     std::string imageDirectory() const override { return "c:\\proj"; }
+    std::string paletteDirectory() const override { return "c:\\proj\\pal"; }
     bool AddPicture(const std::optional<std::string>& name, const std::optional<std::string>& imageFile,
                     const std::optional<std::string>& paletteFile, std::int32_t paletteNumber,
                     const std::optional<std::string>& after, bool silent) override {
@@ -79,6 +80,10 @@ public:
     std::int32_t paletteBarCell() const override { return cell; }
     void selectPaletteBarCell(std::int32_t which) override { cell = which; }
     void refreshPaletteBar() override { ++barRefreshes; }
+    std::optional<std::string> savePaletteAs(const std::string& key) override {
+        std::string now = key;
+        return palettes.savePaletteAs(now, true) ? std::optional(now) : std::nullopt;
+    }
     void setStatusText(const std::string& text, int pane) override { panes[pane] = text; }
     bool isActiveImage(const CDyeworksDoc& document) const override { return active == &document; }
     CDyeworksView* activeView() const override { return nullptr; }

@@ -28,12 +28,6 @@ void tellWrong(const std::string& text) {
     platform().messages().show({text, "", MessageButtons::Ok, MessageIcon::Stop, MessageOwner::MainWindow});
 }
 
-/// What every folder list begins with.
-std::string firstFolder(const std::string& directories) {
-    std::vector<std::string> folders;
-    return SplitFields(directories, ";", folders) == 0 ? std::string() : folders.front();
-}
-
 QString shownName(const std::string& name) {
     return QString::fromStdString(isRooted(name) ? displayPath(name) : name);
 }
