@@ -75,14 +75,14 @@ TEST_F(FilesProject, PalettesThenProjectThenImagesAreAskedForOnceEach) {
 
 TEST_F(FilesProject, PicturesAreClosedTogetherAfterOneQuestionForEach) {
     openBlank();
+    changePalette();
+    drawPixel({1, 1}, 5);
     CTPFDocument& project = openProject();
     app_.ClosePictureDocuments({"", "c:\\gone.tmf", "c:\\proj\\sea.tpf"});
     EXPECT_THAT(texts(fake_), IsEmpty()) << "none is open, and none is the current palette";
     for (const char* name : {"A", "B", "C"})
         ASSERT_TRUE(project.AddPicture(name, "C:\\TEX\\PIC.TMF", "c:\\tex\\pic.tlf", 0, std::nullopt, true));
     ASSERT_TRUE(project.save());
-    changePalette();
-    drawPixel({1, 1}, 5);
     const MessageAnswer yes = MessageAnswer::Yes;
     const MessageAnswer no = MessageAnswer::No;
     const struct {
@@ -135,7 +135,7 @@ TEST_F(Launch, LeavingAsksForWhatPlugInsChangeMeanwhile) {
     ASSERT_TRUE(app_->OpenFiles({"c:\\proj\\sea.tpf", "c:\\tex\\pic.tlf", "c:\\tex\\pic.tmf"}, true));
     auto& project = dynamic_cast<CTPFDocument&>(*app_->projectDocument());
     TextureLookupTable& palette = *app_->paletteSet()->lookup("c:\\tex\\pic.tlf");
-    std::uint16_t next = 0;
+    std::uint16_t next = 100;
     const auto changePalette = [&] {
         palette.beginEdit();
         palette.setEntry(3, ++next);

@@ -40,23 +40,22 @@ TEST_F(FilesTest, CancelAtAnyQuestionAndAFailedSaveLeaveTheProgramRunning) {
     EXPECT_FALSE(frame().close());
     EXPECT_TRUE(frame().isVisible());
     EXPECT_TRUE(frame().paletteBar().isVisible());
-    EXPECT_EQ(windows(), 1U);
-    EXPECT_TRUE(this->image().isModified());
-    EXPECT_EQ(app_.projectDocument(), nullptr) << "closed before the documents are asked about";
+    EXPECT_EQ(windows(), 2U);
+    EXPECT_NE(app_.projectDocument(), nullptr);
     EXPECT_THAT(texts(fake_), ElementsAre(project, project, image));
-    EXPECT_EQ(fake_.profile.sections["Settings\\Documents"]["count"], "3");
 
-    fake_.messages.answerWith({MessageAnswer::Yes, MessageAnswer::Ok});
+    fake_.messages.answerWith({MessageAnswer::No, MessageAnswer::Yes, MessageAnswer::Ok});
     fake_.files.failNextWrite(FileError::NoSpace);
     EXPECT_FALSE(frame().close());
-    EXPECT_TRUE(this->image().isModified());
-    EXPECT_EQ(texts(fake_).size(), 5U);
+    EXPECT_EQ(windows(), 2U);
+    EXPECT_EQ(texts(fake_).size(), 6U);
 
-    fake_.messages.answerWith(MessageAnswer::No);
+    fake_.messages.answerWith({MessageAnswer::No, MessageAnswer::No});
     EXPECT_TRUE(run(ID_APP_EXIT));
     EXPECT_FALSE(frame().isVisible());
     EXPECT_FALSE(frame().paletteBar().isVisible());
-    EXPECT_EQ(texts(fake_).size(), 6U);
+    EXPECT_EQ(texts(fake_).size(), 8U);
+    EXPECT_EQ(fake_.profile.sections["Settings\\Documents"]["count"], "3");
     EXPECT_THAT(fake_.files.written(), IsEmpty());
     EXPECT_THAT(app_.imageTemplate().documents(), IsEmpty());
 }
