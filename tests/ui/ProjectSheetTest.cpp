@@ -128,6 +128,7 @@ TEST(PictureDialog, MakesAndFindsExactlyTheFilesThatAreNamed) {
     dialog.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     auto& images = *dialog.findChild<QComboBox*>("IDC_PICTURE_IMAGE");
+    images.setFocus();
     QTest::keyClicks(images.lineEdit(), "te");
     EXPECT_EQ(images.currentText(), "te");
     withNextDialog([](QDialog& sheet) { sheet.accept(); });
