@@ -6,6 +6,7 @@
 #include "paint/ViewWindow.h"
 
 #include <string>
+#include <utility>
 
 namespace dyeworks {
 
@@ -50,6 +51,8 @@ void CDyeworksView::InitialUpdate() {
 }
 
 void CDyeworksView::Activated() {
+    // Every window has a zoom of its own, those of the same image too.
+    followPointer(window_.pointerPosition());
     ImageHost& host = document_.host();
     if (host.lastActivatedImage() == &document_)
         return;
@@ -70,6 +73,11 @@ void CDyeworksView::ShowSize() const {
 
 void CDyeworksView::Resized() {
     scrollTo(restoredScroll_.value_or(window_.scrollPosition()));
+}
+
+void CDyeworksView::Scrolled() {
+    if (!scrollDragging_)
+        followPointer(window_.pointerPosition());
 }
 
 void CDyeworksView::Closing() {
@@ -106,6 +114,7 @@ bool CDyeworksView::ZoomStep(bool out, bool redraw) {
         return false;
     zoom_ = zoom;
     applyZoom(redraw);
+    followPointer(window_.pointerPosition());
     return true;
 }
 
@@ -115,11 +124,14 @@ void CDyeworksView::ZoomAt(Point client, bool out) {
         return;
     scrollTo(geometry().scrollToKeep(texel, client));
     applyZoom(true);
+    followPointer(client);
 }
 
 void CDyeworksView::SetZoom(std::int32_t zoom) {
-    zoom_ = ViewGeometry::holdZoom(zoom);
+    const std::int32_t before = std::exchange(zoom_, ViewGeometry::holdZoom(zoom));
     applyZoom(true);
+    if (zoom_ != before)
+        followPointer(window_.pointerPosition());
 }
 
 void CDyeworksView::ToggleGrid() {

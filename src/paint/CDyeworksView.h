@@ -46,6 +46,8 @@ public:
     void Activated();
     /// The client size changed.
     void Resized();
+    /// The image moved beneath the pointer, which is in the client area.
+    void Scrolled();
     /// The window is about to close; it still stands where it stood.
     void Closing();
     /// The interval of `ViewWindow::startTicking` has passed.
@@ -157,7 +159,9 @@ private:
     [[nodiscard]] std::uint32_t depthMask() const;
     void scrollDrag(Point client);
     std::shared_ptr<DrawTool> endDrag();
-    void showPosition(Point texel);
+    void followPointer(Point client);
+    void showPosition() const;
+    [[nodiscard]] bool isInSight(Point client) const;
     void updateCursor(Point client, bool shift, bool control);
     [[nodiscard]] CursorShape selectionCursor(Point client) const;
     bool moveSelection(const KeyEvent& event);
@@ -219,6 +223,7 @@ private:
     /// there.
     std::shared_ptr<DrawTool> tool_;
     Point anchor_;
+    Point pointed_;      ///< The texel that the status line tells of.
     bool spuit_ = false; ///< A right press picks the colour under it.
     bool scrollDragging_ = false;
     Point scrollDragPoint_; ///< Client point up to which the scroll drag has been followed.

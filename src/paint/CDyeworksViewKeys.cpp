@@ -78,8 +78,7 @@ bool CDyeworksView::moveSelection(const KeyEvent& event) {
 }
 
 void CDyeworksView::updateCursor(Point client, bool shift, bool control) {
-    const Size size = window_.clientSize();
-    if (client.x < 0 || client.y < 0 || client.x >= size.width || client.y >= size.height)
+    if (!isInSight(client))
         return;
     CursorShape shape = CursorShape::Arrow;
     if (currentTool() == Tool::ZoomLens)

@@ -56,7 +56,8 @@ void CDyeworksView::PointerMoved(const PointerEvent& event) {
         return;
     }
     const Point texel = geometry().texelAt(event.position);
-    showPosition(texel);
+    pointed_ = texel;
+    showPosition();
     if (const std::shared_ptr<DrawTool> tool = tool_)
         tool->move(texel, event);
 }
@@ -134,10 +135,22 @@ std::uint32_t CDyeworksView::depthMask() const {
     return static_cast<std::uint32_t>((std::uint64_t{1} << document_.canvas().bitsPerPixel()) - 1);
 }
 
-void CDyeworksView::showPosition(Point texel) {
-    document_.host().setStatusText("(" + std::to_string(texel.x) + ", " + std::to_string(texel.y) + ") " +
-                                       std::to_string(zoom_ * 100) + "%",
+/// The pointer may be elsewhere, in a menu for one; the texel that it was last seen at then stays.
+void CDyeworksView::followPointer(Point client) {
+    if (isInSight(client))
+        pointed_ = geometry().texelAt(client);
+    showPosition();
+}
+
+void CDyeworksView::showPosition() const {
+    document_.host().setStatusText("(" + std::to_string(pointed_.x) + ", " + std::to_string(pointed_.y) +
+                                       ") " + std::to_string(zoom_ * 100) + "%",
                                    kPositionPane);
+}
+
+bool CDyeworksView::isInSight(Point client) const {
+    const Size size = window_.clientSize();
+    return client.x >= 0 && client.y >= 0 && client.x < size.width && client.y < size.height;
 }
 
 } // namespace dyeworks

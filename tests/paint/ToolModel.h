@@ -54,6 +54,7 @@ struct ToolModel {
     Size client;
     bool antsPhase = false;
     std::string position; ///< What the status line says of the pointer.
+    Point pointed;
 
     // Of the drag, and to take it back.
     bool scrolling = false;
@@ -219,15 +220,26 @@ struct ToolModel {
         scroll = {std::max(std::min(wanted.x, image->width() * zoom - client.width), 0),
                   std::max(std::min(wanted.y, image->height() * zoom - client.height), 0)};
     }
+    void tellPosition() {
+        position = "(" + std::to_string(pointed.x) + ", " + std::to_string(pointed.y) + ") " +
+                   std::to_string(zoom) + "00%";
+    }
+    void zoomed(std::int32_t newZoom, Point newScroll, Point pointer) {
+        scroll = newScroll;
+        if (std::exchange(zoom, newZoom) == newZoom)
+            return;
+        if (pointer.x >= 0 && pointer.y >= 0 && pointer.x < client.width && pointer.y < client.height)
+            pointed = texel(pointer);
+        tellPosition();
+    }
     void move(const PointerEvent& e) {
         if (scrolling) {
             scrollTo(plus(scroll, minus(previous, e.position)));
             previous = e.position;
             return;
         }
-        const Point at = texel(e.position);
-        position =
-            "(" + std::to_string(at.x) + ", " + std::to_string(at.y) + ") " + std::to_string(zoom) + "00%";
+        const Point at = pointed = texel(e.position);
+        tellPosition();
         if (!dragging || atPress == Tool::Pixel || atPress == Tool::ZoomLens)
             return;
         if (atPress == Tool::Select) {

@@ -119,10 +119,8 @@ protected:
     }
     /// Where zooming leads is the geometry's affair.
     void followZoom(bool zooms) {
-        if (zooms) {
-            model.zoom = view.zoom();
-            model.scroll = window.scroll;
-        }
+        if (zooms)
+            model.zoomed(view.zoom(), window.scroll, window.pointer);
     }
     void run(CommandId id) {
         view.runCommand(id);

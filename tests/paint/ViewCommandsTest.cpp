@@ -128,6 +128,7 @@ TEST_F(ViewFixture, ActivationShowsTheDocumentOncePerChange) {
     const std::string attached = document.attachedName();
     openPalette();
     host.barRefreshes = 0;
+    window.pointer = {3, 2};
     CDyeworksDoc other(host);
     FakeViewWindow otherWindow;
     CDyeworksView otherView(other, otherWindow);
@@ -135,6 +136,7 @@ TEST_F(ViewFixture, ActivationShowsTheDocumentOncePerChange) {
     view.Activated();
     EXPECT_EQ(host.palettes.currentKey, attached);
     EXPECT_EQ(host.panes[2], "(16, 12) 4bit");
+    EXPECT_EQ(host.panes[1], "(3, 2) 100%");
     EXPECT_EQ(host.barRefreshes, 1);
     ASSERT_NE(window.displayPalette, nullptr);
     EXPECT_EQ(window.displayPalette->entries().size(), 16U);
@@ -145,10 +147,15 @@ TEST_F(ViewFixture, ActivationShowsTheDocumentOncePerChange) {
     EXPECT_NE(host.palettes.currentKey, attached);
     EXPECT_EQ(host.barRefreshes, 1);
 
+    otherView.ZoomStep(false, true);
     otherView.Activated();
+    EXPECT_EQ(host.panes[1], "(0, 0) 200%");
     view.Activated();
     EXPECT_EQ(host.palettes.currentKey, attached);
     EXPECT_EQ(host.panes[2], "(16, 12) 4bit");
+    window.scroll = {5, 0};
+    view.Scrolled();
+    EXPECT_EQ(host.panes[1], "(8, 2) 100%");
 }
 
 } // namespace

@@ -278,6 +278,8 @@ void ImageView::paintPart(QPainter& painter, const QRect& part, std::uint32_t re
 }
 
 void ImageView::scrollContentsBy(int dx, int dy) {
+    if (viewport()->underMouse())
+        view_.Scrolled();
     if (view_.showsNoPalette()) {
         // The words stay where they are in the window.
         viewport()->update();
