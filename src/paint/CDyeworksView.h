@@ -218,7 +218,8 @@ private:
     bool antsPhase_ = false;
     std::unique_ptr<TextureCanvas> floatingPiece_;
     std::uint32_t drawingValue_ = 0;
-    Tool toolAtPress_ = Tool::Select; ///< The tool that was chosen at the last press.
+    /// The tool that was chosen at the last press, or since then if it is one that selects.
+    Tool toolAtPress_ = Tool::Select;
     /// Of the drag that is going on. Shared with the call that the tool is in: a preview may end the drag
     /// there.
     std::shared_ptr<DrawTool> tool_;

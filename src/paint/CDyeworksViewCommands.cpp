@@ -49,8 +49,12 @@ void CDyeworksView::addCommands() {
 template <Tool kTool>
 void CDyeworksView::OnTool() {
     setCurrentTool(kTool);
-    if (keepsSelection(kTool))
+    if (keepsSelection(kTool)) {
+        // What can be selected and done with a selection need not wait for the next press.
+        if (!dragging())
+            setToolAtPress(kTool);
         return;
+    }
     takeBackSelecting();
     CommitFloatingPiece(true);
 }

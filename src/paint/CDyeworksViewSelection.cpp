@@ -36,6 +36,7 @@ void CDyeworksView::SetFloatingPiece(std::unique_ptr<TextureCanvas> piece) {
     const Rect place{anchor_.x, anchor_.y, anchor_.x + piece->width() - 1, anchor_.y + piece->height() - 1};
     floatingPiece_ = std::move(piece);
     setCurrentTool(Tool::Select);
+    setToolAtPress(Tool::Select);
     SetSelection(place, true);
 }
 
@@ -73,9 +74,12 @@ void CDyeworksView::OnUpdateSpuit(CommandUi& ui) {
 void CDyeworksView::OnSelectAll() {
     CancelDrag();
     setCurrentTool(Tool::Select);
+    setToolAtPress(Tool::Select);
     CommitFloatingPiece(false);
     const TextureCanvas& canvas = document_.canvas();
     SetSelection(Rect{0, 0, canvas.width() - 1, canvas.height() - 1}, false);
+    // The frame of a shape that has just been taken back must not keep the selection's out.
+    redrawRequest_ = {};
     window_.invalidateAll();
 }
 

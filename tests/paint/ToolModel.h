@@ -140,7 +140,7 @@ struct ToolModel {
         if (piece != nullptr)
             commit();
         piece = std::move(newPiece);
-        tool = Tool::Select;
+        tool = atPress = Tool::Select;
         anchor = {std::max(std::min(anchor.x, image->width() - piece->width()), 0),
                   std::max(std::min(anchor.y, image->height() - piece->height()), 0)};
         current = plus(anchor, {piece->width() - 1, piece->height() - 1});
@@ -367,8 +367,11 @@ struct ToolModel {
         if (id == ID_EDIT_SELECT_ALL || id == ID_EDIT_PASTE || id == ID_EDIT_UNDO || id == ID_EDIT_REDO)
             cancel();
         for (const ToolCommand& choice : kToolCommands) {
-            if (choice.command == id)
+            if (choice.command == id) {
                 tool = choice.tool;
+                if (keeps(tool) && !dragging)
+                    atPress = tool;
+            }
         }
         const bool choosesPen = id != ID_TOOL_SPUIT && !keeps(tool) &&
                                 std::ranges::any_of(kToolCommands, [id](auto& c) { return c.command == id; });
@@ -381,7 +384,7 @@ struct ToolModel {
         if (id == ID_TOOL_SPUIT)
             spuit = !spuit;
         if (id == ID_EDIT_SELECT_ALL) {
-            tool = Tool::Select;
+            tool = atPress = Tool::Select;
             selection = whole();
         }
         if (exists() && (id == ID_FLIP_X || id == ID_FLIP_Y))
