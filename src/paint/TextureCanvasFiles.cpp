@@ -63,8 +63,14 @@ void TextureCanvas::FromImage(const TmfImage& image) {
 bool TextureCanvas::LoadTmf(const std::string& path) {
     Destroy();
     TmfImage image;
-    if (!image.readTmf(path) || !Create(image.width, image.height, 1, static_cast<std::uint16_t>(image.bits)))
+    if (!image.readTmf(path))
         return false;
+    if (!Create(image.width, image.height, 1, static_cast<std::uint16_t>(image.bits))) {
+        // The file is as it should be, and its reader has had nothing to tell.
+        applicationMessage(
+            text(StringId::CannotOpenFile, {displayPath(path), describe(FileError::TooLarge)}));
+        return false;
+    }
     FromImage(image);
     return true;
 }

@@ -185,6 +185,15 @@ TEST_F(DocFile, BitmapsThatCannotBeOpenedAreToldWithTheReasonAndLeaveNothingBehi
     EXPECT_TRUE(host.palettes.palettes.empty());
 }
 
+TEST_F(DocFile, AnImageThatNoCanvasHoldsIsToldWithTheReason) {
+    using namespace std::string_literals;
+    platform.files.putFile("c:\\x.tmf",
+                           "\0\x12\x03\0\0\0\x80\0\0\0\x80\0\0\0\0\x08"s + std::string(48, '\0'));
+    EXPECT_FALSE(document.onOpenDocument("c:\\x.tmf"));
+    ASSERT_EQ(platform.messages.shown.size(), 1U);
+    EXPECT_EQ(platform.messages.lastText(), "Cannot open \"c:\\x.tmf\".\n" + describe(FileError::TooLarge));
+}
+
 TEST_F(DocFile, EveryDepthOpensAndIsSavedAsABitmapOnly) {
     const struct {
         std::uint16_t bits;
