@@ -191,7 +191,8 @@ private:
     void settleForSaving();
     /// False when the file could not be written or belongs to another document, which has been reported.
     [[nodiscard]] bool writeCanvas(const std::string& path) const;
-    void takeContents(const TextureCanvas& contents);
+    /// Leaves what the image was in `contents`, or that as it is.
+    void takeContents(TextureCanvas& contents);
 
     void OnTogglePreview(CommandId id);
     void OnUpdatePreview(CommandUi& ui);
@@ -213,6 +214,7 @@ private:
     std::uint64_t newestShown_ = 0;  ///< Counts the states of the image that were to be shown.
     bool historyMoved_ = false;      ///< Since the flag and the title last followed it.
     std::int32_t savedPosition_ = 0; ///< History position that the file holds.
+    bool unrecorded_ = false;        ///< An edit that no step tells of has been made since the last save.
     DisplayPalette displayPalette_;
     std::string attachedName_;
     std::int32_t paletteValue_ = 0;

@@ -100,7 +100,7 @@ bool CDyeworksDoc::RecordUndoStep(const std::optional<Rect>& rectangle) {
     else if (!canvas_.GetChangedRect(changed))
         return false;
     if (snapshot_ == nullptr) {
-        historyMoved_ = true;
+        historyMoved_ = unrecorded_ = true;
         savedPosition_ = kUnreachable;
         return false;
     }
@@ -116,6 +116,7 @@ bool CDyeworksDoc::RecordUndoStep(const std::optional<Rect>& rectangle) {
 
     // The canvas is now in a state that the history cannot name.
     savedPosition_ = kUnreachable;
+    unrecorded_ = true;
     const MessageAnswer answer = platform().messages().show(
         {"Could not allocate buffer for UNDO information.\nDo you clear all UNDO buffer?", "",
          MessageButtons::YesNo, MessageIcon::Warning, MessageOwner::MainWindow});
@@ -151,13 +152,14 @@ void CDyeworksDoc::AfterEdit(CDyeworksView* view) {
     canvas_.ResetChangedRect();
 }
 
-/// Without a current record nothing has been done, or everything has been undone.
+/// Without a current record nothing has been done, or everything has been undone, unless there was no memory
+/// to record it.
 void CDyeworksDoc::followHistory() {
     // An edit that recorded nothing must not mark a document that was just saved.
     if (!historyMoved_)
         return;
     historyMoved_ = false;
-    setModified(history_->currentRecord() != nullptr);
+    setModified(history_->currentRecord() != nullptr || unrecorded_);
 }
 
 bool CDyeworksDoc::Undo() {
@@ -194,6 +196,8 @@ void CDyeworksDoc::ClearUndo() {
 void CDyeworksDoc::replaceHistory(std::int32_t savedPosition) {
     history_ = std::make_unique<UndoHistory>();
     savedPosition_ = savedPosition;
+    if (savedPosition != kUnreachable)
+        unrecorded_ = false;
 }
 
 /// What a drag has drawn so far belongs to no step yet: it must neither be saved nor mixed with other edits.

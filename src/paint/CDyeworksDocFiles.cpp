@@ -85,6 +85,7 @@ bool CDyeworksDoc::onSaveDocument(const std::string& path) {
     if (!writeCanvas(target))
         return false;
     savedPosition_ = history_->position();
+    unrecorded_ = false;
     setModified(false);
     if (path.empty())
         setPathName(target);
@@ -149,19 +150,14 @@ void CDyeworksDoc::Revert() {
 }
 
 /// The image keeps its colours as far as it has the same number of them.
-void CDyeworksDoc::takeContents(const TextureCanvas& contents) {
+void CDyeworksDoc::takeContents(TextureCanvas& contents) {
     if (canvas_.CopyFrom(contents))
         return;
     snapshot_.reset();
-    const std::vector<std::uint8_t> colours(canvas_.colourTable().begin(), canvas_.colourTable().end());
-    if (canvas_.CreateLike(contents))
-        canvas_.CopyFrom(contents);
-    const auto table = canvas_.colourTable();
-    const auto own = contents.colourTable();
-    if (table.size() == colours.size())
-        std::ranges::copy(colours, table.begin());
-    else
-        std::copy_n(own.begin(), std::min(own.size(), table.size()), table.begin());
+    if (contents.colourTable().size() == canvas_.colourTable().size())
+        std::ranges::copy(canvas_.colourTable(), contents.colourTable().begin());
+    // Memory for a second copy might be refused.
+    canvas_.SwapWith(contents);
     forEachView([this](CDyeworksView& view) {
         view.SetZoom(view.zoom());
         if (host_.isActiveImage(*this))

@@ -168,6 +168,8 @@ private:
     bool zoomByKey(Key key);
     [[nodiscard]] bool selecting() const noexcept;
     void takeBackSelecting();
+    /// False when nothing came to the clipboard.
+    [[nodiscard]] bool copySelection() const;
     void restoreSettings();
     void restoreAttachment(const std::string& name);
     void saveSettings() const;

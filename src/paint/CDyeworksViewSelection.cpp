@@ -100,14 +100,17 @@ void CDyeworksView::OnFlip(CommandId id) {
 }
 
 void CDyeworksView::OnCopy() {
-    if (SelectionExists())
-        document_.canvas().CopyToClipboard(selection_);
+    static_cast<void>(copySelection());
+}
+
+bool CDyeworksView::copySelection() const {
+    return SelectionExists() && document_.canvas().CopyToClipboard(selection_);
 }
 
 void CDyeworksView::OnCut() {
     takeBackSelecting();
-    OnCopy();
-    if (SelectionExists())
+    // What came to no clipboard would be lost.
+    if (copySelection())
         document_.FilledBox(this, selection_, 0);
 }
 

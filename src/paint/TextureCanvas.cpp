@@ -128,6 +128,19 @@ bool TextureCanvas::CreateFrom(const BmpImage& bitmap) {
     return true;
 }
 
+void TextureCanvas::SwapWith(TextureCanvas& other) noexcept {
+    std::swap(block_, other.block_);
+    std::swap(blockSize_, other.blockSize_);
+    std::swap(pixelOffset_, other.pixelOffset_);
+    std::swap(stride_, other.stride_);
+    std::swap(width_, other.width_);
+    std::swap(height_, other.height_);
+    std::swap(planes_, other.planes_);
+    std::swap(bitsPerPixel_, other.bitsPerPixel_);
+    std::swap(changed_, other.changed_);
+    std::swap(written_, other.written_);
+}
+
 bool TextureCanvas::PutPixel(std::int32_t x, std::int32_t y, std::uint32_t value) {
     return SetPixel(x, y, value);
 }

@@ -51,6 +51,9 @@ public:
     /// the canvas empty, when the block cannot be had.
     bool CreateFrom(const BmpImage& bitmap);
 
+    /// Exchanges everything with the other canvas. Needs no memory.
+    void SwapWith(TextureCanvas& other) noexcept;
+
     // Shapes. Corners are inclusive and may come in any order.
     /// Bresenham's algorithm (1965), both ends drawn. The result is that of the last pixel.
     virtual bool DrawLine(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,

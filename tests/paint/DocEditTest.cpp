@@ -101,6 +101,7 @@ TEST_F(DocFixture, LostUndoStepIsReportedAndNoStateCountsAsSaved) {
         EXPECT_EQ(platform.messages.shown.back().buttons, MessageButtons::YesNo);
         EXPECT_EQ(document.history().count(), c.stepsAfter);
         EXPECT_TRUE(document.hasUnsavedChanges());
+        EXPECT_EQ(document.title(), "a.tmf * ");
         document.canvas().Create(16, 12, 1, 4);
     }
 }

@@ -101,6 +101,16 @@ TEST_F(Selecting, WhatFloatsIsPartOfTheWork) {
     EXPECT_TRUE(view.hasFloatingPiece());
 }
 
+TEST_F(Selecting, CutLeavesWhatTheClipboardDoesNotTake) {
+    select();
+    const auto before = pixels();
+    for (const bool busy : {true, false}) {
+        platform.clipboard.busy = busy;
+        view.runCommand(ID_EDIT_CUT);
+        EXPECT_EQ(pixels() == before, busy);
+    }
+}
+
 TEST_F(Selecting, AWindowThatClosesPlacesItsPieceInTheImageThatStays) {
     FakeViewWindow otherWindow;
     CDyeworksView other(document, otherWindow);
