@@ -1733,6 +1733,22 @@ The program does not know what folder drive %2 stands for. Start it once with
         <translation>%1、保存していない変更あり</translation>
         <source>Please save the palette that is added to the project.</source>
         <translation>プロジェクトに追加するパレットを保存してください。</translation>
+        <source>There is not enough memory to undo this later.
+Do you want to do it all the same?</source>
+        <translation>この操作は、メモリが足りないため、あとで元に戻せません。
+それでも実行しますか?</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this.</source>
+        <translation>メモリが足りないため、実行できません。</translation>
+    </message>
+    <message>
+        <source>The selection cannot be put on the clipboard.</source>
+        <translation>選択範囲をクリップボードに入れられません。</translation>
+    </message>
+    <message>
+        <source>The bitmap on the clipboard cannot be pasted.</source>
+        <translation>クリップボードのビットマップを貼り付けられません。</translation>
     </message>
 </context>
 </TS>

@@ -30,6 +30,9 @@ public:
     using RecordFactory = std::function<std::unique_ptr<ImageUndoRecord>(
         const TextureCanvas& beforeEdit, const TextureCanvas& afterEdit, const Rect& rectangle)>;
 
+    /// Copies the canvas as it is before an edit; null when it cannot.
+    using SnapshotFactory = std::function<std::unique_ptr<TextureCanvas>(const TextureCanvas& canvas)>;
+
     /// `host` must outlive the document.
     explicit CDyeworksDoc(ImageHost& host, DocumentTemplate* documentTemplate = nullptr);
     ~CDyeworksDoc() override;
@@ -39,9 +42,10 @@ public:
     [[nodiscard]] const TextureCanvas& canvas() const noexcept { return canvas_; }
     [[nodiscard]] const UndoHistory& history() const noexcept { return *history_; }
 
-    // Edits. Each takes a snapshot, draws, records an undo step and refreshes the views; `view` is the one
-    // that caused it, or null. An edit that leaves every pixel as it was records no step. While the stroke
-    // flag is set they only draw and refresh `view`.
+    // Edits. Each takes a snapshot (asking, without memory for it, whether to go on and not be undone),
+    // draws, records an undo step and refreshes the views; `view` is the one that caused it, or null. An edit
+    // that leaves every pixel as it was records no step. While the stroke flag is set they only draw and
+    // refresh `view`.
     void Line(CDyeworksView* view, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
               std::uint32_t value);
     void Box(CDyeworksView* view, const Rect& rectangle, std::uint32_t value);
@@ -57,12 +61,15 @@ public:
     void Flip(CDyeworksView* view, const Rect& rectangle, std::uint32_t flags);
     /// Scales the piece into the rectangle (right and bottom exclusive).
     void PlaceFloatingPiece(CDyeworksView* view, const TextureCanvas& piece, const Rect& rectangle);
-    /// Takes over the image's texels. False, changing nothing, unless size and depth are the document's.
+    /// Takes over the image's texels. False, changing nothing, unless size and depth are the document's and
+    /// there is memory for it; the caller tells.
     bool SetImage(CDyeworksView* view, const TmfImage& image);
 
     // What edits are made of.
     /// Keeps a copy of the canvas as it is before an edit. False when there is no memory for it.
     bool TakeSnapshot();
+    /// The same for a drag, which can go on without it in no case: the user is told.
+    [[nodiscard]] bool BeginStroke();
     /// Records what became of `rectangle` (the canvas's changed rectangle when none is given) since the
     /// snapshot. False when nothing changed and when the step could not be made, which the user has then been
     /// told.
@@ -80,6 +87,8 @@ public:
     [[nodiscard]] bool CanUndo() const;
     [[nodiscard]] bool CanRedo() const;
     void ClearUndo();
+    /// Replaces what copies the canvas for a snapshot; null when it cannot. It is `TextureCanvas::Clone`.
+    void setSnapshotFactory(SnapshotFactory factory) { makeSnapshot_ = std::move(factory); }
     /// Replaces what cuts the pieces of undo steps, `ImageUndoRecord::make`.
     void setRecordFactory(RecordFactory factory) { makeRecord_ = std::move(factory); }
 
@@ -166,6 +175,7 @@ private:
 
     template <typename Draw>
     void edit(CDyeworksView* view, Draw draw);
+    [[nodiscard]] bool beginEdit();
     void replaceHistory(std::int32_t savedPosition);
     /// Calls `visit` with each of the document's image views.
     template <typename Visit>
@@ -208,6 +218,7 @@ private:
     TextureCanvas canvas_;
     std::unique_ptr<UndoHistory> history_;
     RecordFactory makeRecord_;
+    SnapshotFactory makeSnapshot_ = &TextureCanvas::Clone;
     std::unique_ptr<TextureCanvas> snapshot_;
     bool stroke_ = false;
     std::array<Preview, kPreviews> previews_{};

@@ -7,10 +7,25 @@ namespace dyeworks {
 
 template <typename Draw>
 void CDyeworksDoc::edit(CDyeworksView* view, Draw draw) {
-    TakeSnapshot();
+    if (!beginEdit())
+        return;
     draw();
     RecordUndoStep();
     AfterEdit(view);
+}
+
+/// Takes the snapshot that an edit is undone from. False: there is no memory for it, and the user would
+/// rather leave the edit.
+bool CDyeworksDoc::beginEdit() {
+    return TakeSnapshot() || applicationMessage(text(StringId::WithoutUndoQuestion), MessageButtons::YesNo) ==
+                                 MessageAnswer::Yes;
+}
+
+bool CDyeworksDoc::BeginStroke() {
+    if (TakeSnapshot())
+        return true;
+    applicationMessage(text(StringId::NotEnoughMemory));
+    return false;
 }
 
 void CDyeworksDoc::Line(CDyeworksView* view, std::int32_t x1, std::int32_t y1, std::int32_t x2,
@@ -68,7 +83,8 @@ void CDyeworksDoc::PlaceFloatingPiece(CDyeworksView* view, const TextureCanvas& 
 
 bool CDyeworksDoc::SetImage(CDyeworksView* view, const TmfImage& image) {
     takeBackDrags();
-    TakeSnapshot();
+    if (!TakeSnapshot())
+        return false;
     const TextureCanvas source(image);
     if (!canvas_.CopyFrom(source))
         return false;
@@ -85,7 +101,7 @@ bool CDyeworksDoc::TakeSnapshot() {
     if (canvas_.GetWrittenRect(written) && snapshot_ != nullptr && !snapshot_->CopyRectFrom(canvas_, written))
         snapshot_.reset();
     if (snapshot_ == nullptr)
-        snapshot_ = canvas_.Clone();
+        snapshot_ = makeSnapshot_(canvas_);
     if (snapshot_ != nullptr)
         canvas_.ResetWrittenRect();
     return snapshot_ != nullptr;

@@ -104,7 +104,12 @@ void CDyeworksView::OnCopy() {
 }
 
 bool CDyeworksView::copySelection() const {
-    return SelectionExists() && document_.canvas().CopyToClipboard(selection_);
+    if (!SelectionExists())
+        return false;
+    const bool copied = document_.canvas().CopyToClipboard(selection_);
+    if (!copied)
+        applicationMessage(text(StringId::CannotCopy));
+    return copied;
 }
 
 void CDyeworksView::OnCut() {
@@ -120,7 +125,10 @@ void CDyeworksView::OnUpdateSelected(CommandUi& ui) {
 
 void CDyeworksView::OnPaste() {
     CancelDrag();
-    SetFloatingPiece(TextureCanvas::PasteFromClipboard());
+    std::unique_ptr<TextureCanvas> piece = TextureCanvas::PasteFromClipboard();
+    if (piece == nullptr && platform().clipboard().offers(ClipboardFormat::Bitmap))
+        applicationMessage(text(StringId::CannotPaste));
+    SetFloatingPiece(std::move(piece));
 }
 
 void CDyeworksView::OnUpdatePaste(CommandUi& ui) {

@@ -7,7 +7,7 @@ namespace dyeworks {
 
 bool Stroke::begin() {
     touched_ = kNothing;
-    return view_.document().TakeSnapshot();
+    return view_.document().BeginStroke();
 }
 
 void Stroke::takeBack() {

@@ -22,6 +22,10 @@ enum class StringId {
     CannotReadFile,      ///< %1 file
     FileIsOpenElsewhere, ///< %1 file
     RevertQuestion,      ///< %1 document
+    WithoutUndoQuestion,
+    NotEnoughMemory,
+    CannotCopy,
+    CannotPaste,
 
     BmpErrorNotABitmap,
     BmpErrorTruncated,

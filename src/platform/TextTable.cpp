@@ -34,6 +34,12 @@ constexpr std::array kRows{
     Row{StringId::FileIsOpenElsewhere, QT_TRANSLATE_NOOP("Text", "\"%1\" is open in another window.")},
     Row{StringId::RevertQuestion,
         QT_TRANSLATE_NOOP("Text", "Go back to the saved file?\nThe changes to \"%1\" will be lost.")},
+    Row{StringId::WithoutUndoQuestion,
+        QT_TRANSLATE_NOOP(
+            "Text", "There is not enough memory to undo this later.\nDo you want to do it all the same?")},
+    Row{StringId::NotEnoughMemory, QT_TRANSLATE_NOOP("Text", "There is not enough memory for this.")},
+    Row{StringId::CannotCopy, QT_TRANSLATE_NOOP("Text", "The selection cannot be put on the clipboard.")},
+    Row{StringId::CannotPaste, QT_TRANSLATE_NOOP("Text", "The bitmap on the clipboard cannot be pasted.")},
 
     Row{StringId::BmpErrorNotABitmap,
         QT_TRANSLATE_NOOP("Text", "The file is not a bitmap, or one of an unknown kind.")},

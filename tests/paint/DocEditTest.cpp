@@ -79,6 +79,22 @@ TEST_F(DocFixture, FlagAndTitleFollowTheHistory) {
     EXPECT_TRUE(document.isModified());
 }
 
+TEST_F(DocFixture, WithoutMemoryToUndoItAnEditIsAskedAboutFirst) {
+    document.setPathName("c:\\a.tmf");
+    document.setSnapshotFactory([](const auto&) { return nullptr; });
+    const auto before = pixels();
+    for (const MessageAnswer answer : {MessageAnswer::No, MessageAnswer::Yes}) {
+        platform.messages.answerWith(answer);
+        document.Fill(nullptr, 0, 0, 3);
+        EXPECT_EQ(platform.messages.lastText(), text(StringId::WithoutUndoQuestion));
+        EXPECT_EQ(pixels() == before, answer == MessageAnswer::No);
+        EXPECT_EQ(document.hasUnsavedChanges(), answer == MessageAnswer::Yes);
+        EXPECT_EQ(document.title(), answer == MessageAnswer::Yes ? "a.tmf * " : "a.tmf");
+    }
+    EXPECT_FALSE(document.BeginStroke());
+    EXPECT_EQ(platform.messages.lastText(), text(StringId::NotEnoughMemory));
+}
+
 TEST_F(DocFixture, LostUndoStepIsReportedAndNoStateCountsAsSaved) {
     struct Case {
         MessageAnswer answer;

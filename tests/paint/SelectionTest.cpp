@@ -108,6 +108,7 @@ TEST_F(Selecting, CutLeavesWhatTheClipboardDoesNotTake) {
         platform.clipboard.busy = busy;
         view.runCommand(ID_EDIT_CUT);
         EXPECT_EQ(pixels() == before, busy);
+        EXPECT_EQ(platform.messages.shown.size(), 1U);
     }
 }
 
