@@ -1731,8 +1731,12 @@ The program does not know what folder drive %2 stands for. Start it once with
     <message>
         <source>%1, unsaved changes</source>
         <translation>%1、保存していない変更あり</translation>
+    </message>
+    <message>
         <source>Please save the palette that is added to the project.</source>
         <translation>プロジェクトに追加するパレットを保存してください。</translation>
+    </message>
+    <message>
         <source>There is not enough memory to undo this later.
 Do you want to do it all the same?</source>
         <translation>この操作は、メモリが足りないため、あとで元に戻せません。

@@ -248,8 +248,12 @@ std::int32_t PathCommonLength(const std::string& a, const std::string& b, std::i
 std::string pathFrom(const std::string& base, const std::string& path) {
     std::string relative;
     PathRelativeTo(relative, base, path);
-    const std::string back = isRooted(relative) ? relative : joined(base, relative);
-    return isSamePlace(back, path) ? relative : platform().files().fullPath(path);
+    // As the name of a file is read, and as that of a folder: they differ on what looks like a drive.
+    const std::string file = isRooted(relative) ? relative : joined(base, relative);
+    std::string folder = relative;
+    const bool leadsBack = isSamePlace(file, path) &&
+                           (relative.empty() || (PathAbsolute(folder, base) && isSamePlace(folder, path)));
+    return leadsBack ? relative : platform().files().fullPath(path);
 }
 
 std::string fileNameIn(const std::string& directories, const std::string& name) {

@@ -70,7 +70,7 @@ TEST_F(AllTwenty, AnswerFromInsideEveryEntryPointAndOnNoOtherThread) {
     EXPECT_EQ(project().pictureNames(), pictures);
 
     ASSERT_TRUE(run(ID_PROJECT_CLOSE));
-    EXPECT_EQ(texts(fake_), Lines(2, "Save changes to c:\\proj\\sea.tpf?"));
+    EXPECT_EQ(texts(fake_), Lines(3, "Save changes to c:\\proj\\sea.tpf?")) << "once more after onDelete";
 
     Lines expected;
     const auto expect = [&](const std::string& where, const std::string& answers) {
