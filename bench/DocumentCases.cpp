@@ -43,6 +43,16 @@ std::size_t heldBytes() {
     return info.uordblks + info.hblkhd;
 }
 
+void pixel(CDyeworksDoc& document, std::int32_t x, std::int32_t y, std::uint32_t value) {
+    document.Edit(nullptr, [=](TextureCanvas& canvas) { canvas.PutPixel(x, y, value); });
+}
+
+void fill(CDyeworksDoc& document, std::uint32_t value) {
+    document.Edit(nullptr, [=](TextureCanvas& canvas) {
+        canvas.FillBox(kWhole.left, kWhole.top, kWhole.right, kWhole.bottom, value);
+    });
+}
+
 using Step = std::function<void(CDyeworksDoc& document, std::uint32_t turn)>;
 
 /// Measures steps on an image that has been edited all over once and holds values without any order.
@@ -54,8 +64,8 @@ void add(const std::string& name, std::uint16_t bits, Baseline against, std::siz
         CDyeworksDoc document(host);
         if (!document.canvas().Create(kSide, kSide, 1, bits))
             state.SkipWithError("no memory");
-        document.FilledBox(nullptr, kWhole, 3);
-        document.Pixel(nullptr, 0, 0, 1);
+        fill(document, 3);
+        pixel(document, 0, 0, 1);
         document.ClearUndo();
         std::uint32_t turn = 0;
         for (auto _ : state) {
@@ -67,14 +77,14 @@ void add(const std::string& name, std::uint16_t bits, Baseline against, std::siz
 }
 
 void stroke(CDyeworksDoc& document, std::int32_t x, std::int32_t y, std::uint32_t value) {
-    if (!document.TakeSnapshot())
+    ImageEdit* const edit = document.BeginEdit(nullptr);
+    if (edit == nullptr)
         std::abort();
     for (std::int32_t n = 0; n < 32; ++n) {
-        document.canvas().DrawLine(x + n, y, x + 31 - n, y + 31, value);
-        document.canvas().ResetChangedRect();
+        edit->canvas().DrawLine(x + n, y, x + 31 - n, y + 31, value);
+        document.ShowEdit();
     }
-    document.RecordUndoStep(kWhole);
-    document.AfterEdit(nullptr);
+    document.CommitEdit();
 }
 
 void addHundredStrokes(std::uint16_t bits) {
@@ -85,7 +95,7 @@ void addHundredStrokes(std::uint16_t bits) {
         CDyeworksDoc document(host);
         if (!document.canvas().Create(kSide, kSide, 1, bits))
             state.SkipWithError("no memory");
-        document.Pixel(nullptr, 0, 0, 1); // the snapshot is there from now on
+        pixel(document, 0, 0, 1); // the snapshot is there from now on
         document.ClearUndo();
         std::uint32_t turn = 0;
         std::size_t before = 0;
@@ -109,25 +119,26 @@ void registerDocumentCases() {
         const std::size_t bytes = kTexels * bits / 8;
         add("Edit-texel", bits, Baseline::Memcpy, bytes, [](CDyeworksDoc& document, std::uint32_t turn) {
             // Another value in each round along the row.
-            document.Pixel(nullptr, static_cast<std::int32_t>(turn * 97 % kSide), 5, turn + turn / kSide);
+            pixel(document, static_cast<std::int32_t>(turn * 97 % kSide), 5, turn + turn / kSide);
         });
         add("Undo-redo-texel", bits, Baseline::Memcpy, bytes, [](CDyeworksDoc& document, std::uint32_t turn) {
             if (turn == 1)
-                document.Pixel(nullptr, 9, 9, 2);
+                pixel(document, 9, 9, 2);
             document.Undo();
             document.Redo();
         });
         // The history is emptied each time, as the baseline frees what it has copied into.
         add("RecordStep-whole", bits, Baseline::MemcpyFresh, 2 * bytes,
             [](CDyeworksDoc& document, std::uint32_t turn) {
-                document.canvas().SetPixel(0, 0, turn);
-                document.canvas().SetPixel(kSide - 1, kSide - 1, turn);
-                document.RecordUndoStep(kWhole);
+                document.Edit(nullptr, [=](TextureCanvas& canvas) {
+                    canvas.SetPixel(0, 0, turn);
+                    canvas.SetPixel(kSide - 1, kSide - 1, turn);
+                });
                 document.ClearUndo();
             });
         add("Edit-whole", bits, Baseline::MemcpyFresh, 2 * bytes,
             [](CDyeworksDoc& document, std::uint32_t turn) {
-                document.FilledBox(nullptr, kWhole, turn);
+                fill(document, turn);
                 document.ClearUndo();
             });
         addHundredStrokes(bits);

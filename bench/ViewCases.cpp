@@ -44,9 +44,9 @@ public:
     }
     void invalidateAll() override { invalidate({0, 0, client_.width, client_.height}); }
     void repaintNow() override {
-        const CDyeworksView::RedrawRequest request = view_->BeginPaint();
+        const ImageSelection::RedrawRequest request = view_->BeginPaint();
         Surface surface{pixels_.data(), client_.width, client_.height, client_.width, 0, 0};
-        const std::uint32_t bits = request.bits == 0 ? 0 : request.bits | CDyeworksView::kRedrawImage;
+        const std::uint32_t bits = request.bits == 0 ? 0 : request.bits | ImageSelection::kRedrawImage;
         for (const Rect& area : std::exchange(stale_, {}))
             view_->Paint(surface, area, kButtonFace, bits);
         benchmark::ClobberMemory();

@@ -12,7 +12,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::int32_t kUnreachable = -1;
 constexpr const char* kModifiedMark = " * ";
 constexpr const char* kFilter = "TLF Files (*.tlf)|*.tlf|All Files (*.*)|*.*||";
 constexpr const char* kExtension = ".tlf";
@@ -46,22 +45,21 @@ std::uint8_t widened(std::uint8_t fiveBits) {
 } // namespace
 
 TextureLookupTable::TextureLookupTable()
-    : history(std::make_unique<UndoHistory>())
-    , makeRecord_(makePaletteRecord) {}
+    : makeRecord_(makePaletteRecord) {}
 
 TextureLookupTable::TextureLookupTable(const TextureLookupTable& other)
     : table(other.table)
     , path(other.path)
     , title(other.title)
     , modified(other.modified)
-    , history(std::make_unique<UndoHistory>())
-    , savedPosition_(other.standsAtSavedPosition() ? history->position() : kUnreachable)
     , savedTable_(other.savedTable_)
-    , makeRecord_(other.makeRecord_) {}
+    , makeRecord_(other.makeRecord_) {
+    if (!other.edits_.standsAtSavedPosition())
+        edits_.loseSavedPosition();
+}
 
 TextureLookupTable::TextureLookupTable(const TlutData& source)
     : table(source)
-    , history(std::make_unique<UndoHistory>())
     , makeRecord_(makePaletteRecord) {}
 
 TextureLookupTable::~TextureLookupTable() = default;
@@ -219,12 +217,12 @@ bool TextureLookupTable::createPalette(DisplayPalette& palette) const {
 }
 
 bool TextureLookupTable::hasUnsavedChanges() const {
-    return modified || !standsAtSavedPosition() || !holdsWhatTheFileHolds();
+    return modified || !edits_.standsAtSavedPosition() || !holdsWhatTheFileHolds();
 }
 
 void TextureLookupTable::markUnsaved() {
     modified = true;
-    savedPosition_ = kUnreachable;
+    edits_.loseSavedPosition();
 }
 
 bool TextureLookupTable::querySave() {
@@ -254,47 +252,35 @@ bool TextureLookupTable::beginEdit() {
 }
 
 bool TextureLookupTable::commitEdit() {
-    if (!history)
+    if (history == nullptr)
         return false;
-    if (auto record = newRecord())
-        return history->add(std::move(record), -1);
-
-    // The table is no longer what its position in the history stands for.
-    savedPosition_ = kUnreachable;
-    if (applicationMessage("Could not allocate buffer for UNDO information.\nDo you clear all UNDO buffer?",
-                           MessageButtons::YesNo) == MessageAnswer::Yes)
-        resetHistory();
-    return false;
+    return edits_.add(newRecord());
 }
 
 bool TextureLookupTable::undo() {
-    if (!history || !history->undo(&table))
+    if (!edits_.undo(&table))
         return false;
     updateTitle();
     return true;
 }
 
 bool TextureLookupTable::redo() {
-    if (!history || !history->redo(&table))
+    if (!edits_.redo(&table))
         return false;
     updateTitle();
     return true;
 }
 
 bool TextureLookupTable::canUndo() const {
-    return history && history->currentRecord() != nullptr;
+    return edits_.canUndo();
 }
 
 bool TextureLookupTable::canRedo() const {
-    return history && history->redoRecord() != nullptr;
+    return edits_.canRedo();
 }
 
 void TextureLookupTable::resetHistory() {
-    const bool saved = standsAtSavedPosition();
-    // First the old one goes: the user may have asked for this because memory is short.
-    history.reset();
-    history = std::make_unique<UndoHistory>();
-    savedPosition_ = saved ? history->position() : kUnreachable;
+    edits_.restart();
 }
 
 void TextureLookupTable::titleFromPath() {
@@ -325,17 +311,13 @@ bool TextureLookupTable::changed(bool result) {
     return result;
 }
 
-bool TextureLookupTable::standsAtSavedPosition() const {
-    return !history || history->position() == savedPosition_;
-}
-
 /// A palette that was never saved or opened has no file to differ from.
 bool TextureLookupTable::holdsWhatTheFileHolds() const {
     return !savedTable_ || *savedTable_ == table;
 }
 
 void TextureLookupTable::markSaved() {
-    savedPosition_ = history ? history->position() : 0;
+    edits_.markSaved();
     savedTable_ = table;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "core/EditHistory.h"
 #include "core/TlutData.h"
-#include "core/UndoHistory.h"
 #include "platform/DisplayPalette.h"
 
 #include <cstdint>
@@ -13,6 +13,8 @@ namespace dyeworks {
 
 /// A palette: its table, its name and file, and the history of its edits.
 class TextureLookupTable {
+    EditHistory edits_{MessageIcon::Question};
+
 public:
     TextureLookupTable();
     /// Copies table, names and modified state; the copy starts a history of its own.
@@ -103,17 +105,15 @@ public:
         path; ///< Path of the file, in a palette set a full one; "*palette%d" as long as there is none.
     std::string title; ///< Name shown to the user.
     bool modified = false;
-    std::unique_ptr<UndoHistory> history;
+    std::unique_ptr<UndoHistory>& history = edits_.steps;
     std::unique_ptr<TlutData> snapshot; ///< The table at `beginEdit`.
 
 private:
     bool changed(bool result);
-    [[nodiscard]] bool standsAtSavedPosition() const;
     [[nodiscard]] bool holdsWhatTheFileHolds() const;
     void markSaved();
     [[nodiscard]] std::unique_ptr<UndoRecord> newRecord() const;
 
-    std::int32_t savedPosition_ = 0; ///< History position that the file holds; -1 when none can be reached.
     std::optional<TlutData> savedTable_; ///< What was last written or read.
     RecordFactory makeRecord_;
 };

@@ -16,7 +16,6 @@ constexpr const char* kModifiedMark = " * ";
 CDyeworksDoc::CDyeworksDoc(ImageHost& host, DocumentTemplate* documentTemplate)
     : CDocument(documentTemplate)
     , host_(host)
-    , history_(std::make_unique<UndoHistory>())
     , makeRecord_(&ImageUndoRecord::make) {
     onRange(ID_PREVIEW1, ID_PREVIEW2, &CDyeworksDoc::OnTogglePreview, &CDyeworksDoc::OnUpdatePreview);
     onRange(ID_IMPORT_FIRST, ID_IMPORT_LAST, &CDyeworksDoc::OnImport, &CDyeworksDoc::OnUpdateImport);
@@ -28,6 +27,7 @@ CDyeworksDoc::CDyeworksDoc(ImageHost& host, DocumentTemplate* documentTemplate)
 }
 
 CDyeworksDoc::~CDyeworksDoc() {
+    openEdit_.reset();
     if (host_.lastActivatedImage() == this)
         host_.setLastActivatedImage(nullptr);
 }
@@ -121,17 +121,6 @@ const DisplayPalette* CDyeworksDoc::GetDisplayPalette() {
     return palette->createPalette(displayPalette_) ? &displayPalette_ : nullptr;
 }
 
-Size CDyeworksDoc::SwatchGridSize() const {
-    switch (canvas_.bitsPerPixel()) {
-    case 0:
-        return {0, 0};
-    case 4:
-        return {4, 4};
-    default:
-        return {16, 16};
-    }
-}
-
 void CDyeworksDoc::setPathName(const std::string& path) {
     CDocument::setPathName(path);
     // Also when the file goes by the very title that was composed last.
@@ -151,8 +140,8 @@ std::string CDyeworksDoc::displayName() const {
 
 bool CDyeworksDoc::hasUnsavedChanges() const {
     bool floats = false;
-    forEachView([&](const CDyeworksView& view) { floats = floats || view.hasFloatingPiece(); });
-    return floats || isModified() || history_->position() != savedPosition_;
+    forEachViewer([&](const ImageViewer& viewer) { floats = floats || viewer.hasFloatingPiece(); });
+    return floats || isModified() || !edits_.standsAtSavedPosition();
 }
 
 void CDyeworksDoc::OnUpdateAttach(CommandUi& ui) {

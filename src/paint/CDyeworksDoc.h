@@ -1,10 +1,12 @@
 #pragma once
 
-#include "core/UndoHistory.h"
+#include "core/EditHistory.h"
 #include "framework/CDocument.h"
-#include "paint/CDyeworksView.h"
+#include "paint/CanvasSnapshot.h"
+#include "paint/ImageEdit.h"
 #include "paint/ImageHost.h"
 #include "paint/ImageUndoRecord.h"
+#include "paint/ImageViewer.h"
 #include "paint/Rect.h"
 #include "paint/TextureCanvas.h"
 #include "platform/DisplayPalette.h"
@@ -24,14 +26,11 @@ class TextureLookupTable;
 
 /// The document of an image: its canvas, the name of the palette that it is attached to, and the history of
 /// its edits. Rectangles are inclusive texels unless said otherwise.
-class CDyeworksDoc : public CDocument {
+class CDyeworksDoc : public CDocument, private ImageEditHost {
 public:
     /// Cuts the pieces of an undo step; null when it cannot.
     using RecordFactory = std::function<std::unique_ptr<ImageUndoRecord>(
         const TextureCanvas& beforeEdit, const TextureCanvas& afterEdit, const Rect& rectangle)>;
-
-    /// Copies the canvas as it is before an edit; null when it cannot.
-    using SnapshotFactory = std::function<std::unique_ptr<TextureCanvas>(const TextureCanvas& canvas)>;
 
     /// `host` must outlive the document.
     explicit CDyeworksDoc(ImageHost& host, DocumentTemplate* documentTemplate = nullptr);
@@ -40,55 +39,38 @@ public:
     [[nodiscard]] ImageHost& host() const noexcept { return host_; }
     [[nodiscard]] TextureCanvas& canvas() noexcept { return canvas_; }
     [[nodiscard]] const TextureCanvas& canvas() const noexcept { return canvas_; }
-    [[nodiscard]] const UndoHistory& history() const noexcept { return *history_; }
+    [[nodiscard]] const UndoHistory& history() const noexcept { return *edits_.steps; }
 
-    // Edits. Each takes a snapshot (asking, without memory for it, whether to go on and not be undone),
-    // draws, records an undo step and refreshes the views; `view` is the one that caused it, or null. An edit
-    // that leaves every pixel as it was records no step. While the stroke flag is set they only draw and
-    // refresh `view`.
-    void Line(CDyeworksView* view, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
-              std::uint32_t value);
-    void Box(CDyeworksView* view, const Rect& rectangle, std::uint32_t value);
-    void FilledBox(CDyeworksView* view, const Rect& rectangle, std::uint32_t value);
-    void Ellipse(CDyeworksView* view, const Rect& rectangle, std::uint32_t value);
-    void FilledEllipse(CDyeworksView* view, const Rect& rectangle, std::uint32_t value);
-    void Fill(CDyeworksView* view, std::int32_t x, std::int32_t y, std::uint32_t value);
-    /// A rectangle of zeroes means the whole image.
-    void Replace(CDyeworksView* view, const Rect& rectangle, std::int32_t x, std::int32_t y,
-                 std::uint32_t value);
-    void Pixel(CDyeworksView* view, std::int32_t x, std::int32_t y, std::uint32_t value);
-    /// `flags` as in `TextureCanvas::Flip`.
-    void Flip(CDyeworksView* view, const Rect& rectangle, std::uint32_t flags);
-    /// Scales the piece into the rectangle (right and bottom exclusive).
-    void PlaceFloatingPiece(CDyeworksView* view, const TextureCanvas& piece, const Rect& rectangle);
+    // Edits: all that changes the canvas. `viewer` is the one that causes it, or null.
+    /// Opens an edit, which the document owns: it is drawn through, shown with `ShowEdit`, and ended with
+    /// `CommitEdit` or `DropEdit`. One that is open already, and its drag, are taken back. Null when there is
+    /// no memory to take the edit back with, which the user has been told.
+    ///
+    /// The document ends an open edit by itself, and tells its viewer with `CancelDrag`, before anything else
+    /// changes the image, saves it or replaces it.
+    [[nodiscard]] ImageEdit* BeginEdit(ImageViewer* viewer);
+    /// Shows what was drawn through the open edit in its viewer and in the previews, which may end it.
+    void ShowEdit();
+    /// Makes the open edit one undo step and shows it in all views. One that leaves every texel as it was
+    /// records none.
+    void CommitEdit();
+    /// Takes the open edit back.
+    void DropEdit();
+    /// An edit from begin to commit. Without memory to undo it the user is asked first; false when it was
+    /// left then.
+    bool Edit(ImageViewer* viewer, const std::function<void(TextureCanvas&)>& draw);
     /// Takes over the image's texels. False, changing nothing, unless size and depth are the document's and
     /// there is memory for it; the caller tells.
-    bool SetImage(CDyeworksView* view, const TmfImage& image);
-
-    // What edits are made of.
-    /// Keeps a copy of the canvas as it is before an edit. False when there is no memory for it.
-    bool TakeSnapshot();
-    /// The same for a drag, which can go on without it in no case: the user is told.
-    [[nodiscard]] bool BeginStroke();
-    /// Records what became of `rectangle` (the canvas's changed rectangle when none is given) since the
-    /// snapshot. False when nothing changed and when the step could not be made, which the user has then been
-    /// told.
-    bool RecordUndoStep(const std::optional<Rect>& rectangle = std::nullopt);
-    /// Puts the canvas back to the snapshot, if anything was drawn since, and refreshes `view`.
-    void RestoreSnapshot(CDyeworksView* view);
-    /// While set, snapshots and undo steps are not taken and refreshes reach only the view that draws.
-    void SetStrokeFlag(bool stroke) noexcept { stroke_ = stroke; }
-    /// Shows the changed rectangle in `view` and all other views, brings modified flag and title in step with
-    /// the history, and resets the changed rectangle.
-    void AfterEdit(CDyeworksView* view);
+    bool SetImage(const TmfImage& image);
 
     bool Undo();
     bool Redo();
-    [[nodiscard]] bool CanUndo() const;
-    [[nodiscard]] bool CanRedo() const;
-    void ClearUndo();
-    /// Replaces what copies the canvas for a snapshot; null when it cannot. It is `TextureCanvas::Clone`.
-    void setSnapshotFactory(SnapshotFactory factory) { makeSnapshot_ = std::move(factory); }
+    [[nodiscard]] bool CanUndo() const { return edits_.canUndo(); }
+    [[nodiscard]] bool CanRedo() const { return edits_.canRedo(); }
+    void ClearUndo() { edits_.restart(); }
+    /// Replaces what copies the canvas as it is before an edit; null when it cannot. It is
+    /// `TextureCanvas::Clone`.
+    void setSnapshotFactory(CanvasSnapshot::Factory factory) { snapshot_.setFactory(std::move(factory)); }
     /// Replaces what cuts the pieces of undo steps, `ImageUndoRecord::make`.
     void setRecordFactory(RecordFactory factory) { makeRecord_ = std::move(factory); }
 
@@ -115,15 +97,10 @@ public:
     /// A display palette of the current palette's colours, made anew by each call and valid until the next;
     /// null without a current palette.
     [[nodiscard]] const DisplayPalette* GetDisplayPalette();
-    /// Columns and rows in which the palette bar lays out this image's colours.
-    [[nodiscard]] Size SwatchGridSize() const;
     /// First palette entry that the image uses: what the palette bar stored when its bank was last chosen for
     /// this image.
     [[nodiscard]] std::int32_t paletteValue() const noexcept { return paletteValue_; }
     void setPaletteValue(std::int32_t value) noexcept { paletteValue_ = value; }
-
-    /// A copy of the pixels, or null when it cannot be made.
-    [[nodiscard]] std::unique_ptr<TmfImage> GetImage() const { return canvas_.ToImage(); }
 
     // Plug-ins, by their numbers in the lists of `ImagePlugIns`.
     /// Shows the image in the previews that are on, if this is the active image. One that fails is switched
@@ -163,8 +140,13 @@ private:
     static constexpr int kHintPixels = 0;  ///< The canvas's changed rectangle has new pixels.
     static constexpr int kHintColours = 1; ///< The image shows in other colours.
 
-    /// Saved position of a file whose contents no step of the history leads back to.
-    static constexpr std::int32_t kUnreachable = -1;
+    void showDrawn(ImageViewer* viewer) override;
+    void showTakenBack(ImageViewer* viewer) override;
+    bool recordStep(const TextureCanvas& before, const Rect& changed) override;
+    void showEverywhere(ImageViewer* viewer);
+    [[nodiscard]] bool openEdit(ImageViewer* viewer);
+    void endOpenEdit();
+    void contentsAreSaved();
 
     static constexpr std::int32_t kPreviews = 2;
     struct Preview {
@@ -173,20 +155,15 @@ private:
         std::uint64_t seen = 0; ///< State of the image that it was last given.
     };
 
-    template <typename Draw>
-    void edit(CDyeworksView* view, Draw draw);
-    [[nodiscard]] bool beginEdit();
-    void replaceHistory(std::int32_t savedPosition);
     /// Calls `visit` with each of the document's image views.
     template <typename Visit>
-    void forEachView(Visit visit) const {
+    void forEachViewer(Visit visit) const {
         for (DocumentView* view : std::vector(views())) {
-            if (auto* const imageView = dynamic_cast<CDyeworksView*>(view))
-                visit(*imageView);
+            if (auto* const viewer = dynamic_cast<ImageViewer*>(view))
+                visit(*viewer);
         }
     }
     void takeBackDrags();
-    void dropSelections();
     void followHistory();
     void refreshPalette(bool ofAnyPalette);
     [[nodiscard]] std::int32_t firstEntryFor(const TextureLookupTable& palette) const;
@@ -216,16 +193,14 @@ private:
 
     ImageHost& host_;
     TextureCanvas canvas_;
-    std::unique_ptr<UndoHistory> history_;
+    CanvasSnapshot snapshot_;
+    EditHistory edits_{MessageIcon::Warning};
     RecordFactory makeRecord_;
-    SnapshotFactory makeSnapshot_ = &TextureCanvas::Clone;
-    std::unique_ptr<TextureCanvas> snapshot_;
-    bool stroke_ = false;
+    std::unique_ptr<ImageEdit> openEdit_;
     std::array<Preview, kPreviews> previews_{};
-    std::uint64_t newestShown_ = 0;  ///< Counts the states of the image that were to be shown.
-    bool historyMoved_ = false;      ///< Since the flag and the title last followed it.
-    std::int32_t savedPosition_ = 0; ///< History position that the file holds.
-    bool unrecorded_ = false;        ///< An edit that no step tells of has been made since the last save.
+    std::uint64_t newestShown_ = 0; ///< Counts the states of the image that were to be shown.
+    bool historyMoved_ = false;     ///< Since the flag and the title last followed it.
+    bool unrecorded_ = false;       ///< An edit that no step tells of has been made since the last save.
     DisplayPalette displayPalette_;
     std::string attachedName_;
     std::int32_t paletteValue_ = 0;

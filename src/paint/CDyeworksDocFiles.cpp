@@ -1,7 +1,6 @@
 #include "framework/DocumentTemplate.h"
 #include "framework/PathText.h"
 #include "paint/CDyeworksDoc.h"
-#include "paint/CDyeworksView.h"
 #include "paint/CanvasFile.h"
 #include "paint/OpenProject.h"
 #include "platform/Platform.h"
@@ -54,8 +53,8 @@ bool CDyeworksDoc::onNewDocument() {
     if (!wanted || !CDocument::onNewDocument() ||
         !canvas_.Create(wanted->width, wanted->height, 1, wanted->bitsPerPixel))
         return false;
-    snapshot_.reset();
-    replaceHistory(0);
+    snapshot_.forget();
+    contentsAreSaved();
     RefreshPalette();
     host_.AskUseProject();
     return true;
@@ -64,8 +63,8 @@ bool CDyeworksDoc::onNewDocument() {
 bool CDyeworksDoc::onOpenDocument(const std::string& path) {
     if (!CDocument::onOpenDocument(path) || !loadCanvas(canvas_, path))
         return false;
-    snapshot_.reset();
-    replaceHistory(0);
+    snapshot_.forget();
+    contentsAreSaved();
     if (isBmpName(path))
         makePaletteOfColours();
     else
@@ -84,7 +83,7 @@ bool CDyeworksDoc::onSaveDocument(const std::string& path) {
     }
     if (!writeCanvas(target))
         return false;
-    savedPosition_ = history_->position();
+    edits_.markSaved();
     unrecorded_ = false;
     setModified(false);
     if (path.empty())
@@ -95,9 +94,9 @@ bool CDyeworksDoc::onSaveDocument(const std::string& path) {
 void CDyeworksDoc::settleForSaving() {
     takeBackDrags();
     // What floats above the image is a part of what the user sees and saves.
-    forEachView([](CDyeworksView& view) {
-        if (view.hasFloatingPiece())
-            view.CommitFloatingPiece(true);
+    forEachViewer([](ImageViewer& viewer) {
+        if (viewer.hasFloatingPiece())
+            viewer.CommitFloatingPiece(true);
     });
 }
 
@@ -141,9 +140,9 @@ void CDyeworksDoc::Revert() {
     TextureCanvas saved;
     if (!loadCanvas(saved, pathName()))
         return;
-    dropSelections();
+    forEachViewer([](ImageViewer& viewer) { viewer.DropSelection(); });
     takeContents(saved);
-    replaceHistory(0);
+    contentsAreSaved();
     historyMoved_ = false;
     setModified(false);
     RefreshPalette();
@@ -153,23 +152,12 @@ void CDyeworksDoc::Revert() {
 void CDyeworksDoc::takeContents(TextureCanvas& contents) {
     if (canvas_.CopyFrom(contents))
         return;
-    snapshot_.reset();
+    snapshot_.forget();
     if (contents.colourTable().size() == canvas_.colourTable().size())
         std::ranges::copy(canvas_.colourTable(), contents.colourTable().begin());
     // Memory for a second copy might be refused.
     canvas_.SwapWith(contents);
-    forEachView([this](CDyeworksView& view) {
-        view.SetZoom(view.zoom());
-        if (host_.isActiveImage(*this))
-            view.ShowSize();
-    });
-}
-
-void CDyeworksDoc::dropSelections() {
-    forEachView([](CDyeworksView& view) {
-        view.DropFloatingPiece();
-        view.SetSelection(std::nullopt, false);
-    });
+    forEachViewer([](ImageViewer& viewer) { viewer.SizeChanged(); });
 }
 
 void CDyeworksDoc::OnUpdateRevert(CommandUi& ui) {

@@ -1,8 +1,6 @@
 #include "paint/CDyeworksDoc.h"
-#include "paint/CDyeworksView.h"
 #include "paint/CanvasDifference.h"
 #include "paint/ImagePlugIns.h"
-#include "paint/ViewWindow.h"
 
 #include <utility>
 
@@ -80,17 +78,17 @@ void CDyeworksDoc::ImportThrough(std::int32_t plugIn) {
     canvas_.FromImage(*image);
     const Rect whole{0, 0, canvas_.width() - 1, canvas_.height() - 1};
     if (before == nullptr || differingRect(*before, canvas_, whole))
-        savedPosition_ = kUnreachable;
+        edits_.loseSavedPosition();
     if (!IsAttached())
         Attach();
     // The plug-in may have changed it while the bar shows another one.
     RefreshOwnPalette();
 
-    CDyeworksView* const view = host_.activeView();
-    if (brought == nullptr || view == nullptr)
+    ImageViewer* const viewer = host_.activeView();
+    if (brought == nullptr || viewer == nullptr)
         return;
-    view->window().repaintNow();
-    view->SetFloatingPiece(std::move(brought));
+    viewer->RepaintNow();
+    viewer->SetFloatingPiece(std::move(brought));
 }
 
 void CDyeworksDoc::ExportThrough(std::int32_t plugIn) {

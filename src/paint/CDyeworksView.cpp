@@ -22,7 +22,8 @@ std::string pair(std::int32_t first, std::int32_t second) {
 
 CDyeworksView::CDyeworksView(CDyeworksDoc& document, ViewWindow& window)
     : document_(document)
-    , window_(window) {
+    , window_(window)
+    , selection_(document, *this, window, [this] { return geometry(); }) {
     addCommands();
     document_.addView(*this);
 }
@@ -61,11 +62,11 @@ void CDyeworksView::Activated() {
         set->setCurrent(document_.attachedName());
     host.refreshPaletteBar();
     window_.setDisplayPalette(document_.GetDisplayPalette());
-    ShowSize();
+    showSize();
     document_.TakeOverPreviews();
 }
 
-void CDyeworksView::ShowSize() const {
+void CDyeworksView::showSize() const {
     const TextureCanvas& canvas = document_.canvas();
     document_.host().setStatusText(
         pair(canvas.width(), canvas.height()) + std::to_string(canvas.bitsPerPixel()) + "bit", kSizePane);
@@ -83,7 +84,7 @@ void CDyeworksView::Scrolled() {
 void CDyeworksView::Closing() {
     // The image lives on in its other windows, and what floats in this one is a part of the work.
     if (document_.views().size() > 1)
-        CommitFloatingPiece(false);
+        selection_.commitFloatingPiece(false);
     saveSettings();
 }
 
@@ -101,11 +102,20 @@ void CDyeworksView::update(DocumentView* sender, int hint) {
 }
 
 bool CDyeworksView::InvalidateChanged() {
-    Rect changed;
-    if (!document_.canvas().GetChangedRect(changed))
-        return false;
-    window_.invalidate(geometry().clientArea(changed));
-    return true;
+    const auto changed = document_.canvas().changedRect();
+    if (changed)
+        window_.invalidate(geometry().clientArea(*changed));
+    return changed.has_value();
+}
+
+void CDyeworksView::SizeChanged() {
+    SetZoom(zoom_);
+    if (document_.host().isActiveImage(document_))
+        showSize();
+}
+
+void CDyeworksView::RepaintNow() {
+    window_.repaintNow();
 }
 
 bool CDyeworksView::ZoomStep(bool out, bool redraw) {

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "framework/CommandTarget.h"
-#include "framework/DocumentView.h"
 #include "paint/CurrentTool.h"
+#include "paint/ImageSelection.h"
+#include "paint/ImageViewer.h"
 #include "paint/KeyEvent.h"
 #include "paint/PointerEvent.h"
 #include "paint/Rect.h"
-#include "paint/SelectionTracker.h"
 #include "paint/Surface.h"
+#include "paint/ToolHost.h"
 #include "paint/ViewGeometry.h"
 
 #include <cstdint>
@@ -17,7 +18,6 @@
 
 namespace dyeworks {
 
-class CDyeworksDoc;
 class DrawTool;
 class TextureCanvas;
 class ViewWindow;
@@ -25,18 +25,13 @@ enum class CursorShape;
 
 /// A view of an image: what it shows and what the pointer, the keys and the commands do in it. Works through
 /// the window that shows it and needs no widget.
-class CDyeworksView : public CommandTarget, public DocumentView {
+class CDyeworksView : public CommandTarget, public ImageViewer, public ToolHost {
 public:
-    // Bits of a redraw request, which limits the next paint to parts of the picture.
-    static constexpr std::uint32_t kRedrawImage = 0x40; ///< The image, without what is selected in it.
-    static constexpr std::uint32_t kRedrawDrag =
-        0x80; ///< Floating piece and selection frame, at the rectangle that is being dragged.
-
     /// Joins the document's views until it is destroyed. Both arguments must outlive the view.
     CDyeworksView(CDyeworksDoc& document, ViewWindow& window);
     ~CDyeworksView() override;
 
-    [[nodiscard]] CDyeworksDoc& document() const noexcept { return document_; }
+    [[nodiscard]] CDyeworksDoc& document() const noexcept override { return document_; }
     [[nodiscard]] ViewWindow& window() const noexcept { return window_; }
 
     // What the window tells the view.
@@ -52,13 +47,8 @@ public:
     void Closing();
     /// The interval of `ViewWindow::startTicking` has passed.
     void Tick();
-    /// What a paint is limited to, and where; everything outside is painted in the ordinary way.
-    struct RedrawRequest {
-        std::uint32_t bits = 0; ///< kRedrawImage, kRedrawDrag; 0 for an ordinary paint everywhere.
-        Rect clientArea;        ///< Right and bottom exclusive.
-    };
     /// Before a paint of the window, whatever its area: the redraw request, which this paint serves.
-    [[nodiscard]] RedrawRequest BeginPaint();
+    [[nodiscard]] ImageSelection::RedrawRequest BeginPaint();
     /// Draws a part of the view (right and bottom exclusive) onto the surface, whose origin is a logical
     /// point: client coordinates plus the scroll position. `buttonFace` (0xffRRGGBB) shows outside the image.
     /// A redraw request without kRedrawImage draws onto what the surface holds.
@@ -90,71 +80,38 @@ public:
 
     void update(DocumentView* sender, int hint) override;
 
-    /// Asks for a repaint of the canvas's changed rectangle. False when it is empty.
-    bool InvalidateChanged();
-    /// Writes the image's size and depth to the status line.
-    void ShowSize() const;
-    /// Ends a drag and takes back what it has done so far.
-    void CancelDrag();
+    bool InvalidateChanged() override;
+    void SizeChanged() override;
+    void CancelDrag() override;
+    [[nodiscard]] bool hasFloatingPiece() const override { return selection_.hasFloatingPiece(); }
+    void SetFloatingPiece(std::unique_ptr<TextureCanvas> piece) override;
+    void CommitFloatingPiece(bool redraw) override { selection_.commitFloatingPiece(redraw); }
+    void DropSelection() override;
+    void RepaintNow() override;
+
+    [[nodiscard]] ImageViewer& viewer() noexcept override { return *this; }
+    [[nodiscard]] ImageSelection& selection() noexcept override { return selection_; }
+    [[nodiscard]] const ImageSelection& selection() const noexcept { return selection_; }
+    [[nodiscard]] std::uint32_t drawingValue() const noexcept override { return drawingValue_; }
 
     [[nodiscard]] std::int32_t zoom() const noexcept { return zoom_; }
     [[nodiscard]] bool gridShown() const noexcept { return gridShown_; }
     /// Size of the zoomed image in pixels.
     [[nodiscard]] Size contentSize() const { return geometry().contentSize(); }
-    /// The value that the tools write, within the image's depth.
-    [[nodiscard]] std::uint32_t drawingValue() const noexcept { return drawingValue_; }
     [[nodiscard]] bool dragging() const noexcept { return tool_ != nullptr || scrollDragging_; }
 
     /// False when the zoom is at its end already. Without `redraw` only the content size follows.
     bool ZoomStep(bool out, bool redraw);
-    /// Zooms so that the texel under the client point stays there as far as the view can scroll.
-    void ZoomAt(Point client, bool out);
+    void ZoomAt(Point client, bool out) override;
     /// Held to 1 to 16.
     void SetZoom(std::int32_t zoom);
     void ToggleGrid();
 
-    /// Inclusive texels; all zero when there is none.
-    [[nodiscard]] const Rect& selection() const noexcept { return selection_; }
-    /// Whether there is something selected to work with: more than a line of texels, and the tool of the last
-    /// press was none that draws.
-    [[nodiscard]] bool SelectionExists() const noexcept;
-    /// What of the selection's frame is at the client point.
-    [[nodiscard]] TrackerHit HitSelection(Point client) const;
-    /// Selects the texels between two corners (inclusive), or nothing. With `redraw` the window shows it
-    /// before the call returns.
-    void SetSelection(const std::optional<Rect>& texels, bool redraw);
-    /// The selection is not dragged any more: a frame around too little to work with goes from the window.
-    void SelectingEnded();
-
-    // The floating piece: texels that are shown inside the selection, scaled to it, and belong to no image
-    // yet.
-    [[nodiscard]] bool hasFloatingPiece() const noexcept { return floatingPiece_ != nullptr; }
-    /// Lets the piece float from the anchor on, moved into the image as far as it fits, and selects it with
-    /// the Select tool. One that floats already is committed. A null or empty piece changes nothing.
-    void SetFloatingPiece(std::unique_ptr<TextureCanvas> piece);
-    /// Puts the floating piece, if there is one, into the image; then nothing is selected.
-    void CommitFloatingPiece(bool redraw);
-    /// Forgets the floating piece. It shows until the next repaint.
-    void DropFloatingPiece() noexcept;
-    /// Where the next floating piece is placed: the texel that the last drag began at, or as far as it came.
-    void setAnchor(Point texel) noexcept { anchor_ = texel; }
-
-    /// A shape is being dragged between two corners (inclusive texels): its frame shows in the next paint,
-    /// which `redrawRequest` limits.
-    void ShowDragFrame(const Rect& texels, std::uint32_t redrawRequest);
-    /// The drag is over.
-    void HideDragFrame();
-
 private:
-    static constexpr std::uint32_t kSelectionStyle =
-        SelectionTracker::kDottedLine | SelectionTracker::kResizeInside;
-
     [[nodiscard]] ViewGeometry geometry() const;
-    void requestRedraw(std::uint32_t request, const Rect& clientArea);
     void applyZoom(bool redraw);
     void scrollTo(Point position);
     void pickColour(Point client);
-    void setToolAtPress(Tool tool);
     void takeDrawingValue();
     [[nodiscard]] std::uint32_t depthMask() const;
     void scrollDrag(Point client);
@@ -162,6 +119,7 @@ private:
     void followPointer(Point client);
     void showPosition() const;
     [[nodiscard]] bool isInSight(Point client) const;
+    void showSize() const;
     void updateCursor(Point client, bool shift, bool control);
     [[nodiscard]] CursorShape selectionCursor(Point client) const;
     bool moveSelection(const KeyEvent& event);
@@ -213,19 +171,11 @@ private:
     /// Where the window was scrolled to when its file was last open. Until the first paint the window takes
     /// on its size by and by, and a size that is passed through must not cut the position.
     std::optional<Point> restoredScroll_;
-    RedrawRequest redrawRequest_;
-    Rect selection_;
-    Rect dragRectangle_; ///< From the anchor of a drag to its current point, inclusive texels.
-    std::uint32_t trackerStyle_ = kSelectionStyle;
-    bool antsPhase_ = false;
-    std::unique_ptr<TextureCanvas> floatingPiece_;
+    ImageSelection selection_;
     std::uint32_t drawingValue_ = 0;
-    /// The tool that was chosen at the last press, or since then if it is one that selects.
-    Tool toolAtPress_ = Tool::Select;
     /// Of the drag that is going on. Shared with the call that the tool is in: a preview may end the drag
     /// there.
     std::shared_ptr<DrawTool> tool_;
-    Point anchor_;
     Point pointed_;      ///< The texel that the status line tells of.
     bool spuit_ = false; ///< A right press picks the colour under it.
     bool scrollDragging_ = false;

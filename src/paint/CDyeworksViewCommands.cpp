@@ -52,11 +52,11 @@ void CDyeworksView::OnTool() {
     if (keepsSelection(kTool)) {
         // What can be selected and done with a selection need not wait for the next press.
         if (!dragging())
-            setToolAtPress(kTool);
+            selection_.setToolAtPress(kTool);
         return;
     }
     takeBackSelecting();
-    CommitFloatingPiece(true);
+    selection_.commitFloatingPiece(true);
 }
 
 template <Tool kTool>

@@ -31,13 +31,13 @@ bool CDyeworksView::KeyPressed(const KeyEvent& event) {
         return true;
     }
     const bool ends = event.key == Key::Escape || event.key == Key::Enter;
-    if (ends && (SelectionExists() || hasFloatingPiece())) {
+    if (ends && (selection_.exists() || selection_.hasFloatingPiece())) {
         // What is placed is not dragged any further.
         if (selecting())
             endDrag();
         if (event.key == Key::Escape)
-            DropFloatingPiece();
-        CommitFloatingPiece(true);
+            selection_.dropFloatingPiece();
+        selection_.commitFloatingPiece(true);
         return true;
     }
     if (event.repeatCount != 1)
@@ -65,15 +65,9 @@ bool CDyeworksView::zoomByKey(Key key) {
 /// With Shift its right or its bottom edge moves alone.
 bool CDyeworksView::moveSelection(const KeyEvent& event) {
     const Point step = stepOf(event.key);
-    if (step == Point{} || !SelectionExists())
+    if (step == Point{} || !selection_.exists())
         return false;
-    selection_.right += step.x;
-    selection_.bottom += step.y;
-    if (!event.shift) {
-        selection_.left += step.x;
-        selection_.top += step.y;
-    }
-    window_.invalidateAll();
+    selection_.moveBy(step, event.shift);
     return true;
 }
 
@@ -85,13 +79,13 @@ void CDyeworksView::updateCursor(Point client, bool shift, bool control) {
         shape = control ? CursorShape::ZoomOut : CursorShape::ZoomIn;
     else if (shift && !scrollDragging_)
         shape = CursorShape::OpenHand;
-    else if (currentTool() == Tool::Select && SelectionExists())
+    else if (currentTool() == Tool::Select && selection_.exists())
         shape = selectionCursor(client);
     window_.setCursor(shape);
 }
 
 CursorShape CDyeworksView::selectionCursor(Point client) const {
-    switch (HitSelection(client)) {
+    switch (selection_.hit(client)) {
     case TrackerHit::TopLeft:
     case TrackerHit::BottomRight:
         return CursorShape::SizeBackwardDiagonal;

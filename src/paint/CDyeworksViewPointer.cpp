@@ -1,6 +1,6 @@
 #include "paint/CDyeworksDoc.h"
 #include "paint/CDyeworksView.h"
-#include "paint/DrawTool.h"
+#include "paint/MakeDrawTool.h"
 #include "paint/ViewWindow.h"
 
 #include <algorithm>
@@ -32,18 +32,20 @@ void CDyeworksView::PointerPressed(const PointerEvent& event) {
         updateCursor(event.position, event.shift, event.control);
         return;
     }
-    setToolAtPress(currentTool());
-    if (event.control && toolAtPress_ != Tool::Select && toolAtPress_ != Tool::ZoomLens) {
+    const Tool pressed = currentTool();
+    selection_.setToolAtPress(pressed);
+    if (event.control && pressed != Tool::Select && pressed != Tool::ZoomLens) {
         pickColour(event.position);
         return;
     }
     takeDrawingValue();
-    auto tool = makeDrawTool(toolAtPress_, *this);
+    auto tool = makeDrawTool(pressed, *this);
     if (tool->press(geometry().texelAt(event.position), event)) {
         tool_ = std::move(tool);
+        selection_.setDragged(selecting());
         window_.capturePointer();
-        if (Rect changed; document_.canvas().GetChangedRect(changed))
-            document_.RefreshPreviews();
+        // Not before the drag has begun: a preview may end it.
+        document_.ShowEdit();
     }
 }
 
@@ -58,8 +60,10 @@ void CDyeworksView::PointerMoved(const PointerEvent& event) {
     const Point texel = geometry().texelAt(event.position);
     pointed_ = texel;
     showPosition();
-    if (const std::shared_ptr<DrawTool> tool = tool_)
+    if (const std::shared_ptr<DrawTool> tool = tool_) {
         tool->move(texel, event);
+        document_.ShowEdit();
+    }
 }
 
 void CDyeworksView::PointerReleased(const PointerEvent& event) {
@@ -68,8 +72,8 @@ void CDyeworksView::PointerReleased(const PointerEvent& event) {
     const std::shared_ptr<DrawTool> tool = endDrag();
     if (tool != nullptr) {
         tool->release(geometry().texelAt(event.position), event);
-        if (toolAtPress_ == Tool::ZoomLens)
-            setToolAtPress(currentTool());
+        if (selection_.toolAtPress() == Tool::ZoomLens)
+            selection_.setToolAtPress(currentTool());
     }
     updateCursor(event.position, event.shift, event.control);
 }
@@ -91,6 +95,7 @@ void CDyeworksView::CancelDrag() {
 /// The drag is over before the capture goes, so that its loss is not taken for an interruption.
 std::shared_ptr<DrawTool> CDyeworksView::endDrag() {
     std::shared_ptr<DrawTool> tool = std::move(tool_);
+    selection_.setDragged(false);
     scrollDragging_ = false;
     window_.releasePointer();
     return tool;
@@ -113,14 +118,6 @@ void CDyeworksView::pickColour(Point client) {
     // No palette reaches as far as the values of deep images do.
     host.selectPaletteBarCell(
         static_cast<std::int32_t>(std::min<std::int64_t>(cell, std::numeric_limits<std::int32_t>::max())));
-}
-
-/// A selection shows only after a tool that keeps it.
-void CDyeworksView::setToolAtPress(Tool tool) {
-    const bool existed = SelectionExists();
-    toolAtPress_ = tool;
-    if (SelectionExists() != existed)
-        window_.invalidateAll();
 }
 
 /// Without a selected cell the last value stays.

@@ -4,53 +4,18 @@
 #include "paint/ViewWindow.h"
 #include "platform/Platform.h"
 
-#include <algorithm>
 #include <memory>
 #include <utility>
 
 namespace dyeworks {
 
-namespace {
-
-/// Where a side of `length` texels begins so that it lies inside `size` of them, or from 0 on if it is
-/// longer.
-std::int32_t heldInside(std::int32_t position, std::int32_t length, std::int32_t size) {
-    return std::max(std::min(position, size - length), 0);
-}
-
-} // namespace
-
-TrackerHit CDyeworksView::HitSelection(Point client) const {
-    if (selection_ == Rect{})
-        return TrackerHit::None;
-    return SelectionTracker(geometry().clientFrame(selection_), kSelectionStyle).hitTest(client);
-}
-
 void CDyeworksView::SetFloatingPiece(std::unique_ptr<TextureCanvas> piece) {
-    if (piece == nullptr || piece->width() <= 0 || piece->height() <= 0)
-        return;
-    if (floatingPiece_ != nullptr)
-        CommitFloatingPiece(true);
-    anchor_ = {heldInside(anchor_.x, piece->width(), document_.canvas().width()),
-               heldInside(anchor_.y, piece->height(), document_.canvas().height())};
-    const Rect place{anchor_.x, anchor_.y, anchor_.x + piece->width() - 1, anchor_.y + piece->height() - 1};
-    floatingPiece_ = std::move(piece);
-    setCurrentTool(Tool::Select);
-    setToolAtPress(Tool::Select);
-    SetSelection(place, true);
+    selection_.setFloatingPiece(std::move(piece));
 }
 
-void CDyeworksView::CommitFloatingPiece(bool redraw) {
-    // Released before the repaints that follow.
-    if (const std::unique_ptr<TextureCanvas> piece = std::move(floatingPiece_))
-        document_.PlaceFloatingPiece(
-            this, *piece, {selection_.left, selection_.top, selection_.right + 1, selection_.bottom + 1});
-    if (selection_ != Rect{})
-        SetSelection(std::nullopt, redraw);
-}
-
-void CDyeworksView::DropFloatingPiece() noexcept {
-    floatingPiece_.reset();
+void CDyeworksView::DropSelection() {
+    selection_.dropFloatingPiece();
+    selection_.select(std::nullopt, false);
 }
 
 /// A selection must not change hands while it is dragged.
@@ -60,7 +25,7 @@ void CDyeworksView::takeBackSelecting() {
 }
 
 bool CDyeworksView::selecting() const noexcept {
-    return tool_ != nullptr && toolAtPress_ == Tool::Select;
+    return tool_ != nullptr && selection_.toolAtPress() == Tool::Select;
 }
 
 void CDyeworksView::OnSpuit() {
@@ -74,29 +39,33 @@ void CDyeworksView::OnUpdateSpuit(CommandUi& ui) {
 void CDyeworksView::OnSelectAll() {
     CancelDrag();
     setCurrentTool(Tool::Select);
-    setToolAtPress(Tool::Select);
-    CommitFloatingPiece(false);
+    selection_.setToolAtPress(Tool::Select);
+    selection_.commitFloatingPiece(false);
     const TextureCanvas& canvas = document_.canvas();
-    SetSelection(Rect{0, 0, canvas.width() - 1, canvas.height() - 1}, false);
+    selection_.select(Rect{0, 0, canvas.width() - 1, canvas.height() - 1}, false);
     // The frame of a shape that has just been taken back must not keep the selection's out.
-    redrawRequest_ = {};
+    static_cast<void>(selection_.takeRedrawRequest());
     window_.invalidateAll();
 }
 
 void CDyeworksView::OnUpdateSelectAll(CommandUi& ui) {
-    ui.enabled = keepsSelection(toolAtPress_);
+    ui.enabled = keepsSelection(selection_.toolAtPress());
 }
 
 void CDyeworksView::OnCancelSelection() {
     takeBackSelecting();
-    CommitFloatingPiece(true);
+    selection_.commitFloatingPiece(true);
 }
 
 void CDyeworksView::OnFlip(CommandId id) {
     takeBackSelecting();
-    if (SelectionExists())
-        document_.Flip(this, selection_,
-                       id == ID_FLIP_X ? TextureCanvas::kFlipHorizontal : TextureCanvas::kFlipVertical);
+    if (!selection_.exists())
+        return;
+    const Rect area = *selection_.texels();
+    document_.Edit(this, [&](TextureCanvas& canvas) {
+        canvas.Flip(area.left, area.top, area.right, area.bottom,
+                    id == ID_FLIP_X ? TextureCanvas::kFlipHorizontal : TextureCanvas::kFlipVertical);
+    });
 }
 
 void CDyeworksView::OnCopy() {
@@ -104,9 +73,9 @@ void CDyeworksView::OnCopy() {
 }
 
 bool CDyeworksView::copySelection() const {
-    if (!SelectionExists())
+    if (!selection_.exists())
         return false;
-    const bool copied = document_.canvas().CopyToClipboard(selection_);
+    const bool copied = document_.canvas().CopyToClipboard(*selection_.texels());
     if (!copied)
         applicationMessage(text(StringId::CannotCopy));
     return copied;
@@ -115,12 +84,16 @@ bool CDyeworksView::copySelection() const {
 void CDyeworksView::OnCut() {
     takeBackSelecting();
     // What came to no clipboard would be lost.
-    if (copySelection())
-        document_.FilledBox(this, selection_, 0);
+    if (!copySelection())
+        return;
+    const Rect area = *selection_.texels();
+    document_.Edit(this, [&](TextureCanvas& canvas) {
+        canvas.FillBox(area.left, area.top, area.right, area.bottom, 0);
+    });
 }
 
 void CDyeworksView::OnUpdateSelected(CommandUi& ui) {
-    ui.enabled = SelectionExists();
+    ui.enabled = selection_.exists();
 }
 
 void CDyeworksView::OnPaste() {

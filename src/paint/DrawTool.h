@@ -1,23 +1,18 @@
 #pragma once
 
-#include "paint/CurrentTool.h"
 #include "paint/PointerEvent.h"
 #include "paint/Rect.h"
-
-#include <memory>
+#include "paint/ToolHost.h"
 
 namespace dyeworks {
 
-class CDyeworksDoc;
-class CDyeworksView;
-
 /// What a tool does from a press of the pointer to its release. An object serves one press. Points are
-/// texels, possibly outside the image.
+/// texels, possibly outside the image. What a tool draws through an open edit is shown when its call returns.
 class DrawTool {
 public:
-    /// `view` must outlive the tool.
-    explicit DrawTool(CDyeworksView& view)
-        : view_(view) {}
+    /// `host` must outlive the tool.
+    explicit DrawTool(ToolHost& host)
+        : host_(host) {}
     virtual ~DrawTool() = default;
     DrawTool(const DrawTool&) = delete;
     DrawTool& operator=(const DrawTool&) = delete;
@@ -26,17 +21,18 @@ public:
     virtual bool press(Point texel, const PointerEvent& event) = 0;
     virtual void move(Point /*texel*/, const PointerEvent& /*event*/) {}
     virtual void release(Point /*texel*/, const PointerEvent& /*event*/) {}
-    /// Instead of `release`: leaves the image as it was before the press.
+    /// Instead of `release`: leaves the image as it was before the press. An edit that the tool had open has
+    /// been taken back if the document ended it.
     virtual void cancel() {}
 
 protected:
-    [[nodiscard]] CDyeworksView& view() const noexcept { return view_; }
-    [[nodiscard]] CDyeworksDoc& document() const noexcept;
+    [[nodiscard]] ToolHost& host() const noexcept { return host_; }
+    [[nodiscard]] CDyeworksDoc& document() const noexcept { return host_.document(); }
+    [[nodiscard]] ImageViewer& viewer() const noexcept { return host_.viewer(); }
+    [[nodiscard]] ImageSelection& selection() const noexcept { return host_.selection(); }
 
 private:
-    CDyeworksView& view_;
+    ToolHost& host_;
 };
-
-[[nodiscard]] std::unique_ptr<DrawTool> makeDrawTool(Tool tool, CDyeworksView& view);
 
 } // namespace dyeworks

@@ -1,13 +1,14 @@
 #include "paint/FillTool.h"
 
 #include "paint/CDyeworksDoc.h"
-#include "paint/CDyeworksView.h"
+#include "paint/ImageSelection.h"
 
 namespace dyeworks {
 
 bool FillTool::press(Point texel, const PointerEvent& /*event*/) {
-    view().CommitFloatingPiece(true);
-    document().Fill(&view(), texel.x, texel.y, view().drawingValue());
+    selection().commitFloatingPiece(true);
+    document().Edit(
+        &viewer(), [&](TextureCanvas& canvas) { canvas.FloodFill(texel.x, texel.y, host().drawingValue()); });
     return false;
 }
 

@@ -7,8 +7,8 @@
 namespace dyeworks {
 
 class CDyeworksDoc;
-class CDyeworksView;
 class ImagePlugIns;
+class ImageViewer;
 class OpenProject;
 class PaletteSet;
 
@@ -46,7 +46,7 @@ public:
     /// Whether `document` is the one in the active window, whose bank the palette bar shows.
     [[nodiscard]] virtual bool isActiveImage(const CDyeworksDoc& document) const = 0;
     /// The image view in the active window, or null.
-    [[nodiscard]] virtual CDyeworksView* activeView() const = 0;
+    [[nodiscard]] virtual ImageViewer* activeView() const = 0;
 
     [[nodiscard]] virtual ImagePlugIns& imagePlugIns() = 0;
     /// Null while no project is open.

@@ -1,26 +1,24 @@
 #pragma once
 
 #include "paint/DrawTool.h"
-#include "paint/Stroke.h"
 
 namespace dyeworks {
+
+class ImageEdit;
 
 /// Pen: a freehand line that follows the pointer; the whole stroke is one undo step.
 class PenTool final : public DrawTool {
 public:
-    explicit PenTool(CDyeworksView& view)
-        : DrawTool(view)
-        , stroke_(view) {}
-
+    using DrawTool::DrawTool;
     bool press(Point texel, const PointerEvent& event) override;
     void move(Point texel, const PointerEvent& event) override;
     void release(Point texel, const PointerEvent& event) override;
-    void cancel() override { stroke_.cancel(); }
+    void cancel() override;
 
 private:
     void follow(Point texel);
 
-    Stroke stroke_;
+    ImageEdit* edit_ = nullptr;
     Point anchor_; ///< Up to where the line has been drawn.
 };
 

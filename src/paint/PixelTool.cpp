@@ -1,15 +1,16 @@
 #include "paint/PixelTool.h"
 
 #include "paint/CDyeworksDoc.h"
-#include "paint/CDyeworksView.h"
+#include "paint/ImageSelection.h"
 
 namespace dyeworks {
 
 bool PixelTool::press(Point texel, const PointerEvent& /*event*/) {
-    view().CommitFloatingPiece(true);
-    view().setAnchor(texel);
+    selection().commitFloatingPiece(true);
+    selection().setAnchor(texel);
     const std::int32_t before = document().history().position();
-    document().Pixel(&view(), texel.x, texel.y, view().drawingValue());
+    document().Edit(&viewer(),
+                    [&](TextureCanvas& canvas) { canvas.PutPixel(texel.x, texel.y, host().drawingValue()); });
     if (document().history().position() != before)
         step_ = document().history().position();
     return true;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <optional>
 
 namespace dyeworks {
 
@@ -25,6 +26,19 @@ struct Rect {
 [[nodiscard]] inline Rect intersection(const Rect& a, const Rect& b) {
     return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
             std::min(a.bottom, b.bottom)};
+}
+
+/// The smallest rectangle around both of the same kind. Nothing stands for an empty one.
+[[nodiscard]] inline std::optional<Rect> unionOf(const std::optional<Rect>& a, const std::optional<Rect>& b) {
+    if (!a || !b)
+        return a ? a : b;
+    return Rect{std::min(a->left, b->left), std::min(a->top, b->top), std::max(a->right, b->right),
+                std::max(a->bottom, b->bottom)};
+}
+
+/// Of a rectangle with right and bottom exclusive.
+[[nodiscard]] inline bool isEmpty(const Rect& area) {
+    return area.right <= area.left || area.bottom <= area.top;
 }
 
 struct Point {

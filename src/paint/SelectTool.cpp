@@ -1,7 +1,7 @@
 #include "paint/SelectTool.h"
 
 #include "paint/CDyeworksDoc.h"
-#include "paint/CDyeworksView.h"
+#include "paint/ImageSelection.h"
 
 #include <utility>
 
@@ -9,29 +9,29 @@ namespace dyeworks {
 
 bool SelectTool::press(Point texel, const PointerEvent& event) {
     start_ = texel;
-    hit_ = view().HitSelection(event.position);
+    hit_ = selection().hit(event.position);
     if (hit_ != TrackerHit::None) {
-        before_ = view().selection();
+        before_ = selection().texels();
         grab(*before_);
-        view().setAnchor(anchor_);
+        selection().setAnchor(anchor_);
         return true;
     }
     // A piece that has been placed is no selection any more.
-    if (view().selection() != Rect{} && !view().hasFloatingPiece())
-        before_ = view().selection();
-    view().CommitFloatingPiece(true);
+    if (!selection().hasFloatingPiece())
+        before_ = selection().texels();
+    selection().commitFloatingPiece(true);
     anchor_ = current_ = texel;
-    view().setAnchor(anchor_);
-    view().SetSelection(Rect{texel.x, texel.y, texel.x, texel.y}, true);
+    selection().setAnchor(anchor_);
+    selection().select(Rect{texel.x, texel.y, texel.x, texel.y}, true);
     return true;
 }
 
 /// The corner opposite to the one that was hit stays.
-void SelectTool::grab(const Rect& selection) {
-    const Point topLeft{selection.left, selection.top};
-    const Point topRight{selection.right, selection.top};
-    const Point bottomRight{selection.right, selection.bottom};
-    const Point bottomLeft{selection.left, selection.bottom};
+void SelectTool::grab(const Rect& texels) {
+    const Point topLeft{texels.left, texels.top};
+    const Point topRight{texels.right, texels.top};
+    const Point bottomRight{texels.right, texels.bottom};
+    const Point bottomLeft{texels.left, texels.bottom};
     switch (hit_) {
     case TrackerHit::TopLeft:
         anchor_ = bottomRight;
@@ -59,7 +59,7 @@ void SelectTool::move(Point texel, const PointerEvent& event) {
         return;
     switch (hit_) {
     case TrackerHit::Inside: {
-        if (!view().hasFloatingPiece() && !cutPiece(event.control))
+        if (!selection().hasFloatingPiece() && !cutPiece(event.control))
             return;
         const Point step{texel.x - start_.x, texel.y - start_.y};
         start_ = texel;
@@ -79,42 +79,45 @@ void SelectTool::move(Point texel, const PointerEvent& event) {
         current_ = texel;
         break;
     }
-    view().setAnchor(anchor_);
-    view().SetSelection(Rect{anchor_.x, anchor_.y, current_.x, current_.y}, true);
+    selection().setAnchor(anchor_);
+    selection().select(Rect{anchor_.x, anchor_.y, current_.x, current_.y}, true);
 }
 
 /// False when there is no memory for the piece; the image then is as it was.
 bool SelectTool::cutPiece(bool leaveImage) {
-    const Rect selection = view().selection();
+    const Rect cut = selection().texels().value_or(Rect{});
     std::unique_ptr<TextureCanvas> piece =
-        document().canvas().CopyRect(selection.left, selection.top, selection.right, selection.bottom);
+        document().canvas().CopyRect(cut.left, cut.top, cut.right, cut.bottom);
     if (piece == nullptr)
         return false;
     const std::int32_t before = document().history().position();
-    if (!leaveImage)
-        document().FilledBox(&view(), selection, 0);
+    const auto erase = [&](TextureCanvas& canvas) {
+        canvas.FillBox(cut.left, cut.top, cut.right, cut.bottom, 0);
+    };
+    if (!leaveImage && !document().Edit(&viewer(), erase))
+        return false;
     if (document().history().position() != before)
         step_ = document().history().position();
     cut_ = true;
-    view().SetFloatingPiece(std::move(piece));
-    const Rect placed = view().selection();
+    selection().setFloatingPiece(std::move(piece));
+    const Rect placed = selection().texels().value_or(Rect{});
     anchor_ = {placed.left, placed.top};
     current_ = {placed.right, placed.bottom};
     return true;
 }
 
 void SelectTool::release(Point /*texel*/, const PointerEvent& /*event*/) {
-    view().SelectingEnded();
+    selection().dragEnded();
 }
 
 void SelectTool::cancel() {
     if (cut_) {
-        view().DropFloatingPiece();
+        selection().dropFloatingPiece();
         if (step_ && document().history().position() == *step_)
             document().Undo();
     }
-    view().SetSelection(before_, true);
-    view().SelectingEnded();
+    selection().select(before_, true);
+    selection().dragEnded();
 }
 
 } // namespace dyeworks

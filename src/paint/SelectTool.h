@@ -20,7 +20,7 @@ public:
     void cancel() override;
 
 private:
-    void grab(const Rect& selection);
+    void grab(const Rect& texels);
     bool cutPiece(bool leaveImage);
 
     TrackerHit hit_ = TrackerHit::None;

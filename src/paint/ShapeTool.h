@@ -1,9 +1,13 @@
 #pragma once
 
+#include "paint/CurrentTool.h"
 #include "paint/DrawTool.h"
-#include "paint/Stroke.h"
+
+#include <cstdint>
 
 namespace dyeworks {
+
+class ImageEdit;
 
 /// Line, Box, Box Fill, Circle and Circle Fill: a rubber band from the press to the pointer, or around the
 /// press when Alt was held at it. A line ends where the button is released, the other shapes at the last
@@ -11,10 +15,9 @@ namespace dyeworks {
 /// They show a frame around what they draw.
 class ShapeTool final : public DrawTool {
 public:
-    ShapeTool(Tool shape, CDyeworksView& view)
-        : DrawTool(view)
-        , shape_(shape)
-        , stroke_(view) {}
+    ShapeTool(Tool shape, ToolHost& host)
+        : DrawTool(host)
+        , shape_(shape) {}
 
     bool press(Point texel, const PointerEvent& event) override;
     void move(Point texel, const PointerEvent& event) override;
@@ -28,7 +31,7 @@ private:
     void hideFrame();
 
     Tool shape_;
-    Stroke stroke_;
+    ImageEdit* edit_ = nullptr;
     bool centred_ = false;
     Point centre_;
     Point anchor_;

@@ -10,10 +10,6 @@
 // lie on the surface.
 namespace dyeworks {
 
-[[nodiscard]] inline bool isEmpty(const Rect& area) {
-    return area.left >= area.right || area.top >= area.bottom;
-}
-
 [[nodiscard]] inline Rect grown(const Rect& area, std::int32_t by) {
     return {area.left - by, area.top - by, area.right + by, area.bottom + by};
 }

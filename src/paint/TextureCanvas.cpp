@@ -17,21 +17,6 @@ namespace {
 
 constexpr std::size_t kColourSize = 4;
 
-bool isEmpty(const Rect& inclusive) {
-    return inclusive.right < inclusive.left || inclusive.bottom < inclusive.top;
-}
-
-void extend(Rect& inclusive, const Rect& by) {
-    if (isEmpty(inclusive)) {
-        inclusive = by;
-        return;
-    }
-    inclusive.left = std::min(inclusive.left, by.left);
-    inclusive.top = std::min(inclusive.top, by.top);
-    inclusive.right = std::max(inclusive.right, by.right);
-    inclusive.bottom = std::max(inclusive.bottom, by.bottom);
-}
-
 } // namespace
 
 TextureCanvas::TextureCanvas(const TmfImage& image) {
@@ -53,7 +38,7 @@ void TextureCanvas::Destroy() {
     planes_ = 0;
     bitsPerPixel_ = 0;
     ResetChangedRect();
-    ResetWrittenRect();
+    resetWrittenRect();
 }
 
 bool TextureCanvas::CreateLike(const TextureCanvas& other) {
@@ -181,34 +166,8 @@ void TextureCanvas::extendChanged(Range columns, Range rows) {
         return;
     const Rect area{static_cast<std::int32_t>(columns.first), static_cast<std::int32_t>(rows.first),
                     static_cast<std::int32_t>(columns.last), static_cast<std::int32_t>(rows.last)};
-    extend(changed_, area);
-    extend(written_, area);
-}
-
-bool TextureCanvas::GetChangedRect(Rect& changed) const {
-    if (isEmpty(changed_))
-        return false;
-    changed = changed_;
-    return true;
-}
-
-void TextureCanvas::ResetChangedRect() {
-    changed_ = kNothing;
-}
-
-void TextureCanvas::SetChangedRect(const Rect& changed) {
-    changed_ = isEmpty(changed) ? kNothing : changed;
-}
-
-bool TextureCanvas::GetWrittenRect(Rect& written) const {
-    if (isEmpty(written_))
-        return false;
-    written = written_;
-    return true;
-}
-
-void TextureCanvas::ResetWrittenRect() {
-    written_ = kNothing;
+    changed_ = unionOf(changed_, area);
+    written_ = unionOf(written_, area);
 }
 
 void TextureCanvas::ApplyPalette(const TextureLookupTable& palette, std::int32_t first) {

@@ -132,18 +132,18 @@ public:
     [[nodiscard]] bool holdsColours() const noexcept;
 
     void ExtendChangedRect(std::int32_t x, std::int32_t y);
-    /// False for an empty changed rectangle; otherwise its inclusive bounds.
-    bool GetChangedRect(Rect& changed) const;
-    void ResetChangedRect();
-    /// Puts back a rectangle that `GetChangedRect` gave (inclusive); an inverted one makes it empty.
-    void SetChangedRect(const Rect& changed);
+    /// Inclusive; nothing when no pixel has changed.
+    [[nodiscard]] const std::optional<Rect>& changedRect() const noexcept { return changed_; }
+    void ResetChangedRect() noexcept { changed_.reset(); }
+    /// Puts back a rectangle that `changedRect` gave.
+    void SetChangedRect(const Rect& changed) noexcept { changed_ = changed; }
 
     // A second account of the pixels that were written, for whoever keeps a copy of them. Only this call
     // settles it; what becomes of the changed rectangle meanwhile does not matter. A block that was made anew
     // counts as written all over.
-    /// False when nothing was written; otherwise the inclusive bounds.
-    bool GetWrittenRect(Rect& written) const;
-    void ResetWrittenRect();
+    /// Inclusive; nothing when no pixel was written.
+    [[nodiscard]] const std::optional<Rect>& writtenRect() const noexcept { return written_; }
+    void resetWrittenRect() noexcept { written_.reset(); }
 
     /// Gives the colour table the display colours of the palette's entries from `first` on; 256-colour
     /// canvases start at entry 0. Entries that the palette lacks keep their colour. The whole canvas counts
@@ -226,10 +226,9 @@ private:
     std::int32_t height_ = 0;
     std::uint16_t planes_ = 0;
     std::uint16_t bitsPerPixel_ = 0;
-    static constexpr Rect kNothing{0, 0, -1, -1};
-    // Inclusive; inverted when empty.
-    Rect changed_ = kNothing;
-    Rect written_ = kNothing;
+    // Inclusive.
+    std::optional<Rect> changed_;
+    std::optional<Rect> written_;
 };
 
 } // namespace dyeworks

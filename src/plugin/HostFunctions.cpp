@@ -235,7 +235,7 @@ std::uint32_t DW_setTLFDir(const char* directories) {
     if (own == nullptr || name == nullptr)
         return nullptr;
     if (const CDyeworksDoc* const document = own->findImage(name)) {
-        const std::unique_ptr<dyeworks::TmfImage> image = document->GetImage();
+        const std::unique_ptr<dyeworks::TmfImage> image = document->canvas().ToImage();
         return image == nullptr ? nullptr : handedOut(std::move(*image)).release();
     }
     const auto file = platform().files().openForReading(name);
@@ -251,7 +251,7 @@ std::uint32_t DW_setTMF(const char* name, const ::TmfImage* image) {
     if (own == nullptr || name == nullptr || texels == nullptr)
         return 0;
     if (CDyeworksDoc* const document = own->findImage(name))
-        return document->SetImage(nullptr, *texels) ? 1 : 0;
+        return document->SetImage(*texels) ? 1 : 0;
     return writeTmf(*texels, name) ? 0 : 1;
 }
 

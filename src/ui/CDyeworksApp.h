@@ -5,6 +5,7 @@
 #include "framework/DocumentTemplate.h"
 #include "framework/RecentFileList.h"
 #include "paint/CDyeworksDoc.h"
+#include "paint/CDyeworksView.h"
 #include "paint/ImageHost.h"
 #include "palette/PaletteBarHost.h"
 #include "platform/FileDialogs.h"

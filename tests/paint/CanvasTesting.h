@@ -58,9 +58,7 @@ inline std::vector<std::string> rowsOf(const TextureCanvas& canvas) {
 
 /// The changed rectangle, or its reset state.
 inline Rect changedRect(const TextureCanvas& canvas) {
-    Rect changed{0, 0, -1, -1};
-    canvas.GetChangedRect(changed);
-    return changed;
+    return canvas.changedRect().value_or(Rect{0, 0, -1, -1});
 }
 
 } // namespace dyeworks

@@ -7,34 +7,27 @@ namespace {
 
 struct EditCase {
     const char* name;
-    std::function<void(CDyeworksDoc&)> run;
+    std::function<void(TextureCanvas&)> draw;
 };
 
 TEST_F(DocFixture, EveryEditIsOneStepThatGoesBackAndForth) {
-    document.Line(nullptr, 2, 1, 9, 6, 5);
+    document.Edit(nullptr, [](TextureCanvas& canvas) { canvas.DrawLine(2, 1, 9, 6, 5); });
     TextureCanvas piece;
     ASSERT_TRUE(piece.Create(2, 2, 1, 4));
     piece.SetPixel(1, 0, 12);
     const std::vector<EditCase> edits{
-        {"box",
-         [](CDyeworksDoc& doc) {
-             doc.Box(nullptr, {1, 1, 6, 7}, 4);
+        {"box", [](TextureCanvas& canvas) { canvas.DrawBox(1, 1, 6, 7, 4); }},
+        {"replace all",
+         [](TextureCanvas& canvas) {
+             canvas.ReplaceColor({0, 0, 15, 11}, 15, 11, 6);
          }},
-        {"ellipse",
-         [](CDyeworksDoc& doc) {
-             doc.Ellipse(nullptr, {0, 0, 9, 9}, 7);
-         }},
-        {"replace all", [](CDyeworksDoc& doc) { doc.Replace(nullptr, {}, 15, 11, 6); }},
-        {"piece",
-         [&](CDyeworksDoc& doc) {
-             doc.PlaceFloatingPiece(nullptr, piece, {3, 3, 9, 9});
-         }},
+        {"piece", [&](TextureCanvas& canvas) { canvas.StretchPaste(piece, 3, 3, 9, 9); }},
     };
     for (const EditCase& edit : edits) {
         SCOPED_TRACE(edit.name);
         const auto before = pixels();
         const std::int32_t steps = document.history().count();
-        edit.run(document);
+        document.Edit(nullptr, edit.draw);
         const auto after = pixels();
         EXPECT_NE(before, after);
         EXPECT_EQ(document.history().count(), steps + 1);
@@ -53,12 +46,14 @@ TEST_F(DocFixture, EveryEditIsOneStepThatGoesBackAndForth) {
 
 TEST_F(DocFixture, EditThatChangesNoPixelRecordsNothingAndMarksNothing) {
     document.setPathName("c:\\a.tmf");
-    document.Fill(nullptr, 0, 0, 3);
+    fill(0, 0, 3);
     ASSERT_TRUE(document.save());
-    document.Fill(nullptr, 0, 0, 3);
-    document.Line(nullptr, 0, 0, 9, 0, 3);      // writes the value that is there
-    document.Ellipse(nullptr, {4, 4, 4, 9}, 7); // draws nothing
-    document.Pixel(nullptr, 16, 0, 7);          // outside
+    fill(0, 0, 3);
+    document.Edit(nullptr, [](TextureCanvas& canvas) {
+        canvas.DrawLine(0, 0, 9, 0, 3);    // writes the value that is there
+        canvas.DrawEllipse(4, 4, 4, 9, 7); // draws nothing
+    });
+    pixel(16, 0, 7); // outside
     EXPECT_EQ(document.history().count(), 1);
     EXPECT_EQ(document.title(), "a.tmf");
     EXPECT_FALSE(document.hasUnsavedChanges());
@@ -66,8 +61,8 @@ TEST_F(DocFixture, EditThatChangesNoPixelRecordsNothingAndMarksNothing) {
 
 TEST_F(DocFixture, FlagAndTitleFollowTheHistory) {
     document.setTitle("Texture1");
-    document.Pixel(nullptr, 1, 1, 5);
-    document.Pixel(nullptr, 2, 1, 5);
+    pixel(1, 1, 5);
+    pixel(2, 1, 5);
     EXPECT_EQ(document.title(), "Texture1 * ");
     document.Undo();
     EXPECT_EQ(document.title(), "Texture1 * ");
@@ -85,13 +80,13 @@ TEST_F(DocFixture, WithoutMemoryToUndoItAnEditIsAskedAboutFirst) {
     const auto before = pixels();
     for (const MessageAnswer answer : {MessageAnswer::No, MessageAnswer::Yes}) {
         platform.messages.answerWith(answer);
-        document.Fill(nullptr, 0, 0, 3);
+        fill(0, 0, 3);
         EXPECT_EQ(platform.messages.lastText(), text(StringId::WithoutUndoQuestion));
         EXPECT_EQ(pixels() == before, answer == MessageAnswer::No);
         EXPECT_EQ(document.hasUnsavedChanges(), answer == MessageAnswer::Yes);
         EXPECT_EQ(document.title(), answer == MessageAnswer::Yes ? "a.tmf * " : "a.tmf");
     }
-    EXPECT_FALSE(document.BeginStroke());
+    EXPECT_EQ(document.BeginEdit(nullptr), nullptr);
     EXPECT_EQ(platform.messages.lastText(), text(StringId::NotEnoughMemory));
 }
 
@@ -105,12 +100,12 @@ TEST_F(DocFixture, LostUndoStepIsReportedAndNoStateCountsAsSaved) {
         document.setRecordFactory(&ImageUndoRecord::make);
         document.ClearUndo();
         for (std::int32_t n = 0; n < c.stepsBefore; ++n)
-            document.Pixel(nullptr, n, 1, 5);
+            pixel(n, 1, 5);
         document.setPathName("c:\\a.tmf");
         ASSERT_TRUE(document.save());
         document.setRecordFactory([](const auto&...) { return nullptr; });
         platform.messages.answerWith(c.answer);
-        document.Pixel(nullptr, 8, 1, 4);
+        pixel(8, 1, 4);
         EXPECT_EQ(platform.messages.lastText(), "Could not allocate buffer for UNDO information.\n"
                                                 "Do you clear all UNDO buffer?");
         EXPECT_EQ(platform.messages.shown.back().icon, MessageIcon::Warning);

@@ -21,7 +21,7 @@ TEST_F(DocFile, SaveDropsTheMarkAndKeepsThePalette) {
     openPalette();
     document.Attach();
     const std::string palette = host.palettes.palettes.begin()->second->title;
-    document.Pixel(nullptr, 1, 1, 5);
+    pixel(1, 1, 5);
     EXPECT_EQ(document.title(), "a [b] * c.tmf [" + palette + "] * ");
     ASSERT_TRUE(document.save());
     EXPECT_EQ(document.title(), "a [b] * c.tmf [" + palette + "]");
@@ -45,7 +45,7 @@ TEST_F(DocFile, SavedPixelsComeBackInTheFormatOfTheName) {
         platform.files.setCurrentDirectory("c:\\d.bmp");
         const Size size = c.size;
         document.canvas().Create(size.width, size.height, 1, 4);
-        document.Line(nullptr, 0, 0, 4, 2, 13);
+        document.Edit(nullptr, [](TextureCanvas& canvas) { canvas.DrawLine(0, 0, 4, 2, 13); });
         ASSERT_TRUE(document.onSaveDocument(c.path));
         EXPECT_EQ(platform.files.textOf(c.path)->substr(0, 2) == "BM", c.bmp);
         CDyeworksDoc copy(host);
@@ -61,7 +61,7 @@ TEST_F(DocFile, SavedPixelsComeBackInTheFormatOfTheName) {
 }
 
 TEST_F(DocFile, FailedSaveTellsWhatAndWhyAndLeavesTheDocumentModified) {
-    document.Pixel(nullptr, 1, 1, 5);
+    pixel(1, 1, 5);
     platform.files.failNextWrite(FileError::NoSpace);
     EXPECT_FALSE(document.save());
     EXPECT_EQ(platform.messages.lastText(),
@@ -72,7 +72,7 @@ TEST_F(DocFile, FailedSaveTellsWhatAndWhyAndLeavesTheDocumentModified) {
 
 TEST_F(DocFixture, SaveOfANewImageAsksForItsFile) {
     document.setTitle("Texture3");
-    document.Pixel(nullptr, 1, 1, 5);
+    pixel(1, 1, 5);
     EXPECT_FALSE(document.save()); // cancelled
     platform.dialogs.answerWith("c:\\new.tmf");
     platform.files.failNextWrite(FileError::AccessDenied);
@@ -92,7 +92,7 @@ TEST_F(DocFixture, SaveOfANewImageAsksForItsFile) {
 }
 
 TEST_F(DocFile, SaveQuestionIsAskedWhereverTheFileDiffers) {
-    const auto draw = [this](std::uint32_t value) { document.Pixel(nullptr, 1, 1, value); };
+    const auto draw = [this](std::uint32_t value) { pixel(1, 1, value); };
     const auto save = [this] { ASSERT_TRUE(document.save()); };
     const auto undo = [this] { ASSERT_TRUE(document.Undo()); };
     struct Case {
@@ -210,7 +210,7 @@ TEST_F(DocFile, EveryDepthOpensAndIsSavedAsABitmapOnly) {
         EXPECT_EQ(host.palettes.palettes.size(), palettes + (colours == 0 ? 0 : 1));
         EXPECT_EQ(host.palettes.palettes.empty() ? 0 : host.palettes.lookup("")->table.count,
                   host.palettes.palettes.empty() ? 0 : 2);
-        document.Pixel(nullptr, 0, 0, 1);
+        pixel(0, 0, 1);
         ASSERT_TRUE(document.onSaveDocument("c:\\again.bmp"));
         TextureCanvas again;
         ASSERT_TRUE(again.LoadBmp("c:\\again.bmp"));
@@ -227,7 +227,7 @@ TEST_F(DocFile, EveryDepthOpensAndIsSavedAsABitmapOnly) {
 }
 
 TEST_F(DocFile, ExportedBitmapIsACopyAndTheDocumentKeepsItsFile) {
-    document.Pixel(nullptr, 1, 1, 5);
+    pixel(1, 1, 5);
     const std::string title = document.title();
     document.runCommand(ID_FILE_EXPORT_BMP); // cancelled
     const FileDialogRequest& request = platform.dialogs.shown.back().request;
@@ -277,14 +277,14 @@ TEST_F(DocFile, RevertGoesBackToTheFileAndKeepsThePalette) {
     openPalette();
     document.Attach();
     const auto canRevert = [&] { return stateOf(document, ID_FILE_REVERT).enabled; };
-    document.Pixel(nullptr, 1, 1, 5);
+    pixel(1, 1, 5);
     ASSERT_TRUE(document.save());
     const auto saved = pixels();
     const std::string title = document.title();
     openPalette(256); // another one is current now
     EXPECT_FALSE(canRevert());
     document.canvas().Create(40, 50, 1, 4); // the file has another size
-    document.Fill(nullptr, 0, 0, 3);
+    fill(0, 0, 3);
     EXPECT_TRUE(canRevert());
     const auto edited = pixels();
     document.runCommand(ID_FILE_REVERT); // the question is answered with no
@@ -299,7 +299,7 @@ TEST_F(DocFile, RevertGoesBackToTheFileAndKeepsThePalette) {
     EXPECT_EQ(pixels(), saved);
     EXPECT_EQ(document.title(), title);
     EXPECT_FALSE(document.hasUnsavedChanges() || document.CanUndo() || canRevert());
-    document.Pixel(nullptr, 15, 11, 2);
+    pixel(15, 11, 2);
     document.Undo();
     EXPECT_EQ(pixels(), saved);
 }

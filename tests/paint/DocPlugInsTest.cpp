@@ -19,7 +19,7 @@ protected:
 
 TEST_F(DocPlugIns, PreviewsThatAreOnFollowImageAndPalette) {
     const std::vector<std::pair<const char*, std::function<void()>>> occasions{
-        {"edit", [&] { document.Pixel(nullptr, 1, 1, 5); }},
+        {"edit", [&] { pixel(1, 1, 5); }},
         {"undo", [&] { document.Undo(); }},
         {"redo", [&] { document.Redo(); }},
         {"palette refreshed", [&] { document.RefreshPalette(); }},
@@ -41,16 +41,19 @@ TEST_F(DocPlugIns, PreviewsThatAreOnFollowImageAndPalette) {
         happens();
         EXPECT_THAT(calls(), ElementsAre(shown)) << name;
     }
-    document.SetStrokeFlag(true);
-    document.Pixel(nullptr, 2, 2, 5);
+    ASSERT_NE(document.BeginEdit(nullptr), nullptr);
+    document.ShowEdit();
     EXPECT_THAT(calls(), IsEmpty());
-    document.SetStrokeFlag(false);
+    document.canvas().PutPixel(2, 2, 5);
+    document.ShowEdit();
+    document.DropEdit();
+    EXPECT_THAT(calls(), ElementsAre(shown, shown));
     host.active = nullptr;
-    document.Pixel(nullptr, 3, 3, 5);
+    pixel(3, 3, 5);
     document.runCommand(ID_PREVIEW1);
     EXPECT_THAT(calls(), IsEmpty());
     host.active = &document;
-    document.Fill(nullptr, 0, 0, 7);
+    fill(0, 0, 7);
     EXPECT_THAT(calls(), ElementsAre("preview 0 texel 7 of 256 from 48", "preview 1 texel 7 of 256 from 48"));
 }
 
@@ -64,7 +67,7 @@ TEST_F(DocPlugIns, FailingPreviewIsSwitchedOff) {
     EXPECT_EQ(calls().back(), "off 1");
     document.runCommand(ID_PREVIEW1);
     EXPECT_FALSE(checked(ID_PREVIEW1));
-    document.Pixel(nullptr, 1, 1, 5);
+    pixel(1, 1, 5);
     EXPECT_THAT(calls(), ElementsAre("off 0"));
 }
 
@@ -87,7 +90,7 @@ TEST_F(DocPlugIns, CommandsStandForThePlugInsOfTheirNumbers) {
     EXPECT_EQ(states(ID_IMPORT_FIRST)[9], "&9 x");
     EXPECT_EQ(states(ID_IMPORT_FIRST)[15], "&5 x");
 
-    document.Fill(nullptr, 0, 0, 9);
+    fill(0, 0, 9);
     document.runCommand(ID_IMPORT_LAST);
     document.runCommand(ID_EXPORT_FIRST + 2);
     EXPECT_THAT(calls(), ElementsAre("import 15 texel 9 of 0 from 0", "export 2 texel 9 of 0 from 0"));
@@ -121,7 +124,7 @@ TEST_F(DocPlugIns, ImportKeepsWhatThePlugInChangedWithoutAStep) {
     EXPECT_EQ(document.canvas().GetPixel(0, 0), 6U);
     EXPECT_FALSE(document.CanUndo());
     EXPECT_TRUE(document.hasUnsavedChanges());
-    document.Pixel(nullptr, 3, 3, 1);
+    pixel(3, 3, 1);
     document.Undo();
     EXPECT_EQ(document.canvas().GetPixel(0, 0), 6U);
 }

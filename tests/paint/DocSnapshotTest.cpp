@@ -75,27 +75,23 @@ protected:
         // At 4 bits a step holds both pixels of a byte, which shows once somebody went past the history.
         switch (random.between(0, GetParam() == 4 ? 10 : 12)) {
         case 0:
-            document.Line(nullptr, at.left, at.top, at.right, at.bottom, value);
-            model.edit(line);
+            edit(line);
             return "line";
         case 1:
-            document.Flip(nullptr, at, value);
-            model.edit([&](TextureCanvas& to) { to.Flip(at.left, at.top, at.right, at.bottom, value); });
+            edit([=](TextureCanvas& to) { to.Flip(at.left, at.top, at.right, at.bottom, value); });
             return "flip";
         case 2:
-            document.Fill(nullptr, at.left, at.top, value);
-            model.edit([&](TextureCanvas& to) { to.FloodFill(at.left, at.top, value); });
+            edit([=](TextureCanvas& to) { to.FloodFill(at.left, at.top, value); });
             return "fill";
         case 3:
         case 4:
-            document.Pixel(nullptr, at.left, at.top, value);
-            model.edit([&](TextureCanvas& to) { to.PutPixel(at.left, at.top, value); });
+            edit([=](TextureCanvas& to) { to.PutPixel(at.left, at.top, value); });
             return "pixel";
         case 5: {
             TextureCanvas other;
             EXPECT_TRUE(other.CreateLike(drawn));
             line(other);
-            document.SetImage(nullptr, *other.ToImage());
+            document.SetImage(*other.ToImage());
             model.edit([&](TextureCanvas& to) { to.CopyFrom(other); });
             return "image";
         }
@@ -108,30 +104,33 @@ protected:
             document.Redo();
             model.redo();
             return "redo";
-        case 9: // a pen, which draws on the canvas itself and shows each part at once
-            EXPECT_TRUE(document.TakeSnapshot());
+        case 9: // a pen, which shows each part at once
+            EXPECT_NE(document.BeginEdit(nullptr), nullptr);
             for (int n = 0; n < 3; ++n) {
                 drawn.DrawLine(at.left, at.top, at.right + n, at.bottom, value);
-                drawn.ResetChangedRect();
+                document.ShowEdit();
             }
-            document.RecordUndoStep(Rect{0, 0, 22, 16});
-            document.AfterEdit(nullptr);
+            document.CommitEdit();
             model.edit([&](TextureCanvas& to) {
                 for (int n = 0; n < 3; ++n)
                     to.DrawLine(at.left, at.top, at.right + n, at.bottom, value);
             });
             return "stroke";
-        case 10: // a rubber band that is let go of
-            EXPECT_TRUE(document.TakeSnapshot());
-            document.SetStrokeFlag(true);
+        case 10: { // a rubber band that is let go of, by itself or for another edit
+            ImageEdit* const band = document.BeginEdit(nullptr);
             for (int n = 0; n < 3; ++n) {
-                document.FilledBox(nullptr, {at.left + n, at.top, at.right, at.bottom - n}, value);
+                band->takeBack();
+                drawn.FillBox(at.left + n, at.top, at.right, at.bottom - n, value);
                 if (n == 1)
-                    drawn.SetChangedRect({0, 0, 0, 0}); // the rest has been shown already
-                document.RestoreSnapshot(nullptr);
+                    document.ShowEdit();
             }
-            document.SetStrokeFlag(false);
-            return "restore";
+            if (value == 0) {
+                edit(line);
+                return "line instead";
+            }
+            document.DropEdit();
+            return "drop";
+        }
         case 11: // somebody who goes past the history
             line(drawn);
             line(model.canvas);
@@ -146,6 +145,11 @@ protected:
             EXPECT_TRUE(drawn.CreateLike(drawn) && model.canvas.CreateLike(model.canvas));
             return "blank";
         }
+    }
+
+    void edit(const std::function<void(TextureCanvas&)>& draw) {
+        document.Edit(nullptr, draw);
+        model.edit(draw);
     }
 
     Random random{GetParam()};

@@ -86,7 +86,7 @@ public:
     }
     void setStatusText(const std::string& text, int pane) override { panes[pane] = text; }
     bool isActiveImage(const CDyeworksDoc& document) const override { return active == &document; }
-    CDyeworksView* activeView() const override { return nullptr; }
+    ImageViewer* activeView() const override { return nullptr; }
     ImagePlugIns& imagePlugIns() override { return plugIns; }
     OpenProject* openProject() override { return project; }
     std::optional<NewImage> askNewImage() override { return newImage; }
@@ -119,6 +119,13 @@ protected:
     std::vector<std::uint8_t> pixels() const {
         const auto rows = document.canvas().pixelRows();
         return {rows.begin(), rows.end()};
+    }
+
+    void pixel(std::int32_t x, std::int32_t y, std::uint32_t value) {
+        document.Edit(nullptr, [=](TextureCanvas& canvas) { canvas.PutPixel(x, y, value); });
+    }
+    void fill(std::int32_t x, std::int32_t y, std::uint32_t value) {
+        document.Edit(nullptr, [=](TextureCanvas& canvas) { canvas.FloodFill(x, y, value); });
     }
 
     void openPalette(std::int32_t count = 16) {

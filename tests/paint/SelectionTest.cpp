@@ -13,7 +13,7 @@ constexpr Keys kControl{false, true, false};
 class Selecting : public ViewFixture {
 protected:
     Selecting() {
-        document.Fill(nullptr, 0, 0, 7);
+        fill(0, 0, 7);
         window.client = {64, 48};
         view.runCommand(ID_ZOOM_X4);
         view.runCommand(ID_TOOL_SELECT);
@@ -59,7 +59,7 @@ TEST_F(Selecting, EachHandleShowsWhichSidesItMoves) {
         press(handle);
         EXPECT_EQ(cursorAt(middleOf(target)), shape) << "as long as it is dragged";
         release(middleOf({12, 11}));
-        EXPECT_EQ(view.selection(), selected);
+        EXPECT_EQ(view.selection().texels().value_or(Rect{}), selected);
         view.KeyPressed({Key::Enter});
     }
 }
@@ -85,7 +85,7 @@ TEST_F(Selecting, ATexelAtTheOriginCountsAsNone) {
     press({1, 1});
     EXPECT_EQ(window.interval, 0);
     release({1, 1});
-    EXPECT_EQ(view.HitSelection({1, 1}), TrackerHit::None);
+    EXPECT_EQ(view.selection().hit({1, 1}), TrackerHit::None);
 }
 
 TEST_F(Selecting, WhatFloatsIsPartOfTheWork) {

@@ -36,10 +36,10 @@ public:
     void repaintNow() override {
         if (view == nullptr || std::ranges::find(stale_, true) == stale_.end())
             return;
-        const CDyeworksView::RedrawRequest request = view->BeginPaint();
+        const ImageSelection::RedrawRequest request = view->BeginPaint();
         const Rect& limit = request.clientArea;
         const auto ordinary = painted(0);
-        const auto limited = painted(request.bits | CDyeworksView::kRedrawImage);
+        const auto limited = painted(request.bits | ImageSelection::kRedrawImage);
         for (std::int32_t y = 0; y < client.height; ++y) {
             for (std::int32_t x = 0; x < client.width; ++x) {
                 const bool inLimit = request.bits != 0 && x >= limit.left && x < limit.right &&
@@ -192,7 +192,7 @@ protected:
     }
 
     std::string seen() {
-        const Rect& s = view.selection();
+        const Rect s = view.selection().texels().value_or(Rect{});
         return described(
             document.canvas(), document.title(), host.panes[1],
             {document.CanUndo(), document.CanRedo(), document.history().count(), s.left, s.top, s.right,

@@ -60,7 +60,7 @@ TEST_F(ViewFixture, RepaintsTheZoomedChangedRectangle) {
     view.runCommand(ID_ZOOM_X4);
     window.scroll = {6, 2};
     window.invalidated.clear();
-    document.Box(nullptr, {3, 2, 5, 4}, 7);
+    document.Edit(nullptr, [](TextureCanvas& canvas) { canvas.DrawBox(3, 2, 5, 4, 7); });
     EXPECT_THAT(window.invalidated, ElementsAre(Rect{6, 6, 18, 18}));
     window.invalidated.clear();
     document.Undo();
@@ -76,7 +76,7 @@ TEST_F(ViewFixture, SelectingRepaintsWhatWasAndWhatIsSelected) {
                                    std::uint32_t request) {
         window.invalidated.clear();
         window.repaints = 0;
-        view.SetSelection(selected, true);
+        view.selection().select(selected, true);
         EXPECT_EQ(window.interval, selected ? 200 : 0);
         EXPECT_THAT(window.invalidated, ElementsAre(area));
         EXPECT_EQ(window.repaints, 1);
@@ -84,7 +84,7 @@ TEST_F(ViewFixture, SelectingRepaintsWhatWasAndWhatIsSelected) {
     };
     static_cast<void>(view.BeginPaint());
     expectRepaint(Rect{5, 4, 2, 1}, {2, 2, 19, 19}, 0x80);
-    EXPECT_EQ(view.selection(), (Rect{2, 1, 5, 4}));
+    EXPECT_EQ(view.selection().texels(), (Rect{2, 1, 5, 4}));
     expectRepaint(Rect{4, 1, 7, 4}, {2, 2, 27, 19}, 0xc0);
     expectRepaint(std::nullopt, {10, 2, 27, 19}, 0x40);
 }
@@ -101,8 +101,8 @@ TEST_F(ViewFixture, RedrawRequestWaitsForNoPaintThatItDoesNotConcern) {
     };
     for (const Case& c : {Case{{8, 5, 3, 2}, 0x80, {12, 8, 36, 24}}, Case{{10, 2, 12, 5}, 0, {}},
                           Case{{2, 8, 5, 9}, 0, {}}, Case{{9, 7, 12, 9}, 0x80, {36, 28, 52, 40}}}) {
-        view.ShowDragFrame({1, 1, 2, 2}, 0xc0); // never painted
-        view.ShowDragFrame(c.texels, 0x80);
+        view.selection().showDragFrame({1, 1, 2, 2}, 0xc0); // never painted
+        view.selection().showDragFrame(c.texels, 0x80);
         const auto request = view.BeginPaint();
         EXPECT_EQ(request.bits, c.bits) << c.texels.left;
         EXPECT_EQ(request.clientArea, c.clientArea) << c.texels.left;
@@ -118,7 +118,7 @@ TEST_F(ViewFixture, ShowsWhatAnImportChangedInPlace) {
     document.ImportThrough(0);
     EXPECT_EQ(window.fullRepaints, 1);
     window.invalidated.clear();
-    document.Pixel(nullptr, 9, 9, 5);
+    pixel(9, 9, 5);
     EXPECT_THAT(window.invalidated, ElementsAre(Rect{9, 9, 10, 10})) << "of the edit alone";
 }
 

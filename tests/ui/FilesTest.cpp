@@ -185,7 +185,7 @@ TEST_F(FilesTest, AnImportedBitmapIsAnImageAndAPaletteAndIsExportedAsTheSameFile
     ASSERT_TRUE(run(ID_FILE_EXPORT_BMP));
     EXPECT_EQ(fake_.files.textOf("c:\\copy.bmp"), fake_.files.textOf("c:\\pic.bmp"));
     EXPECT_EQ(image().pathName(), "c:\\pic.bmp");
-    image().Pixel(nullptr, 0, 0, 1);
+    image().Edit(nullptr, [](TextureCanvas& canvas) { canvas.PutPixel(0, 0, 1); });
     ASSERT_TRUE(app_.OpenDocumentFile("c:\\copy.bmp"));
     fake_.dialogs.answerWith("c:\\PIC.bmp");
     ASSERT_TRUE(run(ID_FILE_EXPORT_BMP));

@@ -53,10 +53,10 @@ TEST_F(Rendering, IsWhatTheRendererDrawsWhereverItIsScrolledAtAnyScale) {
         for (const QPoint scroll : {QPoint(0, 0), QPoint(37, 101), QPoint(9999, 9999)}) {
             static_cast<ScrollView&>(view()).scrollTo(scroll);
             EXPECT_EQ(shown(), expected()) << zoom << " " << scroll.x();
-            view().view().SetSelection(selection.texels, false);
+            view().view().selection().select(selection.texels, false);
             for (const int scale : {1, 2})
                 EXPECT_EQ(shown(scale), expected(scale, selection)) << zoom << " " << scroll.x();
-            view().view().SetSelection(std::nullopt, false);
+            view().view().selection().select(std::nullopt, false);
         }
         ASSERT_TRUE(run(ID_VIEW_GRID));
         EXPECT_EQ(shown(), expected()) << zoom;
@@ -67,10 +67,10 @@ TEST_F(Rendering, TheBorderOfASelectionMovesUntilItIsCleared) {
     openAttached(pattern(40, 30), 8, 256);
     ASSERT_TRUE(run(ID_ZOOM_X6));
     const SelectionLook selection{{5, 4, 20, 16}, nullptr, 10, true};
-    view().view().SetSelection(selection.texels, true);
+    view().view().selection().select(selection.texels, true);
     QImage painted;
     EXPECT_TRUE(QTest::qWaitFor([&] { return (painted = shown()) == expected(1, selection); }));
-    view().view().SetSelection(std::nullopt, true);
+    view().view().selection().select(std::nullopt, true);
     EXPECT_EQ(shown(), expected());
 }
 
@@ -78,8 +78,8 @@ TEST_F(Rendering, ARedrawRequestLimitsNothingOutsideItsRectangle) {
     openAttached(pattern(90, 70), 8, 256);
     frame().activeChild()->resize(300, 250);
     const Rect selection{50, 40, 70, 60};
-    view().view().SetSelection(selection, false);
-    view().view().ShowDragFrame({2, 2, 20, 20}, CDyeworksView::kRedrawDrag);
+    view().view().selection().select(selection, false);
+    view().view().selection().showDragFrame({2, 2, 20, 20}, ImageSelection::kRedrawDrag);
     const QRect elsewhere(45, 35, 35, 35);
     EXPECT_EQ(shown().copy(elsewhere),
               expected(1, SelectionLook{selection, nullptr, 2, false}).copy(elsewhere));

@@ -27,7 +27,7 @@ protected:
         run(ID_TOOL_SELECT);
         app_.selectPaletteBarCell(200);
     }
-    Rect selection() { return view().view().selection(); }
+    Rect selection() { return view().view().selection().texels().value_or(Rect{}); }
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&view(), key, modifiers); }
     void click(QPoint texel, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers modifiers = {}) {
         QTest::mouseClick(view().viewport(), button, modifiers, at(texel.x(), texel.y()));

@@ -230,7 +230,7 @@ bool ImageView::shiftHeld() const {
 void ImageView::paintEvent(QPaintEvent* event) {
     stale_ -= event->region();
     QPainter painter(viewport());
-    const CDyeworksView::RedrawRequest request = view_.BeginPaint();
+    const ImageSelection::RedrawRequest request = view_.BeginPaint();
     const Rect& area = request.clientArea;
     const QRegion requested =
         request.bits == 0 ? QRegion()
@@ -238,7 +238,7 @@ void ImageView::paintEvent(QPaintEvent* event) {
                                 QRect(area.left, area.top, area.right - area.left, area.bottom - area.top));
     // What the window shows cannot be read back, so that the image is drawn beneath whatever was asked for.
     for (const QRect& part : requested)
-        paintPart(painter, part, request.bits | CDyeworksView::kRedrawImage);
+        paintPart(painter, part, request.bits | ImageSelection::kRedrawImage);
     for (const QRect& part : event->region() - requested)
         paintPart(painter, part, 0);
     if (view_.showsNoPalette()) {

@@ -1,0 +1,184 @@
+#include "paint/ImageSelection.h"
+
+#include "paint/CDyeworksDoc.h"
+#include "paint/ImageViewer.h"
+#include "paint/SurfaceDrawing.h"
+#include "paint/ViewWindow.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr int kAntsInterval = 200; // milliseconds
+constexpr std::int32_t kAntsWidth = 2;
+/// No window reaches further.
+constexpr std::int32_t kFarthest = 32767;
+
+/// Whether a selection is more than a line of texels.
+bool isArea(const std::optional<Rect>& texels) {
+    return texels && texels->right > texels->left && texels->bottom > texels->top;
+}
+
+/// Client area that a selection and its border take up.
+std::optional<Rect> areaOf(const ViewGeometry& geometry, const std::optional<Rect>& texels) {
+    if (!texels)
+        return std::nullopt;
+    const Rect frame = geometry.clientFrame(*texels);
+    const Rect area{frame.left - 1, frame.top - 1, frame.right + 2, frame.bottom + 2};
+    return isEmpty(area) ? std::nullopt : std::optional(area);
+}
+
+/// Where a side of `length` texels begins so that it lies inside `size` of them, or from 0 on if it is
+/// longer.
+std::int32_t heldInside(std::int32_t position, std::int32_t length, std::int32_t size) {
+    return std::max(std::min(position, size - length), 0);
+}
+
+} // namespace
+
+ImageSelection::ImageSelection(CDyeworksDoc& document, ImageViewer& viewer, ViewWindow& window,
+                               std::function<ViewGeometry()> geometry)
+    : document_(document)
+    , viewer_(viewer)
+    , window_(window)
+    , geometry_(std::move(geometry)) {}
+
+bool ImageSelection::exists() const noexcept {
+    return keepsSelection(toolAtPress_) && isArea(texels_);
+}
+
+void ImageSelection::setToolAtPress(Tool tool) {
+    const bool existed = exists();
+    toolAtPress_ = tool;
+    if (exists() != existed)
+        window_.invalidateAll();
+}
+
+TrackerHit ImageSelection::hit(Point client) const {
+    if (!texels_)
+        return TrackerHit::None;
+    return SelectionTracker(geometry_().clientFrame(*texels_), kSelectionStyle).hitTest(client);
+}
+
+void ImageSelection::select(const std::optional<Rect>& texels, bool redraw) {
+    const Rect wanted = texels.value_or(Rect{}).normalised();
+    const std::optional<Rect> before =
+        std::exchange(texels_, wanted == Rect{} ? std::nullopt : std::optional(wanted));
+    if (!texels_)
+        window_.stopTicking();
+    if (redraw) {
+        dragRectangle_ = wanted;
+        redrawRequest_ = {
+            (isArea(before) ? kRedrawImage : 0) | (texels_ ? kRedrawDrag : 0),
+            unionOf(areaOf(geometry_(), before), areaOf(geometry_(), texels_)).value_or(Rect{})};
+        window_.invalidate(redrawRequest_.clientArea);
+        window_.repaintNow();
+        // Had all of it been out of sight, a later paint would be limited.
+        redrawRequest_ = {};
+    }
+    if (texels_)
+        window_.startTicking(kAntsInterval);
+}
+
+void ImageSelection::dragEnded() {
+    if (!exists())
+        window_.invalidate(areaOf(geometry_(), texels_).value_or(Rect{}));
+}
+
+void ImageSelection::moveBy(Point step, bool edges) {
+    if (!texels_)
+        return;
+    texels_->right += step.x;
+    texels_->bottom += step.y;
+    if (!edges) {
+        texels_->left += step.x;
+        texels_->top += step.y;
+    }
+    window_.invalidateAll();
+}
+
+void ImageSelection::setFloatingPiece(std::unique_ptr<TextureCanvas> piece) {
+    if (piece == nullptr || piece->width() <= 0 || piece->height() <= 0)
+        return;
+    if (floatingPiece_ != nullptr)
+        commitFloatingPiece(true);
+    if (floatingPiece_ != nullptr)
+        return;
+    anchor_ = {heldInside(anchor_.x, piece->width(), document_.canvas().width()),
+               heldInside(anchor_.y, piece->height(), document_.canvas().height())};
+    const Rect place{anchor_.x, anchor_.y, anchor_.x + piece->width() - 1, anchor_.y + piece->height() - 1};
+    floatingPiece_ = std::move(piece);
+    setCurrentTool(Tool::Select);
+    setToolAtPress(Tool::Select);
+    select(place, true);
+}
+
+void ImageSelection::commitFloatingPiece(bool redraw) {
+    // Released before the repaints that follow.
+    if (std::unique_ptr<TextureCanvas> piece = std::move(floatingPiece_)) {
+        const Rect place = texels_.value_or(Rect{});
+        const auto paste = [&](TextureCanvas& canvas) {
+            canvas.StretchPaste(*piece, place.left, place.top, place.right + 1, place.bottom + 1);
+        };
+        if (!document_.Edit(&viewer_, paste)) {
+            floatingPiece_ = std::move(piece);
+            return;
+        }
+    }
+    if (texels_)
+        select(std::nullopt, redraw);
+}
+
+void ImageSelection::showDragFrame(const Rect& texels, std::uint32_t redrawRequest) {
+    if (trackerStyle_ != kSelectionStyle)
+        hideDragFrame();
+    trackerStyle_ = SelectionTracker::kDottedLine;
+    dragRectangle_ = texels.normalised();
+    requestRedraw(redrawRequest, geometry_().clientArea(dragRectangle_));
+}
+
+void ImageSelection::hideDragFrame() {
+    // The canvas need not have changed wherever the frame was drawn.
+    trackerStyle_ = kSelectionStyle;
+    requestRedraw(kRedrawImage, geometry_().clientArea(dragRectangle_));
+}
+
+/// A request for an area out of sight would wait for some later paint, when it is out of date.
+void ImageSelection::requestRedraw(std::uint32_t request, const Rect& clientArea) {
+    const Size client = window_.clientSize();
+    const bool inSight = !isEmpty(intersection(clientArea, {0, 0, client.width, client.height}));
+    redrawRequest_ = inSight ? RedrawRequest{request, clientArea} : RedrawRequest{};
+    window_.invalidate(clientArea);
+}
+
+void ImageSelection::tick() {
+    if (!texels_)
+        return;
+    antsPhase_ = !antsPhase_;
+    const Rect frame = grown(geometry_().clientFrame(*texels_), kAntsWidth);
+    const auto held = [](std::int32_t coordinate) { return std::clamp(coordinate, 0, kFarthest); };
+    const Rect border{held(frame.left), held(frame.top), held(frame.right), held(frame.bottom)};
+    window_.invalidate({border.left, border.top, border.right, border.top + kAntsWidth});
+    window_.invalidate({border.left, border.bottom - kAntsWidth, border.right, border.bottom});
+    window_.invalidate({border.left, border.top, border.left + kAntsWidth, border.bottom});
+    window_.invalidate({border.right - kAntsWidth, border.top, border.right, border.bottom});
+    window_.repaintNow();
+}
+
+ImageSelection::RedrawRequest ImageSelection::takeRedrawRequest() {
+    return std::exchange(redrawRequest_, {});
+}
+
+std::optional<SelectionLook> ImageSelection::look(std::uint32_t redrawRequest) const {
+    // A piece that floats shows also after a tool that draws, and whatever is being selected is framed.
+    if (redrawRequest == 0 && (exists() || floatingPiece_ != nullptr || (dragged_ && texels_)))
+        return SelectionLook{texels_.value_or(Rect{}), floatingPiece_.get(), trackerStyle_, antsPhase_};
+    if ((redrawRequest & kRedrawDrag) != 0)
+        return SelectionLook{dragRectangle_, floatingPiece_.get(), trackerStyle_, antsPhase_};
+    return std::nullopt;
+}
+
+} // namespace dyeworks

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "framework/DocumentView.h"
+
+#include <memory>
+
+namespace dyeworks {
+
+class TextureCanvas;
+
+/// A view of an image, as the image's document knows it.
+class ImageViewer : public DocumentView {
+public:
+    /// Asks for a repaint of the canvas's changed rectangle. False when it is empty.
+    virtual bool InvalidateChanged() = 0;
+    /// The canvas has another size or depth.
+    virtual void SizeChanged() = 0;
+
+    /// Ends a drag and takes back what it has done so far.
+    virtual void CancelDrag() = 0;
+
+    /// Whether a piece floats above the image, which belongs to no image yet.
+    [[nodiscard]] virtual bool hasFloatingPiece() const = 0;
+    /// Lets the piece float from the anchor on, moved into the image as far as it fits, and selects it with
+    /// the Select tool. One that floats already is committed. A null or empty piece changes nothing.
+    virtual void SetFloatingPiece(std::unique_ptr<TextureCanvas> piece) = 0;
+    /// Puts the floating piece, if there is one, into the image; then nothing is selected.
+    virtual void CommitFloatingPiece(bool redraw) = 0;
+    /// Forgets the floating piece and what is selected, which shows until the next repaint.
+    virtual void DropSelection() = 0;
+
+    /// Carries out the repaints that were asked for, before it returns.
+    virtual void RepaintNow() = 0;
+};
+
+} // namespace dyeworks
