@@ -41,6 +41,7 @@ std::vector<CommandTarget*> CDyeworksApp::commandChain() {
         chain.push_back(&mainFrame_->paletteBar());
         chain.push_back(&mainFrame_->printing());
     }
+    chain.push_back(&recentFiles_);
     chain.push_back(this);
     return chain;
 }
@@ -85,6 +86,10 @@ CDyeworksDoc* CDyeworksApp::activeDocumentOfCurrentPalette() const {
     return shown ? image : nullptr;
 }
 
+void CDyeworksApp::AddToRecentFileList(const std::string& path) {
+    recentFiles_.add(path);
+}
+
 OpenedFile CDyeworksApp::OpenDocumentFile(const std::string& path) {
     const std::string fullPath = platform().files().fullPath(path);
     if (equalIgnoringCase(extensionOf(fullPath), ".tlf"))
@@ -101,11 +106,11 @@ OpenedFile CDyeworksApp::openPalette(const std::string& path) {
     if (palettes_ == nullptr)
         return OpenedFile::failed();
     if (!palettes_->openPalette(path)) {
-        recentPalettes_.remove(path);
+        recentFiles_.remove(path);
         applicationMessage(displayPath(path) + " open failed");
         return OpenedFile::failed();
     }
-    recentPalettes_.add(path);
+    recentFiles_.add(path);
     RefreshImagePalettes();
     return OpenedFile::palette();
 }

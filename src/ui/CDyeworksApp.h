@@ -3,7 +3,6 @@
 #include "core/PaletteSet.h"
 #include "framework/CommandRouter.h"
 #include "framework/DocumentTemplate.h"
-#include "framework/RecentFileList.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/CDyeworksView.h"
 #include "paint/ImageHost.h"
@@ -16,6 +15,7 @@
 #include "ui/ApplicationProjectHost.h"
 #include "ui/OpenRequestQueue.h"
 #include "ui/OpenedFile.h"
+#include "ui/RecentFiles.h"
 #include "ui/StartUpParts.h"
 
 #include <QPointer>
@@ -52,6 +52,8 @@ public:
     /// False before the main window is made and after it has gone.
     [[nodiscard]] bool hasMainFrame() const noexcept { return mainFrame_ != nullptr; }
     [[nodiscard]] CommandRouter& router() noexcept { return router_; }
+    /// What commands reach, in routing order.
+    [[nodiscard]] std::vector<CommandTarget*> commandChain();
     /// The open palettes; before there are any, an empty set.
     PaletteSet* paletteSet() override { return palettes_ == nullptr ? &noPalettes_ : palettes_.get(); }
     /// The picture shown at the start while it is up, else null.
@@ -85,9 +87,7 @@ public:
 
     /// Puts the path first in the list of its kind.
     void AddToRecentFileList(const std::string& path);
-    [[nodiscard]] const RecentFileList& recentProjects() const noexcept { return recentProjects_; }
-    [[nodiscard]] const RecentFileList& recentImages() const noexcept { return recentImages_; }
-    [[nodiscard]] const RecentFileList& recentPalettes() const noexcept { return recentPalettes_; }
+    [[nodiscard]] const RecentFiles& recentFiles() const noexcept { return recentFiles_; }
 
     /// Opens what was open when the program was left last. False when anything of it could not be opened; the
     /// rest is open then.
@@ -155,7 +155,6 @@ public:
     void setActivePaletteValue(std::int32_t firstEntry) override;
 
 private:
-    [[nodiscard]] std::vector<CommandTarget*> commandChain();
     [[nodiscard]] std::vector<CDyeworksDoc*> imageDocuments() const;
     [[nodiscard]] CDyeworksDoc* activeDocument() const;
     /// The active image if the palette bar shows its palette; null otherwise.
@@ -208,15 +207,6 @@ private:
     void OnOptions();
     void OnAppExit();
 
-    [[nodiscard]] RecentFileList& recentListFor(const std::string& path);
-    void openRecent(const RecentFileList& list, std::size_t index);
-    void OnRecentProject(CommandId id);
-    void OnUpdateRecentProject(CommandUi& ui);
-    void OnRecentImage(CommandId id);
-    void OnUpdateRecentImage(CommandUi& ui);
-    void OnRecentPalette(CommandId id);
-    void OnUpdateRecentPalette(CommandUi& ui);
-
     StartUpParts parts_;
     PlugInCatalogue plugIns_;
     ApplicationPlugInHost plugInHost_{*this};
@@ -224,10 +214,7 @@ private:
     ProjectPlugInCalls projectPlugIns_{plugIns_, plugInHost_};
     ApplicationProjectHost projectHost_{*this};
     CommandRouter router_;
-    RecentFileList recentProjects_{"Recent TPF List"};
-    RecentFileList recentImages_{"Recent TMF List"};
-    RecentFileList recentPalettes_{"Recent TLF List"};
-    RecentFileList recentOthers_{"Recent File List"};
+    RecentFiles recentFiles_{[this](const std::string& path) { OpenDocumentFile(path); }};
     std::string programFolder_;
     std::string helpPath_;
     PaletteSet noPalettes_; ///< Seen until the set is made.

@@ -39,12 +39,6 @@ void CDyeworksApp::fillCommands() {
     on(ID_OPTIONS, &CDyeworksApp::OnOptions);
     on(ID_APP_ABOUT, &CDyeworksApp::ShowAbout);
     on(ID_APP_EXIT, &CDyeworksApp::OnAppExit);
-    onRange(ID_RECENT_PROJECT_FIRST, ID_RECENT_PROJECT_LAST, &CDyeworksApp::OnRecentProject,
-            &CDyeworksApp::OnUpdateRecentProject);
-    onRange(ID_RECENT_IMAGE_FIRST, ID_RECENT_IMAGE_LAST, &CDyeworksApp::OnRecentImage,
-            &CDyeworksApp::OnUpdateRecentImage);
-    onRange(ID_RECENT_PALETTE_FIRST, ID_RECENT_PALETTE_LAST, &CDyeworksApp::OnRecentPalette,
-            &CDyeworksApp::OnUpdateRecentPalette);
 }
 
 void CDyeworksApp::openWithDialog(const char* defaultExtension, int filterIndex) {

@@ -110,11 +110,8 @@ int CDyeworksApp::ExitInstance() {
         palettes_->setListener(nullptr);
     mainFrame_.reset();
     palettes_.reset();
-    if (keepsSettings_) {
-        for (const RecentFileList* list :
-             {&recentProjects_, &recentImages_, &recentPalettes_, &recentOthers_})
-            list->save();
-    }
+    if (keepsSettings_)
+        recentFiles_.save();
     return exitCode_;
 }
 
@@ -145,8 +142,7 @@ void CDyeworksApp::readSettings() {
     const std::string folder = platform().profile().textOr(kAppSection, kDirectoryEntry, "");
     if (!folder.empty())
         static_cast<void>(platform().files().setCurrentDirectory(folder));
-    for (RecentFileList* list : {&recentOthers_, &recentProjects_, &recentImages_, &recentPalettes_})
-        list->load();
+    recentFiles_.load();
 }
 
 bool CDyeworksApp::registerControls() {

@@ -91,10 +91,7 @@ class Commands : public Program {
 protected:
     /// What somebody would take as things stand.
     [[nodiscard]] Ids taken() {
-        std::vector<CommandTarget*> chain = frame().commandTargets();
-        chain.push_back(&frame().paletteBar());
-        chain.push_back(&frame().printing());
-        chain.push_back(&app_);
+        const std::vector<CommandTarget*> chain = app_.commandChain();
         Ids ids = everyCommand();
         std::erase_if(ids, [&](CommandId id) {
             return std::ranges::none_of(chain, [&](CommandTarget* target) { return target->handles(id); });

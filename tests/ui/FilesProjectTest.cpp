@@ -27,7 +27,7 @@ TEST_F(FilesProject, CommandsAreEnabledByWhatThereIs) {
     };
     openProject({"Sky"});
     EXPECT_EQ(app_.FindOpenDocument("C:\\PROJ\\SEA.TPF"), app_.projectDocument());
-    EXPECT_THAT(app_.recentProjects().paths(), ElementsAre("c:\\proj\\sea.tpf"));
+    EXPECT_THAT(app_.recentFiles().projects().paths(), ElementsAre("c:\\proj\\sea.tpf"));
     expect(true, true);
     ASSERT_TRUE(run(ID_PICTURE_REMOVE));
     EXPECT_TRUE(app_.projectDocument()->isModified());

@@ -8,9 +8,9 @@ using Recent = Program;
 TEST_F(Recent, FilesGoIntoTheListOfTheirLastFourCharacters) {
     for (const char* path : {"c:\\a.TPF", "c:\\a.Tmf", "c:\\a.tLF", "c:\\a.tmf.bak", "c:\\.tlf", "c:\\x"})
         app_.AddToRecentFileList(path);
-    EXPECT_THAT(app_.recentProjects().paths(), ElementsAre("c:\\a.TPF"));
-    EXPECT_THAT(app_.recentImages().paths(), ElementsAre("c:\\a.Tmf"));
-    EXPECT_THAT(app_.recentPalettes().paths(), ElementsAre("c:\\.tlf", "c:\\a.tLF"));
+    EXPECT_THAT(app_.recentFiles().projects().paths(), ElementsAre("c:\\a.TPF"));
+    EXPECT_THAT(app_.recentFiles().images().paths(), ElementsAre("c:\\a.Tmf"));
+    EXPECT_THAT(app_.recentFiles().palettes().paths(), ElementsAre("c:\\.tlf", "c:\\a.tLF"));
 }
 
 TEST_F(Recent, TheMenuShowsThePlaceholderOrTheEntries) {
@@ -37,26 +37,26 @@ TEST_F(Recent, EntriesOpenTheirFilesAndWhatIsOpenedOrSavedUnderAnotherNameIsFirs
     app_.AddToRecentFileList("c:\\b.tmf");
     ASSERT_TRUE(run(ID_RECENT_IMAGE_FIRST + 1));
     EXPECT_NE(app_.FindOpenDocument("C:\\A.TMF"), nullptr);
-    EXPECT_THAT(app_.recentImages().paths(), ElementsAre("c:\\a.tmf", "c:\\b.tmf"));
+    EXPECT_THAT(app_.recentFiles().images().paths(), ElementsAre("c:\\a.tmf", "c:\\b.tmf"));
     ASSERT_TRUE(app_.OpenFiles({"p.TLF", "c:\\b.tmf"}, false));
-    EXPECT_THAT(app_.recentImages().paths(), ElementsAre("c:\\b.tmf", "c:\\a.tmf"));
-    EXPECT_THAT(app_.recentPalettes().paths(), ElementsAre("c:\\p.TLF"));
+    EXPECT_THAT(app_.recentFiles().images().paths(), ElementsAre("c:\\b.tmf", "c:\\a.tmf"));
+    EXPECT_THAT(app_.recentFiles().palettes().paths(), ElementsAre("c:\\p.TLF"));
     fake_.dialogs.answerWith("c:\\c.tmf");
     ASSERT_TRUE(run(ID_FILE_SAVE_AS));
-    EXPECT_THAT(app_.recentImages().paths(), ElementsAre("c:\\c.tmf", "c:\\b.tmf", "c:\\a.tmf"));
+    EXPECT_THAT(app_.recentFiles().images().paths(), ElementsAre("c:\\c.tmf", "c:\\b.tmf", "c:\\a.tmf"));
     ASSERT_FALSE(app_.OpenDocumentFile("c:\\gone.tmf"));
-    EXPECT_EQ(app_.recentImages().paths().size(), 3U);
+    EXPECT_EQ(app_.recentFiles().images().paths().size(), 3U);
 }
 
 TEST_F(Recent, OnlyAPaletteThatFailsToOpenLeavesItsList) {
     app_.AddToRecentFileList("c:\\gone.tlf");
     app_.AddToRecentFileList("c:\\gone.tmf");
     ASSERT_TRUE(run(ID_RECENT_IMAGE_FIRST));
-    EXPECT_THAT(app_.recentImages().paths(), ElementsAre("c:\\gone.tmf"));
+    EXPECT_THAT(app_.recentFiles().images().paths(), ElementsAre("c:\\gone.tmf"));
     EXPECT_FALSE(app_.OpenDocumentFile("c:\\GONE.tlf"));
-    EXPECT_THAT(app_.recentPalettes().paths(), ElementsAre("c:\\gone.tlf")) << "case counts here";
+    EXPECT_THAT(app_.recentFiles().palettes().paths(), ElementsAre("c:\\gone.tlf")) << "case counts here";
     ASSERT_TRUE(run(ID_RECENT_PALETTE_FIRST));
-    EXPECT_THAT(app_.recentPalettes().paths(), IsEmpty());
+    EXPECT_THAT(app_.recentFiles().palettes().paths(), IsEmpty());
     EXPECT_EQ(fake_.messages.lastText(), "c:\\gone.tlf open failed");
 }
 

@@ -40,7 +40,7 @@ TEST_F(Start, GoesThroughItsStepsInOrder) {
     };
     parts_.makeMainFrame = [&, make = parts_.makeMainFrame](CDyeworksApp& app) {
         EXPECT_EQ(fake_.files.currentDirectory(), "c:\\work");
-        EXPECT_THAT(app.recentImages().paths(), ElementsAre("c:\\a.tmf"));
+        EXPECT_THAT(app.recentFiles().images().paths(), ElementsAre("c:\\a.tmf"));
         EXPECT_THAT(fake_.library.requests(),
                     ElementsAre("SwatchGrid.ocx", "FolderPick.ocx", "RampSlider.ocx"));
         EXPECT_EQ(fake_.library.loadedCount(), 0);
