@@ -72,7 +72,7 @@ void takeAsCopy(QDropEvent& event) {
 CMainFrame::CMainFrame(CDyeworksApp& application)
     : application_(application)
     , actions_(application.router())
-    , printing_(*this) {
+    , printing_(*this, [this] { return activeImageView(); }) {
     setObjectName(QStringLiteral("IDR_MAINFRAME"));
     setAcceptDrops(true);
     new ContextMenuKey(this);

@@ -4,7 +4,6 @@
 #include "paint/widgets/ImageView.h"
 #include "platform/Platform.h"
 #include "platform/posix/HostFile.h"
-#include "ui/CMainFrame.h"
 #include "ui/ImagePrinter.h"
 
 #include <QAction>
@@ -68,8 +67,9 @@ bool printWhole(ImageView& view, QPrinter& printer, const ImagePrinter::Progress
 
 } // namespace
 
-PrintCommands::PrintCommands(CMainFrame& frame)
-    : frame_(frame)
+PrintCommands::PrintCommands(QWidget& window, ActiveView activeView)
+    : window_(window)
+    , activeView_(std::move(activeView))
     , choose_([this](QPrinter& printer) { return chooseByDialog(printer); }) {
     on(ID_FILE_PRINT, &PrintCommands::OnFilePrint, &PrintCommands::updateNeedsImage);
     on(ID_FILE_PRINT_DIRECT, &PrintCommands::OnFilePrintDirect, &PrintCommands::updateNeedsImage);
@@ -102,25 +102,25 @@ bool PrintCommands::printUnasked(ImageView& view, const QString& printerName, co
 }
 
 bool PrintCommands::chooseByDialog(QPrinter& printer) {
-    QPrintDialog dialog(&printer, &frame_);
-    const int pages = ImagePrinter(*frame_.activeImageView()).pageCount(printer);
+    QPrintDialog dialog(&printer, &window_);
+    const int pages = ImagePrinter(*activeView_()).pageCount(printer);
     dialog.setMinMax(1, pages);
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, pages > 1);
     return dialog.exec() == QDialog::Accepted;
 }
 
 void PrintCommands::printActive() {
-    ImageView& view = *frame_.activeImageView();
+    ImageView& view = *activeView_();
     QPrinter& target = printer();
     target.setDocName(QString::fromStdString(view.view().document().displayName()));
-    PrintProgress progress(frame_);
+    PrintProgress progress(window_);
     const bool printed = printWhole(view, target, std::ref(progress));
     if (!printed && !progress.stopped())
         applicationMessage(text(StringId::PrintingFailed));
 }
 
 void PrintCommands::updateNeedsImage(CommandUi& ui) {
-    ui.enabled = frame_.activeImageView() != nullptr;
+    ui.enabled = activeView_() != nullptr;
 }
 
 void PrintCommands::OnFilePrint() {
@@ -142,14 +142,14 @@ void PrintCommands::OnFilePrintDirect() {
 }
 
 void PrintCommands::OnFilePrintPreview() {
-    QPrintPreviewDialog dialog(&printer(), &frame_);
+    QPrintPreviewDialog dialog(&printer(), &window_);
     printer().setFromTo(0, 0);
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* pages) {
         PrintProgress progress(dialog);
         // A preview that was stopped shows the pages so far.
-        static_cast<void>(ImagePrinter(*frame_.activeImageView()).print(*pages, std::ref(progress)));
+        static_cast<void>(ImagePrinter(*activeView_()).print(*pages, std::ref(progress)));
     });
-    dialog.resize(frame_.size());
+    dialog.resize(window_.size());
     Profile& profile = platform().profile();
     auto* facingPages = dialog.findChild<QAction*>(QStringLiteral("facingModeAction"));
     if (facingPages != nullptr && profile.integer(kSection, kPreviewPagesEntry, 1) > 1)
@@ -160,7 +160,7 @@ void PrintCommands::OnFilePrintPreview() {
 }
 
 void PrintCommands::OnFilePrintSetup() {
-    QPageSetupDialog(&printer(), &frame_).exec();
+    QPageSetupDialog(&printer(), &window_).exec();
 }
 
 } // namespace dyeworks

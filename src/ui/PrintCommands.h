@@ -7,10 +7,10 @@
 
 class QPrinter;
 class QString;
+class QWidget;
 
 namespace dyeworks {
 
-class CMainFrame;
 class ImageView;
 
 /// The printing commands for the active image, and the printer that is set up for all of them.
@@ -19,8 +19,11 @@ public:
     /// Lets the user choose printer, pages and copies; false when it was cancelled.
     using Chooser = std::function<bool(QPrinter&)>;
 
-    /// The frame must outlive this object.
-    explicit PrintCommands(CMainFrame& frame);
+    /// The image that the commands are for; null when there is none.
+    using ActiveView = std::function<ImageView*()>;
+
+    /// Dialogs stand before `window`, which must outlive this object.
+    PrintCommands(QWidget& window, ActiveView activeView);
     ~PrintCommands() override;
 
     /// Replaces the dialog that asks before printing.
@@ -41,7 +44,8 @@ private:
     void OnFilePrintPreview();
     void OnFilePrintSetup();
 
-    CMainFrame& frame_;
+    QWidget& window_;
+    ActiveView activeView_;
     Chooser choose_;
     std::unique_ptr<QPrinter> printer_;
 };
