@@ -35,6 +35,8 @@ public:
     OpenProject* openProject() override { return nullptr; }
     std::optional<NewImage> askNewImage() override { return std::nullopt; }
     void AskUseProject() override {}
+    const CDyeworksDoc* lastActivatedImage() const override { return nullptr; }
+    void setLastActivatedImage(const CDyeworksDoc* /*document*/) override {}
 };
 
 /// Bytes that the program holds on the heap.

@@ -86,6 +86,8 @@ public:
     OpenProject* openProject() override { return nullptr; }
     std::optional<NewImage> askNewImage() override { return std::nullopt; }
     void AskUseProject() override {}
+    const CDyeworksDoc* lastActivatedImage() const override { return nullptr; }
+    void setLastActivatedImage(const CDyeworksDoc* /*document*/) override {}
 
     PaletteSet palettes;
 };

@@ -61,11 +61,8 @@ public:
 
     /// The document whose view was activated last, still remembered while another kind of window is active;
     /// null before the first and after that document has ended.
-    [[nodiscard]] const CDyeworksDoc* lastActivatedImage() const noexcept { return lastActivated_; }
-    void setLastActivatedImage(const CDyeworksDoc* document) noexcept { lastActivated_ = document; }
-
-private:
-    const CDyeworksDoc* lastActivated_ = nullptr;
+    [[nodiscard]] virtual const CDyeworksDoc* lastActivatedImage() const = 0;
+    virtual void setLastActivatedImage(const CDyeworksDoc* document) = 0;
 };
 
 } // namespace dyeworks

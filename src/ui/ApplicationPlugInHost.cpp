@@ -1,37 +1,41 @@
 #include "ui/ApplicationPlugInHost.h"
 
+#include "framework/CommandRouter.h"
+#include "paint/CDyeworksDoc.h"
 #include "platform/Text.h"
 #include "project/CTPFDocument.h"
-#include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"
+#include "ui/CurrentProject.h"
+#include "ui/Workspace.h"
 
 #include <QStatusBar>
 
 namespace dyeworks {
 
 CTPFDocument* ApplicationPlugInHost::openProject() const {
-    return dynamic_cast<CTPFDocument*>(application_.projectDocument());
+    return dynamic_cast<CTPFDocument*>(workspace_.currentProject().document());
 }
 
 CDyeworksDoc* ApplicationPlugInHost::findImage(const std::string& path) const {
-    return dynamic_cast<CDyeworksDoc*>(application_.FindOpenDocument(path));
+    return dynamic_cast<CDyeworksDoc*>(workspace_.FindOpenDocument(path));
 }
 
 PaletteSet* ApplicationPlugInHost::paletteSet() const {
-    return application_.paletteSet();
+    return workspace_.paletteSet();
 }
 
 void ApplicationPlugInHost::refreshPaletteBar() {
-    application_.refreshPaletteBar();
+    if (workspace_.hasMainFrame())
+        workspace_.mainFrame().RefreshPaletteBar();
 }
 
 void ApplicationPlugInHost::showAbout() {
-    application_.ShowAbout();
+    workspace_.router().run(ID_APP_ABOUT);
 }
 
 void ApplicationPlugInHost::tellPlugInFailed(const std::string& fileName) {
-    if (application_.hasMainFrame())
-        application_.mainFrame().statusBar()->showMessage(
+    if (workspace_.hasMainFrame())
+        workspace_.mainFrame().statusBar()->showMessage(
             QString::fromStdString(text(StringId::PlugInFailed, {fileName})));
 }
 

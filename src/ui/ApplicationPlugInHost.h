@@ -4,14 +4,14 @@
 
 namespace dyeworks {
 
-class CDyeworksApp;
+class Workspace;
 
 /// The application as plug-ins see it.
 class ApplicationPlugInHost final : public PlugInHost {
 public:
-    /// `application` must outlive the host.
-    explicit ApplicationPlugInHost(CDyeworksApp& application)
-        : application_(application) {}
+    /// `workspace` must outlive the host.
+    explicit ApplicationPlugInHost(Workspace& workspace)
+        : workspace_(workspace) {}
 
     [[nodiscard]] CTPFDocument* openProject() const override;
     [[nodiscard]] CDyeworksDoc* findImage(const std::string& path) const override;
@@ -21,7 +21,7 @@ public:
     void tellPlugInFailed(const std::string& fileName) override;
 
 private:
-    CDyeworksApp& application_;
+    Workspace& workspace_;
 };
 
 } // namespace dyeworks

@@ -1,7 +1,10 @@
 #include "ui/ApplicationProjectHost.h"
 
-#include "ui/CDyeworksApp.h"
+#include "framework/CommandRouter.h"
+#include "paint/CDyeworksDoc.h"
 #include "ui/CMainFrame.h"
+#include "ui/CurrentProject.h"
+#include "ui/Workspace.h"
 #include "ui/sheets/CFileNewProjectPage.h"
 #include "ui/sheets/CFileNewSheet.h"
 #include "ui/sheets/CPictureDlg.h"
@@ -9,39 +12,36 @@
 
 namespace dyeworks {
 
-ProjectPlugIns& ApplicationProjectHost::projectPlugIns() {
-    return application_.projectPlugIns();
-}
-
 ProjectDocument* ApplicationProjectHost::projectDocument() const {
-    return application_.projectDocument();
+    return workspace_.currentProject().document();
 }
 
 void ApplicationProjectHost::setProjectDocument(ProjectDocument* project) {
-    application_.setProjectDocument(project);
+    workspace_.currentProject().setDocument(project);
+    ProjectChanged();
 }
 
 bool ApplicationProjectHost::CloseProject() {
-    return application_.CloseProject();
+    return workspace_.CloseProject();
 }
 
 void ApplicationProjectHost::ProjectChanged() {
-    if (application_.hasMainFrame())
-        application_.mainFrame().ProjectChanged();
+    if (workspace_.hasMainFrame())
+        workspace_.mainFrame().ProjectChanged();
 }
 
 void ApplicationProjectHost::ProjectRenamed() {
-    if (application_.hasMainFrame())
-        application_.mainFrame().ProjectRenamed();
+    if (workspace_.hasMainFrame())
+        workspace_.mainFrame().OnUpdateFrameTitle();
 }
 
 void ApplicationProjectHost::SelectPicture(const std::string& name) {
-    if (application_.hasMainFrame())
-        application_.mainFrame().SelectPicture(name);
+    if (workspace_.hasMainFrame())
+        workspace_.mainFrame().SelectPicture(name);
 }
 
 bool ApplicationProjectHost::askNewProject(ProjectSettings& settings) {
-    CFileNewSheet sheet(&application_.mainFrame());
+    CFileNewSheet sheet(&workspace_.mainFrame());
     CFileNewProjectPage& page = sheet.projectPage();
     sheet.keepOnly(page);
     page.setValues(settings);
@@ -52,7 +52,7 @@ bool ApplicationProjectHost::askNewProject(ProjectSettings& settings) {
 }
 
 bool ApplicationProjectHost::askProjectProperties(ProjectSettings& settings) {
-    ProjectPropertySheet sheet(settings, &application_.mainFrame());
+    ProjectPropertySheet sheet(settings, &workspace_.mainFrame());
     if (sheet.exec() != QDialog::Accepted)
         return false;
     settings = sheet.values();
@@ -61,7 +61,7 @@ bool ApplicationProjectHost::askProjectProperties(ProjectSettings& settings) {
 
 bool ApplicationProjectHost::askPicture(PictureSettings& settings,
                                         const std::function<PictureField(const PictureSettings&)>& check) {
-    CPictureDlg dialog(settings, check, &application_.mainFrame());
+    CPictureDlg dialog(settings, check, &workspace_.mainFrame());
     if (dialog.exec() != QDialog::Accepted)
         return false;
     settings = dialog.settings();
@@ -69,26 +69,26 @@ bool ApplicationProjectHost::askPicture(PictureSettings& settings,
 }
 
 bool ApplicationProjectHost::openPalette(const std::string& path) {
-    return static_cast<bool>(application_.OpenDocumentFile(path));
+    return static_cast<bool>(workspace_.OpenDocumentFile(path));
 }
 
 CDyeworksDoc* ApplicationProjectHost::openImage(const std::string& path) {
-    return dynamic_cast<CDyeworksDoc*>(application_.OpenDocumentFile(path).document());
+    return dynamic_cast<CDyeworksDoc*>(workspace_.OpenDocumentFile(path).document());
 }
 
 bool ApplicationProjectHost::ClosePictureDocuments(const std::vector<std::string>& paths) {
-    return application_.ClosePictureDocuments(paths);
+    return workspace_.ClosePictureDocuments(paths);
 }
 
 void ApplicationProjectHost::SetPaletteBarNumber(std::int32_t number) {
-    if (!application_.hasMainFrame())
+    if (!workspace_.hasMainFrame())
         return;
-    application_.mainFrame().RefreshPaletteBar();
-    application_.mainFrame().SetPaletteBarNumber(number);
+    workspace_.mainFrame().RefreshPaletteBar();
+    workspace_.mainFrame().SetPaletteBarNumber(number);
 }
 
 void ApplicationProjectHost::runCommand(std::uint32_t command) {
-    application_.router().run(command);
+    workspace_.router().run(command);
 }
 
 } // namespace dyeworks

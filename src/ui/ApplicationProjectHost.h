@@ -4,16 +4,17 @@
 
 namespace dyeworks {
 
-class CDyeworksApp;
+class Workspace;
 
 /// The application as projects see it: dialogs, opening and closing of files, the main window.
 class ApplicationProjectHost final : public ProjectHost {
 public:
-    /// `application` must outlive the host.
-    explicit ApplicationProjectHost(CDyeworksApp& application)
-        : application_(application) {}
+    /// Both must outlive the host.
+    ApplicationProjectHost(Workspace& workspace, ProjectPlugIns& plugIns)
+        : workspace_(workspace)
+        , plugIns_(plugIns) {}
 
-    [[nodiscard]] ProjectPlugIns& projectPlugIns() override;
+    [[nodiscard]] ProjectPlugIns& projectPlugIns() override { return plugIns_; }
     [[nodiscard]] ProjectDocument* projectDocument() const override;
     void setProjectDocument(ProjectDocument* project) override;
     bool CloseProject() override;
@@ -31,7 +32,8 @@ public:
     void runCommand(std::uint32_t command) override;
 
 private:
-    CDyeworksApp& application_;
+    Workspace& workspace_;
+    ProjectPlugIns& plugIns_;
 };
 
 } // namespace dyeworks

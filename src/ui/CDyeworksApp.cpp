@@ -9,8 +9,6 @@
 #include "ui/CMainFrame.h"
 #include "ui/ClosingQuestions.h"
 #include "ui/palettebar/CPaletteBar.h"
-#include "ui/sheets/CFileNewSheet.h"
-#include "ui/sheets/CFileNewTexturePage.h"
 
 #include <algorithm>
 #include <map>
@@ -74,13 +72,9 @@ std::vector<CDyeworksDoc*> CDyeworksApp::imageDocuments() const {
     return images;
 }
 
-CDyeworksDoc* CDyeworksApp::activeDocument() const {
-    const CDyeworksView* view = activeView();
-    return view == nullptr ? nullptr : &view->document();
-}
-
 CDyeworksDoc* CDyeworksApp::activeDocumentOfCurrentPalette() const {
-    CDyeworksDoc* image = activeDocument();
+    const CDyeworksView* view = imageHost_.activeView();
+    CDyeworksDoc* image = view == nullptr ? nullptr : &view->document();
     const bool shown = palettes_ != nullptr && image != nullptr && image->IsAttached() &&
                        image->attachedName() == palettes_->currentKey;
     return shown ? image : nullptr;
@@ -168,7 +162,7 @@ bool CDyeworksApp::SaveAllModified() {
     ClosingQuestions questions(*this);
     if (!questions.ask())
         return false;
-    auto* const project = dynamic_cast<CTPFDocument*>(project_);
+    auto* const project = dynamic_cast<CTPFDocument*>(projectDocument());
     if (project == nullptr)
         return true;
     project->EndPlugIns();
@@ -180,11 +174,11 @@ bool CDyeworksApp::SaveAllModified() {
 
 std::vector<CDocument*> CDyeworksApp::documents() const {
     std::vector<CDocument*> all;
-    if (project_ != nullptr)
-        all.push_back(project_);
+    if (projectDocument() != nullptr)
+        all.push_back(projectDocument());
     for (const auto& kind : templates_) {
         for (CDocument* document : kind->documents()) {
-            if (document != project_)
+            if (document != projectDocument())
                 all.push_back(document);
         }
     }
@@ -200,7 +194,7 @@ void CDyeworksApp::closeFramesOf(const CDocument& document) {
 
 bool CDyeworksApp::ClosePictureDocuments(const std::vector<std::string>& paths) {
     // Pictures may share their files.
-    std::set<const void*> seen{nullptr, static_cast<const CDocument*>(project_)};
+    std::set<const void*> seen{nullptr, static_cast<const CDocument*>(projectDocument())};
     std::vector<std::string> open;
     for (const std::string& path : paths) {
         // Empty stands for a file that was not found; as a key it would mean the current palette.
@@ -241,50 +235,20 @@ void CDyeworksApp::ShowHelp(const std::string& relativePath) {
                                     MessageOwner::MainWindow});
 }
 
-void CDyeworksApp::setProjectDocument(ProjectDocument* project) {
-    project_ = project;
-    if (project == nullptr)
-        currentPicture_.clear();
-    if (mainFrame_ != nullptr)
-        mainFrame_->ProjectChanged();
-}
-
 bool CDyeworksApp::CloseProject() {
-    if (project_ != nullptr && !project_->mayClose())
+    if (projectDocument() != nullptr && !projectDocument()->mayClose())
         return false;
-    if (project_ == nullptr)
+    if (projectDocument() == nullptr)
         return true;
-    ProjectDocument& project = *project_;
+    ProjectDocument& project = *projectDocument();
     // Closing the last of its windows ends the document.
     if (mainFrame_->frameOf(project) != nullptr)
         closeFramesOf(project);
     else
         project.documentTemplate()->dropDocument(project);
-    if (project_ != nullptr)
-        setProjectDocument(nullptr);
+    if (projectDocument() != nullptr)
+        projectHost_.setProjectDocument(nullptr);
     return true;
-}
-
-OpenProject* CDyeworksApp::openProject() {
-    return project_;
-}
-
-std::int32_t CDyeworksApp::paletteBarFirstEntry() const {
-    return mainFrame_ == nullptr ? 0 : mainFrame_->GetPaletteBarFirstEntry();
-}
-
-std::int32_t CDyeworksApp::paletteBarCell() const {
-    return mainFrame_ == nullptr ? -1 : mainFrame_->GetPaletteBarCell();
-}
-
-void CDyeworksApp::selectPaletteBarCell(std::int32_t cell) {
-    if (mainFrame_ != nullptr)
-        mainFrame_->SelectPaletteBarCell(cell);
-}
-
-void CDyeworksApp::refreshPaletteBar() {
-    if (mainFrame_ != nullptr)
-        mainFrame_->RefreshPaletteBar();
 }
 
 std::optional<std::string> CDyeworksApp::savePaletteAs(const std::string& key) {
@@ -292,20 +256,6 @@ std::optional<std::string> CDyeworksApp::savePaletteAs(const std::string& key) {
     bool saved = false;
     keepAttachments([&] { return saved = paletteSet()->savePaletteAs(now, true); });
     return saved ? std::optional(now) : std::nullopt;
-}
-
-void CDyeworksApp::setStatusText(const std::string& text, int pane) {
-    if (mainFrame_ != nullptr)
-        mainFrame_->SetStatusText(text, pane);
-}
-
-bool CDyeworksApp::isActiveImage(const CDyeworksDoc& document) const {
-    return activeDocument() == &document;
-}
-
-CDyeworksView* CDyeworksApp::activeView() const {
-    ImageView* view = mainFrame_ == nullptr ? nullptr : mainFrame_->activeImageView();
-    return view == nullptr ? nullptr : &view->view();
 }
 
 std::optional<PaletteBarHost::Image> CDyeworksApp::activeImage() const {

@@ -4,19 +4,20 @@
 #include "framework/CommandRouter.h"
 #include "framework/DocumentTemplate.h"
 #include "paint/CDyeworksDoc.h"
-#include "paint/CDyeworksView.h"
-#include "paint/ImageHost.h"
 #include "palette/PaletteBarHost.h"
 #include "platform/FileDialogs.h"
 #include "plugin/ImagePlugInCalls.h"
 #include "plugin/PlugInCatalogue.h"
 #include "plugin/ProjectPlugInCalls.h"
+#include "ui/ApplicationImageHost.h"
 #include "ui/ApplicationPlugInHost.h"
 #include "ui/ApplicationProjectHost.h"
+#include "ui/CurrentProject.h"
+#include "ui/MainFrameHost.h"
 #include "ui/OpenRequestQueue.h"
-#include "ui/OpenedFile.h"
 #include "ui/RecentFiles.h"
 #include "ui/StartUpParts.h"
+#include "ui/Workspace.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -29,13 +30,16 @@
 namespace dyeworks {
 
 class CMainFrame;
-class ProjectDocument;
 struct CommandLine;
 
 /// The application: starts and stops the program, owns the open palettes, the kinds of documents, the recent
 /// files and the main window, opens files by their kind and carries out the commands that belong to no
 /// window. The platform is installed before it is made; there is one at a time.
-class CDyeworksApp : public CommandTarget, public ImageHost, public PaletteBarHost, private DocumentWindows {
+class CDyeworksApp : public CommandTarget,
+                     public Workspace,
+                     public MainFrameHost,
+                     private PaletteBarHost,
+                     private DocumentWindows {
 public:
     explicit CDyeworksApp(StartUpParts parts = {});
     ~CDyeworksApp() override;
@@ -48,38 +52,28 @@ public:
     /// Keeps the settings and lets go of the window and the palettes. The result is the process's exit code.
     int ExitInstance();
 
-    [[nodiscard]] CMainFrame& mainFrame() noexcept { return *mainFrame_; }
-    /// False before the main window is made and after it has gone.
-    [[nodiscard]] bool hasMainFrame() const noexcept { return mainFrame_ != nullptr; }
-    [[nodiscard]] CommandRouter& router() noexcept { return router_; }
+    [[nodiscard]] CMainFrame& mainFrame() noexcept override { return *mainFrame_; }
+    [[nodiscard]] bool hasMainFrame() const noexcept override { return mainFrame_ != nullptr; }
+    [[nodiscard]] CommandRouter& router() noexcept override { return router_; }
     /// What commands reach, in routing order.
     [[nodiscard]] std::vector<CommandTarget*> commandChain();
-    /// The open palettes; before there are any, an empty set.
-    PaletteSet* paletteSet() override { return palettes_ == nullptr ? &noPalettes_ : palettes_.get(); }
+    [[nodiscard]] PaletteSet* paletteSet() override {
+        return palettes_ == nullptr ? &noPalettes_ : palettes_.get();
+    }
     /// The picture shown at the start while it is up, else null.
     [[nodiscard]] QWidget* splashScreen() const noexcept { return splash_; }
-    /// With a trailing "\".
-    [[nodiscard]] const std::string& programFolder() const noexcept { return programFolder_; }
     [[nodiscard]] const std::string& helpPath() const noexcept { return helpPath_; }
 
     // The kinds of documents.
-    void addDocTemplate(std::unique_ptr<DocumentTemplate> kind);
     /// The kind called exactly so ("Texture", "Project"), or null.
     [[nodiscard]] DocumentTemplate* FindDocTemplate(const std::string& name) const;
     [[nodiscard]] DocumentTemplate& imageTemplate() noexcept { return *FindDocTemplate("Texture"); }
-    /// The open document of any kind with this path, both made full paths and compared without regard to
-    /// case; null when there is none.
-    [[nodiscard]] CDocument* FindOpenDocument(const std::string& path) const;
+    [[nodiscard]] CDocument* FindOpenDocument(const std::string& path) const override;
 
-    /// All that are open, the project first.
-    [[nodiscard]] std::vector<CDocument*> documents() const;
-    /// Saving may give palettes new keys; images stay attached to theirs. `save` answers whether they are to
-    /// be shown anew.
-    void keepAttachments(const std::function<bool()>& save);
-
-    /// Opens a palette (".tlf") in the palette set, any other file as a document of the kind that has its
-    /// extension, as an image when no kind has. Failures have been reported.
-    OpenedFile OpenDocumentFile(const std::string& path);
+    [[nodiscard]] std::vector<CDocument*> documents() const override;
+    void keepAttachments(const std::function<bool()>& save) override;
+    [[nodiscard]] std::optional<std::string> savePaletteAs(const std::string& key) override;
+    OpenedFile OpenDocumentFile(const std::string& path) override;
     /// Opens the files one after the other. With `attach`, each image is attached to the palette that is
     /// current when it opens, or, when none is open yet, to the one that is current in the end. False when
     /// any file could not be opened.
@@ -92,13 +86,8 @@ public:
     /// Opens what was open when the program was left last. False when anything of it could not be opened; the
     /// rest is open then.
     bool ResumeDocuments();
-    /// Keeps which palettes and documents are open, for the next start.
-    void SaveOpenDocuments();
-    /// Before the program is left: asks for every palette, for the project and for every other document with
-    /// unsaved changes whether to save it, also for changes that plug-ins make meanwhile, as when they hear
-    /// of the project's end. False, with all of it still open, as soon as the user cancels or a file cannot
-    /// be saved.
-    bool SaveAllModified();
+    void SaveOpenDocuments() override;
+    bool SaveAllModified() override;
 
     /// Makes every image take its palette's colours anew. Called after palettes change.
     void RefreshImagePalettes() override;
@@ -106,57 +95,25 @@ public:
     void RefreshAllImages() override;
     /// Shows the colours of `palette`, which may be a passing copy, in every image attached to that key.
     void BroadcastPaletteChange(const std::string& key, const TextureLookupTable& palette) override;
-    /// Closes the images and palettes of these paths that are open after one question; No leaves them open.
-    /// Each with unsaved changes is asked for once, before any is closed: false when the user cancels there.
-    bool ClosePictureDocuments(const std::vector<std::string>& paths);
-    /// Shows the About box until the user closes it.
-    void ShowAbout();
-    /// Opens a file with the desktop's program for it, such as a help page. `relativePath` starts from the
-    /// program's folder.
-    void ShowHelp(const std::string& relativePath);
+    bool ClosePictureDocuments(const std::vector<std::string>& paths) override;
+    void ShowHelp(const std::string& relativePath) override;
 
-    // The open project; at most one.
-    /// Null while none is open.
-    [[nodiscard]] ProjectDocument* projectDocument() const noexcept { return project_; }
-    /// Told by the project itself when it is open, and with null when it closes, which also leaves no picture
-    /// chosen.
-    void setProjectDocument(ProjectDocument* project);
-    /// Name of the picture chosen in the project bar; empty when none is.
-    [[nodiscard]] const std::string& currentPicture() const noexcept { return currentPicture_; }
-    void setCurrentPicture(const std::string& name) { currentPicture_ = name; }
-    /// Closes the project after asking about its changes. True when none is open afterwards.
-    bool CloseProject();
-    /// A new project document; null when it was abandoned.
-    CDocument* NewProject();
-    /// Asks for a project file and opens it.
-    void OpenProjectFile();
+    [[nodiscard]] CurrentProject& currentProject() noexcept override { return project_; }
+    [[nodiscard]] ProjectDocument* projectDocument() const noexcept { return project_.document(); }
+    [[nodiscard]] const std::string& currentPicture() const noexcept { return project_.picture(); }
+    bool CloseProject() override;
 
-    // What images ask.
-    [[nodiscard]] std::int32_t paletteBarFirstEntry() const override;
-    [[nodiscard]] std::int32_t paletteBarCell() const override;
-    void selectPaletteBarCell(std::int32_t cell) override;
-    void refreshPaletteBar() override;
-    [[nodiscard]] std::optional<std::string> savePaletteAs(const std::string& key) override;
-    void setStatusText(const std::string& text, int pane) override;
-    [[nodiscard]] bool isActiveImage(const CDyeworksDoc& document) const override;
-    [[nodiscard]] CDyeworksView* activeView() const override;
-    [[nodiscard]] ImagePlugIns& imagePlugIns() override { return imagePlugIns_; }
-    [[nodiscard]] OpenProject* openProject() override;
-    [[nodiscard]] std::optional<NewImage> askNewImage() override;
-    void AskUseProject() override;
-    [[nodiscard]] bool keepsImageSettings() const override { return keepsImageSettings_; }
-
-    // The plug-ins.
+    // Who answers what images and the palette bar ask.
+    [[nodiscard]] ImageHost& imageHost() noexcept { return imageHost_; }
+    [[nodiscard]] PaletteBarHost& paletteBarHost() noexcept override { return *this; }
     [[nodiscard]] const PlugInCatalogue& plugIns() const noexcept { return plugIns_; }
-    [[nodiscard]] ProjectPlugIns& projectPlugIns() noexcept { return projectPlugIns_; }
 
-    // What the palette bar asks besides.
+private:
     [[nodiscard]] std::optional<Image> activeImage() const override;
     void setActivePaletteValue(std::int32_t firstEntry) override;
 
-private:
+    void addDocTemplate(std::unique_ptr<DocumentTemplate> kind);
     [[nodiscard]] std::vector<CDyeworksDoc*> imageDocuments() const;
-    [[nodiscard]] CDyeworksDoc* activeDocument() const;
     /// The active image if the palette bar shows its palette; null otherwise.
     [[nodiscard]] CDyeworksDoc* activeDocumentOfCurrentPalette() const;
 
@@ -192,6 +149,7 @@ private:
     void OnFileOpen();
     void OnFileImportBmp();
     void OnProjectNew();
+    void OnProjectOpen();
     void OnProjectClose();
     void OnProjectSave();
     void OnProjectSaveAs();
@@ -205,6 +163,7 @@ private:
     void OnPaletteSave();
     void OnPaletteSaveAs();
     void OnOptions();
+    void OnAppAbout();
     void OnAppExit();
 
     StartUpParts parts_;
@@ -212,21 +171,20 @@ private:
     ApplicationPlugInHost plugInHost_{*this};
     ImagePlugInCalls imagePlugIns_{plugIns_, plugInHost_};
     ProjectPlugInCalls projectPlugIns_{plugIns_, plugInHost_};
-    ApplicationProjectHost projectHost_{*this};
+    ApplicationImageHost imageHost_{*this, imagePlugIns_};
+    ApplicationProjectHost projectHost_{*this, projectPlugIns_};
     CommandRouter router_;
     RecentFiles recentFiles_{[this](const std::string& path) { OpenDocumentFile(path); }};
     std::string programFolder_;
     std::string helpPath_;
     PaletteSet noPalettes_; ///< Seen until the set is made.
     std::unique_ptr<PaletteSet> palettes_;
-    ProjectDocument* project_ = nullptr;
-    std::string currentPicture_;
+    CurrentProject project_;
     std::vector<std::unique_ptr<DocumentTemplate>> templates_;
     std::unique_ptr<CMainFrame> mainFrame_;
     QPointer<QWidget> splash_;
     OpenRequestQueue openRequests_;
     bool keepsSettings_ = false; ///< Not before they have been read.
-    bool keepsImageSettings_ = true;
     int exitCode_ = 0;
 };
 

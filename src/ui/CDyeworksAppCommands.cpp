@@ -4,6 +4,9 @@
 #include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"
 #include "ui/sheets/AboutDialog.h"
+#include "ui/sheets/CFileNewPalettePage.h"
+#include "ui/sheets/CFileNewSheet.h"
+#include "ui/sheets/COptionPropertySheet.h"
 
 namespace dyeworks {
 
@@ -23,7 +26,7 @@ void CDyeworksApp::fillCommands() {
     on(ID_FILE_OPEN, &CDyeworksApp::OnFileOpen);
     on(ID_FILE_IMPORT_BMP, &CDyeworksApp::OnFileImportBmp);
     on(ID_PROJECT_NEW, &CDyeworksApp::OnProjectNew);
-    on(ID_PROJECT_OPEN, &CDyeworksApp::OpenProjectFile);
+    on(ID_PROJECT_OPEN, &CDyeworksApp::OnProjectOpen);
     on(ID_PROJECT_CLOSE, &CDyeworksApp::OnProjectClose, &CDyeworksApp::updateNeedsProject);
     on(ID_PROJECT_SAVE, &CDyeworksApp::OnProjectSave, &CDyeworksApp::updateNeedsProject);
     on(ID_PROJECT_SAVE_AS, &CDyeworksApp::OnProjectSaveAs, &CDyeworksApp::updateNeedsProject);
@@ -37,7 +40,7 @@ void CDyeworksApp::fillCommands() {
     on(ID_PALETTE_SAVE, &CDyeworksApp::OnPaletteSave, &CDyeworksApp::updateNeedsPalette);
     on(ID_PALETTE_SAVE_AS, &CDyeworksApp::OnPaletteSaveAs, &CDyeworksApp::updateNeedsPalette);
     on(ID_OPTIONS, &CDyeworksApp::OnOptions);
-    on(ID_APP_ABOUT, &CDyeworksApp::ShowAbout);
+    on(ID_APP_ABOUT, &CDyeworksApp::OnAppAbout);
     on(ID_APP_EXIT, &CDyeworksApp::OnAppExit);
 }
 
@@ -61,11 +64,11 @@ void CDyeworksApp::updateNeedsPalette(CommandUi& ui) {
 }
 
 void CDyeworksApp::updateNeedsProject(CommandUi& ui) {
-    ui.enabled = project_ != nullptr;
+    ui.enabled = projectDocument() != nullptr;
 }
 
 void CDyeworksApp::updateNeedsPicture(CommandUi& ui) {
-    ui.enabled = project_ != nullptr && !currentPicture_.empty();
+    ui.enabled = projectDocument() != nullptr && !currentPicture().empty();
 }
 
 void CDyeworksApp::OnFileNew() {
@@ -84,16 +87,12 @@ void CDyeworksApp::OnFileImportBmp() {
     openWithDialog(request);
 }
 
-CDocument* CDyeworksApp::NewProject() {
-    return FindDocTemplate("Project")->newDocument();
-}
-
-void CDyeworksApp::OpenProjectFile() {
-    openWithDialog(".tpf", kProjectFilter);
-}
-
 void CDyeworksApp::OnProjectNew() {
-    NewProject();
+    FindDocTemplate("Project")->newDocument();
+}
+
+void CDyeworksApp::OnProjectOpen() {
+    openWithDialog(".tpf", kProjectFilter);
 }
 
 void CDyeworksApp::OnProjectClose() {
@@ -101,29 +100,29 @@ void CDyeworksApp::OnProjectClose() {
 }
 
 void CDyeworksApp::OnProjectSave() {
-    project_->save();
+    projectDocument()->save();
 }
 
 void CDyeworksApp::OnProjectSaveAs() {
-    project_->saveAs();
+    projectDocument()->saveAs();
 }
 
 void CDyeworksApp::OnProjectProperty() {
-    project_->EditProperties();
+    projectDocument()->EditProperties();
 }
 
 void CDyeworksApp::OnPictureAdd() {
-    project_->AddPicture(std::nullopt, std::nullopt, std::nullopt, 0, std::nullopt, false);
+    projectDocument()->AddPicture(std::nullopt, std::nullopt, std::nullopt, 0, std::nullopt, false);
 }
 
 void CDyeworksApp::OnPictureChange() {
-    project_->ChangePicture(currentPicture_);
+    projectDocument()->ChangePicture(currentPicture());
 }
 
 void CDyeworksApp::OnPictureRemove() {
     // A copy, because the project bar chooses another picture meanwhile.
-    const std::string name = currentPicture_;
-    project_->RemovePicture(name);
+    const std::string name = currentPicture();
+    projectDocument()->RemovePicture(name);
 }
 
 void CDyeworksApp::OnPaletteOpen() {
@@ -133,7 +132,7 @@ void CDyeworksApp::OnPaletteOpen() {
 void CDyeworksApp::OnPaletteClose() {
     if (palettes_->closePalette("", true))
         RefreshImagePalettes();
-    refreshPaletteBar();
+    imageHost_.refreshPaletteBar();
 }
 
 void CDyeworksApp::OnPaletteSave() {
@@ -144,7 +143,19 @@ void CDyeworksApp::OnPaletteSaveAs() {
     keepAttachments([this] { return palettes_->savePaletteAs("", true); });
 }
 
-void CDyeworksApp::ShowAbout() {
+void CDyeworksApp::OnPaletteNew() {
+    CFileNewSheet sheet(mainFrame_.get());
+    const CFileNewPalettePage& page = sheet.palettePage();
+    sheet.keepOnly(page);
+    if (sheet.exec() == QDialog::Accepted)
+        palettes_->newPalette(page.entryCount(), page.colourType(), page.defaultAlpha());
+}
+
+void CDyeworksApp::OnOptions() {
+    OptionsCommand(mainFrame_.get());
+}
+
+void CDyeworksApp::OnAppAbout() {
     const OrdinaryPointerScope pointer;
     AboutDialog(plugIns_, mainFrame_.get()).exec();
 }

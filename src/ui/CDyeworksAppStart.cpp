@@ -73,7 +73,7 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
     // A picture of the window is to leave no trace.
     keepsSettings_ = !commandLine.renders();
     // Nor is a window that nobody saw to decide where the image's next one stands.
-    keepsImageSettings_ = commandLine.isInteractive();
+    imageHost_.setKeepsImageSettings(commandLine.isInteractive());
     if (!registerControls())
         return false;
     createTemplates();
@@ -162,7 +162,7 @@ void CDyeworksApp::createTemplates() {
     DocumentWindows& windows = *this;
     addDocTemplate(std::make_unique<DocumentTemplate>(
         DocumentTemplate::Names{"Texture", ".tmf"},
-        [this](DocumentTemplate& own) { return std::make_unique<CDyeworksDoc>(*this, &own); }, windows));
+        [this](DocumentTemplate& own) { return std::make_unique<CDyeworksDoc>(imageHost_, &own); }, windows));
     addDocTemplate(std::make_unique<DocumentTemplate>(
         DocumentTemplate::Names{"Project", ".tpf"},
         [this](DocumentTemplate& own) { return std::make_unique<CTPFDocument>(projectHost_, &own); },

@@ -14,8 +14,9 @@
 #include "project/widgets/CTPFChildFrame.h"
 #include "project/widgets/ProjectTreeWidget.h"
 #include "ui/BarLayout.h"
-#include "ui/CDyeworksApp.h"
 #include "ui/CProjectBar.h"
+#include "ui/CurrentProject.h"
+#include "ui/MainFrameHost.h"
 #include "ui/MainMenus.h"
 #include "ui/StatusPanes.h"
 #include "ui/palettebar/CPaletteBar.h"
@@ -69,9 +70,9 @@ void takeAsCopy(QDropEvent& event) {
 
 } // namespace
 
-CMainFrame::CMainFrame(CDyeworksApp& application)
-    : application_(application)
-    , actions_(application.router())
+CMainFrame::CMainFrame(MainFrameHost& host)
+    : host_(host)
+    , actions_(host.router())
     , printing_(*this, [this] { return activeImageView(); }) {
     setObjectName(QStringLiteral("IDR_MAINFRAME"));
     setAcceptDrops(true);
@@ -114,7 +115,7 @@ void CMainFrame::makeToolBar(const char* name, CommandId id, StringId title, Str
 }
 
 void CMainFrame::makePaletteBar() {
-    paletteBar_ = new CPaletteBar(application_, actions_, *this);
+    paletteBar_ = new CPaletteBar(host_.paletteBarHost(), actions_, *this);
     // Also told when the main window comes to the front with the image that was active before.
     connect(this, &MdiFrame::activeChildChanged, paletteBar_, &CPaletteBar::ImageChanged);
     acceptFiles(*paletteBar_);
@@ -130,7 +131,7 @@ void CMainFrame::acceptFiles(QWidget& bar) {
 }
 
 void CMainFrame::makeProjectBar() {
-    projectBar_ = new CProjectBar(application_, actions_);
+    projectBar_ = new CProjectBar(host_.currentProject(), actions_);
     addToolBar(Qt::TopToolBarArea, projectBar_);
     addBar(ID_VIEW_PROJECTBAR, *projectBar_);
     on(IDC_PICTURE_BUTTON, &CMainFrame::OnPictureButton, &CMainFrame::OnUpdatePictureButton);
@@ -160,7 +161,7 @@ void CMainFrame::OnUpdatePaletteBar(CommandUi& ui) {
 }
 
 void CMainFrame::OnUpdatePictureButton(CommandUi& ui) {
-    ui.enabled = !application_.currentPicture().empty();
+    ui.enabled = !host_.currentProject().picture().empty();
 }
 
 QMenu* CMainFrame::createPopupMenu() {
@@ -279,7 +280,7 @@ QPixmap CMainFrame::picture() {
 
 void CMainFrame::OnUpdateFrameTitle() {
     QString caption = shown(StringId::ApplicationTitle);
-    if (const ProjectDocument* project = application_.projectDocument()) {
+    if (const ProjectDocument* project = host_.currentProject().document()) {
         // "[*]" is Qt's mark for a changed document, doubled it is itself.
         caption +=
             QStringLiteral(" @ ") +
@@ -289,11 +290,11 @@ void CMainFrame::OnUpdateFrameTitle() {
 }
 
 bool CMainFrame::OnClose() {
-    if (!application_.SaveAllModified())
+    if (!host_.SaveAllModified())
         return false;
     savePlacement();
     saveBarLayout(*this, *paletteBar_);
-    application_.SaveOpenDocuments();
+    host_.SaveOpenDocuments();
     return true;
 }
 
@@ -344,7 +345,7 @@ void CMainFrame::dragEnterEvent(QDragEnterEvent* event) {
 void CMainFrame::dropEvent(QDropEvent* event) {
     takeAsCopy(*event);
     for (const std::string& path : filesIn(*event->mimeData()))
-        application_.OpenDocumentFile(path);
+        host_.OpenDocumentFile(path);
 }
 
 } // namespace dyeworks

@@ -15,12 +15,12 @@ class QMenu;
 
 namespace dyeworks {
 
-class CDyeworksApp;
 class CDyeworksDoc;
 class CTPFDocument;
 class CPaletteBar;
 class CProjectBar;
 class ImageView;
+class MainFrameHost;
 class StatusPanes;
 
 /// The main window: documents in the middle, menus, tool bars, project bar and status bar around them, the
@@ -32,8 +32,8 @@ class CMainFrame : public MdiFrame {
 public:
     static constexpr QSize kFirstSize{1152, 760}; ///< Where the screen has room for it.
 
-    /// The application must outlive the window.
-    explicit CMainFrame(CDyeworksApp& application);
+    /// The host must outlive the window.
+    explicit CMainFrame(MainFrameHost& host);
     ~CMainFrame() override;
 
     [[nodiscard]] CommandActions& commandActions() noexcept { return actions_; }
@@ -54,8 +54,8 @@ public:
 
     /// The open project, its title or its pictures are others now.
     void ProjectChanged();
-    /// The open project's title, which is part of the caption, is another one.
-    void ProjectRenamed() { OnUpdateFrameTitle(); }
+    /// The open project's title is a part of the caption.
+    void OnUpdateFrameTitle() override;
     /// Makes the picture of this name the one that is chosen in the project bar.
     void SelectPicture(const std::string& name);
 
@@ -79,7 +79,6 @@ public:
     void setVisible(bool visible) override;
 
 protected:
-    void OnUpdateFrameTitle() override;
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -112,7 +111,7 @@ private:
     void OnHelp();
     void OnContextHelp();
 
-    CDyeworksApp& application_;
+    MainFrameHost& host_;
     CommandActions actions_;
     PrintCommands printing_;
     bool closing_ = false; ///< While questions are asked and what is open is recorded.

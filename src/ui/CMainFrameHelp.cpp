@@ -1,6 +1,6 @@
 #include "framework/CommandTable.h"
-#include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"
+#include "ui/MainFrameHost.h"
 
 #include <QAction>
 #include <QApplication>
@@ -40,7 +40,7 @@ void CMainFrame::describeCommands() {
 }
 
 void CMainFrame::OnHelpIndex() {
-    application_.ShowHelp(kHelpPage);
+    host_.ShowHelp(kHelpPage);
 }
 
 void CMainFrame::OnHelp() {

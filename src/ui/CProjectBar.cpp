@@ -4,7 +4,7 @@
 #include "framework/widgets/CommandActions.h"
 #include "platform/Text.h"
 #include "project/ProjectDocument.h"
-#include "ui/CDyeworksApp.h"
+#include "ui/CurrentProject.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -36,9 +36,9 @@ std::vector<std::string> picturesOf(const ProjectDocument* project) {
 
 } // namespace
 
-CProjectBar::CProjectBar(CDyeworksApp& application, const CommandActions& actions)
+CProjectBar::CProjectBar(CurrentProject& project, const CommandActions& actions)
     : QToolBar(shown(StringId::BarProject))
-    , application_(application)
+    , project_(project)
     , pictures_(new QComboBox)
     , picture_(new QToolButton) {
     setObjectName(QStringLiteral("ID_VIEW_PROJECTBAR"));
@@ -92,7 +92,7 @@ void CProjectBar::addButton(QToolButton& button) {
 }
 
 void CProjectBar::Refresh() {
-    const std::vector<std::string> names = picturesOf(application_.projectDocument());
+    const std::vector<std::string> names = picturesOf(project_.document());
     {
         const QSignalBlocker quiet(pictures_);
         pictures_->clear();
@@ -118,11 +118,11 @@ void CProjectBar::SelectPicture(const std::string& name) {
 }
 
 void CProjectBar::updatePictureButton() {
-    const ProjectDocument* const project = application_.projectDocument();
+    const ProjectDocument* const project = project_.document();
     const std::string chosen = pictures_->currentText().toStdString();
     PictureEntry entry;
     const bool known = project != nullptr && project->GetPicture(chosen, entry);
-    application_.setCurrentPicture(known ? chosen : "");
+    project_.setPicture(known ? chosen : "");
     const QString text =
         known ? QStringLiteral("%1 + %2 (%3)")
                     .arg(QString::fromStdString(entry.tmfFile), QString::fromStdString(entry.tlfFile),
@@ -140,15 +140,15 @@ void CProjectBar::updatePictureButton() {
 
 void CProjectBar::openPicture() {
     // By value: opening may choose another picture.
-    const std::string chosen = application_.currentPicture();
-    if (ProjectDocument* project = application_.projectDocument(); project != nullptr && !chosen.empty())
+    const std::string chosen = project_.picture();
+    if (ProjectDocument* project = project_.document(); project != nullptr && !chosen.empty())
         project->OpenPicture(chosen);
 }
 
 bool CProjectBar::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::ToolTip)
         return QToolBar::eventFilter(watched, event);
-    const ProjectDocument* project = application_.projectDocument();
+    const ProjectDocument* project = project_.document();
     const QString tip = project == nullptr ? QStringLiteral("Project is not open yet.")
                                            : QString::fromStdString(project->title()).left(kTipLetters);
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, static_cast<QWidget*>(watched));

@@ -10,17 +10,17 @@ class QToolButton;
 
 namespace dyeworks {
 
-class CDyeworksApp;
 class CommandActions;
+class CurrentProject;
 
 /// The bar "Project": lists the pictures of the open project and offers to open the chosen one and to change
-/// the list. What is chosen here is the application's current picture.
+/// the list. What is chosen here is the project's current picture.
 class CProjectBar : public QToolBar {
     Q_OBJECT
 
 public:
     /// Both must outlive the bar.
-    CProjectBar(CDyeworksApp& application, const CommandActions& actions);
+    CProjectBar(CurrentProject& project, const CommandActions& actions);
 
     /// Lists the pictures of the open project anew and chooses the last one.
     void Refresh();
@@ -36,7 +36,7 @@ private:
     void updatePictureButton();
     void openPicture();
 
-    CDyeworksApp& application_;
+    CurrentProject& project_;
     QComboBox* pictures_;
     QToolButton* picture_;
 };

@@ -1,25 +1,14 @@
 #include "ui/ClosingQuestions.h"
 
+#include "core/PaletteSet.h"
 #include "framework/CDocument.h"
-#include "ui/CDyeworksApp.h"
+#include "ui/Workspace.h"
 
 #include <algorithm>
-#include <span>
 #include <string>
 #include <vector>
 
 namespace dyeworks {
-
-namespace {
-
-bool areAlike(const TlutData& a, const TlutData& b) {
-    const auto entriesOf = [](const TlutData& table) {
-        return std::span(table.entries, static_cast<std::size_t>(table.count));
-    };
-    return a.colourType == b.colourType && std::ranges::equal(entriesOf(a), entriesOf(b));
-}
-
-} // namespace
 
 bool ClosingQuestions::ask() {
     while (!areAllAnswered()) {
@@ -30,14 +19,14 @@ bool ClosingQuestions::ask() {
 }
 
 bool ClosingQuestions::askForPalettes() {
-    PaletteSet& set = *application_.paletteSet();
+    PaletteSet& set = *workspace_.paletteSet();
     const auto isAsked = [this](const auto& entry) { return isAnswered(*entry.second); };
     if (std::ranges::all_of(set.palettes, isAsked))
         return true;
     bool agreed = true;
     // A plug-in that changes a palette whenever the images are shown anew is not to bring questions for ever.
     bool showsAnew = palettes_.empty();
-    application_.keepAttachments([&] {
+    workspace_.keepAttachments([&] {
         std::vector<std::string> keys;
         set.listKeys(keys);
         for (const std::string& key : keys) {
@@ -57,7 +46,7 @@ bool ClosingQuestions::askForPalettes() {
 }
 
 bool ClosingQuestions::askForDocuments() {
-    for (CDocument* document : application_.documents()) {
+    for (CDocument* document : workspace_.documents()) {
         if (isAnswered(*document))
             continue;
         if (!document->saveModified())
@@ -69,14 +58,14 @@ bool ClosingQuestions::askForDocuments() {
 
 bool ClosingQuestions::areAllAnswered() const {
     const auto isAsked = [this](const auto& entry) { return isAnswered(*entry.second); };
-    return std::ranges::all_of(application_.paletteSet()->palettes, isAsked) &&
-           std::ranges::all_of(application_.documents(),
+    return std::ranges::all_of(workspace_.paletteSet()->palettes, isAsked) &&
+           std::ranges::all_of(workspace_.documents(),
                                [this](const CDocument* document) { return isAnswered(*document); });
 }
 
 bool ClosingQuestions::isAnswered(const TextureLookupTable& palette) const {
     const auto before = palettes_.find(&palette);
-    return before != palettes_.end() && areAlike(before->second, palette.table);
+    return before != palettes_.end() && before->second == palette.table;
 }
 
 bool ClosingQuestions::isAnswered(const CDocument& document) const {

@@ -129,8 +129,8 @@ int runDyeworks(int argc, char** argv) {
         return 0;
 
     StartUpParts parts;
-    parts.makeMainFrame = [&, make = parts.makeMainFrame](CDyeworksApp& program) {
-        std::unique_ptr<CMainFrame> frame = make(program);
+    parts.makeMainFrame = [&, make = parts.makeMainFrame](MainFrameHost& host) {
+        std::unique_ptr<CMainFrame> frame = make(host);
         desktop.setMainWindow(frame.get());
         // A picture has no screen to fit on.
         if (frame != nullptr && commandLine.renders())

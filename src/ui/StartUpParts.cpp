@@ -24,9 +24,8 @@ auto orNull(Make make) -> decltype(make()) {
 
 StartUpParts::StartUpParts()
     : startObjectServices([] { return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr; })
-    , makeMainFrame([](CDyeworksApp& application) {
-        return orNull([&] { return std::make_unique<CMainFrame>(application); });
-    })
+    , makeMainFrame(
+          [](MainFrameHost& host) { return orNull([&] { return std::make_unique<CMainFrame>(host); }); })
     , makePaletteSet([] { return orNull([] { return std::make_unique<PaletteSet>(); }); }) {}
 
 } // namespace dyeworks

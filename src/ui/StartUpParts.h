@@ -5,8 +5,8 @@
 
 namespace dyeworks {
 
-class CDyeworksApp;
 class CMainFrame;
+class MainFrameHost;
 class PaletteSet;
 
 /// What start-up is made of and may fail to get. Whoever starts the program may put others in their place.
@@ -16,7 +16,7 @@ struct StartUpParts {
     /// Clipboard, drag and drop and the hosting of controls. False when the desktop does not give them.
     std::function<bool()> startObjectServices;
     /// Null when there is not enough memory, here and below. The window is not shown yet.
-    std::function<std::unique_ptr<CMainFrame>(CDyeworksApp&)> makeMainFrame;
+    std::function<std::unique_ptr<CMainFrame>(MainFrameHost&)> makeMainFrame;
     std::function<std::unique_ptr<PaletteSet>()> makePaletteSet;
 };
 

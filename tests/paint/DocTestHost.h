@@ -91,6 +91,8 @@ public:
     OpenProject* openProject() override { return project; }
     std::optional<NewImage> askNewImage() override { return newImage; }
     void AskUseProject() override {}
+    const CDyeworksDoc* lastActivatedImage() const override { return lastActivated; }
+    void setLastActivatedImage(const CDyeworksDoc* document) override { lastActivated = document; }
 
     PaletteSet palettes;
     std::int32_t firstEntry = 0;
@@ -98,6 +100,7 @@ public:
     int barRefreshes = 0;
     std::map<int, std::string> panes;
     const CDyeworksDoc* active = nullptr;
+    const CDyeworksDoc* lastActivated = nullptr;
     FakeImagePlugIns plugIns;
     FakeProject* project = nullptr;
     std::optional<NewImage> newImage;

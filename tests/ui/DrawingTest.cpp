@@ -70,7 +70,7 @@ TEST_F(Drawing, IsSavedUndoneAndRedoneTexelByTexel) {
         SCOPED_TRACE(stroke.name);
         openAttached(ground(), 8, 256);
         ASSERT_TRUE(run(ID_ZOOM_X4));
-        app_.selectPaletteBarCell(kInk);
+        app_.imageHost().selectPaletteBarCell(kInk);
         ASSERT_TRUE(run(stroke.tool));
         drag(stroke.path, stroke.modifiers);
 
@@ -104,7 +104,7 @@ TEST_F(DrawingRules, ABankOfTheFourBitImageShowsItsEntriesAndStoresLowBits) {
     const std::vector<std::uint8_t> before(image().canvas().colourTable().begin(),
                                            image().canvas().colourTable().end());
     frame().SetPaletteBarNumber(3);
-    EXPECT_EQ(app_.paletteBarFirstEntry(), 48);
+    EXPECT_EQ(app_.imageHost().paletteBarFirstEntry(), 48);
     const auto table = image().canvas().colourTable();
     for (int i = 0; i < 16; ++i) {
         std::uint8_t red = 0, green = 0, blue = 0, flags = 0;
@@ -120,7 +120,7 @@ TEST_F(DrawingRules, ABankOfTheFourBitImageShowsItsEntriesAndStoresLowBits) {
 TEST_F(DrawingRules, AHalfPixelOfAScaledDisplayBelongsToThePixelItLiesIn) {
     openAttached(ground(), 8, 256);
     ASSERT_TRUE(run(ID_TOOL_PIXEL));
-    app_.selectPaletteBarCell(kInk);
+    app_.imageHost().selectPaletteBarCell(kInk);
     const QPointF position(5.75, 6.5);
     for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
         QMouseEvent event(type, position, view().viewport()->mapToGlobal(position), Qt::LeftButton, {}, {});

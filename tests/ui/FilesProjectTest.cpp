@@ -196,7 +196,7 @@ TEST_F(FilesProject, ANewImageMayBringANewProject) {
         });
         question.done(static_cast<int>(UseProjectAnswer::NewProject));
     });
-    app_.AskUseProject();
+    app_.imageHost().AskUseProject();
     EXPECT_EQ(asked, 1);
     EXPECT_THAT(texts(fake_), ElementsAre("Incorrect parameter."));
     ASSERT_NE(app_.projectDocument(), nullptr);
@@ -209,7 +209,7 @@ TEST_F(FilesProject, ANewImageMayBringANewProject) {
         ++asked;
         QApplication::activeModalWidget()->close();
     });
-    app_.AskUseProject();
+    app_.imageHost().AskUseProject();
     EXPECT_EQ(asked, 1) << "a project is open";
 }
 

@@ -108,7 +108,7 @@ TEST_F(FilesTest, ClosingAPaletteLeavesItsImagesWithoutOne) {
     ASSERT_TRUE(run(ID_PALETTE_CLOSE));
     EXPECT_TRUE(view().view().showsNoPalette());
     EXPECT_FALSE(enabled(ID_PALETTE_CLOSE));
-    EXPECT_EQ(app_.paletteBarCell(), -1);
+    EXPECT_EQ(app_.imageHost().paletteBarCell(), -1);
 
     const auto shown = [this] { return view().viewport()->grab().toImage(); };
     frame().activeChild()->resize(120, 100);

@@ -225,7 +225,7 @@ TEST_F(PaletteBarWindow, ASavedFileHoldsTheEntriesAsTheyWereEditedAndPasted) {
         gridKey(Qt::Key_Left, Qt::ShiftModifier);
         gridKey(Qt::Key_C, Qt::ControlModifier);
         // Without a selection the current cell is where they go, else the corner of the selection.
-        app_.selectPaletteBarCell(8);
+        app_.imageHost().selectPaletteBarCell(8);
         gridKey(Qt::Key_V, Qt::ControlModifier);
         EXPECT_EQ(shown(IDC_ENTRY), "ABCD");
         clickCell(13);
@@ -264,14 +264,14 @@ TEST_F(PaletteBarWindow, ABankIsChosenByCellSpinAndTyping) {
     type(IDC_PALETTE_NUMBER, "99");
     EXPECT_EQ(shown(IDC_PALETTE_NUMBER), "15");
     EXPECT_EQ(seen(0), Rgb(120, 0, 0));
-    EXPECT_EQ(app_.paletteBarFirstEntry(), 240);
+    EXPECT_EQ(app_.imageHost().paletteBarFirstEntry(), 240);
 
     // A palette that the image is not attached to has no bank of it.
     ASSERT_TRUE(app_.paletteSet()->newPalette(256, ColourType::Rgba, 0));
     EXPECT_FALSE(spin.isEnabled());
-    EXPECT_EQ(app_.paletteBarFirstEntry(), 0);
+    EXPECT_EQ(app_.imageHost().paletteBarFirstEntry(), 0);
     QTest::keyClick(&find<QTabBar>(IDC_PALETTE_TABS), Qt::Key_Left);
-    EXPECT_EQ(app_.paletteBarFirstEntry(), 240);
+    EXPECT_EQ(app_.imageHost().paletteBarFirstEntry(), 240);
 }
 
 TEST_F(PaletteBarWindow, APreviewEndsWithItsCause) {
@@ -378,7 +378,7 @@ TEST_F(PaletteBarWindow, EverythingIsReachedFromTheKeyboard) {
     gridWindow().setFocus();
     gridKey(Qt::Key_Home, Qt::ControlModifier);
     gridKey(Qt::Key_Down);
-    EXPECT_EQ(app_.paletteBarCell(), 16);
+    EXPECT_EQ(app_.imageHost().paletteBarCell(), 16);
     // A letter that the menus of the main window have too, and a button of the bar.
     gridKey(Qt::Key_R, Qt::AltModifier);
     auto& red = find<IntegerField>(IDC_RED_SPIN);
@@ -428,12 +428,12 @@ TEST_F(PaletteBarWindow, TabsNameThePalettesAndChooseTheCurrentOne) {
     EXPECT_EQ(tabs.tabText(1), QStringLiteral("b&&b"));
     EXPECT_EQ(tabs.tabToolTip(1), QStringLiteral("c:\\b&b.tlf"));
     EXPECT_GT(tabs.height(), 10);
-    app_.selectPaletteBarCell(200);
+    app_.imageHost().selectPaletteBarCell(200);
     QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(1).center());
     EXPECT_EQ(app_.paletteSet()->currentKey, "c:\\b&b.tlf");
     EXPECT_EQ(tabs.currentIndex(), 1);
     EXPECT_EQ(find<CSwatchGrid>(IDC_PALETTE_GRID).cellCount(), 16);
-    EXPECT_EQ(app_.paletteBarCell(), 15);
+    EXPECT_EQ(app_.imageHost().paletteBarCell(), 15);
     // Text and sign of unsaved changes.
     const auto second = [&tabs] {
         const bool told = tabs.tabToolTip(1).endsWith(QStringLiteral("\nIt has unsaved changes."));

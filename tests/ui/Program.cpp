@@ -108,7 +108,7 @@ void Program::openBlank() {
 
 void Program::drawPixel(QPoint texel, int entry) {
     ASSERT_TRUE(run(ID_TOOL_PIXEL));
-    app_.selectPaletteBarCell(entry);
+    app_.imageHost().selectPaletteBarCell(entry);
     drag({texel});
 }
 

@@ -56,7 +56,7 @@ TEST_F(Splash, AKeyClosesItAndDoesNothingElse) {
 TEST_F(Splash, APressOfAButtonClosesItAndDoesNothingElse) {
     openBlank();
     ASSERT_TRUE(run(ID_TOOL_PIXEL));
-    app_.selectPaletteBarCell(5);
+    app_.imageHost().selectPaletteBarCell(5);
     for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
         const QPointer<SplashScreen> splash = shown();
         QTest::mouseClick(view().viewport(), button, {}, at(1, 1));

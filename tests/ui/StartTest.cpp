@@ -38,18 +38,18 @@ TEST_F(Start, GoesThroughItsStepsInOrder) {
         steps.emplace_back("services");
         return true;
     };
-    parts_.makeMainFrame = [&, make = parts_.makeMainFrame](CDyeworksApp& app) {
+    parts_.makeMainFrame = [&, make = parts_.makeMainFrame](MainFrameHost& host) {
         EXPECT_EQ(fake_.files.currentDirectory(), "c:\\work");
-        EXPECT_THAT(app.recentFiles().images().paths(), ElementsAre("c:\\a.tmf"));
+        EXPECT_THAT(app_->recentFiles().images().paths(), ElementsAre("c:\\a.tmf"));
         EXPECT_THAT(fake_.library.requests(),
                     ElementsAre("SwatchGrid.ocx", "FolderPick.ocx", "RampSlider.ocx"));
         EXPECT_EQ(fake_.library.loadedCount(), 0);
-        EXPECT_NE(app.FindDocTemplate("Texture"), nullptr);
-        EXPECT_TRUE(app.paletteSet()->palettes.empty()) << "an empty set is seen before there is one";
+        EXPECT_NE(app_->FindDocTemplate("Texture"), nullptr);
+        EXPECT_TRUE(app_->paletteSet()->palettes.empty()) << "an empty set is seen before there is one";
         EXPECT_EQ(applicationPaletteSet(), nullptr);
         EXPECT_THAT(fake_.shell.registered, IsEmpty());
         steps.emplace_back("frame");
-        return make(app);
+        return make(host);
     };
     parts_.makePaletteSet = [&, make = parts_.makePaletteSet] {
         std::vector<std::string> kinds;
@@ -79,7 +79,7 @@ TEST_F(Start, TheUsersLocaleGoesBeforeTheSystems) {
 }
 
 TEST_F(Start, EndsWhereSomethingIsMissingAndSaysWhat) {
-    const auto makeFrame = std::exchange(parts_.makeMainFrame, [](CDyeworksApp&) { return nullptr; });
+    const auto makeFrame = std::exchange(parts_.makeMainFrame, [](MainFrameHost&) { return nullptr; });
     parts_.startObjectServices = [] { return false; };
     fake_.profile.sections["Recent TMF List"]["File1"] = "c:\\a.tmf";
     EXPECT_FALSE(launch(parts_));
@@ -156,12 +156,12 @@ TEST_F(Start, AnImageOfTheCommandLineIsActiveAndHasTheRoomThatItNeeds) {
     fake_.files.putFile("c:\\b.tmf", imageFile(pattern(200, 150), 8));
     ask({"c:\\a.tmf", "c:\\gone.tmf", "c:\\b.tmf"});
     ASSERT_TRUE(launch()) << "what did open is there to work with";
-    ASSERT_NE(app_->activeView(), nullptr);
-    EXPECT_EQ(app_->activeView()->document().pathName(), fromHost("c:\\b.tmf"));
+    ASSERT_NE(frame().activeImageView(), nullptr);
+    EXPECT_EQ(frame().activeImageView()->view().document().pathName(), fromHost("c:\\b.tmf"));
     EXPECT_TRUE(frame().activeChild()->isVisible());
     EXPECT_GE(frame().activeImageView()->viewport()->width(), 200);
     EXPECT_GE(frame().activeImageView()->viewport()->height(), 150);
-    EXPECT_EQ(app_->lastActivatedImage(), &app_->activeView()->document());
+    EXPECT_EQ(app_->imageHost().lastActivatedImage(), &frame().activeImageView()->view().document());
     EXPECT_TRUE(app_->router().state(ID_ZOOM_IN).enabled);
     EXPECT_EQ(app_->ExitInstance(), 0);
 }

@@ -25,7 +25,7 @@ protected:
         openAttached(ground(), 8, 256);
         run(ID_ZOOM_X4);
         run(ID_TOOL_SELECT);
-        app_.selectPaletteBarCell(200);
+        app_.imageHost().selectPaletteBarCell(200);
     }
     Rect selection() { return view().view().selection().texels().value_or(Rect{}); }
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&view(), key, modifiers); }
@@ -100,12 +100,12 @@ TEST_F(Tools, TheReplacerChangesWhatIsSelectedAlone) {
 TEST_F(Tools, ColoursArePickedWithControlAndWithTheSpuit) {
     run(ID_TOOL_PEN);
     click({5, 6}, Qt::LeftButton, Qt::ControlModifier);
-    EXPECT_EQ(app_.paletteBarCell(), static_cast<int>(groundAt(5, 6)));
+    EXPECT_EQ(app_.imageHost().paletteBarCell(), static_cast<int>(groundAt(5, 6)));
     click({7, 7}, Qt::RightButton);
-    EXPECT_EQ(app_.paletteBarCell(), static_cast<int>(groundAt(5, 6))) << "not before it is on";
+    EXPECT_EQ(app_.imageHost().paletteBarCell(), static_cast<int>(groundAt(5, 6))) << "not before it is on";
     run(ID_TOOL_SPUIT);
     click({7, 7}, Qt::RightButton);
-    EXPECT_EQ(app_.paletteBarCell(), static_cast<int>(groundAt(7, 7)));
+    EXPECT_EQ(app_.imageHost().paletteBarCell(), static_cast<int>(groundAt(7, 7)));
     EXPECT_THAT(contextMenu({7, 7}), IsEmpty());
     EXPECT_EQ(canvas(), ground());
 }

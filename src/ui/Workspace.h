@@ -1,0 +1,52 @@
+#pragma once
+
+#include "ui/OpenedFile.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace dyeworks {
+
+class CDocument;
+class CMainFrame;
+class CommandRouter;
+class CurrentProject;
+class PaletteSet;
+
+/// What is open in the program and the window that shows it, for those who answer what images, projects and
+/// plug-ins ask of the application.
+class Workspace {
+public:
+    virtual ~Workspace() = default;
+
+    [[nodiscard]] virtual CMainFrame& mainFrame() noexcept = 0;
+    /// False before the main window is made and after it has gone.
+    [[nodiscard]] virtual bool hasMainFrame() const noexcept = 0;
+    [[nodiscard]] virtual CommandRouter& router() noexcept = 0;
+    /// The open palettes; before there are any, an empty set.
+    [[nodiscard]] virtual PaletteSet* paletteSet() = 0;
+    [[nodiscard]] virtual CurrentProject& currentProject() noexcept = 0;
+
+    /// The open document of any kind with this path, both made full paths and compared without regard to
+    /// case; null when there is none.
+    [[nodiscard]] virtual CDocument* FindOpenDocument(const std::string& path) const = 0;
+    /// Opens a palette (".tlf") in the palette set, any other file as a document of the kind that has its
+    /// extension, as an image when no kind has. Failures have been reported.
+    virtual OpenedFile OpenDocumentFile(const std::string& path) = 0;
+    /// All that are open, the project first.
+    [[nodiscard]] virtual std::vector<CDocument*> documents() const = 0;
+    /// Saving may give palettes new keys; images stay attached to theirs. `save` answers whether they are to
+    /// be shown anew.
+    virtual void keepAttachments(const std::function<bool()>& save) = 0;
+    /// As `ImageHost::savePaletteAs`.
+    [[nodiscard]] virtual std::optional<std::string> savePaletteAs(const std::string& key) = 0;
+    /// Closes the images and palettes of these paths that are open after one question; No leaves them open.
+    /// Each with unsaved changes is asked for once, before any is closed: false when the user cancels there.
+    virtual bool ClosePictureDocuments(const std::vector<std::string>& paths) = 0;
+    /// Closes the project after asking about its changes. True when none is open afterwards.
+    virtual bool CloseProject() = 0;
+};
+
+} // namespace dyeworks
