@@ -6,20 +6,16 @@
 #include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"
 #include "ui/CommandLine.h"
+#include "ui/OpenDocumentsList.h"
 #include "ui/SplashScreen.h"
 #include "ui/controls/ControlRegistration.h"
 #include "ui/palettebar/CPaletteBar.h"
 
 #include <QApplication>
-#include <QMdiArea>
 #include <QPixmap>
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <ranges>
-#include <set>
-#include <system_error>
 
 namespace dyeworks {
 
@@ -27,8 +23,6 @@ namespace {
 
 constexpr const char* kAppSection = "App section";
 constexpr const char* kDirectoryEntry = "Current Directory";
-constexpr const char* kDocumentsSection = "Settings\\Documents";
-constexpr const char* kCountEntry = "count";
 
 const std::array kFileTypes{
     FileTypeRegistration{"TMF.Document", ".tmf", "image/x-orrery-tmf"},
@@ -42,18 +36,6 @@ int localeOf(const CommandLine& commandLine) {
                               ? platform().locale().defaultLocale() == kLocaleJapanese
                               : commandLine.language == QLatin1String("ja");
     return japanese ? kLocaleJapanese : kLocaleEnglish;
-}
-
-/// The numbers below `count` under which the open documents have an entry.
-std::set<int> storedDocuments(int count) {
-    std::set<int> stored;
-    for (const std::string& name : platform().profile().entries(kDocumentsSection)) {
-        int number = 0;
-        const bool fits = std::from_chars(name.data(), name.data() + name.size(), number).ec == std::errc();
-        if (fits && number >= 0 && number < count && std::to_string(number) == name)
-            stored.insert(number);
-    }
-    return stored;
 }
 
 } // namespace
@@ -257,39 +239,11 @@ void CDyeworksApp::openHandedOver(const std::vector<std::string>& paths) {
 }
 
 bool CDyeworksApp::ResumeDocuments() {
-    const Profile& profile = platform().profile();
-    const int count = profile.integer(kDocumentsSection, kCountEntry, 0);
-    const std::set<int> stored = storedDocuments(count);
-    const auto pathOf = [&](int number) {
-        return profile.textOr(kDocumentsSection, std::to_string(number), "");
-    };
-    // What is missing counts as failed. How much that is may be nonsense in a damaged file, so that only what
-    // is there is gone through.
-    bool allOpened = count <= static_cast<int>(stored.size());
-    for (const int number : stored)
-        allOpened = OpenDocumentFile(pathOf(number)) && allOpened;
-    // The list begins with the window that was in front.
-    for (const int number : stored | std::views::reverse) {
-        const CDocument* document = FindOpenDocument(pathOf(number));
-        if (ChildFrame* frame = document == nullptr ? nullptr : mainFrame_->frameOf(*document))
-            mainFrame_->area().setActiveSubWindow(frame);
-    }
-    return allOpened;
+    return OpenDocumentsList(*this).resume();
 }
 
 void CDyeworksApp::SaveOpenDocuments() {
-    Profile& profile = platform().profile();
-    std::vector<std::string> open;
-    paletteSet()->listKeys(open);
-    // One that was never saved is no file that could be opened again.
-    std::erase_if(open, [](const std::string& key) { return key.starts_with('*'); });
-    for (const ChildFrame* frame : mainFrame_->childFrames()) {
-        if (frame->document() != nullptr && !frame->document()->pathName().empty())
-            open.push_back(frame->document()->pathName());
-    }
-    for (std::size_t i = 0; i < open.size(); ++i)
-        profile.setText(kDocumentsSection, std::to_string(i), open[i]);
-    profile.setInteger(kDocumentsSection, kCountEntry, static_cast<int>(open.size()));
+    OpenDocumentsList(*this).save();
 }
 
 } // namespace dyeworks
