@@ -1,5 +1,6 @@
 #pragma once
 
+#include "paint/CDyeworksView.h"
 #include "paint/ImageHost.h"
 
 namespace dyeworks {

@@ -39,6 +39,7 @@ std::vector<CommandTarget*> CDyeworksApp::commandChain() {
         chain.push_back(&mainFrame_->paletteBar());
         chain.push_back(&mainFrame_->printing());
     }
+    chain.push_back(&projectCommands_);
     chain.push_back(&recentFiles_);
     chain.push_back(this);
     return chain;

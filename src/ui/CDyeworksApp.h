@@ -15,6 +15,7 @@
 #include "ui/CurrentProject.h"
 #include "ui/MainFrameHost.h"
 #include "ui/OpenRequestQueue.h"
+#include "ui/ProjectCommands.h"
 #include "ui/RecentFiles.h"
 #include "ui/StartUpParts.h"
 #include "ui/Workspace.h"
@@ -143,20 +144,11 @@ private:
     void openWithDialog(const char* defaultExtension, int filterIndex);
     void openWithDialog(FileDialogRequest request);
     void updateNeedsPalette(CommandUi& ui);
-    void updateNeedsProject(CommandUi& ui);
-    void updateNeedsPicture(CommandUi& ui);
     void OnFileNew();
     void OnFileOpen();
     void OnFileImportBmp();
     void OnProjectNew();
     void OnProjectOpen();
-    void OnProjectClose();
-    void OnProjectSave();
-    void OnProjectSaveAs();
-    void OnProjectProperty();
-    void OnPictureAdd();
-    void OnPictureChange();
-    void OnPictureRemove();
     void OnPaletteNew();
     void OnPaletteOpen();
     void OnPaletteClose();
@@ -180,6 +172,7 @@ private:
     PaletteSet noPalettes_; ///< Seen until the set is made.
     std::unique_ptr<PaletteSet> palettes_;
     CurrentProject project_;
+    ProjectCommands projectCommands_{*this};
     std::vector<std::unique_ptr<DocumentTemplate>> templates_;
     std::unique_ptr<CMainFrame> mainFrame_;
     QPointer<QWidget> splash_;

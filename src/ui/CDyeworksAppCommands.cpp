@@ -1,6 +1,5 @@
 #include "platform/Platform.h"
 #include "platform/qt/QtWaitCursor.h"
-#include "project/ProjectDocument.h"
 #include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"
 #include "ui/sheets/AboutDialog.h"
@@ -27,13 +26,6 @@ void CDyeworksApp::fillCommands() {
     on(ID_FILE_IMPORT_BMP, &CDyeworksApp::OnFileImportBmp);
     on(ID_PROJECT_NEW, &CDyeworksApp::OnProjectNew);
     on(ID_PROJECT_OPEN, &CDyeworksApp::OnProjectOpen);
-    on(ID_PROJECT_CLOSE, &CDyeworksApp::OnProjectClose, &CDyeworksApp::updateNeedsProject);
-    on(ID_PROJECT_SAVE, &CDyeworksApp::OnProjectSave, &CDyeworksApp::updateNeedsProject);
-    on(ID_PROJECT_SAVE_AS, &CDyeworksApp::OnProjectSaveAs, &CDyeworksApp::updateNeedsProject);
-    on(ID_PROJECT_PROPERTY, &CDyeworksApp::OnProjectProperty, &CDyeworksApp::updateNeedsProject);
-    on(ID_PICTURE_ADD, &CDyeworksApp::OnPictureAdd, &CDyeworksApp::updateNeedsProject);
-    on(ID_PICTURE_CHANGE, &CDyeworksApp::OnPictureChange, &CDyeworksApp::updateNeedsPicture);
-    on(ID_PICTURE_REMOVE, &CDyeworksApp::OnPictureRemove, &CDyeworksApp::updateNeedsPicture);
     on(ID_PALETTE_NEW, &CDyeworksApp::OnPaletteNew);
     on(ID_PALETTE_OPEN, &CDyeworksApp::OnPaletteOpen);
     on(ID_PALETTE_CLOSE, &CDyeworksApp::OnPaletteClose, &CDyeworksApp::updateNeedsPalette);
@@ -63,14 +55,6 @@ void CDyeworksApp::updateNeedsPalette(CommandUi& ui) {
     ui.enabled = paletteSet()->lookup("") != nullptr;
 }
 
-void CDyeworksApp::updateNeedsProject(CommandUi& ui) {
-    ui.enabled = projectDocument() != nullptr;
-}
-
-void CDyeworksApp::updateNeedsPicture(CommandUi& ui) {
-    ui.enabled = projectDocument() != nullptr && !currentPicture().empty();
-}
-
 void CDyeworksApp::OnFileNew() {
     imageTemplate().newDocument();
 }
@@ -93,36 +77,6 @@ void CDyeworksApp::OnProjectNew() {
 
 void CDyeworksApp::OnProjectOpen() {
     openWithDialog(".tpf", kProjectFilter);
-}
-
-void CDyeworksApp::OnProjectClose() {
-    CloseProject();
-}
-
-void CDyeworksApp::OnProjectSave() {
-    projectDocument()->save();
-}
-
-void CDyeworksApp::OnProjectSaveAs() {
-    projectDocument()->saveAs();
-}
-
-void CDyeworksApp::OnProjectProperty() {
-    projectDocument()->EditProperties();
-}
-
-void CDyeworksApp::OnPictureAdd() {
-    projectDocument()->AddPicture(std::nullopt, std::nullopt, std::nullopt, 0, std::nullopt, false);
-}
-
-void CDyeworksApp::OnPictureChange() {
-    projectDocument()->ChangePicture(currentPicture());
-}
-
-void CDyeworksApp::OnPictureRemove() {
-    // A copy, because the project bar chooses another picture meanwhile.
-    const std::string name = currentPicture();
-    projectDocument()->RemovePicture(name);
 }
 
 void CDyeworksApp::OnPaletteOpen() {
