@@ -16,6 +16,8 @@ class CDocument : public CommandTarget {
 public:
     explicit CDocument(DocumentTemplate* documentTemplate = nullptr);
     ~CDocument() override;
+    CDocument(const CDocument&) = delete;
+    CDocument& operator=(const CDocument&) = delete;
 
     [[nodiscard]] const std::string& title() const noexcept { return title_; }
     void setTitle(const std::string& title);

@@ -30,6 +30,8 @@ public:
     /// Joins the document's views until it is destroyed. Both arguments must outlive the view.
     CDyeworksView(CDyeworksDoc& document, ViewWindow& window);
     ~CDyeworksView() override;
+    CDyeworksView(const CDyeworksView&) = delete;
+    CDyeworksView& operator=(const CDyeworksView&) = delete;
 
     [[nodiscard]] CDyeworksDoc& document() const noexcept override { return document_; }
     [[nodiscard]] ViewWindow& window() const noexcept { return window_; }

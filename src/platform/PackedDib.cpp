@@ -55,7 +55,7 @@ std::optional<std::vector<std::byte>> dibFromBmp(std::span<const std::byte> bmp)
     const std::int64_t colours = std::min(header.tableSize(), whole);
     const std::int64_t missing = header.tableSize() - colours;
     // More is no table that was left out but a damaged header.
-    constexpr std::int64_t kLargestTable = 4 * 256;
+    constexpr std::int64_t kLargestTable = std::int64_t{4} * 256;
     if (missing > kLargestTable)
         return std::nullopt;
 
