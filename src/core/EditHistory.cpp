@@ -55,7 +55,7 @@ void EditHistory::restartSaved() {
 }
 
 void EditHistory::markSaved() {
-    savedPosition_ = steps == nullptr ? 0 : steps->position();
+    savedPosition_ = position();
 }
 
 bool EditHistory::standsAtSavedPosition() const {

@@ -21,6 +21,8 @@ public:
     /// False when there is nothing to undo (redo).
     bool undo(void* target);
     bool redo(void* target);
+    /// As `UndoHistory::position`; 0 without a history.
+    [[nodiscard]] std::int32_t position() const { return steps == nullptr ? 0 : steps->position(); }
     [[nodiscard]] bool canUndo() const;
     [[nodiscard]] bool canRedo() const;
 

@@ -41,7 +41,7 @@ public:
     [[nodiscard]] ImageHost& host() const noexcept { return host_; }
     [[nodiscard]] TextureCanvas& canvas() noexcept { return canvas_; }
     [[nodiscard]] const TextureCanvas& canvas() const noexcept { return canvas_; }
-    [[nodiscard]] const UndoHistory& history() const noexcept { return *edits_.steps; }
+    [[nodiscard]] const EditHistory& edits() const noexcept { return edits_; }
 
     // Edits: all that changes the canvas. `viewer` is the one that causes it, or null.
     /// Opens an edit, which the document owns: it is drawn through, shown with `ShowEdit`, and ended with
@@ -67,8 +67,6 @@ public:
 
     bool Undo();
     bool Redo();
-    [[nodiscard]] bool CanUndo() const { return edits_.canUndo(); }
-    [[nodiscard]] bool CanRedo() const { return edits_.canRedo(); }
     void ClearUndo() { edits_.restart(); }
     /// Replaces what copies the canvas as it is before an edit; null when it cannot. It is
     /// `TextureCanvas::Clone`.
@@ -94,8 +92,6 @@ public:
     /// Shows the colours of `palette`, which may be a passing copy, if it goes by the attached name (compared
     /// without regard to case), and redraws all views.
     void PaletteChanged(const std::string& name, const TextureLookupTable* palette);
-    /// Composes the title anew: name, " [palette]" when attached, " * " when modified.
-    void UpdateTitle();
     /// A display palette of the current palette's colours, made anew by each call and valid until the next;
     /// null without a current palette.
     [[nodiscard]] const DisplayPalette* GetDisplayPalette();
@@ -105,25 +101,8 @@ public:
     void setPaletteValue(std::int32_t value) noexcept { paletteValue_ = value; }
 
     // Plug-ins, by their numbers in the lists of `ImagePlugIns`.
-    /// Shows the image in the previews that are on, if this is the active image. One that fails is switched
-    /// off.
-    void RefreshPreviews();
     /// The image has become the active one: the previews that are on for it show it, the others are off.
     void TakeOverPreviews();
-    /// Lets the plug-in change the image, which is no step of the history. What it brings besides becomes the
-    /// active view's floating piece.
-    void ImportThrough(std::int32_t plugIn);
-    void ExportThrough(std::int32_t plugIn);
-
-    /// Adds the image and its palette to the open project as a picture, which takes a palette to be attached
-    /// and a file to be there; asks for what is missing.
-    void AddToProject();
-    /// Writes a copy of the image as a bitmap to a file that is asked for, which does not become the
-    /// document's. Failures are reported.
-    void ExportBmp();
-    /// Goes back to what the file holds, after asking when that would lose something.
-    void Revert();
-
     void setPathName(const std::string& path) override;
     void setModified(bool modified) override;
     /// Asks what the image is to be like. False when that was cancelled or the image could not be made.
@@ -138,6 +117,25 @@ public:
     [[nodiscard]] bool hasUnsavedChanges() const override;
 
 private:
+    /// Lets the plug-in change the image, which is no step of the history. What it brings besides becomes the
+    /// active view's floating piece.
+    void ImportThrough(std::int32_t plugIn);
+    void ExportThrough(std::int32_t plugIn);
+
+    /// Adds the image and its palette to the open project as a picture, which takes a palette to be attached
+    /// and a file to be there; asks for what is missing.
+    void AddToProject();
+    /// Writes a copy of the image as a bitmap to a file that is asked for, which does not become the
+    /// document's. Failures are reported.
+    void ExportBmp();
+    /// Goes back to what the file holds, after asking when that would lose something.
+    void Revert();
+    /// Shows the image in the previews that are on, if this is the active image. One that fails is switched
+    /// off.
+    void RefreshPreviews();
+    /// Composes the title anew: name, " [palette]" when attached, " * " when modified.
+    void UpdateTitle();
+
     // Hints that views are updated with.
     static constexpr int kHintPixels = 0;  ///< The canvas's changed rectangle has new pixels.
     static constexpr int kHintColours = 1; ///< The image shows in other colours.
@@ -176,8 +174,8 @@ private:
     void switchPreviewOff(std::int32_t which);
     [[nodiscard]] std::string nameToSaveUnder() const;
     void makePaletteOfColours();
-    /// Ends drags and puts pieces that float into the image.
-    void settleForSaving();
+    /// Ends drags and puts pieces that float into the image. False when one floats on.
+    [[nodiscard]] bool settleForSaving();
     /// False when the file could not be written or belongs to another document, which has been reported.
     [[nodiscard]] bool writeCanvas(const std::string& path) const;
     /// Leaves what the image was in `contents`, or that as it is.

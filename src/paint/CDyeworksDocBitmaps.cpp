@@ -61,7 +61,8 @@ void CDyeworksDoc::ExportBmp() {
                                MessageButtons::YesNo) != MessageAnswer::Yes)
             return;
     }
-    settleForSaving();
+    if (!settleForSaving())
+        return;
     if (documentTemplate() != nullptr && documentTemplate()->findDocument(target) == this)
         save();
     else

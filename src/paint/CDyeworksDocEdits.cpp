@@ -62,9 +62,12 @@ bool CDyeworksDoc::SetImage(const TmfImage& image) {
     const TextureCanvas source(image);
     if (!openEdit(nullptr))
         return false;
-    const bool taken = canvas_.CopyFrom(source);
+    if (!canvas_.CopyFrom(source)) {
+        openEdit_.reset();
+        return false;
+    }
     CommitEdit();
-    return taken;
+    return true;
 }
 
 void CDyeworksDoc::showDrawn(ImageViewer* viewer) {
@@ -104,7 +107,7 @@ void CDyeworksDoc::followHistory() {
     if (!historyMoved_)
         return;
     historyMoved_ = false;
-    setModified(CanUndo() || unrecorded_);
+    setModified(edits_.canUndo() || unrecorded_);
 }
 
 bool CDyeworksDoc::Undo() {
@@ -128,10 +131,10 @@ bool CDyeworksDoc::Redo() {
 void CDyeworksDoc::endOpenEdit() {
     if (openEdit_ == nullptr)
         return;
-    ImageViewer* const viewer = openEdit_->viewer();
-    DropEdit();
-    if (viewer != nullptr)
+    // First the drag, so that no event of it reaches an edit that has gone while previews are shown.
+    if (ImageViewer* const viewer = openEdit_->viewer())
         viewer->CancelDrag();
+    DropEdit();
 }
 
 /// What a drag has done so far belongs to no step yet: it must neither be saved nor mixed with other edits.

@@ -73,7 +73,8 @@ bool CDyeworksDoc::onOpenDocument(const std::string& path) {
 }
 
 bool CDyeworksDoc::onSaveDocument(const std::string& path) {
-    settleForSaving();
+    if (!settleForSaving())
+        return false;
     std::string target = path;
     if (target.empty()) {
         const auto chosen = platform().fileDialogs().save(saveRequest(nameToSaveUnder()));
@@ -91,13 +92,14 @@ bool CDyeworksDoc::onSaveDocument(const std::string& path) {
     return true;
 }
 
-void CDyeworksDoc::settleForSaving() {
+bool CDyeworksDoc::settleForSaving() {
     takeBackDrags();
     // What floats above the image is a part of what the user sees and saves.
-    forEachViewer([](ImageViewer& viewer) {
-        if (viewer.hasFloatingPiece())
-            viewer.CommitFloatingPiece(true);
+    bool settled = true;
+    forEachViewer([&](ImageViewer& viewer) {
+        settled = settled && (!viewer.hasFloatingPiece() || viewer.CommitFloatingPiece(true));
     });
+    return settled;
 }
 
 bool CDyeworksDoc::writeCanvas(const std::string& path) const {

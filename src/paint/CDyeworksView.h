@@ -34,7 +34,6 @@ public:
     CDyeworksView& operator=(const CDyeworksView&) = delete;
 
     [[nodiscard]] CDyeworksDoc& document() const noexcept override { return document_; }
-    [[nodiscard]] ViewWindow& window() const noexcept { return window_; }
 
     // What the window tells the view.
     /// Once, when the document has its contents and the window can be asked for its client size.
@@ -82,16 +81,8 @@ public:
 
     void update(DocumentView* sender, int hint) override;
 
-    bool InvalidateChanged() override;
-    void SizeChanged() override;
     void CancelDrag() override;
-    [[nodiscard]] bool hasFloatingPiece() const override { return selection_.hasFloatingPiece(); }
-    void SetFloatingPiece(std::unique_ptr<TextureCanvas> piece) override;
-    void CommitFloatingPiece(bool redraw) override { selection_.commitFloatingPiece(redraw); }
-    void DropSelection() override;
-    void RepaintNow() override;
 
-    [[nodiscard]] ImageViewer& viewer() noexcept override { return *this; }
     [[nodiscard]] ImageSelection& selection() noexcept override { return selection_; }
     [[nodiscard]] const ImageSelection& selection() const noexcept { return selection_; }
     [[nodiscard]] std::uint32_t drawingValue() const noexcept override { return drawingValue_; }
@@ -110,6 +101,16 @@ public:
     void ToggleGrid();
 
 private:
+    // As the document and the tools see the view.
+    bool InvalidateChanged() override;
+    void SizeChanged() override;
+    [[nodiscard]] bool hasFloatingPiece() const override { return selection_.hasFloatingPiece(); }
+    void SetFloatingPiece(std::unique_ptr<TextureCanvas> piece) override;
+    bool CommitFloatingPiece(bool redraw) override { return selection_.commitFloatingPiece(redraw); }
+    void DropSelection() override;
+    void RepaintNow() override;
+    [[nodiscard]] ImageViewer& viewer() noexcept override { return *this; }
+
     [[nodiscard]] ViewGeometry geometry() const;
     void applyZoom(bool redraw);
     void scrollTo(Point position);

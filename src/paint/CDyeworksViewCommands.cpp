@@ -97,7 +97,7 @@ void CDyeworksView::OnUndo() {
 }
 
 void CDyeworksView::OnUpdateUndo(CommandUi& ui) {
-    ui.enabled = document_.CanUndo();
+    ui.enabled = document_.edits().canUndo();
 }
 
 void CDyeworksView::OnRedo() {
@@ -105,7 +105,7 @@ void CDyeworksView::OnRedo() {
 }
 
 void CDyeworksView::OnUpdateRedo(CommandUi& ui) {
-    ui.enabled = document_.CanRedo();
+    ui.enabled = document_.edits().canRedo();
 }
 
 } // namespace dyeworks

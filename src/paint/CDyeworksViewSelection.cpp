@@ -40,7 +40,8 @@ void CDyeworksView::OnSelectAll() {
     CancelDrag();
     setCurrentTool(Tool::Select);
     selection_.setToolAtPress(Tool::Select);
-    selection_.commitFloatingPiece(false);
+    if (!selection_.commitFloatingPiece(false))
+        return;
     const TextureCanvas& canvas = document_.canvas();
     selection_.select(Rect{0, 0, canvas.width() - 1, canvas.height() - 1}, false);
     // The frame of a shape that has just been taken back must not keep the selection's out.

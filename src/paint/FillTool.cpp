@@ -6,7 +6,8 @@
 namespace dyeworks {
 
 bool FillTool::press(Point texel, const PointerEvent& /*event*/) {
-    selection().commitFloatingPiece(true);
+    if (!selection().commitFloatingPiece(true))
+        return false;
     document().Edit(
         &viewer(), [&](TextureCanvas& canvas) { canvas.FloodFill(texel.x, texel.y, host().drawingValue()); });
     return false;

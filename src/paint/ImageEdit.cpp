@@ -17,8 +17,9 @@ ImageEdit::~ImageEdit() {
 }
 
 void ImageEdit::show() {
-    if (!canvas_.changedRect())
+    if (!canvas_.changedRect() && !takenBack_)
         return;
+    takenBack_ = false;
     noteChanges();
     host_.showDrawn(viewer_);
 }
@@ -30,6 +31,7 @@ void ImageEdit::takeBack() {
     snapshot_.restore(canvas_);
     canvas_.SetChangedRect(*touched_);
     touched_.reset();
+    takenBack_ = true;
     host_.showTakenBack(viewer_);
 }
 

@@ -60,6 +60,7 @@ private:
     /// What the edit has changed (inclusive). Kept here because the canvas's own changed rectangle starts
     /// anew whenever it has been shown.
     std::optional<Rect> touched_;
+    bool takenBack_ = false; ///< Since it was shown last: the previews still have what was drawn before.
     bool committed_ = false;
 };
 

@@ -103,9 +103,7 @@ void ImageSelection::moveBy(Point step, bool edges) {
 void ImageSelection::setFloatingPiece(std::unique_ptr<TextureCanvas> piece) {
     if (piece == nullptr || piece->width() <= 0 || piece->height() <= 0)
         return;
-    if (floatingPiece_ != nullptr)
-        commitFloatingPiece(true);
-    if (floatingPiece_ != nullptr)
+    if (floatingPiece_ != nullptr && !commitFloatingPiece(true))
         return;
     anchor_ = {heldInside(anchor_.x, piece->width(), document_.canvas().width()),
                heldInside(anchor_.y, piece->height(), document_.canvas().height())};
@@ -116,7 +114,7 @@ void ImageSelection::setFloatingPiece(std::unique_ptr<TextureCanvas> piece) {
     select(place, true);
 }
 
-void ImageSelection::commitFloatingPiece(bool redraw) {
+bool ImageSelection::commitFloatingPiece(bool redraw) {
     // Released before the repaints that follow.
     if (std::unique_ptr<TextureCanvas> piece = std::move(floatingPiece_)) {
         const Rect place = texels_.value_or(Rect{});
@@ -125,11 +123,12 @@ void ImageSelection::commitFloatingPiece(bool redraw) {
         };
         if (!document_.Edit(&viewer_, paste)) {
             floatingPiece_ = std::move(piece);
-            return;
+            return false;
         }
     }
     if (texels_)
         select(std::nullopt, redraw);
+    return true;
 }
 
 void ImageSelection::showDragFrame(const Rect& texels, std::uint32_t redrawRequest) {

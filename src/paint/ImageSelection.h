@@ -63,9 +63,9 @@ public:
     [[nodiscard]] bool hasFloatingPiece() const noexcept { return floatingPiece_ != nullptr; }
     /// As `ImageViewer::SetFloatingPiece`. Nothing when the piece before it floats on.
     void setFloatingPiece(std::unique_ptr<TextureCanvas> piece);
-    /// Puts the floating piece, if there is one, into the image; then nothing is selected. It floats on when
-    /// the user leaves the edit because it could not be undone.
-    void commitFloatingPiece(bool redraw);
+    /// Puts the floating piece, if there is one, into the image; then nothing is selected. False when it
+    /// floats on, because the user left an edit that could not be undone.
+    bool commitFloatingPiece(bool redraw);
     /// Forgets the floating piece. It shows until the next repaint.
     void dropFloatingPiece() noexcept { floatingPiece_.reset(); }
     /// Where the next floating piece is placed: the texel that the last drag began at, or as far as it came.

@@ -6,7 +6,8 @@
 namespace dyeworks {
 
 bool PenTool::press(Point texel, const PointerEvent& /*event*/) {
-    selection().commitFloatingPiece(true);
+    if (!selection().commitFloatingPiece(true))
+        return false;
     follow(texel);
     edit_ = document().BeginEdit(&viewer());
     if (edit_ == nullptr)

@@ -6,18 +6,19 @@
 namespace dyeworks {
 
 bool PixelTool::press(Point texel, const PointerEvent& /*event*/) {
-    selection().commitFloatingPiece(true);
+    if (!selection().commitFloatingPiece(true))
+        return false;
     selection().setAnchor(texel);
-    const std::int32_t before = document().history().position();
+    const std::int32_t before = document().edits().position();
     document().Edit(&viewer(),
                     [&](TextureCanvas& canvas) { canvas.PutPixel(texel.x, texel.y, host().drawingValue()); });
-    if (document().history().position() != before)
-        step_ = document().history().position();
+    if (document().edits().position() != before)
+        step_ = document().edits().position();
     return true;
 }
 
 void PixelTool::cancel() {
-    if (step_ && document().history().position() == *step_)
+    if (step_ && document().edits().position() == *step_)
         document().Undo();
 }
 

@@ -19,7 +19,8 @@ bool SelectTool::press(Point texel, const PointerEvent& event) {
     // A piece that has been placed is no selection any more.
     if (!selection().hasFloatingPiece())
         before_ = selection().texels();
-    selection().commitFloatingPiece(true);
+    if (!selection().commitFloatingPiece(true))
+        return false;
     anchor_ = current_ = texel;
     selection().setAnchor(anchor_);
     selection().select(Rect{texel.x, texel.y, texel.x, texel.y}, true);
@@ -90,14 +91,14 @@ bool SelectTool::cutPiece(bool leaveImage) {
         document().canvas().CopyRect(cut.left, cut.top, cut.right, cut.bottom);
     if (piece == nullptr)
         return false;
-    const std::int32_t before = document().history().position();
+    const std::int32_t before = document().edits().position();
     const auto erase = [&](TextureCanvas& canvas) {
         canvas.FillBox(cut.left, cut.top, cut.right, cut.bottom, 0);
     };
     if (!leaveImage && !document().Edit(&viewer(), erase))
         return false;
-    if (document().history().position() != before)
-        step_ = document().history().position();
+    if (document().edits().position() != before)
+        step_ = document().edits().position();
     cut_ = true;
     selection().setFloatingPiece(std::move(piece));
     const Rect placed = selection().texels().value_or(Rect{});
@@ -113,7 +114,7 @@ void SelectTool::release(Point /*texel*/, const PointerEvent& /*event*/) {
 void SelectTool::cancel() {
     if (cut_) {
         selection().dropFloatingPiece();
-        if (step_ && document().history().position() == *step_)
+        if (step_ && document().edits().position() == *step_)
             document().Undo();
     }
     selection().select(before_, true);

@@ -7,7 +7,8 @@ namespace dyeworks {
 
 bool ShapeTool::press(Point texel, const PointerEvent& event) {
     centred_ = event.alt;
-    selection().commitFloatingPiece(true);
+    if (!selection().commitFloatingPiece(true))
+        return false;
     centre_ = anchor_ = current_ = previous_ = texel;
     selection().setAnchor(anchor_);
     edit_ = document().BeginEdit(&viewer());

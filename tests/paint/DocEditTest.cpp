@@ -26,16 +26,16 @@ TEST_F(DocFixture, EveryEditIsOneStepThatGoesBackAndForth) {
     for (const EditCase& edit : edits) {
         SCOPED_TRACE(edit.name);
         const auto before = pixels();
-        const std::int32_t steps = document.history().count();
+        const std::int32_t steps = document.edits().steps->count();
         document.Edit(nullptr, edit.draw);
         const auto after = pixels();
         EXPECT_NE(before, after);
-        EXPECT_EQ(document.history().count(), steps + 1);
+        EXPECT_EQ(document.edits().steps->count(), steps + 1);
         ASSERT_TRUE(document.Undo());
         EXPECT_EQ(pixels(), before);
         ASSERT_TRUE(document.Redo());
         EXPECT_EQ(pixels(), after);
-        const auto inverse = document.history().currentRecord()->inverse();
+        const auto inverse = document.edits().steps->currentRecord()->inverse();
         ASSERT_NE(inverse, nullptr);
         inverse->redo(&document.canvas());
         EXPECT_EQ(pixels(), before);
@@ -54,7 +54,7 @@ TEST_F(DocFixture, EditThatChangesNoPixelRecordsNothingAndMarksNothing) {
         canvas.DrawEllipse(4, 4, 4, 9, 7); // draws nothing
     });
     pixel(16, 0, 7); // outside
-    EXPECT_EQ(document.history().count(), 1);
+    EXPECT_EQ(document.edits().steps->count(), 1);
     EXPECT_EQ(document.title(), "a.tmf");
     EXPECT_FALSE(document.hasUnsavedChanges());
 }
@@ -110,7 +110,7 @@ TEST_F(DocFixture, LostUndoStepIsReportedAndNoStateCountsAsSaved) {
                                                 "Do you clear all UNDO buffer?");
         EXPECT_EQ(platform.messages.shown.back().icon, MessageIcon::Warning);
         EXPECT_EQ(platform.messages.shown.back().buttons, MessageButtons::YesNo);
-        EXPECT_EQ(document.history().count(), c.stepsAfter);
+        EXPECT_EQ(document.edits().steps->count(), c.stepsAfter);
         EXPECT_TRUE(document.hasUnsavedChanges());
         EXPECT_EQ(document.title(), "a.tmf * ");
         document.canvas().Create(16, 12, 1, 4);

@@ -125,7 +125,7 @@ TEST_F(DocFile, SaveQuestionIsAskedWhereverTheFileDiffers) {
         document.canvas().Create(16, 12, 1, 4);
         ASSERT_TRUE(document.save());
         ASSERT_TRUE(document.onOpenDocument("c:\\tex.tmf"));
-        EXPECT_FALSE(document.CanUndo());
+        EXPECT_FALSE(document.edits().canUndo());
         step.steps();
         EXPECT_EQ(document.isModified(), step.modified);
         EXPECT_EQ(document.hasUnsavedChanges(), step.asks);
@@ -293,12 +293,12 @@ TEST_F(DocFile, RevertGoesBackToTheFileAndKeepsThePalette) {
     platform.files.failNextRead(FileError::AccessDenied);
     document.runCommand(ID_FILE_REVERT);
     EXPECT_EQ(pixels(), edited);
-    EXPECT_TRUE(document.CanUndo());
+    EXPECT_TRUE(document.edits().canUndo());
     platform.messages.answerWith(MessageAnswer::Yes);
     document.runCommand(ID_FILE_REVERT);
     EXPECT_EQ(pixels(), saved);
     EXPECT_EQ(document.title(), title);
-    EXPECT_FALSE(document.hasUnsavedChanges() || document.CanUndo() || canRevert());
+    EXPECT_FALSE(document.hasUnsavedChanges() || document.edits().canUndo() || canRevert());
     pixel(15, 11, 2);
     document.Undo();
     EXPECT_EQ(pixels(), saved);

@@ -104,10 +104,10 @@ TEST_F(DocPlugIns, BankCountsOnlyForSmallImagesInPalettesThatHaveBanks) {
             openPalette(entries);
         document.canvas().Create(2, 2, 1, static_cast<std::uint16_t>(bits));
         document.Attach();
-        document.ExportThrough(0);
+        document.runCommand(ID_EXPORT_FIRST);
         document.runCommand(ID_PREVIEW1);
         document.runCommand(ID_PREVIEW1);
-        document.ImportThrough(0);
+        document.runCommand(ID_IMPORT_FIRST);
         for (const std::string& call : calls())
             EXPECT_TRUE(call == "off 0" || call.ends_with(std::string(" from ") + from)) << call << bits;
     }
@@ -115,14 +115,14 @@ TEST_F(DocPlugIns, BankCountsOnlyForSmallImagesInPalettesThatHaveBanks) {
 
 TEST_F(DocPlugIns, ImportKeepsWhatThePlugInChangedWithoutAStep) {
     openPalette();
-    document.ImportThrough(0);
+    document.runCommand(ID_IMPORT_FIRST);
     EXPECT_FALSE(document.hasUnsavedChanges());
     EXPECT_TRUE(document.IsAttached());
 
     host.plugIns.texelOnImport = 6;
-    document.ImportThrough(0);
+    document.runCommand(ID_IMPORT_FIRST);
     EXPECT_EQ(document.canvas().GetPixel(0, 0), 6U);
-    EXPECT_FALSE(document.CanUndo());
+    EXPECT_FALSE(document.edits().canUndo());
     EXPECT_TRUE(document.hasUnsavedChanges());
     pixel(3, 3, 1);
     document.Undo();

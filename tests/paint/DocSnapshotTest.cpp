@@ -162,8 +162,8 @@ TEST_P(DocSnapshot, LongSessionAgreesWithWholeCopies) {
     for (int n = 0; n < 6000; ++n) {
         last = step() + " after " + last.substr(0, 60);
         ASSERT_EQ(rowsOf(document.canvas()), rowsOf(model.canvas)) << n << ": " << last;
-        ASSERT_EQ(document.CanUndo(), model.position > 0) << n << ": " << last;
-        ASSERT_EQ(document.CanRedo(), model.position < model.steps.size()) << n << ": " << last;
+        ASSERT_EQ(document.edits().canUndo(), model.position > 0) << n << ": " << last;
+        ASSERT_EQ(document.edits().canRedo(), model.position < model.steps.size()) << n << ": " << last;
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -37,6 +38,8 @@ public:
     std::uint32_t PreviewImage(TmfImage* image, TlutData* palette, std::int32_t paletteNumber,
                                std::int32_t which) override {
         note("preview", which, image, palette, paletteNumber);
+        if (onPreview)
+            onPreview();
         return which == failingPreview ? 0 : 1;
     }
     void PreviewOff(std::int32_t which) override { calls.push_back("off " + std::to_string(which)); }
@@ -54,6 +57,7 @@ public:
     std::vector<std::string> calls;
     std::uint32_t texelOnImport = 0;
     std::int32_t failingPreview = -1;
+    std::function<void()> onPreview; ///< What a preview lets happen before it returns.
 };
 
 /// A project that notes the pictures that are added to it.

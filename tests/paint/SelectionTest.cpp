@@ -98,7 +98,7 @@ TEST_F(Selecting, WhatFloatsIsPartOfTheWork) {
     EXPECT_EQ(document.title(), "a.tmf");
     EXPECT_FALSE(document.saveModified()) << "cancelled";
     EXPECT_EQ(platform.messages.shown.size(), 1U);
-    EXPECT_TRUE(view.hasFloatingPiece());
+    EXPECT_TRUE(view.selection().hasFloatingPiece());
 }
 
 TEST_F(Selecting, CutLeavesWhatTheClipboardDoesNotTake) {

@@ -195,10 +195,10 @@ protected:
         const Rect s = view.selection().texels().value_or(Rect{});
         return described(
             document.canvas(), document.title(), host.panes[1],
-            {document.CanUndo(), document.CanRedo(), document.history().count(), s.left, s.top, s.right,
-             s.bottom, view.hasFloatingPiece(), view.drawingValue(), host.cell, view.zoom(), window.scroll.x,
-             window.scroll.y, static_cast<int>(view.contextMenu()), window.captured,
-             stateOf(view, ID_EDIT_SELECT_ALL).enabled,
+            {document.edits().canUndo(), document.edits().canRedo(), document.edits().steps->count(), s.left,
+             s.top, s.right, s.bottom, view.selection().hasFloatingPiece(), view.drawingValue(), host.cell,
+             view.zoom(), window.scroll.x, window.scroll.y, static_cast<int>(view.contextMenu()),
+             window.captured, stateOf(view, ID_EDIT_SELECT_ALL).enabled,
              std::ranges::count_if(kOfSelected, [this](CommandId id) { return stateOf(view, id).enabled; }),
              static_cast<int>(currentTool()), window.interval});
     }

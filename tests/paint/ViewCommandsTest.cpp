@@ -115,7 +115,7 @@ TEST_F(ViewFixture, ShowsWhatAnImportChangedInPlace) {
     document.Attach();
     host.plugIns.texelOnImport = 6;
     window.fullRepaints = 0;
-    document.ImportThrough(0);
+    document.runCommand(ID_IMPORT_FIRST);
     EXPECT_EQ(window.fullRepaints, 1);
     window.invalidated.clear();
     pixel(9, 9, 5);
@@ -156,6 +156,52 @@ TEST_F(ViewFixture, ActivationShowsTheDocumentOncePerChange) {
     window.scroll = {5, 0};
     view.Scrolled();
     EXPECT_EQ(host.panes[1], "(8, 2) 100%");
+}
+
+TEST_F(ViewFixture, PreviewsSeeADragEndAndNoEventReachesWhatHasGone) {
+    host.active = &document;
+    document.runCommand(ID_PREVIEW1);
+    for (const Tool tool : {Tool::Pen, Tool::Box}) {
+        const auto before = pixels();
+        setCurrentTool(tool);
+        press({1, 1});
+        move({9, 9});
+        host.plugIns.onPreview = [&] { move({5, 3}); };
+        document.Undo();
+        host.plugIns.onPreview = nullptr;
+        EXPECT_FALSE(view.dragging());
+        EXPECT_EQ(pixels(), before);
+    }
+    setCurrentTool(Tool::Circle);
+    press({0, 0});
+    move({9, 9});
+    host.plugIns.take();
+    move({0, 0});
+    EXPECT_EQ(host.plugIns.take().size(), 1U) << "the circle has gone";
+    release({0, 0});
+    host.plugIns.take();
+    TmfImage other;
+    ASSERT_TRUE(other.create(4, 4, 4));
+    EXPECT_FALSE(document.SetImage(other));
+    EXPECT_TRUE(host.plugIns.take().empty());
+}
+
+TEST_F(ViewFixture, APieceThatMayNotBePlacedFloatsOn) {
+    document.setSnapshotFactory([](const auto&) { return nullptr; });
+    document.setPathName("c:\\a.tmf");
+    for (const Tool tool : {Tool::Select, Tool::Paint, Tool::Pixel}) {
+        view.selection().setFloatingPiece(document.canvas().CopyRect(0, 0, 3, 3));
+        const auto place = view.selection().texels();
+        setCurrentTool(tool);
+        platform.messages.answerWith(MessageAnswer::No);
+        press({9, 9});
+        platform.messages.answerWith(MessageAnswer::No);
+        EXPECT_FALSE(document.save());
+        EXPECT_TRUE(view.selection().hasFloatingPiece());
+        EXPECT_EQ(view.selection().texels(), place);
+        view.CancelDrag();
+        view.selection().dropFloatingPiece();
+    }
 }
 
 } // namespace

@@ -55,7 +55,7 @@ TEST_F(AllTwenty, AnswerFromInsideEveryEntryPointAndOnNoOtherThread) {
         EXPECT_TRUE(image().Undo());
         EXPECT_TRUE(palette().undo());
     }
-    EXPECT_FALSE(image().CanUndo() || palette().canUndo());
+    EXPECT_FALSE(image().edits().canUndo() || palette().canUndo());
     EXPECT_EQ(texel(1, 0), 3U);
     EXPECT_EQ(palette().table.getEntry(7), 7 * 193 + 7);
 

@@ -62,7 +62,7 @@ TEST_F(ImagePlugIns, EditInPlaceWithoutAStepButToBeSaved) {
         QCoreApplication::processEvents();
         EXPECT_GT(std::exchange(repaints_, 0), 0);
     }
-    EXPECT_FALSE(image().CanUndo());
+    EXPECT_FALSE(image().edits().canUndo());
     EXPECT_EQ(piece(), QSize());
     ASSERT_TRUE(run(ID_FILE_CLOSE));
     EXPECT_THAT(texts(fake_), ElementsAre("Save changes to c:\\tex\\pic.tmf?"));
@@ -116,7 +116,7 @@ TEST_F(ImagePlugIns, ThatBringNothingNewChangeNothing) {
         EXPECT_EQ(texel(0, 0), 1U);
         EXPECT_EQ(palette().table.count, 256);
         EXPECT_EQ(piece(), QSize());
-        EXPECT_FALSE(image().isModified() || image().CanUndo() || palette().modified);
+        EXPECT_FALSE(image().isModified() || image().edits().canUndo() || palette().modified);
         EXPECT_EQ(app_->router().state(ID_PREVIEW2).checked, false) << "switched off again";
         EXPECT_THAT(fake_.messages.shown, IsEmpty());
         leave();
@@ -244,7 +244,7 @@ TEST_F(ImagePlugIns, APreviewThatSetsTheImageEndsTheStrokeThatItShows) {
         QTest::mouseRelease(viewport, Qt::LeftButton, {}, {8, 3});
     }
     ASSERT_TRUE(run(ID_PREVIEW1));
-    while (image().CanUndo())
+    while (image().edits().canUndo())
         image().Undo();
     for (int y = 0; y < 8; ++y) {
         for (int x = 0; x < 24; ++x)

@@ -103,7 +103,7 @@ void PlugInProgram::leave() {
 
 QSize PlugInProgram::piece() {
     const Rect place = view().view().selection().texels().value_or(Rect{});
-    return view().view().hasFloatingPiece()
+    return view().view().selection().hasFloatingPiece()
                ? QSize(place.right - place.left + 1, place.bottom - place.top + 1)
                : QSize();
 }
