@@ -3,7 +3,10 @@
 #include "core/PaletteSet.h"
 #include "platform/TextCase.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <utility>
+#include <vector>
 
 namespace dyeworks {
 
@@ -65,7 +68,7 @@ void CDyeworksDoc::refreshPalette(bool ofAnyPalette) {
         if (palette == nullptr)
             attachedName_.clear();
         else if (ofAnyPalette || attachedName_ == set->currentKey)
-            canvas_.ApplyPalette(*palette, firstEntryFor(*palette));
+            takeColours(*palette);
         UpdateTitle();
     }
     updateAllViews(nullptr, kHintColours);
@@ -77,10 +80,20 @@ void CDyeworksDoc::PaletteChanged(const std::string& name, const TextureLookupTa
     if (palette == nullptr)
         return;
     if (!attachedName_.empty() && equalIgnoringCase(name, attachedName_))
-        canvas_.ApplyPalette(*palette, firstEntryFor(*palette));
+        takeColours(*palette);
     updateAllViews(nullptr, kHintColours);
     RefreshPreviews();
     canvas_.ResetChangedRect();
+}
+
+/// What floats above the image goes along: it is placed there by values, not by colours. What comes from
+/// elsewhere keeps colours of its own until then.
+void CDyeworksDoc::takeColours(const TextureLookupTable& palette) {
+    const auto colours = std::as_const(canvas_).colourTable();
+    const std::vector<std::uint8_t> before(colours.begin(), colours.end());
+    canvas_.ApplyPalette(palette, firstEntryFor(palette));
+    if (!std::ranges::equal(before, colours))
+        forEachViewer([](ImageViewer& viewer) { viewer.RecolourFloatingPiece(); });
 }
 
 /// The palette bar shows the bank of the active image while that is attached to the current palette; any

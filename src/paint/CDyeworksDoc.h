@@ -166,6 +166,7 @@ private:
     void takeBackDrags();
     void followHistory();
     void refreshPalette(bool ofAnyPalette);
+    void takeColours(const TextureLookupTable& palette);
     [[nodiscard]] std::int32_t firstEntryFor(const TextureLookupTable& palette) const;
     [[nodiscard]] const std::string& nameWithoutParts() const;
     [[nodiscard]] TlutData* attachedTable() const;

@@ -106,6 +106,7 @@ private:
     void SizeChanged() override;
     [[nodiscard]] bool hasFloatingPiece() const override { return selection_.hasFloatingPiece(); }
     void SetFloatingPiece(std::unique_ptr<TextureCanvas> piece) override;
+    void RecolourFloatingPiece() override { selection_.recolourFloatingPiece(); }
     bool CommitFloatingPiece(bool redraw) override { return selection_.commitFloatingPiece(redraw); }
     void DropSelection() override;
     void RepaintNow() override;

@@ -114,6 +114,11 @@ void ImageSelection::setFloatingPiece(std::unique_ptr<TextureCanvas> piece) {
     select(place, true);
 }
 
+void ImageSelection::recolourFloatingPiece() {
+    if (floatingPiece_ != nullptr)
+        floatingPiece_->copyColourTableFrom(document_.canvas());
+}
+
 bool ImageSelection::commitFloatingPiece(bool redraw) {
     // Released before the repaints that follow.
     if (std::unique_ptr<TextureCanvas> piece = std::move(floatingPiece_)) {

@@ -63,6 +63,8 @@ public:
     [[nodiscard]] bool hasFloatingPiece() const noexcept { return floatingPiece_ != nullptr; }
     /// As `ImageViewer::SetFloatingPiece`. Nothing when the piece before it floats on.
     void setFloatingPiece(std::unique_ptr<TextureCanvas> piece);
+    /// As `ImageViewer::RecolourFloatingPiece`.
+    void recolourFloatingPiece();
     /// Puts the floating piece, if there is one, into the image; then nothing is selected. False when it
     /// floats on, because the user left an edit that could not be undone.
     bool commitFloatingPiece(bool redraw);

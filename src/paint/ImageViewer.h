@@ -24,6 +24,8 @@ public:
     /// Lets the piece float from the anchor on, moved into the image as far as it fits, and selects it with
     /// the Select tool. One that floats already is committed. A null or empty piece changes nothing.
     virtual void SetFloatingPiece(std::unique_ptr<TextureCanvas> piece) = 0;
+    /// Gives the floating piece, if there is one, the colours that its values have in the image.
+    virtual void RecolourFloatingPiece() = 0;
     /// Puts the floating piece, if there is one, into the image; then nothing is selected. False when it
     /// floats on, because the user left an edit that could not be undone.
     virtual bool CommitFloatingPiece(bool redraw) = 0;

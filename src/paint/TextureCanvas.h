@@ -170,6 +170,8 @@ public:
     /// Blue, green, red, reserved for each of `GetColorCount` entries.
     [[nodiscard]] std::span<const std::uint8_t> colourTable() const noexcept;
     [[nodiscard]] std::span<std::uint8_t> colourTable() noexcept;
+    /// As many entries as both have; the others stay.
+    void copyColourTableFrom(const TextureCanvas& source);
     /// The bottom-up pixel rows.
     [[nodiscard]] std::span<const std::uint8_t> pixelRows() const noexcept;
 
@@ -185,7 +187,6 @@ private:
     bool allocate(std::int32_t width, std::int32_t height, std::uint16_t planes, std::uint16_t bitsPerPixel,
                   BlockContents contents);
     void writeHeaders(std::uint32_t colourCount);
-    void copyColourTableFrom(const TextureCanvas& source);
     /// Bytes of all pixel rows.
     [[nodiscard]] std::size_t rowBytes() const noexcept;
 

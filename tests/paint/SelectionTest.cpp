@@ -101,6 +101,22 @@ TEST_F(Selecting, WhatFloatsIsPartOfTheWork) {
     EXPECT_TRUE(view.selection().hasFloatingPiece());
 }
 
+TEST_F(Selecting, WhatFloatsTakesTheColoursThatTheImageTakes) {
+    openPalette(256);
+    document.Attach();
+    TextureLookupTable& palette = *host.palettes.lookup("");
+    ASSERT_TRUE(document.canvas().CopyToClipboard({2, 2, 4, 3}));
+    view.runCommand(ID_EDIT_PASTE);
+    const auto redOf7 = [&] { return view.selection().look(0)->floating->colourTable()[7 * 4 + 2]; };
+    TextureLookupTable passing(palette);
+    passing.table.setRed(7, 4);
+    document.PaletteChanged(document.attachedName(), &passing);
+    EXPECT_EQ(redOf7(), 4 << 3) << "previewed";
+    palette.table.setRed(7, 5);
+    document.RefreshPalette();
+    EXPECT_EQ(redOf7(), 5 << 3);
+}
+
 TEST_F(Selecting, CutLeavesWhatTheClipboardDoesNotTake) {
     select();
     const auto before = pixels();
