@@ -59,18 +59,23 @@ bool PaletteSet::add(std::unique_ptr<TextureLookupTable>&& palette) {
     return true;
 }
 
-PaletteSet::Map::iterator PaletteSet::find(const PaletteKey& key) {
-    std::string& value = key.value();
-    value = TextureLookupTable::keyFor(value.empty() ? currentKey : value);
-    return palettes.find(value);
+PaletteSet::Map::iterator PaletteSet::find(const std::string& key) {
+    std::string meant = key;
+    complete(meant);
+    return palettes.find(meant);
 }
 
-TextureLookupTable* PaletteSet::lookup(const PaletteKey& key) {
-    const auto position = find(key);
-    return position == palettes.end() ? nullptr : position->second.get();
+TextureLookupTable* PaletteSet::lookup(const std::string& key) const {
+    std::string meant = key;
+    return complete(meant) ? palettes.at(meant).get() : nullptr;
 }
 
-bool PaletteSet::rekey(const PaletteKey& key, bool refresh) {
+bool PaletteSet::complete(std::string& key) const {
+    key = TextureLookupTable::keyFor(key.empty() ? currentKey : key);
+    return palettes.contains(key);
+}
+
+bool PaletteSet::rekey(std::string& key, bool refresh) {
     const auto position = find(key);
     if (position == palettes.end())
         return false;
@@ -86,7 +91,7 @@ bool PaletteSet::rekey(const PaletteKey& key, bool refresh) {
     // A number tells it from the palette that has the name.
     if (taken != wanted)
         moved->renameFromPath();
-    key.value() = taken;
+    key = taken;
     currentKey = taken;
     if (refresh)
         tabsChanged();
@@ -107,42 +112,44 @@ bool PaletteSet::rekeyAll() {
     return moved;
 }
 
-bool PaletteSet::savePalette(const PaletteKey& key, bool refresh) {
-    TextureLookupTable* palette = lookup(key);
-    if (palette == nullptr) {
-        key.value() = currentKey;
-        palette = lookup(key);
-    }
-    if (palette == nullptr || !palette->save(key.value().c_str(), false))
+bool PaletteSet::savePalette(const std::string& key, bool refresh) {
+    std::string meant = key;
+    if (!complete(meant))
+        meant = currentKey;
+    TextureLookupTable* const palette = lookup(meant);
+    if (palette == nullptr || !palette->save(meant.c_str(), false))
         return false;
     if (refresh)
-        afterSaving(key);
+        afterSaving(meant);
     return true;
 }
 
-bool PaletteSet::savePaletteAs(const PaletteKey& key, bool refresh) {
-    TextureLookupTable* const palette = lookup(key);
-    if (palette == nullptr || !palette->save(nullptr, true))
+bool PaletteSet::savePaletteAs(const std::string& key, bool refresh) {
+    std::string meant = key;
+    if (!complete(meant) || !lookup(meant)->save(nullptr, true))
         return false;
     if (refresh)
-        afterSaving(key);
+        afterSaving(meant);
     return true;
 }
 
-bool PaletteSet::queryClose(const PaletteKey& key, bool refresh) {
-    TextureLookupTable* const palette = lookup(key);
-    if (palette == nullptr || !palette->querySave())
+bool PaletteSet::queryClose(const std::string& key, bool refresh) {
+    std::string meant = key;
+    if (!complete(meant) || !lookup(meant)->querySave())
         return false;
     if (refresh)
-        afterSaving(key);
+        afterSaving(meant);
     return true;
 }
 
-bool PaletteSet::closePalette(const PaletteKey& key, bool refresh) {
-    return queryClose(key, false) && removePalette(key, refresh);
+bool PaletteSet::closePalette(const std::string& key, bool refresh) {
+    // Saving under another name changes the path, but not yet the key.
+    std::string meant = key;
+    complete(meant);
+    return queryClose(meant, false) && removePalette(meant, refresh);
 }
 
-bool PaletteSet::removePalette(const PaletteKey& key, bool refresh) {
+bool PaletteSet::removePalette(const std::string& key, bool refresh) {
     const auto position = find(key);
     if (position == palettes.end())
         return false;
@@ -167,12 +174,12 @@ bool PaletteSet::queryCloseAll() {
     return agreed;
 }
 
-void PaletteSet::setCurrent(const PaletteKey& key) {
+void PaletteSet::setCurrent(const std::string& key) {
     if (selectCurrent(key))
         tabsChanged();
 }
 
-bool PaletteSet::selectCurrent(const PaletteKey& key) {
+bool PaletteSet::selectCurrent(const std::string& key) {
     const auto position = find(key);
     if (position == palettes.end())
         return false;
@@ -195,7 +202,7 @@ bool PaletteSet::keyAt(std::int32_t index, std::string& key) const {
     return true;
 }
 
-bool PaletteSet::getTitle(const PaletteKey& key, std::string& title) {
+bool PaletteSet::getTitle(const std::string& key, std::string& title) {
     const TextureLookupTable* const palette = lookup(key);
     title = palette == nullptr ? std::string() : palette->title;
     return palette != nullptr;
@@ -233,7 +240,7 @@ void PaletteSet::tabsChanged() {
 }
 
 /// In place, too, the title loses its mark.
-void PaletteSet::afterSaving(const PaletteKey& key) {
+void PaletteSet::afterSaving(std::string key) {
     if (!rekey(key, true) && listener_ != nullptr)
         listener_->titlesChanged();
 }

@@ -11,31 +11,9 @@
 
 namespace dyeworks {
 
-/// A palette's key as an operation takes it. An empty key stands for the current palette; a key that does not
-/// begin with "*" is made a full path. The key that was meant is written back into the caller's string.
-class PaletteKey {
-public:
-    PaletteKey(std::string& inOut)
-        : key_(&inOut) {}
-    PaletteKey(const std::string& in)
-        : own_(in)
-        , key_(&own_) {}
-    PaletteKey(const char* in)
-        : own_(in == nullptr ? "" : in)
-        , key_(&own_) {}
-    PaletteKey(const PaletteKey&) = delete;
-    PaletteKey& operator=(const PaletteKey&) = delete;
-
-    [[nodiscard]] std::string& value() const noexcept { return *key_; }
-
-private:
-    std::string own_;
-    std::string* key_;
-};
-
 /// The open palettes of the application, in byte order of their keys, and which of them is current. A
-/// palette's key equals its `path`. Operations on a key that names no palette answer false and change
-/// nothing.
+/// palette's key equals its `path`. An empty key stands for the current palette; one that does not begin with
+/// "*" is made a full path. Operations on a key that names no palette answer false and change nothing.
 class PaletteSet {
 public:
     using Map = std::map<std::string, std::unique_ptr<TextureLookupTable>>;
@@ -57,31 +35,34 @@ public:
     /// gets the first free one with "_1", "_2" and so on behind it.
     bool add(std::unique_ptr<TextureLookupTable>&& palette);
 
-    Map::iterator find(const PaletteKey& key);
-    TextureLookupTable* lookup(const PaletteKey& key);
+    [[nodiscard]] Map::iterator find(const std::string& key);
+    /// Null when there is no such palette. It belongs to the set.
+    [[nodiscard]] TextureLookupTable* lookup(const std::string& key) const;
+    /// Puts the key that is looked up for `key` in its place. False when no palette has it.
+    bool complete(std::string& key) const;
 
-    /// Moves a palette whose path has changed to its new key and makes it current. False when the key stays,
-    /// and when another palette holds the new one: this palette then takes the next free key, as in `add`,
-    /// and only then another title.
-    bool rekey(const PaletteKey& key, bool refresh);
+    /// Moves a palette whose path has changed to its new key, which comes back in `key`, and makes it
+    /// current. False when the key stays, and when another palette holds the new one: this palette then takes
+    /// the next free key, as in `add`, and only then another title.
+    bool rekey(std::string& key, bool refresh);
     /// The same for every palette. True when any key changed.
     bool rekeyAll();
 
-    bool savePalette(const PaletteKey& key, bool refresh);
-    bool savePaletteAs(const PaletteKey& key, bool refresh);
+    bool savePalette(const std::string& key, bool refresh);
+    bool savePaletteAs(const std::string& key, bool refresh);
     /// True when the palette has no unsaved changes left that the user wants kept.
-    bool queryClose(const PaletteKey& key, bool refresh);
-    bool closePalette(const PaletteKey& key, bool refresh);
+    bool queryClose(const std::string& key, bool refresh);
+    bool closePalette(const std::string& key, bool refresh);
     /// The same without the question.
-    bool removePalette(const PaletteKey& key, bool refresh);
+    bool removePalette(const std::string& key, bool refresh);
     bool queryCloseAll();
 
-    void setCurrent(const PaletteKey& key);
-    bool selectCurrent(const PaletteKey& key);
+    void setCurrent(const std::string& key);
+    bool selectCurrent(const std::string& key);
 
     std::int32_t listKeys(std::vector<std::string>& keys) const;
     bool keyAt(std::int32_t index, std::string& key) const;
-    bool getTitle(const PaletteKey& key, std::string& title);
+    bool getTitle(const std::string& key, std::string& title);
 
     void refreshViews();
     /// To be called when somebody else than the palette bar has changed the entries of a palette of the set.
@@ -94,7 +75,7 @@ public:
 private:
     Map::iterator insertUnderFreeKey(std::unique_ptr<TextureLookupTable> palette);
     void tabsChanged();
-    void afterSaving(const PaletteKey& key);
+    void afterSaving(std::string key);
 
     PaletteSetListener* listener_;
 };

@@ -44,9 +44,8 @@ void CDyeworksDoc::Attach() {
     PaletteSet* const set = host_.paletteSet();
     if (set == nullptr)
         return;
-    // The empty key stands for the current palette, whose key comes back.
     attachedName_.clear();
-    set->lookup(attachedName_);
+    set->complete(attachedName_);
     UpdateTitle();
     // The bar shows the bank of the attached palette, which the colours are taken from.
     host_.refreshPaletteBar();
@@ -64,11 +63,10 @@ void CDyeworksDoc::RefreshOwnPalette() {
 void CDyeworksDoc::refreshPalette(bool ofAnyPalette) {
     PaletteSet* const set = host_.paletteSet();
     if (!attachedName_.empty() && set != nullptr) {
-        const TextureLookupTable* const palette = set->lookup(attachedName_);
-        if (palette == nullptr)
+        if (!set->complete(attachedName_))
             attachedName_.clear();
         else if (ofAnyPalette || attachedName_ == set->currentKey)
-            takeColours(*palette);
+            takeColours(*set->lookup(attachedName_));
         UpdateTitle();
     }
     updateAllViews(nullptr, kHintColours);
@@ -111,7 +109,7 @@ void CDyeworksDoc::UpdateTitle() {
     std::string composed = baseName_;
     if (IsAttached()) {
         std::string palette;
-        host_.paletteSet()->getTitle(std::as_const(attachedName_), palette);
+        host_.paletteSet()->getTitle(attachedName_, palette);
         composed += " [" + palette + "]";
     }
     if (isModified())

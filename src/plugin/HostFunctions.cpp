@@ -121,7 +121,7 @@ std::optional<std::string> paletteFile(const char* name) {
 
 TextureLookupTable* openPalette(const char* name) {
     PaletteSet* const set = paletteSet();
-    return set == nullptr ? nullptr : set->lookup(textOf(name).c_str());
+    return set == nullptr ? nullptr : set->lookup(textOf(name));
 }
 
 } // namespace

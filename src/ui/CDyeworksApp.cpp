@@ -253,10 +253,14 @@ bool CDyeworksApp::CloseProject() {
 }
 
 std::optional<std::string> CDyeworksApp::savePaletteAs(const std::string& key) {
-    std::string now = key;
-    bool saved = false;
-    keepAttachments([&] { return saved = paletteSet()->savePaletteAs(now, true); });
-    return saved ? std::optional(now) : std::nullopt;
+    std::optional<std::string> now;
+    keepAttachments([&] {
+        const TextureLookupTable* const palette = paletteSet()->lookup(key);
+        if (paletteSet()->savePaletteAs(key, true))
+            now = palette->path;
+        return now.has_value();
+    });
+    return now;
 }
 
 std::optional<PaletteBarHost::Image> CDyeworksApp::activeImage() const {

@@ -88,35 +88,35 @@ TEST_F(PaletteSetKeys, TakenOnesAreNumbered) {
     EXPECT_NE(nameless, nullptr) << "the caller keeps it";
 }
 
-TEST_F(PaletteSetKeys, AreComparedAsUnsignedBytesAndWrittenBack) {
+TEST_F(PaletteSetKeys, AreComparedAsUnsignedBytesAndCompletedWhenAsked) {
     open({"c:\\\xC3\xA9", "c:\\b", "c:\\Z"});
     EXPECT_EQ(state(), ">c:\\Z c:\\b c:\\\xC3\xA9 ");
-    std::string empty, relative = "b", title, key;
+    std::string empty, relative = "b", other = "B", title, key;
     EXPECT_TRUE(set.keyAt(2, key));
     EXPECT_EQ(key, "c:\\\xC3\xA9");
     EXPECT_FALSE(set.keyAt(3, key) || set.keyAt(-1, key));
     EXPECT_NE(set.lookup(empty), nullptr);
-    EXPECT_EQ(empty, "c:\\Z");
     EXPECT_TRUE(set.getTitle(relative, title));
-    EXPECT_EQ(relative + " " + title, "c:\\b b");
+    EXPECT_EQ(empty + "," + relative + "," + title, ",b,b") << "looking up leaves the caller's key";
+    EXPECT_TRUE(set.complete(empty) && set.complete(relative) && !set.complete(other));
+    EXPECT_EQ(empty + " " + relative + " " + other, "c:\\Z c:\\b c:\\B");
     EXPECT_FALSE(set.getTitle("c:\\B", title));
     EXPECT_EQ(title, "");
 }
 
-TEST_F(PaletteSetRekey, SavingUnderANewNameMovesThePaletteAndTheCallersKey) {
+TEST_F(PaletteSetRekey, SavingUnderANewNameMovesThePalette) {
     ASSERT_TRUE(set.newPalette(16, ColourType::Rgba, 0));
-    std::string key = set.currentKey;
+    const std::string key = set.currentKey;
     open({"c:\\b"});
     fake.dialogs.answerWith("c:\\a");
     EXPECT_TRUE(set.savePalette(key, true));
-    EXPECT_EQ(key + " | " + state(), "c:\\a | >c:\\a c:\\b t");
+    EXPECT_EQ(state(), ">c:\\a c:\\b t");
 
     EXPECT_TRUE(set.savePalette("c:\\b", true)) << "in place, without a question";
     EXPECT_FALSE(set.savePaletteAs("c:\\b", true)) << "cancelled";
-    key = "c:\\b";
     fake.dialogs.answerWith("c:\\d");
-    EXPECT_TRUE(set.savePaletteAs(key, true));
-    EXPECT_EQ(key + " | " + state(), "c:\\d | c:\\a >c:\\d st") << "saved in place, then elsewhere";
+    EXPECT_TRUE(set.savePaletteAs("b", true));
+    EXPECT_EQ(state(), "c:\\a >c:\\d st") << "saved in place, then elsewhere";
     EXPECT_TRUE(set.savePalette("c:\\none", false)) << "falls back to the current one";
     EXPECT_FALSE(set.savePaletteAs("c:\\none", false));
     EXPECT_EQ(fake.dialogs.shown.size(), 3U);
@@ -133,7 +133,7 @@ TEST_F(PaletteSetRekey, KeyOfAnotherPaletteGivesTheNextFreeOne) {
 
     set.lookup("")->path = "c:\\z";
     EXPECT_TRUE(set.rekey(set.currentKey, false));
-    EXPECT_FALSE(set.rekey("c:\\z", true)) << "nothing to move";
+    EXPECT_FALSE(set.rekey(set.currentKey, true)) << "nothing to move";
     EXPECT_EQ(state(), "c:\\a >c:\\z ");
 }
 
@@ -198,9 +198,8 @@ TEST_F(PaletteSetClose, AskingForAllStopsAtTheFirstRefusalAndKeepsWhatWasSaved) 
     EXPECT_TRUE(set.queryCloseAll());
     set.lookup("c:\\c")->path = "*c";
     fake.dialogs.answerWith("c:\\e");
-    std::string key = "c:\\c";
-    EXPECT_TRUE(set.queryClose(key, true));
-    EXPECT_EQ(key + " | " + state(), "c:\\e | c:\\b c:\\d >c:\\e c:\\x tt") << "nothing is removed";
+    EXPECT_TRUE(set.queryClose("c:\\c", true));
+    EXPECT_EQ(state(), "c:\\b c:\\d >c:\\e c:\\x tt") << "nothing is removed";
 }
 
 } // namespace

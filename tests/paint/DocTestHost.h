@@ -85,8 +85,8 @@ public:
     void selectPaletteBarCell(std::int32_t which) override { cell = which; }
     void refreshPaletteBar() override { ++barRefreshes; }
     std::optional<std::string> savePaletteAs(const std::string& key) override {
-        std::string now = key;
-        return palettes.savePaletteAs(now, true) ? std::optional(now) : std::nullopt;
+        const TextureLookupTable* const palette = palettes.lookup(key);
+        return palettes.savePaletteAs(key, true) ? std::optional(palette->path) : std::nullopt;
     }
     void setStatusText(const std::string& text, int pane) override { panes[pane] = text; }
     bool isActiveImage(const CDyeworksDoc& document) const override { return active == &document; }
