@@ -4,13 +4,12 @@
 #include "paint/TextureCanvas.h"
 #include "platform/Platform.h"
 #include "platform/WaitCursor.h"
-#include "plugin/GuardedCall.h"
+#include "plugin/PlugInCall.h"
 #include "plugin/PlugInRecords.h"
 
 #include <algorithm>
 #include <memory>
 #include <new>
-#include <optional>
 #include <utility>
 
 namespace dyeworks {
@@ -24,41 +23,6 @@ void tell(const char* text) {
 bool isIn(std::int32_t index, const std::vector<PlugInInfo>& list) {
     return index >= 0 && static_cast<std::size_t>(index) < list.size();
 }
-
-/// The picture that a call passes. Its records are the host's: whatever a plug-in does to their fields is
-/// undone, so that the blocks are freed as they were made. False from `restore` when it had to.
-class PassedPicture {
-public:
-    PassedPicture(TmfImage* image, TlutData* palette, std::int32_t paletteNumber)
-        : picture_{plainRecord(image), plainRecord(palette), 0, paletteNumber} {
-        if (picture_.image != nullptr)
-            image_ = *picture_.image;
-        if (picture_.palette != nullptr)
-            palette_ = *picture_.palette;
-    }
-
-    [[nodiscard]] const PlugInPicture* get() const noexcept { return &picture_; }
-
-    bool restore() noexcept {
-        bool kept = true;
-        if (::TmfImage* const now = picture_.image) {
-            kept = now->width == image_.width && now->height == image_.height && now->bits == image_.bits &&
-                   now->texels == image_.texels;
-            *now = image_;
-        }
-        if (::TlutData* const now = picture_.palette) {
-            kept = kept && now->colourType == palette_.colourType && now->count == palette_.count &&
-                   now->entries == palette_.entries;
-            *now = palette_;
-        }
-        return kept;
-    }
-
-private:
-    PlugInPicture picture_;
-    ::TmfImage image_{};
-    ::TlutData palette_{};
-};
 
 /// Makes what an import does to the table of an open palette one step of that palette.
 class ImportStep {
@@ -122,28 +86,27 @@ std::unique_ptr<TextureCanvas> ImagePlugInCalls::ImportImage(std::int32_t index,
     }
     if (host_.paletteSet() == nullptr || image == nullptr || !isIn(index, catalogue_.importers()))
         return nullptr;
-    const PlugInInfo& plugIn = catalogue_.importers()[static_cast<std::size_t>(index)];
-    std::optional<WaitCursorScope> working(std::in_place);
-    const auto entryPoint = plugIn.module->findFunction<decltype(DWPI_import)>("_DWPI_import@8");
+    PlugInCall call(host_, catalogue_.importers()[static_cast<std::size_t>(index)]);
+    const WaitCursorScope working;
+    const auto entryPoint = call.find<decltype(DWPI_import)>("_DWPI_import@8");
     if (entryPoint == nullptr) {
         tell("TMF import entry not found");
         return nullptr;
     }
-    PassedPicture passed(image, palette, paletteNumber);
+    const PlugInPicture* const in = call.pass(image, palette, paletteNumber);
     ImportStep step(*host_.paletteSet(), palette);
     PlugInPicture out{nullptr, nullptr, 0, paletteNumber};
-    const std::optional<std::uint32_t> result = guarded(entryPoint, passed.get(), &out);
-    bool fine = passed.restore() && result.has_value();
+    const std::uint32_t result = call.answer(entryPoint, in, &out);
     step.comeBack();
 
     std::unique_ptr<TextureCanvas> canvas;
     bool palettesChanged = false;
     // What a refusal leaves behind may be anything.
-    if (result.value_or(0) != 0) {
+    if (result != 0) {
         // What is the host's own, or shares a block with it, is nothing new.
-        if (out.image == passed.get()->image)
+        if (out.image == in->image)
             out.image = nullptr;
-        if (out.palette == passed.get()->palette)
+        if (out.palette == in->palette)
             out.palette = nullptr;
         if (out.image != nullptr && out.image->texels == image->texels)
             out.image->texels = nullptr;
@@ -153,20 +116,18 @@ std::unique_ptr<TextureCanvas> ImagePlugInCalls::ImportImage(std::int32_t index,
         const PlainTable newTable(out.palette);
         const TmfImage* const texels = usable(newImage.get());
         const TlutData* const table = usable(newTable.get());
-        fine =
-            fine && (newImage == nullptr || texels != nullptr) && (newTable == nullptr || table != nullptr);
+        if ((newImage != nullptr && texels == nullptr) || (newTable != nullptr && table == nullptr))
+            call.fail();
         if (texels != nullptr)
             canvas = canvasOf(*texels, table != nullptr ? table : palette, paletteNumber);
         if (table != nullptr) {
-            fine = takeUpPalette(*table, palette) && fine;
+            if (!takeUpPalette(*table, palette))
+                call.fail();
             palettesChanged = true;
         }
     }
     if (step.record() || palettesChanged)
         host_.refreshPaletteBar();
-    working.reset();
-    if (!fine)
-        host_.tellPlugInFailed(plugIn.fileName);
     return canvas;
 }
 
@@ -194,20 +155,14 @@ bool ImagePlugInCalls::ExportImage(std::int32_t index, TmfImage* image, TlutData
     }
     if (host_.paletteSet() == nullptr || image == nullptr || !isIn(index, catalogue_.exporters()))
         return false;
-    const PlugInInfo& plugIn = catalogue_.exporters()[static_cast<std::size_t>(index)];
-    std::optional<WaitCursorScope> working(std::in_place);
-    const auto entryPoint = plugIn.module->findFunction<decltype(DWPI_export)>("_DWPI_export@4");
+    PlugInCall call(host_, catalogue_.exporters()[static_cast<std::size_t>(index)]);
+    const WaitCursorScope working;
+    const auto entryPoint = call.find<decltype(DWPI_export)>("_DWPI_export@4");
     if (entryPoint == nullptr) {
         tell("TMF export entry not found.");
         return false;
     }
-    PassedPicture passed(image, palette, paletteNumber);
-    const std::optional<std::uint32_t> result = guarded(entryPoint, passed.get());
-    const bool fine = passed.restore() && result.has_value();
-    working.reset();
-    if (!fine)
-        host_.tellPlugInFailed(plugIn.fileName);
-    return result.value_or(0) != 0;
+    return call.answer(entryPoint, call.pass(image, palette, paletteNumber)) != 0;
 }
 
 std::uint32_t ImagePlugInCalls::PreviewImage(TmfImage* image, TlutData* palette, std::int32_t paletteNumber,
@@ -218,35 +173,28 @@ std::uint32_t ImagePlugInCalls::PreviewImage(TmfImage* image, TlutData* palette,
     }
     if (host_.paletteSet() == nullptr || palette == nullptr)
         return 0;
-    const PlugInInfo& plugIn = catalogue_.previews().front();
-    PassedPicture passed(image, palette, paletteNumber);
-    const auto call = [&](auto* entryPoint, auto... arguments) {
-        const std::optional<std::uint32_t> answer = guarded(entryPoint, passed.get(), arguments...);
-        shown_.at(static_cast<std::size_t>(which)) = true;
-        return answer;
-    };
-    std::optional<std::uint32_t> result;
-    if (const auto both = plugIn.module->findFunction<decltype(DWPI_preview2)>("_DWPI_preview2@8")) {
-        result = call(both, static_cast<std::uint32_t>(which));
-    } else if (const auto one = plugIn.module->findFunction<decltype(DWPI_preview)>("_DWPI_preview@4")) {
-        result = call(one);
-    } else {
+    PlugInCall call(host_, catalogue_.previews().front());
+    const auto both = call.find<decltype(DWPI_preview2)>("_DWPI_preview2@8");
+    const auto one = both != nullptr ? nullptr : call.find<decltype(DWPI_preview)>("_DWPI_preview@4");
+    if (both == nullptr && one == nullptr) {
         tell("TMF preview entry not found");
         return 0;
     }
-    if (!passed.restore() || !result)
-        host_.tellPlugInFailed(plugIn.fileName);
-    return result.value_or(0);
+    const PlugInPicture* const picture = call.pass(image, palette, paletteNumber);
+    const std::uint32_t result = both != nullptr
+                                     ? call.answer(both, picture, static_cast<std::uint32_t>(which))
+                                     : call.answer(one, picture);
+    shown_.at(static_cast<std::size_t>(which)) = true;
+    return result;
 }
 
 void ImagePlugInCalls::PreviewOff(std::int32_t which) {
     const bool shown = std::exchange(shown_.at(static_cast<std::size_t>(which)), false);
     if (!shown || catalogue_.previews().empty())
         return;
-    const PlugInInfo& plugIn = catalogue_.previews().front();
-    const auto off = plugIn.module->findFunction<decltype(DWPI_previewOff)>("_DWPI_previewOff@4");
-    if (off != nullptr && !guarded(off, static_cast<std::uint32_t>(which)))
-        host_.tellPlugInFailed(plugIn.fileName);
+    PlugInCall call(host_, catalogue_.previews().front());
+    if (const auto off = call.find<decltype(DWPI_previewOff)>("_DWPI_previewOff@4"))
+        call.answer(off, static_cast<std::uint32_t>(which));
 }
 
 } // namespace dyeworks

@@ -1,9 +1,8 @@
 #include "plugin/PlugInCatalogue.h"
 
-#include "dyeworks/plugin.h"
 #include "platform/Platform.h"
 #include "platform/TextCase.h"
-#include "plugin/GuardedCall.h"
+#include "plugin/PlugInCall.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -68,23 +67,10 @@ bool PlugInCatalogue::LoadPlugIns(const std::string& programFolder, int locale) 
 
 void PlugInCatalogue::add(const std::string& fileName, int locale) {
     PlugInInfo info;
-    info.module = platform().library().load(folder_ + fileName);
-    if (info.module == nullptr)
-        return;
-    const auto answer = [&](auto* entryPoint, auto... arguments) {
-        const std::optional<std::uint32_t> result = guarded(entryPoint, arguments...);
-        if (!result)
-            failed_.push_back(fileName);
-        return result.value_or(0);
-    };
-    const auto isAvail = info.module->findFunction<decltype(DWPI_isAvail)>("_DWPI_isAvail@4");
-    if (isAvail == nullptr || answer(isAvail, hostVersionWord()) == 0)
-        return;
-    if (const auto onLanguage = info.module->findFunction<decltype(DWPI_onLanguage)>("_DWPI_onLanguage@4"))
-        answer(onLanguage, static_cast<std::uint32_t>(locale));
-    if (const auto getType = info.module->findFunction<decltype(DWPI_getType)>("_DWPI_getType@0"))
-        info.type = answer(getType);
     info.fileName = fileName;
+    info.module = platform().library().load(folder_ + fileName);
+    if (info.module == nullptr || !isAccepted(info, locale))
+        return;
     describe(info, folder_ + fileName, locale);
 
     const struct {
@@ -98,6 +84,22 @@ void PlugInCatalogue::add(const std::string& fileName, int locale) {
             role.list.push_back(info);
     }
     all_.push_back(std::move(info));
+}
+
+bool PlugInCatalogue::isAccepted(PlugInInfo& info, int locale) {
+    PlugInCall call(*this, info);
+    const auto isAvail = call.find<decltype(DWPI_isAvail)>("_DWPI_isAvail@4");
+    if (isAvail == nullptr || call.answer(isAvail, hostVersionWord()) == 0)
+        return false;
+    if (const auto onLanguage = call.find<decltype(DWPI_onLanguage)>("_DWPI_onLanguage@4"))
+        call.answer(onLanguage, static_cast<std::uint32_t>(locale));
+    if (const auto getType = call.find<decltype(DWPI_getType)>("_DWPI_getType@0"))
+        info.type = call.answer(getType);
+    return true;
+}
+
+void PlugInCatalogue::tellPlugInFailed(const std::string& fileName) {
+    failed_.push_back(fileName);
 }
 
 void PlugInCatalogue::FreePlugIns() {

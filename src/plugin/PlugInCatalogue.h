@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plugin/PlugInFailures.h"
 #include "plugin/PlugInInfo.h"
 
 #include <cstdint>
@@ -10,7 +11,7 @@ namespace dyeworks {
 
 /// The plug-ins of the program, read once when it starts. A plug-in stands in the list of each of its roles;
 /// all lists are in the order of the file names, whatever their case.
-class PlugInCatalogue {
+class PlugInCatalogue : private PlugInFailures {
 public:
     /// Loads the libraries in the folder "PlugIns" of the program's folder ("c:\program\") that accept the
     /// program. `locale` is the number of the language that the program speaks, which they are told, and in
@@ -37,6 +38,9 @@ public:
 
 private:
     void add(const std::string& fileName, int locale);
+    /// Asks the plug-in whether it takes the program, and then what it is, which is put into `info`.
+    bool isAccepted(PlugInInfo& info, int locale);
+    void tellPlugInFailed(const std::string& fileName) override;
 
     std::string folder_;
     std::vector<std::string> failed_;

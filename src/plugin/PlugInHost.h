@@ -1,5 +1,7 @@
 #pragma once
 
+#include "plugin/PlugInFailures.h"
+
 #include <string>
 
 namespace dyeworks {
@@ -9,10 +11,8 @@ class CTPFDocument;
 class PaletteSet;
 
 /// What plug-ins, and the calls to them, ask of the application.
-class PlugInHost {
+class PlugInHost : public PlugInFailures {
 public:
-    virtual ~PlugInHost() = default;
-
     /// The open project, or null.
     [[nodiscard]] virtual CTPFDocument* openProject() const = 0;
     /// The open image of this file, or null; the full paths are compared without regard to case.
@@ -23,8 +23,8 @@ public:
     virtual void refreshPaletteBar() = 0;
     /// Shows the About box until the user closes it.
     virtual void showAbout() = 0;
-    /// A plug-in broke off or handed back what cannot be used: tells the user in passing.
-    virtual void tellPlugInFailed(const std::string& fileName) = 0;
+    /// Tells the user in passing.
+    void tellPlugInFailed(const std::string& fileName) override = 0;
 };
 
 } // namespace dyeworks

@@ -1,14 +1,12 @@
 #include "plugin/ProjectPlugInCalls.h"
 
-#include "dyeworks/plugin.h"
 #include "platform/Platform.h"
 #include "platform/WaitCursor.h"
-#include "plugin/GuardedCall.h"
+#include "plugin/PlugInCall.h"
 
 #include <algorithm>
 #include <cstring>
 #include <new>
-#include <optional>
 
 namespace dyeworks {
 
@@ -23,19 +21,15 @@ void tell(const char* text) {
 
 } // namespace
 
-template <typename EntryPoint, typename Call>
-void ProjectPlugInCalls::eachHandler(const char* name, const PlugInHandles& handles, Call call) {
+template <typename EntryPoint, typename Ask>
+void ProjectPlugInCalls::eachHandler(const char* name, const PlugInHandles& handles, Ask ask) {
     // A copy, because a call may close the project that the handles belong to.
     const PlugInHandles own = handles;
     const std::vector<PlugInInfo>& plugIns = catalogue_.nodeHandlers();
     for (std::size_t i = 0; i < std::min(plugIns.size(), own.size()); ++i) {
-        EntryPoint* const entryPoint = plugIns[i].module->findFunction<EntryPoint>(name);
-        if (entryPoint == nullptr)
-            continue;
-        const std::optional<std::uint32_t> answer = call(entryPoint, own[i]);
-        if (!answer)
-            host_.tellPlugInFailed(plugIns[i].fileName);
-        else if (*answer != 0)
+        PlugInCall call(host_, plugIns[i]);
+        EntryPoint* const entryPoint = call.find<EntryPoint>(name);
+        if (entryPoint != nullptr && ask(call, entryPoint, own[i]) != 0)
             return;
     }
 }
@@ -44,31 +38,26 @@ template <typename EntryPoint, typename... Arguments>
 std::uint32_t ProjectPlugInCalls::firstAnswer(const char* name, const PlugInHandles& handles,
                                               Arguments... arguments) {
     std::uint32_t first = 0;
-    eachHandler<EntryPoint>(name, handles, [&](EntryPoint* entryPoint, DwHandle handle) {
-        const std::optional<std::uint32_t> answer = guarded(entryPoint, handle, arguments...);
-        first = answer.value_or(0);
-        return answer;
+    eachHandler<EntryPoint>(name, handles, [&](PlugInCall& call, EntryPoint* entryPoint, DwHandle handle) {
+        return first = call.answer(entryPoint, handle, arguments...);
     });
     return first;
 }
 
 template <typename EntryPoint, typename... Arguments>
 void ProjectPlugInCalls::tellAll(const char* name, const PlugInHandles& handles, Arguments... arguments) {
-    eachHandler<EntryPoint>(name, handles, [&](EntryPoint* entryPoint, DwHandle handle) {
-        const bool done = guarded(entryPoint, handle, arguments...).has_value();
+    eachHandler<EntryPoint>(name, handles, [&](PlugInCall& call, EntryPoint* entryPoint, DwHandle handle) {
+        call.answer(entryPoint, handle, arguments...);
         // Whatever it answers, the others are to hear of it as well.
-        return done ? std::optional<std::uint32_t>(0) : std::nullopt;
+        return 0;
     });
 }
 
 std::size_t ProjectPlugInCalls::TPF_OnNew(PlugInHandles& handles) {
     for (const PlugInInfo& plugIn : catalogue_.nodeHandlers()) {
-        const auto entryPoint = plugIn.module->findFunction<decltype(DWPI_TPF_onNew)>("_DWPI_TPF_onNew@0");
-        const std::optional<DwHandle> handle =
-            entryPoint == nullptr ? std::optional<DwHandle>(nullptr) : guarded(entryPoint);
-        if (!handle)
-            host_.tellPlugInFailed(plugIn.fileName);
-        handles.push_back(handle.value_or(nullptr));
+        PlugInCall call(host_, plugIn);
+        const auto entryPoint = call.find<decltype(DWPI_TPF_onNew)>("_DWPI_TPF_onNew@0");
+        handles.push_back(entryPoint == nullptr ? nullptr : call.answer(entryPoint));
     }
     return handles.size();
 }
@@ -115,11 +104,11 @@ std::uint32_t ProjectPlugInCalls::TPF_IsDroppable(const PlugInHandles& handles, 
     std::uint32_t accepted = drop_effect::kNone;
     using IsDroppable = decltype(DWPI_TPF_isDroppable);
     eachHandler<IsDroppable>(
-        "_DWPI_TPF_isDroppable@20", handles, [&](IsDroppable* entryPoint, DwHandle handle) {
+        "_DWPI_TPF_isDroppable@20", handles, [&](PlugInCall& call, IsDroppable* entryPoint, DwHandle handle) {
             effect = drop_effect::kNone;
-            const std::optional<std::uint32_t> answer =
-                guarded(entryPoint, handle, target.c_str(), dragged.c_str(), keyState, &effect);
-            accepted = answer.value_or(0) == 0 ? drop_effect::kNone : effect;
+            const std::uint32_t answer =
+                call.answer(entryPoint, handle, target.c_str(), dragged.c_str(), keyState, &effect);
+            accepted = answer == 0 ? drop_effect::kNone : effect;
             return answer;
         });
     return accepted;
@@ -149,19 +138,16 @@ std::uint32_t ProjectPlugInCalls::TPF_Export(const PlugInHandles& handles, std::
         if (same != handlers.end() && position < handles.size())
             handle = handles[position];
     }
-    std::optional<WaitCursorScope> working(std::in_place);
-    const auto entryPoint = plugIn.module->findFunction<decltype(DWPI_TPF_export)>("_DWPI_TPF_export@8");
+    PlugInCall call(host_, plugIn);
+    const WaitCursorScope working;
+    const auto entryPoint = call.find<decltype(DWPI_TPF_export)>("_DWPI_TPF_export@8");
     if (entryPoint == nullptr) {
         tell("TPF export entry not found.");
         return 0;
     }
     // A copy, because the plug-in may have the project renamed.
     const std::string path = projectPath;
-    const std::optional<std::uint32_t> result = guarded(entryPoint, handle, path.c_str());
-    working.reset();
-    if (!result)
-        host_.tellPlugInFailed(plugIn.fileName);
-    return result.value_or(0);
+    return call.answer(entryPoint, handle, path.c_str());
 }
 
 } // namespace dyeworks

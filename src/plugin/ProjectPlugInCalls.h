@@ -34,10 +34,10 @@ public:
                              const std::string& projectPath) override;
 
 private:
-    /// Calls `call` with the entry point of that name of each plug-in that has it, and with its handle, until
-    /// one answers other than 0. No answer: the plug-in broke off.
-    template <typename EntryPoint, typename Call>
-    void eachHandler(const char* name, const PlugInHandles& handles, Call call);
+    /// Lets `ask` call the entry point of that name of each plug-in that has it, with its handle, until the
+    /// answer is other than 0.
+    template <typename EntryPoint, typename Ask>
+    void eachHandler(const char* name, const PlugInHandles& handles, Ask ask);
     template <typename EntryPoint, typename... Arguments>
     std::uint32_t firstAnswer(const char* name, const PlugInHandles& handles, Arguments... arguments);
     template <typename EntryPoint, typename... Arguments>
