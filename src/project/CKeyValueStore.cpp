@@ -66,10 +66,13 @@ bool fitsALine(const std::string& text) {
 
 } // namespace
 
-bool CKeyValueStore::LoadFile(const std::string& path) {
+bool CKeyValueStore::LoadFile(const std::string& path, std::optional<FileError>* why) {
     const Result<ByteBuffer, FileError> file = platform().files().read(path);
-    if (!file)
+    if (!file) {
+        if (why != nullptr)
+            *why = file.error();
         return false;
+    }
     const std::span<const std::byte> bytes = file.value().bytes();
     std::string_view raw(reinterpret_cast<const char*>(bytes.data()), bytes.size());
     const bool utf8 = isUtf8(raw);

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "platform/Files.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -42,8 +45,8 @@ public:
     static constexpr int kMostSubstitutions = 256;
 
     /// Appends the file's lines. A file that is not UTF-8 is read in code page 932. False, changing nothing,
-    /// when the file cannot be read.
-    bool LoadFile(const std::string& path);
+    /// when the file cannot be read, the reason then in `why`.
+    bool LoadFile(const std::string& path, std::optional<FileError>* why = nullptr);
     /// Writes all lines in the encoding of the file that was loaded last, in UTF-8 when there was none or
     /// that cannot hold them. False when the file cannot be written; it then is as it was.
     bool SaveFile(const std::string& path) const;

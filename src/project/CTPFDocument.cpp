@@ -109,13 +109,10 @@ void CTPFDocument::becomeOpen() {
 bool CTPFDocument::onOpenDocument(const std::string& path) {
     if (!closeOther())
         return false;
-    const auto file = platform().files().openForReading(path);
-    if (!file) {
-        applicationMessage(text(StringId::CannotOpenFile, {displayPath(path), describe(file.error())}));
-        return false;
-    }
-    if (!CDocument::onOpenDocument(path) || !projectFile_.Read(path)) {
-        applicationMessage(text(StringId::CannotReadFile, {displayPath(path)}));
+    std::optional<FileError> why;
+    if (!CDocument::onOpenDocument(path) || !projectFile_.Read(path, &why)) {
+        applicationMessage(why ? text(StringId::CannotOpenFile, {displayPath(path), describe(*why)})
+                               : text(StringId::CannotReadFile, {displayPath(path)}));
         return false;
     }
     setPathName(path);

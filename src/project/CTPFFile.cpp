@@ -138,13 +138,13 @@ std::string CTPFFile::expanded(const std::string& value) const {
     return result;
 }
 
-bool CTPFFile::Read(const std::string& path) {
+bool CTPFFile::Read(const std::string& path, std::optional<FileError>* why) {
     if (modified)
         return false;
     if (store == nullptr)
         store = std::make_unique<CKeyValueStore>();
     pathName = path;
-    if (pathName.empty() || !store->LoadFile(pathName))
+    if (pathName.empty() || !store->LoadFile(pathName, why))
         return false;
     PathTitle(projectName, pathName);
     std::string name;

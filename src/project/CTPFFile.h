@@ -21,8 +21,8 @@ public:
     /// Forgets the file. Pictures and folders stay.
     void Clear();
     /// Reads a project. False when there are unsaved changes, which it would overwrite, and when the file
-    /// cannot be read.
-    bool Read(const std::string& path);
+    /// cannot be read, the reason then in `why`.
+    bool Read(const std::string& path, std::optional<FileError>* why = nullptr);
     /// Writes the project, which is then that file's. False when it has nothing to write, when an entry is
     /// too long to be read again, or when the file cannot be written.
     bool Write(const std::string& path);

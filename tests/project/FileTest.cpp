@@ -220,8 +220,10 @@ TEST_F(ProjectFile, UnsavedChangesAreNotOverwritten) {
     EXPECT_TRUE(file_.Write(kPath));
     file_.Clear();
     EXPECT_FALSE(file_.Write(kPath));
-    EXPECT_FALSE(file_.Read(""));
-    EXPECT_FALSE(file_.Read("c:\\p\\none.tpf"));
+    std::optional<FileError> why;
+    EXPECT_FALSE(file_.Read("", &why) || why);
+    EXPECT_FALSE(file_.Read("c:\\p\\none.tpf", &why));
+    EXPECT_EQ(why, FileError::NotFound);
 }
 
 TEST_F(ProjectFile, WritesNothingThatWouldBeReadOtherwise) {
