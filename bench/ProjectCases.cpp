@@ -22,8 +22,8 @@ constexpr const char* kPath = "c:\\bench.tpf";
 class BareProjectHost : public ProjectHost, private ProjectPlugIns {
 public:
     ProjectPlugIns& projectPlugIns() override { return *this; }
-    ProjectDocument* projectDocument() const override { return nullptr; }
-    void setProjectDocument(ProjectDocument* /*project*/) override {}
+    CTPFDocument* projectDocument() const override { return nullptr; }
+    void setProjectDocument(CTPFDocument* /*project*/) override {}
     bool CloseProject() override { return true; }
     void ProjectChanged() override {}
     void ProjectRenamed() override {}

@@ -47,7 +47,7 @@ ProjectSettings absolute(ProjectSettings settings) {
 } // namespace
 
 CTPFDocument::CTPFDocument(ProjectHost& host, DocumentTemplate* documentTemplate)
-    : ProjectDocument(documentTemplate)
+    : CDocument(documentTemplate)
     , host_(host) {
     onRange(ID_EXPORT_FIRST, ID_EXPORT_LAST, &CTPFDocument::OnExport, &CTPFDocument::OnUpdateExport);
 }

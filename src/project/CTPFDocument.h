@@ -1,9 +1,10 @@
 #pragma once
 
+#include "framework/CDocument.h"
 #include "framework/CommandTarget.h"
+#include "paint/OpenProject.h"
 #include "project/CTPFFile.h"
 #include "project/PathHelpers.h"
-#include "project/ProjectDocument.h"
 #include "project/ProjectHost.h"
 #include "project/ProjectNodes.h"
 #include "project/ProjectPlugIns.h"
@@ -16,8 +17,9 @@
 
 namespace dyeworks {
 
-/// The document of a project. Nodes of its tree are named by their paths, such as "\Project\Picture\sky".
-class CTPFDocument : public ProjectDocument {
+/// The document of a project, of which at most one is open. Nodes of its tree are named by their paths, such
+/// as "\Project\Picture\sky".
+class CTPFDocument : public CDocument, public OpenProject {
 public:
     // Hints that views are updated with.
     static constexpr int kHintSelection = 0; ///< The chosen picture is to be shown.
@@ -52,20 +54,25 @@ public:
     void setModified(bool modified) override;
     [[nodiscard]] std::string displayName() const override;
 
-    // Pictures. What the user is shown may be cancelled; the result is then false.
+    // Pictures. What the user is shown may be cancelled; the result is then false, else the project was
+    // changed.
     [[nodiscard]] std::string imageDirectory() const override { return firstFolder(projectFile_.tmfDir); }
     [[nodiscard]] std::string paletteDirectory() const override { return firstFolder(projectFile_.tlfDir); }
-    [[nodiscard]] std::vector<std::string> pictureNames() const override { return projectFile_.order; }
-    [[nodiscard]] bool GetPicture(const std::string& name, PictureEntry& entry) const override {
+    /// In the project's order.
+    [[nodiscard]] std::vector<std::string> pictureNames() const { return projectFile_.order; }
+    /// False when there is no such picture.
+    [[nodiscard]] bool GetPicture(const std::string& name, PictureEntry& entry) const {
         return projectFile_.GetPicture(name, entry);
     }
     bool AddPicture(const std::optional<std::string>& name, const std::optional<std::string>& imageFile,
                     const std::optional<std::string>& paletteFile, std::int32_t paletteNumber,
                     const std::optional<std::string>& after, bool silent) override;
-    bool ChangePicture(const std::string& name) override;
-    bool RemovePicture(const std::string& name) override;
-    bool OpenPicture(const std::string& name) override;
-    bool EditProperties() override;
+    bool ChangePicture(const std::string& name);
+    bool RemovePicture(const std::string& name);
+    bool EditProperties();
+    /// Opens the picture's palette and image and attaches one to the other. False when that failed, which has
+    /// been reported.
+    bool OpenPicture(const std::string& name);
 
     // What the tree asks.
     /// Opens the picture, if the node is one.

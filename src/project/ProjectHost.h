@@ -8,7 +8,7 @@
 namespace dyeworks {
 
 class CDyeworksDoc;
-class ProjectDocument;
+class CTPFDocument;
 class ProjectPlugIns;
 
 /// What a new project is called and where it keeps its files, as it was typed. Folders of images and palettes
@@ -42,9 +42,9 @@ public:
     [[nodiscard]] virtual ProjectPlugIns& projectPlugIns() = 0;
 
     /// The open project, or null.
-    [[nodiscard]] virtual ProjectDocument* projectDocument() const = 0;
+    [[nodiscard]] virtual CTPFDocument* projectDocument() const = 0;
     /// The document is the open project now; null: there is none, nor a chosen picture.
-    virtual void setProjectDocument(ProjectDocument* project) = 0;
+    virtual void setProjectDocument(CTPFDocument* project) = 0;
     /// Closes the open project after the question about its changes. True when none is open afterwards.
     virtual bool CloseProject() = 0;
     /// Shows what the open project is, after its pictures have changed.

@@ -2,7 +2,7 @@
 
 #include "framework/CommandRouter.h"
 #include "paint/widgets/ImageView.h"
-#include "project/ProjectDocument.h"
+#include "project/CTPFDocument.h"
 #include "ui/CMainFrame.h"
 #include "ui/CurrentProject.h"
 #include "ui/Workspace.h"

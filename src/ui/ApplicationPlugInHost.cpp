@@ -13,7 +13,7 @@
 namespace dyeworks {
 
 CTPFDocument* ApplicationPlugInHost::openProject() const {
-    return dynamic_cast<CTPFDocument*>(workspace_.currentProject().document());
+    return workspace_.currentProject().document();
 }
 
 CDyeworksDoc* ApplicationPlugInHost::findImage(const std::string& path) const {

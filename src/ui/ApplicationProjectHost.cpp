@@ -12,11 +12,11 @@
 
 namespace dyeworks {
 
-ProjectDocument* ApplicationProjectHost::projectDocument() const {
+CTPFDocument* ApplicationProjectHost::projectDocument() const {
     return workspace_.currentProject().document();
 }
 
-void ApplicationProjectHost::setProjectDocument(ProjectDocument* project) {
+void ApplicationProjectHost::setProjectDocument(CTPFDocument* project) {
     workspace_.currentProject().setDocument(project);
     ProjectChanged();
 }

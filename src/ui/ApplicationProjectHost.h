@@ -15,8 +15,8 @@ public:
         , plugIns_(plugIns) {}
 
     [[nodiscard]] ProjectPlugIns& projectPlugIns() override { return plugIns_; }
-    [[nodiscard]] ProjectDocument* projectDocument() const override;
-    void setProjectDocument(ProjectDocument* project) override;
+    [[nodiscard]] CTPFDocument* projectDocument() const override;
+    void setProjectDocument(CTPFDocument* project) override;
     bool CloseProject() override;
     void ProjectChanged() override;
     void ProjectRenamed() override;

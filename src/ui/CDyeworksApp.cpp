@@ -163,7 +163,7 @@ bool CDyeworksApp::SaveAllModified() {
     ClosingQuestions questions(*this);
     if (!questions.ask())
         return false;
-    auto* const project = dynamic_cast<CTPFDocument*>(projectDocument());
+    CTPFDocument* const project = projectDocument();
     if (project == nullptr)
         return true;
     project->EndPlugIns();
@@ -241,7 +241,7 @@ bool CDyeworksApp::CloseProject() {
         return false;
     if (projectDocument() == nullptr)
         return true;
-    ProjectDocument& project = *projectDocument();
+    CTPFDocument& project = *projectDocument();
     // Closing the last of its windows ends the document.
     if (mainFrame_->frameOf(project) != nullptr)
         closeFramesOf(project);

@@ -100,7 +100,7 @@ public:
     void ShowHelp(const std::string& relativePath) override;
 
     [[nodiscard]] CurrentProject& currentProject() noexcept override { return project_; }
-    [[nodiscard]] ProjectDocument* projectDocument() const noexcept { return project_.document(); }
+    [[nodiscard]] CTPFDocument* projectDocument() const noexcept { return project_.document(); }
     [[nodiscard]] const std::string& currentPicture() const noexcept { return project_.picture(); }
     bool CloseProject() override;
 

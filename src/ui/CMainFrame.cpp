@@ -280,7 +280,7 @@ QPixmap CMainFrame::picture() {
 
 void CMainFrame::OnUpdateFrameTitle() {
     QString caption = shown(StringId::ApplicationTitle);
-    if (const ProjectDocument* project = host_.currentProject().document()) {
+    if (const CTPFDocument* project = host_.currentProject().document()) {
         // "[*]" is Qt's mark for a changed document, doubled it is itself.
         caption +=
             QStringLiteral(" @ ") +

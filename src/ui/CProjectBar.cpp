@@ -3,7 +3,7 @@
 #include "framework/CommandIds.h"
 #include "framework/widgets/CommandActions.h"
 #include "platform/Text.h"
-#include "project/ProjectDocument.h"
+#include "project/CTPFDocument.h"
 #include "ui/CurrentProject.h"
 
 #include <QAction>
@@ -30,7 +30,7 @@ QString shown(StringId id) {
     return QString::fromStdString(text(id));
 }
 
-std::vector<std::string> picturesOf(const ProjectDocument* project) {
+std::vector<std::string> picturesOf(const CTPFDocument* project) {
     return project == nullptr ? std::vector<std::string>() : project->pictureNames();
 }
 
@@ -118,7 +118,7 @@ void CProjectBar::SelectPicture(const std::string& name) {
 }
 
 void CProjectBar::updatePictureButton() {
-    const ProjectDocument* const project = project_.document();
+    const CTPFDocument* const project = project_.document();
     const std::string chosen = pictures_->currentText().toStdString();
     PictureEntry entry;
     const bool known = project != nullptr && project->GetPicture(chosen, entry);
@@ -141,14 +141,14 @@ void CProjectBar::updatePictureButton() {
 void CProjectBar::openPicture() {
     // By value: opening may choose another picture.
     const std::string chosen = project_.picture();
-    if (ProjectDocument* project = project_.document(); project != nullptr && !chosen.empty())
+    if (CTPFDocument* project = project_.document(); project != nullptr && !chosen.empty())
         project->OpenPicture(chosen);
 }
 
 bool CProjectBar::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::ToolTip)
         return QToolBar::eventFilter(watched, event);
-    const ProjectDocument* project = project_.document();
+    const CTPFDocument* project = project_.document();
     const QString tip = project == nullptr ? QStringLiteral("Project is not open yet.")
                                            : QString::fromStdString(project->title()).left(kTipLetters);
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, static_cast<QWidget*>(watched));

@@ -4,15 +4,15 @@
 
 namespace dyeworks {
 
-class ProjectDocument;
+class CTPFDocument;
 
 /// The open project, at most one, and which of its pictures is chosen in the project bar.
 class CurrentProject {
 public:
     /// Null while none is open.
-    [[nodiscard]] ProjectDocument* document() const noexcept { return document_; }
+    [[nodiscard]] CTPFDocument* document() const noexcept { return document_; }
     /// Null when it closes, which also leaves no picture chosen.
-    void setDocument(ProjectDocument* document) {
+    void setDocument(CTPFDocument* document) {
         document_ = document;
         if (document == nullptr)
             picture_.clear();
@@ -23,7 +23,7 @@ public:
     void setPicture(const std::string& name) { picture_ = name; }
 
 private:
-    ProjectDocument* document_ = nullptr;
+    CTPFDocument* document_ = nullptr;
     std::string picture_;
 };
 

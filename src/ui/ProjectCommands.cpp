@@ -1,6 +1,6 @@
 #include "ui/ProjectCommands.h"
 
-#include "project/ProjectDocument.h"
+#include "project/CTPFDocument.h"
 #include "ui/CurrentProject.h"
 #include "ui/Workspace.h"
 

@@ -16,8 +16,8 @@ namespace dyeworks {
 class FakeProjectHost : public ProjectHost, private ProjectPlugIns {
 public:
     [[nodiscard]] ProjectPlugIns& projectPlugIns() override { return *this; }
-    [[nodiscard]] ProjectDocument* projectDocument() const override { return project; }
-    void setProjectDocument(ProjectDocument* document) override { project = document; }
+    [[nodiscard]] CTPFDocument* projectDocument() const override { return project; }
+    void setProjectDocument(CTPFDocument* document) override { project = document; }
     bool CloseProject() override {
         if (project != nullptr && closes)
             project->onCloseDocument();
@@ -66,7 +66,7 @@ public:
 
     [[nodiscard]] std::vector<std::string> take() { return std::exchange(log, {}); }
 
-    ProjectDocument* project = nullptr;
+    CTPFDocument* project = nullptr;
     bool closes = true;
     std::deque<ProjectSettings> newProjects; ///< What the sheets answer; cancelled when there is none left.
     std::deque<PictureSettings> pictures;
