@@ -1754,5 +1754,187 @@ Do you want to do it all the same?</source>
         <source>The bitmap on the clipboard cannot be pasted.</source>
         <translation>クリップボードのビットマップを貼り付けられません。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; (TLF) is modified. save now?</source>
+        <translation>「%1」(TLF) は変更されています。保存しますか？</translation>
+    </message>
+    <message>
+        <source>%1 open failed</source>
+        <translation>%1 を開けません。</translation>
+    </message>
+    <message>
+        <source>Could not allocate buffer for UNDO information.
+Do you clear all UNDO buffer?</source>
+        <translation>元に戻すためのメモリが足りません。
+元に戻すための記録をすべて消去しますか？</translation>
+    </message>
+    <message>
+        <source>[%1] file open failed.
+</source>
+        <translation>[%1] ファイルを開けません。
+</translation>
+    </message>
+    <message>
+        <source>[%1] incorrect header size.
+</source>
+        <translation>[%1] ヘッダーの大きさが正しくありません。
+</translation>
+    </message>
+    <message>
+        <source>[%1] incorrect header information.
+</source>
+        <translation>[%1] ヘッダーの内容が正しくありません。
+</translation>
+    </message>
+    <message>
+        <source>[%1] create failed.
+</source>
+        <translation>[%1] パレットを作成できません。
+</translation>
+    </message>
+    <message>
+        <source>[%1] incorrect body size.
+</source>
+        <translation>[%1] データの大きさが正しくありません。
+</translation>
+    </message>
+    <message>
+        <source>Illegal color number = %1.
+</source>
+        <translation>色数が正しくありません (%1)。
+</translation>
+    </message>
+    <message>
+        <source>TextureLookupTable::create(%1, %2) ... failed.
+</source>
+        <translation>パレットを作成できません (色数 %1、種類 %2)。
+</translation>
+    </message>
+    <message>
+        <source>TextureLookupTable::newLogPalette() ... !!!Error!!!
+</source>
+        <translation>表示用のパレットを作成できません。
+</translation>
+    </message>
+    <message>
+        <source>[%1] file read failed.
+</source>
+        <translation>[%1] ファイルを読み込めません。
+</translation>
+    </message>
+    <message>
+        <source>improper tag=0x%1, bits=%2
+</source>
+        <translation>タグが正しくありません (タグ 0x%1、ビット数 %2)。
+</translation>
+    </message>
+    <message>
+        <source>not enough memory for create TMF.
+</source>
+        <translation>メモリが足りないため、TMF を作成できません。
+</translation>
+    </message>
+    <message>
+        <source>compressed format not supported.
+</source>
+        <translation>圧縮形式には対応していません。
+</translation>
+    </message>
+    <message>
+        <source>Project is not open yet.</source>
+        <translation>プロジェクトはまだ開かれていません。</translation>
+    </message>
+    <message>
+        <source>(no picture)</source>
+        <translation>(ピクチャーなし)</translation>
+    </message>
+    <message>
+        <source>%1 is not found.</source>
+        <translation>%1 が見つかりません。</translation>
+    </message>
+    <message>
+        <source>%1 is not found</source>
+        <translation>%1 が見つかりません。</translation>
+    </message>
+    <message>
+        <source>Do you close all pictures?</source>
+        <translation>すべてのピクチャーを閉じますか？</translation>
+    </message>
+    <message>
+        <source>%1is
+not exist directory.</source>
+        <translation>%1
+というフォルダーはありません。</translation>
+    </message>
+    <message>
+        <source>and,
+</source>
+        <translation>、
+</translation>
+    </message>
+    <message>
+        <source>Please save document that adds to project.</source>
+        <translation>プロジェクトに追加する画像を保存してください。</translation>
+    </message>
+    <message>
+        <source>not add to project.</source>
+        <translation>プロジェクトに追加されませんでした。</translation>
+    </message>
+    <message>
+        <source>You must attach a palette before add to project.
+attach to active palette now?
+</source>
+        <translation>プロジェクトに追加する前に、パレットを割り当てる必要があります。
+現在のパレットを割り当てますか？
+</translation>
+    </message>
+    <message>
+        <source>An active palette not found.
+You must open or create a palette.
+</source>
+        <translation>現在のパレットがありません。
+パレットを開くか、新しく作成してください。
+</translation>
+    </message>
+    <message>
+        <source>TMF Import Plug-In not installed.
+</source>
+        <translation>TMF のインポート プラグインがありません。
+</translation>
+    </message>
+    <message>
+        <source>TMF import entry not found</source>
+        <translation>TMF のインポート機能が見つかりません。</translation>
+    </message>
+    <message>
+        <source>TMF Export Plug-In not installed.
+</source>
+        <translation>TMF のエクスポート プラグインがありません。
+</translation>
+    </message>
+    <message>
+        <source>TMF export entry not found.</source>
+        <translation>TMF のエクスポート機能が見つかりません。</translation>
+    </message>
+    <message>
+        <source>TMF Preview Plug-In not installed.
+</source>
+        <translation>TMF のプレビュー プラグインがありません。
+</translation>
+    </message>
+    <message>
+        <source>TMF preview entry not found</source>
+        <translation>TMF のプレビュー機能が見つかりません。</translation>
+    </message>
+    <message>
+        <source>TPF Export Plug-In not installed.
+</source>
+        <translation>TPF のエクスポート プラグインがありません。
+</translation>
+    </message>
+    <message>
+        <source>TPF export entry not found.</source>
+        <translation>TPF のエクスポート機能が見つかりません。</translation>
+    </message>
 </context>
 </TS>

@@ -17,9 +17,9 @@ bool EditHistory::add(std::unique_ptr<UndoRecord> record) {
         return steps->add(std::move(record), -1);
 
     loseSavedPosition();
-    const MessageAnswer answer = platform().messages().show(
-        {"Could not allocate buffer for UNDO information.\nDo you clear all UNDO buffer?",
-         text(StringId::ApplicationTitle), MessageButtons::YesNo, icon_, MessageOwner::MainWindow});
+    const MessageAnswer answer =
+        platform().messages().show({text(StringId::UndoBufferQuestion), text(StringId::ApplicationTitle),
+                                    MessageButtons::YesNo, icon_, MessageOwner::MainWindow});
     if (answer == MessageAnswer::Yes)
         restart();
     return false;

@@ -15,7 +15,6 @@ namespace {
 constexpr const char* kModifiedMark = " * ";
 constexpr const char* kFilter = "TLF Files (*.tlf)|*.tlf|All Files (*.*)|*.*||";
 constexpr const char* kExtension = ".tlf";
-constexpr const char* kNoLogPalette = "TextureLookupTable::newLogPalette() ... !!!Error!!!\n";
 
 /// Numbers the palettes that were created in this run.
 std::uint32_t namingCounter = 0;
@@ -69,8 +68,8 @@ bool TextureLookupTable::create(std::int32_t count, ColourType colourType) {
     title = "palette" + number;
     path = "*palette" + number;
     if (!table.create(count, colourType)) {
-        reportTlf("TextureLookupTable::create(" + std::to_string(count) + ", " +
-                  std::to_string(static_cast<std::int32_t>(colourType)) + ") ... failed.\n");
+        reportTlf(text(StringId::PaletteCreateFailed,
+                       {std::to_string(count), std::to_string(static_cast<std::int32_t>(colourType))}));
         return false;
     }
     ++namingCounter;
@@ -196,13 +195,13 @@ std::unique_ptr<LogPalette> TextureLookupTable::newLogPalette() const {
         description->entryCount = static_cast<std::uint16_t>(table.count & 0xFFFF);
         description->entries.reserve(description->entryCount);
     } catch (const std::bad_alloc&) {
-        reportTlf(kNoLogPalette);
+        reportTlf(text(StringId::LogPaletteFailed));
         return nullptr;
     }
     for (std::int32_t i = 0; i < table.count; ++i) {
         PaletteEntry entry;
         if (!toPaletteEntry(i, entry.red, entry.green, entry.blue, entry.flags)) {
-            reportTlf(kNoLogPalette);
+            reportTlf(text(StringId::LogPaletteFailed));
             return nullptr;
         }
         if (i < description->entryCount)
@@ -228,8 +227,7 @@ void TextureLookupTable::markUnsaved() {
 bool TextureLookupTable::querySave() {
     if (!hasUnsavedChanges())
         return true;
-    switch (
-        applicationMessage("\"" + title + "\" (TLF) is modified. save now?", MessageButtons::YesNoCancel)) {
+    switch (applicationMessage(text(StringId::SavePaletteQuestion, {title}), MessageButtons::YesNoCancel)) {
     case MessageAnswer::Yes:
         return save(nullptr, false);
     case MessageAnswer::No:

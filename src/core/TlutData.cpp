@@ -205,7 +205,7 @@ std::int32_t TlutData::copyEntriesFrom(const TlutData* source) {
 bool TlutData::readTlf(const std::string& path) {
     auto file = platform().files().openForReading(path);
     if (!file) {
-        reportTlf("[" + displayPath(path) + "] file open failed.\n");
+        reportTlf(text(StringId::FormatOpenFailed, {displayPath(path)}));
         return false;
     }
     std::array<std::byte, kLargestTlfSize> bytes;
@@ -216,18 +216,18 @@ bool TlutData::readTlf(const std::string& path) {
     }
     switch (parsed.error()) {
     case TlfError::ShortHeader:
-        reportTlf("[" + displayPath(path) + "] incorrect header size.\n");
+        reportTlf(text(StringId::TlfHeaderSize, {displayPath(path)}));
         break;
     case TlfError::BadHeader:
-        reportTlf("[" + displayPath(path) + "] incorrect header information.\n");
+        reportTlf(text(StringId::TlfHeaderInformation, {displayPath(path)}));
         break;
     case TlfError::NoMemory:
         clear();
-        reportTlf("[" + displayPath(path) + "] create failed.\n");
+        reportTlf(text(StringId::TlfCreateFailed, {displayPath(path)}));
         break;
     case TlfError::ShortBody:
         clear();
-        reportTlf("[" + displayPath(path) + "] incorrect body size.\n");
+        reportTlf(text(StringId::TlfBodySize, {displayPath(path)}));
         break;
     }
     return false;
@@ -238,15 +238,15 @@ bool TlutData::saveTlf(const std::string& path) const {
     try {
         file = serialiseTlf(*this);
     } catch (const std::bad_alloc&) {
-        reportTlf("[" + displayPath(path) + "] file open failed.\n");
+        reportTlf(text(StringId::FormatOpenFailed, {displayPath(path)}));
         return false;
     }
     if (!file) {
-        reportTlf("Illegal color number = " + std::to_string(count) + ".\n");
+        reportTlf(text(StringId::TlfIllegalCount, {std::to_string(count)}));
         return false;
     }
     if (platform().files().write(path, file->bytes())) {
-        reportTlf("[" + displayPath(path) + "] file open failed.\n");
+        reportTlf(text(StringId::FormatOpenFailed, {displayPath(path)}));
         return false;
     }
     return true;

@@ -181,7 +181,7 @@ bool TmfImage::readTmf(const std::string& path) {
     clear();
     auto file = platform().files().openForReading(path);
     if (!file) {
-        reportTmf("[" + displayPath(path) + "] file open failed.\n");
+        reportTmf(text(StringId::FormatOpenFailed, {displayPath(path)}));
         return false;
     }
     auto parsed = parseTmf(*file.value());
@@ -192,13 +192,13 @@ bool TmfImage::readTmf(const std::string& path) {
     const TmfError& error = parsed.error();
     switch (error.kind) {
     case TmfError::Kind::ShortHeader:
-        reportTmf("[" + displayPath(path) + "] file read failed.\n");
+        reportTmf(text(StringId::TmfReadFailed, {displayPath(path)}));
         break;
     case TmfError::Kind::ImproperTag:
-        reportTmf("improper tag=0x" + hexadecimal(error.tag) + ", bits=" + std::to_string(error.bits) + "\n");
+        reportTmf(text(StringId::TmfImproperTag, {hexadecimal(error.tag), std::to_string(error.bits)}));
         break;
     case TmfError::Kind::NoImage:
-        reportTmf("not enough memory for create TMF.\n");
+        reportTmf(text(StringId::TmfNoMemory));
         break;
     }
     return false;

@@ -71,7 +71,7 @@ BackgroundPicture BackgroundPicture::read(const std::string& path) {
     const Result<BmpImage, BmpError> bitmap = parseBmp(file.value().bytes());
     if (!bitmap) {
         if (bitmap.error() == BmpError::Compressed)
-            platform().messages().show({"compressed format not supported.\n", "", MessageButtons::Ok,
+            platform().messages().show({text(StringId::BmpErrorCompressed), "", MessageButtons::Ok,
                                         MessageIcon::None, MessageOwner::None});
         return {};
     }

@@ -28,21 +28,21 @@ FileDialogRequest saveRequest(const std::string& initialName) {
     return request;
 }
 
-MessageAnswer show(const char* text, MessageButtons buttons, MessageIcon icon) {
-    return platform().messages().show({text, "", buttons, icon, MessageOwner::MainWindow});
+MessageAnswer show(const std::string& message, MessageButtons buttons, MessageIcon icon) {
+    return platform().messages().show({message, "", buttons, icon, MessageOwner::MainWindow});
 }
 
 /// Asks for what is to be added to a project to be saved; the dialog starts in the project's folder for it.
 template <typename Save>
-bool saveForProject(const std::string& folder, const char* request, Save save) {
+bool saveForProject(const std::string& folder, StringId request, Save save) {
     Files& files = platform().files();
     const std::string directory = files.currentDirectory();
     files.setCurrentDirectory(folder);
-    show(request, MessageButtons::Ok, MessageIcon::Warning);
+    show(text(request), MessageButtons::Ok, MessageIcon::Warning);
     const bool saved = save();
     files.setCurrentDirectory(directory);
     if (!saved)
-        show("not add to project.", MessageButtons::Ok, MessageIcon::Information);
+        show(text(StringId::NotAddedToProject), MessageButtons::Ok, MessageIcon::Information);
     return saved;
 }
 
@@ -168,12 +168,12 @@ void CDyeworksDoc::OnUpdateRevert(CommandUi& ui) {
 
 void CDyeworksDoc::AddToProject() {
     if (!IsAttached()) {
-        if (show("You must attach a palette before add to project.\nattach to active palette now?\n",
-                 MessageButtons::YesNo, MessageIcon::Warning) != MessageAnswer::Yes)
+        if (show(text(StringId::AttachForProjectQuestion), MessageButtons::YesNo, MessageIcon::Warning) !=
+            MessageAnswer::Yes)
             return;
         Attach();
         if (!IsAttached()) {
-            applicationMessage("An active palette not found.\nYou must open or create a palette.\n");
+            applicationMessage(text(StringId::NoActivePalette));
             return;
         }
     }
@@ -184,9 +184,8 @@ void CDyeworksDoc::AddToProject() {
         const OpenProject* const project = host_.openProject();
         return project == nullptr ? std::string() : (project->*of)();
     };
-    if (!isSaved(pathName()) &&
-        !saveForProject(folder(&OpenProject::imageDirectory), "Please save document that adds to project.",
-                        [this] { return saveAs(); }))
+    if (!isSaved(pathName()) && !saveForProject(folder(&OpenProject::imageDirectory),
+                                                StringId::SaveImageForProject, [this] { return saveAs(); }))
         return;
     const auto savePalette = [this] {
         const std::optional<std::string> key = host_.savePaletteAs(attachedName_);
@@ -195,8 +194,7 @@ void CDyeworksDoc::AddToProject() {
         return key.has_value();
     };
     if (!isSaved(attachedName_) &&
-        !saveForProject(folder(&OpenProject::paletteDirectory), text(StringId::SavePaletteForProject).c_str(),
-                        savePalette))
+        !saveForProject(folder(&OpenProject::paletteDirectory), StringId::SavePaletteForProject, savePalette))
         return;
     if (OpenProject* const project = host_.openProject())
         project->AddPicture(std::nullopt, pathName(), attachedName_, 0, std::nullopt, false);

@@ -88,7 +88,7 @@ std::optional<TextureCanvas::BmpFailure> TextureCanvas::ReadBmp(const std::strin
     const Result<BmpImage, BmpError> bitmap = parseBmp(file.value().bytes());
     if (!bitmap) {
         if (bitmap.error() == BmpError::Compressed)
-            platform().messages().show({"compressed format not supported.\n", "", MessageButtons::Ok,
+            platform().messages().show({text(StringId::BmpErrorCompressed), "", MessageButtons::Ok,
                                         MessageIcon::None, MessageOwner::MainWindow});
         return bitmap.error();
     }

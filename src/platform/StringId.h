@@ -19,17 +19,33 @@ enum class StringId {
 
     CannotSaveFile,      ///< %1 file, %2 why
     SaveChangesQuestion, ///< %1 document
+    SavePaletteQuestion, ///< %1 title
     CannotReadFile,      ///< %1 file
+    PaletteOpenFailed,   ///< %1 file
     FileIsOpenElsewhere, ///< %1 file
     RevertQuestion,      ///< %1 document
     WithoutUndoQuestion,
+    UndoBufferQuestion,
     NotEnoughMemory,
     CannotCopy,
     CannotPaste,
 
+    FormatOpenFailed,     ///< Of the palette and image formats: %1 file
+    TlfHeaderSize,        ///< %1 file
+    TlfHeaderInformation, ///< %1 file
+    TlfCreateFailed,      ///< %1 file
+    TlfBodySize,          ///< %1 file
+    TlfIllegalCount,      ///< %1 number
+    PaletteCreateFailed,  ///< %1 number of entries, %2 colour type
+    LogPaletteFailed,
+    TmfReadFailed,  ///< %1 file
+    TmfImproperTag, ///< %1 tag, %2 bits
+    TmfNoMemory,
+
     BmpErrorNotABitmap,
     BmpErrorTruncated,
     BmpErrorBadSize,
+    BmpErrorCompressed,
     DepthTakesABitmap, ///< %1 bits
     BitmapFiles,       ///< Of a file dialog's filter.
     ImportBmpCaption,
@@ -77,6 +93,8 @@ enum class StringId {
     ProjectBarChange,
     ProjectBarRemove,
     ProjectPictures,
+    ProjectNotOpenYet,
+    NoPicture,
     OpenChosenPicture,
     HelpToolBar,
     HelpViewBar,
@@ -92,6 +110,8 @@ enum class StringId {
     ObjectServicesFailed,
     ResumeFailed,
     HelpFailed,
+    NeededControlMissing, ///< %1 file; the program ends.
+    ControlMissing,       ///< %1 file
 
     RgbaDialogCaption,
     IaDialogCaption,
@@ -166,6 +186,7 @@ enum class StringId {
     UseProjectCancelTip,
     UseProjectNotifyTip,
     ProjectAlreadyOpened,
+    CloseAllPicturesQuestion,
     IncorrectParameter,
     NewFileNameMissing,
     FileNameExists,
@@ -174,6 +195,8 @@ enum class StringId {
     CannotOpenFile,          ///< %1 file, %2 why
     CannotSaveProject,       ///< %1 file
     ProjectCannotHoldFolder, ///< %1 folders
+    FoldersDoNotExist,       ///< %1 folders, each with its name
+    FoldersJoint,            ///< Between the folders.
     DriveIsNotMapped,        ///< %1 file, %2 letter
     FileIsNotFound,          ///< %1 file
     PictureNameCannotBeHeld,
@@ -181,6 +204,10 @@ enum class StringId {
     PictureNamesAreTooLong,
     ReplacePictureQuestion, ///< %1 name
     SavePaletteForProject,
+    SaveImageForProject,
+    NotAddedToProject,
+    AttachForProjectQuestion,
+    NoActivePalette,
     PictureCaption,
     PictureName,
     PictureImage,
@@ -199,6 +226,14 @@ enum class StringId {
     PicturePreviewTip,
     HelpProjectTree,
     PlugInFailed, ///< %1 file
+    ImportPlugInMissing,
+    ImportEntryMissing,
+    ExportPlugInMissing,
+    ExportEntryMissing,
+    PreviewPlugInMissing,
+    PreviewEntryMissing,
+    ProjectExportPlugInMissing,
+    ProjectExportEntryMissing,
     AboutPlugIns,
     AboutPlugInsTip,
     AboutName,

@@ -16,8 +16,9 @@ namespace dyeworks {
 
 namespace {
 
-void tell(const char* text) {
-    platform().messages().show({text, "", MessageButtons::Ok, MessageIcon::None, MessageOwner::MainWindow});
+void tell(const std::string& message) {
+    platform().messages().show(
+        {message, "", MessageButtons::Ok, MessageIcon::None, MessageOwner::MainWindow});
 }
 
 bool isIn(std::int32_t index, const std::vector<PlugInInfo>& list) {
@@ -81,7 +82,7 @@ std::unique_ptr<TextureCanvas> canvasOf(const TmfImage& image, const TlutData* t
 std::unique_ptr<TextureCanvas> ImagePlugInCalls::ImportImage(std::int32_t index, TmfImage* image,
                                                              TlutData* palette, std::int32_t paletteNumber) {
     if (catalogue_.importers().empty()) {
-        tell("TMF Import Plug-In not installed.\n");
+        tell(text(StringId::ImportPlugInMissing));
         return nullptr;
     }
     if (host_.paletteSet() == nullptr || image == nullptr || !isIn(index, catalogue_.importers()))
@@ -90,7 +91,7 @@ std::unique_ptr<TextureCanvas> ImagePlugInCalls::ImportImage(std::int32_t index,
     const WaitCursorScope working;
     const auto entryPoint = call.find<decltype(DWPI_import)>("_DWPI_import@8");
     if (entryPoint == nullptr) {
-        tell("TMF import entry not found");
+        tell(text(StringId::ImportEntryMissing));
         return nullptr;
     }
     const PlugInPicture* const in = call.pass(image, palette, paletteNumber);
@@ -150,7 +151,7 @@ bool ImagePlugInCalls::takeUpPalette(const TlutData& brought, TlutData* palette)
 bool ImagePlugInCalls::ExportImage(std::int32_t index, TmfImage* image, TlutData* palette,
                                    std::int32_t paletteNumber) {
     if (catalogue_.exporters().empty()) {
-        tell("TMF Export Plug-In not installed.\n");
+        tell(text(StringId::ExportPlugInMissing));
         return false;
     }
     if (host_.paletteSet() == nullptr || image == nullptr || !isIn(index, catalogue_.exporters()))
@@ -159,7 +160,7 @@ bool ImagePlugInCalls::ExportImage(std::int32_t index, TmfImage* image, TlutData
     const WaitCursorScope working;
     const auto entryPoint = call.find<decltype(DWPI_export)>("_DWPI_export@4");
     if (entryPoint == nullptr) {
-        tell("TMF export entry not found.");
+        tell(text(StringId::ExportEntryMissing));
         return false;
     }
     return call.answer(entryPoint, call.pass(image, palette, paletteNumber)) != 0;
@@ -168,7 +169,7 @@ bool ImagePlugInCalls::ExportImage(std::int32_t index, TmfImage* image, TlutData
 std::uint32_t ImagePlugInCalls::PreviewImage(TmfImage* image, TlutData* palette, std::int32_t paletteNumber,
                                              std::int32_t which) {
     if (catalogue_.previews().empty()) {
-        tell("TMF Preview Plug-In not installed.\n");
+        tell(text(StringId::PreviewPlugInMissing));
         return 0;
     }
     if (host_.paletteSet() == nullptr || palette == nullptr)
@@ -177,7 +178,7 @@ std::uint32_t ImagePlugInCalls::PreviewImage(TmfImage* image, TlutData* palette,
     const auto both = call.find<decltype(DWPI_preview2)>("_DWPI_preview2@8");
     const auto one = both != nullptr ? nullptr : call.find<decltype(DWPI_preview)>("_DWPI_preview@4");
     if (both == nullptr && one == nullptr) {
-        tell("TMF preview entry not found");
+        tell(text(StringId::PreviewEntryMissing));
         return 0;
     }
     const PlugInPicture* const picture = call.pass(image, palette, paletteNumber);

@@ -15,8 +15,9 @@ namespace {
 /// Bytes that a plug-in may write for a dragged node, with the zero at the end.
 constexpr std::size_t kDragTextSize = 65536;
 
-void tell(const char* text) {
-    platform().messages().show({text, "", MessageButtons::Ok, MessageIcon::None, MessageOwner::MainWindow});
+void tell(const std::string& message) {
+    platform().messages().show(
+        {message, "", MessageButtons::Ok, MessageIcon::None, MessageOwner::MainWindow});
 }
 
 } // namespace
@@ -124,7 +125,7 @@ std::uint32_t ProjectPlugInCalls::TPF_Export(const PlugInHandles& handles, std::
                                              const std::string& projectPath) {
     const std::vector<PlugInInfo>& exporters = catalogue_.projectExporters();
     if (exporters.empty()) {
-        tell("TPF Export Plug-In not installed.\n");
+        tell(text(StringId::ProjectExportPlugInMissing));
         return 0;
     }
     if (index < 0 || static_cast<std::size_t>(index) >= exporters.size())
@@ -142,7 +143,7 @@ std::uint32_t ProjectPlugInCalls::TPF_Export(const PlugInHandles& handles, std::
     const WaitCursorScope working;
     const auto entryPoint = call.find<decltype(DWPI_TPF_export)>("_DWPI_TPF_export@8");
     if (entryPoint == nullptr) {
-        tell("TPF export entry not found.");
+        tell(text(StringId::ProjectExportEntryMissing));
         return 0;
     }
     // A copy, because the plug-in may have the project renamed.

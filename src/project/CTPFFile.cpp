@@ -112,7 +112,7 @@ bool CTPFFile::SetDirectories(const std::string& tpfFolder, const std::string& t
     takeFolder(kTlfDir, tlfFolder.empty() ? own : tlfFolder, tlfDir, errors);
     if (errors.empty())
         return true;
-    platform().messages().show({errors + "is\nnot exist directory.", "", MessageButtons::Ok,
+    platform().messages().show({text(StringId::FoldersDoNotExist, {errors}), "", MessageButtons::Ok,
                                 MessageIcon::None, MessageOwner::MainWindow});
     return false;
 }
@@ -121,7 +121,7 @@ void CTPFFile::takeFolder(const char* entry, const std::string& folder, std::str
                           std::string& errors) {
     std::string normal = folder;
     if (!PathNormalizeDir(normal)) {
-        errors += errors.empty() ? "" : "and,\n";
+        errors += errors.empty() ? std::string() : text(StringId::FoldersJoint);
         errors += std::string(entry) + " = \"" + displayPath(folder) + "\"";
         return;
     }

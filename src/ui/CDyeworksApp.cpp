@@ -102,7 +102,7 @@ OpenedFile CDyeworksApp::openPalette(const std::string& path) {
         return OpenedFile::failed();
     if (!palettes_->openPalette(path)) {
         recentFiles_.remove(path);
-        applicationMessage(displayPath(path) + " open failed");
+        applicationMessage(text(StringId::PaletteOpenFailed, {displayPath(path)}));
         return OpenedFile::failed();
     }
     recentFiles_.add(path);
@@ -207,8 +207,8 @@ bool CDyeworksApp::ClosePictureDocuments(const std::vector<std::string>& paths) 
         if (seen.insert(file).second)
             open.push_back(path);
     }
-    if (open.empty() ||
-        applicationMessage("Do you close all pictures?", MessageButtons::YesNo) != MessageAnswer::Yes)
+    if (open.empty() || applicationMessage(text(StringId::CloseAllPicturesQuestion), MessageButtons::YesNo) !=
+                            MessageAnswer::Yes)
         return true;
     const bool agreed = std::ranges::all_of(open, [this](const std::string& path) {
         if (CDocument* document = FindOpenDocument(path))

@@ -128,15 +128,16 @@ void CDyeworksApp::readSettings() {
 }
 
 bool CDyeworksApp::registerControls() {
-    if (!registerControl("SwatchGrid.ocx")) {
-        applicationMessage("SwatchGrid.ocx is not found.");
+    constexpr const char* needed = "SwatchGrid.ocx";
+    if (!registerControl(needed)) {
+        applicationMessage(text(StringId::NeededControlMissing, {needed}));
         return false;
     }
     // Without these, folders are typed and values are entered as numbers.
-    if (!registerControl("FolderPick.ocx"))
-        applicationMessage("FolderPick.ocx is not found");
-    if (!registerControl("RampSlider.ocx"))
-        applicationMessage("RampSlider.ocx is not found");
+    for (const char* const control : {"FolderPick.ocx", "RampSlider.ocx"}) {
+        if (!registerControl(control))
+            applicationMessage(text(StringId::ControlMissing, {control}));
+    }
     return true;
 }
 

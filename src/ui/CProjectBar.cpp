@@ -21,7 +21,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr const char* kNoPicture = "(no picture)";
 constexpr int kListLetters = 16; // That the list has room for.
 constexpr int kButtonLetters = 30;
 constexpr qsizetype kTipLetters = 127;
@@ -99,7 +98,7 @@ void CProjectBar::Refresh() {
         for (const std::string& name : names)
             pictures_->addItem(QString::fromStdString(name));
         if (names.empty())
-            pictures_->addItem(QString::fromLatin1(kNoPicture));
+            pictures_->addItem(shown(StringId::NoPicture));
         pictures_->setCurrentIndex(pictures_->count() - 1);
         pictures_->setEnabled(!names.empty());
     }
@@ -127,7 +126,7 @@ void CProjectBar::updatePictureButton() {
         known ? QStringLiteral("%1 + %2 (%3)")
                     .arg(QString::fromStdString(entry.tmfFile), QString::fromStdString(entry.tlfFile),
                          QString::number(entry.paletteNo))
-              : QString::fromLatin1(kNoPicture);
+              : shown(StringId::NoPicture);
     const int room = picture_->width() - 2 * fontMetrics().averageCharWidth();
     // An ampersand of the name is no mnemonic.
     picture_->setText(fontMetrics()
@@ -149,7 +148,7 @@ bool CProjectBar::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::ToolTip)
         return QToolBar::eventFilter(watched, event);
     const CTPFDocument* project = project_.document();
-    const QString tip = project == nullptr ? QStringLiteral("Project is not open yet.")
+    const QString tip = project == nullptr ? shown(StringId::ProjectNotOpenYet)
                                            : QString::fromStdString(project->title()).left(kTipLetters);
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, static_cast<QWidget*>(watched));
     return true;
