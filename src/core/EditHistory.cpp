@@ -18,8 +18,7 @@ bool EditHistory::add(std::unique_ptr<UndoRecord> record) {
 
     loseSavedPosition();
     const MessageAnswer answer =
-        platform().messages().show({text(StringId::UndoBufferQuestion), text(StringId::ApplicationTitle),
-                                    MessageButtons::YesNo, icon_, MessageOwner::MainWindow});
+        applicationMessage(text(StringId::UndoBufferQuestion), icon_, MessageButtons::YesNo);
     if (answer == MessageAnswer::Yes)
         restart();
     return false;

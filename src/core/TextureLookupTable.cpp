@@ -23,16 +23,6 @@ bool isUnsavedName(const std::string& path) {
     return !path.empty() && path.front() == '*';
 }
 
-FileDialogRequest dialogRequest(std::string initialName) {
-    FileDialogRequest request;
-    request.filter = kFilter;
-    request.defaultExtension = kExtension;
-    request.initialName = std::move(initialName);
-    request.hideReadOnly = true;
-    request.overwritePrompt = true;
-    return request;
-}
-
 std::unique_ptr<UndoRecord> makePaletteRecord(const TlutData* before, const TlutData* after) {
     return std::make_unique<PaletteUndoRecord>(before, after);
 }
@@ -81,8 +71,9 @@ bool TextureLookupTable::save(const char* name, bool forceDialog) {
     if (!target.empty() && !isUnsavedName(target)) {
         path = target;
     } else if (forceDialog || path.empty() || isUnsavedName(path)) {
-        const auto chosen =
-            platform().fileDialogs().save(dialogRequest(isUnsavedName(path) ? path.substr(1) : path));
+        const auto chosen = askForFileToSave({.filter = kFilter,
+                                              .defaultExtension = kExtension,
+                                              .initialName = isUnsavedName(path) ? path.substr(1) : path});
         if (!chosen)
             return false;
         path = *chosen;
@@ -102,9 +93,8 @@ bool TextureLookupTable::open(const char* name) {
     if (!source.empty()) {
         path = source;
     } else if (path.empty()) {
-        auto request = dialogRequest(title);
-        request.fileMustExist = true;
-        const auto chosen = platform().fileDialogs().open(request);
+        const auto chosen = askForFileToOpen(
+            {.filter = kFilter, .defaultExtension = kExtension, .initialName = title, .fileMustExist = true});
         if (!chosen)
             return false;
         path = *chosen;

@@ -11,17 +11,6 @@ namespace {
 
 constexpr const char* kExtension = ".bmp";
 
-FileDialogRequest exportRequest(const std::string& initialName) {
-    FileDialogRequest request;
-    request.title = text(StringId::ExportBmpCaption);
-    request.filter = text(StringId::BitmapFiles) + " (*.bmp)|*.bmp||";
-    request.defaultExtension = kExtension;
-    request.initialName = initialName;
-    request.hideReadOnly = true;
-    request.overwritePrompt = true;
-    return request;
-}
-
 } // namespace
 
 /// The document is not attached to the palette; that is up to the user.
@@ -49,7 +38,10 @@ void CDyeworksDoc::ExportBmp() {
     takeBackDrags();
     const std::string name = nameToSaveUnder();
     const std::string stem = name.substr(0, name.size() - extensionOf(name).size());
-    const auto chosen = platform().fileDialogs().save(exportRequest(stem + kExtension));
+    const auto chosen = askForFileToSave({.title = text(StringId::ExportBmpCaption),
+                                          .filter = text(StringId::BitmapFiles) + " (*.bmp)|*.bmp||",
+                                          .defaultExtension = kExtension,
+                                          .initialName = stem + kExtension});
     if (!chosen)
         return;
     std::string target = *chosen;

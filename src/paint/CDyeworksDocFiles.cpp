@@ -18,31 +18,17 @@ constexpr const char* kExtension = ".tmf";
 constexpr int kPositionPane = 1;
 constexpr int kSizePane = 2;
 
-FileDialogRequest saveRequest(const std::string& initialName) {
-    FileDialogRequest request;
-    request.filter = kFilter;
-    request.defaultExtension = kExtension;
-    request.initialName = initialName;
-    request.hideReadOnly = true;
-    request.overwritePrompt = true;
-    return request;
-}
-
-MessageAnswer show(const std::string& message, MessageButtons buttons, MessageIcon icon) {
-    return platform().messages().show({message, "", buttons, icon, MessageOwner::MainWindow});
-}
-
 /// Asks for what is to be added to a project to be saved; the dialog starts in the project's folder for it.
 template <typename Save>
 bool saveForProject(const std::string& folder, StringId request, Save save) {
     Files& files = platform().files();
     const std::string directory = files.currentDirectory();
     files.setCurrentDirectory(folder);
-    show(text(request), MessageButtons::Ok, MessageIcon::Warning);
+    applicationMessage(text(request));
     const bool saved = save();
     files.setCurrentDirectory(directory);
     if (!saved)
-        show(text(StringId::NotAddedToProject), MessageButtons::Ok, MessageIcon::Information);
+        applicationMessage(text(StringId::NotAddedToProject), MessageIcon::Information);
     return saved;
 }
 
@@ -77,7 +63,8 @@ bool CDyeworksDoc::onSaveDocument(const std::string& path) {
         return false;
     std::string target = path;
     if (target.empty()) {
-        const auto chosen = platform().fileDialogs().save(saveRequest(nameToSaveUnder()));
+        const auto chosen = askForFileToSave(
+            {.filter = kFilter, .defaultExtension = kExtension, .initialName = nameToSaveUnder()});
         if (!chosen)
             return false;
         target = *chosen;
@@ -168,8 +155,8 @@ void CDyeworksDoc::OnUpdateRevert(CommandUi& ui) {
 
 void CDyeworksDoc::AddToProject() {
     if (!IsAttached()) {
-        if (show(text(StringId::AttachForProjectQuestion), MessageButtons::YesNo, MessageIcon::Warning) !=
-            MessageAnswer::Yes)
+        if (applicationMessage(text(StringId::AttachForProjectQuestion), MessageIcon::Warning,
+                               MessageButtons::YesNo) != MessageAnswer::Yes)
             return;
         Attach();
         if (!IsAttached()) {

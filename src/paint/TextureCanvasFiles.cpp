@@ -88,8 +88,7 @@ std::optional<TextureCanvas::BmpFailure> TextureCanvas::ReadBmp(const std::strin
     const Result<BmpImage, BmpError> bitmap = parseBmp(file.value().bytes());
     if (!bitmap) {
         if (bitmap.error() == BmpError::Compressed)
-            platform().messages().show({text(StringId::BmpErrorCompressed), "", MessageButtons::Ok,
-                                        MessageIcon::None, MessageOwner::MainWindow});
+            applicationMessage(text(StringId::BmpErrorCompressed), MessageIcon::None);
         return bitmap.error();
     }
     if (!CreateFrom(bitmap.value()))

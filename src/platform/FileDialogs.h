@@ -7,11 +7,11 @@ namespace dyeworks {
 
 /// What a file dialog is asked for.
 struct FileDialogRequest {
-    std::string title;            ///< Empty: the desktop's own title.
-    std::string filter;           ///< Pairs of label and pattern: "A (*.a)|*.a|All Files (*.*)|*.*||".
-    int filterIndex = 1;          ///< The filter shown first, counted from 1.
-    std::string defaultExtension; ///< With its full stop (".tlf"); added to a name typed without extension.
-    std::string initialName;      ///< Name or path that the dialog starts with.
+    std::string title{};            ///< Empty: the desktop's own title.
+    std::string filter{};           ///< Pairs of label and pattern: "A (*.a)|*.a|All Files (*.*)|*.*||".
+    int filterIndex = 1;            ///< The filter shown first, counted from 1.
+    std::string defaultExtension{}; ///< With its full stop (".tlf"); added to a name typed without extension.
+    std::string initialName{};      ///< Name or path that the dialog starts with.
     bool hideReadOnly = false;
     bool overwritePrompt = false;
     bool fileMustExist = false;
@@ -26,5 +26,10 @@ public:
     virtual std::optional<std::string> open(const FileDialogRequest& request) = 0;
     virtual std::optional<std::string> save(const FileDialogRequest& request) = 0;
 };
+
+/// The application's own file dialogs, without a box for "read only"; that for saving asks before a file is
+/// replaced. Both answer as `FileDialogs` does.
+std::optional<std::string> askForFileToOpen(FileDialogRequest request);
+std::optional<std::string> askForFileToSave(FileDialogRequest request);
 
 } // namespace dyeworks

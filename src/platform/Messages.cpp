@@ -5,7 +5,11 @@
 namespace dyeworks {
 
 MessageAnswer applicationMessage(const std::string& message, MessageButtons buttons) {
-    const MessageIcon icon = buttons == MessageButtons::Ok ? MessageIcon::Warning : MessageIcon::Question;
+    return applicationMessage(
+        message, buttons == MessageButtons::Ok ? MessageIcon::Warning : MessageIcon::Question, buttons);
+}
+
+MessageAnswer applicationMessage(const std::string& message, MessageIcon icon, MessageButtons buttons) {
     return platform().messages().show(
         {message, text(StringId::ApplicationTitle), buttons, icon, MessageOwner::MainWindow});
 }

@@ -28,8 +28,10 @@ public:
     virtual MessageAnswer show(const Message& message) = 0;
 };
 
-/// The application's own message box: its title as caption, owned by the main window. The icon is the
-/// question mark when there is something to answer, the exclamation mark otherwise.
+/// The application's own message box: its title as caption, owned by the main window.
+MessageAnswer applicationMessage(const std::string& text, MessageIcon icon,
+                                 MessageButtons buttons = MessageButtons::Ok);
+/// The icon is the question mark when there is something to answer, the exclamation mark otherwise.
 MessageAnswer applicationMessage(const std::string& text, MessageButtons buttons = MessageButtons::Ok);
 
 } // namespace dyeworks

@@ -16,11 +16,6 @@ namespace dyeworks {
 
 namespace {
 
-void tell(const std::string& message) {
-    platform().messages().show(
-        {message, "", MessageButtons::Ok, MessageIcon::None, MessageOwner::MainWindow});
-}
-
 bool isIn(std::int32_t index, const std::vector<PlugInInfo>& list) {
     return index >= 0 && static_cast<std::size_t>(index) < list.size();
 }
@@ -82,7 +77,7 @@ std::unique_ptr<TextureCanvas> canvasOf(const TmfImage& image, const TlutData* t
 std::unique_ptr<TextureCanvas> ImagePlugInCalls::ImportImage(std::int32_t index, TmfImage* image,
                                                              TlutData* palette, std::int32_t paletteNumber) {
     if (catalogue_.importers().empty()) {
-        tell(text(StringId::ImportPlugInMissing));
+        applicationMessage(text(StringId::ImportPlugInMissing), MessageIcon::None);
         return nullptr;
     }
     if (host_.paletteSet() == nullptr || image == nullptr || !isIn(index, catalogue_.importers()))
@@ -91,7 +86,7 @@ std::unique_ptr<TextureCanvas> ImagePlugInCalls::ImportImage(std::int32_t index,
     const WaitCursorScope working;
     const auto entryPoint = call.find<decltype(DWPI_import)>("_DWPI_import@8");
     if (entryPoint == nullptr) {
-        tell(text(StringId::ImportEntryMissing));
+        applicationMessage(text(StringId::ImportEntryMissing), MessageIcon::None);
         return nullptr;
     }
     const PlugInPicture* const in = call.pass(image, palette, paletteNumber);
@@ -151,7 +146,7 @@ bool ImagePlugInCalls::takeUpPalette(const TlutData& brought, TlutData* palette)
 bool ImagePlugInCalls::ExportImage(std::int32_t index, TmfImage* image, TlutData* palette,
                                    std::int32_t paletteNumber) {
     if (catalogue_.exporters().empty()) {
-        tell(text(StringId::ExportPlugInMissing));
+        applicationMessage(text(StringId::ExportPlugInMissing), MessageIcon::None);
         return false;
     }
     if (host_.paletteSet() == nullptr || image == nullptr || !isIn(index, catalogue_.exporters()))
@@ -160,7 +155,7 @@ bool ImagePlugInCalls::ExportImage(std::int32_t index, TmfImage* image, TlutData
     const WaitCursorScope working;
     const auto entryPoint = call.find<decltype(DWPI_export)>("_DWPI_export@4");
     if (entryPoint == nullptr) {
-        tell(text(StringId::ExportEntryMissing));
+        applicationMessage(text(StringId::ExportEntryMissing), MessageIcon::None);
         return false;
     }
     return call.answer(entryPoint, call.pass(image, palette, paletteNumber)) != 0;
@@ -169,7 +164,7 @@ bool ImagePlugInCalls::ExportImage(std::int32_t index, TmfImage* image, TlutData
 std::uint32_t ImagePlugInCalls::PreviewImage(TmfImage* image, TlutData* palette, std::int32_t paletteNumber,
                                              std::int32_t which) {
     if (catalogue_.previews().empty()) {
-        tell(text(StringId::PreviewPlugInMissing));
+        applicationMessage(text(StringId::PreviewPlugInMissing), MessageIcon::None);
         return 0;
     }
     if (host_.paletteSet() == nullptr || palette == nullptr)
@@ -178,7 +173,7 @@ std::uint32_t ImagePlugInCalls::PreviewImage(TmfImage* image, TlutData* palette,
     const auto both = call.find<decltype(DWPI_preview2)>("_DWPI_preview2@8");
     const auto one = both != nullptr ? nullptr : call.find<decltype(DWPI_preview)>("_DWPI_preview@4");
     if (both == nullptr && one == nullptr) {
-        tell(text(StringId::PreviewEntryMissing));
+        applicationMessage(text(StringId::PreviewEntryMissing), MessageIcon::None);
         return 0;
     }
     const PlugInPicture* const picture = call.pass(image, palette, paletteNumber);

@@ -15,11 +15,6 @@ namespace {
 /// Bytes that a plug-in may write for a dragged node, with the zero at the end.
 constexpr std::size_t kDragTextSize = 65536;
 
-void tell(const std::string& message) {
-    platform().messages().show(
-        {message, "", MessageButtons::Ok, MessageIcon::None, MessageOwner::MainWindow});
-}
-
 } // namespace
 
 template <typename EntryPoint, typename Ask>
@@ -125,7 +120,7 @@ std::uint32_t ProjectPlugInCalls::TPF_Export(const PlugInHandles& handles, std::
                                              const std::string& projectPath) {
     const std::vector<PlugInInfo>& exporters = catalogue_.projectExporters();
     if (exporters.empty()) {
-        tell(text(StringId::ProjectExportPlugInMissing));
+        applicationMessage(text(StringId::ProjectExportPlugInMissing), MessageIcon::None);
         return 0;
     }
     if (index < 0 || static_cast<std::size_t>(index) >= exporters.size())
@@ -143,7 +138,7 @@ std::uint32_t ProjectPlugInCalls::TPF_Export(const PlugInHandles& handles, std::
     const WaitCursorScope working;
     const auto entryPoint = call.find<decltype(DWPI_TPF_export)>("_DWPI_TPF_export@8");
     if (entryPoint == nullptr) {
-        tell(text(StringId::ProjectExportEntryMissing));
+        applicationMessage(text(StringId::ProjectExportEntryMissing), MessageIcon::None);
         return 0;
     }
     // A copy, because the plug-in may have the project renamed.

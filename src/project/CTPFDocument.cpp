@@ -16,16 +16,12 @@ constexpr const char* kExtension = ".tpf";
 constexpr const char* kFilter = "Project Files (*.tpf)|*.tpf||";
 constexpr const char* kModifiedMark = " *";
 
-MessageAnswer show(const std::string& text, MessageButtons buttons, MessageIcon icon) {
-    return platform().messages().show({text, "", buttons, icon, MessageOwner::MainWindow});
-}
-
 /// Whether the file can hold the folders of a project in this folder; if not, the user is told.
 bool foldersAreHeld(const ProjectSettings& settings) {
     for (const std::string* folders : {&settings.imageDirectories, &settings.paletteDirectories}) {
         if (!CTPFFile::holdsFolders(settings.projectDirectory, *folders)) {
-            show(text(StringId::ProjectCannotHoldFolder, {displayPath(*folders)}), MessageButtons::Ok,
-                 MessageIcon::Stop);
+            applicationMessage(text(StringId::ProjectCannotHoldFolder, {displayPath(*folders)}),
+                               MessageIcon::Stop);
             return false;
         }
     }
@@ -56,8 +52,8 @@ CTPFDocument::CTPFDocument(ProjectHost& host, DocumentTemplate* documentTemplate
 bool CTPFDocument::closeOther() {
     if (host_.projectDocument() == nullptr)
         return true;
-    return show(text(StringId::ProjectAlreadyOpened), MessageButtons::OkCancel, MessageIcon::Warning) ==
-               MessageAnswer::Ok &&
+    return applicationMessage(text(StringId::ProjectAlreadyOpened), MessageIcon::Warning,
+                              MessageButtons::OkCancel) == MessageAnswer::Ok &&
            host_.CloseProject();
 }
 
@@ -83,8 +79,8 @@ bool CTPFDocument::create(const ProjectSettings& entered) {
         PathAbsolute(path, settings.projectDirectory);
         path = platform().files().fullPath(path);
         if (platform().files().exists(path) &&
-            show(text(StringId::ProjectFileExists, {displayPath(path)}), MessageButtons::YesNo,
-                 MessageIcon::Warning) != MessageAnswer::Yes)
+            applicationMessage(text(StringId::ProjectFileExists, {displayPath(path)}), MessageIcon::Warning,
+                               MessageButtons::YesNo) != MessageAnswer::Yes)
             return false;
         if (!foldersAreHeld(settings))
             return false;
@@ -97,7 +93,7 @@ bool CTPFDocument::create(const ProjectSettings& entered) {
             projectFile_.Clear();
         }
     }
-    show(text(StringId::IncorrectParameter), MessageButtons::Ok, MessageIcon::Stop);
+    applicationMessage(text(StringId::IncorrectParameter), MessageIcon::Stop);
     return false;
 }
 
@@ -124,13 +120,8 @@ bool CTPFDocument::onOpenDocument(const std::string& path) {
 bool CTPFDocument::onSaveDocument(const std::string& path) {
     std::string target = path;
     if (target.empty()) {
-        FileDialogRequest request;
-        request.filter = kFilter;
-        request.defaultExtension = kExtension;
-        request.initialName = pathName();
-        request.hideReadOnly = true;
-        request.overwritePrompt = true;
-        const std::optional<std::string> chosen = platform().fileDialogs().save(request);
+        const auto chosen =
+            askForFileToSave({.filter = kFilter, .defaultExtension = kExtension, .initialName = pathName()});
         if (!chosen)
             return false;
         target = *chosen;

@@ -20,16 +20,6 @@ constexpr std::string_view kBelowProject = "\\Project\\";
 constexpr std::string_view kPictures = "\\Project\\Picture\\";
 constexpr std::string_view kPictureNodes = "\\Project\\Picture";
 
-MessageAnswer ask(const std::string& text) {
-    return platform().messages().show(
-        {text, "", MessageButtons::YesNo, MessageIcon::Question, MessageOwner::MainWindow});
-}
-
-void tell(const std::string& text) {
-    platform().messages().show(
-        {text, "", MessageButtons::Ok, MessageIcon::Warning, MessageOwner::MainWindow});
-}
-
 /// The name of the picture that the node is; nothing for any other node.
 std::optional<std::string> pictureOf(const std::string& node) {
     if (!node.starts_with(kPictures))
@@ -128,23 +118,24 @@ PictureField CTPFDocument::check(const PictureSettings& settings, const std::str
     const PictureEntry entry{fileNameIn(projectFile_.tmfDir, settings.imageFile),
                              fileNameIn(projectFile_.tlfDir, settings.paletteFile), settings.paletteNumber};
     if (!isPictureName(settings.name)) {
-        tell(text(StringId::PictureNameCannotBeHeld));
+        applicationMessage(text(StringId::PictureNameCannotBeHeld));
         return PictureField::Name;
     }
     if (!CTPFFile::holdsPicture("", {entry.tmfFile, "", 0})) {
-        tell(text(StringId::FileNameCannotBeHeld, {displayPath(settings.imageFile)}));
+        applicationMessage(text(StringId::FileNameCannotBeHeld, {displayPath(settings.imageFile)}));
         return PictureField::Image;
     }
     if (!CTPFFile::holdsPicture("", {"", entry.tlfFile, 0})) {
-        tell(text(StringId::FileNameCannotBeHeld, {displayPath(settings.paletteFile)}));
+        applicationMessage(text(StringId::FileNameCannotBeHeld, {displayPath(settings.paletteFile)}));
         return PictureField::Palette;
     }
     if (!CTPFFile::holdsPicture(settings.name, entry)) {
-        tell(text(StringId::PictureNamesAreTooLong));
+        applicationMessage(text(StringId::PictureNamesAreTooLong));
         return PictureField::Name;
     }
     if (settings.name != ownName && projectFile_.pictures.contains(settings.name) &&
-        ask(text(StringId::ReplacePictureQuestion, {settings.name})) != MessageAnswer::Yes)
+        applicationMessage(text(StringId::ReplacePictureQuestion, {settings.name}), MessageButtons::YesNo) !=
+            MessageAnswer::Yes)
         return PictureField::Name;
     return PictureField::None;
 }
@@ -180,7 +171,7 @@ bool CTPFDocument::OpenPicture(const std::string& name) {
     const auto find = [this](const std::string& directories, const std::string& file) {
         std::string path = findFile(directories, file);
         if (path.empty())
-            tell(whyNotFound(directories, file));
+            applicationMessage(whyNotFound(directories, file));
         return path;
     };
     const std::string palette = find(projectFile_.tlfDir, entry.tlfFile);

@@ -112,8 +112,7 @@ bool CTPFFile::SetDirectories(const std::string& tpfFolder, const std::string& t
     takeFolder(kTlfDir, tlfFolder.empty() ? own : tlfFolder, tlfDir, errors);
     if (errors.empty())
         return true;
-    platform().messages().show({text(StringId::FoldersDoNotExist, {errors}), "", MessageButtons::Ok,
-                                MessageIcon::None, MessageOwner::MainWindow});
+    applicationMessage(text(StringId::FoldersDoNotExist, {errors}), MessageIcon::None);
     return false;
 }
 

@@ -232,8 +232,7 @@ bool CDyeworksApp::ClosePictureDocuments(const std::vector<std::string>& paths) 
 
 void CDyeworksApp::ShowHelp(const std::string& relativePath) {
     if (!platform().shell().openWithDefaultProgram(programFolder_ + relativePath))
-        platform().messages().show({text(StringId::HelpFailed), "", MessageButtons::Ok, MessageIcon::Stop,
-                                    MessageOwner::MainWindow});
+        applicationMessage(text(StringId::HelpFailed), MessageIcon::Stop);
 }
 
 bool CDyeworksApp::CloseProject() {

@@ -37,17 +37,12 @@ void CDyeworksApp::fillCommands() {
 }
 
 void CDyeworksApp::openWithDialog(const char* defaultExtension, int filterIndex) {
-    FileDialogRequest request;
-    request.filter = kOpenFilter;
-    request.filterIndex = filterIndex;
-    request.defaultExtension = defaultExtension;
-    openWithDialog(request);
+    openWithDialog({.filter = kOpenFilter, .filterIndex = filterIndex, .defaultExtension = defaultExtension});
 }
 
 void CDyeworksApp::openWithDialog(FileDialogRequest request) {
     request.fileMustExist = true;
-    request.hideReadOnly = true;
-    if (const std::optional<std::string> path = platform().fileDialogs().open(request))
+    if (const auto path = askForFileToOpen(std::move(request)))
         OpenDocumentFile(*path);
 }
 
@@ -64,11 +59,9 @@ void CDyeworksApp::OnFileOpen() {
 }
 
 void CDyeworksApp::OnFileImportBmp() {
-    FileDialogRequest request;
-    request.title = text(StringId::ImportBmpCaption);
-    request.filter = text(StringId::BitmapFiles) + " (*.bmp)|*.bmp||";
-    request.defaultExtension = ".bmp";
-    openWithDialog(request);
+    openWithDialog({.title = text(StringId::ImportBmpCaption),
+                    .filter = text(StringId::BitmapFiles) + " (*.bmp)|*.bmp||",
+                    .defaultExtension = ".bmp"});
 }
 
 void CDyeworksApp::OnProjectNew() {

@@ -76,8 +76,7 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
         return false;
     showMainFrame();
     if (commandLine.task == CommandLine::Task::Nothing && !commandLine.renders() && !ResumeDocuments())
-        platform().messages().show({text(StringId::ResumeFailed), "", MessageButtons::Ok,
-                                    MessageIcon::Information, MessageOwner::MainWindow});
+        applicationMessage(text(StringId::ResumeFailed), MessageIcon::Information);
     openRequests_.start();
     return true;
 }

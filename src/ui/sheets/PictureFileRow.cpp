@@ -24,10 +24,6 @@ namespace {
 
 constexpr int kColumns = 24; // Of the list, in letters.
 
-void tellWrong(const std::string& text) {
-    platform().messages().show({text, "", MessageButtons::Ok, MessageIcon::Stop, MessageOwner::MainWindow});
-}
-
 QString shownName(const std::string& name) {
     return QString::fromStdString(isRooted(name) ? displayPath(name) : name);
 }
@@ -121,19 +117,16 @@ void PictureFileRow::fillList() {
 }
 
 void PictureFileRow::browse() {
-    FileDialogRequest request;
-    request.filter = kind_.filter;
-    request.defaultExtension = kind_.extension;
-    request.initialName = firstFolder(directories_) + "\\*" + kind_.extension;
-    request.hideReadOnly = true;
-    if (const std::optional<std::string> chosen = platform().fileDialogs().open(request))
+    const std::string pattern = firstFolder(directories_) + "\\*" + kind_.extension;
+    if (const auto chosen = askForFileToOpen(
+            {.filter = kind_.filter, .defaultExtension = kind_.extension, .initialName = pattern}))
         setName(fileNameIn(directories_, *chosen));
 }
 
 void PictureFileRow::makeNew() {
     std::string name = this->name();
     if (name.empty()) {
-        tellWrong(text(StringId::NewFileNameMissing));
+        applicationMessage(text(StringId::NewFileNameMissing), MessageIcon::Stop);
         takeFocus();
         return;
     }
@@ -142,12 +135,12 @@ void PictureFileRow::makeNew() {
     std::string target;
     const bool placed = PathSearch(target, directories_, name, false);
     if (!placed && !isRooted(name)) {
-        tellWrong(text(StringId::FileIsNotFound, {displayPath(directories_)}));
+        applicationMessage(text(StringId::FileIsNotFound, {displayPath(directories_)}), MessageIcon::Stop);
         takeFocus();
         return;
     }
     if (!placed || platform().files().exists(target)) {
-        tellWrong(text(StringId::FileNameExists));
+        applicationMessage(text(StringId::FileNameExists), MessageIcon::Stop);
         takeFocus();
         return;
     }
