@@ -215,7 +215,16 @@ bool SwatchGrid::event(QEvent* event) {
 
 void SwatchGrid::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    SwatchPainter(painter, *this).paint();
+    const SwatchLook look{.cells = cells_,
+                          .geometry = geometryOfCells(),
+                          .colours = palette(),
+                          .size = size(),
+                          .isEnabled = isEnabled(),
+                          .hasFocus = hasFocus(),
+                          .activeCell = activeCell(),
+                          .bankMode = bankMode_,
+                          .bankRow = bankRow_};
+    SwatchPainter(painter, look).paint();
 }
 
 void SwatchGrid::mousePressEvent(QMouseEvent* event) {

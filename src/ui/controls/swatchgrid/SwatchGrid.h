@@ -47,10 +47,8 @@ public:
     [[nodiscard]] bool isSelectable() const noexcept { return selectable_; }
     /// Frames a row of cells.
     void setBankMode(bool on);
-    [[nodiscard]] bool bankMode() const noexcept { return bankMode_; }
     /// Which row; kNone: that of the current cell.
     void setBankRow(int row);
-    [[nodiscard]] int bankRow() const noexcept { return bankRow_; }
     /// The cell chosen last by mouse or keyboard; kNone before the first.
     [[nodiscard]] int clickedCell() const noexcept { return clicked_; }
     /// The description of cells has changed.

@@ -1,8 +1,5 @@
 #include "ui/controls/swatchgrid/SwatchPainter.h"
 
-#include "ui/controls/swatchgrid/SwatchGrid.h"
-
-#include <QPalette>
 #include <QPolygon>
 #include <QtMath>
 
@@ -24,10 +21,10 @@ QRect grown(const QRect& area, int by) {
 
 } // namespace
 
-SwatchPainter::SwatchPainter(QPainter& painter, const SwatchGrid& grid)
+SwatchPainter::SwatchPainter(QPainter& painter, const SwatchLook& look)
     : painter_(painter)
-    , grid_(grid)
-    , geometry_(grid.geometryOfCells())
+    , look_(look)
+    , geometry_(look.geometry)
     , line_(geometry_.line()) {
     useDevicePixels();
 }
@@ -46,16 +43,16 @@ void SwatchPainter::paint() {
     paintBank();
     paintSelection();
     paintCurrent();
-    if (grid_.hasFocus())
+    if (look_.hasFocus)
         paintFocus();
 }
 
 void SwatchPainter::paintCells() {
     for (int cell = 0; cell < geometry_.shownCells(); ++cell)
-        painter_.fillRect(geometry_.cell(cell), shown(grid_.cells().at(cell).colour));
-    if (!grid_.isEnabled() && !geometry_.isEmpty()) {
+        painter_.fillRect(geometry_.cell(cell), shown(look_.cells.at(cell).colour));
+    if (!look_.isEnabled && !geometry_.isEmpty()) {
         // Greyed as other controls are, but the colours can still be told.
-        QColor veil = grid_.palette().color(QPalette::Window);
+        QColor veil = look_.colours.color(QPalette::Window);
         veil.setAlphaF(0.6F);
         painter_.fillRect(geometry_.area(0, geometry_.shownCells() - 1), veil);
     }
@@ -79,7 +76,7 @@ void SwatchPainter::paintRings(const QRect& area, int outside, std::initializer_
 
 /// A triangle in a corner of its own for each slot, light in a dark one.
 void SwatchPainter::paintMark(int slot) {
-    const QRect cell = geometry_.cell(grid_.cells().marker(slot));
+    const QRect cell = geometry_.cell(look_.cells.marker(slot));
     if (cell.isEmpty())
         return;
     const int side = std::max(3 * line_, cell.width() * 2 / 5);
@@ -109,16 +106,16 @@ void SwatchPainter::paintMark(int slot) {
 }
 
 void SwatchPainter::paintBank() {
-    if (!grid_.bankMode() || geometry_.isEmpty())
+    if (!look_.bankMode || geometry_.isEmpty())
         return;
     const int columns = geometry_.columns();
-    const int current = grid_.cells().current();
-    const int row = grid_.bankRow() >= 0 ? grid_.bankRow() : current < 0 ? -1 : current / columns;
+    const int current = look_.cells.current();
+    const int row = look_.bankRow >= 0 ? look_.bankRow : current < 0 ? -1 : current / columns;
     if (row < 0 || row >= geometry_.shownRows())
         return;
     const int first = row * columns;
     const QRect area = geometry_.area(first, std::min(first + columns, geometry_.shownCells()) - 1);
-    const QColor frame = grid_.palette().color(QPalette::Highlight);
+    const QColor frame = look_.colours.color(QPalette::Highlight);
     paintRings(area, 2, {frame, frame});
     // The frame may look like a cell; the arrows beside it do not.
     const int half = geometry_.margin() / 2;
@@ -126,7 +123,7 @@ void SwatchPainter::paintBank() {
     const int left = area.left() - 3 * line_;
     const int right = area.right() + 1 + 3 * line_;
     painter_.setPen(Qt::NoPen);
-    painter_.setBrush(grid_.palette().color(QPalette::WindowText));
+    painter_.setBrush(look_.colours.color(QPalette::WindowText));
     painter_.setRenderHint(QPainter::Antialiasing);
     painter_.drawPolygon(QPolygon(
         {QPoint(left, middle), QPoint(left - half, middle - half), QPoint(left - half, middle + half)}));
@@ -136,7 +133,7 @@ void SwatchPainter::paintBank() {
 }
 
 void SwatchPainter::paintSelection() {
-    const std::optional<QRect> range = grid_.cells().selection();
+    const std::optional<QRect> range = look_.cells.selection();
     // A single cell has the frame of the current one.
     if (!range || (range->width() == 1 && range->height() == 1))
         return;
@@ -146,28 +143,28 @@ void SwatchPainter::paintSelection() {
         area |= geometry_.area(first + range->left(), first + range->right());
     }
     paintRings(area, 2, {Qt::black, Qt::white});
-    const QColor inside = grid_.palette().color(QPalette::Highlight);
+    const QColor inside = look_.colours.color(QPalette::Highlight);
     paintRings(area, 0, {inside, inside});
 }
 
 /// Dark, light, dark: two neighbours of any colour, and the ground between them, differ from one of the
 /// rings.
 void SwatchPainter::paintCurrent() {
-    const QRect cell = geometry_.cell(grid_.cells().current());
+    const QRect cell = geometry_.cell(look_.cells.current());
     if (!cell.isEmpty())
         paintRings(cell, 2, {Qt::black, Qt::white, Qt::white, Qt::black});
 }
 
 void SwatchPainter::paintFocus() {
-    const QRect whole(0, 0, qFloor(grid_.width() * geometry_.scale()),
-                      qFloor(grid_.height() * geometry_.scale()));
+    const QRect whole(0, 0, qFloor(look_.size.width() * geometry_.scale()),
+                      qFloor(look_.size.height() * geometry_.scale()));
     const QRect around = geometry_.isEmpty()
                              ? whole
                              : grown(geometry_.area(0, geometry_.shownCells() - 1), geometry_.margin());
-    paintRing(around & whole, 2 * line_, grid_.palette().color(QPalette::Highlight));
+    paintRing(around & whole, 2 * line_, look_.colours.color(QPalette::Highlight));
     // Where nothing is current, the keyboard still is at a cell.
-    if (grid_.cells().current() == SwatchCells::kSwitchedOff)
-        paintRings(geometry_.cell(grid_.activeCell()), 1, {Qt::white, Qt::black});
+    if (look_.cells.current() == SwatchCells::kSwitchedOff)
+        paintRings(geometry_.cell(look_.activeCell), 1, {Qt::white, Qt::black});
 }
 
 } // namespace dyeworks

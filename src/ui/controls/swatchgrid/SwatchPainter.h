@@ -1,21 +1,34 @@
 #pragma once
 
+#include "ui/controls/swatchgrid/SwatchCells.h"
 #include "ui/controls/swatchgrid/SwatchGeometry.h"
 
 #include <QColor>
 #include <QPainter>
+#include <QPalette>
 
 #include <initializer_list>
 
 namespace dyeworks {
 
-class SwatchGrid;
+/// What a grid looks like at a moment.
+struct SwatchLook {
+    const SwatchCells& cells;
+    SwatchGeometry geometry;
+    QPalette colours; ///< Those of the window.
+    QSize size;       ///< The window's, in its pixels.
+    bool isEnabled = true;
+    bool hasFocus = false;
+    int activeCell = SwatchCells::kNone; ///< Where the keyboard is.
+    bool bankMode = false;               ///< A row of cells is framed:
+    int bankRow = SwatchCells::kNone;    ///< this one; kNone: that of the current cell.
+};
 
 /// Paints a grid. Works in whole device pixels, so that every edge is sharp at any scale.
 class SwatchPainter {
 public:
-    /// Leaves `painter` in another state.
-    SwatchPainter(QPainter& painter, const SwatchGrid& grid);
+    /// Leaves `painter` in another state. `look` must outlive the painting.
+    SwatchPainter(QPainter& painter, const SwatchLook& look);
 
     void paint();
 
@@ -33,8 +46,8 @@ private:
     void paintRing(const QRect& outer, int width, const QBrush& brush);
 
     QPainter& painter_;
-    const SwatchGrid& grid_;
-    SwatchGeometry geometry_;
+    const SwatchLook& look_;
+    const SwatchGeometry& geometry_;
     int line_;
 };
 
