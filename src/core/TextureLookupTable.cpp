@@ -3,6 +3,7 @@
 #include "core/PaletteSet.h"
 #include "core/PaletteUndoRecord.h"
 #include "core/Report.h"
+#include "platform/AskForFile.h"
 #include "platform/Platform.h"
 
 #include <new>

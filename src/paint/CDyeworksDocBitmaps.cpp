@@ -3,6 +3,7 @@
 #include "framework/PathText.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/CanvasFile.h"
+#include "platform/AskForFile.h"
 #include "platform/Platform.h"
 
 namespace dyeworks {

@@ -3,6 +3,7 @@
 #include "paint/CDyeworksDoc.h"
 #include "paint/CanvasFile.h"
 #include "paint/OpenProject.h"
+#include "platform/AskForFile.h"
 #include "platform/Platform.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #include "project/CTPFDocument.h"
 
 #include "framework/DocumentTemplate.h"
+#include "platform/AskForFile.h"
 #include "platform/Platform.h"
 #include "platform/TextCase.h"
 #include "project/PathHelpers.h"

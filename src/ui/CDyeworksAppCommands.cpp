@@ -1,3 +1,4 @@
+#include "platform/AskForFile.h"
 #include "platform/Platform.h"
 #include "platform/qt/QtWaitCursor.h"
 #include "ui/CDyeworksApp.h"

@@ -1,5 +1,6 @@
 #include "ui/sheets/PictureFileRow.h"
 
+#include "platform/AskForFile.h"
 #include "platform/Platform.h"
 #include "platform/ProgramPath.h"
 #include "platform/TextCase.h"

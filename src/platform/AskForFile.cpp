@@ -1,4 +1,4 @@
-#include "platform/FileDialogs.h"
+#include "platform/AskForFile.h"
 
 #include "platform/Platform.h"
 
