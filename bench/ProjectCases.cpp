@@ -36,7 +36,10 @@ public:
     }
     bool openPalette(const std::string& /*path*/) override { return false; }
     CDyeworksDoc* openImage(const std::string& /*path*/) override { return nullptr; }
-    void ClosePictureDocuments(const std::vector<std::string>& /*paths*/, bool /*force*/) override {}
+    bool ClosePictureDocuments(const std::vector<std::string>& /*paths*/,
+                               const std::function<bool()>& /*mayGoOn*/) override {
+        return true;
+    }
     bool hasMainFrame() const override { return false; }
     bool isClosingMainFrame() const override { return false; }
     void SetPaletteBarNumber(std::int32_t /*number*/) override {}

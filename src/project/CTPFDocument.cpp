@@ -149,19 +149,22 @@ bool CTPFDocument::mayClose() {
     if (asksToClose_)
         return false;
     asksToClose_ = true;
-    const bool agreed =
-        saveModified() && host_.ClosePictureDocuments(pictureFiles()) && mayCloseAfterPlugIns();
+    bool agreed = saveModified();
+    if (agreed) {
+        std::uint64_t answered = changes();
+        // Plug-ins may change the project when they hear of its end, or of its pictures'.
+        const auto isAnswered = [&] {
+            EndPlugIns();
+            const bool settled = changes() == answered || saveModified();
+            answered = changes();
+            return settled;
+        };
+        agreed = host_.ClosePictureDocuments(pictureFiles(), isAnswered) && isAnswered();
+        if (!agreed && plugInHandles_.empty())
+            RestartPlugIns();
+    }
     asksToClose_ = false;
     return agreed;
-}
-
-bool CTPFDocument::mayCloseAfterPlugIns() {
-    const std::uint64_t before = changes();
-    EndPlugIns();
-    if (changes() == before || saveModified())
-        return true;
-    RestartPlugIns();
-    return false;
 }
 
 void CTPFDocument::onCloseDocument() {

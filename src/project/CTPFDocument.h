@@ -107,7 +107,6 @@ private:
     [[nodiscard]] bool write(const std::string& path);
     void updateTitle();
     [[nodiscard]] std::vector<std::string> pictureFiles() const;
-    [[nodiscard]] bool mayCloseAfterPlugIns();
     [[nodiscard]] std::string findFile(const std::string& directories, const std::string& name) const;
     [[nodiscard]] std::string freeName(const std::string& proposed) const;
     bool askForPicture(PictureSettings& settings, const std::string& ownName);

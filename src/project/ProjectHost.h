@@ -68,8 +68,10 @@ public:
     /// Opens the image. Null when it could not be opened, which has been reported.
     virtual CDyeworksDoc* openImage(const std::string& path) = 0;
     /// Closes the images and palettes of these paths that are open, if the user agrees. False, with all of
-    /// them still open, when the user cancels a question about their changes.
-    virtual bool ClosePictureDocuments(const std::vector<std::string>& paths) = 0;
+    /// them still open, when the user cancels a question about their changes, or when `mayGoOn`, which is
+    /// asked last and also when nothing is to be closed, answers so.
+    virtual bool ClosePictureDocuments(const std::vector<std::string>& paths,
+                                       const std::function<bool()>& mayGoOn) = 0;
     /// Shows the active image through this bank of the current palette.
     virtual void SetPaletteBarNumber(std::int32_t number) = 0;
 

@@ -76,8 +76,9 @@ CDyeworksDoc* ApplicationProjectHost::openImage(const std::string& path) {
     return dynamic_cast<CDyeworksDoc*>(workspace_.OpenDocumentFile(path).document());
 }
 
-bool ApplicationProjectHost::ClosePictureDocuments(const std::vector<std::string>& paths) {
-    return workspace_.ClosePictureDocuments(paths);
+bool ApplicationProjectHost::ClosePictureDocuments(const std::vector<std::string>& paths,
+                                                   const std::function<bool()>& mayGoOn) {
+    return workspace_.ClosePictureDocuments(paths, mayGoOn);
 }
 
 void ApplicationProjectHost::SetPaletteBarNumber(std::int32_t number) {

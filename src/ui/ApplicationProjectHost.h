@@ -27,7 +27,8 @@ public:
                     const std::function<PictureField(const PictureSettings&)>& check) override;
     bool openPalette(const std::string& path) override;
     CDyeworksDoc* openImage(const std::string& path) override;
-    bool ClosePictureDocuments(const std::vector<std::string>& paths) override;
+    bool ClosePictureDocuments(const std::vector<std::string>& paths,
+                               const std::function<bool()>& mayGoOn) override;
     void SetPaletteBarNumber(std::int32_t number) override;
     void runCommand(std::uint32_t command) override;
 

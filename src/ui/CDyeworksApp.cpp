@@ -193,7 +193,8 @@ void CDyeworksApp::closeFramesOf(const CDocument& document) {
     }
 }
 
-bool CDyeworksApp::ClosePictureDocuments(const std::vector<std::string>& paths) {
+bool CDyeworksApp::ClosePictureDocuments(const std::vector<std::string>& paths,
+                                         const std::function<bool()>& mayGoOn) {
     // Pictures may share their files.
     std::set<const void*> seen{nullptr, static_cast<const CDocument*>(projectDocument())};
     std::vector<std::string> open;
@@ -209,13 +210,13 @@ bool CDyeworksApp::ClosePictureDocuments(const std::vector<std::string>& paths) 
     }
     if (open.empty() || applicationMessage(text(StringId::CloseAllPicturesQuestion), MessageButtons::YesNo) !=
                             MessageAnswer::Yes)
-        return true;
+        return mayGoOn();
     const bool agreed = std::ranges::all_of(open, [this](const std::string& path) {
         if (CDocument* document = FindOpenDocument(path))
             return document->mayClose();
         return paletteSet()->lookup(path) == nullptr || palettes_->queryClose(path, false);
     });
-    if (!agreed) {
+    if (!agreed || !mayGoOn()) {
         // What was saved before the Cancel has lost its mark.
         palettes_->rekeyAll();
         RefreshImagePalettes();

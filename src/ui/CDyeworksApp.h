@@ -96,7 +96,8 @@ public:
     void RefreshAllImages() override;
     /// Shows the colours of `palette`, which may be a passing copy, in every image attached to that key.
     void BroadcastPaletteChange(const std::string& key, const TextureLookupTable& palette) override;
-    bool ClosePictureDocuments(const std::vector<std::string>& paths) override;
+    bool ClosePictureDocuments(const std::vector<std::string>& paths,
+                               const std::function<bool()>& mayGoOn) override;
     void ShowHelp(const std::string& relativePath) override;
 
     [[nodiscard]] CurrentProject& currentProject() noexcept override { return project_; }

@@ -33,11 +33,12 @@ bool ClosingQuestions::askForPalettes() {
             const TextureLookupTable* const palette = set.lookup(key);
             if (palette == nullptr || isAnswered(*palette))
                 continue;
+            const bool unsaved = palette->hasUnsavedChanges();
             agreed = set.queryClose(key, false);
             if (!agreed)
                 break;
             palettes_.insert_or_assign(palette, palette->table);
-            showsAnew = showsAnew || !palette->modified;
+            showsAnew = showsAnew || (unsaved && !palette->hasUnsavedChanges());
         }
         set.rekeyAll();
         return showsAnew;

@@ -42,9 +42,10 @@ public:
     virtual void keepAttachments(const std::function<bool()>& save) = 0;
     /// As `ImageHost::savePaletteAs`.
     [[nodiscard]] virtual std::optional<std::string> savePaletteAs(const std::string& key) = 0;
-    /// Closes the images and palettes of these paths that are open after one question; No leaves them open.
-    /// Each with unsaved changes is asked for once, before any is closed: false when the user cancels there.
-    virtual bool ClosePictureDocuments(const std::vector<std::string>& paths) = 0;
+    /// As `ProjectHost::ClosePictureDocuments`: one question, then one for each with unsaved changes, before
+    /// any is closed.
+    virtual bool ClosePictureDocuments(const std::vector<std::string>& paths,
+                                       const std::function<bool()>& mayGoOn) = 0;
     /// Closes the project after asking about its changes. True when none is open afterwards.
     virtual bool CloseProject() = 0;
 };

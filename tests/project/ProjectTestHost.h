@@ -52,12 +52,13 @@ public:
         log.push_back("image " + path);
         return nullptr;
     }
-    bool ClosePictureDocuments(const std::vector<std::string>& paths) override {
+    bool ClosePictureDocuments(const std::vector<std::string>& paths,
+                               const std::function<bool()>& mayGoOn) override {
         std::string line = "ask";
         for (const std::string& path : paths)
             line += " " + path;
         log.push_back(line);
-        return closes;
+        return closes && mayGoOn();
     }
     void SetPaletteBarNumber(std::int32_t number) override {
         log.push_back("bank " + std::to_string(number));

@@ -78,7 +78,7 @@ TEST_F(FilesProject, PicturesAreClosedTogetherAfterOneQuestionForEach) {
     changePalette();
     drawPixel({1, 1}, 5);
     CTPFDocument& project = openProject();
-    app_.ClosePictureDocuments({"", "c:\\gone.tmf", "c:\\proj\\sea.tpf"});
+    app_.ClosePictureDocuments({"", "c:\\gone.tmf", "c:\\proj\\sea.tpf"}, [] { return true; });
     EXPECT_THAT(texts(fake_), IsEmpty()) << "none is open, and none is the current palette";
     for (const char* name : {"A", "B", "C"})
         ASSERT_TRUE(project.AddPicture(name, "C:\\TEX\\PIC.TMF", "c:\\tex\\pic.tlf", 0, std::nullopt, true));
@@ -112,7 +112,7 @@ TEST_F(FilesProject, PicturesAreClosedTogetherAfterOneQuestionForEach) {
     openProject();
     openBlank();
     fake_.messages.answerWith(no);
-    app_.ClosePictureDocuments({"c:\\tex\\pic.tmf", "c:\\tex\\pic.tlf"});
+    app_.ClosePictureDocuments({"c:\\tex\\pic.tmf", "c:\\tex\\pic.tlf"}, [] { return true; });
     EXPECT_EQ(app_.imageTemplate().documents().size() + app_.paletteSet()->palettes.size(), 2U);
 }
 

@@ -144,7 +144,8 @@ DWPI_ENTRY uint32_t DWPI_TPF_onUpdate(DwHandle handle);
 /* The project's tree stands: from here on nodes can be added. In the calls before it, DW_addNode answers 1
  * and adds nothing. */
 DWPI_ENTRY uint32_t DWPI_TPF_onUpdateNodes(DwHandle handle);
-/* The project closes; the last call with this handle. What is changed here is not saved. */
+/* The project closes; the last call with this handle. The user is asked about what is changed here; when the
+ * project then stays open, DWPI_TPF_onNew, onUpdate and onUpdateNodes are called again. */
 DWPI_ENTRY uint32_t DWPI_TPF_onDelete(DwHandle handle);
 /* A command on a node that is no picture. With `query` nothing is done: nonzero enables the command. Every
  * plug-in hears of every such node and answers 0 for those of others. */
