@@ -231,9 +231,7 @@ public:
         : image_(image)
         , state_(*this, *this) {
         state_.Start(grid_, strip_);
-        state_.SetShown(true);
         state_.RefreshFromPalette();
-        state_.PreviewChecked(true);
         state_.SelectCell(5);
     }
     PaletteBarState& state() { return state_; }
@@ -278,7 +276,7 @@ void addPreview() {
         BarOf bar(image);
         std::int32_t turn = 0;
         for (auto _ : state) {
-            bar.state().SliderMoved(Channel::Red, ++turn % 32);
+            bar.state().editor().SliderMoved(Channel::Red, ++turn % 32);
             image.window.repaintNow();
         }
         state.SetLabel(kRepaints);

@@ -1,57 +1,37 @@
+#include "palette/PaletteBarCommands.h"
+
 #include "core/PaletteSet.h"
-#include "palette/PaletteBarChange.h"
 #include "palette/PaletteBarState.h"
 
 namespace dyeworks {
 
-/// One undoable edit of a palette, then everything shows it.
-template <typename Write>
-void PaletteBarState::edit(TextureLookupTable& palette, Write write) {
-    const Change change(*this, Change::kValues);
-    palette.beginEdit();
-    write(palette);
-    palette.commitEdit();
-    palette.updateTitle();
-    showStored();
+PaletteBarCommands::PaletteBarCommands(PaletteBarState& state, PaletteBarHost& host, PaletteBarView& view)
+    : state_(state)
+    , host_(host)
+    , view_(view) {
+    using Self = PaletteBarCommands;
+    on(ID_PALETTE_EDIT, &Self::OnEditPalette, &Self::OnUpdateEditPalette);
+    on(ID_PALETTE_COPY, &Self::OnCopyPalette, &Self::OnUpdateCopyPalette);
+    on(ID_PALETTE_PASTE, &Self::OnPastePalette, &Self::OnUpdatePastePalette);
+    on(ID_PALETTE_UNDO, &Self::OnUndo, &Self::OnUpdateUndo);
+    on(ID_PALETTE_REDO, &Self::OnRedo, &Self::OnUpdateRedo);
 }
 
-void PaletteBarState::showStored() {
-    RefreshFromPalette();
-    host_.RefreshImagePalettes();
-}
-
-bool PaletteBarState::CanApply() const {
-    return pending_ && currentEntry() && ParseEntryText();
-}
-
-void PaletteBarState::Apply() {
-    if (!CanApply())
-        return;
-    edit(*currentPalette(), [index = *currentEntry(), value = entry_](TextureLookupTable& palette) {
-        palette.setEntry(index, value);
-    });
-}
-
-bool PaletteBarState::CanEditPalette() const {
-    return currentEntry() && channelRow(Channel::Red).visible;
-}
-
-void PaletteBarState::EditPalette() {
-    if (!CanEditPalette())
-        return;
+void PaletteBarCommands::OnEditPalette() {
     const std::string key = host_.paletteSet()->currentKey;
-    const std::int32_t index = *currentEntry();
-    const ColourType type = colourType();
-    const std::uint16_t start = pending_ ? entry_ : currentPalette()->table.getEntry(index);
-    const auto chosen = view_.askEntry(type, start);
+    const std::int32_t index = *state_.cells().currentEntry();
+    const TlutData& table = state_.palette().get()->table;
+    const ColourType type = table.colourType;
+    const EditedEntry& entry = state_.entry();
+    const auto chosen = view_.askEntry(type, entry.pending() ? entry.value() : table.getEntry(index));
     if (!chosen)
         return;
     // Another file may have been handed to the program while the dialog was open.
-    PaletteSet* const set = host_.paletteSet();
-    const auto position = set == nullptr ? PaletteSet::Map::iterator{} : set->palettes.find(key);
-    if (set == nullptr || position == set->palettes.end())
+    const auto& palettes = host_.paletteSet()->palettes;
+    const auto position = palettes.find(key);
+    if (position == palettes.end())
         return;
-    edit(*position->second, [&](TextureLookupTable& palette) {
+    state_.edit(*position->second, [&](TextureLookupTable& palette) {
         if (type == ColourType::Ia)
             palette.setEntryAlias(index, *chosen);
         else
@@ -59,64 +39,44 @@ void PaletteBarState::EditPalette() {
     });
 }
 
-bool PaletteBarState::CanCopyPalette() const {
-    return initialised() && hasPalette() && grid_->selection().has_value();
+void PaletteBarCommands::OnUpdateEditPalette(CommandUi& ui) {
+    ui.enabled = state_.editor().canAsk();
 }
 
-void PaletteBarState::CopyPalette() {
-    if (!CanCopyPalette())
-        return;
-    const Change change(*this, Change::kValues);
-    grid_->copy();
+void PaletteBarCommands::OnCopyPalette() {
+    state_.cells().copy();
 }
 
-bool PaletteBarState::CanPastePalette() const {
-    return CurrentCell() >= 0 && columns_ > 0 && grid_->hasCopiedCells();
+void PaletteBarCommands::OnUpdateCopyPalette(CommandUi& ui) {
+    ui.enabled = state_.cells().canCopy();
 }
 
-void PaletteBarState::PastePalette() {
-    if (!CanPastePalette())
-        return;
-    const Change change(*this, Change::kValues);
-    const std::int32_t cell = CurrentCell();
-    grid_->paste(grid_->selection().value_or(PaletteGrid::Cell{cell % columns_, cell / columns_}));
-    SyncControls(Source::Palette);
+void PaletteBarCommands::OnPastePalette() {
+    state_.PasteCells();
 }
 
-void PaletteBarState::GridChanged() {
-    if (!initialised() || !hasPalette())
-        return;
-    edit(*currentPalette(), [this, type = colourType()](TextureLookupTable& palette) {
-        const std::int32_t cells = grid_->cellCount();
-        for (std::int32_t i = 0; i < cells; ++i)
-            writeCell(palette, type, i, grid_->value(i));
-    });
+void PaletteBarCommands::OnUpdatePastePalette(CommandUi& ui) {
+    ui.enabled = state_.cells().canPaste();
 }
 
-bool PaletteBarState::CanUndo() const {
-    const TextureLookupTable* const palette = currentPalette();
-    return initialised() && palette != nullptr && palette->canUndo();
+void PaletteBarCommands::OnUndo() {
+    state_.palette().get()->undo();
+    state_.showStored();
 }
 
-void PaletteBarState::Undo() {
-    if (!CanUndo())
-        return;
-    const Change change(*this, Change::kValues);
-    currentPalette()->undo();
-    showStored();
+void PaletteBarCommands::OnUpdateUndo(CommandUi& ui) {
+    const TextureLookupTable* const palette = state_.palette().get();
+    ui.enabled = palette != nullptr && palette->canUndo();
 }
 
-bool PaletteBarState::CanRedo() const {
-    const TextureLookupTable* const palette = currentPalette();
-    return initialised() && palette != nullptr && palette->canRedo();
+void PaletteBarCommands::OnRedo() {
+    state_.palette().get()->redo();
+    state_.showStored();
 }
 
-void PaletteBarState::Redo() {
-    if (!CanRedo())
-        return;
-    const Change change(*this, Change::kValues);
-    currentPalette()->redo();
-    showStored();
+void PaletteBarCommands::OnUpdateRedo(CommandUi& ui) {
+    const TextureLookupTable* const palette = state_.palette().get();
+    ui.enabled = palette != nullptr && palette->canRedo();
 }
 
 } // namespace dyeworks

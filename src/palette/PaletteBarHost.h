@@ -21,7 +21,7 @@ public:
 
     virtual ~PaletteBarHost() = default;
 
-    /// The open palettes, or null while there is no set.
+    /// The open palettes; never null.
     virtual PaletteSet* paletteSet() = 0;
     /// The image of the active window, as long as it is attached to the current palette.
     [[nodiscard]] virtual std::optional<Image> activeImage() const = 0;

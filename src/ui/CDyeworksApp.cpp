@@ -36,7 +36,7 @@ std::vector<CommandTarget*> CDyeworksApp::commandChain() {
     // Nothing is routed while the window is being made or has gone.
     if (mainFrame_ != nullptr) {
         chain = mainFrame_->commandTargets();
-        chain.push_back(&mainFrame_->paletteBar());
+        chain.push_back(&mainFrame_->paletteBar().commands());
         chain.push_back(&mainFrame_->printing());
     }
     chain.push_back(&projectCommands_);

@@ -171,7 +171,7 @@ bool CDyeworksApp::createPaletteSet() {
     if (palettes_ == nullptr)
         return false;
     setApplicationPaletteSet(palettes_.get());
-    palettes_->setListener(&mainFrame_->paletteBar());
+    palettes_->setListener(&mainFrame_->paletteBar().state());
     // The first idle moment may be long in coming: files are opened before, and each may raise a message.
     mainFrame_->commandActions().refresh();
     return true;

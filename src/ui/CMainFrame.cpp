@@ -117,7 +117,8 @@ void CMainFrame::makeToolBar(const char* name, CommandId id, StringId title, Str
 void CMainFrame::makePaletteBar() {
     paletteBar_ = new CPaletteBar(host_.paletteBarHost(), actions_, *this);
     // Also told when the main window comes to the front with the image that was active before.
-    connect(this, &MdiFrame::activeChildChanged, paletteBar_, &CPaletteBar::ImageChanged);
+    connect(this, &MdiFrame::activeChildChanged, paletteBar_,
+            [this] { paletteBar_->state().ImageChanged(); });
     acceptFiles(*paletteBar_);
     on(ID_VIEW_PALETTEBAR, &CMainFrame::OnTogglePaletteBar, &CMainFrame::OnUpdatePaletteBar);
 }
@@ -200,7 +201,8 @@ void CMainFrame::openImageWindow(CDyeworksDoc& document) {
                 popUpMenu(imageContextMenu(which), global);
             });
     // The palette that an image is attached to is part of its title, and its bank is what the bar shows.
-    connect(child.get(), &QWidget::windowTitleChanged, paletteBar_, &CPaletteBar::ImageChanged);
+    connect(child.get(), &QWidget::windowTitleChanged, paletteBar_,
+            [this] { paletteBar_->state().ImageChanged(); });
     addChild(std::move(child));
 }
 
@@ -246,27 +248,27 @@ void CMainFrame::SelectPicture(const std::string& name) {
 }
 
 void CMainFrame::RefreshPaletteBar() {
-    paletteBar_->RefreshFromPalette();
+    paletteBar_->state().RefreshFromPalette();
 }
 
 void CMainFrame::FillPaletteBarList() {
-    paletteBar_->tabsChanged();
+    paletteBar_->state().tabsChanged();
 }
 
 std::int32_t CMainFrame::GetPaletteBarFirstEntry() const {
-    return paletteBar_->GetFirstEntry();
+    return paletteBar_->state().cells().GetFirstEntry();
 }
 
 std::int32_t CMainFrame::GetPaletteBarCell() const {
-    return paletteBar_->CurrentCell();
+    return paletteBar_->state().cells().current();
 }
 
 void CMainFrame::SelectPaletteBarCell(std::int32_t cell) {
-    paletteBar_->SelectCell(cell);
+    paletteBar_->state().SelectCell(cell);
 }
 
 void CMainFrame::SetPaletteBarNumber(std::int32_t number) {
-    paletteBar_->SetPaletteNumber(number);
+    paletteBar_->state().SetPaletteNumber(number);
 }
 
 QPixmap CMainFrame::picture() {

@@ -54,7 +54,7 @@ protected:
         ASSERT_TRUE(app_.paletteSet()->newPalette(256, type, 0));
         for (int i = 0; i < 256; ++i)
             palette().setEntry(i, 0);
-        bar().RefreshFromPalette();
+        bar().state().RefreshFromPalette();
         ASSERT_TRUE(app_.OpenDocumentFile("c:\\a.tmf"));
         ASSERT_TRUE(run(ID_IMAGE_ATTACH));
         activate(bar());
@@ -260,7 +260,7 @@ TEST_F(PaletteBarWindow, ABankIsChosenByCellSpinAndTyping) {
     spin.setFocus();
     QTest::keyClick(&spin, Qt::Key_Up);
     EXPECT_EQ(image().paletteValue(), 96);
-    EXPECT_EQ(bar().CurrentCell(), 6 * 16 + 9);
+    EXPECT_EQ(bar().state().cells().current(), 6 * 16 + 9);
     type(IDC_PALETTE_NUMBER, "99");
     EXPECT_EQ(shown(IDC_PALETTE_NUMBER), "15");
     EXPECT_EQ(seen(0), Rgb(120, 0, 0));
@@ -285,7 +285,7 @@ TEST_F(PaletteBarWindow, APreviewEndsWithItsCause) {
     for (const auto& [name, end] : causes) {
         bar().setShown(true);
         find<QCheckBox>(IDC_PREVIEW).setChecked(true);
-        bar().SelectCell(20);
+        bar().state().SelectCell(20);
         type(IDC_ENTRY, "F800");
         EXPECT_EQ(seen(20), Rgb(248, 0, 0)) << name;
         end();
@@ -301,7 +301,7 @@ TEST_F(PaletteBarWindow, AnotherWindowKeepsWhatIsEditedAnotherImageDoesNot) {
         activate(*window);
         EXPECT_TRUE(canApply());
     }
-    const int cell = bar().CurrentCell();
+    const int cell = bar().state().cells().current();
     EXPECT_EQ(seen(cell), Rgb(248, 0, 0));
     fake_.files.putFile("c:\\b.tmf", imageFile(texels(8, 8, [](int, int) { return 0U; }), 8));
     ASSERT_TRUE(app_.OpenDocumentFile("c:\\b.tmf"));

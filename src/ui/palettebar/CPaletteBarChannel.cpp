@@ -1,6 +1,7 @@
 #include "ui/palettebar/CPaletteBarChannel.h"
 
 #include "framework/widgets/IntegerField.h"
+#include "palette/ChannelRow.h"
 #include "platform/Text.h"
 #include "ui/controls/CRampSlider.h"
 #include "ui/palettebar/PaletteBarWidgets.h"
@@ -13,7 +14,6 @@
 #include <QSlider>
 
 #include <optional>
-#include <string_view>
 
 namespace dyeworks {
 
@@ -73,9 +73,9 @@ StringId nameOf(Channel channel) {
 
 } // namespace
 
-CPaletteBarChannel::CPaletteBarChannel(PaletteBarState& state, Channel channel, const Ids& ids,
+CPaletteBarChannel::CPaletteBarChannel(EntryEditor& editor, Channel channel, const Ids& ids,
                                        QGridLayout& layout)
-    : state_(state)
+    : editor_(editor)
     , channel_(channel)
     , label_(new QLabel(shown(labelOf(channel))))
     // Made with the widest range, so that rows of all palettes line up.
@@ -118,12 +118,12 @@ CPaletteBarChannel::CPaletteBarChannel(PaletteBarState& state, Channel channel, 
             showValue();
     });
     connect(slider_, &CRampSlider::valueChanged, this,
-            [this](int value) { state_.SliderMoved(channel_, value); });
+            [this](int value) { editor_.SliderMoved(channel_, value); });
     connect(track_, &QSlider::actionTriggered, this, &CPaletteBarChannel::scrolled);
 }
 
 void CPaletteBarChannel::typed() {
-    if (state_.ChannelTyped(channel_, field_->text().toStdString()))
+    if (editor_.ChannelTyped(channel_, field_->text().toStdString()))
         return;
     field_->setFocus();
     field_->selectAll();
@@ -131,22 +131,22 @@ void CPaletteBarChannel::typed() {
 
 void CPaletteBarChannel::scrolled(int action) {
     if (const auto code = scrollCodeOf(action))
-        state_.TrackbarScrolled(channel_, *code, track_->sliderPosition());
+        editor_.TrackbarScrolled(channel_, *code, track_->sliderPosition());
 }
 
-void CPaletteBarChannel::showLayout() {
-    const PaletteBarState::ChannelRow row = state_.channelRow(channel_);
+void CPaletteBarChannel::showLayout(std::optional<ColourType> type) {
+    const ChannelRow row = channelRow(type, channel_);
     for (QWidget* each : {static_cast<QWidget*>(label_), static_cast<QWidget*>(field_),
                           static_cast<QWidget*>(slider_), static_cast<QWidget*>(readOut_)})
         each->setVisible(row.visible && (each != slider_ || slider_->exists()));
     if (!row.visible)
         return;
-    showNames(std::string_view(row.label) == "I", std::to_string(row.highest));
+    showNames(row.intensity, std::to_string(row.highest));
     const IntegerField::Range range{0, row.highest};
     field_->setRanges(range, range);
     slider_->setRange(0, row.highest);
     if (channel_ == Channel::Red) {
-        const PaletteBarState::SliderColours colours = state_.sliderColours();
+        const SliderColours colours = sliderColours(type);
         slider_->setLowColour(colours.lowColour);
         slider_->setHighColour(colours.highColour);
         slider_->setMarkerColour(colours.markerColour);
@@ -171,13 +171,13 @@ void CPaletteBarChannel::showNames(bool intensity, const std::string& highest) {
 }
 
 void CPaletteBarChannel::showValue() {
-    const std::int32_t value = state_.channels()[channel_];
+    const std::int32_t value = editor_.entry().channels()[channel_];
     if (field_->value() != value) {
         const QSignalBlocker quiet(field_);
         field_->setValue(value);
     }
     slider_->setValue(value);
-    showText(*readOut_, state_.readOut(channel_));
+    showText(*readOut_, channelText(value));
     const QSignalBlocker quiet(track_);
     track_->setValue(value);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "palette/PaletteBarState.h"
+#include "palette/EntryEditor.h"
 #include "ui/palettebar/PaletteBarIds.h"
 
 #include <QObject>
@@ -30,11 +30,11 @@ public:
         PaletteBarId readOut;
     };
 
-    /// Adds the row's widgets to the layout, whose widget owns them. `state` must outlive the row.
-    CPaletteBarChannel(PaletteBarState& state, Channel channel, const Ids& ids, QGridLayout& layout);
+    /// Adds the row's widgets to the layout, whose widget owns them. `editor` must outlive the row.
+    CPaletteBarChannel(EntryEditor& editor, Channel channel, const Ids& ids, QGridLayout& layout);
 
-    /// Name, range, colours and whether the row shows.
-    void showLayout();
+    /// Name, range, colours and whether the row shows, for palettes of this type.
+    void showLayout(std::optional<ColourType> type);
     void showValue();
 
 private:
@@ -42,7 +42,7 @@ private:
     void scrolled(int action);
     void showNames(bool intensity, const std::string& highest);
 
-    PaletteBarState& state_;
+    EntryEditor& editor_;
     Channel channel_;
     QLabel* label_;
     IntegerField* field_;

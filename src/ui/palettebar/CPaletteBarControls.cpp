@@ -54,15 +54,16 @@ void CPaletteBarControls::valuesChanged() {
     const QSignalBlocker quietAlpha(alpha_);
     (state_.viewMode() == ViewMode::Alpha ? alpha_ : rgb_)->setChecked(true);
     const QSignalBlocker quietPreview(preview_);
-    preview_->setChecked(state_.preview());
+    preview_->setChecked(state_.editor().preview());
 }
 
 void CPaletteBarControls::showEntry() {
-    edit_->setColour(colourOf(state_.editColour()));
-    edit_->setEnabled(state_.CanEditPalette());
-    cell_->setText(QString::number(state_.CurrentCell()));
-    showText(*entry_, state_.entryText());
-    const bool wrong = state_.entryTextIsWrong();
+    const EntryEditor& editor = state_.editor();
+    edit_->setColour(colourOf(editor.colour(state_.viewMode())));
+    edit_->setEnabled(editor.canAsk());
+    cell_->setText(QString::number(state_.cells().current()));
+    showText(*entry_, editor.entry().text());
+    const bool wrong = editor.textIsWrong();
     // To find its first icon, the desktop's theme is searched, which takes longer than all else of the bar.
     if (wrong && mark_->icon().isNull())
         mark_->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
@@ -70,53 +71,54 @@ void CPaletteBarControls::showEntry() {
     const QString tip = shown(wrong ? StringId::PaletteEntryWrong : StringId::PaletteEntryTip);
     entry_->setToolTip(tip);
     entry_->setAccessibleDescription(tip);
-    apply_->setEnabled(state_.CanApply());
+    apply_->setEnabled(editor.CanApply());
 }
 
 void CPaletteBarControls::showBank() {
-    number_->setEnabled(state_.inBankMode());
-    numberLabel_->setEnabled(state_.inBankMode());
-    grid_->setBankRow(state_.inBankMode() ? static_cast<std::int16_t>(state_.paletteNumber())
-                                          : CSwatchGrid::kNone);
+    const PaletteCells& cells = state_.cells();
+    const std::int32_t bank = cells.paletteNumber();
+    number_->setEnabled(cells.inBankMode());
+    numberLabel_->setEnabled(cells.inBankMode());
+    grid_->setBankRow(cells.inBankMode() ? static_cast<std::int16_t>(bank) : CSwatchGrid::kNone);
     const QSignalBlocker quiet(number_);
-    if (number_->value() != state_.paletteNumber())
-        number_->setValue(state_.paletteNumber());
+    if (number_->value() != bank)
+        number_->setValue(bank);
 }
 
 void CPaletteBarControls::layoutChanged() {
-    const bool any = state_.hasPalette();
+    const bool any = state_.palette().exists();
     tabs_->setEnabled(any);
     emptyNotice_->setVisible(!any);
     // Though it shows nothing then, it would take its share of the height.
     static_cast<QBoxLayout*>(layout())->setStretchFactor(body_, any ? 1 : 0);
     gridArea_->setVisible(any);
     fields_->setVisible(any);
-    stripRow_->setVisible(state_.stripVisible());
+    stripRow_->setVisible(state_.strip().isVisible());
     for (const auto& channel : channels_)
-        channel->showLayout();
+        channel->showLayout(state_.palette().colourType());
     // Where no control has a tip of its own.
-    setToolTip(QString::fromStdString(state_.tip({})));
+    setToolTip(QString::fromStdString(state_.tips().of({})));
     updateGeometry();
     arrange();
 }
 
 void CPaletteBarControls::tabsChanged() {
     const QSignalBlocker quiet(tabs_);
-    const auto& tabs = state_.tabs();
+    const auto& tabs = state_.tabs().all();
     const auto count = static_cast<int>(tabs.size());
     while (tabs_->count() > count)
         tabs_->removeTab(tabs_->count() - 1);
     while (tabs_->count() < count)
         tabs_->addTab(QString());
     for (int i = 0; i < count; ++i) {
-        const PaletteBarState::Tab& tab = tabs[static_cast<std::size_t>(i)];
+        const PaletteTabs::Tab& tab = tabs[static_cast<std::size_t>(i)];
         const QString title = QString::fromStdString(tab.title);
         tabs_->setTabText(i, QString(title).replace(QLatin1Char('&'), QStringLiteral("&&")));
-        tabs_->setTabToolTip(i, QString::fromStdString(state_.tabTip(i)));
+        tabs_->setTabToolTip(i, QString::fromStdString(state_.tabs().tip(i, state_.tips())));
         tabs_->setTabIcon(i, tab.unsaved ? signIcon(QStringLiteral("unsaved")) : QIcon());
         tabs_->setAccessibleTabName(i, tab.unsaved ? shown(StringId::PaletteTabUnsaved, {tab.title}) : title);
     }
-    tabs_->setCurrentIndex(state_.currentTab());
+    tabs_->setCurrentIndex(state_.tabs().current());
     // Hidden, the tab bar keeps a new height to itself.
     tabs_->updateGeometry();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "palette/PaletteBarCommands.h"
 #include "palette/PaletteBarHost.h"
 #include "palette/PaletteBarState.h"
 #include "ui/palettebar/PaletteGridControl.h"
@@ -39,7 +40,7 @@ public:
     ~CPaletteBarControls() override;
 
     [[nodiscard]] PaletteBarState& state() noexcept { return state_; }
-    [[nodiscard]] const PaletteBarState& state() const noexcept { return state_; }
+    [[nodiscard]] PaletteBarCommands& commands() noexcept { return commands_; }
 
     /// Room for a palette of 256 colours, with the fields beside it.
     [[nodiscard]] QSize sizeHint() const override { return preferredSize_; }
@@ -78,6 +79,7 @@ private:
 
     CommandActions& actions_;
     PaletteBarState state_;
+    PaletteBarCommands commands_;
     QTabBar* tabs_ = nullptr;
     QWidget* emptyNotice_ = nullptr;
     QBoxLayout* body_ = nullptr;

@@ -32,7 +32,7 @@ std::optional<CommandId> commandOf(const QKeyEvent& key) {
 bool CPaletteBar::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         const auto& key = *static_cast<QKeyEvent*>(event);
-        if ((commandOf(key) && controls_->state().hasPalette()) || !controlsOf(key).empty()) {
+        if ((commandOf(key) && state().palette().exists()) || !controlsOf(key).empty()) {
             event->accept();
             return true;
         }
@@ -62,12 +62,12 @@ bool CPaletteBar::eventFilter(QObject* watched, QEvent* event) {
 
 void CPaletteBar::keyPressEvent(QKeyEvent* event) {
     const auto command = commandOf(*event);
-    if (command && controls_->state().hasPalette())
+    if (command && state().palette().exists())
         actions_.run(*command);
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         pressEnter();
     else if (event->key() == Qt::Key_Escape)
-        controls_->state().SyncControls(PaletteBarState::Source::Palette);
+        state().editor().SyncControls(PaletteBarState::Source::Palette);
     else if (!pressLetter(*event))
         QWidget::keyPressEvent(event);
 }
@@ -76,7 +76,7 @@ void CPaletteBar::pressEnter() {
     if (auto* const button = qobject_cast<QAbstractButton*>(focusWidget()))
         button->click();
     else
-        controls_->state().Apply();
+        state().Apply();
 }
 
 /// The controls that the key's letter goes to, those with a label of their own first.

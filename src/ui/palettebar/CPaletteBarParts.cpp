@@ -24,7 +24,7 @@ namespace dyeworks {
 
 namespace {
 
-constexpr IntegerField::Range kBanks{0, PaletteBarState::kLastBank};
+constexpr IntegerField::Range kBanks{0, PaletteCells::kLastBank};
 
 void describe(QWidget& widget, StringId name, StringId tip) {
     widget.setAccessibleName(shown(name));
@@ -44,6 +44,7 @@ QPushButton* endButton(const PaletteBarId& id, const QString& caption, StringId 
 CPaletteBarControls::CPaletteBarControls(PaletteBarHost& host, CommandActions& actions)
     : actions_(actions)
     , state_(host, *this)
+    , commands_(state_, host, *this)
     , body_(new QBoxLayout(QBoxLayout::LeftToRight)) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -101,7 +102,7 @@ QWidget* CPaletteBarControls::makeGrid() {
     grid_ = new CSwatchGrid;
     identify(*grid_, IDC_PALETTE_GRID);
     grid_->setAccessibleName(shown(StringId::PaletteColours));
-    grid_->setDescriber([this](int cell) { return QString::fromStdString(state_.cellTip(cell)); });
+    grid_->setDescriber([this](int cell) { return QString::fromStdString(state_.tips().ofCell(cell)); });
     connect(grid_, &CSwatchGrid::clicked, this, [this] { state_.GridClicked(); });
     connect(grid_, &CSwatchGrid::doubleClicked, this, [this] { actions_.run(ID_PALETTE_EDIT); });
     connect(grid_, &CSwatchGrid::cellsPasted, this, [this] { state_.GridChanged(); });
@@ -190,12 +191,12 @@ QBoxLayout* CPaletteBarControls::makeEntryRow() {
     entry_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000")) + 2 * letter);
     mark_ = entry_->addAction(QIcon(), QLineEdit::TrailingPosition);
     connect(entry_, &QLineEdit::textEdited, this,
-            [this](const QString& typed) { state_.EntryTyped(typed.toStdString()); });
+            [this](const QString& typed) { state_.editor().EntryTyped(typed.toStdString()); });
 
     preview_ = new QCheckBox(shown(StringId::PalettePreview));
     identify(*preview_, IDC_PREVIEW);
     preview_->setToolTip(shown(StringId::PalettePreviewTip));
-    connect(preview_, &QCheckBox::toggled, this, [this](bool on) { state_.PreviewChecked(on); });
+    connect(preview_, &QCheckBox::toggled, this, [this](bool on) { state_.editor().PreviewChecked(on); });
     apply_ = new QPushButton(shown(StringId::PaletteApply));
     identify(*apply_, IDC_APPLY);
     // A click leaves the focus where the value was typed.
@@ -225,7 +226,8 @@ QWidget* CPaletteBarControls::makeChannels() {
     layout->setSpacing(body_->spacing());
     for (const Channel channel : kChannels) {
         const auto index = static_cast<std::size_t>(channel);
-        channels_[index] = std::make_unique<CPaletteBarChannel>(state_, channel, kIds[index], *layout);
+        channels_[index] =
+            std::make_unique<CPaletteBarChannel>(state_.editor(), channel, kIds[index], *layout);
     }
     return rows;
 }

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "framework/CommandTarget.h"
+#include "palette/PaletteBarHost.h"
+
+namespace dyeworks {
+
+class PaletteBarState;
+
+/// The commands that act on the entries of the current palette.
+class PaletteBarCommands : public CommandTarget {
+public:
+    /// All must outlive it.
+    PaletteBarCommands(PaletteBarState& state, PaletteBarHost& host, PaletteBarView& view);
+
+private:
+    void OnEditPalette();
+    void OnUpdateEditPalette(CommandUi& ui);
+    void OnCopyPalette();
+    void OnUpdateCopyPalette(CommandUi& ui);
+    void OnPastePalette();
+    void OnUpdatePastePalette(CommandUi& ui);
+    void OnUndo();
+    void OnUpdateUndo(CommandUi& ui);
+    void OnRedo();
+    void OnUpdateRedo(CommandUi& ui);
+
+    PaletteBarState& state_;
+    PaletteBarHost& host_;
+    PaletteBarView& view_;
+};
+
+} // namespace dyeworks
