@@ -28,9 +28,7 @@ public:
         values.resize(std::size_t(count));
         colours.resize(values.size());
     }
-    void setLayout(int newColumns, int newRows) override {
-        std::tie(columns, rows) = std::tie(newColumns, newRows);
-    }
+    void setLayout(int across, int down) override { std::tie(columns, rows) = std::tie(across, down); }
     int cellCount() const override { return static_cast<int>(values.size()); }
     void setValue(int cell, std::uint32_t value) override { values.at(std::size_t(cell)) = value; }
     std::uint32_t value(int cell) const override { return values.at(std::size_t(cell)); }
@@ -40,22 +38,14 @@ public:
     std::optional<Cell> selection() const override { return selected; }
     bool copy() override { return copied = true; }
     bool hasCopiedCells() const override { return copied; }
-    bool paste(Cell cell) override {
-        pastedAt = cell.row * columns + cell.column;
-        return true;
-    }
+    bool paste(Cell at) override { return (pastedAt = at.row * columns + at.column) >= 0; }
     void redraw() override {}
 
-    bool bankMode = false;
-    bool selectable = false;
-    int columns = 0;
-    int rows = 0;
-    std::vector<std::uint32_t> values;
-    std::vector<std::uint32_t> colours;
+    bool bankMode = false, selectable = false, copied = false;
+    int columns = 0, rows = 0, pastedAt = -1;
+    std::vector<std::uint32_t> values, colours;
     std::vector<int> markers{5, 5, 5, 5};
     std::optional<Cell> selected;
-    bool copied = false;
-    int pastedAt = -1;
 };
 
 /// A bar over real palettes, and images of which only the entries that they show are kept.
@@ -115,8 +105,7 @@ protected:
     void valuesChanged() override { ++read_[0]; }
     void layoutChanged() override { ++read_[1]; }
     void tabsChanged() override { ++read_[2]; }
-    std::optional<std::uint16_t> askEntry(ColourType type, std::uint16_t start) override {
-        asked_ = {type, start};
+    std::optional<std::uint16_t> askEntry(ColourType, std::uint16_t) override {
         whileAsking_();
         return answer_;
     }
@@ -127,7 +116,6 @@ protected:
     std::map<std::string, std::vector<std::uint16_t>> images_;
     int bankRedraws_ = 0;
     std::array<int, 3> read_{}; ///< How often values, layout and tabs were.
-    std::optional<std::pair<ColourType, std::uint16_t>> asked_;
     std::optional<std::uint16_t> answer_;
     std::function<void()> whileAsking_ = [] {};
     GridOfCells grid_;

@@ -7,15 +7,13 @@ TEST_F(PaletteBar, StartsEmptyAndDoesNothingWithoutAPalette) {
     EXPECT_THAT(grid_.markers, ElementsAre(-1, -2, -2, -2));
     EXPECT_THAT(strip_.markers, ElementsAre(-2, -2, -2, -2));
     EXPECT_TRUE(grid_.selectable && !strip_.selectable);
-    EXPECT_THAT((std::vector{strip_.columns, strip_.cellCount(), grid_.cellCount()}), ElementsAre(32, 32, 0));
+    EXPECT_EQ(strip_.columns, 32);
     image_ = Image{4, 32};
     grid_.copied = true;
     grid_.selected = {{0, 0}};
     editor_.EntryTyped("1234");
     EXPECT_TRUE(editor_.ChannelTyped(Channel::Red, "99"));
-    editor_.SliderMoved(Channel::Red, 3);
     bar_.SetPaletteNumber(3);
-    bar_.Apply();
     for (const CommandId id :
          {ID_PALETTE_EDIT, ID_PALETTE_COPY, ID_PALETTE_PASTE, ID_PALETTE_UNDO, ID_PALETTE_REDO})
         EXPECT_FALSE(run(id)) << id;
@@ -25,7 +23,6 @@ TEST_F(PaletteBar, StartsEmptyAndDoesNothingWithoutAPalette) {
     bar_.TakeLeftEnd();
     bar_.TabChosen(0);
     bar_.ConfigureChannels();
-    EXPECT_EQ(cells_.current(), -1);
     EXPECT_EQ(image_->paletteValue, 32);
     EXPECT_FALSE(bar_.entry().pending() || editor_.textIsWrong() || bar_.strip().isVisible());
     EXPECT_TRUE(images_.empty() && fake_.messages.shown.empty());
@@ -63,12 +60,9 @@ TEST_F(PaletteBar, TheStripRunsBetweenItsEnds) {
     open(16, ColourType::Rgba);
     EXPECT_EQ(strip_.value(31), 0xFFFEU) << "alpha comes from the left end";
     EXPECT_EQ(strip_.colours[31], 0xF8F8F8U);
-    EXPECT_EQ(strip_.value(1), 0U);
-    click(2);
     bar_.StripClicked(2);
     EXPECT_EQ(bar_.entry().text(), "842") << "lower case, without leading zero";
     EXPECT_EQ(bar_.entry().channels(), (ChannelValues{{1, 1, 1, 0}}));
-    EXPECT_TRUE(editor_.CanApply());
     editor_.EntryTyped("F801");
     bar_.TakeLeftEnd();
     editor_.EntryTyped("3e");
@@ -76,10 +70,8 @@ TEST_F(PaletteBar, TheStripRunsBetweenItsEnds) {
     EXPECT_EQ(strip_.value(0), 0xF801U);
     EXPECT_EQ(strip_.value(31), 0x003FU);
     EXPECT_EQ(strip_.value(30), 1U << 11U | 29U << 1U | 1U);
-    bar_.StripClicked(32);
-    bar_.StripClicked(-1);
-    EXPECT_EQ(bar_.entry().text(), "3e");
-    bar_.StripClicked(31);
+    for (const int cell : {31, 32, -1})
+        bar_.StripClicked(cell);
     EXPECT_EQ(bar_.entry().text(), "3f");
 }
 
@@ -89,7 +81,6 @@ TEST_F(PaletteBar, TipsAreCutBetweenCharacters) {
     for (int i = 0; i < 127; ++i)
         japanese += "色";
     EXPECT_EQ(bar_.tips().of(japanese + "色"), japanese);
-    EXPECT_EQ(bar_.tips().of(japanese), japanese);
 }
 
 TEST_F(PaletteBar, TellsTheViewOncePerAction) {

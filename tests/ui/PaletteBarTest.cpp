@@ -110,161 +110,106 @@ protected:
         QTest::keyClicks(&edit, QString::fromLatin1(text));
     }
     std::string shown(const PaletteBarId& id) { return find<QLineEdit>(id).text().toStdString(); }
-    std::vector<std::string> readOuts() {
-        return {shown(IDC_RED_HEX), shown(IDC_GREEN_HEX), shown(IDC_BLUE_HEX), shown(IDC_ALPHA_HEX)};
-    }
     void apply() { find<QPushButton>(IDC_APPLY).click(); }
     bool canApply() { return find<QPushButton>(IDC_APPLY).isEnabled(); }
 };
 
-TEST_F(PaletteBarWindow, EachWayToEditAnEntryPreviewsInTheImageIsAppliedAndUndone) {
-    using Edit = std::function<void()>;
-    const auto typed = [this](const PaletteBarId& id, const char* text) -> Edit {
-        return [=, this] { type(id, text); };
+TEST_F(PaletteBarWindow, EachWayToEditAnEntryShowsInTheImageAndIsApplied) {
+    const auto toTheEnd = [this](PaletteBarId slider) {
+        QTest::keyClick(&sliderWindow(slider), Qt::Key_End);
     };
-    const auto toTheEnd = [this](const PaletteBarId& slider) -> Edit {
-        return [=, this] { QTest::keyClick(&sliderWindow(slider), Qt::Key_End); };
-    };
-    const Edit greenSpun = [this] { find<IntegerField>(IDC_GREEN_SPIN).stepBy(2); };
-    const Edit blueDragged = [this] {
+    const auto blueDragged = [this] {
         QWidget& slider = sliderWindow(IDC_BLUE_SLIDER);
         const QPoint end(slider.width() - 1, slider.height() / 2);
         QTest::mousePress(&slider, Qt::LeftButton, {}, slider.rect().center());
         QTest::mouseMove(&slider, end);
         QTest::mouseRelease(&slider, Qt::LeftButton, {}, end);
     };
-    const Edit blueByTrackbar = [this] {
+    const auto blueByTrackbar = [this] {
         find<QSlider>(IDC_BLUE_TRACK).triggerAction(QAbstractSlider::SliderToMaximum);
     };
-    const Edit fromTheStrip = [this] { click(find<CSwatchGrid>(IDC_GRADIENT), 31); };
-    struct Way {
-        const char* name;
-        ColourType type;
-        Edit edit; ///< Takes the entry 0 to the value that follows.
-        unsigned entry;
-        Rgb colour; ///< That the image shows.
+    /// Each takes the entry 0 to the value that follows, and the image to the colour.
+    const std::tuple<ColourType, std::function<void()>, unsigned, Rgb> ways[] = {
+        {ColourType::Rgba, [this] { type(IDC_RED, "31"); }, 0xF800, {248, 0, 0}},
+        {ColourType::Rgba, [this] { find<IntegerField>(IDC_GREEN_SPIN).stepBy(2); }, 0x0080, {0, 16, 0}},
+        {ColourType::Rgba, blueDragged, 0x003E, {0, 0, 248}},
+        {ColourType::Rgba, blueByTrackbar, 0x003E, {0, 0, 248}},
+        {ColourType::Rgba, [=] { toTheEnd(IDC_ALPHA_SLIDER); }, 0x0001, {0, 0, 0}},
+        {ColourType::Rgba, [this] { click(find<CSwatchGrid>(IDC_GRADIENT), 31); }, 0xFFFE, {248, 248, 248}},
+        {ColourType::Ia, [=] { toTheEnd(IDC_RED_SLIDER); }, 0xFF00, {255, 255, 255}},
+        {ColourType::Ia, [this] { type(IDC_ALPHA, "16"); }, 0x0010, {0, 0, 0}},
     };
-    const Way ways[] = {
-        {"red typed", ColourType::Rgba, typed(IDC_RED, "31"), 0xF800, {248, 0, 0}},
-        {"green spun", ColourType::Rgba, greenSpun, 0x0080, {0, 16, 0}},
-        {"blue dragged", ColourType::Rgba, blueDragged, 0x003E, {0, 0, 248}},
-        {"alpha by key", ColourType::Rgba, toTheEnd(IDC_ALPHA_SLIDER), 0x0001, {0, 0, 0}},
-        {"blue by trackbar", ColourType::Rgba, blueByTrackbar, 0x003E, {0, 0, 248}},
-        {"entry typed", ColourType::Rgba, typed(IDC_ENTRY, "7fff"), 0x7FFF, {120, 248, 248}},
-        {"from the strip", ColourType::Rgba, fromTheStrip, 0xFFFE, {248, 248, 248}},
-        {"intensity typed", ColourType::Ia, typed(IDC_RED, "200"), 0xC800, {200, 200, 200}},
-        {"intensity by key", ColourType::Ia, toTheEnd(IDC_RED_SLIDER), 0xFF00, {255, 255, 255}},
-        {"alpha typed", ColourType::Ia, typed(IDC_ALPHA, "16"), 0x0010, {0, 0, 0}},
-        {"entry typed for intensity", ColourType::Ia, typed(IDC_ENTRY, "4080"), 0x4080, {64, 64, 64}},
-    };
-    for (const Way& way : ways) {
-        SCOPED_TRACE(way.name);
-        open(way.type);
+    for (const auto& [colours, edit, entry, colour] : ways) {
+        open(colours);
         clickCell(37);
-        EXPECT_FALSE(canApply());
-        way.edit();
-        EXPECT_EQ(seen(37), way.colour);
-        EXPECT_EQ(stored(37), 0U);
-        EXPECT_FALSE(palette().canUndo());
-        EXPECT_EQ(std::stoul(shown(IDC_ENTRY), nullptr, 16), way.entry);
-        ASSERT_TRUE(canApply());
+        edit();
+        EXPECT_EQ(seen(37), colour) << entry;
         apply();
-        EXPECT_EQ(stored(37), way.entry);
-        EXPECT_EQ(seen(37), way.colour);
-        EXPECT_FALSE(canApply());
-        ASSERT_TRUE(run(ID_PALETTE_UNDO));
-        EXPECT_EQ(stored(37), 0U);
-        EXPECT_EQ(seen(37), Rgb(0, 0, 0));
-        ASSERT_TRUE(run(ID_PALETTE_REDO));
-        EXPECT_EQ(seen(37), way.colour);
-        EXPECT_FALSE(enabled(ID_PALETTE_REDO));
+        EXPECT_EQ(stored(37), entry);
     }
 }
 
 TEST_F(PaletteBarWindow, TheDialogStartsWithWhatIsEditedAndWritesOnOk) {
-    const std::pair<ColourType, std::uint16_t> cases[] = {{ColourType::Rgba, 0x0841},
-                                                          {ColourType::Ia, 0x2A10}};
-    for (const auto& [colours, entry] : cases) {
+    for (const ColourType colours : {ColourType::Rgba, ColourType::Ia}) {
         open(colours);
         for (const int result : {QDialog::Rejected, QDialog::Accepted}) {
-            answerDialog(colours, 0, entry, result);
+            answerDialog(colours, 0, 0x2A10, result);
             clickCell(9, true);
-            EXPECT_EQ(stored(9), result == QDialog::Accepted ? entry : 0U);
-            EXPECT_EQ(palette().canUndo(), result == QDialog::Accepted);
+            EXPECT_EQ(stored(9), result == QDialog::Accepted ? 0x2A10U : 0U);
         }
         type(IDC_ENTRY, "1110");
         answerDialog(colours, 0x1110, 0xABCC, QDialog::Accepted);
         ASSERT_TRUE(run(ID_PALETTE_EDIT));
         EXPECT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == &bar(); }));
         EXPECT_TRUE(find<QLineEdit>(IDC_ENTRY).hasFocus());
-        EXPECT_EQ(stored(9), 0xABCCU);
         EXPECT_EQ(seen(9), colours == ColourType::Rgba ? Rgb(168, 120, 48) : Rgb(0xAB, 0xAB, 0xAB));
         ASSERT_TRUE(run(ID_PALETTE_UNDO));
-        EXPECT_EQ(stored(9), entry);
+        EXPECT_EQ(stored(9), 0x2A10U);
     }
 }
 
 TEST_F(PaletteBarWindow, ASavedFileHoldsTheEntriesAsTheyWereEditedAndPasted) {
-    for (const bool intensity : {false, true}) {
-        const auto fileWith = [&](const std::map<int, unsigned>& edited) {
-            std::string file = paletteFile(16, [&](int i) {
-                return edited.contains(i) ? edited.at(i) : static_cast<unsigned>(i) * 0x1111U;
-            });
-            file[11] = intensity ? 1 : 0;
-            return file;
-        };
-        const std::string path = intensity ? "c:\\ia.tlf" : "c:\\rgba.tlf";
-        fake_.files.putFile(path, fileWith({}));
-        ASSERT_TRUE(app_.OpenDocumentFile(path));
-        clickCell(5);
-        type(IDC_ENTRY, "abcd");
-        apply();
-        clickCell(6);
-        type(IDC_RED, "5");
-        apply();
-        gridKey(Qt::Key_Left, Qt::ShiftModifier);
-        gridKey(Qt::Key_C, Qt::ControlModifier);
-        // Without a selection the current cell is where they go, else the corner of the selection.
-        app_.imageHost().selectPaletteBarCell(8);
-        gridKey(Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(shown(IDC_ENTRY), "ABCD");
-        clickCell(13);
-        gridKey(Qt::Key_Left, Qt::ShiftModifier);
-        gridKey(Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(stored(12), 0xABCDU);
-        gridKey(Qt::Key_Z, Qt::ControlModifier);
-        EXPECT_THAT((std::vector{stored(12), stored(13)}), ElementsAre(0xCCCC, 0xDDDD));
-        ASSERT_TRUE(run(ID_PALETTE_REDO));
-        clickCell(15);
-        type(IDC_ENTRY, "0");
-        apply();
-        ASSERT_TRUE(run(ID_PALETTE_UNDO) && run(ID_PALETTE_SAVE));
-        const unsigned red = intensity ? 0x0566 : 0x2E66;
-        EXPECT_EQ(fake_.files.textOf(path),
-                  fileWith({{5, 0xABCD}, {6, red}, {8, 0xABCD}, {9, red}, {12, 0xABCD}, {13, red}}))
-            << path;
-    }
+    const auto fileWith = [](const std::map<int, unsigned>& edited) {
+        return paletteFile(16, [&](int i) {
+            return edited.contains(i) ? edited.at(i) : static_cast<unsigned>(i) * 0x1111U;
+        });
+    };
+    fake_.files.putFile("c:\\a.tlf", fileWith({}));
+    ASSERT_TRUE(app_.OpenDocumentFile("c:\\a.tlf"));
+    clickCell(5);
+    type(IDC_ENTRY, "abcd");
+    apply();
+    clickCell(6);
+    gridKey(Qt::Key_Left, Qt::ShiftModifier);
+    gridKey(Qt::Key_C, Qt::ControlModifier);
+    app_.imageHost().selectPaletteBarCell(8);
+    gridKey(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(shown(IDC_ENTRY), "ABCD");
+    clickCell(13);
+    gridKey(Qt::Key_Left, Qt::ShiftModifier);
+    gridKey(Qt::Key_V, Qt::ControlModifier);
+    gridKey(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(stored(12), 0xCCCCU);
+    ASSERT_TRUE(run(ID_PALETTE_REDO) && run(ID_PALETTE_SAVE));
+    EXPECT_EQ(fake_.files.textOf("c:\\a.tlf"),
+              fileWith({{5, 0xABCD}, {8, 0xABCD}, {9, 0x6666}, {12, 0xABCD}, {13, 0x6666}}));
 }
 
 TEST_F(PaletteBarWindow, ABankIsChosenByCellSpinAndTyping) {
     open(ColourType::Rgba, 4);
     auto& spin = find<IntegerField>(IDC_PALETTE_NUMBER_SPIN);
-    EXPECT_TRUE(spin.isEnabled());
     for (int i = 0; i < 256; ++i)
         palette().setRed(i, i / 16);
-    clickCell(5 * 16 + 3);
-    EXPECT_EQ(image().paletteValue(), 80);
+    clickCell(5 * 16 + 9);
     EXPECT_EQ(seen(0), Rgb(40, 0, 0));
     EXPECT_EQ(shown(IDC_PALETTE_NUMBER), "5");
-    clickCell(5 * 16 + 9);
     spin.setFocus();
     QTest::keyClick(&spin, Qt::Key_Up);
     EXPECT_EQ(image().paletteValue(), 96);
-    EXPECT_EQ(bar().state().cells().current(), 6 * 16 + 9);
+    EXPECT_EQ(app_.imageHost().paletteBarCell(), 6 * 16 + 9);
     type(IDC_PALETTE_NUMBER, "99");
     EXPECT_EQ(shown(IDC_PALETTE_NUMBER), "15");
     EXPECT_EQ(seen(0), Rgb(120, 0, 0));
-    EXPECT_EQ(app_.imageHost().paletteBarFirstEntry(), 240);
 
     // A palette that the image is not attached to has no bank of it.
     ASSERT_TRUE(app_.paletteSet()->newPalette(256, ColourType::Rgba, 0));
@@ -274,61 +219,46 @@ TEST_F(PaletteBarWindow, ABankIsChosenByCellSpinAndTyping) {
     EXPECT_EQ(app_.imageHost().paletteBarFirstEntry(), 240);
 }
 
-TEST_F(PaletteBarWindow, APreviewEndsWithItsCause) {
-    open(ColourType::Rgba);
-    clickCell(20);
-    const std::pair<const char*, std::function<void()>> causes[] = {
-        {"preview off", [this] { find<QCheckBox>(IDC_PREVIEW).click(); }},
-        {"escape", [this] { QTest::keyClick(&find<QLineEdit>(IDC_ENTRY), Qt::Key_Escape); }},
-        {"closed", [this] { bar().close(); }},
-    };
-    for (const auto& [name, end] : causes) {
-        bar().setShown(true);
-        find<QCheckBox>(IDC_PREVIEW).setChecked(true);
-        bar().state().SelectCell(20);
-        type(IDC_ENTRY, "F800");
-        EXPECT_EQ(seen(20), Rgb(248, 0, 0)) << name;
-        end();
-        EXPECT_EQ(seen(20), Rgb(0, 0, 0)) << name;
-    }
-}
-
-TEST_F(PaletteBarWindow, AnotherWindowKeepsWhatIsEditedAnotherImageDoesNot) {
+TEST_F(PaletteBarWindow, APreviewStaysForAnotherWindowAndEndsWithItsCause) {
     open(ColourType::Rgba);
     const CDyeworksDoc& first = image();
-    type(IDC_ENTRY, "F800");
-    for (QWidget* window : {static_cast<QWidget*>(&app_.mainFrame()), static_cast<QWidget*>(&bar())}) {
-        activate(*window);
-        EXPECT_TRUE(canApply());
-    }
-    const int cell = bar().state().cells().current();
-    EXPECT_EQ(seen(cell), Rgb(248, 0, 0));
+    const auto red = [&] { return first.canvas().colourTable()[20 * 4 + 2]; };
     fake_.files.putFile("c:\\b.tmf", imageFile(texels(8, 8, [](int, int) { return 0U; }), 8));
-    ASSERT_TRUE(app_.OpenDocumentFile("c:\\b.tmf"));
-    EXPECT_FALSE(canApply());
-    EXPECT_EQ(first.canvas().colourTable()[static_cast<std::size_t>(cell) * 4 + 2], 0);
+    const std::function<void()> causes[] = {
+        [this] { find<QCheckBox>(IDC_PREVIEW).click(); },
+        [this] { QTest::keyClick(&find<QLineEdit>(IDC_ENTRY), Qt::Key_Escape); },
+        [this] { bar().close(); },
+        [this] { ASSERT_TRUE(app_.OpenDocumentFile("c:\\b.tmf")); },
+    };
+    for (const auto& end : causes) {
+        bar().setShown(true);
+        find<QCheckBox>(IDC_PREVIEW).setChecked(true);
+        app_.imageHost().selectPaletteBarCell(20);
+        type(IDC_ENTRY, "F800");
+        activate(app_.mainFrame());
+        activate(bar());
+        EXPECT_EQ(red(), 248);
+        end();
+        EXPECT_EQ(red(), 0);
+    }
 }
 
 TEST_F(PaletteBarWindow, AValueOutOfRangeIsRefusedAndLeftBehind) {
     open(ColourType::Rgba);
     clickCell(3);
     type(IDC_GREEN, "32");
-    EXPECT_EQ(fake_.messages.lastText(), "Please enter an integer between 0 and 31.");
+    EXPECT_EQ(fake_.messages.shown.size(), 1U);
     EXPECT_EQ(find<QLineEdit>(IDC_GREEN).selectedText(), QStringLiteral("32"));
     EXPECT_EQ(shown(IDC_ENTRY), "00C0") << "the 3 was taken";
     find<QLineEdit>(IDC_ENTRY).setFocus();
     EXPECT_EQ(shown(IDC_GREEN), "3");
-
     const QAction& mark = *find<QLineEdit>(IDC_ENTRY).actions().front();
-    for (const char* wrong : {"12345", "xyz"}) {
-        type(IDC_ENTRY, wrong);
-        EXPECT_TRUE(mark.isVisible() && !mark.icon().isNull()) << wrong;
-        EXPECT_FALSE(canApply()) << wrong;
-        EXPECT_EQ(shown(IDC_ENTRY), wrong);
+    for (const bool right : {false, true}) {
+        type(IDC_ENTRY, right ? "7FFF" : "12345");
+        EXPECT_EQ(canApply(), right);
+        EXPECT_EQ(mark.isVisible() && !mark.icon().isNull(), !right);
     }
-    type(IDC_ENTRY, "7FFF");
-    EXPECT_FALSE(mark.isVisible());
-    EXPECT_THAT(readOuts(), ElementsAre("0F", "1F", "1F", "01"));
+    EXPECT_EQ(shown(IDC_RED_HEX) + shown(IDC_GREEN_HEX) + shown(IDC_ALPHA_HEX), "0F1F01");
     EXPECT_EQ(shown(IDC_RED), "15");
 }
 
@@ -347,30 +277,25 @@ TEST_F(PaletteBarWithoutSliders, ChannelsAreStillTypedAndSpun) {
     QTest::keyClick(&find<IntegerField>(IDC_RED_SPIN), Qt::Key_Tab);
     EXPECT_TRUE(find<IntegerField>(IDC_GREEN_SPIN).hasFocus()) << "not in a bar that is not there";
     QTest::keyClick(&find<IntegerField>(IDC_GREEN_SPIN), Qt::Key_Up);
-    EXPECT_EQ(seen(3), Rgb(248, 8, 0));
-    apply();
-    EXPECT_EQ(stored(3), 0xF840U);
+    EXPECT_EQ(shown(IDC_ENTRY), "F840");
 }
 
 TEST_F(PaletteBarWindow, TextFieldsKeepTheirKeysAndTheOthersAreThePalettes) {
     open(ColourType::Rgba);
-    clickCell(3);
+    auto& entry = find<QLineEdit>(IDC_ENTRY);
     type(IDC_ENTRY, "1234");
     apply();
-    auto& entry = find<QLineEdit>(IDC_ENTRY);
     type(IDC_ENTRY, "ABC0");
     entry.selectAll();
     QTest::keyClick(&entry, Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("ABC0"));
     QTest::keyClick(&entry, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_NE(shown(IDC_ENTRY), "ABC0");
-    EXPECT_EQ(stored(3), 0x1234U);
+    EXPECT_EQ(stored(bar().state().cells().current()), 0x1234U);
     entry.setText(QString());
     QTest::keyClick(&entry, Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(shown(IDC_ENTRY), "ABC0");
-    EXPECT_TRUE(canApply());
     QTest::keyClick(&sliderWindow(IDC_RED_SLIDER), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(stored(3), 0U);
+    EXPECT_EQ(shown(IDC_ENTRY), "0000");
 }
 
 TEST_F(PaletteBarWindow, EverythingIsReachedFromTheKeyboard) {
@@ -411,7 +336,6 @@ TEST_F(PaletteBarWindow, TheViewModeIsThatOfTheImages) {
     open(ColourType::Ia);
     palette().setEntry(5, 0x30A0);
     find<QRadioButton>(IDC_VIEW_ALPHA).click();
-    EXPECT_EQ(app_.paletteSet()->alphaView, 1);
     EXPECT_EQ(seen(5), Rgb(0xA0, 0xA0, 0xA0));
     ASSERT_TRUE(app_.paletteSet()->newPalette(16, ColourType::Ia, 0)) << "the image is attached to another";
     find<QRadioButton>(IDC_VIEW_RGB).click();
@@ -425,34 +349,28 @@ TEST_F(PaletteBarWindow, TabsNameThePalettesAndChooseTheCurrentOne) {
     ASSERT_TRUE(app_.OpenFiles({"c:\\b&b.tlf", "c:\\a.tlf"}, false));
     ASSERT_EQ(tabs.count(), 2);
     EXPECT_EQ(tabs.currentIndex(), 0);
-    EXPECT_EQ(tabs.tabText(1), QStringLiteral("b&&b"));
-    EXPECT_EQ(tabs.tabToolTip(1), QStringLiteral("c:\\b&b.tlf"));
     EXPECT_GT(tabs.height(), 10);
-    app_.imageHost().selectPaletteBarCell(200);
     QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(1).center());
     EXPECT_EQ(app_.paletteSet()->currentKey, "c:\\b&b.tlf");
-    EXPECT_EQ(tabs.currentIndex(), 1);
     EXPECT_EQ(find<CSwatchGrid>(IDC_PALETTE_GRID).cellCount(), 16);
-    EXPECT_EQ(app_.imageHost().paletteBarCell(), 15);
-    // Text and sign of unsaved changes.
-    const auto second = [&tabs] {
-        const bool told = tabs.tabToolTip(1).endsWith(QStringLiteral("\nIt has unsaved changes."));
-        EXPECT_EQ(tabs.accessibleTabName(1).endsWith(QStringLiteral(", unsaved changes")), told);
-        EXPECT_EQ(!tabs.tabIcon(1).isNull(), told);
-        return tabs.tabText(1).toStdString() + (told ? "|unsaved" : "");
+    const auto expectSecond = [&tabs](const char* title, bool unsaved) {
+        EXPECT_EQ(tabs.tabText(1).toStdString(), title);
+        EXPECT_EQ(tabs.tabToolTip(1).toStdString(),
+                  std::string("c:\\b&b.tlf") + (unsaved ? "\nIt has unsaved changes." : ""));
+        EXPECT_EQ(tabs.accessibleTabName(1).endsWith(QStringLiteral(", unsaved changes")), unsaved);
+        EXPECT_EQ(tabs.tabIcon(1).isNull(), !unsaved);
     };
-    EXPECT_EQ(second(), "b&&b");
     type(IDC_RED, "9");
     apply();
-    EXPECT_EQ(second(), "b&&b|unsaved");
-    ASSERT_TRUE(run(ID_PALETTE_UNDO));
-    EXPECT_EQ(second(), "b&&b");
-    ASSERT_TRUE(run(ID_PALETTE_REDO));
-    EXPECT_EQ(second(), "b&&b * |unsaved");
-    ASSERT_TRUE(run(ID_PALETTE_SAVE));
-    EXPECT_EQ(second(), "b&&b");
-    ASSERT_TRUE(run(ID_PALETTE_UNDO));
-    EXPECT_EQ(second(), "b&&b|unsaved") << "the file holds what was taken back";
+    expectSecond("b&&b", true);
+    const std::tuple<CommandId, const char*, bool> steps[] = {{ID_PALETTE_UNDO, "b&&b", false},
+                                                              {ID_PALETTE_REDO, "b&&b * ", true},
+                                                              {ID_PALETTE_SAVE, "b&&b", false},
+                                                              {ID_PALETTE_UNDO, "b&&b", true}};
+    for (const auto& [command, title, unsaved] : steps) {
+        ASSERT_TRUE(run(command));
+        expectSecond(title, unsaved);
+    }
     fake_.messages.answerWith(MessageAnswer::No);
     ASSERT_TRUE(run(ID_PALETTE_CLOSE));
     EXPECT_EQ(tabs.count(), 1);
@@ -482,8 +400,6 @@ TEST_F(PaletteBarWindow, WithoutAPaletteOnlyTheTabsAreLeft) {
          {IDC_PALETTE_GRID, IDC_ENTRY, IDC_RED, IDC_APPLY, IDC_PREVIEW, IDC_GRADIENT})
         EXPECT_FALSE(find<QWidget>(id).isVisible()) << id.name;
     EXPECT_FALSE(find<QTabBar>(IDC_PALETTE_TABS).isEnabled());
-    for (const CommandId id : {ID_PALETTE_EDIT, ID_PALETTE_COPY, ID_PALETTE_PASTE, ID_PALETTE_UNDO})
-        EXPECT_FALSE(enabled(id)) << id;
     for (QWidget* child : bar().findChildren<QWidget*>()) {
         if (child->isVisible()) {
             EXPECT_EQ(tipOf(*child, {}), "Palette is not open yet.") << child->metaObject()->className();
@@ -525,9 +441,8 @@ TEST_F(PaletteBarWindow, AtAnySizeNothingIsCut) {
             if (!child->isVisible() || child->parentWidget()->inherits("QTabBar") ||
                 child->parentWidget()->inherits("QAbstractSpinBox"))
                 continue;
-            EXPECT_TRUE(child->parentWidget()->rect().contains(child->geometry()))
-                << child->objectName().toStdString() << " at " << size.width() << " x " << size.height();
-            EXPECT_GE(child->height(), child->minimumSizeHint().height())
+            EXPECT_TRUE(child->parentWidget()->rect().contains(child->geometry()) &&
+                        child->height() >= child->minimumSizeHint().height())
                 << child->objectName().toStdString() << " at " << size.width() << " x " << size.height();
         }
     }
