@@ -1,5 +1,7 @@
 #include "framework/PathText.h"
 
+#include "platform/TextCase.h"
+
 #include <algorithm>
 
 namespace dyeworks {
@@ -9,35 +11,13 @@ namespace {
 constexpr std::string_view kSeparators = "\\/";
 constexpr std::string_view kEllipsis = "...";
 
-constexpr char lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-constexpr bool startsCharacter(char c) {
-    return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
-}
-
-/// Characters of a UTF-8 text.
-std::size_t lengthOf(std::string_view text) {
-    return static_cast<std::size_t>(std::ranges::count_if(text, startsCharacter));
-}
-
-/// The byte at which character number `index` begins.
-std::size_t byteOf(std::string_view text, std::size_t index) {
-    std::size_t position = 0;
-    for (; position < text.size(); ++position) {
-        if (startsCharacter(text[position]) && index-- == 0)
-            break;
-    }
-    return position;
-}
-
 std::string cutInMiddle(std::string_view name, std::size_t maxLength) {
     const std::size_t kept = maxLength - std::min(maxLength, kEllipsis.size());
     // The tail gets the odd character: it holds the extension.
     const std::size_t tail = kept - kept / 2;
-    return std::string(name.substr(0, byteOf(name, kept / 2))) + std::string(kEllipsis) +
-           std::string(name.substr(byteOf(name, lengthOf(name) - tail)));
+    const std::size_t tailAt = firstCharacters(name, characterCount(name) - tail).size();
+    return std::string(firstCharacters(name, kept / 2)) + std::string(kEllipsis) +
+           std::string(name.substr(tailAt));
 }
 
 } // namespace
@@ -53,7 +33,7 @@ std::string_view extensionOf(std::string_view path) {
 }
 
 std::string abbreviatedPath(const std::string& path, std::size_t maxLength) {
-    if (lengthOf(path) <= maxLength)
+    if (characterCount(path) <= maxLength)
         return path;
 
     const std::string_view whole = path;
@@ -69,12 +49,12 @@ std::string abbreviatedPath(const std::string& path, std::size_t maxLength) {
             candidate += whole[tail];
             candidate += kEllipsis;
             candidate += whole.substr(tail);
-            if (lengthOf(candidate) <= maxLength)
+            if (characterCount(candidate) <= maxLength)
                 return candidate;
         }
     }
     const std::string_view name = fileNameOf(whole);
-    return lengthOf(name) <= maxLength ? std::string(name) : cutInMiddle(name, maxLength);
+    return characterCount(name) <= maxLength ? std::string(name) : cutInMiddle(name, maxLength);
 }
 
 } // namespace dyeworks

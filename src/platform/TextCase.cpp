@@ -90,6 +90,13 @@ std::size_t characterCount(std::string_view text) {
     return count;
 }
 
+std::string_view firstCharacters(std::string_view text, std::size_t characters) {
+    std::string_view rest = text;
+    for (; characters > 0 && !rest.empty(); --characters)
+        rest.remove_prefix(characterLength(rest));
+    return text.substr(0, text.size() - rest.size());
+}
+
 bool equalIgnoringCase(std::string_view a, std::string_view b) {
     return a == b || foldedCase(a) == foldedCase(b);
 }

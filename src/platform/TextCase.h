@@ -17,6 +17,9 @@ std::size_t characterLength(std::string_view text);
 /// Characters of the text, whatever their length in bytes.
 std::size_t characterCount(std::string_view text);
 
+/// The text from its front on, as many characters of it, or the whole when it has not so many.
+std::string_view firstCharacters(std::string_view text, std::size_t characters);
+
 bool equalIgnoringCase(std::string_view a, std::string_view b);
 bool beginsIgnoringCase(std::string_view text, std::string_view beginning);
 bool endsIgnoringCase(std::string_view text, std::string_view end);
