@@ -1,46 +1,34 @@
 #include "ui/controls/CRampSlider.h"
 
-#include <QVBoxLayout>
-
 namespace dyeworks {
 
 CRampSlider::CRampSlider(QWidget* parent)
-    : QWidget(parent)
-    , control_("RampSlider",
-               [this](DispatchId event, DispatchArguments arguments) { hearEvent(event, arguments); }) {
-    QWidget* const shown = controlWindow();
-    if (shown == nullptr)
-        return;
-    auto* frame = new QVBoxLayout(this);
-    frame->setContentsMargins(0, 0, 0, 0);
-    frame->addWidget(shown);
-    setFocusProxy(shown);
-}
+    : ControlFrame("RampSlider", parent) {}
 
 CRampSlider::~CRampSlider() = default;
 
 void CRampSlider::setValue(std::int32_t value) {
-    control_.set(3, value);
+    control().set(3, value);
 }
 
 std::int32_t CRampSlider::value() const {
-    return control_.get(3, std::int32_t{0});
+    return control().get(3, std::int32_t{0});
 }
 
 void CRampSlider::setLowColour(std::int32_t colour) {
-    control_.set(4, colour);
+    control().set(4, colour);
 }
 
 void CRampSlider::setHighColour(std::int32_t colour) {
-    control_.set(5, colour);
+    control().set(5, colour);
 }
 
 void CRampSlider::setMarkerColour(std::int32_t colour) {
-    control_.set(6, colour);
+    control().set(6, colour);
 }
 
 void CRampSlider::setRange(std::int32_t minimum, std::int32_t maximum) {
-    control_.call(8, {minimum, maximum});
+    control().call(8, {minimum, maximum});
 }
 
 void CRampSlider::hearEvent(DispatchId event, DispatchArguments arguments) {

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "ui/controls/ControlClient.h"
-
-#include <QWidget>
+#include "ui/controls/ControlFrame.h"
 
 #include <cstdint>
 
@@ -10,17 +8,12 @@ namespace dyeworks {
 
 /// A bar with a colour gradient and a marker on it: places a RampSlider control and calls it. When the
 /// control is missing the widget stays empty, the operations do nothing, and the value is 0.
-class CRampSlider : public QWidget {
+class CRampSlider : public ControlFrame {
     Q_OBJECT
 
 public:
     explicit CRampSlider(QWidget* parent = nullptr);
     ~CRampSlider() override;
-
-    /// Whether there is a control.
-    [[nodiscard]] bool exists() const noexcept { return control_.exists(); }
-    /// The control's own window, which has the mouse and the keyboard; null when there is no control.
-    [[nodiscard]] QWidget* controlWindow() const { return control_.widget(); }
 
     /// Brought into the range. Raises no signal.
     void setValue(std::int32_t value);        // 3
@@ -43,9 +36,7 @@ Q_SIGNALS:
     void valueChanged(int value);
 
 private:
-    void hearEvent(DispatchId event, DispatchArguments arguments);
-
-    ControlClient control_;
+    void hearEvent(DispatchId event, DispatchArguments arguments) override;
 };
 
 } // namespace dyeworks

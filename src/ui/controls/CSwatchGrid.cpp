@@ -1,7 +1,5 @@
 #include "ui/controls/CSwatchGrid.h"
 
-#include <QVBoxLayout>
-
 namespace dyeworks {
 
 namespace {
@@ -16,98 +14,88 @@ int shortOf(DispatchArguments arguments, std::size_t index) {
 } // namespace
 
 CSwatchGrid::CSwatchGrid(QWidget* parent)
-    : QWidget(parent)
-    , control_("SwatchGrid",
-               [this](DispatchId event, DispatchArguments arguments) { hearEvent(event, arguments); }) {
-    QWidget* const shown = controlWindow();
-    if (shown == nullptr)
-        return;
-    auto* frame = new QVBoxLayout(this);
-    frame->setContentsMargins(0, 0, 0, 0);
-    frame->addWidget(shown);
-    setFocusProxy(shown);
-}
+    : ControlFrame("SwatchGrid", parent) {}
 
 CSwatchGrid::~CSwatchGrid() = default;
 
 void CSwatchGrid::setBankMode(bool on) {
-    control_.set(2, on);
+    control().set(2, on);
 }
 
 void CSwatchGrid::setSelectable(std::int16_t value) {
-    control_.set(3, value);
+    control().set(3, value);
 }
 
 void CSwatchGrid::setCellLayout(std::int16_t columns, std::int16_t rows) {
-    control_.call(4, {columns, rows, std::int16_t{0}});
+    control().call(4, {columns, rows, std::int16_t{0}});
 }
 
 bool CSwatchGrid::setCellCount(std::int16_t count) {
-    return control_.call(5, {count}, false);
+    return control().call(5, {count}, false);
 }
 
 std::uint32_t CSwatchGrid::cellValue(std::int16_t cell) const {
-    return static_cast<std::uint32_t>(control_.call(6, {cell}, std::int32_t{0}));
+    return static_cast<std::uint32_t>(control().call(6, {cell}, std::int32_t{0}));
 }
 
 void CSwatchGrid::setCellValue(std::int16_t cell, std::uint32_t value) {
-    control_.call(7, {cell, static_cast<std::int32_t>(value)});
+    control().call(7, {cell, static_cast<std::int32_t>(value)});
 }
 
 std::int16_t CSwatchGrid::cellCount() const {
-    return control_.call(9, {}, std::int16_t{0});
+    return control().call(9, {}, std::int16_t{0});
 }
 
 bool CSwatchGrid::setMarker(std::int16_t slot, std::int16_t cell) {
-    return control_.call(11, {slot, cell}, false);
+    return control().call(11, {slot, cell}, false);
 }
 
 std::int16_t CSwatchGrid::marker(std::int16_t slot) const {
-    return control_.call(12, {slot}, kNone);
+    return control().call(12, {slot}, kNone);
 }
 
 std::optional<CSwatchGrid::Range> CSwatchGrid::selectedRange() const {
     Range range;
-    if (!control_.call(14, {&range.firstColumn, &range.firstRow, &range.lastColumn, &range.lastRow}, false))
+    if (!control().call(14, {&range.firstColumn, &range.firstRow, &range.lastColumn, &range.lastRow}, false))
         return std::nullopt;
     return range;
 }
 
 bool CSwatchGrid::hasSelectedRange() const {
     std::int16_t* const unasked = nullptr;
-    return control_.call(14, {unasked, unasked, unasked, unasked}, false);
+    return control().call(14, {unasked, unasked, unasked, unasked}, false);
 }
 
 bool CSwatchGrid::copySelected() {
-    return control_.call(15, {}, false);
+    return control().call(15, {}, false);
 }
 
 bool CSwatchGrid::hasCopiedCells() const {
-    return control_.call(16, {}, false);
+    return control().call(16, {}, false);
 }
 
 bool CSwatchGrid::paste(std::int16_t column, std::int16_t row) {
-    return control_.call(17, {column, row}, false);
+    return control().call(17, {column, row}, false);
 }
 
 std::int16_t CSwatchGrid::cellAt(std::int32_t x, std::int32_t y) const {
-    return control_.call(19, {x, y}, kNone);
+    return control().call(19, {x, y}, kNone);
 }
 
 void CSwatchGrid::setCellColour(std::int16_t cell, std::uint32_t colour) {
-    control_.call(26, {cell, static_cast<std::int32_t>(colour)});
+    control().call(26, {cell, static_cast<std::int32_t>(colour)});
 }
 
 void CSwatchGrid::setBankRow(std::int16_t row) {
-    control_.set(101, row);
+    control().set(101, row);
 }
 
 std::int16_t CSwatchGrid::clickedCell() const {
-    return control_.call(102, {}, kNone);
+    return control().call(102, {}, kNone);
 }
 
 void CSwatchGrid::describeAgain() {
-    control_.call(103, {});
+    control().call(103, {});
 }
 
 void CSwatchGrid::hearEvent(DispatchId event, DispatchArguments arguments) {

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "ui/controls/ControlClient.h"
+#include "ui/controls/ControlFrame.h"
 
 #include <QString>
-#include <QWidget>
 
 #include <cstdint>
 #include <functional>
@@ -14,7 +13,7 @@ namespace dyeworks {
 /// A grid of colour cells: places a SwatchGrid control and calls it. Cells are numbered row by row from 0.
 /// When the control is missing the widget stays empty, the operations do nothing, and what they answer is
 /// "no", "none" (-1) or 0.
-class CSwatchGrid : public QWidget {
+class CSwatchGrid : public ControlFrame {
     Q_OBJECT
 
 public:
@@ -34,11 +33,6 @@ public:
 
     explicit CSwatchGrid(QWidget* parent = nullptr);
     ~CSwatchGrid() override;
-
-    /// Whether there is a control.
-    [[nodiscard]] bool exists() const noexcept { return control_.exists(); }
-    /// The control's own window, which has the mouse and the keyboard; null when there is no control.
-    [[nodiscard]] QWidget* controlWindow() const { return control_.widget(); }
 
     /// Frames the current cell's row, whose entries a 4-bit image uses.
     void setBankMode(bool on); // 2
@@ -86,10 +80,9 @@ Q_SIGNALS:
     void cellsPasted(int first, int last);
 
 private:
-    void hearEvent(DispatchId event, DispatchArguments arguments);
+    void hearEvent(DispatchId event, DispatchArguments arguments) override;
 
     std::function<QString(int)> describer_;
-    ControlClient control_;
 };
 
 } // namespace dyeworks
