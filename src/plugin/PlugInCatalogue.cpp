@@ -76,9 +76,11 @@ void PlugInCatalogue::add(const std::string& fileName, int locale) {
     const struct {
         std::uint32_t bit;
         std::vector<PlugInInfo>& list;
-    } roles[] = {{DWPI_TMF_PREVIEW, previews_},        {DWPI_TMF_IMPORT, importers_},
-                 {DWPI_TMF_EXPORT, exporters_},        {DWPI_TPF_IMPORT, projectImporters_},
-                 {DWPI_TPF_EXPORT, projectExporters_}, {DWPI_TPF_NODE, nodeHandlers_}};
+    } roles[] = {{DWPI_TMF_PREVIEW, previews_},
+                 {DWPI_TMF_IMPORT, importers_},
+                 {DWPI_TMF_EXPORT, exporters_},
+                 {DWPI_TPF_EXPORT, projectExporters_},
+                 {DWPI_TPF_NODE, nodeHandlers_}};
     for (const auto& role : roles) {
         if ((info.type & role.bit) != 0)
             role.list.push_back(info);
@@ -103,8 +105,7 @@ void PlugInCatalogue::tellPlugInFailed(const std::string& fileName) {
 }
 
 void PlugInCatalogue::FreePlugIns() {
-    for (auto* list : {&importers_, &exporters_, &previews_, &projectImporters_, &projectExporters_,
-                       &nodeHandlers_, &all_})
+    for (auto* list : {&importers_, &exporters_, &previews_, &projectExporters_, &nodeHandlers_, &all_})
         list->clear();
 }
 

@@ -9,8 +9,8 @@
 
 namespace dyeworks {
 
-/// The plug-ins of the program, read once when it starts. A plug-in stands in the list of each of its roles;
-/// all lists are in the order of the file names, whatever their case.
+/// The plug-ins of the program, read once when it starts. A plug-in stands in the list of each role that the
+/// program calls it in; all lists are in the order of the file names, whatever their case.
 class PlugInCatalogue : private PlugInFailures {
 public:
     /// Loads the libraries in the folder "PlugIns" of the program's folder ("c:\program\") that accept the
@@ -28,9 +28,6 @@ public:
     [[nodiscard]] const std::vector<PlugInInfo>& importers() const noexcept { return importers_; }
     [[nodiscard]] const std::vector<PlugInInfo>& exporters() const noexcept { return exporters_; }
     [[nodiscard]] const std::vector<PlugInInfo>& previews() const noexcept { return previews_; }
-    [[nodiscard]] const std::vector<PlugInInfo>& projectImporters() const noexcept {
-        return projectImporters_;
-    }
     [[nodiscard]] const std::vector<PlugInInfo>& projectExporters() const noexcept {
         return projectExporters_;
     }
@@ -48,7 +45,6 @@ private:
     std::vector<PlugInInfo> importers_;
     std::vector<PlugInInfo> exporters_;
     std::vector<PlugInInfo> previews_;
-    std::vector<PlugInInfo> projectImporters_;
     std::vector<PlugInInfo> projectExporters_;
     std::vector<PlugInInfo> nodeHandlers_;
 };

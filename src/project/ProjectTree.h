@@ -44,7 +44,6 @@ public:
     /// The listener must outlive the tree; null for none.
     void setListener(ProjectTreeListener* listener) noexcept { listener_ = listener; }
 
-    [[nodiscard]] const std::vector<std::unique_ptr<ProjectNode>>& topNodes() const noexcept { return top_; }
     /// Of a node's children, or of the nodes at the top for null.
     [[nodiscard]] const std::vector<std::unique_ptr<ProjectNode>>&
     childrenOf(const ProjectNode* parent) const;

@@ -62,8 +62,6 @@ public:
         return palettes_ == nullptr ? &noPalettes_ : palettes_.get();
     }
     /// The picture shown at the start while it is up, else null.
-    [[nodiscard]] QWidget* splashScreen() const noexcept { return splash_; }
-    [[nodiscard]] const std::string& helpPath() const noexcept { return helpPath_; }
 
     // The kinds of documents.
     /// The kind called exactly so ("Texture", "Project"), or null.
@@ -169,7 +167,6 @@ private:
     CommandRouter router_;
     RecentFiles recentFiles_{[this](const std::string& path) { OpenDocumentFile(path); }};
     std::string programFolder_;
-    std::string helpPath_;
     PaletteSet noPalettes_; ///< Seen until the set is made.
     std::unique_ptr<PaletteSet> palettes_;
     CurrentProject project_;

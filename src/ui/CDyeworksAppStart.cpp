@@ -67,7 +67,6 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
     listenForOpenRequests(commandLine);
     if (!createPaletteSet())
         return false;
-    helpPath_ = programFolder_ + "..\\doc\\index.html";
     setPlugInHost(&plugInHost_);
     plugIns_.LoadPlugIns(programFolder_, localeOf(commandLine));
     for (const std::string& fileName : plugIns_.failed())

@@ -1,6 +1,7 @@
 #include "framework/widgets/ScrollView.h"
 
 #include <QApplication>
+#include <QScrollBar>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -25,7 +26,7 @@ TEST_F(ScrollViews, PositionStaysInsideTheContents) {
     EXPECT_EQ(view.scrollPosition(), QPoint(0, 800 - room().height()));
     view.setContentSize({1000, 300});
     EXPECT_EQ(view.scrollPosition(), QPoint(0, 300 - room().height()));
-    EXPECT_EQ(view.scrollPosition(), QPoint(0, view.maximumScrollPosition().y()));
+    EXPECT_EQ(view.verticalScrollBar()->maximum(), view.scrollPosition().y());
 }
 
 TEST_F(ScrollViews, MiddleButtonDragsTheContents) {

@@ -55,8 +55,7 @@ TEST_F(PlugInCalls, CatalogueListsWhatAcceptsTheProgramByItsRoles) {
     EXPECT_THAT(menuNames(catalogue_.all()), ElementsAre("a", "b", "c", "d"));
     for (const auto* list : {&catalogue_.importers(), &catalogue_.exporters(), &catalogue_.previews()})
         EXPECT_THAT(menuNames(*list), ElementsAre("a", "b"));
-    for (const auto* list :
-         {&catalogue_.projectImporters(), &catalogue_.projectExporters(), &catalogue_.nodeHandlers()})
+    for (const auto* list : {&catalogue_.projectExporters(), &catalogue_.nodeHandlers()})
         EXPECT_THAT(menuNames(*list), ElementsAre("a"));
     EXPECT_THAT(catalogue_.failed(), ElementsAre("d.so", "f.so"));
     EXPECT_EQ(fake_.library.loadedCount(), 4);

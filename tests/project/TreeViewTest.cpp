@@ -52,7 +52,7 @@ TEST_F(TreeView, HasOnlyTheNewNodesOfPlugInsThatBeginAnew) {
     document_.EndPlugIns();
     document_.RestartPlugIns();
     EXPECT_THAT(host_.take(), ElementsAre("delete", "new", "update", "update nodes", "select A"));
-    EXPECT_EQ(view_->tree().topNodes().size(), 1U);
+    EXPECT_EQ(view_->tree().childrenOf(nullptr).size(), 1U);
     EXPECT_EQ(node("\\Project")->children.size(), 1U);
     EXPECT_EQ(selected(), "\\Project\\Picture\\A");
 }

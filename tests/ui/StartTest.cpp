@@ -57,7 +57,6 @@ TEST_F(Start, GoesThroughItsStepsInOrder) {
             kinds.push_back(type.typeName + type.extension);
         EXPECT_THAT(kinds, ElementsAre("TMF.Document.tmf", "TPF.Document.tpf", "TLF.Document.tlf"));
         EXPECT_TRUE(fake_.shell.deliverOpenRequest({})) << "open requests are taken";
-        EXPECT_TRUE(app_->helpPath().empty());
         EXPECT_FALSE(frame().isVisible());
         steps.emplace_back("palettes");
         return make();
@@ -65,7 +64,6 @@ TEST_F(Start, GoesThroughItsStepsInOrder) {
     ASSERT_TRUE(launch(parts_));
     EXPECT_THAT(steps, ElementsAre("services", "frame", "palettes"));
     EXPECT_EQ(applicationPaletteSet(), app_->paletteSet());
-    EXPECT_EQ(app_->helpPath(), fake_.files.programFolder() + "..\\doc\\index.html");
     EXPECT_TRUE(frame().isVisible());
     EXPECT_THAT(texts(fake_), IsEmpty());
 }

@@ -35,10 +35,6 @@ QPoint ScrollView::scrollPosition() const {
     return {horizontalScrollBar()->value(), verticalScrollBar()->value()};
 }
 
-QPoint ScrollView::maximumScrollPosition() const {
-    return {horizontalScrollBar()->maximum(), verticalScrollBar()->maximum()};
-}
-
 void ScrollView::scrollTo(const QPoint& position) {
     horizontalScrollBar()->setValue(position.x());
     verticalScrollBar()->setValue(position.y());

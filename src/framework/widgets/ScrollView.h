@@ -22,17 +22,12 @@ public:
     void setContentSize(const QSize& size);
 
     [[nodiscard]] QPoint scrollPosition() const;
-    /// The greatest scroll position: the part of the contents that does not fit into the viewport.
-    [[nodiscard]] QPoint maximumScrollPosition() const;
     /// Scrolls to `position` or to the nearest one that there is.
     void scrollTo(const QPoint& position);
     void scrollBy(const QPoint& distance) { scrollTo(scrollPosition() + distance); }
 
     [[nodiscard]] QPoint toContent(const QPoint& viewportPoint) const {
         return viewportPoint + scrollPosition();
-    }
-    [[nodiscard]] QPoint toViewport(const QPoint& contentPoint) const {
-        return contentPoint - scrollPosition();
     }
 
     /// Asks for a repaint of a rectangle of the contents.

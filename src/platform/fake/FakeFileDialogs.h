@@ -23,7 +23,6 @@ public:
     /// Answers the next dialog with this path, after the answers still waiting. The path is handed out as it
     /// is. A dialog for which no answer is left is cancelled.
     void answerWith(std::string path) { answers_.emplace_back(std::move(path)); }
-    void cancelNext() { answers_.emplace_back(std::nullopt); }
     [[nodiscard]] std::size_t unusedAnswers() const noexcept { return answers_.size(); }
 
     std::optional<std::string> open(const FileDialogRequest& request) override;
@@ -32,7 +31,7 @@ public:
 private:
     std::optional<std::string> answer(Kind kind, const FileDialogRequest& request);
 
-    std::deque<std::optional<std::string>> answers_;
+    std::deque<std::string> answers_;
 };
 
 } // namespace dyeworks

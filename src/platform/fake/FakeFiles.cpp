@@ -42,10 +42,6 @@ void FakeFiles::mapDrive(char letter) {
     drives_[small] = ScratchFolder::subfolder(std::string("drive-") + small);
 }
 
-void FakeFiles::unmapDrive(char letter) {
-    drives_.erase(smallLetter(letter));
-}
-
 void FakeFiles::putFile(const std::string& path, std::span<const std::byte> bytes) {
     createDirectory(path + "\\..");
     if (PosixFiles::writePieces(path, FilePieces(&bytes, 1)))

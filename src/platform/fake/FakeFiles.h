@@ -20,7 +20,6 @@ public:
 
     /// Maps a drive to a folder of its own in the scratch folder, made where there is none.
     void mapDrive(char letter);
-    void unmapDrive(char letter);
 
     /// Host path of the scratch folder, without a trailing "/".
     [[nodiscard]] const std::string& hostFolder() const noexcept { return ScratchFolder::path(); }
