@@ -43,37 +43,6 @@ TEST_F(CanvasClipboard, TakesThePartBetweenTheCornersWithItsColours) {
     EXPECT_EQ(fake_.clipboard.bitmap(), expected);
 }
 
-TEST_F(CanvasClipboard, GivesTheBitmapsOfOtherProgramsTheUsualLayout) {
-    const struct {
-        const char* what;
-        BmpFile bitmap;
-        std::uint32_t topLeft;
-        std::uint32_t colours;
-    } cases[] = {
-        {"12 bytes", {.headerSize = 12}, 5, 256},
-        {"short table", {.coloursUsed = 7, .colours = 7}, 5, 256},
-        {"long table", {.coloursUsed = 300, .colours = 300}, 5, 256},
-        {"a table that 24 bits do not need",
-         {.width = 1, .bits = 24, .coloursUsed = 9, .colours = 9},
-         0x070605,
-         0},
-        {"124 bytes, 32 bits, top-down",
-         {.headerSize = 124, .width = 1, .height = -2, .bits = 32, .colours = 0},
-         0x04030201,
-         0},
-    };
-    for (const auto& [what, bitmap, topLeft, colours] : cases) {
-        SCOPED_TRACE(what);
-        fake_.clipboard.setBitmap(packed(bitmap));
-        const auto canvas = TextureCanvas::PasteFromClipboard();
-        ASSERT_NE(canvas, nullptr);
-        EXPECT_EQ(canvas->GetPixel(0, 0), topLeft);
-        EXPECT_EQ(canvas->height(), 2);
-        EXPECT_EQ(canvas->bitsPerPixel(), bitmap.bits);
-        EXPECT_EQ(canvas->block().size(), 54 + 4 * colours + 8);
-    }
-}
-
 TEST_F(CanvasClipboard, PastesNothingFromWhatIsNoBitmapThatACanvasCanHold) {
     const auto cutShort = [](std::vector<std::byte> bitmap) {
         bitmap.pop_back();
@@ -86,9 +55,6 @@ TEST_F(CanvasClipboard, PastesNothingFromWhatIsNoBitmapThatACanvasCanHold) {
         const char* what;
         std::vector<std::byte> bitmap;
     } cases[] = {
-        {"no bytes", {}},
-        {"run lengths", packed({.compression = 1})},
-        {"negative width", packed({.width = -4})},
         {"a byte is missing", cutShort(packed({}))},
         {"a table as large as can be", packed({.coloursUsed = 0xFFFFFFFFU})},
         {"more than a canvas may have", packed({.width = 0, .height = 1 << 27})},

@@ -85,18 +85,6 @@ TEST(CanvasLayout, BlocksThatCannotBeHadLeaveTheCanvasEmpty) {
     }
 }
 
-TEST(CanvasLayout, DeepPixelsAreShownInTheirOwnColours) {
-    for (const std::uint16_t bits : {std::uint16_t{16}, std::uint16_t{24}, std::uint16_t{32}}) {
-        TextureCanvas canvas;
-        ASSERT_TRUE(canvas.Create(1, 1, 1, bits));
-        canvas.SetPixel(0, 0, bits == 16 ? 31U << 10U | 16U << 5U : 0x00FF8400U);
-        std::uint32_t pixel = 0;
-        Surface surface{&pixel, 1, 1, 1};
-        EXPECT_EQ(canvas.Draw(surface, {0, 0, 1, 1}, {0, 0, 1, 1}), 1);
-        EXPECT_EQ(pixel, 0xFFFF8400U) << bits;
-    }
-}
-
 TEST(CanvasImages, TexelsKeepTheirPlacesAndPaddingIsZero) {
     const auto canvas = canvasOf({"123", "456"});
     canvas->FillBox(0, 0, 2, 0, 0xF);

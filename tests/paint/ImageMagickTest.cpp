@@ -16,15 +16,12 @@ Colours coloursOf(const TextureCanvas& canvas) {
         for (const std::uint32_t channel : {red, green, blue})
             colours.push_back(static_cast<std::uint8_t>(channel));
     };
-    const auto eightBits = [](std::uint32_t five) { return five << 3U | five >> 2U; };
     for (std::int32_t y = 0; y < canvas.height(); ++y) {
         for (std::int32_t x = 0; x < canvas.width(); ++x) {
             const std::uint32_t value = canvas.GetPixel(x, y);
             if (canvas.bitsPerPixel() <= 8) {
                 const std::uint8_t* colour = canvas.colourTable().data() + std::size_t{4} * value;
                 add(colour[2], colour[1], colour[0]);
-            } else if (canvas.bitsPerPixel() == 16) {
-                add(eightBits(value >> 10U & 31U), eightBits(value >> 5U & 31U), eightBits(value & 31U));
             } else {
                 add(value >> 16U & 0xFFU, value >> 8U & 0xFFU, value & 0xFFU);
             }
@@ -58,7 +55,7 @@ protected:
     FakePlatform fake_;
 };
 
-TEST_F(ImageMagick, WritesBitmapsThatOpenToThePixelsAndColoursThatItSees) {
+TEST_F(ImageMagick, SeesThePixelsAndColoursThatWeOpenAndSave) {
     const struct {
         const char* arguments;
         const char* format;
@@ -66,8 +63,6 @@ TEST_F(ImageMagick, WritesBitmapsThatOpenToThePixelsAndColoursThatItSees) {
         std::uint16_t bits;
     } cases[] = {
         {"-monochrome", "BMP2", 12, 1},
-        {"-colors 13", "BMP2", 12, 4},
-        {"-colors 60 -compress none", "BMP2", 12, 8},
         {"", "BMP2", 12, 24},
         {"-monochrome", "BMP3", 40, 1},
         {"-colors 13", "BMP3", 40, 4},
@@ -76,7 +71,6 @@ TEST_F(ImageMagick, WritesBitmapsThatOpenToThePixelsAndColoursThatItSees) {
         {"-alpha set -define bmp3:alpha=true", "BMP3", 40, 32},
         {"-monochrome", "BMP", 108, 1},
         {"-colors 13", "BMP", 124, 4},
-        {"-colors 60 -compress none", "BMP", 124, 8},
         {"", "BMP", 124, 24},
     };
     convert("-size 9x7 -seed 3 plasma:fractal -depth 8", "PNG24", "picture.png");
@@ -97,24 +91,9 @@ TEST_F(ImageMagick, WritesBitmapsThatOpenToThePixelsAndColoursThatItSees) {
             EXPECT_EQ(canvas.bitsPerPixel(), bits);
             EXPECT_EQ(canvas.width(), 9);
             EXPECT_EQ(coloursOf(canvas), seen("a.bmp"));
+            ASSERT_TRUE(canvas.SaveBmp(path("ours.bmp")));
+            EXPECT_EQ(coloursOf(canvas), seen("ours.bmp"));
         }
-    }
-}
-
-TEST_F(ImageMagick, SeesThePixelsAndColoursOfOurBitmaps) {
-    Random random(8);
-    constexpr std::uint16_t kDepths[] = {1, 4, 8, 16, 24, 32};
-    for (const std::uint16_t bits : kDepths) {
-        TextureCanvas canvas;
-        ASSERT_TRUE(canvas.Create(11, 5, 1, bits));
-        for (std::uint8_t& part : canvas.colourTable())
-            part = static_cast<std::uint8_t>(random.bits());
-        for (std::int32_t y = 0; y < 5; ++y) {
-            for (std::int32_t x = 0; x < 11; ++x)
-                canvas.SetPixel(x, y, random.bits());
-        }
-        ASSERT_TRUE(canvas.SaveBmp(path("ours.bmp")));
-        EXPECT_EQ(seen("ours.bmp"), coloursOf(canvas)) << bits;
     }
 }
 

@@ -81,13 +81,6 @@ TEST_F(Selecting, TheCursorFollowsToolAndKeys) {
     EXPECT_EQ(window.cursor, CursorShape::ZoomOut);
 }
 
-TEST_F(Selecting, ATexelAtTheOriginCountsAsNone) {
-    press({1, 1});
-    EXPECT_EQ(window.interval, 0);
-    release({1, 1});
-    EXPECT_EQ(view.selection().hit({1, 1}), TrackerHit::None);
-}
-
 TEST_F(Selecting, WhatFloatsIsPartOfTheWork) {
     document.setPathName("c:\\a.tmf");
     ASSERT_TRUE(document.save());

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "WholeImages.h"
 #include "framework/CommandIds.h"
 #include "paint/CDyeworksView.h"
 #include "paint/TextureCanvas.h"
 
 #include <algorithm>
-#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -30,16 +30,12 @@ inline constexpr ToolCommand kToolCommands[] = {{"Select", Tool::Select, ID_TOOL
                                                 {"ZoomLens", Tool::ZoomLens, ID_TOOL_ZOOM_LENS},
                                                 {"Replacer", Tool::Replacer, ID_TOOL_REPLACER}};
 
-/// Second description of what pointer, keys and commands do in a view: whole images for undo steps, and no
-/// thought for repaints. Of the view it uses nothing but the canvas's primitives and the tracker's handles.
-struct ToolModel {
-    using Image = std::unique_ptr<TextureCanvas>;
+/// Second description of what pointer, keys and commands do in a view, with no thought for repaints. Of the
+/// view it uses nothing but the canvas's primitives and the tracker's handles.
+struct ToolModel : WholeImages {
     using Menu = CDyeworksView::ContextMenu;
 
     // What can be seen.
-    Image image;
-    std::vector<Image> undone, redone; ///< Images to go back and forth to.
-    bool modified = false;
     Tool tool = Tool::Select;
     Tool atPress = Tool::Select;
     bool spuit = false;
@@ -89,28 +85,6 @@ struct ToolModel {
                                         : Menu::Tools;
     }
 
-    bool record(Image before) {
-        if (std::ranges::equal(before->pixelRows(), image->pixelRows()))
-            return false;
-        undone.push_back(std::move(before));
-        if (undone.size() > 100)
-            undone.erase(undone.begin());
-        redone.clear();
-        return modified = true;
-    }
-    template <typename Draw>
-    bool edit(Draw draw) {
-        Image before = image->Clone();
-        draw(*image);
-        return record(std::move(before));
-    }
-    void go(std::vector<Image>& from, std::vector<Image>& to) {
-        if (from.empty())
-            return;
-        to.push_back(std::exchange(image, std::move(from.back())));
-        from.pop_back();
-        modified = !undone.empty();
-    }
     bool clearSelected() {
         return edit([this](TextureCanvas& c) {
             c.FillBox(selection.left, selection.top, selection.right, selection.bottom, 0);
@@ -325,7 +299,7 @@ struct ToolModel {
         if (atPress != Tool::Select && atPress != Tool::Pixel && atPress != Tool::ZoomLens)
             image->CopyFrom(*snapshot);
         else if (atPress != Tool::ZoomLens && hasStep)
-            go(undone, redone);
+            undo();
     }
 
     /// False when the key does nothing; a key that zooms is left to the view.
@@ -400,9 +374,9 @@ struct ToolModel {
         if (id == ID_EDIT_PASTE && clipboard != nullptr)
             letFloat(clipboard->Clone());
         if (id == ID_EDIT_UNDO)
-            go(undone, redone);
+            undo();
         if (id == ID_EDIT_REDO)
-            go(redone, undone);
+            redo();
     }
 };
 

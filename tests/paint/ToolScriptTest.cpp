@@ -1,6 +1,7 @@
 #include "CanvasTesting.h"
 #include "ToolModel.h"
 #include "ViewTestWindow.h"
+#include "paint/ViewGeometry.h"
 #include "paint/ViewRenderer.h"
 
 #include <random>
@@ -115,12 +116,13 @@ protected:
 
     void zoomTo(std::int32_t zoom) {
         view.SetZoom(zoom);
-        followZoom(true);
+        model.zoomed(zoom, window.scroll, window.pointer);
     }
     /// Where zooming leads is the geometry's affair.
-    void followZoom(bool zooms) {
+    void followZoom(bool zooms, bool out) {
         if (zooms)
-            model.zoomed(view.zoom(), window.scroll, window.pointer);
+            model.zoomed(out ? ViewGeometry::zoomedOut(model.zoom) : ViewGeometry::zoomedIn(model.zoom),
+                         window.scroll, window.pointer);
     }
     void run(CommandId id) {
         view.runCommand(id);
@@ -150,13 +152,13 @@ protected:
         } else if (dice < 74) {
             log_ << "release";
             view.PointerReleased(event);
-            followZoom(model.release(event));
+            followZoom(model.release(event), event.control);
         } else if (dice < 84) {
             const KeyEvent key{oneOf(kKeys), below(6) == 0 ? 2 : 1, below(2) == 0, false};
             log_ << "key " << static_cast<int>(key.key) << " x" << key.repeatCount << ' ' << key.shift;
             const bool taken = model.keyDown(key);
             EXPECT_EQ(view.KeyPressed(key), taken) << lastEvent();
-            followZoom(taken && model.zooms(key.key));
+            followZoom(taken && model.zooms(key.key), key.key == Key::O || key.key == Key::NumpadDivide);
         } else if (dice < 91) {
             run(below(3) == 0 ? oneOf(kToolCommands).command : oneOf(kCommands));
         } else if (dice < 94) {
