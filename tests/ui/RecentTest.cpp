@@ -14,20 +14,16 @@ TEST_F(Recent, FilesGoIntoTheListOfTheirLastFourCharacters) {
 }
 
 TEST_F(Recent, TheMenuShowsThePlaceholderOrTheEntries) {
-    CommandUi first = app_.router().state(ID_RECENT_IMAGE_FIRST);
-    EXPECT_TRUE(first.visible && !first.enabled && !first.text.has_value());
-    EXPECT_FALSE(app_.router().state(ID_RECENT_IMAGE_FIRST + 1).visible);
-    EXPECT_FALSE(run(ID_RECENT_IMAGE_FIRST));
-
-    for (const char* path : {"c:\\a&b.tmf", "c:\\2.tmf", "c:\\3.tmf", "c:\\4.tmf"})
+    for (const auto& [first, path] : {std::pair{ID_RECENT_PROJECT_FIRST, "c:\\1&.tpf"},
+                                      {ID_RECENT_IMAGE_FIRST, "c:\\1&.tmf"},
+                                      {ID_RECENT_PALETTE_FIRST, "c:\\1&.tlf"}}) {
+        const CommandUi empty = app_.router().state(first);
+        EXPECT_TRUE(empty.visible && !empty.enabled && !empty.text.has_value());
         app_.AddToRecentFileList(path);
-    EXPECT_EQ(app_.router().state(ID_RECENT_IMAGE_FIRST).text, "&1 4.tmf");
-    const CommandUi last = app_.router().state(ID_RECENT_IMAGE_FIRST + 3);
-    EXPECT_EQ(last.text, "&4 a&&b.tmf");
-    EXPECT_TRUE(last.visible && last.enabled);
-    EXPECT_FALSE(app_.router().state(ID_RECENT_IMAGE_FIRST + 4).visible);
-    EXPECT_FALSE(app_.router().state(ID_RECENT_IMAGE_LAST).visible);
-    EXPECT_FALSE(run(ID_RECENT_IMAGE_FIRST + 4));
+        EXPECT_EQ(app_.router().state(first).text, "&1 1&&" + std::string(path).substr(5));
+        EXPECT_TRUE(enabled(first));
+        EXPECT_FALSE(app_.router().state(first + 1).visible);
+    }
 }
 
 TEST_F(Recent, EntriesOpenTheirFilesAndWhatIsOpenedOrSavedUnderAnotherNameIsFirst) {

@@ -47,13 +47,6 @@ TEST_F(Resume, OpensTheRestAfterAFailureAndTellsOnce) {
     }
 }
 
-TEST_F(Resume, NothingWhenTheCommandLineAsksForSomething) {
-    stored() = {{"count", "1"}, {"0", "c:\\gone.tmf"}};
-    commandLine_.task = CommandLine::Task::Receive;
-    ASSERT_TRUE(launch());
-    EXPECT_THAT(fake_.messages.shown, IsEmpty());
-}
-
 TEST_F(Resume, SavedPalettesAndWindowsFromTheActiveOneDownComeBack) {
     ASSERT_TRUE(launch());
     ASSERT_TRUE(app_->paletteSet()->newPalette(16, ColourType::Rgba, 1));

@@ -29,9 +29,6 @@ protected:
     }
     Rect selection() { return view().view().selection().texels().value_or(Rect{}); }
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&view(), key, modifiers); }
-    void click(QPoint texel, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::mouseClick(view().viewport(), button, modifiers, at(texel.x(), texel.y()));
-    }
     /// What the context menu at a texel offers; empty when there is none.
     QStringList contextMenu(QPoint texel) {
         const QPoint place = at(texel.x(), texel.y());
@@ -50,35 +47,48 @@ protected:
     }
 };
 
-TEST_F(Tools, ASelectionIsMovedAndPlaced) {
+TEST_F(Tools, StrokesAndSelectionsOfMouseAndKeysAreUndoneAndSaved) {
+    run(ID_TOOL_LINE);
+    drag({{10, 10}, {12, 12}}, Qt::AltModifier); // from its centre
+    const Texels line = texels(
+        kSide, kSide, [](int x, int y) { return x == y && x >= 8 && x <= 12 ? 200U : groundAt(x, y); });
+    EXPECT_EQ(canvas(), line);
+    EXPECT_EQ(image().title(), "pic.tmf [pic] * ");
+    ASSERT_TRUE(run(ID_EDIT_UNDO)) << "one stroke, one step";
+    EXPECT_FALSE(enabled(ID_EDIT_UNDO));
+    EXPECT_EQ(canvas(), ground());
+    ASSERT_TRUE(run(ID_EDIT_REDO));
+    ASSERT_TRUE(run(ID_FILE_SAVE));
+    EXPECT_EQ(fake_.files.textOf("c:\\tex\\pic.tmf"), imageFile(line, 8));
+    ASSERT_TRUE(run(ID_FILE_CLOSE) && app_.OpenDocumentFile("c:\\tex\\pic.tmf"));
+    EXPECT_EQ(canvas(), line);
+
+    run(ID_TOOL_SELECT);
     drag({{2, 2}, {5, 5}});
     EXPECT_EQ(selection(), (Rect{2, 2, 5, 5}));
-    drag({{3, 4}, {6, 6}, {10, 9}}); // between the handles
+    drag({{3, 4}, {6, 6}, {10, 19}}); // between the handles
     key(Qt::Key_Left);
-    EXPECT_EQ(selection(), (Rect{8, 7, 11, 10}));
     key(Qt::Key_Return);
+    EXPECT_EQ(selection(), Rect{});
     EXPECT_EQ(canvas(), texels(kSide, kSide, [&](int x, int y) {
-                  if (x >= 8 && x <= 11 && y >= 7 && y <= 10)
-                      return groundAt(x - 6, y - 5);
                   const bool cut = x >= 2 && x <= 5 && y >= 2 && y <= 5;
-                  return cut ? 0U : groundAt(x, y);
+                  const bool placed = x >= 8 && x <= 11 && y >= 17 && y <= 20;
+                  return placed ? groundAt(x - 6, y - 15)
+                         : cut  ? 0U
+                                : line[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)];
               }));
 }
 
-TEST_F(Tools, ColoursArePickedAndTheLensDrawsNothing) {
+TEST_F(Tools, ColoursArePickedWithControlAndWithTheSpuit) {
     run(ID_TOOL_PEN);
-    click({5, 6}, Qt::LeftButton, Qt::ControlModifier);
-    EXPECT_EQ(app_.imageHost().paletteBarCell(), static_cast<int>(groundAt(5, 6)));
-    click({7, 7}, Qt::RightButton);
-    EXPECT_EQ(app_.imageHost().paletteBarCell(), static_cast<int>(groundAt(5, 6))) << "not before it is on";
+    const auto click = [this](Qt::MouseButton button, Qt::KeyboardModifiers modifiers, QPoint texel) {
+        QTest::mouseClick(view().viewport(), button, modifiers, at(texel.x(), texel.y()));
+        return app_.imageHost().paletteBarCell();
+    };
+    EXPECT_EQ(click(Qt::LeftButton, Qt::ControlModifier, {5, 6}), static_cast<int>(groundAt(5, 6)));
     run(ID_TOOL_SPUIT);
-    click({7, 7}, Qt::RightButton);
-    EXPECT_EQ(app_.imageHost().paletteBarCell(), static_cast<int>(groundAt(7, 7)));
+    EXPECT_EQ(click(Qt::RightButton, {}, {7, 7}), static_cast<int>(groundAt(7, 7)));
     EXPECT_THAT(contextMenu({7, 7}), IsEmpty());
-    run(ID_TOOL_ZOOM_LENS);
-    click({10, 10});
-    EXPECT_EQ(view().viewport()->cursor().hotSpot(), QPoint(8, 8));
-    EXPECT_EQ(canvas(), ground());
 }
 
 TEST_F(Tools, ContextMenusFollowTheTool) {
@@ -105,6 +115,9 @@ TEST_F(Tools, LettersChooseToolsAndLeaveTheZoomKeysAlone) {
     key(Qt::Key_Slash, Qt::KeypadModifier);
     EXPECT_EQ(view().view().zoom(), 4);
     EXPECT_EQ(currentTool(), Tool::Pen);
+    run(ID_TOOL_ZOOM_LENS);
+    moveMouse(at(8, 8), Qt::NoButton);
+    EXPECT_EQ(view().viewport()->cursor().hotSpot(), QPoint(8, 8));
 }
 
 TEST_F(Tools, LosingTheFocusOrTheReleaseTakesADragBack) {
@@ -123,6 +136,35 @@ TEST_F(Tools, LosingTheFocusOrTheReleaseTakesADragBack) {
         EXPECT_EQ(canvas(), ground());
         EXPECT_EQ(image().title(), "pic.tmf [pic]");
     }
+}
+
+using Drawing = Program;
+
+TEST_F(Drawing, ABankOfTheFourBitImageShowsItsEntriesAndStoresLowBits) {
+    openAttached(texels(10, 6, [](int x, int) { return static_cast<unsigned>(x); }), 4, 256);
+    frame().SetPaletteBarNumber(3);
+    EXPECT_EQ(app_.imageHost().paletteBarFirstEntry(), 48);
+    const auto table = image().canvas().colourTable();
+    for (int i = 0; i < 16; ++i) {
+        std::uint8_t red = 0, green = 0, blue = 0, flags = 0;
+        ASSERT_TRUE(image().GetAttachedPalette()->toPaletteEntry(48 + i, red, green, blue, flags));
+        const std::size_t at = 4 * static_cast<std::size_t>(i);
+        EXPECT_THAT(table.subspan(at, 3), ElementsAre(blue, green, red)) << i;
+    }
+    drawPixel({2, 2}, 48 + 13);
+    EXPECT_EQ(canvas()[2][2], 13U);
+}
+
+TEST_F(Drawing, AHalfPixelOfAScaledDisplayBelongsToThePixelItLiesIn) {
+    openBlank();
+    ASSERT_TRUE(run(ID_TOOL_PIXEL));
+    app_.imageHost().selectPaletteBarCell(9);
+    const QPointF position(5.75, 6.5);
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, position, view().viewport()->mapToGlobal(position), Qt::LeftButton, {}, {});
+        QCoreApplication::sendEvent(view().viewport(), &event);
+    }
+    EXPECT_EQ(canvas()[6][5], 9U);
 }
 
 } // namespace

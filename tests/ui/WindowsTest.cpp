@@ -46,7 +46,7 @@ TEST_F(Windows, EachWindowOfAnImageHasItsNumberUntilItIsAlone) {
     EXPECT_EQ(titleOf(*second_), "pic.tmf [pic]");
 }
 
-TEST_F(Windows, EachHasItsZoomAndAllShowWhatIsPaintedAndTheLastOneIsRemembered) {
+TEST_F(Windows, EachHasItsZoomAndAllShowWhatIsPainted) {
     openTwoWindows();
     ASSERT_TRUE(run(ID_ZOOM_X8));
     EXPECT_EQ(viewIn(*first_).view().zoom(), 1);
@@ -61,30 +61,6 @@ TEST_F(Windows, EachHasItsZoomAndAllShowWhatIsPaintedAndTheLastOneIsRemembered) 
     ASSERT_TRUE(run(ID_EDIT_UNDO)) << "the history is the image's, whichever window asks";
     EXPECT_EQ(shown(*first_), before);
     EXPECT_EQ(titleOf(*second_), "pic.tmf [pic]:2");
-
-    ASSERT_TRUE(run(ID_ZOOM_X3));
-    ASSERT_TRUE(run(ID_FILE_CLOSE));
-    ASSERT_TRUE(run(ID_FILE_CLOSE));
-    ASSERT_TRUE(app_.OpenDocumentFile("c:\\tex\\pic.tmf"));
-    EXPECT_EQ(view().view().zoom(), 8) << "as the last window stood";
-    EXPECT_EQ(frame().childFrames().size(), 1U);
-}
-
-TEST_F(Windows, OnlyTheLastWindowAsksWhetherToSave) {
-    openTwoWindows();
-    drawPixel({1, 1}, 9);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&frame()));
-    frame().commandActions().refresh();
-    QTest::keyClick(&view(), Qt::Key_W, Qt::ControlModifier);
-    EXPECT_EQ(image().views().size(), 1U);
-    EXPECT_TRUE(fake_.messages.shown.empty());
-    EXPECT_EQ(app_.imageTemplate().documents().size(), 1U);
-    fake_.messages.answerWith({MessageAnswer::Cancel, MessageAnswer::No});
-    ASSERT_TRUE(run(ID_FILE_CLOSE));
-    EXPECT_EQ(app_.imageTemplate().documents().size(), 1U) << "cancelled";
-    ASSERT_TRUE(run(ID_FILE_CLOSE));
-    EXPECT_EQ(fake_.messages.shown.size(), 2U);
-    EXPECT_TRUE(app_.imageTemplate().documents().empty());
 }
 
 TEST_F(Windows, FramesRealizeColoursThatChangedWhoeverSaysSoButThemselves) {
