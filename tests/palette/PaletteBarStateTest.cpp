@@ -84,8 +84,10 @@ TEST_F(PaletteBar, TipsAreCutBetweenCharacters) {
 }
 
 TEST_F(PaletteBar, TellsTheViewOncePerAction) {
-    open(16, ColourType::Rgba);
     open(256, ColourType::Ia);
+    open(256, ColourType::Ia);
+    // The last tab is the one that stays as it is.
+    bar_.TabChosen(0);
     const auto count = [this](const std::function<void()>& action) {
         read_ = {};
         action();
@@ -96,7 +98,7 @@ TEST_F(PaletteBar, TellsTheViewOncePerAction) {
     EXPECT_THAT(count([this] { run(ID_PALETTE_UNDO); }), ElementsAre(1, 0, 1));
     ASSERT_TRUE(palette().table.create(256, ColourType::Rgba));
     EXPECT_THAT(count([this] { bar_.RefreshFromPalette(); }), ElementsAre(1, 1, 0)) << "of another kind now";
-    EXPECT_THAT(count([this] { bar_.TabChosen(0); }), ElementsAre(1, 1, 1));
+    EXPECT_THAT(count([this] { bar_.TabChosen(1); }), ElementsAre(1, 1, 1));
 }
 
 } // namespace

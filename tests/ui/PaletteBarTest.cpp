@@ -128,6 +128,13 @@ TEST_F(PaletteBarWindow, EachWayToEditAnEntryShowsInTheImageAndIsApplied) {
     const auto blueByTrackbar = [this] {
         find<QSlider>(IDC_BLUE_TRACK).triggerAction(QAbstractSlider::SliderToMaximum);
     };
+    const auto fromALeftEnd = [this] {
+        type(IDC_ENTRY, "7000");
+        find<QPushButton>(IDC_GRADIENT_LEFT).click();
+        type(IDC_ENTRY, "0");
+        find<QPushButton>(IDC_GRADIENT_RIGHT).click();
+        click(find<CSwatchGrid>(IDC_GRADIENT), 0);
+    };
     /// Each takes the entry 0 to the value that follows, and the image to the colour.
     const std::tuple<ColourType, std::function<void()>, unsigned, Rgb> ways[] = {
         {ColourType::Rgba, [this] { type(IDC_RED, "31"); }, 0xF800, {248, 0, 0}},
@@ -136,6 +143,7 @@ TEST_F(PaletteBarWindow, EachWayToEditAnEntryShowsInTheImageAndIsApplied) {
         {ColourType::Rgba, blueByTrackbar, 0x003E, {0, 0, 248}},
         {ColourType::Rgba, [=] { toTheEnd(IDC_ALPHA_SLIDER); }, 0x0001, {0, 0, 0}},
         {ColourType::Rgba, [this] { click(find<CSwatchGrid>(IDC_GRADIENT), 31); }, 0xFFFE, {248, 248, 248}},
+        {ColourType::Rgba, fromALeftEnd, 0x7000, {112, 0, 0}},
         {ColourType::Ia, [=] { toTheEnd(IDC_RED_SLIDER); }, 0xFF00, {255, 255, 255}},
         {ColourType::Ia, [this] { type(IDC_ALPHA, "16"); }, 0x0010, {0, 0, 0}},
     };
