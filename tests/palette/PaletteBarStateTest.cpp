@@ -32,6 +32,8 @@ TEST_F(PaletteBar, StartsEmptyAndDoesNothingWithoutAPalette) {
 TEST_F(PaletteBar, CommandsWriteIntoThePaletteThatTheyWereRunFor) {
     open(16, ColourType::Rgba);
     const std::string key = set_.currentKey;
+    ASSERT_TRUE(run(ID_PALETTE_EDIT));
+    EXPECT_FALSE(enabled(ID_PALETTE_UNDO)) << "cancelled";
     answer_ = std::uint16_t{0xABCD};
     whileAsking_ = [this] { open(16, ColourType::Ia); };
     ASSERT_TRUE(run(ID_PALETTE_EDIT));
