@@ -40,11 +40,11 @@ protected:
 
 TEST_F(PlugInCalls, CatalogueListsWhatAcceptsTheProgramByItsRoles) {
     fake_.versionInfo.programRecord.fileVersion = {1, 0x102, 3, 4};
-    add("b.so", {}, always<0x47>());
+    add("B.so", {}, always<0x47>());
     add("a.so", {}, always<0x3F>());
     add("c.so", {}, nullptr);
     add("d.so", {}, always<kThrows>());
-    add("e.so", {{"DWPI_isAvail", always<0>()}}, always<1>());
+    add("e.so", {{"DWPI_isAvail", always<0>()}}, entry<'t', ' '>());
     add("f.so", {{"DWPI_isAvail", always<kThrows>()}}, always<1>());
     add("g.so", {{"DWPI_isAvail", nullptr}}, always<1>());
     for (const char* none : {"h.so", "i.txt", "j.so\\x"})
@@ -52,9 +52,9 @@ TEST_F(PlugInCalls, CatalogueListsWhatAcceptsTheProgramByItsRoles) {
     load();
     EXPECT_EQ(calls, Lines(4, "v  16909060"));
     EXPECT_EQ(catalogue_.all()[1].type, 0x47U);
-    EXPECT_THAT(menuNames(catalogue_.all()), ElementsAre("a", "b", "c", "d"));
+    EXPECT_THAT(menuNames(catalogue_.all()), ElementsAre("a", "B", "c", "d"));
     for (const auto* list : {&catalogue_.importers(), &catalogue_.exporters(), &catalogue_.previews()})
-        EXPECT_THAT(menuNames(*list), ElementsAre("a", "b"));
+        EXPECT_THAT(menuNames(*list), ElementsAre("a", "B"));
     for (const auto* list : {&catalogue_.projectExporters(), &catalogue_.nodeHandlers()})
         EXPECT_THAT(menuNames(*list), ElementsAre("a"));
     EXPECT_THAT(catalogue_.failed(), ElementsAre("d.so", "f.so"));
@@ -64,7 +64,9 @@ TEST_F(PlugInCalls, CatalogueListsWhatAcceptsTheProgramByItsRoles) {
 }
 
 TEST_F(PlugInCalls, StringsAreOfTheProgramsLanguageThenEnglish) {
-    add("a.so", {}, nullptr);
+    add("a.so", {{"DWPI_onLanguage", entry<'l', ' ', Word>()}}, nullptr);
+    add("b.so", {}, nullptr);
+    fake_.versionInfo.records.erase(folder_ + "b.so");
     fake_.locale.locale = kLocaleJapanese;
     fake_.versionInfo.records[folder_ + "a.so"] = {
         {1, 2, 3, 4},
@@ -77,6 +79,9 @@ TEST_F(PlugInCalls, StringsAreOfTheProgramsLanguageThenEnglish) {
         const PlugInInfo& info = catalogue_.all().front();
         EXPECT_EQ(Lines({info.internalName, info.productName, info.comments, info.companyName}), strings);
         EXPECT_THAT(info.version, ElementsAre(4, 3, 2, 1));
+        EXPECT_THAT(catalogue_.all()[1].version, ElementsAre(0, 0, 0, 0));
+        EXPECT_THAT(std::exchange(calls, {}),
+                    ElementsAre(testing::_, "l  " + std::to_string(locale), testing::_));
     }
 }
 
@@ -126,7 +131,10 @@ TEST_F(PlugInCalls, ImportTakesOnlyWhatIsNewAndRight) {
         bool withPalette = true;
     } cases[] = {
         {"record",
-         [](Picture in, auto* out) { EXPECT_EQ(Noted::text(in) + Noted::text(out), "160160"); },
+         [&](Picture in, auto* out) {
+             EXPECT_EQ(Noted::text(in) + Noted::text(out), "160160");
+             EXPECT_EQ(fake_.waitCursor.depth, 1);
+         },
          {}},
         {"in place", [](Picture in, auto) { DW_setTexel(in->image, 1, 0, 9); }, {.texel = 9}},
         {"same pointers", [](Picture in, auto* out) { *out = *in; }, {}},
@@ -144,6 +152,25 @@ TEST_F(PlugInCalls, ImportTakesOnlyWhatIsNewAndRight) {
         {"width",
          [](Picture, auto* out) { out->image = DW_newImage(3, 2, 4), out->image->width = -3; },
          {.failed = true}},
+        {"height",
+         [](Picture, auto* out) { out->image = DW_newImage(3, 2, 4), out->image->height = 65537; },
+         {.failed = true}},
+        {"depth",
+         [](Picture, auto* out) { out->image = DW_newImage(3, 2, 4), out->image->bits = 5; },
+         {.failed = true}},
+        {"no texels",
+         [](Picture, auto* out) {
+             out->image = DW_newImage(3, 2, 4), std::free(std::exchange(out->image->texels, nullptr));
+         },
+         {.failed = true}},
+        {"type",
+         [&](Picture, auto* out) { out->palette = blue(16), out->palette->colourType = 2; },
+         {.failed = true}},
+        {"no entries",
+         [&](Picture, auto* out) {
+             out->palette = blue(16), std::free(std::exchange(out->palette->entries, nullptr));
+         },
+         {.failed = true}},
         {"input's texels",
          [](Picture in, auto* out) {
              out->image = DW_newImage(2, 1, 4);
@@ -151,7 +178,10 @@ TEST_F(PlugInCalls, ImportTakesOnlyWhatIsNewAndRight) {
          },
          {.failed = true}},
         {"changed",
-         [](Picture in, auto) { in->image->height = 9, in->palette->count = 16; },
+         [](Picture in, auto) { in->image->height = 9, in->image->texels = nullptr; },
+         {.failed = true}},
+        {"changed palette",
+         [](Picture in, auto) { in->palette->count = 16, in->palette->entries = nullptr; },
          {.failed = true}},
         {"throw",
          [](Picture in, auto) { DW_setTexel(in->image, 1, 0, 9), throw kThrows; },
@@ -221,7 +251,8 @@ TEST_F(PlugInCalls, GoInOrderWithTheHandleOfEachPlugIn) {
     symbols = everything<'b'>();
     add("b.so", symbols, always<0x36>());
     add("c.so", everything<'c'>(), always<0x20>());
-    add("d.so", everything<'d'>(), always<0x10>());
+    add("d.so", everything<'d'>(), always<0x11>());
+    add("e.so", everything<'e'>(), always<0x01>());
     load();
     calls.clear();
     PlugInHandles handles;
@@ -231,6 +262,10 @@ TEST_F(PlugInCalls, GoInOrderWithTheHandleOfEachPlugIn) {
         for (const std::int32_t index : indices)
             results += std::to_string(images_.ExportImage(index, &image_, nullptr, 16));
         return results;
+    };
+    const auto imports = [&](std::int32_t index) {
+        dyeworks::import = [](Picture, auto* out) { out->image = DW_newImage(3, 2, 4); };
+        return std::string(images_.ImportImage(index, &image_, nullptr, 0) == nullptr ? "none" : "image");
     };
     const auto preview = [&](TlutData* palette) {
         return std::to_string(images_.PreviewImage(&image_, palette, 16, 1));
@@ -272,6 +307,7 @@ TEST_F(PlugInCalls, GoInOrderWithTheHandleOfEachPlugIn) {
         {{{'d', kThrows}}, [&] { return project(1); }, "0", {"de - p"}},
         {{}, [&] { return project(2) + project(-1); }, "00", {}},
         {{}, [&] { return handles.pop_back(), projects_.TPF_OnUpdate(handles), ""; }, "", {"au -", "bu b"}},
+        {{{'e', 1}}, [&] { return imports(0) + imports(1) + imports(2); }, "noneimagenone", {}},
         {{{'a', 5}},
          [&] {
              return exports({0, 1});

@@ -81,8 +81,8 @@ void PlugInProgram::start() {
                      });
 }
 
-void PlugInProgram::openImage(bool attached) {
-    ASSERT_TRUE(app_->OpenFiles(attached ? Lines{kPalette, kImage} : Lines{kImage}, attached));
+void PlugInProgram::openImage() {
+    ASSERT_TRUE(app_->OpenFiles({kPalette, kImage}, true));
     QCoreApplication::processEvents();
 }
 

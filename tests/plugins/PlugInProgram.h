@@ -22,8 +22,8 @@ protected:
     void install(const std::string& library, const std::string& file);
     /// Starts the program.
     void start();
-    /// Opens the image, 24 by 8 texels of 8 bits, all 1, and its palette, attached or not.
-    void openImage(bool attached = true);
+    /// Opens the image, 24 by 8 texels of 8 bits, all 1, and its palette, attached to it.
+    void openImage();
     /// Opens the project, which has one picture.
     void openProject();
     /// Leaves the program without saving.

@@ -228,16 +228,16 @@ TEST_F(ProjectFile, UnsavedChangesAreNotOverwritten) {
 
 TEST_F(ProjectFile, WritesNothingThatWouldBeReadOtherwise) {
     const std::string lines = "PICT_NUM = 1\nPICT.0 = A,a\n";
-    for (const std::string& name : {std::string("a#b"), std::string(" a"), std::string(500, 'x')}) {
-        file_ = {};
-        read(lines);
-        set(name);
-        EXPECT_FALSE(file_.Write(kPath)) << name;
-        EXPECT_TRUE(file_.IsModified());
-    }
+    read(lines);
+    set("a#b");
+    EXPECT_FALSE(file_.Write(kPath));
+    EXPECT_TRUE(file_.IsModified());
     EXPECT_EQ(fake_.files.textOf(kPath), lines);
-    EXPECT_FALSE(CTPFFile::holdsPicture("A", {"a,b.tmf", "", 0}));
-    EXPECT_FALSE(CTPFFile::holdsPicture("A", {"", "$(X).tlf", 0}));
+    for (const char* field : {"a,b", "$(X)"}) {
+        EXPECT_FALSE(CTPFFile::holdsPicture(field, {}) || CTPFFile::holdsPicture("A", {field, "", 0}) ||
+                     CTPFFile::holdsPicture("A", {"", field, 0}))
+            << field;
+    }
     EXPECT_TRUE(CTPFFile::holdsPicture("A \xE8\xA1\xA8", {"sub\\a=b.tmf", "", 15}));
 }
 

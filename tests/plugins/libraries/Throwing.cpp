@@ -4,7 +4,7 @@
 
 IS_CALLED("throwing");
 ACCEPTS
-HAS_ROLES(DWPI_TMF_IMPORT | DWPI_TMF_EXPORT | DWPI_TMF_PREVIEW | DWPI_TPF_EXPORT | DWPI_TPF_NODE)
+HAS_ROLES(DWPI_TMF_IMPORT | DWPI_TMF_EXPORT | DWPI_TMF_PREVIEW)
 
 namespace {
 
@@ -27,13 +27,4 @@ std::uint32_t DWPI_export(const PlugInPicture* /*picture*/) {
 }
 std::uint32_t DWPI_preview2(const PlugInPicture* /*picture*/, std::uint32_t /*which*/) {
     fail("preview2");
-}
-DwHandle DWPI_TPF_onNew(void) {
-    fail("onNew");
-}
-std::uint32_t DWPI_TPF_onUpdateNodes(DwHandle handle) {
-    fail(handle == nullptr ? "onUpdateNodes" : "onUpdateNodes with a handle");
-}
-std::uint32_t DWPI_TPF_export(DwHandle /*handle*/, const char* /*projectPath*/) {
-    fail("TPF_export");
 }

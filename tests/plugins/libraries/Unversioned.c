@@ -1,4 +1,0 @@
-#include "TestPlugIn.h"
-
-ACCEPTS
-HAS_ROLES(DWPI_TMF_IMPORT | DWPI_TMF_PREVIEW)
