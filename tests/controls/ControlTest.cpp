@@ -2,8 +2,6 @@
 
 #include "ui/controls/ControlRegistration.h"
 
-#include <QCoreApplication>
-
 namespace dyeworks {
 
 void RecordingSink::controlEvent(DispatchId event, DispatchArguments arguments) {
@@ -39,9 +37,6 @@ ControlTest::ControlTest() {
 
 ControlTest::~ControlTest() {
     destroy();
-    for (const char* name : {"SwatchGrid", "RampSlider", "FolderPick"})
-        QCoreApplication::instance()->setProperty((std::string(kControlPropertyPrefix) + name).c_str(),
-                                                  QVariant());
 }
 
 void ControlTest::create(const std::string& className) {

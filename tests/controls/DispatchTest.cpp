@@ -30,14 +30,13 @@ TEST_F(ControlTest, WrongCallsAreRefusedByEveryControl) {
     using enum DispatchStatus;
     std::string text;
     std::string* const nowhere = nullptr;
-    struct Case {
+    const struct {
         const char* control;
         DispatchId id;
         DispatchKind kind;
         std::vector<DispatchValue> arguments;
         DispatchStatus status;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"SwatchGrid", 1, Method, {}, MemberNotFound},
         {"SwatchGrid", 2, Get, {}, MemberNotFound},
         {"SwatchGrid", 2, Set, {longValue(2)}, BadParameter},
@@ -63,7 +62,7 @@ TEST_F(ControlTest, WrongCallsAreRefusedByEveryControl) {
         {"FolderPick", 4, Method, {longValue(1), &text}, BadParameter},
         {"FolderPick", 4, Method, {longValue(0), std::string()}, BadParameter},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         create(c.control);
         EXPECT_EQ(invoke(c.id, c.kind, c.arguments).status, c.status) << c.control << " " << c.id;
     }
@@ -89,34 +88,27 @@ TEST_F(ControlTest, LibrariesGoWithTheirLastObjectAndLeaveNothingBehind) {
     QAccessible::setActive(false);
 }
 
-TEST_F(ControlTest, MissingFilesLeaveWrappersEmpty) {
-    fake_.library.forget("SwatchGrid.ocx");
-    fake_.library.forget("RampSlider.ocx");
-    fake_.library.forget("FolderPick.ocx");
+TEST_F(ControlTest, WrappersOfWhatIsNoControlAreEmpty) {
+    for (const char* file : {"SwatchGrid.ocx", "RampSlider.ocx", "FolderPick.ocx"})
+        fake_.library.forget(file);
     EXPECT_FALSE(registerControl("SwatchGrid.ocx"));
+    // A file that lost its factory, which registers nothing and loads all the same.
+    fake_.library.define("RampSlider.ocx", {});
+    EXPECT_TRUE(registerControl("RampSlider.ocx"));
     CSwatchGrid grid;
-    EXPECT_FALSE(grid.exists());
-    EXPECT_FALSE(grid.setCellCount(4));
-    EXPECT_FALSE(grid.selectedRange());
+    EXPECT_FALSE(grid.exists() || grid.setCellCount(4) || grid.selectedRange());
     EXPECT_EQ(grid.marker(0), CSwatchGrid::kNone);
     CRampSlider slider;
     EXPECT_FALSE(slider.exists());
     slider.setValue(3);
     EXPECT_EQ(slider.value(), 0);
     EXPECT_EQ(CFolderPick::create(), nullptr);
+    EXPECT_EQ(fake_.library.loadedCount(), 0);
 }
 
-TEST_F(ControlTest, ALibraryThatRegistersNothingLoadsAllTheSame) {
-    fake_.library.define("Plain.ocx", {});
-    EXPECT_TRUE(registerControl("Plain.ocx"));
-    // Nor does a file make a class known before it is registered.
+TEST_F(ControlTest, AFileMakesNoClassKnownBeforeItIsRegistered) {
     QCoreApplication::instance()->setProperty("dyeworks.control.RampSlider", QVariant());
     EXPECT_FALSE(CRampSlider().exists());
-    // A file that lost its factory is no control.
-    fake_.library.forget("SwatchGrid.ocx");
-    fake_.library.define("SwatchGrid.ocx", {});
-    EXPECT_FALSE(CSwatchGrid().exists());
-    EXPECT_EQ(fake_.library.loadedCount(), 0);
 }
 
 TEST_F(ControlTest, WrappersReachTheMembersOfTheirNames) {

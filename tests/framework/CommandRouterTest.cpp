@@ -70,14 +70,4 @@ TEST_F(CommandRouting, RangeIsInclusiveAndTellsWhichCommand) {
     EXPECT_THAT(log, ElementsAre("view32901", "view32916"));
 }
 
-TEST_F(CommandRouting, ListThatNobodyTakesShowsItsFirstCommandAlone) {
-    EXPECT_TRUE(router.state(ID_RECENT_IMAGE_FIRST).visible);
-    EXPECT_FALSE(router.state(ID_RECENT_IMAGE_FIRST).enabled);
-    EXPECT_FALSE(router.state(ID_RECENT_IMAGE_FIRST + 1).visible);
-    EXPECT_FALSE(router.state(ID_RECENT_IMAGE_LAST).visible);
-    EXPECT_TRUE(router.state(ID_RECENT_IMAGE_LAST + 1).visible) << "not of the list";
-    view.takeRange(ID_RECENT_IMAGE_FIRST, ID_RECENT_IMAGE_LAST);
-    EXPECT_TRUE(router.state(ID_RECENT_IMAGE_LAST).visible);
-}
-
 } // namespace

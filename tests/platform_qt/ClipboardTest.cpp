@@ -130,16 +130,26 @@ TEST_F(ClipboardTest, HandsABitmapToOthersAndBackUnchanged) {
     EXPECT_EQ(platform_.clipboard().bitmap(), dib);
 }
 
-TEST_F(ClipboardTest, TakesThePictureOfAProgramThatOffersNoBmp) {
+TEST_F(ClipboardTest, TakesThePictureOfAProgramThatOffersNoBmpOrACompressedOne) {
+    Bytes compressed = bmpFromDib(dibOf(40, 8, 256, 0)).value();
+    put(compressed, 14 + 16, 3);
     QImage picture(2, 1, QImage::Format_Indexed8);
-    picture.setColorTable({qRgb(1, 2, 3), qRgb(30, 20, 10)});
-    picture.setPixel(0, 0, 1);
-    picture.setPixel(1, 0, 0);
-    QApplication::clipboard()->setImage(picture);
-    EXPECT_TRUE(platform_.clipboard().offers(ClipboardFormat::Bitmap));
-    const std::optional<Bytes> dib = platform_.clipboard().bitmap();
-    ASSERT_TRUE(dib);
-    EXPECT_EQ(QImage::fromData(arrayOf(bmpFromDib(*dib).value()), "BMP").pixel(0, 0), qRgb(30, 20, 10));
+    picture.setColorTable(QList<QRgb>(200, qRgb(30, 20, 10)));
+    picture.fill(150);
+    for (const bool hasBmp : {false, true}) {
+        auto* data = new QMimeData;
+        if (hasBmp)
+            data->setData(QStringLiteral("image/bmp"), arrayOf(compressed));
+        data->setImageData(picture);
+        QApplication::clipboard()->setMimeData(data);
+        EXPECT_TRUE(platform_.clipboard().offers(ClipboardFormat::Bitmap));
+        const std::optional<Bytes> dib = platform_.clipboard().bitmap();
+        ASSERT_TRUE(dib);
+        EXPECT_EQ((*dib)[16], std::byte{0}) << "not compressed";
+        const QImage taken = QImage::fromData(arrayOf(bmpFromDib(*dib).value()), "BMP");
+        EXPECT_EQ(taken.pixelIndex(1, 0), 150);
+        EXPECT_EQ(taken.pixel(1, 0), qRgb(30, 20, 10));
+    }
 }
 
 TEST_F(ClipboardTest, OffersAnIndexedPictureAsSuch) {
@@ -160,22 +170,6 @@ TEST_F(ClipboardTest, OffersAnIndexedPictureAsSuch) {
         EXPECT_TRUE(bits == 1 || image.pixelIndex(0, 0) == 1) << bits;
         EXPECT_EQ(image.pixel(0, 0), qRgb(30, 20, 10)) << bits;
     }
-}
-
-TEST_F(ClipboardTest, TakesThePictureBesideACompressedBmp) {
-    Bytes bmp = bmpFromDib(dibOf(40, 8, 256, 0)).value();
-    put(bmp, 14 + 16, 3);
-    QImage picture(2, 1, QImage::Format_Indexed8);
-    picture.setColorTable(QList<QRgb>(200, qRgb(1, 2, 3)));
-    picture.fill(150);
-    auto* data = new QMimeData;
-    data->setData(QStringLiteral("image/bmp"), arrayOf(bmp));
-    data->setImageData(picture);
-    QApplication::clipboard()->setMimeData(data);
-    const std::optional<Bytes> dib = platform_.clipboard().bitmap();
-    ASSERT_TRUE(dib);
-    EXPECT_EQ((*dib)[16], std::byte{0}) << "not compressed";
-    EXPECT_EQ(QImage::fromData(arrayOf(bmpFromDib(*dib).value()), "BMP").pixelIndex(1, 0), 150);
 }
 
 TEST_F(ClipboardTest, OffersOnlyWhatItHolds) {

@@ -53,6 +53,15 @@ TEST_F(OpenRequestsTest, ReachTheOneInstanceThatListens) {
     EXPECT_EQ(received_, (std::vector<OpenRequests::Paths>{{"\\home\\kei\\sky.tmf", "", "\\空"}, {}, many}));
 }
 
+TEST_F(OpenRequestsTest, GoToTheProgramOfTheSameSettings) {
+    QtShell shell(platform_.files(), host("a.ini").toStdString());
+    ASSERT_TRUE(shell.listenForOpenRequests([](const OpenRequests::Paths&) {}));
+    for (const char* settings : {"a.ini", "b.ini"}) {
+        OpenRequests other(OpenRequests::userAddress(host(settings)));
+        EXPECT_EQ(!other.listen([](const OpenRequests::Paths&) {}), settings[0] == 'a') << settings;
+    }
+}
+
 TEST_F(OpenRequestsTest, BringTheRightToComeToTheFront) {
     QByteArray token;
     ASSERT_TRUE(

@@ -44,14 +44,11 @@ QStringList placesOf(const QString& text) {
 
 } // namespace
 
-TEST_F(Translations, HaveEveryTextOfTheStringTable) {
+TEST_F(Translations, HaveEveryTextOfTheTables) {
     for (int i = 0; i < static_cast<int>(StringId::Count); ++i) {
         const char* const source = englishText(static_cast<StringId>(i));
         EXPECT_TRUE(has(kTextContext, source)) << source;
     }
-}
-
-TEST_F(Translations, HaveEveryTextOfTheCommandTable) {
     for (const CommandRow& row : commandTable()) {
         EXPECT_TRUE(has(kCommandContext, row.menuText)) << row.menuText;
         EXPECT_TRUE(row.prompt[0] == '\0' || has(kCommandContext, row.prompt)) << row.prompt;

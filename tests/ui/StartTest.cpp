@@ -139,7 +139,11 @@ TEST_F(Start, APaletteOnTheCommandLineOpensNoWindowAndResumesNothing) {
     EXPECT_THAT(texts(fake_), IsEmpty());
 }
 
-TEST_F(Start, EndsWhenNoFileOfTheCommandLineOpens) {
+TEST_F(Start, EndsWithoutAWindowAsAServerAndWhenNoFileOfTheCommandLineOpens) {
+    commandLine_.task = CommandLine::Task::Serve;
+    EXPECT_FALSE(launch());
+    EXPECT_FALSE(frame().isVisible());
+    EXPECT_THAT(texts(fake_), IsEmpty());
     ask({"c:\\gone.tlf", "c:\\gone.tmf"});
     EXPECT_FALSE(launch());
     EXPECT_FALSE(frame().isVisible());
@@ -162,13 +166,6 @@ TEST_F(Start, AnImageOfTheCommandLineIsActiveAndHasTheRoomThatItNeeds) {
     EXPECT_EQ(app_->imageHost().lastActivatedImage(), &frame().activeImageView()->view().document());
     EXPECT_TRUE(app_->router().state(ID_ZOOM_IN).enabled);
     EXPECT_EQ(app_->ExitInstance(), 0);
-}
-
-TEST_F(Start, AsAServerOfDocumentsItEndsWithoutAWindow) {
-    commandLine_.task = CommandLine::Task::Serve;
-    EXPECT_FALSE(launch());
-    EXPECT_FALSE(frame().isVisible());
-    EXPECT_THAT(texts(fake_), IsEmpty());
 }
 
 TEST_F(Start, LeavingKeepsTheFolderAndTheRecentFiles) {

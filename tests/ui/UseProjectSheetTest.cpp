@@ -35,7 +35,6 @@ TEST_F(UseProject, IsAskedOnlyWithoutAProjectAndKeepsTheBoxBeforeItDoesWhatWasAn
     } cases[] = {{nullptr, false, UseProjectAnswer::NewProject, "asked, new with 0", "0"},
                  {"1", false, UseProjectAnswer::OpenProject, "asked, open with 0", "0"},
                  {"1", false, UseProjectAnswer::Cancel, "asked", "1"},
-                 {"7", false, UseProjectAnswer::OpenProject, "asked, open with 0", "0"},
                  {"?", false, UseProjectAnswer::NewProject, "asked, new with 0", "0"},
                  {"0", false, UseProjectAnswer::NewProject, "", "0"},
                  {"1", true, UseProjectAnswer::NewProject, "", "1"}};
@@ -80,17 +79,15 @@ TEST_F(UseProject, OnlyNewAndOpenTakeTheBoxOver) {
 }
 
 TEST_F(UseProject, TheOptionsShowTheSettingAndKeepWhatOkTakesOver) {
-    const std::tuple<const char*, bool, const char*, const char*> cases[] = {{nullptr, true, "IDOK", "0"},
-                                                                             {"1", true, "IDOK", "0"},
-                                                                             {"0", false, "IDOK", "1"},
-                                                                             {"0", false, "IDCANCEL", "0"},
-                                                                             {"1", true, "IDCANCEL", "1"}};
+    const std::tuple<const char*, bool, const char*, const char*> cases[] = {
+        {nullptr, true, "IDOK", "0"}, {"0", false, "IDOK", "1"}, {"1", true, "IDCANCEL", "1"}};
     for (const auto& [before, shown, press, after] : cases) {
         setting(before);
         withNextDialog([&, shown = shown, press = press](QDialog& sheet) {
-            EXPECT_EQ(button(sheet, "IDC_ASK_USE_PROJECT").isChecked(), shown);
-            EXPECT_EQ(sheet.focusWidget(), &button(sheet, "IDC_ASK_USE_PROJECT"));
-            button(sheet, "IDC_ASK_USE_PROJECT").click();
+            auto& box = button(sheet, "IDC_ASK_USE_PROJECT");
+            EXPECT_EQ(box.isChecked(), shown);
+            EXPECT_EQ(sheet.focusWidget(), &box);
+            box.click();
             button(sheet, press).click();
         });
         OptionsCommand(nullptr);

@@ -65,42 +65,24 @@ TEST_F(WhatsThis, HelpCommandsAskOrOpenThePages) {
         EXPECT_TRUE(page.ends_with("..\\doc\\index.html")) << page;
 }
 
-class Prompts : public Program {
-protected:
-    QStatusBar& bar() { return *frame().statusBar(); }
-    [[nodiscard]] QString prompt(CommandId id) {
-        return QString::fromStdString(statusText(*findCommand(id)));
-    }
-};
-
-TEST_F(Prompts, ShowWhileAMenuIsWalkedAndLeaveTheMessageBehind) {
-    QLabel& message = *bar().findChild<QLabel*>("ID_SEPARATOR");
+TEST_F(WhatsThis, PromptsShowWhileAMenuIsWalkedAndLeaveTheMessageBehind) {
+    const auto prompt = [](CommandId id) { return QString::fromStdString(statusText(*findCommand(id))); };
+    QStatusBar& bar = *frame().statusBar();
+    QLabel& message = *bar.findChild<QLabel*>("ID_SEPARATOR");
     frame().SetStatusText("three files", 0, 0);
     QAction* file = frame().menuBar()->actions().front();
     QMenu& menu = *file->menu();
     frame().menuBar()->setActiveAction(file);
     menu.setActiveAction(nullptr);
-    QTest::keyClick(&menu, Qt::Key_Down);
-    EXPECT_EQ(bar().currentMessage(), prompt(ID_FILE_NEW));
-    EXPECT_FALSE(message.isVisible());
-    QTest::keyClick(&menu, Qt::Key_Down);
-    EXPECT_EQ(bar().currentMessage(), prompt(ID_FILE_OPEN));
+    for (const CommandId id : {ID_FILE_NEW, ID_FILE_OPEN}) {
+        QTest::keyClick(&menu, Qt::Key_Down);
+        EXPECT_EQ(bar.currentMessage(), prompt(id));
+        EXPECT_FALSE(message.isVisible());
+    }
     menu.close();
-    EXPECT_EQ(bar().currentMessage(), QString());
+    EXPECT_EQ(bar.currentMessage(), QString());
     EXPECT_TRUE(message.isVisible());
     EXPECT_EQ(message.text(), "three files");
-}
-
-TEST_F(Prompts, ShowWhileTheMouseIsOverAButton) {
-    auto* tools = frame().findChild<QToolBar*>("ID_VIEW_TOOLBAR");
-    QWidget& open = *tools->widgetForAction(frame().commandActions().action(ID_FILE_OPEN));
-    const QPointF inside(3, 3);
-    QEnterEvent enter(inside, inside, open.mapToGlobal(inside));
-    QApplication::sendEvent(&open, &enter);
-    EXPECT_EQ(bar().currentMessage(), prompt(ID_FILE_OPEN));
-    QEvent leave(QEvent::Leave);
-    QApplication::sendEvent(&open, &leave);
-    EXPECT_EQ(bar().currentMessage(), QString());
 }
 
 } // namespace
