@@ -191,19 +191,5 @@ TEST_F(FilesProject, ANewImageMayBringANewProject) {
     EXPECT_EQ(asked, 1) << "a project is open";
 }
 
-TEST_F(FilesProject, HelpThatCannotBeOpenedIsTold) {
-    for (const bool opens : {true, false}) {
-        fake_.shell.opens = opens;
-        EXPECT_THAT(texts(fake_), IsEmpty());
-        app_.ShowHelp("..\\doc\\index.html");
-    }
-    const std::string page = fake_.files.programFolder() + "..\\doc\\index.html";
-    EXPECT_THAT(fake_.shell.opened, ElementsAre(page, page));
-    EXPECT_THAT(
-        texts(fake_),
-        ElementsAre("can not open help. Please, check exist help file, and check browser installed."));
-    EXPECT_EQ(fake_.messages.shown[0].icon, MessageIcon::Stop);
-}
-
 } // namespace
 } // namespace dyeworks

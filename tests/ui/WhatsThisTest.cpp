@@ -63,6 +63,12 @@ TEST_F(WhatsThis, HelpCommandsAskOrOpenThePages) {
     EXPECT_EQ(fake_.shell.opened.size(), 3U) << "the bar speaks for itself";
     for (const std::string& page : fake_.shell.opened)
         EXPECT_TRUE(page.ends_with("..\\doc\\index.html")) << page;
+    EXPECT_THAT(texts(fake_), IsEmpty());
+    fake_.shell.opens = false;
+    ASSERT_TRUE(run(ID_HELP_INDEX));
+    EXPECT_THAT(
+        texts(fake_),
+        ElementsAre("can not open help. Please, check exist help file, and check browser installed."));
 }
 
 TEST_F(WhatsThis, PromptsShowWhileAMenuIsWalkedAndLeaveTheMessageBehind) {
