@@ -1,5 +1,8 @@
 #include "Program.h"
 
+#include "core/TlfFormat.h"
+#include "core/TmfFormat.h"
+
 #include <QApplication>
 #include <QTimer>
 
@@ -7,9 +10,8 @@ namespace dyeworks {
 
 namespace {
 
-std::string word(unsigned value) {
-    return {static_cast<char>(value >> 24), static_cast<char>(value >> 16), static_cast<char>(value >> 8),
-            static_cast<char>(value)};
+std::string textOf(std::span<const std::byte> bytes) {
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
 } // namespace
@@ -28,30 +30,22 @@ Texels pattern(int width, int height) {
 }
 
 std::string imageFile(const Texels& image, int bits) {
-    const auto width = static_cast<unsigned>(image.front().size());
-    std::string file = word(bits == 4 ? 0x00120200 : 0x00120300) + word(width) +
-                       word(static_cast<unsigned>(image.size())) + word(static_cast<unsigned>(bits));
-    file.resize(64);
-    for (auto row = image.rbegin(); row != image.rend(); ++row) {
-        for (std::size_t x = 0; x < row->size(); ++x) {
-            if (bits == 8)
-                file += static_cast<char>((*row)[x]);
-            else if (x % 2 == 0)
-                file += static_cast<char>((*row)[x] << 4 | (x + 1 < row->size() ? (*row)[x + 1] : 0));
-        }
+    TmfImage record;
+    record.create(static_cast<int>(image.front().size()), static_cast<int>(image.size()), bits);
+    for (int y = 0; y < record.height; ++y) {
+        for (int x = 0; x < record.width; ++x)
+            record.setTexel(x, y, image[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)]);
     }
-    file.resize((file.size() + 3) / 4 * 4);
-    return file;
+    const TmfFile file = layOutTmf(record).value();
+    return textOf(file.header) + textOf(file.body);
 }
 
 std::string paletteFile(int count, const std::function<unsigned(int entry)>& entryAt) {
-    std::string file = word(count == 16 ? 0x00200100 : 0x00200200) + word(static_cast<unsigned>(count));
-    file.resize(64);
-    for (int i = 0; i < count; ++i) {
-        file += static_cast<char>(entryAt(i) >> 8);
-        file += static_cast<char>(entryAt(i));
-    }
-    return file;
+    TlutData table;
+    table.create(count, ColourType::Rgba);
+    for (int i = 0; i < count; ++i)
+        table.setEntry(i, static_cast<std::uint16_t>(entryAt(i)));
+    return textOf(serialiseTlf(table).value().bytes());
 }
 
 void defineControls(FakePlatform& fake) {

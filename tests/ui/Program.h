@@ -30,7 +30,7 @@ Texels texels(int width, int height, const std::function<unsigned(int x, int y)>
 /// One whose neighbours differ.
 Texels pattern(int width, int height);
 
-/// The bytes of an image file, written by hand and not by the program's code.
+/// The bytes of an image file of 4 or 8 bits.
 std::string imageFile(const Texels& image, int bits);
 /// The bytes of a palette file of 16 or 256 entries.
 std::string paletteFile(int count, const std::function<unsigned(int entry)>& entryAt);
