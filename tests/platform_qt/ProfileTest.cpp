@@ -3,6 +3,10 @@
 #include <QDir>
 #include <gmock/gmock.h>
 
+#include <array>
+#include <map>
+#include <set>
+
 namespace dyeworks {
 
 namespace {
@@ -11,8 +15,8 @@ using ProfileTest = Desktop;
 
 } // namespace
 
-TEST_F(ProfileTest, KeepsEveryNameApartAcrossTwoRuns) {
-    const std::pair<std::string, std::string> names[] = {
+TEST_F(ProfileTest, KeepsEveryNameApartAndEveryValueAcrossTwoRuns) {
+    std::vector<std::array<std::string, 3>> all{
         {"", "a"},
         {"a", "b"},
         {"a", "B"},
@@ -27,40 +31,26 @@ TEST_F(ProfileTest, KeepsEveryNameApartAcrossTwoRuns) {
         {"Settings\\Images\\\\home\\kei\\tex 100%\\sky.tmf", "WindowPos"},
         {"Settings\\Images", "c:\\tex\\sky.tmf"},
     };
-    std::map<std::string, std::vector<std::string>> entriesOf;
+    for (std::size_t i = 0; i < all.size(); ++i)
+        all[i][2] = std::to_string(i);
+    for (const char* value :
+         {"", "plain", " blanks ", "a, b; c", "a\\b\\x41", "\"quoted\"", "two\nlines", "@ByteArray(x)",
+          "@Invalid()", "%41=1", "空", "\xFF\xFE not UTF-8", "@", "true", "0:1:-1:-1:0:0:640"})
+        all.push_back({"values", value, value});
     const std::string file = host("names.ini").toStdString();
+    std::map<std::string, std::set<std::string>> entriesOf;
     {
         QtProfile profile(file);
-        int number = 0;
-        for (const auto& [section, entry] : names) {
-            profile.setInteger(section, entry, ++number);
-            entriesOf[section].push_back(entry);
+        for (const auto& [section, entry, value] : all) {
+            profile.setText(section, entry, value);
+            entriesOf[section].insert(entry);
         }
     }
     const QtProfile profile(file);
-    int number = 0;
-    for (const auto& [section, entry] : names)
-        EXPECT_EQ(profile.integer(section, entry, 0), ++number) << section << " | " << entry;
-    for (auto& [section, entries] : entriesOf) {
-        std::sort(entries.begin(), entries.end());
-        EXPECT_EQ(profile.entries(section), entries) << section;
-    }
-}
-
-TEST_F(ProfileTest, KeepsEveryValueAcrossTwoRuns) {
-    const std::string values[] = {
-        "",           "plain",         " blanks ",         "a, b; c", "a\\b\\x41", "\"quoted\"",
-        "two\nlines", "@ByteArray(x)", "@Invalid()",       "%41=1",   "空",        "\xFF\xFE not UTF-8",
-        "@",          "true",          "0:1:-1:-1:0:0:640"};
-    const std::string file = host("values.ini").toStdString();
-    {
-        QtProfile profile(file);
-        for (const std::string& value : values)
-            profile.setText("a", value, value);
-    }
-    const QtProfile profile(file);
-    for (const std::string& value : values)
-        EXPECT_EQ(profile.text("a", value), value);
+    for (const auto& [section, entry, value] : all)
+        EXPECT_EQ(profile.text(section, entry), value) << section << " | " << entry;
+    for (const auto& [section, entries] : entriesOf)
+        EXPECT_EQ(profile.entries(section), std::vector(entries.begin(), entries.end())) << section;
 }
 
 TEST_F(ProfileTest, ReadsWhatIsWholeInADamagedFileAndWritesItAnew) {

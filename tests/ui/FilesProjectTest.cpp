@@ -144,19 +144,6 @@ TEST_F(Launch, LeavingAsksForWhatPlugInsChangeMeanwhile) {
     app_.reset();
 }
 
-TEST_F(FilesProject, AChangedPaletteRecoloursTheImagesOfItsKeyOnly) {
-    openBlank();
-    TextureLookupTable green;
-    ASSERT_TRUE(green.create(256, ColourType::Rgba));
-    green.setEntry(5, 31 << 6);
-    const auto shown = [this] { return image().canvas().colourTable()[4 * 5 + 1]; };
-    ASSERT_NE(shown(), 248);
-    app_.BroadcastPaletteChange("c:\\tex\\other.tlf", green);
-    EXPECT_NE(shown(), 248);
-    app_.BroadcastPaletteChange("c:\\tex\\pic.tlf", green);
-    EXPECT_EQ(shown(), 248);
-}
-
 TEST_F(FilesProject, ANewImageMayBringANewProject) {
     fake_.files.putFile("c:\\proj\\old.txt", "");
     int asked = 0;

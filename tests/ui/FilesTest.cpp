@@ -91,15 +91,23 @@ TEST_F(FilesTest, ClosingAPaletteLeavesItsImagesWithoutOne) {
     EXPECT_EQ(shown(), words) << "the words scroll away";
 }
 
-TEST_F(FilesTest, APaletteThatIsOpenedAgainColoursItsImages) {
+TEST_F(FilesTest, APaletteThatIsOpenedAgainOrChangesColoursItsImages) {
     openAndDraw();
     TextureLookupTable& attached = *app_.paletteSet()->lookup("");
     fake_.files.putFile("c:\\q.tlf", paletteFile(256, [](int) { return 1U; }));
     ASSERT_TRUE(app_.OpenDocumentFile("c:\\q.tlf"));
+    const auto green = [this] { return image().canvas().colourTable()[4 * 5 + 1]; };
     attached.setEntry(5, 31 << 6); // pure green, 248 as it is displayed
-    ASSERT_NE(image().canvas().colourTable()[4 * 5 + 1], 248) << "the other palette is current";
+    ASSERT_NE(green(), 248) << "the other palette is current";
     ASSERT_TRUE(app_.OpenDocumentFile(kPalette));
-    EXPECT_EQ(image().canvas().colourTable()[4 * 5 + 1], 248);
+    EXPECT_EQ(green(), 248);
+    TextureLookupTable black;
+    ASSERT_TRUE(black.create(256, ColourType::Rgba));
+    black.setEntry(5, 0);
+    app_.BroadcastPaletteChange("c:\\q.tlf", black);
+    EXPECT_EQ(green(), 248) << "of another key";
+    app_.BroadcastPaletteChange(kPalette, black);
+    EXPECT_EQ(green(), 0);
 }
 
 TEST_F(FilesTest, ASavedPaletteLosesItsMarkInTheTitleOfItsImageToo) {

@@ -82,20 +82,14 @@ TEST_F(ProjectPage, WithoutTheChooserFoldersCanBeTyped) {
 
 TEST_F(ProjectPage, AFixedNameLeavesTheOtherDirectoriesToChange) {
     make();
-    const auto expectFixed = [this](bool fixed) {
-        EXPECT_EQ(edit("IDC_TPF_NAME").isEnabled(), !fixed);
-        EXPECT_EQ(edit("IDC_TPF_DIR").isEnabled(), !fixed);
-        EXPECT_EQ(button("IDC_TPF_DIR_BROWSE").isEnabled(), !fixed);
+    for (const bool fixed : {true, false}) {
+        page_->setNameFixed(fixed);
+        choose("IDC_TMF_DIR_BROWSE", std::nullopt); // Shows the values again.
+        for (const char* name : {"IDC_TPF_NAME", "IDC_TPF_DIR", "IDC_TPF_DIR_BROWSE"})
+            EXPECT_EQ(page_->findChild<QWidget*>(name)->isEnabled(), !fixed) << name;
         for (const char* name : {"IDC_TMF_DIR", "IDC_TMF_DIR_BROWSE", "IDC_TLF_DIR", "IDC_TLF_DIR_BROWSE"})
             EXPECT_TRUE(page_->findChild<QWidget*>(name)->isEnabled()) << name;
-    };
-    expectFixed(false);
-    page_->setNameFixed(true);
-    choose("IDC_TMF_DIR_BROWSE", std::nullopt); // Shows the values again.
-    expectFixed(true);
-    page_->setNameFixed(false);
-    page_->showValues();
-    expectFixed(false);
+    }
 }
 
 TEST(ProjectPropertySheetTest, GivesBackTheProjectsOwnValuesWhenNothingIsTyped) {
