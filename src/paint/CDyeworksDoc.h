@@ -104,7 +104,6 @@ public:
     /// The image has become the active one: the previews that are on for it show it, the others are off.
     void TakeOverPreviews();
     void setPathName(const std::string& path) override;
-    void setModified(bool modified) override;
     /// Asks what the image is to be like. False when that was cancelled or the image could not be made.
     bool onNewDocument() override;
     /// A bitmap's colours become a new palette.
@@ -117,6 +116,7 @@ public:
     [[nodiscard]] bool hasUnsavedChanges() const override;
 
 private:
+    void setModified(bool modified) override;
     /// Lets the plug-in change the image, which is no step of the history. What it brings besides becomes the
     /// active view's floating piece.
     void ImportThrough(std::int32_t plugIn);
