@@ -216,6 +216,8 @@ TEST_F(PaletteBarWindow, ABankIsChosenByCellSpinAndTyping) {
     EXPECT_EQ(app_.imageHost().paletteBarFirstEntry(), 0);
     QTest::keyClick(&find<QTabBar>(IDC_PALETTE_TABS), Qt::Key_Left);
     EXPECT_EQ(app_.imageHost().paletteBarFirstEntry(), 240);
+    ASSERT_TRUE(run(ID_FILE_CLOSE));
+    EXPECT_FALSE(spin.isEnabled()) << "no image shows it";
 }
 
 TEST_F(PaletteBarWindow, APreviewStaysForAnotherWindowAndEndsWithItsCause) {
