@@ -118,7 +118,7 @@ void CMainFrame::makePaletteBar() {
     paletteBar_ = new CPaletteBar(host_.paletteBarHost(), actions_, *this);
     // Also told when the main window comes to the front with the image that was active before.
     connect(this, &MdiFrame::activeChildChanged, paletteBar_,
-            [this] { paletteBar_->state().ImageChanged(); });
+            [bar = paletteBar_] { bar->state().ImageChanged(); });
     acceptFiles(*paletteBar_);
     on(ID_VIEW_PALETTEBAR, &CMainFrame::OnTogglePaletteBar, &CMainFrame::OnUpdatePaletteBar);
 }
@@ -202,7 +202,7 @@ void CMainFrame::openImageWindow(CDyeworksDoc& document) {
             });
     // The palette that an image is attached to is part of its title, and its bank is what the bar shows.
     connect(child.get(), &QWidget::windowTitleChanged, paletteBar_,
-            [this] { paletteBar_->state().ImageChanged(); });
+            [bar = paletteBar_] { bar->state().ImageChanged(); });
     addChild(std::move(child));
 }
 

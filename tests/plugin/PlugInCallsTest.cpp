@@ -264,8 +264,13 @@ TEST_F(PlugInCalls, GoInOrderWithTheHandleOfEachPlugIn) {
         return results;
     };
     const auto imports = [&](std::int32_t index) {
-        dyeworks::import = [](Picture, auto* out) { out->image = DW_newImage(3, 2, 4); };
-        return std::string(images_.ImportImage(index, &image_, nullptr, 0) == nullptr ? "none" : "image");
+        ::TmfImage* made = nullptr;
+        dyeworks::import = [&made](Picture, auto* out) { made = out->image = DW_newImage(3, 2, 4); };
+        const bool taken = images_.ImportImage(index, &image_, nullptr, 0) != nullptr;
+        // What a plug-in that refuses leaves behind stays its own.
+        if (!taken)
+            DW_freeImage(made);
+        return std::string(taken ? "image" : "none");
     };
     const auto preview = [&](TlutData* palette) {
         return std::to_string(images_.PreviewImage(&image_, palette, 16, 1));

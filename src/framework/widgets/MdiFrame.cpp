@@ -60,7 +60,8 @@ ChildFrame* MdiFrame::activeChild() const {
     if (QMdiSubWindow* current = area_->currentSubWindow())
         return qobject_cast<ChildFrame*>(current);
     // The area has none for a moment while another program comes to the front.
-    return activated_ != nullptr && activated_->document() != nullptr ? activated_.get() : nullptr;
+    auto* const last = qobject_cast<ChildFrame*>(activated_.data());
+    return last != nullptr && last->document() != nullptr ? last : nullptr;
 }
 
 std::vector<ChildFrame*> MdiFrame::childFrames() const {

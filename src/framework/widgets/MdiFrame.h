@@ -87,7 +87,7 @@ private:
     int arrangeMinimized();
 
     QMdiArea* area_;
-    QPointer<ChildFrame> activated_; ///< The last that was.
+    QPointer<QObject> activated_; ///< The child that was last. It may be going just now, and a frame no more.
     CommandActions* actions_ = nullptr;
     std::span<const MenuItem> menus_; ///< While no child frame has others.
     /// The menus made so far, by the list they are made of. They stay, because a change of the menu bar often
