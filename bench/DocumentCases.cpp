@@ -30,7 +30,7 @@ public:
     std::optional<std::string> savePaletteAs(const std::string& /*key*/) override { return std::nullopt; }
     void setStatusText(const std::string& /*text*/, int /*pane*/) override {}
     bool isActiveImage(const CDyeworksDoc& /*document*/) const override { return false; }
-    CDyeworksView* activeView() const override { return nullptr; }
+    ImageViewer* activeView() const override { return nullptr; }
     ImagePlugIns& imagePlugIns() override { std::abort(); }
     OpenProject* openProject() override { return nullptr; }
     std::optional<NewImage> askNewImage() override { return std::nullopt; }

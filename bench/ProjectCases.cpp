@@ -40,8 +40,6 @@ public:
                                const std::function<bool()>& /*mayGoOn*/) override {
         return true;
     }
-    bool hasMainFrame() const override { return false; }
-    bool isClosingMainFrame() const override { return false; }
     void SetPaletteBarNumber(std::int32_t /*number*/) override {}
     void runCommand(std::uint32_t /*command*/) override {}
 
