@@ -1936,5 +1936,45 @@ You must open or create a palette.
         <source>TPF export entry not found.</source>
         <translation>TPF のエクスポート機能が見つかりません。</translation>
     </message>
+    <message>
+        <source>The file is of no kind that can be read here.</source>
+        <translation>ここで読み込める種類のファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The file is damaged.</source>
+        <translation>ファイルが壊れています。</translation>
+    </message>
+    <message>
+        <source>The file is damaged (%3).</source>
+        <translation>ファイルが壊れています (%3)。</translation>
+    </message>
+    <message>
+        <source>It is too large: %1 x %2 pixels.</source>
+        <translation>大きすぎます: %1 x %2 ピクセル。</translation>
+    </message>
+    <message>
+        <source>The file holds no colours.</source>
+        <translation>ファイルに色がありません。</translation>
+    </message>
+    <message>
+        <source>Line %1 is not understood: %3</source>
+        <translation>%1 行目を読み取れません: %3</translation>
+    </message>
+    <message>
+        <source>The file is damaged (a pixel has the colour %1 of %2).</source>
+        <translation>ファイルが壊れています (%2 色のうち %1 番の色を使うピクセルがあります)。</translation>
+    </message>
+    <message>
+        <source>Its pixels use colours up to number %1; the image has numbers up to %2.</source>
+        <translation>%1 番までの色を使っていますが、画像の番号は %2 までです。</translation>
+    </message>
+    <message>
+        <source>The image has no texels of 4 or 8 bits.</source>
+        <translation>4 ビットまたは 8 ビットのテクセルがありません。</translation>
+    </message>
+    <message>
+        <source>It was stopped.</source>
+        <translation>中止しました。</translation>
+    </message>
 </context>
 </TS>

@@ -42,6 +42,17 @@ enum class StringId {
     TmfImproperTag, ///< %1 tag, %2 bits
     TmfNoMemory,
 
+    InterchangeUnknownFormat,
+    InterchangeDamaged,
+    InterchangeDamagedWhere, ///< %3 where or why, in English
+    InterchangeTooLarge,     ///< %1 width, %2 height
+    InterchangeNoColours,
+    InterchangeBadLine,            ///< %1 line, %3 its beginning
+    InterchangeIndexWithoutColour, ///< %1 of a pixel, %2 colours
+    InterchangeIndexTooHigh,       ///< %1 highest in the file, %2 highest possible
+    InterchangeNoTexels,
+    InterchangeCancelled,
+
     BmpErrorNotABitmap,
     BmpErrorTruncated,
     BmpErrorBadSize,

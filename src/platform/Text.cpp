@@ -26,22 +26,25 @@ std::string text(StringId id) {
 }
 
 std::string text(StringId id, std::initializer_list<std::string> arguments) {
-    const std::string pattern = text(id);
-    std::string filled;
-    filled.reserve(pattern.size());
+    return filled(text(id), arguments);
+}
+
+std::string filled(const std::string& pattern, std::initializer_list<std::string> arguments) {
+    std::string result;
+    result.reserve(pattern.size());
     std::size_t position = 0;
     // One pass over the pattern alone: a "%1" inside an argument is a person's text, not a place.
     while (position < pattern.size()) {
         const std::size_t digits = pattern[position] == '%' ? numberLength(pattern, position + 1) : 0;
         const std::size_t number = digits == 0 ? 0 : std::stoul(pattern.substr(position + 1, digits));
         if (number >= 1 && number <= arguments.size()) {
-            filled += *(arguments.begin() + (number - 1));
+            result += *(arguments.begin() + (number - 1));
             position += 1 + digits;
         } else {
-            filled += pattern[position++];
+            result += pattern[position++];
         }
     }
-    return filled;
+    return result;
 }
 
 } // namespace dyeworks

@@ -24,6 +24,9 @@ std::string text(StringId id);
 /// The text with each %1, %2 … replaced by the argument at that place.
 std::string text(StringId id, std::initializer_list<std::string> arguments);
 
+/// `pattern` with each %1, %2 … replaced by the argument at that place.
+std::string filled(const std::string& pattern, std::initializer_list<std::string> arguments);
+
 inline constexpr const char* kTextContext = "Text";
 
 } // namespace dyeworks
