@@ -60,7 +60,22 @@ public:
     void DropEdit();
     /// An edit from begin to commit. Without memory to undo it the user is asked first; false when it was
     /// left then.
-    bool Edit(ImageViewer* viewer, const std::function<void(TextureCanvas&)>& draw);
+    template <typename Draw>
+    bool Edit(ImageViewer* viewer, Draw draw) {
+        endOpenEdit();
+        if (snapshot_.take(canvas_)) {
+            ImageEdit edit(*this, canvas_, snapshot_, viewer);
+            draw(canvas_);
+            edit.commit();
+            showEverywhere(viewer);
+        } else {
+            if (!goesWithoutUndo())
+                return false;
+            draw(canvas_);
+            editedWithoutUndo(viewer);
+        }
+        return true;
+    }
     /// Takes over the image's texels. False, changing nothing, unless size and depth are the document's and
     /// there is memory for it; the caller tells.
     bool SetImage(const TmfImage& image);
@@ -146,6 +161,8 @@ private:
     void showEverywhere(ImageViewer* viewer);
     [[nodiscard]] bool openEdit(ImageViewer* viewer);
     void endOpenEdit();
+    [[nodiscard]] static bool goesWithoutUndo();
+    void editedWithoutUndo(ImageViewer* viewer);
     void contentsAreSaved();
 
     static constexpr std::int32_t kPreviews = 2;

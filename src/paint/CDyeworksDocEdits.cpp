@@ -40,21 +40,18 @@ void CDyeworksDoc::DropEdit() {
     RefreshPreviews();
 }
 
-bool CDyeworksDoc::Edit(ImageViewer* viewer, const std::function<void(TextureCanvas&)>& draw) {
-    if (openEdit(viewer)) {
-        draw(canvas_);
-        CommitEdit();
-        return true;
-    }
-    if (applicationMessage(text(StringId::WithoutUndoQuestion), MessageButtons::YesNo) != MessageAnswer::Yes)
-        return false;
-    draw(canvas_);
+/// Whether the user lets an edit go on that cannot be undone.
+bool CDyeworksDoc::goesWithoutUndo() {
+    return applicationMessage(text(StringId::WithoutUndoQuestion), MessageButtons::YesNo) ==
+           MessageAnswer::Yes;
+}
+
+void CDyeworksDoc::editedWithoutUndo(ImageViewer* viewer) {
     if (canvas_.changedRect()) {
         historyMoved_ = unrecorded_ = true;
         edits_.loseSavedPosition();
     }
     showEverywhere(viewer);
-    return true;
 }
 
 bool CDyeworksDoc::SetImage(const TmfImage& image) {
