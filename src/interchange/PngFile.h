@@ -24,16 +24,18 @@ struct PaletteChunk {
 };
 
 /// What a PNG file holds. Channels of 16 bits come down to 8; gamma and colour profiles are left alone; the
-/// one colour or grey that stands for transparency becomes alpha. Pictures of grey pixels, too, are of direct
-/// colours.
+/// one colour or grey that stands for transparency becomes alpha. A file of grey pixels without alpha is an
+/// indexed picture whose colours are all its steps of grey, 2 to 256 of them, from black to white.
 struct PngPicture {
     Picture picture;
-    std::int32_t bits = 8; ///< Of a pixel in an indexed file: 1, 2, 4 or 8.
+    bool isGrey = false;   ///< The colours are such steps, and no palette that somebody chose.
+    std::int32_t bits = 8; ///< Of a number in an indexed picture: 1, 2, 4 or 8.
     std::optional<PaletteChunk> chunk;
 };
 
-/// Reads a PNG file of any kind, interlaced or not. A damaged one is refused as a whole, but for a damaged
-/// chunk of ours, which counts as none.
+/// Reads a PNG file of any kind, interlaced or not. A damaged one is refused as a whole: UnknownFormat,
+/// Damaged, TooLarge, IndexWithoutColour, NoMemory or Cancelled. A chunk of ours that is whole but does not
+/// say what it should counts as none.
 [[nodiscard]] Result<PngPicture, InterchangeError> readPng(std::span<const std::byte> file,
                                                            const Progress& progress = {});
 

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "core/ColourType.h"
+#include "interchange/EntryMatcher.h"
+#include "interchange/PerceptualSpace.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace dyeworks {
+
+/// Each colour becomes a mixture of entries, sorted from dark to light, of which a matrix (Bayer 1973) picks
+/// one by place (after Knoll, US patent 6606166, 1999, which has run out). It suits any palette: the mixture
+/// of a colour that has an entry is this entry alone.
+class OrderedDither {
+public:
+    /// The matcher is for mixing. Throws bad_alloc.
+    OrderedDither(EntryMatcher& matcher, ColourType type);
+
+    [[nodiscard]] std::uint8_t find(std::size_t x, std::size_t y, Colour colour) noexcept;
+
+private:
+    static constexpr std::size_t kShares = 16;
+    struct Mixture {
+        Colour colour;
+        bool known = false;
+        std::array<std::uint8_t, kShares> entries{};
+    };
+    void mix(Mixture& mixture, Colour colour) noexcept;
+
+    EntryMatcher& matcher_;
+    ColourType type_;
+    std::vector<Mixture> mixtures_; ///< Those met last, by a hash of their colour.
+};
+
+} // namespace dyeworks
