@@ -1957,6 +1957,10 @@ You must open or create a palette.
         <translation>ファイルに色がありません。</translation>
     </message>
     <message>
+        <source>There are more than %1 colours.</source>
+        <translation>色が %1 色を超えています。</translation>
+    </message>
+    <message>
         <source>Line %1 is not understood: %3</source>
         <translation>%1 行目を読み取れません: %3</translation>
     </message>

@@ -16,6 +16,8 @@ StringId textOf(const InterchangeError& error) {
         return StringId::NotEnoughMemory;
     case InterchangeError::Kind::NoColours:
         return StringId::InterchangeNoColours;
+    case InterchangeError::Kind::TooManyColours:
+        return StringId::InterchangeTooManyColours;
     case InterchangeError::Kind::BadLine:
         return StringId::InterchangeBadLine;
     case InterchangeError::Kind::IndexWithoutColour:

@@ -15,6 +15,7 @@ struct InterchangeError {
         TooLarge,      ///< `first` by `second` pixels.
         NoMemory,
         NoColours,          ///< The file holds none.
+        TooManyColours,     ///< More than `first`.
         BadLine,            ///< Line `first` (from 1) is none of the format; `detail` is its beginning.
         IndexWithoutColour, ///< A pixel has number `first` of `second` colours.
         IndexTooHigh,       ///< The pixels use numbers up to `first`, the image has them up to `second`.

@@ -2,7 +2,7 @@
 
 #include "core/TlutData.h"
 #include "interchange/InterchangeError.h"
-#include "platform/Picture.h"
+#include "interchange/PaletteColours.h"
 #include "platform/Result.h"
 
 #include <cstddef>
@@ -25,18 +25,12 @@ enum class PaletteFormat {
     Png   ///< ".png": the colours of an indexed PNG file.
 };
 
-/// Colours as a palette file has them.
-struct PaletteColours {
-    std::string name; ///< UTF-8; empty when the file has none.
-    std::vector<Colour> colours;
-    bool hasAlpha = false; ///< Whether the file says anything about alpha. Without, all are opaque.
-};
-
 /// The format that a file of this name is written in; nothing for another ending.
 [[nodiscard]] std::optional<PaletteFormat> paletteFormatFor(std::string_view fileName);
 
 /// Reads a palette file. What it is, its first bytes say, and its name where they do not (".act", ".hex").
-/// At most 65536 colours are read. UnknownFormat, BadLine, Damaged or NoColours.
+/// At most 65536 colours are read. UnknownFormat, BadLine, Damaged, NoColours, or
+/// TooManyColours for a PNG file of direct colours.
 [[nodiscard]] Result<PaletteColours, InterchangeError> readPaletteFile(std::span<const std::byte> file,
                                                                        std::string_view fileName);
 

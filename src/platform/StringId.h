@@ -47,6 +47,7 @@ enum class StringId {
     InterchangeDamagedWhere, ///< %3 where or why, in English
     InterchangeTooLarge,     ///< %1 width, %2 height
     InterchangeNoColours,
+    InterchangeTooManyColours,     ///< %1 as many as can be
     InterchangeBadLine,            ///< %1 line, %3 its beginning
     InterchangeIndexWithoutColour, ///< %1 of a pixel, %2 colours
     InterchangeIndexTooHigh,       ///< %1 highest in the file, %2 highest possible

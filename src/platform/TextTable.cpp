@@ -66,6 +66,7 @@ constexpr std::array kRows{
     Row{StringId::InterchangeDamagedWhere, QT_TRANSLATE_NOOP("Text", "The file is damaged (%3).")},
     Row{StringId::InterchangeTooLarge, QT_TRANSLATE_NOOP("Text", "It is too large: %1 x %2 pixels.")},
     Row{StringId::InterchangeNoColours, QT_TRANSLATE_NOOP("Text", "The file holds no colours.")},
+    Row{StringId::InterchangeTooManyColours, QT_TRANSLATE_NOOP("Text", "There are more than %1 colours.")},
     Row{StringId::InterchangeBadLine, QT_TRANSLATE_NOOP("Text", "Line %1 is not understood: %3")},
     Row{StringId::InterchangeIndexWithoutColour,
         QT_TRANSLATE_NOOP("Text", "The file is damaged (a pixel has the colour %1 of %2).")},

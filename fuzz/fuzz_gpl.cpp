@@ -1,0 +1,29 @@
+#include "Require.h"
+#include "interchange/PaletteFile.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <span>
+
+using namespace dyeworks;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const auto read = readPaletteFile(std::as_bytes(std::span(data, size)), "x.gpl");
+    if (!read)
+        return 0;
+    const ImportedEntries brought = entriesOf(read.value(), ColourType::Rgba, 256);
+    const auto count = static_cast<std::int32_t>(brought.entries.size());
+    TlutData palette;
+    require(palette.create(count, ColourType::Rgba), "a palette is made");
+    std::ranges::copy(brought.entries, palette.entries);
+    const auto file = writePaletteFile(PaletteFormat::Gimp, palette, 0, count, read.value().name);
+    require(file.ok(), "what was read can be written");
+    const auto again = readPaletteFile(file.value(), "x.gpl");
+    require(again.ok(), "what was written can be read");
+    auto entries = entriesOf(again.value(), ColourType::Rgba, 256).entries;
+    require(entries.size() == brought.entries.size(), "as many come back");
+    // The format has no alpha of each colour.
+    for (std::size_t i = 0; i < entries.size(); ++i)
+        require((entries[i] | 1U) == (brought.entries[i] | 1U), "the colours come back");
+    return 0;
+}

@@ -1,0 +1,51 @@
+#include "interchange/PaletteFormats.h"
+#include "interchange/PaletteText.h"
+
+#include <string>
+
+namespace dyeworks {
+
+PaletteResult readJascPalette(std::string_view text) {
+    PaletteColours result;
+    PaletteLines lines(text);
+    auto line = lines.next(); // The header, by which the file was known.
+    int loneNumbers = 0;
+    while (result.colours.size() < kMostPaletteColours && (line = lines.next())) {
+        std::string_view rest = *line;
+        if (rest.empty())
+            continue;
+        // Version and count: the lines are what counts, as programs that add some leave the count.
+        std::string_view lone = rest;
+        if (result.colours.empty() && loneNumbers < 2 && takeNumber(lone, 1000000) && lone.empty()) {
+            ++loneNumbers;
+            continue;
+        }
+        const auto red = takeNumber(rest, 255);
+        const auto green = takeNumber(rest, 255);
+        const auto blue = takeNumber(rest, 255);
+        const bool hasAlpha = !rest.empty();
+        const auto alpha = hasAlpha ? takeNumber(rest, 255) : std::optional<unsigned>(255U);
+        if (!red || !green || !blue || !alpha || !rest.empty())
+            return lines.badLine();
+        result.hasAlpha |= hasAlpha;
+        result.colours.push_back({static_cast<std::uint8_t>(*red), static_cast<std::uint8_t>(*green),
+                                  static_cast<std::uint8_t>(*blue), static_cast<std::uint8_t>(*alpha)});
+    }
+    return result;
+}
+
+std::string writeJascPalette(const PaletteColours& colours) {
+    // Line ends of the system that the format comes from; its own program takes no others.
+    std::string text(kJascHeader);
+    text += "\r\n0100\r\n" + std::to_string(colours.colours.size()) + "\r\n";
+    for (const Colour& colour : colours.colours) {
+        text += std::to_string(colour.red) + ' ' + std::to_string(colour.green) + ' ' +
+                std::to_string(colour.blue);
+        if (colours.hasAlpha)
+            text += ' ' + std::to_string(colour.alpha);
+        text += "\r\n";
+    }
+    return text;
+}
+
+} // namespace dyeworks
