@@ -1,0 +1,88 @@
+#include "source/SourceFiles.h"
+
+#include "common/Say.h"
+#include "common/WriteFile.h"
+#include "source/SourceRecords.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace dyeworks::plugins {
+
+namespace {
+
+QString reasonOf(const InterchangeError& error) {
+    switch (error.kind) {
+    case InterchangeError::Kind::NoTexels:
+        return say("The image has no texels of 4 or 8 bits.",
+                   "4 ビットまたは 8 ビットのテクセルがありません。");
+    case InterchangeError::Kind::NoColours:
+        return say("Neither texels nor a palette are there to be written.",
+                   "書き出すテクセルもパレットもありません。");
+    default:
+        return say("There is not enough memory.", "メモリが足りません。");
+    }
+}
+
+template <typename Bytes>
+QByteArray bytesOf(const Bytes& bytes) {
+    return {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())};
+}
+
+SourceFailure writePair(const SourcePair& pair, const QString& headerPath) {
+    QFile before(headerPath);
+    const bool wasThere = before.exists();
+    const QByteArray old = wasThere && before.open(QIODevice::ReadOnly) ? before.readAll() : QByteArray();
+    before.close();
+    if (const QString reason = writeFile(headerPath, bytesOf(pair.header)); !reason.isEmpty())
+        return {headerPath, reason};
+    const QString sourcePath = sourcePathFor(headerPath);
+    const QString reason = writeFile(sourcePath, bytesOf(pair.source));
+    if (reason.isEmpty())
+        return {};
+    // A header without its source, or with an older one, would build into something else.
+    if (!wasThere)
+        QFile::remove(headerPath);
+    else if (const QString lost = writeFile(headerPath, old); !lost.isEmpty())
+        return {headerPath, lost};
+    return {sourcePath, reason};
+}
+
+} // namespace
+
+QString sourcePathFor(const QString& headerPath) {
+    const QFileInfo header(headerPath);
+    return header.path() + QLatin1Char('/') + header.completeBaseName() + QStringLiteral(".c");
+}
+
+SourceFailure writeSource(const ::PlugInPicture& picture, const SourceChoices& choices, const QString& path) {
+    const auto records = recordsOf(picture);
+    if (!records)
+        return {path, reasonOf({InterchangeError::Kind::NoMemory, {}, 0, 0})};
+    const TlutData* const palette = records->palette ? &*records->palette : nullptr;
+    const auto write = [&](const auto& made) -> SourceFailure {
+        return {path, made ? writeFile(path, bytesOf(made.value())) : reasonOf(made.error())};
+    };
+    switch (choices.kind) {
+    case SourceKind::Header:
+        return write(headerWithData(records->image, palette, records->firstEntry, choices.options));
+    case SourceKind::Raw:
+        return write(rawBytes(records->image, palette, records->firstEntry, choices.options));
+    case SourceKind::HeaderAndSource:
+        break;
+    }
+    const QString name = QFileInfo(path).fileName();
+    // No C compiler finds such a file in an #include.
+    if (name.contains(QLatin1Char('"')) || name.contains(QLatin1Char('\\')) ||
+        name.contains(QLatin1Char('\n')))
+        return {path, say("A C source cannot include a file of this name.",
+                          "この名前のファイルは C ソースからインクルードできません。")};
+    if (sourcePathFor(path) == path)
+        return {path, say("Header and source would be the same file.",
+                          "ヘッダーとソースが同じファイルになります。")};
+    const auto pair =
+        headerAndSource(records->image, palette, records->firstEntry, choices.options, name.toStdString());
+    return pair ? writePair(pair.value(), path) : SourceFailure{path, reasonOf(pair.error())};
+}
+
+} // namespace dyeworks::plugins
