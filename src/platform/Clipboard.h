@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Picture.h"
+
 #include <cstddef>
 #include <optional>
 #include <span>
@@ -21,6 +23,12 @@ public:
     /// False when the clipboard could not be taken; it then keeps what it holds.
     virtual bool setBitmap(std::span<const std::byte> dib) = 0;
     [[nodiscard]] virtual std::optional<std::vector<std::byte>> bitmap() const = 0;
+
+    /// The bytes of the PNG file that another program has put there; nothing when it has put none.
+    [[nodiscard]] virtual std::optional<std::vector<std::byte>> png() const = 0;
+    /// The picture that is there in any other form, alpha included where that has it; nothing when there is
+    /// none, or one of a size that no picture has.
+    [[nodiscard]] virtual std::optional<Picture> picture() const = 0;
 
     virtual bool setText(const std::string& text) = 0;
     [[nodiscard]] virtual std::optional<std::string> text() const = 0;

@@ -6,6 +6,7 @@
 #include "platform/Library.h"
 #include "platform/Locale.h"
 #include "platform/Messages.h"
+#include "platform/PictureReader.h"
 #include "platform/Profile.h"
 #include "platform/Shell.h"
 #include "platform/Text.h"
@@ -24,6 +25,7 @@ public:
     virtual Files& files() = 0;
     virtual Profile& profile() = 0;
     virtual Clipboard& clipboard() = 0;
+    virtual PictureReader& pictureReader() = 0;
     virtual Library& library() = 0;
     virtual VersionInfo& versionInfo() = 0;
     virtual Locale& locale() = 0;

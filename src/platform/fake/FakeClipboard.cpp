@@ -1,9 +1,11 @@
 #include "platform/fake/FakeClipboard.h"
 
+#include <utility>
+
 namespace dyeworks {
 
 bool FakeClipboard::offers(ClipboardFormat format) const {
-    return format == ClipboardFormat::Bitmap ? bitmap_.has_value() : text_.has_value();
+    return format == ClipboardFormat::Bitmap ? bitmap_ || png_ || picture_ : text_.has_value();
 }
 
 bool FakeClipboard::setBitmap(std::span<const std::byte> dib) {
@@ -22,8 +24,20 @@ bool FakeClipboard::setText(const std::string& text) {
     return true;
 }
 
+void FakeClipboard::offerPng(std::vector<std::byte> bytes) {
+    clear();
+    png_ = std::move(bytes);
+}
+
+void FakeClipboard::offerPicture(Picture picture) {
+    clear();
+    picture_ = std::move(picture);
+}
+
 void FakeClipboard::clear() {
     bitmap_.reset();
+    png_.reset();
+    picture_.reset();
     text_.reset();
 }
 

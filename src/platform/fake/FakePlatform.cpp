@@ -12,6 +12,7 @@ public:
     Files& files() override { return fakes_.files; }
     Profile& profile() override { return fakes_.profile; }
     Clipboard& clipboard() override { return fakes_.clipboard; }
+    PictureReader& pictureReader() override { return fakes_.pictures; }
     Library& library() override { return fakes_.library; }
     VersionInfo& versionInfo() override { return fakes_.versionInfo; }
     Locale& locale() override { return fakes_.locale; }

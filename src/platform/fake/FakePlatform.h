@@ -7,6 +7,7 @@
 #include "platform/fake/FakeLibrary.h"
 #include "platform/fake/FakeLocale.h"
 #include "platform/fake/FakeMessages.h"
+#include "platform/fake/FakePictureReader.h"
 #include "platform/fake/FakeProfile.h"
 #include "platform/fake/FakeShell.h"
 #include "platform/fake/FakeTexts.h"
@@ -37,6 +38,7 @@ public:
     FakeFiles files;
     FakeProfile profile;
     FakeClipboard clipboard;
+    FakePictureReader pictures;
     FakeLibrary library;
     FakeVersionInfo versionInfo;
     FakeLocale locale;

@@ -1,6 +1,7 @@
 #include "platform/qt/QtClipboard.h"
 
 #include "platform/PackedDib.h"
+#include "platform/qt/QtPictureReader.h"
 
 #include <QBuffer>
 #include <QClipboard>
@@ -20,6 +21,8 @@ namespace {
 /// Names that programs give to BMP data. Ours is the first.
 const std::array kBmpFormats{QStringLiteral("image/bmp"), QStringLiteral("image/x-bmp"),
                              QStringLiteral("image/x-MS-bmp"), QStringLiteral("image/x-win-bitmap")};
+
+const QString kPngFormat = QStringLiteral("image/png");
 
 QClipboard* desktopClipboard() {
     return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr
@@ -119,6 +122,29 @@ std::optional<std::vector<std::byte>> QtClipboard::bitmap() const {
     } catch (const std::bad_alloc&) {
         return std::nullopt;
     }
+}
+
+std::optional<std::vector<std::byte>> QtClipboard::png() const {
+    const QMimeData* data = offered();
+    if (data == nullptr || !data->hasFormat(kPngFormat))
+        return std::nullopt;
+    try {
+        const QByteArray bytes = data->data(kPngFormat);
+        const auto view = std::as_bytes(std::span(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+        if (view.empty())
+            return std::nullopt;
+        return std::vector<std::byte>(view.begin(), view.end());
+    } catch (const std::bad_alloc&) {
+        return std::nullopt;
+    }
+}
+
+std::optional<Picture> QtClipboard::picture() const {
+    const QMimeData* data = offered();
+    if (data == nullptr)
+        return std::nullopt;
+    const auto image = qvariant_cast<QImage>(data->imageData());
+    return isPictureSize(image.width(), image.height()) ? pictureOf(image) : std::nullopt;
 }
 
 bool QtClipboard::setText(const std::string& text) {

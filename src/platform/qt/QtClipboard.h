@@ -22,6 +22,8 @@ public:
     [[nodiscard]] bool offers(ClipboardFormat format) const override;
     bool setBitmap(std::span<const std::byte> dib) override;
     [[nodiscard]] std::optional<std::vector<std::byte>> bitmap() const override;
+    [[nodiscard]] std::optional<std::vector<std::byte>> png() const override;
+    [[nodiscard]] std::optional<Picture> picture() const override;
     bool setText(const std::string& text) override;
     [[nodiscard]] std::optional<std::string> text() const override;
 

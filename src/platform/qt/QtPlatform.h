@@ -8,6 +8,7 @@
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFileDialogs.h"
 #include "platform/qt/QtMessages.h"
+#include "platform/qt/QtPictureReader.h"
 #include "platform/qt/QtProfile.h"
 #include "platform/qt/QtShell.h"
 #include "platform/qt/QtTexts.h"
@@ -35,6 +36,7 @@ public:
     Files& files() override { return files_; }
     QtProfile& profile() override { return profile_; }
     Clipboard& clipboard() override { return clipboard_; }
+    PictureReader& pictureReader() override { return pictureReader_; }
     Library& library() override { return library_; }
     VersionInfo& versionInfo() override { return versionInfo_; }
     Locale& locale() override { return locale_; }
@@ -49,6 +51,7 @@ private:
     QtMessages messages_;
     QtFileDialogs fileDialogs_;
     QtClipboard clipboard_;
+    QtPictureReader pictureReader_;
     PosixLibrary library_;
     PosixVersionInfo versionInfo_;
     PosixLocale locale_;
