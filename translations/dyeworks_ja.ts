@@ -831,6 +831,46 @@ Export BMP</source>
         <translation>画像の写しをビットマップとして書き出します
 BMP のエクスポート</translation>
     </message>
+    <message>
+        <source>&amp;Import Palette...</source>
+        <translation>パレットのインポート(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>Import colours from a palette file of another program
+Import Palette</source>
+        <translation>ほかのプログラムのパレット ファイルから色を取り込みます
+パレットのインポート</translation>
+    </message>
+    <message>
+        <source>E&amp;xport Palette...</source>
+        <translation>パレットのエクスポート(&amp;X)...</translation>
+    </message>
+    <message>
+        <source>Export the active palette to a file for other programs
+Export Palette</source>
+        <translation>現在のパレットをほかのプログラム用のファイルに書きます
+パレットのエクスポート</translation>
+    </message>
+    <message>
+        <source>Paste as &amp;New Image</source>
+        <translation>新しい画像として貼り付け(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Make an image and a palette of the picture on the Clipboard
+Paste as New Image</source>
+        <translation>クリップボードの絵から画像とパレットを作ります
+新しい画像として貼り付け</translation>
+    </message>
+    <message>
+        <source>Paste &amp;Matching Colours</source>
+        <translation>色を合わせて貼り付け(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Insert the picture on the Clipboard in the nearest colours of the image&apos;s palette
+Paste Matching Colours</source>
+        <translation>クリップボードの絵を画像のパレットの最も近い色で貼り付けます
+色を合わせて貼り付け</translation>
+    </message>
 </context>
 <context>
     <name>FolderPick</name>
@@ -1979,6 +2019,254 @@ You must open or create a palette.
     <message>
         <source>It was stopped.</source>
         <translation>中止しました。</translation>
+    </message>
+    <message>
+        <source>Reading the picture...</source>
+        <translation>絵を読み込んでいます...</translation>
+    </message>
+    <message>
+        <source>Matching the colours...</source>
+        <translation>色を合わせています...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is open as a new image. Colours rounded: %2, entries changed by other programs: %3.</source>
+        <translation>&quot;%1&quot; を新しい画像として開きました。丸めた色: %2、ほかのプログラムが変えたエントリ: %3</translation>
+    </message>
+    <message>
+        <source>Pasted</source>
+        <translation>貼り付け</translation>
+    </message>
+    <message>
+        <source>The pasted colours are not those of the image: they will change when the piece is placed. Paste Matching Colours finds the nearest ones.</source>
+        <translation>貼り付けた色は画像の色と違い、置くと変わります。「色を合わせて貼り付け」なら最も近い色になります。</translation>
+    </message>
+    <message>
+        <source>Import Palette</source>
+        <translation>パレットのインポート</translation>
+    </message>
+    <message>
+        <source>Colours in the file: %1</source>
+        <translation>ファイルの色の数: %1</translation>
+    </message>
+    <message>
+        <source>As a &amp;new palette</source>
+        <translation>新しいパレットにする(&amp;N)</translation>
+    </message>
+    <message>
+        <source>A palette of 16 or 256 entries, whichever holds the colours</source>
+        <translation>色が収まる 16 または 256 エントリのパレット</translation>
+    </message>
+    <message>
+        <source>&amp;Into the current palette from entry</source>
+        <translation>現在のパレットに入れる、最初のエントリ(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Replace entries of the current palette; Undo takes it back in one step</source>
+        <translation>現在のパレットのエントリを置き換えます。一度の操作で元に戻せます</translation>
+    </message>
+    <message>
+        <source>Entry of the current palette that takes the first colour</source>
+        <translation>最初の色を入れる現在のパレットのエントリ</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: %2 colours imported, %3 of them rounded; %4 did not fit.</source>
+        <translation>&quot;%1&quot;: %2 色を取り込みました。丸めた色: %3、入らなかった色: %4</translation>
+    </message>
+    <message>
+        <source>Export Palette</source>
+        <translation>パレットのエクスポート</translation>
+    </message>
+    <message>
+        <source>&amp;Format</source>
+        <translation>形式(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Kind of file; a name with the ending of another kind makes that</source>
+        <translation>ファイルの種類。別の種類の拡張子を付けた名前ならその種類になります</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>エントリ</translation>
+    </message>
+    <message>
+        <source>&amp;All %1 entries</source>
+        <translation>%1 エントリすべて(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Write the whole palette</source>
+        <translation>パレット全体を書きます</translation>
+    </message>
+    <message>
+        <source>Only &amp;bank %1, entries %2 to %3</source>
+        <translation>バンク %1 だけ、エントリ %2～%3(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Write the bank that the palette bar shows</source>
+        <translation>パレット バーに表示しているバンクを書きます</translation>
+    </message>
+    <message>
+        <source>GIMP palette</source>
+        <translation>GIMP パレット</translation>
+    </message>
+    <message>
+        <source>JASC palette</source>
+        <translation>JASC パレット</translation>
+    </message>
+    <message>
+        <source>Adobe colour table</source>
+        <translation>Adobe カラー テーブル</translation>
+    </message>
+    <message>
+        <source>Hexadecimal colours</source>
+        <translation>16 進の色</translation>
+    </message>
+    <message>
+        <source>PNG of indexed colours</source>
+        <translation>インデックス カラーの PNG</translation>
+    </message>
+    <message>
+        <source>Palette files of other programs</source>
+        <translation>ほかのプログラムのパレット ファイル</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>すべてのファイル</translation>
+    </message>
+    <message>
+        <source>Reduce Colours</source>
+        <translation>減色</translation>
+    </message>
+    <message>
+        <source>Reduce Colours - %1</source>
+        <translation>減色 - %1</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>元の絵</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>De&amp;pth</source>
+        <translation>ビット数(&amp;P)</translation>
+    </message>
+    <message>
+        <source>4 bits</source>
+        <translation>4 ビット</translation>
+    </message>
+    <message>
+        <source>8 bits</source>
+        <translation>8 ビット</translation>
+    </message>
+    <message>
+        <source>Of each texel: 4 bits for 16 colours, 8 bits for 256</source>
+        <translation>テクセルのビット数。4 ビットは 16 色、8 ビットは 256 色</translation>
+    </message>
+    <message>
+        <source>Pa&amp;lette</source>
+        <translation>パレット(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Current</source>
+        <translation>現在のもの</translation>
+    </message>
+    <message>
+        <source>Bank of current</source>
+        <translation>現在のバンク</translation>
+    </message>
+    <message>
+        <source>The colours that the image is made of: a new palette, the current one, or one bank of it</source>
+        <translation>画像に使う色。新しいパレット、現在のパレット、またはその一つのバンク</translation>
+    </message>
+    <message>
+        <source>The 16 entries of the current palette that the image is made of, 0 to 15</source>
+        <translation>画像に使う現在のパレットの 16 エントリ、0～15</translation>
+    </message>
+    <message>
+        <source>&amp;Colours</source>
+        <translation>色数(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Most colours that the new palette may have</source>
+        <translation>新しいパレットの色数の上限</translation>
+    </message>
+    <message>
+        <source>&amp;Type</source>
+        <translation>種類(&amp;T)</translation>
+    </message>
+    <message>
+        <source>RGBA</source>
+        <translation>RGBA</translation>
+    </message>
+    <message>
+        <source>IA</source>
+        <translation>IA</translation>
+    </message>
+    <message>
+        <source>Colour type of the new palette</source>
+        <translation>新しいパレットの種類</translation>
+    </message>
+    <message>
+        <source>Keep &amp;entries</source>
+        <translation>残す番号(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Entries of the current palette that the new one has at the same place, as in 0, 4-7</source>
+        <translation>新しいパレットの同じ番号に残す、現在のパレットのエントリ。例: 0, 4-7</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Entries to keep are written as in 0, 4-7, below the number of colours.</source>
+        <translation>残す番号は「0, 4-7」のように、色数より小さい数で書きます。</translation>
+    </message>
+    <message>
+        <source>&amp;Alpha from</source>
+        <translation>不透明の下限(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Pixels of less alpha become transparent, 0 to 256</source>
+        <translation>アルファがこれより小さいピクセルは透明になります、0～256</translation>
+    </message>
+    <message>
+        <source>&amp;Dither</source>
+        <translation>ディザ(&amp;D)</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Ordered</source>
+        <translation>組織的</translation>
+    </message>
+    <message>
+        <source>Error diffusion</source>
+        <translation>誤差拡散</translation>
+    </message>
+    <message>
+        <source>How colours that are missing are mixed of others</source>
+        <translation>足りない色をほかの色で表す方法</translation>
+    </message>
+    <message>
+        <source>Actual &amp;size</source>
+        <translation>等倍(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Show one pixel of the picture for one of the screen</source>
+        <translation>絵の 1 ピクセルを画面の 1 ピクセルで表示します</translation>
+    </message>
+    <message>
+        <source>Colours: %1, mean error: %2</source>
+        <translation>色数: %1、平均誤差: %2</translation>
+    </message>
+    <message>
+        <source>Progress of the reduction</source>
+        <translation>減色の進み具合</translation>
     </message>
 </context>
 </TS>

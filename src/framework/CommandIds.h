@@ -121,6 +121,10 @@ inline constexpr CommandId ID_OPTIONS = 33002;
 inline constexpr CommandId ID_FILE_REVERT = 33100;
 inline constexpr CommandId ID_FILE_IMPORT_BMP = 33101;
 inline constexpr CommandId ID_FILE_EXPORT_BMP = 33102;
+inline constexpr CommandId ID_PALETTE_IMPORT = 33103;
+inline constexpr CommandId ID_PALETTE_EXPORT = 33104;
+inline constexpr CommandId ID_EDIT_PASTE_NEW = 33105;
+inline constexpr CommandId ID_EDIT_PASTE_MATCHING = 33106;
 // NOLINTEND(readability-identifier-naming)
 
 } // namespace dyeworks

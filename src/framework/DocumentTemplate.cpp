@@ -40,15 +40,24 @@ bool DocumentTemplate::matches(const std::string& path) const {
 }
 
 CDocument* DocumentTemplate::newDocument() {
+    return newDocument(names_.documentName + std::to_string(untitledCounter_ + 1),
+                       [this](CDocument& document) {
+                           const bool filled = document.onNewDocument();
+                           untitledCounter_ += filled ? 1 : 0;
+                           return filled;
+                       });
+}
+
+CDocument* DocumentTemplate::newDocument(const std::string& title,
+                                         const std::function<bool(CDocument&)>& fill) {
     CDocument* document = adopt();
     if (document == nullptr)
         return nullptr;
-    document->setTitle(names_.documentName + std::to_string(untitledCounter_ + 1));
-    if (!document->onNewDocument()) {
+    document->setTitle(title);
+    if (!fill(*document)) {
         forget(*document);
         return nullptr;
     }
-    ++untitledCounter_;
     if (!windows_.openWindow(*document)) {
         dropDocument(*document);
         return nullptr;

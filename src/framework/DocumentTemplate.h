@@ -47,6 +47,9 @@ public:
     /// A new, empty document in a window of its own, titled "Texture1", "Texture2"…; null when it was
     /// abandoned, which uses up no number.
     CDocument* newDocument();
+    /// A new document in a window of its own that is titled `title` and gets its contents from `fill`; null
+    /// when that answers false.
+    CDocument* newDocument(const std::string& title, const std::function<bool(CDocument&)>& fill);
     /// The file's document in a window of its own, the open one brought to the front if there is one; null
     /// when the file could not be read or the window could not be made.
     CDocument* openDocument(const std::string& path);

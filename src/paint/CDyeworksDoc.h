@@ -121,6 +121,9 @@ public:
     void setPathName(const std::string& path) override;
     /// Asks what the image is to be like. False when that was cancelled or the image could not be made.
     bool onNewDocument() override;
+    /// Makes a document that is new one of these texels, which no file holds yet. False when there is no
+    /// memory.
+    [[nodiscard]] bool CreateFrom(const TmfImage& image);
     /// A bitmap's colours become a new palette.
     bool onOpenDocument(const std::string& path) override;
     bool onSaveDocument(const std::string& path) override;

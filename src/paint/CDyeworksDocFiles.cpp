@@ -47,6 +47,20 @@ bool CDyeworksDoc::onNewDocument() {
     return true;
 }
 
+bool CDyeworksDoc::CreateFrom(const TmfImage& image) {
+    if (!image.holdsTexels() || !CDocument::onNewDocument() ||
+        !canvas_.Create(image.width, image.height, 1, static_cast<std::uint16_t>(image.bits)))
+        return false;
+    canvas_.FromImage(image);
+    snapshot_.forget();
+    contentsAreSaved();
+    // No step, and none that is undone, leads to what a file holds.
+    edits_.loseSavedPosition();
+    unrecorded_ = true;
+    setModified(true);
+    return true;
+}
+
 bool CDyeworksDoc::onOpenDocument(const std::string& path) {
     if (!CDocument::onOpenDocument(path) || !loadCanvas(canvas_, path))
         return false;

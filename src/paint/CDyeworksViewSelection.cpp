@@ -4,10 +4,45 @@
 #include "paint/ViewWindow.h"
 #include "platform/Platform.h"
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <memory>
 #include <utility>
 
 namespace dyeworks {
+
+namespace {
+
+constexpr int kMessagePane = 0;
+
+/// Whether the piece looks the same when it has been placed in the image, by values as it is.
+bool keepsColours(const TextureCanvas& piece, const TextureCanvas& image) {
+    if (piece.holdsColours() || image.holdsColours())
+        return piece.bitsPerPixel() == image.bitsPerPixel();
+    const auto ofPiece = piece.colourTable();
+    const auto ofImage = image.colourTable();
+    // The last component of a colour has no meaning.
+    constexpr std::size_t kChannels = 3;
+    constexpr std::size_t kColourSize = 4;
+    std::array<bool, 256> same{};
+    for (std::size_t value = 0; value < same.size(); ++value) {
+        const std::size_t at = value * kColourSize;
+        same[value] = at < ofPiece.size() && at < ofImage.size() &&
+                      std::ranges::equal(ofPiece.subspan(at, kChannels), ofImage.subspan(at, kChannels));
+    }
+    if (std::ranges::all_of(same, [](bool is) { return is; }))
+        return true;
+    for (std::int32_t y = 0; y < piece.height(); ++y) {
+        for (std::int32_t x = 0; x < piece.width(); ++x) {
+            if (!same[piece.GetPixel(x, y) & 255U])
+                return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
 
 void CDyeworksView::SetFloatingPiece(std::unique_ptr<TextureCanvas> piece) {
     selection_.setFloatingPiece(std::move(piece));
@@ -102,7 +137,10 @@ void CDyeworksView::OnPaste() {
     std::unique_ptr<TextureCanvas> piece = TextureCanvas::PasteFromClipboard();
     if (piece == nullptr && platform().clipboard().offers(ClipboardFormat::Bitmap))
         applicationMessage(text(StringId::CannotPaste));
+    const bool differs = piece != nullptr && !keepsColours(*piece, document_.canvas());
     SetFloatingPiece(std::move(piece));
+    document_.host().setStatusText(differs ? text(StringId::PastedColoursDiffer) : std::string(),
+                                   kMessagePane);
 }
 
 void CDyeworksView::OnUpdatePaste(CommandUi& ui) {

@@ -40,7 +40,7 @@ public:
     /// that it then has; nothing when that was cancelled or failed.
     [[nodiscard]] virtual std::optional<std::string> savePaletteAs(const std::string& key) = 0;
 
-    /// Pane 1 is the pointer position, pane 2 the image's size and depth.
+    /// Pane 0 is for messages, 1 is the pointer position, pane 2 the image's size and depth.
     virtual void setStatusText(const std::string& text, int pane) = 0;
 
     /// Whether `document` is the one in the active window, whose bank the palette bar shows.

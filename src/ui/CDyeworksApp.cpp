@@ -41,6 +41,8 @@ std::vector<CommandTarget*> CDyeworksApp::commandChain() {
     }
     chain.push_back(&projectCommands_);
     chain.push_back(&recentFiles_);
+    chain.push_back(&pastePictures_);
+    chain.push_back(&paletteFiles_);
     chain.push_back(this);
     return chain;
 }
@@ -93,6 +95,10 @@ OpenedFile CDyeworksApp::OpenDocumentFile(const std::string& path) {
         return OpenedFile::failed();
     const auto claims = [&](const auto& kind) { return kind->matches(fullPath); };
     const auto kind = std::ranges::find_if(templates_, claims);
+    if (kind == templates_.end()) {
+        if (const std::optional<OpenedFile> picture = pictures_.openFile(fullPath))
+            return *picture;
+    }
     // The first kind, images, reads or refuses what no kind claims.
     return OpenedFile::of((kind == templates_.end() ? templates_.front() : *kind)->openDocument(path));
 }

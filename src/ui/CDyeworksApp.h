@@ -15,6 +15,9 @@
 #include "ui/CurrentProject.h"
 #include "ui/MainFrameHost.h"
 #include "ui/OpenRequestQueue.h"
+#include "ui/PaletteFileCommands.h"
+#include "ui/PastePictureCommands.h"
+#include "ui/PictureImport.h"
 #include "ui/ProjectCommands.h"
 #include "ui/RecentFiles.h"
 #include "ui/StartUpParts.h"
@@ -66,7 +69,7 @@ public:
     // The kinds of documents.
     /// The kind called exactly so ("Texture", "Project"), or null.
     [[nodiscard]] DocumentTemplate* FindDocTemplate(const std::string& name) const;
-    [[nodiscard]] DocumentTemplate& imageTemplate() noexcept { return *FindDocTemplate("Texture"); }
+    [[nodiscard]] DocumentTemplate& imageTemplate() noexcept override { return *FindDocTemplate("Texture"); }
     [[nodiscard]] CDocument* FindOpenDocument(const std::string& path) const override;
 
     [[nodiscard]] std::vector<CDocument*> documents() const override;
@@ -171,6 +174,9 @@ private:
     std::unique_ptr<PaletteSet> palettes_;
     CurrentProject project_;
     ProjectCommands projectCommands_{*this};
+    PictureImport pictures_{*this};
+    PastePictureCommands pastePictures_{*this, pictures_};
+    PaletteFileCommands paletteFiles_{*this};
     std::vector<std::unique_ptr<DocumentTemplate>> templates_;
     std::unique_ptr<CMainFrame> mainFrame_;
     QPointer<QWidget> splash_;

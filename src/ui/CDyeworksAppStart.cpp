@@ -56,6 +56,7 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
     keepsSettings_ = !commandLine.renders();
     // Nor is a window that nobody saw to decide where the image's next one stands.
     imageHost_.setKeepsImageSettings(commandLine.isInteractive());
+    pictures_.setAsks(commandLine.isInteractive());
     if (!registerControls())
         return false;
     createTemplates();
@@ -192,7 +193,7 @@ bool CDyeworksApp::processCommandLine(const CommandLine& commandLine) {
     const bool anyOpened =
         !paletteSet()->palettes.empty() ||
         std::ranges::any_of(templates_, [](const auto& kind) { return !kind->documents().empty(); });
-    if (paths.empty() || anyOpened || commandLine.renders())
+    if (paths.empty() || anyOpened || allOpened || commandLine.renders())
         return true;
     exitCode_ = 1;
     return false;

@@ -90,8 +90,16 @@ constexpr std::array kProjectFileMenu{
 };
 
 constexpr std::array kEditMenu{
-    MenuItem{ID_EDIT_UNDO}, MenuItem{ID_EDIT_REDO},  kSeparator, MenuItem{ID_EDIT_CUT},
-    MenuItem{ID_EDIT_COPY}, MenuItem{ID_EDIT_PASTE}, kSeparator, MenuItem{ID_OPTIONS},
+    MenuItem{ID_EDIT_UNDO},
+    MenuItem{ID_EDIT_REDO},
+    kSeparator,
+    MenuItem{ID_EDIT_CUT},
+    MenuItem{ID_EDIT_COPY},
+    MenuItem{ID_EDIT_PASTE},
+    kSeparator,
+    MenuItem{ID_OPTIONS},
+    kSeparator,
+    MenuItem{ID_EDIT_PASTE_NEW},
 };
 
 constexpr std::array kImageEditMenu{
@@ -109,6 +117,9 @@ constexpr std::array kImageEditMenu{
     MenuItem{ID_FLIP_Y},
     kSeparator,
     MenuItem{ID_OPTIONS},
+    kSeparator,
+    MenuItem{ID_EDIT_PASTE_NEW},
+    MenuItem{ID_EDIT_PASTE_MATCHING},
 };
 
 constexpr std::array kZoomMenu{
@@ -175,6 +186,9 @@ constexpr std::array kPaletteMenu{
     MenuItem{ID_PALETTE_SAVE_AS},
     kSeparator,
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Entries"), kEntriesMenu},
+    kSeparator,
+    MenuItem{ID_PALETTE_IMPORT},
+    MenuItem{ID_PALETTE_EXPORT},
 };
 
 // The context menus of an image.

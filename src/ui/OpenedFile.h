@@ -4,10 +4,12 @@ namespace dyeworks {
 
 class CDocument;
 
-/// What became of a file that was to be opened: true when it is open. A palette is open without a document.
+/// What became of a file that was to be opened: true when it is open, or when the user did not want it any
+/// more. A palette is open without a document.
 class OpenedFile {
 public:
     static OpenedFile failed() { return {false, nullptr}; }
+    static OpenedFile cancelled() { return {true, nullptr}; }
     static OpenedFile palette() { return {true, nullptr}; }
     /// Null counts as a failure.
     static OpenedFile of(CDocument* document) { return {document != nullptr, document}; }

@@ -13,6 +13,7 @@ class CDocument;
 class CMainFrame;
 class CommandRouter;
 class CurrentProject;
+class DocumentTemplate;
 class PaletteSet;
 
 /// What is open in the program and the window that shows it, for those who answer what images, projects and
@@ -32,8 +33,11 @@ public:
     /// The open document of any kind with this path, both made full paths and compared without regard to
     /// case; null when there is none.
     [[nodiscard]] virtual CDocument* FindOpenDocument(const std::string& path) const = 0;
+    /// The kind of documents that images are.
+    [[nodiscard]] virtual DocumentTemplate& imageTemplate() noexcept = 0;
     /// Opens a palette (".tlf") in the palette set, any other file as a document of the kind that has its
-    /// extension, as an image when no kind has. Failures have been reported.
+    /// extension, as an image when no kind has; pictures of other programs become new images. Failures have
+    /// been reported.
     virtual OpenedFile OpenDocumentFile(const std::string& path) = 0;
     /// All that are open, the project first.
     [[nodiscard]] virtual std::vector<CDocument*> documents() const = 0;

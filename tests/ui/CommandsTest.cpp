@@ -19,7 +19,8 @@ const Ids kAlwaysEnabled{ID_PROJECT_NEW,      ID_PROJECT_OPEN,    ID_FILE_NEW,  
                          ID_FILE_PRINT_SETUP, ID_PALETTE_NEW,     ID_PALETTE_OPEN, ID_OPTIONS,
                          ID_APP_ABOUT,        ID_APP_EXIT,        ID_HELP_INDEX,   ID_HELP,
                          ID_CONTEXT_HELP,     ID_VIEW_PALETTEBAR, ID_VIEW_TOOLBAR, ID_VIEW_DRAWBAR,
-                         ID_VIEW_PROJECTBAR,  ID_VIEW_STATUS_BAR, ID_VIEW_VIEWBAR, ID_FILE_IMPORT_BMP};
+                         ID_VIEW_PROJECTBAR,  ID_VIEW_STATUS_BAR, ID_VIEW_VIEWBAR, ID_FILE_IMPORT_BMP,
+                         ID_PALETTE_IMPORT};
 
 /// Besides, with an unchanged project, in whose window the program is.
 const Ids kEnabledWithProject{
@@ -28,8 +29,8 @@ const Ids kEnabledWithProject{
     ID_WINDOW_TILE_HORZ, ID_WINDOW_TILE_VERT, ID_RECENT_PROJECT_FIRST};
 
 /// Besides, with a palette that is unchanged.
-const Ids kEnabledWithPalette{ID_PALETTE_EDIT, ID_PALETTE_CLOSE, ID_PALETTE_SAVE, ID_PALETTE_SAVE_AS,
-                              ID_RECENT_PALETTE_FIRST};
+const Ids kEnabledWithPalette{ID_PALETTE_EDIT,    ID_PALETTE_CLOSE,  ID_PALETTE_SAVE,
+                              ID_PALETTE_SAVE_AS, ID_PALETTE_EXPORT, ID_RECENT_PALETTE_FIRST};
 
 /// Besides, with an unchanged image.
 const Ids kEnabledWithImage{// Its file and its windows.
