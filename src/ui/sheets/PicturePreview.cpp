@@ -47,6 +47,8 @@ PicturePreview::PicturePreview(const QString& name, QWidget* parent)
     setAccessibleName(name);
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    // White around it would pass for a part of the picture.
+    viewport()->setBackgroundRole(QPalette::Window);
     // Fitting must not come and go with the room that bars take.
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
