@@ -45,6 +45,7 @@ public:
     FileDialogs& fileDialogs() override { std::abort(); }
     Profile& profile() override { std::abort(); }
     Clipboard& clipboard() override { std::abort(); }
+    PictureReader& pictureReader() override { std::abort(); }
     Library& library() override { std::abort(); }
     VersionInfo& versionInfo() override { std::abort(); }
     Locale& locale() override { std::abort(); }

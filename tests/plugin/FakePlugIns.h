@@ -16,14 +16,14 @@ namespace dyeworks {
 
 using Word = std::uint32_t;
 using Text = const char*;
-using Picture = const PlugInPicture*;
+using PictureIn = const PlugInPicture*;
 using Lines = std::vector<std::string>;
 
 constexpr Word kThrows = 99;
 inline Lines calls;
 inline std::map<char, Word> answers; ///< Of each plug-in; 0 where there is none.
 /// What the importer does in its call.
-inline std::function<void(Picture in, PlugInPicture* out)> import;
+inline std::function<void(PictureIn in, PlugInPicture* out)> import;
 
 struct Noted {
     static std::string text(Word value) { return std::to_string(value); }
@@ -31,7 +31,7 @@ struct Noted {
     static std::string text(DwHandle handle) { return handle == nullptr ? "-" : static_cast<Text>(handle); }
     static std::string text(Word* effect) { return std::to_string(*effect += DW_DROP_MOVE); }
     static std::string text(char* buffer) { return *buffer == '\0' ? std::strcpy(buffer, "once") : "again"; }
-    static std::string text(Picture p) { return std::to_string(p->paletteNumber) + text(p->reserved); }
+    static std::string text(PictureIn p) { return std::to_string(p->paletteNumber) + text(p->reserved); }
 };
 
 /// An entry point of the plug-in `kName` that notes its arguments behind these two letters.
@@ -56,11 +56,11 @@ FakeLibrary::Symbols everything() {
         static char letter[] = {kName, '\0'};
         return letter;
     };
-    const auto imports = +[](Picture in, PlugInPicture* out) { return import(in, out), answers[kName]; };
+    const auto imports = +[](PictureIn in, PlugInPicture* out) { return import(in, out), answers[kName]; };
     return {{"DWPI_import", FakeLibrary::address(imports)},
-            {"DWPI_export", entry<kName, 'x', Picture>()},
-            {"DWPI_preview2", entry<kName, '2', Picture, Word>()},
-            {"DWPI_preview", entry<kName, '1', Picture>()},
+            {"DWPI_export", entry<kName, 'x', PictureIn>()},
+            {"DWPI_preview2", entry<kName, '2', PictureIn, Word>()},
+            {"DWPI_preview", entry<kName, '1', PictureIn>()},
             {"DWPI_TPF_onNew", FakeLibrary::address(onNew)},
             {"DWPI_TPF_onUpdate", entry<kName, 'u', DwHandle>()},
             {"DWPI_TPF_onUpdateNodes", entry<kName, 'n', DwHandle>()},

@@ -131,63 +131,63 @@ TEST_F(PlugInCalls, ImportTakesOnlyWhatIsNewAndRight) {
         bool withPalette = true;
     } cases[] = {
         {"record",
-         [&](Picture in, auto* out) {
+         [&](PictureIn in, auto* out) {
              EXPECT_EQ(Noted::text(in) + Noted::text(out), "160160");
              EXPECT_EQ(fake_.waitCursor.depth, 1);
          },
          {}},
-        {"in place", [](Picture in, auto) { DW_setTexel(in->image, 1, 0, 9); }, {.texel = 9}},
-        {"same pointers", [](Picture in, auto* out) { *out = *in; }, {}},
-        {"image", [](Picture, auto* out) { out->image = DW_newImage(3, 2, 4); }, {.canvas = 17}},
+        {"in place", [](PictureIn in, auto) { DW_setTexel(in->image, 1, 0, 9); }, {.texel = 9}},
+        {"same pointers", [](PictureIn in, auto* out) { *out = *in; }, {}},
+        {"image", [](PictureIn, auto* out) { out->image = DW_newImage(3, 2, 4); }, {.canvas = 17}},
         {"both",
-         [&](Picture, auto* out) {
+         [&](PictureIn, auto* out) {
              *out = {DW_newImage(3, 2, 4), blue(256), 0, 0};
          },
          {.canvas = 248, .entry = 0x3F}},
-        {"palette", [&](Picture, auto* out) { out->palette = blue(16); }, {.entry = 0x3F, .count = 16}},
-        {"new palette", [&](Picture, auto* out) { out->palette = blue(16); }, {.opened = 1}, false},
+        {"palette", [&](PictureIn, auto* out) { out->palette = blue(16); }, {.entry = 0x3F, .count = 16}},
+        {"new palette", [&](PictureIn, auto* out) { out->palette = blue(16); }, {.opened = 1}, false},
         {"count",
-         [&](Picture, auto* out) { out->palette = blue(16), out->palette->count = 15; },
+         [&](PictureIn, auto* out) { out->palette = blue(16), out->palette->count = 15; },
          {.failed = true}},
         {"width",
-         [](Picture, auto* out) { out->image = DW_newImage(3, 2, 4), out->image->width = -3; },
+         [](PictureIn, auto* out) { out->image = DW_newImage(3, 2, 4), out->image->width = -3; },
          {.failed = true}},
         {"height",
-         [](Picture, auto* out) { out->image = DW_newImage(3, 2, 4), out->image->height = 65537; },
+         [](PictureIn, auto* out) { out->image = DW_newImage(3, 2, 4), out->image->height = 65537; },
          {.failed = true}},
         {"depth",
-         [](Picture, auto* out) { out->image = DW_newImage(3, 2, 4), out->image->bits = 5; },
+         [](PictureIn, auto* out) { out->image = DW_newImage(3, 2, 4), out->image->bits = 5; },
          {.failed = true}},
         {"no texels",
-         [](Picture, auto* out) {
+         [](PictureIn, auto* out) {
              out->image = DW_newImage(3, 2, 4), std::free(std::exchange(out->image->texels, nullptr));
          },
          {.failed = true}},
         {"type",
-         [&](Picture, auto* out) { out->palette = blue(16), out->palette->colourType = 2; },
+         [&](PictureIn, auto* out) { out->palette = blue(16), out->palette->colourType = 2; },
          {.failed = true}},
         {"no entries",
-         [&](Picture, auto* out) {
+         [&](PictureIn, auto* out) {
              out->palette = blue(16), std::free(std::exchange(out->palette->entries, nullptr));
          },
          {.failed = true}},
         {"input's texels",
-         [](Picture in, auto* out) {
+         [](PictureIn in, auto* out) {
              out->image = DW_newImage(2, 1, 4);
              std::free(std::exchange(out->image->texels, in->image->texels));
          },
          {.failed = true}},
         {"changed",
-         [](Picture in, auto) { in->image->height = 9, in->image->texels = nullptr; },
+         [](PictureIn in, auto) { in->image->height = 9, in->image->texels = nullptr; },
          {.failed = true}},
         {"changed palette",
-         [](Picture in, auto) { in->palette->count = 16, in->palette->entries = nullptr; },
+         [](PictureIn in, auto) { in->palette->count = 16, in->palette->entries = nullptr; },
          {.failed = true}},
         {"throw",
-         [](Picture in, auto) { DW_setTexel(in->image, 1, 0, 9), throw kThrows; },
+         [](PictureIn in, auto) { DW_setTexel(in->image, 1, 0, 9), throw kThrows; },
          {.texel = 9, .failed = true}},
         {"refusal",
-         [](Picture in, auto* out) {
+         [](PictureIn in, auto* out) {
              *out = {in->image + 1, in->palette + 1, 0, 0}, answers['a'] = 0;
          },
          {}}};
@@ -212,13 +212,13 @@ TEST_F(PlugInCalls, ImportTakesOnlyWhatIsNewAndRight) {
 
 TEST_F(PlugInCalls, ImportIsOneStepOfTheOpenPaletteAndToBeSaved) {
     const auto brings = [](std::int32_t count) {
-        return [count](Picture, auto* out) { out->palette = DW_newPalette(DW_COLOUR_RGBA, count); };
+        return [count](PictureIn, auto* out) { out->palette = DW_newPalette(DW_COLOUR_RGBA, count); };
     };
     add("a.so", everything<'a'>(), always<1>());
     load();
     answers['a'] = 1;
     const std::pair<const char*, decltype(import)> ways[] = {
-        {"same kind", brings(256)}, {"another kind", brings(16)}, {"in place", [](Picture in, auto) {
+        {"same kind", brings(256)}, {"another kind", brings(16)}, {"in place", [](PictureIn in, auto) {
                                                                        in->palette->entries[3] = 7;
                                                                    }}};
     for (const auto& [name, way] : ways) {
@@ -265,7 +265,7 @@ TEST_F(PlugInCalls, GoInOrderWithTheHandleOfEachPlugIn) {
     };
     const auto imports = [&](std::int32_t index) {
         ::TmfImage* made = nullptr;
-        dyeworks::import = [&made](Picture, auto* out) { made = out->image = DW_newImage(3, 2, 4); };
+        dyeworks::import = [&made](PictureIn, auto* out) { made = out->image = DW_newImage(3, 2, 4); };
         const bool taken = images_.ImportImage(index, &image_, nullptr, 0) != nullptr;
         // What a plug-in that refuses leaves behind stays its own.
         if (!taken)

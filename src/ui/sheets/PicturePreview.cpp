@@ -11,7 +11,7 @@ namespace dyeworks {
 namespace {
 
 /// In heights of a letter.
-constexpr int kPreferredSide = 14;
+constexpr int kPreferredSide = 20;
 constexpr int kLeastSide = 5;
 
 /// A square of two by two fields, in neither of the desktop's colours: it is a part of the picture.
@@ -32,8 +32,10 @@ QImage fitted(const QImage& image, const QSize& room) {
     const int factor = std::min(room.width() / image.width(), room.height() / image.height());
     if (factor >= 1)
         return image.scaled(image.size() * factor);
-    return image.scaled(image.size().scaled(room, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)),
-                        Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    // An image of a colour table would be brought back to it, with a dither of Qt's.
+    return image.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+        .scaled(image.size().scaled(room, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)), Qt::IgnoreAspectRatio,
+                Qt::SmoothTransformation);
 }
 
 void follow(const QScrollBar& leader, QScrollBar& follower) {
