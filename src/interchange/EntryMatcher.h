@@ -27,6 +27,8 @@ public:
     /// Of a visible pixel, for a dither, which makes up elsewhere for what is missing: nearest is what leaves
     /// the least to be made up for, or it would pile up. The values may lie beside those that colours have.
     [[nodiscard]] Found findToMix(Values values) noexcept;
+    /// The entry that shows a visible pixel exactly; -1 when none does, and unless `forMixing`.
+    [[nodiscard]] int findExact(Colour colour) const noexcept;
     /// Of a visible pixel. Quick where the last one was of the same colour.
     [[nodiscard]] std::uint8_t find(Colour colour) noexcept;
     /// Of a transparent pixel: the first transparent entry, or the nearest if there is none.
@@ -58,7 +60,8 @@ private:
     Candidates candidates_;
     Search looks_;
     std::optional<Search> mixes_;
-    int transparent_ = -1; ///< The first transparent entry, or -1.
+    std::vector<std::int16_t> exact_; ///< Of each 16-bit value that an entry has: the first such; else -1.
+    int transparent_ = -1;            ///< The first transparent entry, or -1.
     Colour lastColour_{0, 0, 0, 0};
     std::uint8_t lastIndex_ = 0;
 };

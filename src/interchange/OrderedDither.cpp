@@ -1,5 +1,7 @@
 #include "interchange/OrderedDither.h"
 
+#include "interchange/EntryColour.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -7,7 +9,8 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::size_t kMixtureBits = 14;
+constexpr std::size_t kRgbaCells = std::size_t{1} << 18;
+constexpr std::size_t kIaCells = 65536;
 
 /// Bayer's matrix of 8 by 8: the bits of x ^ y and y, interleaved from the lowest on.
 std::size_t bayer(std::size_t x, std::size_t y) noexcept {
@@ -28,10 +31,15 @@ float lightnessOf(Values values) noexcept {
 OrderedDither::OrderedDither(EntryMatcher& matcher, ColourType type)
     : matcher_(matcher)
     , type_(type)
-    , mixtures_(std::size_t{1} << kMixtureBits) {}
+    , mixtures_(type == ColourType::Ia ? kIaCells : kRgbaCells) {}
+
+std::size_t OrderedDither::cellOf(Colour colour) const noexcept {
+    if (type_ == ColourType::Ia)
+        return entryOf(type_, colour);
+    return std::size_t{colour.red} >> 2U << 12U | std::size_t{colour.green} >> 2U << 6U | colour.blue >> 2U;
+}
 
 void OrderedDither::mix(Mixture& mixture, Colour colour) noexcept {
-    mixture.colour = colour;
     mixture.known = true;
     const Values wanted = valuesOf(type_, colour);
     Values missing;
@@ -48,10 +56,10 @@ void OrderedDither::mix(Mixture& mixture, Colour colour) noexcept {
 }
 
 std::uint8_t OrderedDither::find(std::size_t x, std::size_t y, Colour colour) noexcept {
-    const std::uint32_t bits = static_cast<std::uint32_t>(colour.red) << 24U | colour.green << 16U |
-                               colour.blue << 8U | colour.alpha;
-    Mixture& mixture = mixtures_[bits * 2654435769U >> (32 - kMixtureBits)];
-    if (!mixture.known || !(mixture.colour == colour))
+    if (const int exact = matcher_.findExact(colour); exact >= 0)
+        return static_cast<std::uint8_t>(exact);
+    Mixture& mixture = mixtures_[cellOf(colour)];
+    if (!mixture.known)
         mix(mixture, colour);
     return mixture.entries[bayer(x, y) * kShares / 64];
 }

@@ -24,15 +24,16 @@ public:
 private:
     static constexpr std::size_t kShares = 16;
     struct Mixture {
-        Colour colour;
         bool known = false;
         std::array<std::uint8_t, kShares> entries{};
     };
+    /// Colours that differ by less than half a step of five bits share a mixture: that of the first of them.
+    [[nodiscard]] std::size_t cellOf(Colour colour) const noexcept;
     void mix(Mixture& mixture, Colour colour) noexcept;
 
     EntryMatcher& matcher_;
     ColourType type_;
-    std::vector<Mixture> mixtures_; ///< Those met last, by a hash of their colour.
+    std::vector<Mixture> mixtures_; ///< By cell.
 };
 
 } // namespace dyeworks

@@ -33,9 +33,9 @@ struct Triple {
 using Light = Triple;
 
 /// Where a colour lies in a space in which equal distances look about equally large. Of RGBA it is DIN99d,
-/// whose distances follow CIEDE2000 far better than those of CIELAB or Oklab. Of IA: the lightness that the
-/// colour shows over black and over white, so that alpha counts as far as it can be seen, and a trace of the
-/// intensity itself, by which the hidden ones still differ.
+/// whose plain distances follow CIEDE2000 closely. Of IA: the lightness that the colour shows over black and
+/// over white, so that alpha counts as far as it can be seen, and a trace of the intensity itself, by which
+/// the hidden ones still differ.
 using ColourPoint = Triple;
 
 /// What dithers mix: the channels as they are stored, 0 to 255, because the machine filters texels by them.

@@ -1,8 +1,8 @@
 #include "platform/Text.h"
 
-#include <array>
 #include <cassert>
 #include <cstddef>
+#include <iterator>
 
 // The name by which the translation tools find the texts; what it wraps stays as it is.
 #define QT_TRANSLATE_NOOP(context, text) text
@@ -16,7 +16,8 @@ struct Row {
     const char* english;
 };
 
-constexpr std::array kRows{
+// No std::array: deducing it from so many rows is more than some compilers go along with.
+constexpr Row kRows[] = {
     Row{StringId::ApplicationTitle, QT_TRANSLATE_NOOP("Text", "Orrery Dyeworks")},
 
     Row{StringId::FileErrorNotFound, QT_TRANSLATE_NOOP("Text", "The file or its folder does not exist.")},
@@ -444,10 +445,10 @@ constexpr std::array kRows{
     Row{StringId::AboutPlugInList, QT_TRANSLATE_NOOP("Text", "The plug-ins that are loaded")},
 };
 
-static_assert(kRows.size() == static_cast<std::size_t>(StringId::Count), "every StringId needs its text");
+static_assert(std::size(kRows) == static_cast<std::size_t>(StringId::Count), "every StringId needs its text");
 
 constexpr bool rowsStandAtTheirNumber() {
-    for (std::size_t i = 0; i < kRows.size(); ++i) {
+    for (std::size_t i = 0; i < std::size(kRows); ++i) {
         if (static_cast<std::size_t>(kRows[i].id) != i)
             return false;
     }
@@ -459,7 +460,7 @@ static_assert(rowsStandAtTheirNumber(), "the texts stand in the order of StringI
 
 const char* englishText(StringId id) {
     const auto index = static_cast<std::size_t>(id);
-    assert(index < kRows.size());
+    assert(index < std::size(kRows));
     return kRows[index].english;
 }
 
