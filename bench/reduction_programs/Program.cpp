@@ -75,6 +75,11 @@ int reduce(const std::string& from, int colours, const std::string& to, const st
     return 0;
 }
 
+/// What the display shows of the entry that is nearest in each channel, or that the colour is exactly.
+Colour shownOf(Colour colour) {
+    return colourOf(ColourType::Rgba, entryOf(ColourType::Rgba, colour));
+}
+
 /// The mean over the pixels that are visible in the first picture; of the second, what five bits show.
 int difference(const std::string& original, const std::string& result) {
     const Picture first = read(original);
@@ -86,8 +91,7 @@ int difference(const std::string& original, const std::string& result) {
     for (std::size_t i = 0; i < first.pixels.size(); ++i) {
         if (first.pixels[i].alpha < kThreshold)
             continue;
-        const Colour shown = colourOf(ColourType::Rgba, entryOf(ColourType::Rgba, second.pixels[i]));
-        sum += ciede2000(first.pixels[i], shown);
+        sum += ciede2000(first.pixels[i], shownOf(second.pixels[i]));
         ++count;
     }
     std::printf("%.4f\n", sum / std::max(count, 1.0));

@@ -1,9 +1,9 @@
 #include "pictures/PicturesExport.h"
 
-#include "common/IndexedPng.h"
 #include "common/Records.h"
 #include "common/Say.h"
 #include "common/WriteFile.h"
+#include "common/WritePng.h"
 #include "pictures/PictureFileNames.h"
 
 #include <QDir>
@@ -76,7 +76,7 @@ public:
         const std::int32_t banks = palette == nullptr ? 0 : palette->count / kBankSize;
         const bool isBank = picture.bank < static_cast<std::uint32_t>(banks);
         const std::int32_t first = isBank ? static_cast<std::int32_t>(picture.bank) * kBankSize : 0;
-        QString reason = writeIndexedPng(QDir(folder_).filePath(picture.file), *image, palette.get(), first);
+        QString reason = writePngFile(QDir(folder_).filePath(picture.file), *image, palette.get(), first);
         if (reason.isEmpty())
             list(picture, *image);
         return reason;

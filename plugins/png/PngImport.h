@@ -17,6 +17,6 @@ struct PngImport {
 /// entries would change become IA entries. Of a 4-bit image the colours stand where the current image has its
 /// own. The other entries of the current palette stay. Files with a palette keep their indices, which have to
 /// fit the depth; all others are reduced to as many colours as it has.
-[[nodiscard]] PngImport importPng(const QString& path, const PlugInPicture& current);
+[[nodiscard]] PngImport importPng(const QString& path, const ::PlugInPicture& current);
 
 } // namespace dyeworks::plugins

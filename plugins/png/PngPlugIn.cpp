@@ -1,6 +1,6 @@
 #include "common/DialogScope.h"
-#include "common/IndexedPng.h"
 #include "common/Say.h"
+#include "common/WritePng.h"
 #include "png/PngImport.h"
 
 #include <QApplication>
@@ -60,7 +60,7 @@ std::uint32_t exportFile(const PlugInPicture& picture) {
     const QString path = askForFile(QFileDialog::AcceptSave, say("Export PNG", "PNG のエクスポート"));
     if (path.isEmpty())
         return 0;
-    const QString reason = writeIndexedPng(path, *picture.image, picture.palette, picture.paletteNumber);
+    const QString reason = writePngFile(path, *picture.image, picture.palette, picture.paletteNumber);
     if (!reason.isEmpty())
         tell(say("\"%1\" cannot be written. %2", "「%1」を書き込めません。%2"), path, reason);
     return reason.isEmpty() ? 1 : 0;

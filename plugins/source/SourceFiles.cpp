@@ -1,8 +1,9 @@
 #include "source/SourceFiles.h"
 
+#include "common/InterchangeReason.h"
+#include "common/LibraryRecords.h"
 #include "common/Say.h"
 #include "common/WriteFile.h"
-#include "source/SourceRecords.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -11,17 +12,11 @@ namespace dyeworks::plugins {
 
 namespace {
 
-QString reasonOf(const InterchangeError& error) {
-    switch (error.kind) {
-    case InterchangeError::Kind::NoTexels:
-        return say("The image has no texels of 4 or 8 bits.",
-                   "4 ビットまたは 8 ビットのテクセルがありません。");
-    case InterchangeError::Kind::NoColours:
-        return say("Neither texels nor a palette are there to be written.",
-                   "書き出すテクセルもパレットもありません。");
-    default:
-        return say("There is not enough memory.", "メモリが足りません。");
-    }
+QString whyNot(const InterchangeError& error) {
+    return error.kind == InterchangeError::Kind::NoColours
+               ? say("Neither texels nor a palette are there to be written.",
+                     "書き出すテクセルもパレットもありません。")
+               : reasonOf(error);
 }
 
 template <typename Bytes>
@@ -32,7 +27,10 @@ QByteArray bytesOf(const Bytes& bytes) {
 SourceFailure writePair(const SourcePair& pair, const QString& headerPath) {
     QFile before(headerPath);
     const bool wasThere = before.exists();
-    const QByteArray old = wasThere && before.open(QIODevice::ReadOnly) ? before.readAll() : QByteArray();
+    // What cannot be put back is not touched.
+    if (wasThere && !before.open(QIODevice::ReadOnly))
+        return {headerPath, before.errorString()};
+    const QByteArray old = wasThere ? before.readAll() : QByteArray();
     before.close();
     if (const QString reason = writeFile(headerPath, bytesOf(pair.header)); !reason.isEmpty())
         return {headerPath, reason};
@@ -58,10 +56,10 @@ QString sourcePathFor(const QString& headerPath) {
 SourceFailure writeSource(const ::PlugInPicture& picture, const SourceChoices& choices, const QString& path) {
     const auto records = recordsOf(picture);
     if (!records)
-        return {path, reasonOf({InterchangeError::Kind::NoMemory, {}, 0, 0})};
+        return {path, whyNot({InterchangeError::Kind::NoMemory, {}, 0, 0})};
     const TlutData* const palette = records->palette ? &*records->palette : nullptr;
     const auto write = [&](const auto& made) -> SourceFailure {
-        return {path, made ? writeFile(path, bytesOf(made.value())) : reasonOf(made.error())};
+        return {path, made ? writeFile(path, bytesOf(made.value())) : whyNot(made.error())};
     };
     switch (choices.kind) {
     case SourceKind::Header:
@@ -82,7 +80,7 @@ SourceFailure writeSource(const ::PlugInPicture& picture, const SourceChoices& c
                           "ヘッダーとソースが同じファイルになります。")};
     const auto pair =
         headerAndSource(records->image, palette, records->firstEntry, choices.options, name.toStdString());
-    return pair ? writePair(pair.value(), path) : SourceFailure{path, reasonOf(pair.error())};
+    return pair ? writePair(pair.value(), path) : SourceFailure{path, whyNot(pair.error())};
 }
 
 } // namespace dyeworks::plugins

@@ -6,13 +6,24 @@ namespace dyeworks {
 
 namespace {
 
+constexpr unsigned kLowBits = 7;
+
 constexpr std::uint8_t widened(unsigned five) noexcept {
-    return static_cast<std::uint8_t>(five << 3 | five >> 2);
+    return static_cast<std::uint8_t>(five << 3);
 }
 
-/// The five bits whose widened value is nearest.
-constexpr unsigned narrowed(unsigned eight) noexcept {
-    return (eight * 31 + 127) / 255;
+/// Whether five bits were widened to this, in either of the ways that are usual.
+constexpr bool isWidened(unsigned eight) noexcept {
+    return (eight & kLowBits) == 0 || (eight & kLowBits) == eight >> 5;
+}
+
+constexpr bool isWidened(Colour colour) noexcept {
+    return isWidened(colour.red) && isWidened(colour.green) && isWidened(colour.blue);
+}
+
+/// The five bits that the display shows nearest to this.
+constexpr unsigned rounded(unsigned eight) noexcept {
+    return std::min((eight + 4) >> 3, 31U);
 }
 
 } // namespace
@@ -41,12 +52,17 @@ std::uint16_t entryOf(ColourType type, Colour colour) noexcept {
         const unsigned grey = (77U * colour.red + 150U * colour.green + 29U * colour.blue + 128U) >> 8U;
         return static_cast<std::uint16_t>(grey << 8U | colour.alpha);
     }
-    return static_cast<std::uint16_t>(narrowed(colour.red) << 11U | narrowed(colour.green) << 6U |
-                                      narrowed(colour.blue) << 1U | colour.alpha >> 7U);
+    const auto five = [exact = isWidened(colour)](unsigned eight) {
+        return exact ? eight >> 3 : rounded(eight);
+    };
+    return static_cast<std::uint16_t>(five(colour.red) << 11U | five(colour.green) << 6U |
+                                      five(colour.blue) << 1U | colour.alpha >> 7U);
 }
 
 bool isExact(ColourType type, Colour colour) noexcept {
-    return colourOf(type, entryOf(type, colour)) == colour;
+    if (type == ColourType::Ia)
+        return colourOf(type, entryOf(type, colour)) == colour;
+    return isWidened(colour) && (colour.alpha == 0 || colour.alpha == 255);
 }
 
 ColourType colourTypeFor(const std::vector<Colour>& colours) noexcept {

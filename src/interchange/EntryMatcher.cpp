@@ -50,13 +50,12 @@ std::size_t EntryMatcher::Search::find(Triple point) noexcept {
 EntryMatcher::EntryMatcher(ColourType type, std::span<const std::uint16_t> entries, bool forMixing)
     : type_(type)
     , candidates_(candidatesOf(type, entries))
-    , looks_(candidates_.points, {0, -64, -64}, 2) {
-    if (forMixing) {
+    , looks_(candidates_.points, {0, -64, -64}, 2)
+    , exact_(65536, -1) {
+    if (forMixing)
         mixes_.emplace(candidates_.values, Triple{}, 4.0F);
-        exact_.assign(65536, -1);
-        for (auto index = candidates_.indices.rbegin(); index != candidates_.indices.rend(); ++index)
-            exact_[entries[*index]] = *index;
-    }
+    for (auto index = candidates_.indices.rbegin(); index != candidates_.indices.rend(); ++index)
+        exact_[entries[*index]] = *index;
     const auto first = std::ranges::find_if(entries, [](std::uint16_t entry) { return (entry & 1U) == 0; });
     if (type == ColourType::Rgba && first != entries.end())
         transparent_ = static_cast<int>(first - entries.begin());
@@ -71,7 +70,7 @@ EntryMatcher::Found EntryMatcher::findToMix(Values values) noexcept {
 int EntryMatcher::findExact(Colour colour) const noexcept {
     if (type_ == ColourType::Rgba)
         colour.alpha = 255; // As far as it is visible.
-    return exact_.empty() || !isExact(type_, colour) ? -1 : exact_[entryOf(type_, colour)];
+    return isExact(type_, colour) ? exact_[entryOf(type_, colour)] : -1;
 }
 
 std::uint8_t EntryMatcher::find(Colour colour) noexcept {

@@ -27,7 +27,7 @@ public:
     /// Of a visible pixel, for a dither, which makes up elsewhere for what is missing: nearest is what leaves
     /// the least to be made up for, or it would pile up. The values may lie beside those that colours have.
     [[nodiscard]] Found findToMix(Values values) noexcept;
-    /// The entry that shows a visible pixel exactly; -1 when none does, and unless `forMixing`.
+    /// The entry that a visible pixel is exactly, or -1.
     [[nodiscard]] int findExact(Colour colour) const noexcept;
     /// Of a visible pixel. Quick where the last one was of the same colour.
     [[nodiscard]] std::uint8_t find(Colour colour) noexcept;

@@ -53,9 +53,20 @@ ColourPoint din99d(Light light) noexcept {
     return {325.22F * std::log(1 + 0.0036F * (116 * rootY - 16)), e * chroma, f * chroma};
 }
 
+/// A colour that an entry is exactly, as the display shows it: other programs may widen five bits otherwise.
+Colour asShown(ColourType type, Colour colour) noexcept {
+    const std::uint8_t alpha = colour.alpha;
+    colour.alpha = type == ColourType::Rgba ? std::uint8_t{255} : alpha;
+    if (isExact(type, colour))
+        colour = colourOf(type, entryOf(type, colour));
+    colour.alpha = alpha;
+    return colour;
+}
+
 } // namespace
 
 Values valuesOf(ColourType type, Colour colour) noexcept {
+    colour = asShown(type, colour);
     if (type == ColourType::Ia)
         return {static_cast<float>(entryOf(type, colour) >> 8U), static_cast<float>(colour.alpha), 0};
     return {static_cast<float>(colour.red), static_cast<float>(colour.green),
@@ -64,6 +75,7 @@ Values valuesOf(ColourType type, Colour colour) noexcept {
 
 Light lightOf(ColourType type, Colour colour) noexcept {
     static const std::array<float, 256> decoding = makeDecoding();
+    colour = asShown(type, colour);
     if (type == ColourType::Ia)
         return {decoding[entryOf(type, colour) >> 8U], static_cast<float>(colour.alpha) / 255, 0};
     return {decoding[colour.red], decoding[colour.green], decoding[colour.blue]};

@@ -12,23 +12,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::uint8_t kLowBits = 7;
-
-/// Images show channels of five bits in the upper bits of eight, and are copied so. Read as eight bits they
-/// would come back darker.
-void widenFiveBits(std::vector<Colour>& colours) {
-    const auto isFive = [](const Colour& colour) {
-        return ((colour.red | colour.green | colour.blue) & kLowBits) == 0;
-    };
-    if (!std::ranges::all_of(colours, isFive))
-        return;
-    const auto widened = [](std::uint8_t channel) {
-        return static_cast<std::uint8_t>(channel | channel >> 5);
-    };
-    for (Colour& colour : colours)
-        colour = {widened(colour.red), widened(colour.green), widened(colour.blue), colour.alpha};
-}
-
 /// The bitmap that is offered, if its pixels are numbers of colours.
 std::optional<PngPicture> indexedBitmap() {
     const std::unique_ptr<TextureCanvas> canvas = TextureCanvas::PasteFromClipboard();
@@ -77,8 +60,6 @@ Result<PngPicture, InterchangeError> clipboardPicture(const Progress& progress) 
             read = std::move(png);
         }
     }
-    if (read)
-        widenFiveBits(read.value().picture.colours);
     return read;
 }
 

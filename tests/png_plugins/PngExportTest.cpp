@@ -1,5 +1,5 @@
 #include "PngFiles.h"
-#include "common/IndexedPng.h"
+#include "common/WritePng.h"
 #include "png/PngImport.h"
 
 #include <QDir>
@@ -36,7 +36,7 @@ TEST_P(PngExport, KeepsTexelsAndColoursAndComesBackTheSame) {
     const ImageRecord image =
         imageOf(37, 9, bits, [&](int x, int y) { return static_cast<unsigned>((x + 37 * y) * 7 % colours); });
     const PaletteRecord palette = count == 0 ? nullptr : paletteOf(colourType, count, entryAt);
-    ASSERT_EQ(writeIndexedPng(path_, *image, palette.get(), first), QString());
+    ASSERT_EQ(writePngFile(path_, *image, palette.get(), first), QString());
     EXPECT_EQ(bytesOf(path_).at(24), bits); // Depth, in the header chunk.
 
     const QImage read(path_);
@@ -72,17 +72,17 @@ TEST(PngExportFailure, LeavesTheOldFileAndSaysWhy) {
     const ImageRecord empty = imageOf(0, 4, 8, {});
     const QString path = folder.filePath(QStringLiteral("old.png"));
     writeBytes(path, "old");
-    EXPECT_NE(writeIndexedPng(path, *empty, nullptr, 0), QString());
+    EXPECT_NE(writePngFile(path, *empty, nullptr, 0), QString());
     EXPECT_EQ(bytesOf(path), "old");
     const ImageRecord image = imageOf(1, 1, 8, [](int, int) { return 0U; });
-    EXPECT_NE(writeIndexedPng(folder.filePath(QStringLiteral("no/such.png")), *image, nullptr, 0), QString());
-    EXPECT_NE(writeIndexedPng(folder.path(), *image, nullptr, 0), QString());
+    EXPECT_NE(writePngFile(folder.filePath(QStringLiteral("no/such.png")), *image, nullptr, 0), QString());
+    EXPECT_NE(writePngFile(folder.path(), *image, nullptr, 0), QString());
 
     rlimit before{};
     ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
     const rlimit full{40, before.rlim_max}; // The header, and no more.
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &full), 0);
-    const QString reason = writeIndexedPng(path, *image, nullptr, 0);
+    const QString reason = writePngFile(path, *image, nullptr, 0);
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
     EXPECT_EQ(reason, QStringLiteral("There is no space left on the disk."));
     EXPECT_EQ(bytesOf(path), "old");

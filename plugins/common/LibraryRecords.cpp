@@ -1,4 +1,4 @@
-#include "source/SourceRecords.h"
+#include "common/LibraryRecords.h"
 
 #include "dyeworks/plugin.h"
 
@@ -9,8 +9,8 @@
 
 namespace dyeworks::plugins {
 
-std::optional<SourceRecords> recordsOf(const ::PlugInPicture& picture) {
-    SourceRecords records;
+std::optional<LibraryRecords> recordsOf(const ::PlugInPicture& picture) {
+    LibraryRecords records;
     const ::TmfImage& image = *picture.image;
     if (!records.image.create(image.width, image.height, image.bits))
         return std::nullopt;
@@ -24,6 +24,15 @@ std::optional<SourceRecords> recordsOf(const ::PlugInPicture& picture) {
     }
     records.firstEntry = picture.paletteNumber;
     return records;
+}
+
+ImageRecord recordOf(const TmfImage& image) {
+    ImageRecord record(DW_newImage(image.width, image.height, image.bits));
+    if (record != nullptr) {
+        const std::span<const std::byte> block = image.block();
+        std::ranges::copy(block, std::as_writable_bytes(std::span(record->texels, block.size())).begin());
+    }
+    return record;
 }
 
 } // namespace dyeworks::plugins
