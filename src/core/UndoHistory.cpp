@@ -31,7 +31,7 @@ bool UndoHistory::add(std::unique_ptr<UndoRecord> record, std::int32_t identifie
     last_ = current_ = added;
     ++count_;
 
-    if (count_ > capacity_)
+    while (count_ > capacity_ || (count_ > 1 && bytes() > budget_))
         dropFirst();
     return true;
 }
@@ -68,6 +68,14 @@ void UndoHistory::clear() {
 
 std::int32_t UndoHistory::position() const noexcept {
     return current_ != nullptr ? current_->identifier : droppedIdentifier_;
+}
+
+/// Counted anew each time: what a record holds may change with each undo and redo.
+std::uint64_t UndoHistory::bytes() const {
+    std::uint64_t sum = 0;
+    for (const UndoRecord* record = first_; record != nullptr; record = record->next)
+        sum += record->bytes();
+    return sum;
 }
 
 void UndoHistory::deleteRedoBranch() {

@@ -22,6 +22,9 @@ public:
     /// round.
     [[nodiscard]] virtual std::unique_ptr<UndoRecord> inverse() const = 0;
 
+    /// Memory that the record holds now, as far as it matters.
+    [[nodiscard]] virtual std::uint64_t bytes() const { return 0; }
+
     std::int32_t identifier = -1; ///< -1 until the record is added.
     UndoRecord* previous = nullptr;
     UndoRecord* next = nullptr;
@@ -32,14 +35,19 @@ class UndoHistory {
 public:
     static constexpr std::int32_t kCapacity = 100;
 
-    explicit UndoHistory(std::int32_t capacity = kCapacity)
-        : capacity_(capacity) {}
+    /// Memory that the records of one history may hold together. Ordinary work stays far below.
+    static constexpr std::uint64_t kBudget = std::uint64_t{2} << 30;
+
+    explicit UndoHistory(std::int32_t capacity = kCapacity, std::uint64_t budget = kBudget)
+        : capacity_(capacity)
+        , budget_(budget) {}
     ~UndoHistory();
     UndoHistory(const UndoHistory&) = delete;
     UndoHistory& operator=(const UndoHistory&) = delete;
 
     /// Appends `record` behind the current position; records that could have been redone are deleted, and so
-    /// is the oldest one beyond the capacity. An identifier of -1 takes the next one of the history's own
+    /// is the oldest one beyond the capacity, and the oldest ones, but never the new one, while all of them
+    /// hold more memory than the budget allows. An identifier of -1 takes the next one of the history's own
     /// counter. False for a null record.
     bool add(std::unique_ptr<UndoRecord> record, std::int32_t identifier);
 
@@ -62,6 +70,7 @@ public:
     [[nodiscard]] std::int32_t position() const noexcept;
 
 private:
+    [[nodiscard]] std::uint64_t bytes() const;
     void deleteRedoBranch();
     void dropFirst();
 
@@ -71,6 +80,7 @@ private:
     UndoRecord* redo_ = nullptr;
     std::int32_t count_ = 0;
     std::int32_t capacity_;
+    std::uint64_t budget_; ///< In bytes.
     std::int32_t identifierCounter_ = 0;
     std::int32_t droppedIdentifier_ = 0; ///< Of the newest record that capacity pushed out.
 };

@@ -79,6 +79,12 @@ public:
     /// Takes over the image's texels. False, changing nothing, unless size and depth are the document's and
     /// there is memory for it; the caller tells.
     bool SetImage(const TmfImage& image);
+    /// Makes the image what `make` makes of it, which may have another size or depth, as one step of the
+    /// history. Pieces that float are placed first, and nothing is selected any more. `firstEntry` becomes
+    /// the palette value. False, changing nothing, when a piece floats on or when `make` gives null for want
+    /// of memory, which the user has been told.
+    using CanvasMaker = std::function<std::unique_ptr<TextureCanvas>(const TextureCanvas& canvas)>;
+    bool ReplaceImage(const CanvasMaker& make, std::optional<std::int32_t> firstEntry = std::nullopt);
 
     bool Undo();
     bool Redo();
@@ -185,6 +191,8 @@ private:
     }
     void takeBackDrags();
     void followHistory();
+    bool step(bool (EditHistory::*move)(void*), const UndoRecord* record);
+    void showReplaced();
     void refreshPalette(bool ofAnyPalette);
     void takeColours(const TextureLookupTable& palette);
     [[nodiscard]] std::int32_t firstEntryFor(const TextureLookupTable& palette) const;
@@ -196,7 +204,7 @@ private:
     [[nodiscard]] std::string nameToSaveUnder() const;
     void makePaletteOfColours();
     /// Ends drags and puts pieces that float into the image. False when one floats on.
-    [[nodiscard]] bool settleForSaving();
+    [[nodiscard]] bool settlePieces();
     /// False when the file could not be written or belongs to another document, which has been reported.
     [[nodiscard]] bool writeCanvas(const std::string& path) const;
     /// Leaves what the image was in `contents`, or that as it is.

@@ -54,7 +54,7 @@ void CDyeworksDoc::ExportBmp() {
                                MessageButtons::YesNo) != MessageAnswer::Yes)
             return;
     }
-    if (!settleForSaving())
+    if (!settlePieces())
         return;
     if (documentTemplate() != nullptr && documentTemplate()->findDocument(target) == this)
         save();

@@ -1,6 +1,9 @@
 #include "paint/CDyeworksDoc.h"
+#include "paint/CanvasDifference.h"
+#include "paint/WholeImageRecord.h"
 #include "platform/Platform.h"
 
+#include <new>
 #include <utility>
 
 namespace dyeworks {
@@ -109,20 +112,66 @@ void CDyeworksDoc::followHistory() {
 
 bool CDyeworksDoc::Undo() {
     takeBackDrags();
-    if (!edits_.undo(&canvas_))
-        return false;
-    historyMoved_ = true;
-    showEverywhere(nullptr);
-    return true;
+    return edits_.canUndo() && step(&EditHistory::undo, edits_.steps->currentRecord());
 }
 
 bool CDyeworksDoc::Redo() {
     takeBackDrags();
-    if (!edits_.redo(&canvas_))
+    return edits_.canRedo() && step(&EditHistory::redo, edits_.steps->redoRecord());
+}
+
+bool CDyeworksDoc::step(bool (EditHistory::*move)(void*), const UndoRecord* record) {
+    const bool replaces = dynamic_cast<const WholeImageRecord*>(record) != nullptr;
+    if (!(edits_.*move)(&canvas_))
         return false;
     historyMoved_ = true;
-    showEverywhere(nullptr);
+    if (replaces)
+        showReplaced();
+    else
+        showEverywhere(nullptr);
     return true;
+}
+
+bool CDyeworksDoc::ReplaceImage(const CanvasMaker& make, std::optional<std::int32_t> firstEntry) {
+    if (!settlePieces())
+        return false;
+    std::unique_ptr<TextureCanvas> made = make(canvas_);
+    const bool same = made != nullptr && made->width() == canvas_.width() &&
+                      made->height() == canvas_.height() && made->bitsPerPixel() == canvas_.bitsPerPixel();
+    const Rect whole{0, 0, canvas_.width() - 1, canvas_.height() - 1};
+    if (same && !differingRect(*made, canvas_, whole))
+        return true;
+    const auto entry =
+        firstEntry ? std::optional(WholeImageRecord::FirstEntry{&paletteValue_, *firstEntry}) : std::nullopt;
+    std::unique_ptr<WholeImageRecord> record;
+    if (made != nullptr)
+        record.reset(new (std::nothrow) WholeImageRecord(std::move(made), entry));
+    if (record == nullptr) {
+        applicationMessage(text(StringId::NotEnoughMemory));
+        return false;
+    }
+    record->redo(&canvas_);
+    historyMoved_ = true;
+    static_cast<void>(edits_.add(std::move(record)));
+    showReplaced();
+    return true;
+}
+
+/// The canvas is another one: everything that depends on its size, its depth or its colours follows. A piece
+/// that floats stays where it is.
+void CDyeworksDoc::showReplaced() {
+    snapshot_.forget();
+    forEachViewer([](ImageViewer& viewer) {
+        if (!viewer.hasFloatingPiece())
+            viewer.DropSelection();
+    });
+    followHistory();
+    // The bar shows the bank of the image, which the colours are taken from.
+    host_.refreshPaletteBar();
+    if (const TextureLookupTable* const palette = GetAttachedPalette())
+        takeColours(*palette);
+    forEachViewer([](ImageViewer& viewer) { viewer.SizeChanged(); });
+    RefreshOwnPalette();
 }
 
 void CDyeworksDoc::endOpenEdit() {

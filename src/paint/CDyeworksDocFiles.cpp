@@ -74,7 +74,7 @@ bool CDyeworksDoc::onOpenDocument(const std::string& path) {
 }
 
 bool CDyeworksDoc::onSaveDocument(const std::string& path) {
-    if (!settleForSaving())
+    if (!settlePieces())
         return false;
     std::string target = path;
     if (target.empty()) {
@@ -94,7 +94,7 @@ bool CDyeworksDoc::onSaveDocument(const std::string& path) {
     return true;
 }
 
-bool CDyeworksDoc::settleForSaving() {
+bool CDyeworksDoc::settlePieces() {
     takeBackDrags();
     // What floats above the image is a part of what the user sees and saves.
     bool settled = true;

@@ -109,7 +109,15 @@ bool CDyeworksView::InvalidateChanged() {
 }
 
 void CDyeworksView::SizeChanged() {
+    const auto middle = [this] {
+        const Size client = window_.clientSize();
+        return Point{client.width / 2, client.height / 2};
+    };
+    // The window still stands where it stood over the image as it was.
+    const Point texel = geometry().texelAt(middle());
     SetZoom(zoom_);
+    scrollTo(geometry().scrollToKeep(texel, middle()));
+    drawingValue_ &= depthMask();
     if (document_.host().isActiveImage(document_))
         showSize();
 }

@@ -35,6 +35,11 @@ std::unique_ptr<UndoRecord> ImageUndoRecord::inverse() const {
     return inverted;
 }
 
+std::uint64_t ImageUndoRecord::bytes() const {
+    const auto size = [](const auto& piece) { return piece == nullptr ? 0 : piece->block().size(); };
+    return size(before) + size(after);
+}
+
 std::unique_ptr<ImageUndoRecord> ImageUndoRecord::clone() const {
     std::unique_ptr<ImageUndoRecord> copy(new (std::nothrow) ImageUndoRecord);
     if (copy == nullptr)

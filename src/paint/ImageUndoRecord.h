@@ -23,6 +23,7 @@ public:
     bool redo(void* target) override;
     /// Null when the pieces cannot be copied.
     [[nodiscard]] std::unique_ptr<UndoRecord> inverse() const override;
+    [[nodiscard]] std::uint64_t bytes() const override;
     /// A copy with the identifier of this one; null when the pieces cannot be copied.
     [[nodiscard]] std::unique_ptr<ImageUndoRecord> clone() const;
 

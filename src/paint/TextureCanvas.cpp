@@ -216,6 +216,11 @@ std::span<const std::uint8_t> TextureCanvas::pixelRows() const noexcept {
     return {reinterpret_cast<const std::uint8_t*>(block_.get()) + pixelOffset_, rowBytes()};
 }
 
+std::span<std::uint8_t> TextureCanvas::pixelRows() noexcept {
+    const std::span<const std::uint8_t> rows = std::as_const(*this).pixelRows();
+    return {const_cast<std::uint8_t*>(rows.data()), rows.size()};
+}
+
 bool TextureCanvas::isPlain() const noexcept {
     return typeid(*this) == typeid(TextureCanvas);
 }

@@ -174,6 +174,8 @@ public:
     void copyColourTableFrom(const TextureCanvas& source);
     /// The bottom-up pixel rows.
     [[nodiscard]] std::span<const std::uint8_t> pixelRows() const noexcept;
+    /// To fill a canvas that was just made; what is written here is noted nowhere.
+    [[nodiscard]] std::span<std::uint8_t> pixelRows() noexcept;
 
 private:
     class PixelPen;

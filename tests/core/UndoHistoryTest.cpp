@@ -24,6 +24,7 @@ struct Assignment : UndoRecord {
     bool undo(void* target) override { return *static_cast<int*>(target) = before, false; }
     bool redo(void* target) override { return *static_cast<int*>(target) = after, false; }
     std::unique_ptr<UndoRecord> inverse() const override { return nullptr; }
+    std::uint64_t bytes() const override { return 10; }
 
     int before, after;
 };
@@ -32,9 +33,15 @@ struct Assignment : UndoRecord {
 
 // Every state has a value of its own; the model is the list of values and the place in it.
 TEST(UndoHistory, AgreesWithAListOfStatesOverRandomSteps) {
-    for (const std::size_t capacity : {1U, 2U, 5U}) {
+    struct Limits {
+        std::int32_t capacity;
+        std::uint64_t budget;
+        std::size_t kept; ///< Records, the newest one always.
+    };
+    for (const Limits& limits : {Limits{1, 1000, 1}, {2, 1000, 2}, {5, 1000, 5}, {100, 39, 3}, {100, 0, 1}}) {
+        const std::size_t capacity = limits.kept;
         std::mt19937 random(static_cast<unsigned>(capacity));
-        UndoHistory history(static_cast<std::int32_t>(capacity));
+        UndoHistory history(limits.capacity, limits.budget);
         std::vector<int> states{0};
         std::size_t at = 0;
         int value = 0, newest = 0;

@@ -1,0 +1,32 @@
+#include "paint/WholeImageRecord.h"
+
+#include <new>
+#include <utility>
+
+namespace dyeworks {
+
+WholeImageRecord::WholeImageRecord(std::unique_ptr<TextureCanvas> other, std::optional<FirstEntry> firstEntry)
+    : other_(std::move(other))
+    , firstEntry_(firstEntry) {}
+
+std::unique_ptr<UndoRecord> WholeImageRecord::inverse() const {
+    std::unique_ptr<TextureCanvas> copy = other_->Clone();
+    if (copy == nullptr)
+        return nullptr;
+    std::unique_ptr<WholeImageRecord> inverted(new (std::nothrow)
+                                                   WholeImageRecord(std::move(copy), firstEntry_));
+    if (inverted != nullptr)
+        inverted->identifier = identifier;
+    return inverted;
+}
+
+bool WholeImageRecord::exchange(void* target) {
+    if (target == nullptr)
+        return false;
+    static_cast<TextureCanvas*>(target)->SwapWith(*other_);
+    if (firstEntry_)
+        std::swap(*firstEntry_->ofImage, firstEntry_->other);
+    return true;
+}
+
+} // namespace dyeworks
