@@ -870,6 +870,104 @@ Paste as New Image</source>
 Paste Matching Colours</source>
         <translation>クリップボードの絵を画像のパレットの最も近い色で貼り付けます
 色を合わせて貼り付け</translation>
+        <source>Resize &amp;Canvas...</source>
+        <translation>キャンバスのサイズ変更(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Give the image another size, its texels staying as they are
+Resize Canvas</source>
+        <translation>テクセルはそのままで画像のサイズを変えます
+キャンバスのサイズ変更</translation>
+    </message>
+    <message>
+        <source>&amp;Scale...</source>
+        <translation>拡大・縮小(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Give the image another size, its texels growing or shrinking
+Scale</source>
+        <translation>テクセルごと画像のサイズを変えます
+拡大・縮小</translation>
+    </message>
+    <message>
+        <source>C&amp;rop to Selection</source>
+        <translation>選択範囲で切り抜き(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Keep what is selected of the image and nothing else
+Crop to Selection</source>
+        <translation>画像の選択範囲だけを残します
+選択範囲で切り抜き</translation>
+    </message>
+    <message>
+        <source>S&amp;hift...</source>
+        <translation>ずらす(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>Move the image; what leaves on one side comes in on the other
+Shift</source>
+        <translation>画像をずらします。はみ出した分は反対側から入ります
+ずらす</translation>
+    </message>
+    <message>
+        <source>Shift by Hal&amp;f</source>
+        <translation>半分ずらす(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Move the image by half its size, to reach the seam
+Shift by Half</source>
+        <translation>継ぎ目に届くように画像をサイズの半分だけずらします
+半分ずらす</translation>
+    </message>
+    <message>
+        <source>Turn &amp;Left</source>
+        <translation>左に回転(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Turn the selection, or else the image, a quarter to the left
+Turn Left</source>
+        <translation>選択範囲、なければ画像を左に 90 度回転します
+左に回転</translation>
+    </message>
+    <message>
+        <source>Turn Ri&amp;ght</source>
+        <translation>右に回転(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Turn the selection, or else the image, a quarter to the right
+Turn Right</source>
+        <translation>選択範囲、なければ画像を右に 90 度回転します
+右に回転</translation>
+    </message>
+    <message>
+        <source>T&amp;urn Half</source>
+        <translation>180 度回転(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Turn the selection, or else the image, upside down
+Turn Half</source>
+        <translation>選択範囲、なければ画像を 180 度回転します
+180 度回転</translation>
+    </message>
+    <message>
+        <source>To &amp;4 Bits</source>
+        <translation>4 ビットに変換(&amp;4)</translation>
+    </message>
+    <message>
+        <source>Make it an image of 16 colours
+To 4 Bits</source>
+        <translation>16 色の画像にします
+4 ビットに変換</translation>
+    </message>
+    <message>
+        <source>To &amp;8 Bits</source>
+        <translation>8 ビットに変換(&amp;8)</translation>
+    </message>
+    <message>
+        <source>Make it an image of 256 colours
+To 8 Bits</source>
+        <translation>256 色の画像にします
+8 ビットに変換</translation>
     </message>
 </context>
 <context>
@@ -2267,6 +2365,154 @@ You must open or create a palette.
     <message>
         <source>Progress of the reduction</source>
         <translation>減色の進み具合</translation>
+        <source>Resize Canvas</source>
+        <translation>キャンバスのサイズ変更</translation>
+    </message>
+    <message>
+        <source>Scale Image</source>
+        <translation>画像の拡大・縮小</translation>
+    </message>
+    <message>
+        <source>Shift Image</source>
+        <translation>画像をずらす</translation>
+    </message>
+    <message>
+        <source>To 4 Bits</source>
+        <translation>4 ビットに変換</translation>
+    </message>
+    <message>
+        <source>Width of the result in texels, 1 to 65536</source>
+        <translation>結果の幅 (テクセル数、1 から 65536)</translation>
+    </message>
+    <message>
+        <source>Height of the result in texels, 1 to 65536</source>
+        <translation>結果の高さ (テクセル数、1 から 65536)</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>Memory that the image will take</source>
+        <translation>画像が使うことになるメモリ</translation>
+    </message>
+    <message>
+        <source>More than an image can take (1 GiB)</source>
+        <translation>画像の上限 (1 GiB) を超えます</translation>
+    </message>
+    <message>
+        <source>The image stays</source>
+        <translation>画像の位置</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>中央</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>&amp;Fill with</source>
+        <translation>塗りつぶし(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Index of the texels that are added, 0 to %1</source>
+        <translation>加わるテクセルのインデックス (0 から %1)</translation>
+    </message>
+    <message>
+        <source>&amp;Multiple</source>
+        <translation>倍率(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Whole multiples, which keep every texel alike, or any size</source>
+        <translation>すべてのテクセルが揃う整数倍、または任意のサイズ</translation>
+    </message>
+    <message>
+        <source>Any size</source>
+        <translation>任意のサイズ</translation>
+    </message>
+    <message>
+        <source>Keep the &amp;ratio</source>
+        <translation>縦横比を保つ(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Width and height follow each other</source>
+        <translation>幅と高さが連動します</translation>
+    </message>
+    <message>
+        <source>To the &amp;right</source>
+        <translation>右へ(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Texels to the right; negative ones to the left</source>
+        <translation>右へのテクセル数。負の数は左へ</translation>
+    </message>
+    <message>
+        <source>&amp;Down</source>
+        <translation>下へ(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Texels down; negative ones up</source>
+        <translation>下へのテクセル数。負の数は上へ</translation>
+    </message>
+    <message>
+        <source>&amp;Bank</source>
+        <translation>バンク(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Bank of the palette whose colours the image keeps</source>
+        <translation>画像がそのまま使うパレットのバンク</translation>
+    </message>
+    <message>
+        <source>%1 of %2 texels have other colours than this bank.
+They can take the nearest of its colours, or the image stays as it is.</source>
+        <translation>テクセル %2 個のうち %1 個はこのバンクにない色です。
+このバンクで最も近い色にするか、画像をそのままにします。</translation>
+    </message>
+    <message>
+        <source>&amp;Nearest Colour</source>
+        <translation>最も近い色(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Give those texels the nearest colour of the bank</source>
+        <translation>それらのテクセルをバンクの最も近い色にします</translation>
+    </message>
+    <message>
+        <source>Leave It</source>
+        <translation>そのまま</translation>
+    </message>
+    <message>
+        <source>Leave the image as it is</source>
+        <translation>画像をそのままにします</translation>
     </message>
 </context>
 </TS>

@@ -125,6 +125,17 @@ inline constexpr CommandId ID_PALETTE_IMPORT = 33103;
 inline constexpr CommandId ID_PALETTE_EXPORT = 33104;
 inline constexpr CommandId ID_EDIT_PASTE_NEW = 33105;
 inline constexpr CommandId ID_EDIT_PASTE_MATCHING = 33106;
+
+inline constexpr CommandId ID_IMAGE_RESIZE = 33120;
+inline constexpr CommandId ID_IMAGE_SCALE = 33121;
+inline constexpr CommandId ID_IMAGE_CROP = 33122;
+inline constexpr CommandId ID_IMAGE_SHIFT = 33123;
+inline constexpr CommandId ID_IMAGE_SHIFT_HALF = 33124;
+inline constexpr CommandId ID_IMAGE_TURN_LEFT = 33125;
+inline constexpr CommandId ID_IMAGE_TURN_RIGHT = 33126;
+inline constexpr CommandId ID_IMAGE_TURN_HALF = 33127;
+inline constexpr CommandId ID_IMAGE_TO_4_BITS = 33128;
+inline constexpr CommandId ID_IMAGE_TO_8_BITS = 33129;
 // NOLINTEND(readability-identifier-naming)
 
 } // namespace dyeworks

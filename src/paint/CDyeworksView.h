@@ -160,6 +160,16 @@ private:
     void OnUpdateSelectAll(CommandUi& ui);
     void OnCancelSelection();
     void OnFlip(CommandId id);
+    void OnResizeCanvas();
+    void OnScaleImage();
+    void OnCrop();
+    void OnShiftImage();
+    void OnShiftByHalf();
+    void OnTurn(CommandId id);
+    void OnUpdateImageWork(CommandUi& ui);
+    void OnToFourBits();
+    void OnToEightBits();
+    void OnUpdateDepth(CommandUi& ui);
     void OnCopy();
     void OnCut();
     void OnUpdateSelected(CommandUi& ui);

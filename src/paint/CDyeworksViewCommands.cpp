@@ -41,6 +41,15 @@ void CDyeworksView::addCommands() {
     on(ID_EDIT_SELECT_ALL, &CDyeworksView::OnSelectAll, &CDyeworksView::OnUpdateSelectAll);
     on(ID_CANCEL_SELECTION, &CDyeworksView::OnCancelSelection, &CDyeworksView::OnUpdateSelected);
     onRange(ID_FLIP_X, ID_FLIP_Y, &CDyeworksView::OnFlip, &CDyeworksView::OnUpdateSelected);
+    on(ID_IMAGE_RESIZE, &CDyeworksView::OnResizeCanvas, &CDyeworksView::OnUpdateImageWork);
+    on(ID_IMAGE_SCALE, &CDyeworksView::OnScaleImage, &CDyeworksView::OnUpdateImageWork);
+    on(ID_IMAGE_CROP, &CDyeworksView::OnCrop, &CDyeworksView::OnUpdateSelected);
+    on(ID_IMAGE_SHIFT, &CDyeworksView::OnShiftImage, &CDyeworksView::OnUpdateImageWork);
+    on(ID_IMAGE_SHIFT_HALF, &CDyeworksView::OnShiftByHalf, &CDyeworksView::OnUpdateImageWork);
+    onRange(ID_IMAGE_TURN_LEFT, ID_IMAGE_TURN_HALF, &CDyeworksView::OnTurn,
+            &CDyeworksView::OnUpdateImageWork);
+    on(ID_IMAGE_TO_4_BITS, &CDyeworksView::OnToFourBits, &CDyeworksView::OnUpdateDepth);
+    on(ID_IMAGE_TO_8_BITS, &CDyeworksView::OnToEightBits, &CDyeworksView::OnUpdateDepth);
     on(ID_EDIT_COPY, &CDyeworksView::OnCopy, &CDyeworksView::OnUpdateSelected);
     on(ID_EDIT_CUT, &CDyeworksView::OnCut, &CDyeworksView::OnUpdateSelected);
     on(ID_EDIT_PASTE, &CDyeworksView::OnPaste, &CDyeworksView::OnUpdatePaste);

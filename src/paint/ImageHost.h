@@ -1,5 +1,7 @@
 #pragma once
 
+#include "paint/ImageWork.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -11,6 +13,7 @@ class ImagePlugIns;
 class ImageViewer;
 class OpenProject;
 class PaletteSet;
+class TextureCanvas;
 
 /// What a new image is to be like.
 struct NewImage {
@@ -53,6 +56,10 @@ public:
     [[nodiscard]] virtual OpenProject* openProject() = 0;
     /// Asks the user what a new image is to be like. Nothing: cancelled.
     [[nodiscard]] virtual std::optional<NewImage> askNewImage() = 0;
+    /// Asks the user how something is to be done to `image`, showing what is proposed. The result is of the
+    /// same kind and can be carried out. Nothing: cancelled.
+    [[nodiscard]] virtual std::optional<ImageWork> askImageWork(const ImageWork& proposed,
+                                                                const TextureCanvas& image) = 0;
     /// A new image was made: offers to use a project if none is open.
     virtual void AskUseProject() = 0;
 

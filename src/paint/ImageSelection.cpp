@@ -4,6 +4,7 @@
 #include "paint/ImageViewer.h"
 #include "paint/SurfaceDrawing.h"
 #include "paint/ViewWindow.h"
+#include "platform/Platform.h"
 
 #include <algorithm>
 #include <utility>
@@ -134,6 +135,45 @@ bool ImageSelection::commitFloatingPiece(bool redraw) {
     if (texels_)
         select(std::nullopt, redraw);
     return true;
+}
+
+void ImageSelection::turn(Turn turn) {
+    const Rect area = *texels_;
+    if (turn == Turn::Half && floatingPiece_ == nullptr) {
+        document_.Edit(&viewer_, [&](TextureCanvas& canvas) {
+            canvas.Flip(area.left, area.top, area.right, area.bottom,
+                        TextureCanvas::kFlipHorizontal | TextureCanvas::kFlipVertical);
+        });
+        return;
+    }
+    std::unique_ptr<TextureCanvas> lifted;
+    if (floatingPiece_ == nullptr)
+        lifted = document_.canvas().CopyRect(area.left, area.top, area.right, area.bottom);
+    const TextureCanvas* const piece = floatingPiece_ != nullptr ? floatingPiece_.get() : lifted.get();
+    std::unique_ptr<TextureCanvas> turnedPiece = piece == nullptr ? nullptr : turned(*piece, turn);
+    if (turnedPiece == nullptr) {
+        applicationMessage(text(StringId::NotEnoughMemory));
+        return;
+    }
+    const auto erase = [&](TextureCanvas& canvas) {
+        canvas.FillBox(area.left, area.top, area.right, area.bottom, 0);
+    };
+    if (floatingPiece_ == nullptr && !document_.Edit(&viewer_, erase))
+        return;
+    floatingPiece_ = std::move(turnedPiece);
+    Rect place = area;
+    if (turn != Turn::Half) {
+        const std::int32_t width = area.right - area.left;
+        const std::int32_t height = area.bottom - area.top;
+        // Rounded towards zero, so that a second quarter turn comes back to the same middle.
+        place.left += (width - height) / 2;
+        place.top += (height - width) / 2;
+        place.right = place.left + height;
+        place.bottom = place.top + width;
+    }
+    anchor_ = {place.left, place.top};
+    select(place, false);
+    window_.invalidateAll();
 }
 
 void ImageSelection::showDragFrame(const Rect& texels, std::uint32_t redrawRequest) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "paint/CanvasTransform.h"
 #include "paint/CurrentTool.h"
 #include "paint/Rect.h"
 #include "paint/SelectionTracker.h"
@@ -70,6 +71,10 @@ public:
     bool commitFloatingPiece(bool redraw);
     /// Forgets the floating piece. It shows until the next repaint.
     void dropFloatingPiece() noexcept { floatingPiece_.reset(); }
+    /// Turns what is selected, of which there must be something, about its middle. By a quarter it is lifted
+    /// out of the image first and floats; what floats already just turns. Without memory for it nothing
+    /// changes, and the user is told.
+    void turn(Turn turn);
     /// Where the next floating piece is placed: the texel that the last drag began at, or as far as it came.
     void setAnchor(Point texel) noexcept { anchor_ = texel; }
 

@@ -6,6 +6,7 @@
 #include "ui/CMainFrame.h"
 #include "ui/CurrentProject.h"
 #include "ui/Workspace.h"
+#include "ui/sheets/AskImageWork.h"
 #include "ui/sheets/AskUseProject.h"
 #include "ui/sheets/CFileNewSheet.h"
 #include "ui/sheets/CFileNewTexturePage.h"
@@ -65,6 +66,11 @@ std::optional<NewImage> ApplicationImageHost::askNewImage() {
     if (sheet.exec() != QDialog::Accepted)
         return std::nullopt;
     return NewImage{page.imageWidth(), page.imageHeight(), static_cast<std::uint16_t>(page.bitsPerPixel())};
+}
+
+std::optional<ImageWork> ApplicationImageHost::askImageWork(const ImageWork& proposed,
+                                                            const TextureCanvas& image) {
+    return dyeworks::askImageWork(proposed, image, &workspace_.mainFrame());
 }
 
 void ApplicationImageHost::AskUseProject() {

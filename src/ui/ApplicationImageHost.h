@@ -28,6 +28,8 @@ public:
     [[nodiscard]] ImagePlugIns& imagePlugIns() override { return plugIns_; }
     [[nodiscard]] OpenProject* openProject() override;
     [[nodiscard]] std::optional<NewImage> askNewImage() override;
+    [[nodiscard]] std::optional<ImageWork> askImageWork(const ImageWork& proposed,
+                                                        const TextureCanvas& image) override;
     void AskUseProject() override;
     [[nodiscard]] bool keepsImageSettings() const override { return keepsSettings_; }
     void setKeepsImageSettings(bool keeps) noexcept { keepsSettings_ = keeps; }

@@ -149,6 +149,20 @@ constexpr std::array kImageViewMenu{
 constexpr std::array kImageMenu{
     MenuItem{ID_IMAGE_ATTACH},
     MenuItem{ID_IMAGE_ADD_TO_PROJECT},
+    kSeparator,
+    MenuItem{ID_IMAGE_RESIZE},
+    MenuItem{ID_IMAGE_SCALE},
+    MenuItem{ID_IMAGE_CROP},
+    kSeparator,
+    MenuItem{ID_IMAGE_SHIFT},
+    MenuItem{ID_IMAGE_SHIFT_HALF},
+    kSeparator,
+    MenuItem{ID_IMAGE_TURN_LEFT},
+    MenuItem{ID_IMAGE_TURN_RIGHT},
+    MenuItem{ID_IMAGE_TURN_HALF},
+    kSeparator,
+    MenuItem{ID_IMAGE_TO_4_BITS},
+    MenuItem{ID_IMAGE_TO_8_BITS},
 };
 
 constexpr std::array kDrawMenu{

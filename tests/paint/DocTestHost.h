@@ -94,6 +94,11 @@ public:
     ImagePlugIns& imagePlugIns() override { return plugIns; }
     OpenProject* openProject() override { return project; }
     std::optional<NewImage> askNewImage() override { return newImage; }
+    std::optional<ImageWork> askImageWork(const ImageWork& /*proposed*/,
+                                          const TextureCanvas& /*image*/) override {
+        ++questions;
+        return answer;
+    }
     void AskUseProject() override {}
     const CDyeworksDoc* lastActivatedImage() const override { return lastActivated; }
     void setLastActivatedImage(const CDyeworksDoc* document) override { lastActivated = document; }
@@ -108,6 +113,8 @@ public:
     FakeImagePlugIns plugIns;
     FakeProject* project = nullptr;
     std::optional<NewImage> newImage;
+    std::optional<ImageWork> answer; ///< To a question about an image.
+    int questions = 0;
 };
 
 /// What `target` says of a command that it takes.
