@@ -1,5 +1,7 @@
 #include "bench/Baseline.h"
 #include "bench/Cases.h"
+#include "paint/CanvasDepth.h"
+#include "paint/CanvasTransform.h"
 #include "paint/TextureCanvas.h"
 
 #include <benchmark/benchmark.h>
@@ -165,6 +167,30 @@ void addCopies(std::int32_t side, std::uint16_t bits) {
     });
 }
 
+/// What makes another canvas of the whole.
+void addTransforms(std::int32_t side, std::uint16_t bits) {
+    const auto addMaker = [=](const char* name, auto make) {
+        add(name, side, bits, Baseline::MemcpyFresh, noisyCanvas,
+            [make](TextureCanvas& canvas, std::uint32_t) { benchmark::DoNotOptimize(make(canvas)); });
+    };
+    const Size whole{side, side};
+    addMaker("Turn-right", [](const TextureCanvas& canvas) { return turned(canvas, Turn::Right); });
+    addMaker("Turn-left", [](const TextureCanvas& canvas) { return turned(canvas, Turn::Left); });
+    addMaker("Shift", [](const TextureCanvas& canvas) { return shifted(canvas, {101, 51}); });
+    addMaker("Resize", [=](const TextureCanvas& canvas) { return resized(canvas, whole, {8, 8}, 3); });
+    addMaker("Crop", [=](const TextureCanvas& canvas) {
+        return resized(canvas, {side - 16, side - 16}, {-8, -8}, 0);
+    });
+    addMaker("Scale-half", [=](const TextureCanvas& canvas) { return scaled(canvas, {side / 2, side / 2}); });
+    if (bits == 8) {
+        addMaker("To-4-bits", [](const TextureCanvas& canvas) {
+            return inFourBits(canvas, IndexMap{1, 2, 3, 0}, 0);
+        });
+    } else {
+        addMaker("To-8-bits", [](const TextureCanvas& canvas) { return inEightBits(canvas, 3); });
+    }
+}
+
 } // namespace
 
 void registerCanvasCases() {
@@ -172,6 +198,7 @@ void registerCanvasCases() {
         for (const std::uint16_t bits : {std::uint16_t{4}, std::uint16_t{8}}) {
             addShapes(side, bits);
             addCopies(side, bits);
+            addTransforms(side, bits);
         }
     }
 }

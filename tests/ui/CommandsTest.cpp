@@ -40,6 +40,9 @@ const Ids kEnabledWithImage{// Its file and its windows.
                             // How it is shown.
                             ID_ZOOM_IN, ID_ZOOM_X1, ID_ZOOM_X2, ID_ZOOM_X3, ID_ZOOM_X4, ID_ZOOM_X6,
                             ID_ZOOM_X8, ID_ZOOM_X12, ID_ZOOM_X16, ID_VIEW_GRID, ID_PREVIEW1, ID_PREVIEW2,
+                            // The image as a whole; it has 4 bits.
+                            ID_IMAGE_RESIZE, ID_IMAGE_SCALE, ID_IMAGE_SHIFT, ID_IMAGE_SHIFT_HALF,
+                            ID_IMAGE_TURN_LEFT, ID_IMAGE_TURN_RIGHT, ID_IMAGE_TURN_HALF, ID_IMAGE_TO_8_BITS,
                             // Drawing.
                             ID_TOOL_PIXEL, ID_TOOL_PEN, ID_TOOL_LINE, ID_TOOL_BOX, ID_TOOL_BOX_FILL,
                             ID_TOOL_CIRCLE, ID_TOOL_CIRCLE_FILL, ID_TOOL_PAINT, ID_TOOL_SELECT,

@@ -7,7 +7,6 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -28,7 +27,6 @@ ImageWorkSheet::ImageWorkSheet(const char* name, StringId caption, const Texture
     auto* layout = new QVBoxLayout(this);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addLayout(form_);
-    layout->addWidget(buttons_);
 }
 
 QPushButton& ImageWorkSheet::ok() const {
@@ -46,10 +44,6 @@ IntegerField* ImageWorkSheet::addField(const char* name, StringId label, const Q
     field->setObjectName(QString::fromLatin1(name));
     field->setToolTip(tip);
     field->setAccessibleName(tip);
-    if (form_->rowCount() == 0) {
-        field->findChild<QLineEdit*>()->selectAll();
-        field->setFocus();
-    }
     form_->addRow(shown(label), field);
     return field;
 }
@@ -61,6 +55,13 @@ void ImageWorkSheet::addTakes() {
     // As wide as the longest thing that it may say, so that the sheet does not jump.
     takes_->setMinimumWidth(takes_->fontMetrics().horizontalAdvance(shown(StringId::ImageWorkTooLarge)));
     form_->addRow(shown(StringId::ImageWorkTakes), takes_);
+}
+
+void ImageWorkSheet::addButtons() {
+    layout()->addWidget(buttons_);
+    // What is typed at once takes the first number's place.
+    if (auto* const first = findChild<IntegerField*>())
+        first->selectAll();
 }
 
 void ImageWorkSheet::follow(std::optional<Size> size) {

@@ -33,11 +33,13 @@ protected:
     [[nodiscard]] const TextureCanvas& image() const noexcept { return image_; }
     [[nodiscard]] QPushButton& ok() const;
     [[nodiscard]] QPushButton& cancel() const;
-    /// A field for whole numbers, selected first of all when it is the first one.
+    /// A field for whole numbers.
     IntegerField* addField(const char* name, StringId label, const QString& tip, int lowest, int highest,
                            int value);
     /// The row that tells what the result takes.
     void addTakes();
+    /// Once the form has all its rows: the buttons come last, for the Tab key, too.
+    void addButtons();
     /// After every change of the form. `size` is that of the result, if it has one.
     void follow(std::optional<Size> size);
     void follow();

@@ -27,6 +27,7 @@ ReduceDepthSheet::ReduceDepthSheet(const ReduceDepth& proposed, const TextureCan
     bank_->setEnabled(banks_ > 1);
     form().addRow(outside_);
     form().addRow(shown(StringId::ReduceBank), bank_);
+    addButtons();
     ok().setText(shown(StringId::ReduceNearest));
     ok().setToolTip(shown(StringId::ReduceNearestTip));
     cancel().setText(shown(StringId::ReduceRefuse));

@@ -42,6 +42,7 @@ ResizeCanvasSheet::ResizeCanvasSheet(const ResizeCanvas& proposed, const Texture
                      shown(StringId::ResizeFillTip, {std::to_string(highest)}), 0, highest,
                      static_cast<int>(proposed.fill));
     addTakes();
+    addButtons();
     for (IntegerField* field : {width_, height_, fill_})
         connect(field, &IntegerField::edited, this, [this] { follow(size()); });
     follow(size());

@@ -36,6 +36,7 @@ ScaleImageSheet::ScaleImageSheet(const ScaleImage& proposed, const TextureCanvas
     lock_->setChecked(true);
     form().addRow(QString(), lock_);
     addTakes();
+    addButtons();
     for (IntegerField* field : {width_, height_})
         connect(field, &IntegerField::edited, this, [this, field] { typed(*field); });
     connect(multiple_, &QComboBox::currentIndexChanged, this, &ScaleImageSheet::takeMultiple);

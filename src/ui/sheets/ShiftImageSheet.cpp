@@ -13,6 +13,7 @@ ShiftImageSheet::ShiftImageSheet(const ShiftImage& proposed, const TextureCanvas
     , down_(addField("IDC_SHIFT_DOWN", StringId::ShiftDown, shown(StringId::ShiftDownTip), -kLongestSide,
                      kLongestSide, proposed.by.y)) {
     addTakes();
+    addButtons();
     const Size size{image.width(), image.height()};
     for (IntegerField* field : {right_, down_})
         connect(field, &IntegerField::edited, this, [this, size] { follow(size); });
