@@ -118,8 +118,10 @@ void CDyeworksView::SizeChanged() {
     SetZoom(zoom_);
     scrollTo(geometry().scrollToKeep(texel, middle()));
     drawingValue_ &= depthMask();
-    if (document_.host().isActiveImage(document_))
+    if (document_.host().isActiveImage(document_)) {
+        followPointer(window_.pointerPosition());
         showSize();
+    }
 }
 
 void CDyeworksView::RepaintNow() {

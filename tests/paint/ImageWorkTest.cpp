@@ -111,6 +111,9 @@ TEST_F(ImageWorkCommands, AQuarterTurnLiftsTheSelectionAndFourBringItBack) {
     EXPECT_EQ(document.canvas().width(), 2);
     EXPECT_EQ(document.canvas().GetPixel(0, 0), 2U);
     EXPECT_EQ(window.content, (Size{2, 2}));
+    window.pointer = {5, 3};
+    run(ID_EDIT_UNDO);
+    EXPECT_TRUE(host.panes[1].starts_with("(5, 3)")) << host.panes[1];
 }
 
 } // namespace
