@@ -79,12 +79,17 @@ public:
     /// Takes over the image's texels. False, changing nothing, unless size and depth are the document's and
     /// there is memory for it; the caller tells.
     bool SetImage(const TmfImage& image);
-    /// Makes the image what `make` makes of it, which may have another size or depth, as one step of the
-    /// history. Pieces that float are placed first, and nothing is selected any more. `firstEntry` becomes
-    /// the palette value. False, changing nothing, when a piece floats on or when `make` gives null for want
-    /// of memory, which the user has been told.
+    /// Makes the new image of the old one; null when there is no memory for it.
     using CanvasMaker = std::function<std::unique_ptr<TextureCanvas>(const TextureCanvas& canvas)>;
-    bool ReplaceImage(const CanvasMaker& make, std::optional<std::int32_t> firstEntry = std::nullopt);
+    struct Replacing {
+        std::optional<std::int32_t> firstEntry; ///< Becomes the palette value.
+        Point moved;                            ///< By how much the picture lies further right and down.
+    };
+    /// Gives the image another canvas, maybe of another size or depth, as one step of the history. Pieces
+    /// that float are placed first, and nothing is selected any more. False, changing nothing, when a piece
+    /// floats on, and without memory, which the user has been told.
+    bool ReplaceImage(const CanvasMaker& make, const Replacing& how);
+    bool ReplaceImage(const CanvasMaker& make) { return ReplaceImage(make, {}); }
 
     bool Undo();
     bool Redo();
@@ -192,7 +197,7 @@ private:
     void takeBackDrags();
     void followHistory();
     bool step(bool (EditHistory::*move)(void*), const UndoRecord* record);
-    void showReplaced();
+    void showReplaced(Point moved);
     void refreshPalette(bool ofAnyPalette);
     void takeColours(const TextureLookupTable& palette);
     [[nodiscard]] std::int32_t firstEntryFor(const TextureLookupTable& palette) const;

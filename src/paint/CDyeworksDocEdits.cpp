@@ -121,18 +121,18 @@ bool CDyeworksDoc::Redo() {
 }
 
 bool CDyeworksDoc::step(bool (EditHistory::*move)(void*), const UndoRecord* record) {
-    const bool replaces = dynamic_cast<const WholeImageRecord*>(record) != nullptr;
+    const auto* const whole = dynamic_cast<const WholeImageRecord*>(record);
     if (!(edits_.*move)(&canvas_))
         return false;
     historyMoved_ = true;
-    if (replaces)
-        showReplaced();
+    if (whole != nullptr)
+        showReplaced(whole->moved());
     else
         showEverywhere(nullptr);
     return true;
 }
 
-bool CDyeworksDoc::ReplaceImage(const CanvasMaker& make, std::optional<std::int32_t> firstEntry) {
+bool CDyeworksDoc::ReplaceImage(const CanvasMaker& make, const Replacing& how) {
     if (!settlePieces())
         return false;
     std::unique_ptr<TextureCanvas> made = make(canvas_);
@@ -141,11 +141,12 @@ bool CDyeworksDoc::ReplaceImage(const CanvasMaker& make, std::optional<std::int3
     const Rect whole{0, 0, canvas_.width() - 1, canvas_.height() - 1};
     if (same && !differingRect(*made, canvas_, whole))
         return true;
-    const auto entry =
-        firstEntry ? std::optional(WholeImageRecord::FirstEntry{&paletteValue_, *firstEntry}) : std::nullopt;
+    const auto entry = how.firstEntry
+                           ? std::optional(WholeImageRecord::FirstEntry{&paletteValue_, *how.firstEntry})
+                           : std::nullopt;
     std::unique_ptr<WholeImageRecord> record;
     if (made != nullptr)
-        record.reset(new (std::nothrow) WholeImageRecord(std::move(made), entry));
+        record.reset(new (std::nothrow) WholeImageRecord(std::move(made), entry, how.moved));
     if (record == nullptr) {
         applicationMessage(text(StringId::NotEnoughMemory));
         return false;
@@ -153,13 +154,13 @@ bool CDyeworksDoc::ReplaceImage(const CanvasMaker& make, std::optional<std::int3
     record->redo(&canvas_);
     historyMoved_ = true;
     static_cast<void>(edits_.add(std::move(record)));
-    showReplaced();
+    showReplaced(how.moved);
     return true;
 }
 
 /// The canvas is another one: everything that depends on its size, its depth or its colours follows. A piece
 /// that floats stays where it is.
-void CDyeworksDoc::showReplaced() {
+void CDyeworksDoc::showReplaced(Point moved) {
     snapshot_.forget();
     forEachViewer([](ImageViewer& viewer) {
         if (!viewer.hasFloatingPiece())
@@ -170,7 +171,7 @@ void CDyeworksDoc::showReplaced() {
     host_.refreshPaletteBar();
     if (const TextureLookupTable* const palette = GetAttachedPalette())
         takeColours(*palette);
-    forEachViewer([](ImageViewer& viewer) { viewer.SizeChanged(); });
+    forEachViewer([moved](ImageViewer& viewer) { viewer.SizeChanged(moved); });
     RefreshOwnPalette();
 }
 

@@ -161,7 +161,7 @@ void CDyeworksDoc::takeContents(TextureCanvas& contents) {
         std::ranges::copy(canvas_.colourTable(), contents.colourTable().begin());
     // Memory for a second copy might be refused.
     canvas_.SwapWith(contents);
-    forEachViewer([](ImageViewer& viewer) { viewer.SizeChanged(); });
+    forEachViewer([](ImageViewer& viewer) { viewer.SizeChanged({}); });
 }
 
 void CDyeworksDoc::OnUpdateRevert(CommandUi& ui) {

@@ -108,7 +108,7 @@ bool CDyeworksView::InvalidateChanged() {
     return changed.has_value();
 }
 
-void CDyeworksView::SizeChanged() {
+void CDyeworksView::SizeChanged(Point moved) {
     const auto middle = [this] {
         const Size client = window_.clientSize();
         return Point{client.width / 2, client.height / 2};
@@ -116,7 +116,7 @@ void CDyeworksView::SizeChanged() {
     // The window still stands where it stood over the image as it was.
     const Point texel = geometry().texelAt(middle());
     SetZoom(zoom_);
-    scrollTo(geometry().scrollToKeep(texel, middle()));
+    scrollTo(geometry().scrollToKeep({texel.x + moved.x, texel.y + moved.y}, middle()));
     drawingValue_ &= depthMask();
     if (document_.host().isActiveImage(document_)) {
         followPointer(window_.pointerPosition());

@@ -103,7 +103,7 @@ public:
 private:
     // As the document and the tools see the view.
     bool InvalidateChanged() override;
-    void SizeChanged() override;
+    void SizeChanged(Point moved) override;
     [[nodiscard]] bool hasFloatingPiece() const override { return selection_.hasFloatingPiece(); }
     void SetFloatingPiece(std::unique_ptr<TextureCanvas> piece) override;
     void RecolourFloatingPiece() override { selection_.recolourFloatingPiece(); }

@@ -54,11 +54,13 @@ std::optional<Work> ask(CDyeworksDoc& document, const Work& proposed) {
 
 void CDyeworksView::OnResizeCanvas() {
     CancelDrag();
-    if (const auto wanted = ask(document_, ResizeCanvas{sizeOf(document_.canvas())}))
-        document_.ReplaceImage([&](const TextureCanvas& canvas) {
-            return resized(canvas, wanted->size, anchored(sizeOf(canvas), wanted->size, wanted->anchor),
-                           wanted->fill);
-        });
+    const auto wanted = ask(document_, ResizeCanvas{sizeOf(document_.canvas())});
+    if (!wanted)
+        return;
+    const Point place = anchored(sizeOf(document_.canvas()), wanted->size, wanted->anchor);
+    document_.ReplaceImage(
+        [&](const TextureCanvas& canvas) { return resized(canvas, wanted->size, place, wanted->fill); },
+        {std::nullopt, place});
 }
 
 void CDyeworksView::OnScaleImage() {
@@ -76,10 +78,12 @@ void CDyeworksView::OnCrop() {
     const Rect kept = intersection(*selection_.texels(), {0, 0, image.width() - 1, image.height() - 1});
     if (kept.right < kept.left || kept.bottom < kept.top)
         return;
-    document_.ReplaceImage([&](const TextureCanvas& canvas) {
-        return resized(canvas, {kept.right - kept.left + 1, kept.bottom - kept.top + 1},
-                       {-kept.left, -kept.top}, 0);
-    });
+    const Point place{-kept.left, -kept.top};
+    document_.ReplaceImage(
+        [&](const TextureCanvas& canvas) {
+            return resized(canvas, {kept.right - kept.left + 1, kept.bottom - kept.top + 1}, place, 0);
+        },
+        {std::nullopt, place});
 }
 
 void CDyeworksView::OnShiftImage() {
@@ -124,7 +128,7 @@ void CDyeworksView::OnToFourBits() {
     const IndexMap map =
         nearestInBank(shownColours(document_.canvas(), document_.GetAttachedPalette()), bank);
     document_.ReplaceImage([&](const TextureCanvas& canvas) { return inFourBits(canvas, map, bank); },
-                           bank * kBankEntries);
+                           {bank * kBankEntries, {}});
 }
 
 /// The image shows the same bank of a large palette as before.

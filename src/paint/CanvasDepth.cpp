@@ -69,7 +69,7 @@ std::int32_t fullestBank(const IndexCounts& counts, std::int32_t banks) {
 
 IndexMap nearestInBank(std::span<const ShownColour, 256> colours, std::int32_t bank) {
     IndexMap map{};
-    const std::size_t first = static_cast<std::size_t>(bank * kBankEntries);
+    const std::size_t first = static_cast<std::size_t>(bank) * kBankEntries;
     for (std::size_t index = 0; index < map.size(); ++index) {
         if (index >= first && index < first + kBankEntries) {
             map[index] = static_cast<std::uint8_t>(index - first);
@@ -103,7 +103,7 @@ std::unique_ptr<TextureCanvas> inFourBits(const TextureCanvas& canvas, const Ind
         if (width % 2 != 0)
             row[width / 2] = static_cast<std::uint8_t>(map[source[width - 1]] << 4U);
     }
-    const std::size_t first = kColourSize * static_cast<std::size_t>(bank * kBankEntries);
+    const std::size_t first = kColourSize * kBankEntries * static_cast<std::size_t>(bank);
     const std::span<const std::uint8_t> colours = canvas.colourTable();
     if (first < colours.size())
         moveColours(colours.subspan(first), made->colourTable());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/DocumentView.h"
+#include "paint/Rect.h"
 
 #include <memory>
 
@@ -13,8 +14,9 @@ class ImageViewer : public DocumentView {
 public:
     /// Asks for a repaint of the canvas's changed rectangle. False when it is empty.
     virtual bool InvalidateChanged() = 0;
-    /// The canvas has another size or depth.
-    virtual void SizeChanged() = 0;
+    /// The canvas has another size or depth. What the view showed of it lies `moved` texels further right and
+    /// down now.
+    virtual void SizeChanged(Point moved) = 0;
 
     /// Ends a drag and takes back what it has done so far.
     virtual void CancelDrag() = 0;

@@ -5,16 +5,18 @@
 
 namespace dyeworks {
 
-WholeImageRecord::WholeImageRecord(std::unique_ptr<TextureCanvas> other, std::optional<FirstEntry> firstEntry)
+WholeImageRecord::WholeImageRecord(std::unique_ptr<TextureCanvas> other, std::optional<FirstEntry> firstEntry,
+                                   Point moved)
     : other_(std::move(other))
-    , firstEntry_(firstEntry) {}
+    , firstEntry_(firstEntry)
+    , next_(moved) {}
 
 std::unique_ptr<UndoRecord> WholeImageRecord::inverse() const {
     std::unique_ptr<TextureCanvas> copy = other_->Clone();
     if (copy == nullptr)
         return nullptr;
     std::unique_ptr<WholeImageRecord> inverted(new (std::nothrow)
-                                                   WholeImageRecord(std::move(copy), firstEntry_));
+                                                   WholeImageRecord(std::move(copy), firstEntry_, next_));
     if (inverted != nullptr)
         inverted->identifier = identifier;
     return inverted;
@@ -24,6 +26,7 @@ bool WholeImageRecord::exchange(void* target) {
     if (target == nullptr)
         return false;
     static_cast<TextureCanvas*>(target)->SwapWith(*other_);
+    next_ = {-next_.x, -next_.y};
     if (firstEntry_)
         std::swap(*firstEntry_->ofImage, firstEntry_->other);
     return true;

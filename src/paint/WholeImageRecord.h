@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/UndoHistory.h"
+#include "paint/Rect.h"
 #include "paint/TextureCanvas.h"
 
 #include <cstdint>
@@ -20,8 +21,9 @@ public:
         std::int32_t other = 0;
     };
 
-    /// `other` is what the image becomes at the first `redo`. Without `firstEntry` that stays what it is.
-    WholeImageRecord(std::unique_ptr<TextureCanvas> other, std::optional<FirstEntry> firstEntry);
+    /// `other` is what the image becomes at the first `redo`, `moved` by how much the picture then lies
+    /// further right and down. Without `firstEntry` that stays what it is.
+    WholeImageRecord(std::unique_ptr<TextureCanvas> other, std::optional<FirstEntry> firstEntry, Point moved);
 
     bool undo(void* target) override { return exchange(target); }
     bool redo(void* target) override { return exchange(target); }
@@ -29,11 +31,15 @@ public:
     [[nodiscard]] std::unique_ptr<UndoRecord> inverse() const override;
     [[nodiscard]] std::uint64_t bytes() const override { return other_->block().size(); }
 
+    /// By how much the last exchange moved the picture.
+    [[nodiscard]] Point moved() const noexcept { return {-next_.x, -next_.y}; }
+
 private:
     bool exchange(void* target);
 
     std::unique_ptr<TextureCanvas> other_;
     std::optional<FirstEntry> firstEntry_;
+    Point next_; ///< By how much the next exchange moves the picture.
 };
 
 } // namespace dyeworks

@@ -116,5 +116,17 @@ TEST_F(ImageWorkCommands, AQuarterTurnLiftsTheSelectionAndFourBringItBack) {
     EXPECT_TRUE(host.panes[1].starts_with("(5, 3)")) << host.panes[1];
 }
 
+TEST_F(ImageWorkCommands, TheSameTexelStaysInTheMiddleOfTheView) {
+    view.SetZoom(16);
+    window.scroll = {30, 20};
+    host.answer = ResizeCanvas{{26, 44}, Anchor::Middle};
+    run(ID_IMAGE_RESIZE);
+    EXPECT_EQ(document.canvas().width(), 26);
+    // Texel (3, 2) was under the middle (20, 15) and is (13, 22) now.
+    EXPECT_EQ(window.scroll, (Point{13 * 16 - 20, 22 * 16 - 15}));
+    run(ID_EDIT_UNDO);
+    EXPECT_EQ(window.scroll, (Point{3 * 16 - 20, 2 * 16 - 15}));
+}
+
 } // namespace
 } // namespace dyeworks
