@@ -34,6 +34,10 @@ public:
     ImagePlugIns& imagePlugIns() override { std::abort(); }
     OpenProject* openProject() override { return nullptr; }
     std::optional<NewImage> askNewImage() override { return std::nullopt; }
+    std::optional<ImageWork> askImageWork(const ImageWork& /*proposed*/,
+                                          const TextureCanvas& /*image*/) override {
+        return std::nullopt;
+    }
     void AskUseProject() override {}
     const CDyeworksDoc* lastActivatedImage() const override { return nullptr; }
     void setLastActivatedImage(const CDyeworksDoc* /*document*/) override {}
