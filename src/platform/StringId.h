@@ -164,7 +164,7 @@ enum class StringId {
     ResizeCaption,
     ScaleCaption,
     ShiftCaption,
-    ReduceCaption,
+    DepthCaption,
     ImageWorkWidthTip,
     ImageWorkHeightTip,
     ImageWorkTakes,
@@ -191,13 +191,13 @@ enum class StringId {
     ShiftRightTip,
     ShiftDown,
     ShiftDownTip,
-    ReduceBank,
-    ReduceBankTip,
-    ReduceOutside, ///< %1 number, %2 of how many
-    ReduceNearest,
-    ReduceNearestTip,
-    ReduceRefuse,
-    ReduceRefuseTip,
+    DepthBank,
+    DepthBankTip,
+    DepthOutside, ///< %1 number, %2 of how many
+    DepthNearest,
+    DepthNearestTip,
+    DepthRefuse,
+    DepthRefuseTip,
     PrintingFailed,
     PrintingProgress, ///< %1 page, %2 pages
 

@@ -12,26 +12,26 @@
 namespace dyeworks {
 
 ReduceDepthSheet::ReduceDepthSheet(const ReduceDepth& proposed, const TextureCanvas& image, QWidget* owner)
-    : ImageWorkSheet("IDD_REDUCE_DEPTH", StringId::ReduceCaption, image, owner)
+    : ImageWorkSheet("IDD_REDUCE_DEPTH", StringId::DepthCaption, image, owner)
     , banks_(proposed.banks)
     , counts_(countIndexes(image))
     , outside_(new QLabel)
     , bank_(new QComboBox) {
     outside_->setObjectName(QStringLiteral("IDC_REDUCE_OUTSIDE"));
     bank_->setObjectName(QStringLiteral("IDC_REDUCE_BANK"));
-    bank_->setToolTip(shown(StringId::ReduceBankTip));
-    bank_->setAccessibleName(shown(StringId::ReduceBankTip));
+    bank_->setToolTip(shown(StringId::DepthBankTip));
+    bank_->setAccessibleName(shown(StringId::DepthBankTip));
     for (std::int32_t bank = 0; bank < banks_; ++bank)
         bank_->addItem(QString::number(bank));
     bank_->setCurrentIndex(proposed.bank);
     bank_->setEnabled(banks_ > 1);
     form().addRow(outside_);
-    form().addRow(shown(StringId::ReduceBank), bank_);
+    form().addRow(shown(StringId::DepthBank), bank_);
     addButtons();
-    ok().setText(shown(StringId::ReduceNearest));
-    ok().setToolTip(shown(StringId::ReduceNearestTip));
-    cancel().setText(shown(StringId::ReduceRefuse));
-    cancel().setToolTip(shown(StringId::ReduceRefuseTip));
+    ok().setText(shown(StringId::DepthNearest));
+    ok().setToolTip(shown(StringId::DepthNearestTip));
+    cancel().setText(shown(StringId::DepthRefuse));
+    cancel().setToolTip(shown(StringId::DepthRefuseTip));
     connect(bank_, &QComboBox::currentIndexChanged, this, &ReduceDepthSheet::showOutside);
     showOutside();
 }
@@ -39,7 +39,7 @@ ReduceDepthSheet::ReduceDepthSheet(const ReduceDepth& proposed, const TextureCan
 void ReduceDepthSheet::showOutside() {
     const auto number = [](qlonglong count) { return QLocale().toString(count).toStdString(); };
     outside_->setText(
-        shown(StringId::ReduceOutside, {number(countOutside(counts_, bank_->currentIndex())),
+        shown(StringId::DepthOutside, {number(countOutside(counts_, bank_->currentIndex())),
                                         number(qlonglong{image().width()} * image().height())}));
     setAccessibleDescription(outside_->text());
 }
