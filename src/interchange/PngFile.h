@@ -25,7 +25,8 @@ struct PaletteChunk {
 
 /// What a PNG file holds. Channels of 16 bits come down to 8; gamma and colour profiles are left alone; the
 /// one colour or grey that stands for transparency becomes alpha. A file of grey pixels without alpha is an
-/// indexed picture whose colours are all its steps of grey, 2 to 256 of them, from black to white.
+/// indexed picture whose colours are all its steps of grey, 2 to 256 of them, from black to white. A 17th
+/// colour that is the file's background and no pixel's is none of the picture.
 struct PngPicture {
     Picture picture;
     bool isGrey = false;   ///< The colours are such steps, and no palette that somebody chose.

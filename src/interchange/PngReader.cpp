@@ -56,8 +56,10 @@ public:
         png_set_user_limits(png_, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
         png_set_chunk_malloc_max(png_, rest_.size());
         png_set_chunk_cache_max(png_, kMostChunks + 1);
-        // Of the optional chunks only transparency and ours matter, but all of them must be whole.
+        // Of the optional chunks only these and transparency matter, but all of them must be whole.
         png_set_keep_unknown_chunks(png_, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
+        png_set_keep_unknown_chunks(png_, PNG_HANDLE_CHUNK_AS_DEFAULT,
+                                    reinterpret_cast<png_const_bytep>("bKGD"), 1);
         png_set_keep_unknown_chunks(png_, PNG_HANDLE_CHUNK_ALWAYS,
                                     reinterpret_cast<png_const_bytep>(kPaletteChunkType), 1);
         png_set_crc_action(png_, PNG_CRC_ERROR_QUIT, PNG_CRC_ERROR_QUIT);
@@ -80,6 +82,12 @@ public:
         if (colourType_ == PNG_COLOR_TYPE_PALETTE)
             png_get_PLTE(png_, info_, &colours, &count);
         return static_cast<std::size_t>(count);
+    }
+
+    /// Whether the palette's colour `at` is the one that a page behind the picture is to have.
+    [[nodiscard]] bool isBackground(std::size_t at) const {
+        png_color_16p background = nullptr;
+        return png_get_bKGD(png_, info_, &background) != 0 && background->index == at;
     }
 
     /// Fills the `colourCount` colours of an indexed picture.
@@ -222,6 +230,9 @@ Result<PngPicture, InterchangeError> read(std::span<const std::byte> file, const
     }
     if (mayExceed && reader.highest() >= colours)
         return InterchangeError{Kind::IndexWithoutColour, {}, reader.highest(), colours};
+    // ImageMagick puts the colour of the page behind a palette that lacks it. Sixteen are to stay sixteen.
+    if (colours == 17 && reader.highest() < 16 && reader.isBackground(16))
+        png.picture.colours.pop_back();
     // Of other pixels it says nothing, whoever left it in the file.
     if (indexed && !png.isGrey)
         png.chunk = reader.paletteChunk();

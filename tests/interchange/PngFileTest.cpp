@@ -136,6 +136,25 @@ TEST_F(PngFile, OtherProgramsFindNoFaultAndGiveBackWhatTheyKeep) {
     }
 }
 
+// ImageMagick orders a palette anew and adds the white of its page, which takes the sixteen to eight bits.
+TEST_F(PngFile, TheBackgroundThatAnotherProgramAddsIsNoColour) {
+    Texture texture = anyTexture(4, ColourType::Rgba, 16, 0);
+    ASSERT_TRUE(texture.image.create(16, 1, 4));
+    for (std::int32_t i = 0; i < 16; ++i) {
+        texture.image.setTexel(i, 0, static_cast<std::uint32_t>(15 - i));
+        texture.palette.setEntry(i, static_cast<std::uint16_t>(i << 11 | 17 << 6 | 1));
+    }
+    keep("ours.png", pngOf(texture));
+    ASSERT_TRUE(runs("convert ours.png theirs.png"));
+    ASSERT_EQ(readPng(kept("theirs.png")).value().bits, 8);
+    TextureReport report;
+    const Texture theirs = textureIn(kept("theirs.png"), report);
+    EXPECT_EQ(theirs.image.bits, 4);
+    for (std::int32_t i = 0; i < 16; ++i)
+        EXPECT_EQ(theirs.palette.getEntry(static_cast<std::int32_t>(theirs.image.getTexel(i, 0))),
+                  texture.palette.getEntry(15 - i));
+}
+
 TEST_F(PngFile, EntriesThatWereChangedSinceAreTakenAndTold) {
     const Texture texture = anyTexture(4, ColourType::Rgba, 256, 3);
     Bytes file = pngOf(texture);
