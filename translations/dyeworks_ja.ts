@@ -866,10 +866,6 @@ Paste as New Image</source>
         <translation>色を合わせて貼り付け(&amp;M)</translation>
     </message>
     <message>
-        <source>Insert the picture on the Clipboard in the nearest colours of the image&apos;s palette
-Paste Matching Colours</source>
-        <translation>クリップボードの絵を画像のパレットの最も近い色で貼り付けます
-色を合わせて貼り付け</translation>
         <source>Resize &amp;Canvas...</source>
         <translation>キャンバスのサイズ変更(&amp;C)...</translation>
     </message>
@@ -968,6 +964,12 @@ To 4 Bits</source>
 To 8 Bits</source>
         <translation>256 色の画像にします
 8 ビットに変換</translation>
+    </message>
+    <message>
+        <source>Insert the picture on the Clipboard in the nearest colours of the image&apos;s palette
+Paste Matching Colours</source>
+        <translation>クリップボードの絵を画像のパレットの最も近い色で貼り付けます
+色を合わせて貼り付け</translation>
     </message>
 </context>
 <context>
@@ -2363,8 +2365,6 @@ You must open or create a palette.
         <translation>色数: %1、平均誤差: %2</translation>
     </message>
     <message>
-        <source>Progress of the reduction</source>
-        <translation>減色の進み具合</translation>
         <source>Resize Canvas</source>
         <translation>キャンバスのサイズ変更</translation>
     </message>
@@ -2513,6 +2513,10 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     <message>
         <source>Leave the image as it is</source>
         <translation>画像をそのままにします</translation>
+    </message>
+    <message>
+        <source>Progress of the reduction</source>
+        <translation>減色の進み具合</translation>
     </message>
 </context>
 </TS>
