@@ -38,9 +38,8 @@ ReduceDepthSheet::ReduceDepthSheet(const ReduceDepth& proposed, const TextureCan
 
 void ReduceDepthSheet::showOutside() {
     const auto number = [](qlonglong count) { return QLocale().toString(count).toStdString(); };
-    outside_->setText(
-        shown(StringId::DepthOutside, {number(countOutside(counts_, bank_->currentIndex())),
-                                        number(qlonglong{image().width()} * image().height())}));
+    outside_->setText(shown(StringId::DepthOutside, {number(countOutside(counts_, bank_->currentIndex())),
+                                                     number(qlonglong{image().width()} * image().height())}));
     setAccessibleDescription(outside_->text());
 }
 
