@@ -1,6 +1,8 @@
 #include "paint/ImageSelection.h"
 
 #include "paint/CDyeworksDoc.h"
+#include "paint/CanvasDrawing.h"
+#include "paint/DrawingOptions.h"
 #include "paint/ImageViewer.h"
 #include "paint/SurfaceDrawing.h"
 #include "paint/ViewWindow.h"
@@ -124,7 +126,7 @@ bool ImageSelection::commitFloatingPiece(bool redraw) {
     if (std::unique_ptr<TextureCanvas> piece = std::move(floatingPiece_)) {
         const Rect place = texels_.value_or(Rect{});
         const auto paste = [&](TextureCanvas& canvas) {
-            canvas.StretchPaste(*piece, place.left, place.top, place.right + 1, place.bottom + 1);
+            CanvasDrawing(canvas, drawingOptions(), 0).paste(*piece, place);
         };
         if (!document_.Edit(&viewer_, paste)) {
             floatingPiece_ = std::move(piece);
