@@ -121,6 +121,16 @@ inline constexpr CommandId ID_OPTIONS = 33002;
 inline constexpr CommandId ID_FILE_REVERT = 33100;
 inline constexpr CommandId ID_FILE_IMPORT_BMP = 33101;
 inline constexpr CommandId ID_FILE_EXPORT_BMP = 33102;
+
+inline constexpr CommandId ID_DRAW_WRAP = 33160;
+inline constexpr CommandId ID_VIEW_REPEAT = 33161;
+inline constexpr CommandId ID_VIEW_BRUSHBAR = 33162;
+inline constexpr CommandId ID_BRUSH_SMALLER = 33163;
+inline constexpr CommandId ID_BRUSH_LARGER = 33164;
+inline constexpr CommandId ID_BRUSH_SQUARE = 33165;
+inline constexpr CommandId ID_BRUSH_ROUND = 33166;
+inline constexpr CommandId ID_MIRROR_ACROSS = 33167;
+inline constexpr CommandId ID_MIRROR_DOWN = 33168;
 // NOLINTEND(readability-identifier-naming)
 
 } // namespace dyeworks

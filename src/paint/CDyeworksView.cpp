@@ -26,10 +26,12 @@ CDyeworksView::CDyeworksView(CDyeworksDoc& document, ViewWindow& window)
     , selection_(document, *this, window, [this] { return geometry(); }) {
     addCommands();
     document_.addView(*this);
+    addDrawingOptionsListener(*this);
 }
 
 CDyeworksView::~CDyeworksView() {
     CancelDrag();
+    removeDrawingOptionsListener(*this);
     document_.removeView(*this);
 }
 
@@ -37,7 +39,8 @@ ViewGeometry CDyeworksView::geometry() const {
     return {zoom_,
             {document_.canvas().width(), document_.canvas().height()},
             window_.clientSize(),
-            window_.scrollPosition()};
+            window_.scrollPosition(),
+            repeated_};
 }
 
 void CDyeworksView::InitialUpdate() {
@@ -103,9 +106,17 @@ void CDyeworksView::update(DocumentView* sender, int hint) {
 
 bool CDyeworksView::InvalidateChanged() {
     const auto changed = document_.canvas().changedRect();
-    if (changed)
-        window_.invalidate(geometry().clientArea(*changed));
-    return changed.has_value();
+    if (!changed)
+        return false;
+    const Rect area = geometry().clientArea(*changed);
+    const Point step = geometry().origin();
+    const std::int32_t copies = repeated_ ? 1 : 0;
+    for (std::int32_t row = -copies; row <= copies; ++row) {
+        for (std::int32_t column = -copies; column <= copies; ++column)
+            window_.invalidate({area.left + column * step.x, area.top + row * step.y,
+                                area.right + column * step.x, area.bottom + row * step.y});
+    }
+    return true;
 }
 
 void CDyeworksView::SizeChanged() {

@@ -77,6 +77,8 @@ void ImageSelection::select(const std::optional<Rect>& texels, bool redraw) {
             (isArea(before) ? kRedrawImage : 0) | (texels_ ? kRedrawDrag : 0),
             unionOf(areaOf(geometry_(), before), areaOf(geometry_(), texels_)).value_or(Rect{})};
         window_.invalidate(redrawRequest_.clientArea);
+        if (floatingPieceWraps())
+            window_.invalidateAll();
         window_.repaintNow();
         // Had all of it been out of sight, a later paint would be limited.
         redrawRequest_ = {};
@@ -114,6 +116,17 @@ void ImageSelection::setFloatingPiece(std::unique_ptr<TextureCanvas> piece) {
     setCurrentTool(Tool::Select);
     setToolAtPress(Tool::Select);
     select(place, true);
+}
+
+/// Whether it also shows elsewhere than at the selection.
+bool ImageSelection::floatingPieceWraps() const noexcept {
+    return floatingPiece_ != nullptr && drawingOptions().wrap;
+}
+
+void ImageSelection::dropFloatingPiece() {
+    if (floatingPieceWraps())
+        window_.invalidateAll();
+    floatingPiece_.reset();
 }
 
 void ImageSelection::recolourFloatingPiece() {
@@ -181,9 +194,11 @@ ImageSelection::RedrawRequest ImageSelection::takeRedrawRequest() {
 std::optional<SelectionLook> ImageSelection::look(std::uint32_t redrawRequest) const {
     // A piece that floats shows also after a tool that draws, and whatever is being selected is framed.
     if (redrawRequest == 0 && (exists() || floatingPiece_ != nullptr || (dragged_ && texels_)))
-        return SelectionLook{texels_.value_or(Rect{}), floatingPiece_.get(), trackerStyle_, antsPhase_};
+        return SelectionLook{texels_.value_or(Rect{}), floatingPiece_.get(), trackerStyle_, antsPhase_,
+                             floatingPieceWraps()};
     if ((redrawRequest & kRedrawDrag) != 0)
-        return SelectionLook{dragRectangle_, floatingPiece_.get(), trackerStyle_, antsPhase_};
+        return SelectionLook{dragRectangle_, floatingPiece_.get(), trackerStyle_, antsPhase_,
+                             floatingPieceWraps()};
     return std::nullopt;
 }
 

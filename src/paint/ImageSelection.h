@@ -69,7 +69,7 @@ public:
     /// floats on, because the user left an edit that could not be undone.
     bool commitFloatingPiece(bool redraw);
     /// Forgets the floating piece. It shows until the next repaint.
-    void dropFloatingPiece() noexcept { floatingPiece_.reset(); }
+    void dropFloatingPiece();
     /// Where the next floating piece is placed: the texel that the last drag began at, or as far as it came.
     void setAnchor(Point texel) noexcept { anchor_ = texel; }
 
@@ -92,6 +92,7 @@ private:
         SelectionTracker::kDottedLine | SelectionTracker::kResizeInside;
 
     void requestRedraw(std::uint32_t request, const Rect& clientArea);
+    [[nodiscard]] bool floatingPieceWraps() const noexcept;
 
     CDyeworksDoc& document_;
     ImageViewer& viewer_;

@@ -100,6 +100,9 @@ enum class StringId {
     PrintingProgress, ///< %1 page, %2 pages
 
     BarProject,
+    BarBrush,
+    BrushSize,
+    BrushSizeTip,
     ProjectBarAdd,
     ProjectBarChange,
     ProjectBarRemove,
@@ -110,6 +113,7 @@ enum class StringId {
     HelpToolBar,
     HelpViewBar,
     HelpDrawBar,
+    HelpBrushBar,
     HelpProjectBar,
     HelpPaletteBar,
     HelpMessagePane,
