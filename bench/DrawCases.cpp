@@ -1,5 +1,6 @@
 #include "bench/Baseline.h"
 #include "bench/Cases.h"
+#include "paint/SurfaceDrawing.h"
 #include "paint/TextureCanvas.h"
 #include "paint/ViewRenderer.h"
 
@@ -28,8 +29,9 @@ void fillWithPattern(TextureCanvas& canvas, std::int32_t side, std::uint16_t bit
 /// Measures `draw(canvas, surface)`, with a surface of the whole screen, which draws `pixels` of it.
 template <typename Draw>
 void registerScreenCase(const std::string& name, std::int32_t side, std::uint16_t bits, std::size_t pixels,
-                        Draw draw) {
-    const std::string base = baseline(Baseline::Memset, kPixels * sizeof(std::uint32_t));
+                        Draw draw,
+                        const std::string& base = baseline(Baseline::Memset,
+                                                           kPixels * sizeof(std::uint32_t))) {
     benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) {
         TextureCanvas canvas;
         fillWithPattern(canvas, side, bits);
@@ -63,6 +65,23 @@ void registerRepaint(const std::string& what, std::int32_t zoom, std::uint16_t b
                        });
 }
 
+/// A repaint of the screen around the corner where an image of `side` texels meets three of its copies,
+/// against that of the image alone.
+void registerRepeat(std::int32_t side) {
+    registerScreenCase(
+        "RepaintRepeated-zoom4/8bit/" + std::to_string(side), side, 8, kPixels,
+        [](const TextureCanvas& canvas, Surface& surface) {
+            ViewLook look;
+            look.zoom = 4;
+            look.repeated = true;
+            Surface around = surface;
+            around.originX = -kWidth / 3;
+            around.originY = -kHeight / 3;
+            ViewRenderer(canvas, look).draw(around, reachOf(around));
+        },
+        "Repaint-zoom4/8bit/4096");
+}
+
 } // namespace
 
 void registerDrawCases() {
@@ -74,6 +93,9 @@ void registerDrawCases() {
         // The area that an edit of one texel invalidates.
         registerRepaint("RepaintTexel", 16, bits, {160, 160, 176, 176});
     }
+    // The smaller one fills the screen with its copies.
+    for (const std::int32_t side : {160, 4096})
+        registerRepeat(side);
 }
 
 } // namespace dyeworks

@@ -3,6 +3,7 @@
 #include "core/PaletteSet.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/CDyeworksView.h"
+#include "paint/DrawingOptions.h"
 #include "paint/ViewWindow.h"
 #include "palette/PaletteBarHost.h"
 #include "palette/PaletteBarState.h"
@@ -129,6 +130,30 @@ PointerEvent pointer(Point at, PointerButton button = PointerButton::None) {
     event.position = at;
     event.button = button;
     return event;
+}
+
+/// Measures a move of the pen with a brush of 16 texels in an image, with the repaint that it brings, against
+/// the same in a small image.
+void addBrushMove(std::int32_t side) {
+    constexpr const char* kSmall = "Brush16-move/64";
+    const std::string name = "Brush16-move/" + std::to_string(side);
+    benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) {
+        ShownImage image(side, {64, 64});
+        setCurrentTool(Tool::Pen);
+        DrawingOptions options;
+        options.brush = {Brush::kMaxSize, true};
+        setDrawingOptions(options);
+        image.view->PointerPressed(pointer({20, 20}, PointerButton::Left));
+        bool there = false;
+        for (auto _ : state) {
+            there = !there;
+            image.view->PointerMoved(pointer(there ? Point{40, 32} : Point{20, 20}));
+            image.window.repaintNow();
+        }
+        image.view->CancelDrag();
+        setDrawingOptions({});
+        state.SetLabel(kSmall);
+    })->Unit(benchmark::kMicrosecond);
 }
 
 /// Measures each of the `moves` of a drag with the repaint that it brings. `press` begins the drag; `at(n)`
@@ -291,6 +316,8 @@ void addPreview() {
 
 void registerViewCases() {
     addDrags();
+    for (const std::int32_t side : {64, kLargeSide})
+        addBrushMove(side);
     addPreview();
 }
 

@@ -966,6 +966,96 @@ To 8 Bits</source>
 8 ビットに変換</translation>
     </message>
     <message>
+        <source>&amp;Wrap</source>
+        <translation>回り込み(&amp;W)</translation>
+    </message>
+    <message>
+        <source>What leaves the image on one side comes in at the other
+Wrap</source>
+        <translation>画像の端からはみ出した部分を反対側の端から描きます
+回り込み</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat</source>
+        <translation>繰り返し表示(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Surround the image with its copies
+Toggle Repeat</source>
+        <translation>画像のまわりに同じ画像を並べて表示します
+繰り返し表示の切り替え</translation>
+    </message>
+    <message>
+        <source>&amp;Brush Bar</source>
+        <translation>ブラシバー(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Show or hide the brush bar.
+Toggle Brush Bar</source>
+        <translation>ブラシバーの表示と非表示を切り替えます。
+ブラシバーの表示切り替え</translation>
+    </message>
+    <message>
+        <source>&amp;Smaller</source>
+        <translation>小さく(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Make the brush a texel smaller
+Smaller Brush</source>
+        <translation>ブラシを 1 テクセル小さくします
+ブラシを小さく</translation>
+    </message>
+    <message>
+        <source>&amp;Larger</source>
+        <translation>大きく(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Make the brush a texel larger
+Larger Brush</source>
+        <translation>ブラシを 1 テクセル大きくします
+ブラシを大きく</translation>
+    </message>
+    <message>
+        <source>S&amp;quare</source>
+        <translation>四角(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Draw with a square brush
+Square Brush</source>
+        <translation>四角いブラシで描きます
+四角いブラシ</translation>
+    </message>
+    <message>
+        <source>&amp;Round</source>
+        <translation>丸(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Draw with a round brush
+Round Brush</source>
+        <translation>丸いブラシで描きます
+丸いブラシ</translation>
+    </message>
+    <message>
+        <source>Mirror &amp;Across</source>
+        <translation>左右対称(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Draw on the left and on the right of the middle alike
+Mirror Across</source>
+        <translation>中央の左側と右側に同じように描きます
+左右対称</translation>
+    </message>
+    <message>
+        <source>Mirror &amp;Down</source>
+        <translation>上下対称(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Draw above and below the middle alike
+Mirror Down</source>
+        <translation>中央の上側と下側に同じように描きます
+上下対称</translation>
+    </message>
+    <message>
         <source>Insert the picture on the Clipboard in the nearest colours of the image&apos;s palette
 Paste Matching Colours</source>
         <translation>クリップボードの絵を画像のパレットの最も近い色で貼り付けます
@@ -1056,6 +1146,10 @@ Paste Matching Colours</source>
     <message>
         <source>&amp;Entries</source>
         <translation>エントリー(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Brus&amp;h</source>
+        <translation>ブラシ(&amp;H)</translation>
     </message>
 </context>
 <context>
@@ -2513,6 +2607,22 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     <message>
         <source>Leave the image as it is</source>
         <translation>画像をそのままにします</translation>
+    </message>
+    <message>
+        <source>Brush</source>
+        <translation>ブラシ</translation>
+    </message>
+    <message>
+        <source>Brush size</source>
+        <translation>ブラシの大きさ</translation>
+    </message>
+    <message>
+        <source>Texels from side to side of the brush, 1 to 16; [ and ] change it too</source>
+        <translation>ブラシの端から端までのテクセル数、1～16。[ と ] でも変わります</translation>
+    </message>
+    <message>
+        <source>How the drawing tools draw: size and shape of the brush, mirrored on both sides of the middle, around the edges. Drag the handle to move the bar to another side of the window.</source>
+        <translation>描画ツールの描き方です。ブラシの大きさと形、中央の両側への対称描画、端での回り込みを選びます。ハンドルをドラッグすると、バーをウィンドウの別の辺に移せます。</translation>
     </message>
     <message>
         <source>Progress of the reduction</source>

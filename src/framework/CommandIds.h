@@ -136,6 +136,16 @@ inline constexpr CommandId ID_IMAGE_TURN_RIGHT = 33126;
 inline constexpr CommandId ID_IMAGE_TURN_HALF = 33127;
 inline constexpr CommandId ID_IMAGE_TO_4_BITS = 33128;
 inline constexpr CommandId ID_IMAGE_TO_8_BITS = 33129;
+
+inline constexpr CommandId ID_DRAW_WRAP = 33160;
+inline constexpr CommandId ID_VIEW_REPEAT = 33161;
+inline constexpr CommandId ID_VIEW_BRUSHBAR = 33162;
+inline constexpr CommandId ID_BRUSH_SMALLER = 33163;
+inline constexpr CommandId ID_BRUSH_LARGER = 33164;
+inline constexpr CommandId ID_BRUSH_SQUARE = 33165;
+inline constexpr CommandId ID_BRUSH_ROUND = 33166;
+inline constexpr CommandId ID_MIRROR_ACROSS = 33167;
+inline constexpr CommandId ID_MIRROR_DOWN = 33168;
 // NOLINTEND(readability-identifier-naming)
 
 } // namespace dyeworks

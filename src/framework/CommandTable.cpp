@@ -3,8 +3,8 @@
 #include "platform/Platform.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
+#include <iterator>
 
 // The name by which the translation tools find the texts; what it wraps stays as it is.
 #define QT_TRANSLATE_NOOP(context, text) text
@@ -13,7 +13,8 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::array kRows{
+// No std::array: deducing it from so many rows is more than some compilers go along with.
+constexpr CommandRow kRows[] = {
     CommandRow{ID_VIEW_PALETTEBAR, QT_TRANSLATE_NOOP("Command", "&Palette Bar"),
                QT_TRANSLATE_NOOP("Command", "Show or hide the palette bar.\nToggle Palette Bar"), "",
                "palette-bar"},
@@ -212,6 +213,29 @@ constexpr std::array kRows{
                QT_TRANSLATE_NOOP("Command", "Make it an image of 16 colours\nTo 4 Bits"), "", ""},
     CommandRow{ID_IMAGE_TO_8_BITS, QT_TRANSLATE_NOOP("Command", "To &8 Bits"),
                QT_TRANSLATE_NOOP("Command", "Make it an image of 256 colours\nTo 8 Bits"), "", ""},
+    CommandRow{ID_DRAW_WRAP, QT_TRANSLATE_NOOP("Command", "&Wrap"),
+               QT_TRANSLATE_NOOP("Command", "What leaves the image on one side comes in at the other\nWrap"),
+               "", "wrap"},
+    CommandRow{ID_VIEW_REPEAT, QT_TRANSLATE_NOOP("Command", "&Repeat"),
+               QT_TRANSLATE_NOOP("Command", "Surround the image with its copies\nToggle Repeat"), "",
+               "repeat"},
+    CommandRow{ID_VIEW_BRUSHBAR, QT_TRANSLATE_NOOP("Command", "&Brush Bar"),
+               QT_TRANSLATE_NOOP("Command", "Show or hide the brush bar.\nToggle Brush Bar"), "", ""},
+    CommandRow{ID_BRUSH_SMALLER, QT_TRANSLATE_NOOP("Command", "&Smaller"),
+               QT_TRANSLATE_NOOP("Command", "Make the brush a texel smaller\nSmaller Brush"), "[", ""},
+    CommandRow{ID_BRUSH_LARGER, QT_TRANSLATE_NOOP("Command", "&Larger"),
+               QT_TRANSLATE_NOOP("Command", "Make the brush a texel larger\nLarger Brush"), "]", ""},
+    CommandRow{ID_BRUSH_SQUARE, QT_TRANSLATE_NOOP("Command", "S&quare"),
+               QT_TRANSLATE_NOOP("Command", "Draw with a square brush\nSquare Brush"), "", "brush-square"},
+    CommandRow{ID_BRUSH_ROUND, QT_TRANSLATE_NOOP("Command", "&Round"),
+               QT_TRANSLATE_NOOP("Command", "Draw with a round brush\nRound Brush"), "", "brush-round"},
+    CommandRow{
+        ID_MIRROR_ACROSS, QT_TRANSLATE_NOOP("Command", "Mirror &Across"),
+        QT_TRANSLATE_NOOP("Command", "Draw on the left and on the right of the middle alike\nMirror Across"),
+        "", "mirror-across"},
+    CommandRow{ID_MIRROR_DOWN, QT_TRANSLATE_NOOP("Command", "Mirror &Down"),
+               QT_TRANSLATE_NOOP("Command", "Draw above and below the middle alike\nMirror Down"), "",
+               "mirror-down"},
     CommandRow{ID_FILE_NEW, QT_TRANSLATE_NOOP("Command", "&New"),
                QT_TRANSLATE_NOOP("Command", "Create a new document\nNew"), "Ctrl+N", "new"},
     CommandRow{ID_FILE_OPEN, QT_TRANSLATE_NOOP("Command", "&Open..."),
@@ -297,7 +321,7 @@ std::span<const CommandRow> commandTable() {
 const CommandRow* findCommand(CommandId id) {
     // The last row that begins at this number or before it.
     const auto after = std::ranges::upper_bound(kRows, id, {}, &CommandRow::id);
-    if (after == kRows.begin())
+    if (after == std::begin(kRows))
         return nullptr;
     const CommandRow& row = *(after - 1);
     return id <= std::max(row.id, row.last) ? &row : nullptr;

@@ -26,22 +26,26 @@ CDyeworksView::CDyeworksView(CDyeworksDoc& document, ViewWindow& window)
     , selection_(document, *this, window, [this] { return geometry(); }) {
     addCommands();
     document_.addView(*this);
+    addDrawingOptionsListener(*this);
 }
 
 CDyeworksView::~CDyeworksView() {
     CancelDrag();
+    removeDrawingOptionsListener(*this);
     document_.removeView(*this);
 }
 
 ViewGeometry CDyeworksView::geometry() const {
-    return {zoom_,
-            {document_.canvas().width(), document_.canvas().height()},
-            window_.clientSize(),
-            window_.scrollPosition()};
+    return {zoom_, imageSize(), window_.clientSize(), window_.scrollPosition(), repeated_};
+}
+
+Size CDyeworksView::imageSize() const {
+    return {document_.canvas().width(), document_.canvas().height()};
 }
 
 void CDyeworksView::InitialUpdate() {
     initialised_ = true;
+    shownSize_ = imageSize();
     window_.setContentSize(contentSize());
     window_.fitFrame();
     drawingValue_ = depthMask();
@@ -103,9 +107,17 @@ void CDyeworksView::update(DocumentView* sender, int hint) {
 
 bool CDyeworksView::InvalidateChanged() {
     const auto changed = document_.canvas().changedRect();
-    if (changed)
-        window_.invalidate(geometry().clientArea(*changed));
-    return changed.has_value();
+    if (!changed)
+        return false;
+    const Rect area = geometry().clientArea(*changed);
+    const Point step = geometry().origin();
+    const std::int32_t copies = repeated_ ? 1 : 0;
+    for (std::int32_t row = -copies; row <= copies; ++row) {
+        for (std::int32_t column = -copies; column <= copies; ++column)
+            window_.invalidate({area.left + column * step.x, area.top + row * step.y,
+                                area.right + column * step.x, area.bottom + row * step.y});
+    }
+    return true;
 }
 
 void CDyeworksView::SizeChanged(Point moved) {
@@ -114,9 +126,16 @@ void CDyeworksView::SizeChanged(Point moved) {
         return Point{client.width / 2, client.height / 2};
     };
     // The window still stands where it stood over the image as it was.
-    const Point texel = geometry().texelAt(middle());
+    const ViewGeometry before(zoom_, shownSize_, window_.clientSize(), window_.scrollPosition(), repeated_);
+    const Point texel = before.texelAt(middle());
+    const Size size = imageSize();
+    // In a copy it stays in that copy, which now begins elsewhere.
+    const Point copy = before.copyAt(texel);
+    const Point grown{copy.x / shownSize_.width * (size.width - shownSize_.width),
+                      copy.y / shownSize_.height * (size.height - shownSize_.height)};
+    shownSize_ = size;
     SetZoom(zoom_);
-    scrollTo(geometry().scrollToKeep({texel.x + moved.x, texel.y + moved.y}, middle()));
+    scrollTo(geometry().scrollToKeep({texel.x + moved.x + grown.x, texel.y + moved.y + grown.y}, middle()));
     drawingValue_ &= depthMask();
     if (document_.host().isActiveImage(document_)) {
         followPointer(window_.pointerPosition());

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "framework/CommandTarget.h"
+#include "paint/Brush.h"
 #include "paint/CurrentTool.h"
+#include "paint/DrawingOptions.h"
 #include "paint/ImageSelection.h"
 #include "paint/ImageViewer.h"
 #include "paint/KeyEvent.h"
@@ -25,7 +27,10 @@ enum class CursorShape;
 
 /// A view of an image: what it shows and what the pointer, the keys and the commands do in it. Works through
 /// the window that shows it and needs no widget.
-class CDyeworksView : public CommandTarget, public ImageViewer, public ToolHost {
+class CDyeworksView : public CommandTarget,
+                      public ImageViewer,
+                      public ToolHost,
+                      private DrawingOptionsListener {
 public:
     /// Joins the document's views until it is destroyed. Both arguments must outlive the view.
     CDyeworksView(CDyeworksDoc& document, ViewWindow& window);
@@ -50,11 +55,14 @@ public:
     void Tick();
     /// Before a paint of the window, whatever its area: the redraw request, which this paint serves.
     [[nodiscard]] ImageSelection::RedrawRequest BeginPaint();
-    /// Draws a part of the view (right and bottom exclusive) onto the surface, whose origin is a logical
-    /// point: client coordinates plus the scroll position. `buttonFace` (0xffRRGGBB) shows outside the image.
-    /// A redraw request without kRedrawImage draws onto what the surface holds.
-    void Paint(Surface& surface, const Rect& logicalArea, std::uint32_t buttonFace,
+    /// Draws a part of the view (right and bottom exclusive) onto the surface; both are in content
+    /// coordinates: client coordinates plus the scroll position. `buttonFace` (0xffRRGGBB) shows outside the
+    /// image. A redraw request without kRedrawImage draws onto what the surface holds.
+    void Paint(Surface& surface, const Rect& contentArea, std::uint32_t buttonFace,
                std::uint32_t redrawRequest = 0) const;
+    /// Draws what of the brush's outline under the pointer lies on the surface, whose origin is in content
+    /// coordinates, over what a paint has left there.
+    void PaintBrush(const Surface& surface) const;
     /// No palette is attached to give the pixels colours: there is no image to see, and the window writes so
     /// over the button face.
     [[nodiscard]] bool showsNoPalette() const;
@@ -63,6 +71,8 @@ public:
     void PointerPressed(const PointerEvent& event);
     void PointerMoved(const PointerEvent& event);
     void PointerReleased(const PointerEvent& event);
+    /// The pointer is over something else now.
+    void PointerLeft();
     /// The capture was taken away other than by `releasePointer`.
     void PointerCaptureLost();
     /// True when the key was of use.
@@ -89,7 +99,9 @@ public:
 
     [[nodiscard]] std::int32_t zoom() const noexcept { return zoom_; }
     [[nodiscard]] bool gridShown() const noexcept { return gridShown_; }
-    /// Size of the zoomed image in pixels.
+    /// Whether the image is surrounded by its copies.
+    [[nodiscard]] bool repeated() const noexcept { return repeated_; }
+    /// Size of everything there is to see, in pixels: the zoomed image, with its copies when it is repeated.
     [[nodiscard]] Size contentSize() const { return geometry().contentSize(); }
     [[nodiscard]] bool dragging() const noexcept { return tool_ != nullptr || scrollDragging_; }
 
@@ -99,6 +111,8 @@ public:
     /// Held to 1 to 16.
     void SetZoom(std::int32_t zoom);
     void ToggleGrid();
+    /// The image stays where it is as far as the window lets it.
+    void ToggleRepeat();
 
 private:
     // As the document and the tools see the view.
@@ -113,8 +127,13 @@ private:
     [[nodiscard]] ImageViewer& viewer() noexcept override { return *this; }
 
     [[nodiscard]] ViewGeometry geometry() const;
+    [[nodiscard]] Size imageSize() const;
     void applyZoom(bool redraw);
     void scrollTo(Point position);
+    [[nodiscard]] Point texelInImage(Point client) const;
+    [[nodiscard]] Point texelOfDrag(Point client) const;
+    void showBrush(Point client);
+    void drawingOptionsChanged() override;
     void pickColour(Point client);
     void takeDrawingValue();
     [[nodiscard]] std::uint32_t depthMask() const;
@@ -137,6 +156,7 @@ private:
     void saveSettings() const;
 
     void addCommands();
+    void addOptionCommands();
     template <Tool kTool>
     void addToolCommand(CommandId id);
     template <Tool kTool>
@@ -150,6 +170,15 @@ private:
     void OnZoom(CommandId id);
     void OnUpdateZoom(CommandUi& ui);
     void OnUpdateGrid(CommandUi& ui);
+    void OnUpdateRepeat(CommandUi& ui);
+    void OnWrap();
+    void OnUpdateWrap(CommandUi& ui);
+    void OnBrushSize(CommandId id);
+    void OnUpdateBrushSize(CommandUi& ui);
+    void OnBrushShape(CommandId id);
+    void OnUpdateBrushShape(CommandUi& ui);
+    void OnMirror(CommandId id);
+    void OnUpdateMirror(CommandUi& ui);
     void OnUndo();
     void OnUpdateUndo(CommandUi& ui);
     void OnRedo();
@@ -180,6 +209,9 @@ private:
     ViewWindow& window_;
     std::int32_t zoom_ = 1;
     bool gridShown_ = true;
+    bool repeated_ = false;
+    /// The image's size when the window was last laid out for it.
+    Size shownSize_{1, 1};
     bool initialised_ = false;
     bool noPaletteShown_ = false; ///< What the window shows is the words in place of the image.
     /// Where the window was scrolled to when its file was last open. Until the first paint the window takes
@@ -190,7 +222,15 @@ private:
     /// Of the drag that is going on. Shared with the call that the tool is in: a preview may end the drag
     /// there.
     std::shared_ptr<DrawTool> tool_;
-    Point pointed_;      ///< The texel that the status line tells of.
+    Point dragCopy_; ///< Way to the copy of the image that it began in.
+    Point pointed_;  ///< The texel that the status line tells of.
+    struct PointedBrush {
+        Point texel; ///< Possibly of a copy.
+        Brush brush;
+        bool operator==(const PointedBrush&) const = default;
+    };
+    std::optional<PointedBrush> brushShown_; ///< Around which the window shows an outline.
+    bool pointerInside_ = false;
     bool spuit_ = false; ///< A right press picks the colour under it.
     bool scrollDragging_ = false;
     Point scrollDragPoint_; ///< Client point up to which the scroll drag has been followed.

@@ -1,5 +1,6 @@
 #include "paint/CDyeworksDoc.h"
 #include "paint/CDyeworksView.h"
+#include "paint/ViewWindow.h"
 
 namespace dyeworks {
 
@@ -35,6 +36,7 @@ void CDyeworksView::addCommands() {
         onRange(id, id, &CDyeworksView::OnZoom, &CDyeworksView::OnUpdateZoom);
     }
     on(ID_VIEW_GRID, &CDyeworksView::ToggleGrid, &CDyeworksView::OnUpdateGrid);
+    addOptionCommands();
     on(ID_EDIT_UNDO, &CDyeworksView::OnUndo, &CDyeworksView::OnUpdateUndo);
     on(ID_EDIT_REDO, &CDyeworksView::OnRedo, &CDyeworksView::OnUpdateRedo);
     on(ID_TOOL_SPUIT, &CDyeworksView::OnSpuit, &CDyeworksView::OnUpdateSpuit);
@@ -58,6 +60,7 @@ void CDyeworksView::addCommands() {
 template <Tool kTool>
 void CDyeworksView::OnTool() {
     setCurrentTool(kTool);
+    showBrush(window_.pointerPosition());
     if (keepsSelection(kTool)) {
         // What can be selected and done with a selection need not wait for the next press.
         if (!dragging())

@@ -20,16 +20,25 @@ ImageSelection::RedrawRequest CDyeworksView::BeginPaint() {
     return selection_.takeRedrawRequest();
 }
 
-void CDyeworksView::Paint(Surface& surface, const Rect& logicalArea, std::uint32_t buttonFace,
+void CDyeworksView::Paint(Surface& surface, const Rect& contentArea, std::uint32_t buttonFace,
                           std::uint32_t redrawRequest) const {
     ViewLook look;
     look.zoom = zoom_;
     look.gridShown = gridShown_;
+    look.repeated = repeated_;
+    look.mirrorsAcross = drawingOptions().mirrorAcross;
+    look.mirrorsDown = drawingOptions().mirrorDown;
     look.noPalette = showsNoPalette();
     look.outsideColour = buttonFace;
     look.imageShown = redrawRequest == 0 || (redrawRequest & ImageSelection::kRedrawImage) != 0;
     look.selection = selection_.look(redrawRequest);
-    ViewRenderer(document_.canvas(), look).draw(surface, logicalArea);
+    const Point origin = geometry().origin();
+    Surface logical = surface;
+    logical.originX -= origin.x;
+    logical.originY -= origin.y;
+    ViewRenderer(document_.canvas(), look)
+        .draw(logical, {contentArea.left - origin.x, contentArea.top - origin.y, contentArea.right - origin.x,
+                        contentArea.bottom - origin.y});
 }
 
 void CDyeworksView::Tick() {

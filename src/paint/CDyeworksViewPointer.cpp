@@ -29,6 +29,7 @@ void CDyeworksView::PointerPressed(const PointerEvent& event) {
         scrollDragPoint_ = event.position;
         scrollDragStart_ = window_.scrollPosition();
         window_.capturePointer();
+        showBrush(event.position);
         updateCursor(event.position, event.shift, event.control);
         return;
     }
@@ -39,8 +40,11 @@ void CDyeworksView::PointerPressed(const PointerEvent& event) {
         return;
     }
     takeDrawingValue();
+    // A selection lies in the image itself, and is grabbed there, however far it reaches.
+    const bool grabs = pressed == Tool::Select && selection_.hit(event.position) != TrackerHit::None;
+    dragCopy_ = grabs ? Point{} : geometry().copyAt(geometry().texelAt(event.position));
     auto tool = makeDrawTool(pressed, *this);
-    if (tool->press(geometry().texelAt(event.position), event)) {
+    if (tool->press(texelOfDrag(event.position), event)) {
         tool_ = std::move(tool);
         selection_.setDragged(selecting());
         window_.capturePointer();
@@ -57,11 +61,12 @@ void CDyeworksView::PointerMoved(const PointerEvent& event) {
         scrollDrag(event.position);
         return;
     }
-    const Point texel = geometry().texelAt(event.position);
-    pointed_ = texel;
+    pointed_ = texelInImage(event.position);
     showPosition();
+    pointerInside_ = true;
+    showBrush(event.position);
     if (const std::shared_ptr<DrawTool> tool = tool_) {
-        tool->move(texel, event);
+        tool->move(texelOfDrag(event.position), event);
         document_.ShowEdit();
     }
 }
@@ -71,7 +76,7 @@ void CDyeworksView::PointerReleased(const PointerEvent& event) {
         return;
     const std::shared_ptr<DrawTool> tool = endDrag();
     if (tool != nullptr) {
-        tool->release(geometry().texelAt(event.position), event);
+        tool->release(texelOfDrag(event.position), event);
         if (selection_.toolAtPress() == Tool::ZoomLens)
             selection_.setToolAtPress(currentTool());
     }
@@ -107,8 +112,23 @@ void CDyeworksView::scrollDrag(Point client) {
     scrollDragPoint_ = client;
 }
 
-void CDyeworksView::pickColour(Point client) {
+/// The image's texel under the client point, also where that lies in a copy.
+Point CDyeworksView::texelInImage(Point client) const {
+    const ViewGeometry seen = geometry();
+    const Point texel = seen.texelAt(client);
+    const Point copy = seen.copyAt(texel);
+    return {texel.x - copy.x, texel.y - copy.y};
+}
+
+/// The texel under the client point as seen from the copy that the drag began in: a line that leaves it goes
+/// on.
+Point CDyeworksView::texelOfDrag(Point client) const {
     const Point texel = geometry().texelAt(client);
+    return {texel.x - dragCopy_.x, texel.y - dragCopy_.y};
+}
+
+void CDyeworksView::pickColour(Point client) {
+    const Point texel = texelInImage(client);
     const TextureCanvas& canvas = document_.canvas();
     if (texel.x < 0 || texel.y < 0 || texel.x >= canvas.width() || texel.y >= canvas.height())
         return;
@@ -135,8 +155,9 @@ std::uint32_t CDyeworksView::depthMask() const {
 /// The pointer may be elsewhere, in a menu for one; the texel that it was last seen at then stays.
 void CDyeworksView::followPointer(Point client) {
     if (isInSight(client))
-        pointed_ = geometry().texelAt(client);
+        pointed_ = texelInImage(client);
     showPosition();
+    showBrush(client);
 }
 
 void CDyeworksView::showPosition() const {

@@ -10,6 +10,7 @@ namespace dyeworks {
 namespace {
 
 constexpr const char* kGridEntry = "ShowGrid";
+constexpr const char* kRepeatEntry = "Repeat";
 constexpr const char* kZoomEntry = "zoom";
 constexpr const char* kXEntry = "x";
 constexpr const char* kYEntry = "y";
@@ -31,6 +32,7 @@ void CDyeworksView::restoreSettings() {
     const Profile& profile = platform().profile();
     const std::string section = sectionOf(path);
     gridShown_ = profile.integer(section, kGridEntry, 1) != 0;
+    repeated_ = profile.integer(section, kRepeatEntry, 0) != 0;
     zoom_ = ViewGeometry::holdZoom(profile.integer(section, kZoomEntry, 1));
     window_.setContentSize(contentSize());
     restoreAttachment(profile.textOr(section, kAttachEntry, ""));
@@ -69,6 +71,7 @@ void CDyeworksView::saveSettings() const {
     const std::string section = sectionOf(path);
     const Point scroll = restoredScroll_.value_or(window_.scrollPosition());
     profile.setInteger(section, kGridEntry, gridShown_ ? 1 : 0);
+    profile.setInteger(section, kRepeatEntry, repeated_ ? 1 : 0);
     profile.setInteger(section, kZoomEntry, zoom_);
     profile.setInteger(section, kXEntry, scroll.x);
     profile.setInteger(section, kYEntry, scroll.y);

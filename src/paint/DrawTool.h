@@ -1,5 +1,7 @@
 #pragma once
 
+#include "paint/CanvasDrawing.h"
+#include "paint/DrawingOptions.h"
 #include "paint/PointerEvent.h"
 #include "paint/Rect.h"
 #include "paint/ToolHost.h"
@@ -30,6 +32,10 @@ protected:
     [[nodiscard]] CDyeworksDoc& document() const noexcept { return host_.document(); }
     [[nodiscard]] ImageViewer& viewer() const noexcept { return host_.viewer(); }
     [[nodiscard]] ImageSelection& selection() const noexcept { return host_.selection(); }
+    /// To draw on the canvas in the value and with the options that are chosen now.
+    [[nodiscard]] CanvasDrawing drawingOn(TextureCanvas& canvas) const {
+        return {canvas, drawingOptions(), host_.drawingValue()};
+    }
 
 private:
     ToolHost& host_;

@@ -8,8 +8,7 @@ namespace dyeworks {
 bool FillTool::press(Point texel, const PointerEvent& /*event*/) {
     if (!selection().commitFloatingPiece(true))
         return false;
-    document().Edit(
-        &viewer(), [&](TextureCanvas& canvas) { canvas.FloodFill(texel.x, texel.y, host().drawingValue()); });
+    document().Edit(&viewer(), [&](TextureCanvas& canvas) { drawingOn(canvas).floodFill(texel); });
     return false;
 }
 

@@ -1,6 +1,8 @@
 #include "paint/ImageSelection.h"
 
 #include "paint/CDyeworksDoc.h"
+#include "paint/CanvasDrawing.h"
+#include "paint/DrawingOptions.h"
 #include "paint/ImageViewer.h"
 #include "paint/SurfaceDrawing.h"
 #include "paint/ViewWindow.h"
@@ -76,6 +78,8 @@ void ImageSelection::select(const std::optional<Rect>& texels, bool redraw) {
             (isArea(before) ? kRedrawImage : 0) | (texels_ ? kRedrawDrag : 0),
             unionOf(areaOf(geometry_(), before), areaOf(geometry_(), texels_)).value_or(Rect{})};
         window_.invalidate(redrawRequest_.clientArea);
+        if (floatingPieceWraps())
+            window_.invalidateAll();
         window_.repaintNow();
         // Had all of it been out of sight, a later paint would be limited.
         redrawRequest_ = {};
@@ -115,6 +119,17 @@ void ImageSelection::setFloatingPiece(std::unique_ptr<TextureCanvas> piece) {
     select(place, true);
 }
 
+/// Whether it also shows elsewhere than at the selection.
+bool ImageSelection::floatingPieceWraps() const noexcept {
+    return floatingPiece_ != nullptr && drawingOptions().wrap;
+}
+
+void ImageSelection::dropFloatingPiece() {
+    if (floatingPieceWraps())
+        window_.invalidateAll();
+    floatingPiece_.reset();
+}
+
 void ImageSelection::recolourFloatingPiece() {
     if (floatingPiece_ != nullptr)
         floatingPiece_->copyColourTableFrom(document_.canvas());
@@ -125,7 +140,7 @@ bool ImageSelection::commitFloatingPiece(bool redraw) {
     if (std::unique_ptr<TextureCanvas> piece = std::move(floatingPiece_)) {
         const Rect place = texels_.value_or(Rect{});
         const auto paste = [&](TextureCanvas& canvas) {
-            canvas.StretchPaste(*piece, place.left, place.top, place.right + 1, place.bottom + 1);
+            CanvasDrawing(canvas, drawingOptions(), 0).paste(*piece, place);
         };
         if (!document_.Edit(&viewer_, paste)) {
             floatingPiece_ = std::move(piece);
@@ -219,9 +234,11 @@ ImageSelection::RedrawRequest ImageSelection::takeRedrawRequest() {
 std::optional<SelectionLook> ImageSelection::look(std::uint32_t redrawRequest) const {
     // A piece that floats shows also after a tool that draws, and whatever is being selected is framed.
     if (redrawRequest == 0 && (exists() || floatingPiece_ != nullptr || (dragged_ && texels_)))
-        return SelectionLook{texels_.value_or(Rect{}), floatingPiece_.get(), trackerStyle_, antsPhase_};
+        return SelectionLook{texels_.value_or(Rect{}), floatingPiece_.get(), trackerStyle_, antsPhase_,
+                             floatingPieceWraps()};
     if ((redrawRequest & kRedrawDrag) != 0)
-        return SelectionLook{dragRectangle_, floatingPiece_.get(), trackerStyle_, antsPhase_};
+        return SelectionLook{dragRectangle_, floatingPiece_.get(), trackerStyle_, antsPhase_,
+                             floatingPieceWraps()};
     return std::nullopt;
 }
 

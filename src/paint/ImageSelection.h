@@ -70,7 +70,7 @@ public:
     /// floats on, because the user left an edit that could not be undone.
     bool commitFloatingPiece(bool redraw);
     /// Forgets the floating piece. It shows until the next repaint.
-    void dropFloatingPiece() noexcept { floatingPiece_.reset(); }
+    void dropFloatingPiece();
     /// Turns what is selected, of which there must be something, about its middle. By a quarter it is lifted
     /// out of the image first and floats; what floats already just turns. Without memory for it nothing
     /// changes, and the user is told.
@@ -97,6 +97,7 @@ private:
         SelectionTracker::kDottedLine | SelectionTracker::kResizeInside;
 
     void requestRedraw(std::uint32_t request, const Rect& clientArea);
+    [[nodiscard]] bool floatingPieceWraps() const noexcept;
 
     CDyeworksDoc& document_;
     ImageViewer& viewer_;

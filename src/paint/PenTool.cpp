@@ -12,7 +12,7 @@ bool PenTool::press(Point texel, const PointerEvent& /*event*/) {
     edit_ = document().BeginEdit(&viewer());
     if (edit_ == nullptr)
         return false;
-    edit_->canvas().PutPixel(texel.x, texel.y, host().drawingValue());
+    drawingOn(edit_->canvas()).point(texel);
     return true;
 }
 
@@ -24,7 +24,7 @@ void PenTool::follow(Point texel) {
 void PenTool::move(Point texel, const PointerEvent& /*event*/) {
     if (texel == anchor_)
         return;
-    edit_->canvas().DrawLine(anchor_.x, anchor_.y, texel.x, texel.y, host().drawingValue());
+    drawingOn(edit_->canvas()).line(anchor_, texel);
     follow(texel);
 }
 

@@ -10,8 +10,7 @@ bool PixelTool::press(Point texel, const PointerEvent& /*event*/) {
         return false;
     selection().setAnchor(texel);
     const std::int32_t before = document().edits().position();
-    document().Edit(&viewer(),
-                    [&](TextureCanvas& canvas) { canvas.PutPixel(texel.x, texel.y, host().drawingValue()); });
+    document().Edit(&viewer(), [&](TextureCanvas& canvas) { drawingOn(canvas).point(texel); });
     if (document().edits().position() != before)
         step_ = document().edits().position();
     return true;

@@ -91,9 +91,12 @@ bool SelectTool::cutPiece(bool leaveImage) {
         document().canvas().CopyRect(cut.left, cut.top, cut.right, cut.bottom);
     if (piece == nullptr)
         return false;
+    DrawingOptions options;
+    options.wrap = drawingOptions().wrap;
+    CanvasDrawing(document().canvas(), options, 0).completePiece(*piece, cut);
     const std::int32_t before = document().edits().position();
     const auto erase = [&](TextureCanvas& canvas) {
-        canvas.FillBox(cut.left, cut.top, cut.right, cut.bottom, 0);
+        CanvasDrawing(canvas, options, 0).filledBox({cut.left, cut.top}, {cut.right, cut.bottom});
     };
     if (!leaveImage && !document().Edit(&viewer(), erase))
         return false;

@@ -62,23 +62,22 @@ void ShapeTool::follow(Point texel) {
 }
 
 void ShapeTool::drawShape() {
-    TextureCanvas& canvas = edit_->canvas();
-    const std::uint32_t value = host().drawingValue();
+    CanvasDrawing drawing = drawingOn(edit_->canvas());
     switch (shape_) {
     case Tool::Box:
-        canvas.DrawBox(anchor_.x, anchor_.y, current_.x, current_.y, value);
+        drawing.box(anchor_, current_);
         break;
     case Tool::BoxFill:
-        canvas.FillBox(anchor_.x, anchor_.y, current_.x, current_.y, value);
+        drawing.filledBox(anchor_, current_);
         break;
     case Tool::Circle:
-        canvas.DrawEllipse(anchor_.x, anchor_.y, current_.x, current_.y, value);
+        drawing.ellipse(anchor_, current_);
         break;
     case Tool::CircleFill:
-        canvas.FillEllipse(anchor_.x, anchor_.y, current_.x, current_.y, value);
+        drawing.filledEllipse(anchor_, current_);
         break;
     default:
-        canvas.DrawLine(anchor_.x, anchor_.y, current_.x, current_.y, value);
+        drawing.line(anchor_, current_);
         break;
     }
 }

@@ -4,6 +4,7 @@
 #include "paint/SurfaceDrawing.h"
 #include "paint/TextureCanvas.h"
 #include "paint/ViewGeometry.h"
+#include "paint/WrapCopies.h"
 
 namespace dyeworks {
 
@@ -15,6 +16,8 @@ constexpr std::int32_t kGridTexels = 8;
 constexpr std::int32_t kPatternSide = 8;
 constexpr std::uint32_t kWhite = 0x00ffffff;
 constexpr std::uint32_t kOpaque = 0xff000000;
+/// Pixels of a dash of a mirror line; a power of two.
+constexpr std::int32_t kMirrorDash = 4;
 /// Rows that are finished before the next ones are begun, so that the grid finds them in the cache.
 constexpr std::int32_t kBandRows = 32;
 
@@ -38,21 +41,54 @@ void ViewRenderer::draw(Surface& surface, const Rect& area) const {
         return;
     }
     if (look_.imageShown) {
-        const Rect content{0, 0, canvas_.width() * look_.zoom, canvas_.height() * look_.zoom};
-        const Rect image = intersection(visible, content);
-        drawOutside(surface, visible, image);
-        const std::int32_t bandRows = (kBandRows + look_.zoom - 1) / look_.zoom * look_.zoom;
-        Rect band = image;
-        for (; band.top < image.bottom && band.left < band.right; band.top = band.bottom) {
-            // Bands end where texels do, so that no row is looked up twice.
-            band.bottom = std::min((band.top / bandRows + 1) * bandRows, image.bottom);
-            drawImage(surface, band);
-            if (look_.gridShown)
-                drawGrid(surface, band);
-        }
+        const Rect image = imageArea();
+        const Rect copies{-image.right, -image.bottom, 2 * image.right, 2 * image.bottom};
+        drawOutside(surface, visible, intersection(visible, look_.repeated ? copies : image));
+        forEachCopy(surface, visible, [this](const Surface& copy, const Rect& part, bool isImage) {
+            drawBands(copy, part, isImage && look_.gridShown);
+        });
+        drawMirrorLines(surface, intersection(visible, image));
     }
     if (look_.selection)
         drawSelection(surface, visible);
+}
+
+Rect ViewRenderer::imageArea() const {
+    return {0, 0, canvas_.width() * look_.zoom, canvas_.height() * look_.zoom};
+}
+
+/// Calls `draw(surface, area, isImage)` for the image and each of its copies, as far as they are visible:
+/// with the surface from where the copy has the image's coordinates, the visible part of it, and whether it
+/// is the image itself.
+template <typename Draw>
+void ViewRenderer::forEachCopy(const Surface& surface, const Rect& visible, Draw draw) const {
+    const Rect image = imageArea();
+    const std::int32_t reach = look_.repeated ? 1 : 0;
+    for (std::int32_t row = -reach; row <= reach; ++row) {
+        for (std::int32_t column = -reach; column <= reach; ++column) {
+            const Point way{column * image.right, row * image.bottom};
+            const Rect area = intersection(image, {visible.left - way.x, visible.top - way.y,
+                                                   visible.right - way.x, visible.bottom - way.y});
+            if (isEmpty(area))
+                continue;
+            Surface copy = surface;
+            copy.originX -= way.x;
+            copy.originY -= way.y;
+            draw(copy, area, row == 0 && column == 0);
+        }
+    }
+}
+
+void ViewRenderer::drawBands(const Surface& surface, const Rect& area, bool gridShown) const {
+    const std::int32_t bandRows = (kBandRows + look_.zoom - 1) / look_.zoom * look_.zoom;
+    Rect band = area;
+    for (; band.top < area.bottom; band.top = band.bottom) {
+        // Bands end where texels do, so that no row is looked up twice.
+        band.bottom = std::min((band.top / bandRows + 1) * bandRows, area.bottom);
+        drawImage(surface, band);
+        if (gridShown)
+            drawGrid(surface, band);
+    }
 }
 
 void ViewRenderer::drawOutside(const Surface& surface, const Rect& visible, const Rect& image) const {
@@ -104,14 +140,48 @@ void ViewRenderer::drawGrid(const Surface& surface, const Rect& area) const {
     }
 }
 
+/// Dashes of two colours, one of which is seen on any image.
+void ViewRenderer::drawMirrorLines(const Surface& surface, const Rect& area) const {
+    const auto colourAt = [](std::int32_t along) {
+        return (along & kMirrorDash) == 0 ? kOpaque | kWhite : kOpaque;
+    };
+    const Rect image = imageArea();
+    const std::int32_t x = image.right / 2;
+    const std::int32_t y = image.bottom / 2;
+    if (look_.mirrorsAcross && area.left <= x && x < area.right) {
+        for (std::int32_t at = area.top; at < area.bottom; ++at)
+            *pixelAt(surface, x, at) = colourAt(at);
+    }
+    if (look_.mirrorsDown && area.top <= y && y < area.bottom) {
+        for (std::int32_t at = area.left; at < area.right; ++at)
+            *pixelAt(surface, at, y) = colourAt(at);
+    }
+}
+
+void ViewRenderer::drawFloating(const Surface& surface, const Rect& visible) const {
+    const SelectionLook& selection = *look_.selection;
+    const ViewGeometry geometry(look_.zoom, {canvas_.width(), canvas_.height()}, {}, {});
+    const TextureCanvas& piece = *selection.floating;
+    const auto drawAt = [&](Surface part, const Rect& texels) {
+        piece.Draw(part, geometry.logicalArea(texels), {0, 0, piece.width(), piece.height()});
+    };
+    drawAt(partOf(surface, visible), selection.texels);
+    if (!selection.floatingWraps)
+        return;
+    forEachCopy(surface, visible, [&](const Surface& copy, const Rect& area, bool) {
+        forEachWrapCopy(selection.texels, {canvas_.width(), canvas_.height()}, [&](Point way) {
+            const Rect& texels = selection.texels;
+            drawAt(partOf(copy, area),
+                   {texels.left + way.x, texels.top + way.y, texels.right + way.x, texels.bottom + way.y});
+        });
+    });
+}
+
 void ViewRenderer::drawSelection(const Surface& surface, const Rect& visible) const {
     const SelectionLook& selection = *look_.selection;
     const ViewGeometry geometry(look_.zoom, {canvas_.width(), canvas_.height()}, {}, {});
-    if (selection.floating != nullptr) {
-        Surface part = partOf(surface, visible);
-        selection.floating->Draw(part, geometry.logicalArea(selection.texels),
-                                 {0, 0, selection.floating->width(), selection.floating->height()});
-    }
+    if (selection.floating != nullptr)
+        drawFloating(surface, visible);
     const Rect frame = geometry.selectionFrame(selection.texels);
     SelectionTracker(frame, selection.trackerStyle).draw(surface, visible);
     const std::int32_t whiteRest = selection.antsPhase ? 1 : 0;

@@ -16,12 +16,17 @@ struct SelectionLook {
     const TextureCanvas* floating = nullptr; ///< Shown in place of the selected texels, scaled to them.
     std::uint32_t trackerStyle = 0;          ///< As in `SelectionTracker`.
     bool antsPhase = false;                  ///< Swaps black and white of the border.
+    bool floatingWraps = false; ///< What floats also shows where it comes in again from the other side.
 };
 
 /// How a view shows its image.
 struct ViewLook {
     std::int32_t zoom = 1;
     bool gridShown = true;
+    bool repeated = false; ///< Copies of the image surround it; all else shows in the middle alone.
+    // Lines over the middle column and row, where what is drawn is mirrored.
+    bool mirrorsAcross = false;
+    bool mirrorsDown = false;
     bool noPalette = false;          ///< The outside colour takes the place of all else.
     std::uint32_t outsideColour = 0; ///< 0xffRRGGBB, around the image.
     bool imageShown = true;          ///< Otherwise what the surface holds stays beneath the selection.
@@ -39,10 +44,16 @@ public:
     void draw(Surface& surface, const Rect& area) const;
 
 private:
+    template <typename Draw>
+    void forEachCopy(const Surface& surface, const Rect& visible, Draw draw) const;
+    [[nodiscard]] Rect imageArea() const;
     void drawOutside(const Surface& surface, const Rect& visible, const Rect& image) const;
+    void drawBands(const Surface& surface, const Rect& area, bool gridShown) const;
     void drawImage(const Surface& surface, const Rect& area) const;
     void drawGrid(const Surface& surface, const Rect& area) const;
+    void drawMirrorLines(const Surface& surface, const Rect& area) const;
     void drawSelection(const Surface& surface, const Rect& visible) const;
+    void drawFloating(const Surface& surface, const Rect& visible) const;
 
     const TextureCanvas& canvas_;
     ViewLook look_;

@@ -202,6 +202,9 @@ enum class StringId {
     PrintingProgress, ///< %1 page, %2 pages
 
     BarProject,
+    BarBrush,
+    BrushSize,
+    BrushSizeTip,
     ProjectBarAdd,
     ProjectBarChange,
     ProjectBarRemove,
@@ -212,6 +215,7 @@ enum class StringId {
     HelpToolBar,
     HelpViewBar,
     HelpDrawBar,
+    HelpBrushBar,
     HelpProjectBar,
     HelpPaletteBar,
     HelpMessagePane,

@@ -262,6 +262,10 @@ constexpr Row kRows[] = {
     Row{StringId::PrintingProgress, QT_TRANSLATE_NOOP("Text", "Printing page %1 of %2...")},
 
     Row{StringId::BarProject, QT_TRANSLATE_NOOP("Text", "Project")},
+    Row{StringId::BarBrush, QT_TRANSLATE_NOOP("Text", "Brush")},
+    Row{StringId::BrushSize, QT_TRANSLATE_NOOP("Text", "Brush size")},
+    Row{StringId::BrushSizeTip,
+        QT_TRANSLATE_NOOP("Text", "Texels from side to side of the brush, 1 to 16; [ and ] change it too")},
     Row{StringId::ProjectBarAdd, QT_TRANSLATE_NOOP("Text", "&Add")},
     Row{StringId::ProjectBarChange, QT_TRANSLATE_NOOP("Text", "&Change")},
     Row{StringId::ProjectBarRemove, QT_TRANSLATE_NOOP("Text", "&Remove")},
@@ -279,6 +283,11 @@ constexpr Row kRows[] = {
         QT_TRANSLATE_NOOP("Text",
                           "The drawing tools. The chosen one draws with the colour that is selected in the "
                           "palette bar. Drag the handle to move the bar to another side of the window.")},
+    Row{StringId::HelpBrushBar,
+        QT_TRANSLATE_NOOP(
+            "Text", "How the drawing tools draw: size and shape of the brush, mirrored on both sides of "
+                    "the middle, around the edges. Drag the handle to move the bar to another side of "
+                    "the window.")},
     Row{StringId::HelpProjectBar,
         QT_TRANSLATE_NOOP("Text", "The pictures of the open project. Choose one in the list; the button on "
                                   "the right opens it, the others change the list.")},

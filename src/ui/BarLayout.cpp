@@ -8,6 +8,7 @@
 #include <QCryptographicHash>
 #include <QMainWindow>
 #include <QStatusBar>
+#include <QToolBar>
 
 #include <optional>
 #include <string>
@@ -20,6 +21,7 @@ constexpr const char* kSection = "BarState";
 constexpr const char* kDockedEntry = "Docked";
 constexpr const char* kStatusBarEntry = "StatusBar"; // Which the state of the docked bars leaves out.
 constexpr const char* kPaletteBarEntry = "PaletteBar";
+constexpr const char* kBrushBarEntry = "BrushBar"; // Whether the state tells of it; older ones do not.
 
 /// Of the state of the docked bars: it grows with each change of the bars that makes older states useless.
 constexpr int kVersion = 1;
@@ -46,6 +48,7 @@ void saveBarLayout(QMainWindow& frame, CPaletteBar& paletteBar) {
     Profile& settings = platform().profile();
     const QByteArray state = frame.saveState(kVersion);
     settings.setText(kSection, kDockedEntry, (sealOf(state) + state).toBase64().toStdString());
+    settings.setInteger(kSection, kBrushBarEntry, 1);
     settings.setInteger(kSection, kStatusBarEntry, frame.statusBar()->isHidden() ? 0 : 1);
     WindowPlacement placement = windowPlacement(paletteBar);
     if (!paletteBar.isShown())
@@ -55,7 +58,11 @@ void saveBarLayout(QMainWindow& frame, CPaletteBar& paletteBar) {
 
 void restoreBarLayout(QMainWindow& frame, CPaletteBar& paletteBar) {
     const Profile& settings = platform().profile();
-    frame.restoreState(readDocked(), kVersion);
+    const bool restored = frame.restoreState(readDocked(), kVersion);
+    // A bar that the state does not tell of comes to the end of the last row, without room for its buttons.
+    auto* const brushBar = frame.findChild<QToolBar*>(QStringLiteral("ID_VIEW_BRUSHBAR"));
+    if (restored && brushBar != nullptr && settings.integer(kSection, kBrushBarEntry, 0) == 0)
+        frame.insertToolBarBreak(brushBar);
     frame.statusBar()->setVisible(settings.integer(kSection, kStatusBarEntry, 1) != 0);
     const std::optional<WindowPlacement> placement =
         parseWindowPlacement(settings.textOr(kSection, kPaletteBarEntry, ""));

@@ -1,4 +1,5 @@
 #include "framework/widgets/ChildFrame.h"
+#include "paint/DrawingOptions.h"
 #include "paint/widgets/ImageView.h"
 #include "platform/Platform.h"
 #include "plugin/HostFunctions.h"
@@ -124,6 +125,7 @@ void CDyeworksApp::readSettings() {
     if (!folder.empty())
         static_cast<void>(platform().files().setCurrentDirectory(folder));
     recentFiles_.load();
+    restoreDrawingOptions();
 }
 
 bool CDyeworksApp::registerControls() {

@@ -14,6 +14,7 @@
 #include "project/widgets/CTPFChildFrame.h"
 #include "project/widgets/ProjectTreeWidget.h"
 #include "ui/BarLayout.h"
+#include "ui/BrushBar.h"
 #include "ui/CProjectBar.h"
 #include "ui/CurrentProject.h"
 #include "ui/MainFrameHost.h"
@@ -90,6 +91,7 @@ CMainFrame::CMainFrame(MainFrameHost& host)
     makeToolBar("ID_VIEW_DRAWBAR", ID_VIEW_DRAWBAR, StringId::BarDraw, StringId::HelpDrawBar, drawBarItems());
     makePaletteBar();
     makeProjectBar();
+    makeBrushBar();
     actions_.addTo(*this);
     // An icon takes the place of the mark that says whether the bar is shown.
     for (const MenuItem& item : barsMenu())
@@ -136,6 +138,16 @@ void CMainFrame::makeProjectBar() {
     addToolBar(Qt::TopToolBarArea, projectBar_);
     addBar(ID_VIEW_PROJECTBAR, *projectBar_);
     on(IDC_PICTURE_BUTTON, &CMainFrame::OnPictureButton, &CMainFrame::OnUpdatePictureButton);
+}
+
+void CMainFrame::makeBrushBar() {
+    auto* bar = new BrushBar;
+    fillToolBar(*bar, brushBarItems(), actions_);
+    // In a row of its own, which is there only while the bar is.
+    addToolBarBreak(Qt::TopToolBarArea);
+    addToolBar(Qt::TopToolBarArea, bar);
+    addBar(ID_VIEW_BRUSHBAR, *bar);
+    bar->hide();
 }
 
 void CMainFrame::addBar(CommandId id, QWidget& bar) {

@@ -92,6 +92,7 @@ private:
                      std::span<const MenuItem> items);
     void makePaletteBar();
     void makeProjectBar();
+    void makeBrushBar();
     void restorePlacement();
     void savePlacement() const;
     /// What closing does before the window goes. False when the user cancels.

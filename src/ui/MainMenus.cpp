@@ -131,6 +131,7 @@ constexpr std::array kZoomMenu{
 constexpr std::array kBarsMenu{
     MenuItem{ID_VIEW_PALETTEBAR}, MenuItem{ID_VIEW_PROJECTBAR}, MenuItem{ID_VIEW_TOOLBAR},
     MenuItem{ID_VIEW_DRAWBAR},    MenuItem{ID_VIEW_VIEWBAR},    MenuItem{ID_VIEW_STATUS_BAR},
+    MenuItem{ID_VIEW_BRUSHBAR},
 };
 
 constexpr std::array kImageViewMenu{
@@ -144,6 +145,8 @@ constexpr std::array kImageViewMenu{
     MenuItem{ID_PREVIEW2},
     kSeparator,
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Bars"), kBarsMenu},
+    kSeparator,
+    MenuItem{ID_VIEW_REPEAT},
 };
 
 constexpr std::array kImageMenu{
@@ -165,6 +168,12 @@ constexpr std::array kImageMenu{
     MenuItem{ID_IMAGE_TO_8_BITS},
 };
 
+constexpr std::array kBrushMenu{
+    MenuItem{ID_BRUSH_SMALLER}, MenuItem{ID_BRUSH_LARGER}, kSeparator,
+    MenuItem{ID_BRUSH_SQUARE},  MenuItem{ID_BRUSH_ROUND},  kSeparator,
+    MenuItem{ID_MIRROR_ACROSS}, MenuItem{ID_MIRROR_DOWN},
+};
+
 constexpr std::array kDrawMenu{
     MenuItem{ID_TOOL_SELECT},
     MenuItem{ID_TOOL_ZOOM_LENS},
@@ -183,6 +192,9 @@ constexpr std::array kDrawMenu{
     MenuItem{ID_TOOL_REPLACER},
     kSeparator,
     MenuItem{ID_TOOL_SPUIT},
+    kSeparator,
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Brus&h"), kBrushMenu},
+    MenuItem{ID_DRAW_WRAP},
 };
 
 // Apart, because "Copy" and "Open" of a palette have the same letter.
@@ -340,6 +352,12 @@ constexpr std::array kDrawBar{
     MenuItem{ID_TOOL_SPUIT},
 };
 
+constexpr std::array kBrushBar{
+    MenuItem{ID_BRUSH_SQUARE},  MenuItem{ID_BRUSH_ROUND}, kSeparator,
+    MenuItem{ID_MIRROR_ACROSS}, MenuItem{ID_MIRROR_DOWN}, kSeparator,
+    MenuItem{ID_DRAW_WRAP},
+};
+
 } // namespace
 
 std::span<const MenuItem> mainMenu() {
@@ -380,6 +398,9 @@ std::span<const MenuItem> viewBarItems() {
 }
 std::span<const MenuItem> drawBarItems() {
     return kDrawBar;
+}
+std::span<const MenuItem> brushBarItems() {
+    return kBrushBar;
 }
 
 } // namespace dyeworks

@@ -27,5 +27,7 @@ std::span<const MenuItem> nodeMenu();
 std::span<const MenuItem> toolBarItems();
 std::span<const MenuItem> viewBarItems();
 std::span<const MenuItem> drawBarItems();
+/// After the size.
+std::span<const MenuItem> brushBarItems();
 
 } // namespace dyeworks

@@ -16,65 +16,8 @@ void PrintTo(const ToolCommand& tool, std::ostream* out) {
 namespace {
 
 constexpr const char* kPath = "c:\\a [b] * c.tmf";
-constexpr std::uint32_t kOutside = 0xFF808080;
+constexpr std::uint32_t kOutside = PaintingWindow::kOutside;
 constexpr CommandId kOfSelected[] = {ID_CANCEL_SELECTION, ID_FLIP_X, ID_FLIP_Y, ID_EDIT_COPY, ID_EDIT_CUT};
-
-/// A window that keeps what it shows and, like a desktop, paints only what it was asked to.
-class PaintingWindow : public FakeViewWindow {
-public:
-    void scrollTo(Point position) override {
-        FakeViewWindow::scrollTo(position);
-        invalidateAll();
-    }
-    void invalidate(const Rect& area) override {
-        const Rect inside = intersection(area, {0, 0, client.width, client.height});
-        for (std::int32_t y = inside.top; y < inside.bottom; ++y) {
-            for (std::int32_t x = inside.left; x < inside.right; ++x)
-                stale_[index(x, y)] = true;
-        }
-    }
-    void invalidateAll() override { stale_.assign(pixelCount(), true); }
-    void repaintNow() override {
-        if (view == nullptr || std::ranges::find(stale_, true) == stale_.end())
-            return;
-        const ImageSelection::RedrawRequest request = view->BeginPaint();
-        const Rect& limit = request.clientArea;
-        const auto ordinary = painted(0);
-        const auto limited = painted(request.bits | ImageSelection::kRedrawImage);
-        for (std::int32_t y = 0; y < client.height; ++y) {
-            for (std::int32_t x = 0; x < client.width; ++x) {
-                const bool inLimit = request.bits != 0 && x >= limit.left && x < limit.right &&
-                                     y >= limit.top && y < limit.bottom;
-                if (stale_[index(x, y)])
-                    shown[index(x, y)] = (inLimit ? limited : ordinary)[index(x, y)];
-            }
-        }
-        stale_.assign(pixelCount(), false);
-    }
-    /// What a paint of the whole window shows.
-    [[nodiscard]] std::vector<std::uint32_t> painted(std::uint32_t request) const {
-        return drawn(
-            [&](Surface& surface, const Rect& area) { view->Paint(surface, area, kOutside, request); });
-    }
-    /// The window's pixels after `draw`, which is given its logical area.
-    template <typename Draw>
-    [[nodiscard]] std::vector<std::uint32_t> drawn(Draw draw) const {
-        std::vector<std::uint32_t> pixels(pixelCount());
-        Surface surface{pixels.data(), client.width, client.height, client.width, scroll.x, scroll.y};
-        draw(surface, Rect{scroll.x, scroll.y, scroll.x + client.width, scroll.y + client.height});
-        return pixels;
-    }
-
-    std::vector<std::uint32_t> shown = std::vector<std::uint32_t>(pixelCount());
-
-private:
-    [[nodiscard]] std::size_t pixelCount() const { return index(0, client.height); }
-    [[nodiscard]] std::size_t index(std::int32_t x, std::int32_t y) const {
-        return static_cast<std::size_t>(y * client.width + x);
-    }
-
-    std::vector<bool> stale_ = std::vector<bool>(pixelCount(), true);
-};
 
 constexpr CommandId kCommands[] = {ID_EDIT_UNDO,  ID_EDIT_UNDO,        ID_EDIT_REDO,  ID_EDIT_SELECT_ALL,
                                    ID_TOOL_SPUIT, ID_CANCEL_SELECTION, ID_FLIP_X,     ID_FLIP_Y,

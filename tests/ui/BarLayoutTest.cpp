@@ -51,10 +51,12 @@ TEST_F(BarLayout, AtFirstTheBarsAreAtTheTopWithTheirButtonsAndThePaletteFloats) 
             EXPECT_EQ(button->icon().isNull(), button->isSeparator() || flat);
     }
     const std::unique_ptr<QMenu> menu(static_cast<QMainWindow&>(frame()).createPopupMenu());
-    EXPECT_EQ(menu->actions().size(), 6);
+    EXPECT_EQ(menu->actions().size(), 7);
     frame().commandActions().refresh();
     for (const QAction* item : menu->actions())
-        EXPECT_TRUE(item->isChecked() && !item->isIconVisibleInMenu()) << item->text().toStdString();
+        EXPECT_TRUE(item->isChecked() != (item == menu->actions().last()) && !item->isIconVisibleInMenu())
+            << item->text().toStdString();
+    EXPECT_TRUE(bar("ID_VIEW_BRUSHBAR").isHidden());
     EXPECT_TRUE(palette().isWindow());
     EXPECT_TRUE(palette().isVisible());
     EXPECT_EQ(palette().windowTitle(), "Palette");

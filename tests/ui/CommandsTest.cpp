@@ -20,7 +20,7 @@ const Ids kAlwaysEnabled{ID_PROJECT_NEW,      ID_PROJECT_OPEN,    ID_FILE_NEW,  
                          ID_APP_ABOUT,        ID_APP_EXIT,        ID_HELP_INDEX,   ID_HELP,
                          ID_CONTEXT_HELP,     ID_VIEW_PALETTEBAR, ID_VIEW_TOOLBAR, ID_VIEW_DRAWBAR,
                          ID_VIEW_PROJECTBAR,  ID_VIEW_STATUS_BAR, ID_VIEW_VIEWBAR, ID_FILE_IMPORT_BMP,
-                         ID_PALETTE_IMPORT};
+                         ID_PALETTE_IMPORT,   ID_VIEW_BRUSHBAR};
 
 /// Besides, with an unchanged project, in whose window the program is.
 const Ids kEnabledWithProject{
@@ -33,20 +33,22 @@ const Ids kEnabledWithPalette{ID_PALETTE_EDIT,    ID_PALETTE_CLOSE,  ID_PALETTE_
                               ID_PALETTE_SAVE_AS, ID_PALETTE_EXPORT, ID_RECENT_PALETTE_FIRST};
 
 /// Besides, with an unchanged image.
-const Ids kEnabledWithImage{// Its file and its windows.
-                            ID_FILE_CLOSE, ID_FILE_SAVE, ID_FILE_SAVE_AS, ID_FILE_PRINT, ID_FILE_PRINT_DIRECT,
-                            ID_FILE_PRINT_PREVIEW, ID_RECENT_IMAGE_FIRST, ID_WINDOW_NEW, ID_WINDOW_CASCADE,
-                            ID_WINDOW_TILE_HORZ, ID_WINDOW_TILE_VERT, ID_FILE_EXPORT_BMP,
-                            // How it is shown.
-                            ID_ZOOM_IN, ID_ZOOM_X1, ID_ZOOM_X2, ID_ZOOM_X3, ID_ZOOM_X4, ID_ZOOM_X6,
-                            ID_ZOOM_X8, ID_ZOOM_X12, ID_ZOOM_X16, ID_VIEW_GRID, ID_PREVIEW1, ID_PREVIEW2,
-                            // The image as a whole; it has 4 bits.
-                            ID_IMAGE_RESIZE, ID_IMAGE_SCALE, ID_IMAGE_SHIFT, ID_IMAGE_SHIFT_HALF,
-                            ID_IMAGE_TURN_LEFT, ID_IMAGE_TURN_RIGHT, ID_IMAGE_TURN_HALF, ID_IMAGE_TO_8_BITS,
-                            // Drawing.
-                            ID_TOOL_PIXEL, ID_TOOL_PEN, ID_TOOL_LINE, ID_TOOL_BOX, ID_TOOL_BOX_FILL,
-                            ID_TOOL_CIRCLE, ID_TOOL_CIRCLE_FILL, ID_TOOL_PAINT, ID_TOOL_SELECT,
-                            ID_TOOL_ZOOM_LENS, ID_TOOL_REPLACER, ID_TOOL_SPUIT, ID_EDIT_SELECT_ALL};
+const Ids kEnabledWithImage{
+    // Its file and its windows.
+    ID_FILE_CLOSE, ID_FILE_SAVE, ID_FILE_SAVE_AS, ID_FILE_PRINT, ID_FILE_PRINT_DIRECT, ID_FILE_PRINT_PREVIEW,
+    ID_RECENT_IMAGE_FIRST, ID_WINDOW_NEW, ID_WINDOW_CASCADE, ID_WINDOW_TILE_HORZ, ID_WINDOW_TILE_VERT,
+    ID_FILE_EXPORT_BMP,
+    // How it is shown.
+    ID_ZOOM_IN, ID_ZOOM_X1, ID_ZOOM_X2, ID_ZOOM_X3, ID_ZOOM_X4, ID_ZOOM_X6, ID_ZOOM_X8, ID_ZOOM_X12,
+    ID_ZOOM_X16, ID_VIEW_GRID, ID_PREVIEW1, ID_PREVIEW2, ID_VIEW_REPEAT,
+    // The image as a whole; it has 4 bits.
+    ID_IMAGE_RESIZE, ID_IMAGE_SCALE, ID_IMAGE_SHIFT, ID_IMAGE_SHIFT_HALF, ID_IMAGE_TURN_LEFT,
+    ID_IMAGE_TURN_RIGHT, ID_IMAGE_TURN_HALF, ID_IMAGE_TO_8_BITS,
+    // Drawing.
+    ID_TOOL_PIXEL, ID_TOOL_PEN, ID_TOOL_LINE, ID_TOOL_BOX, ID_TOOL_BOX_FILL, ID_TOOL_CIRCLE,
+    ID_TOOL_CIRCLE_FILL, ID_TOOL_PAINT, ID_TOOL_SELECT, ID_TOOL_ZOOM_LENS, ID_TOOL_REPLACER, ID_TOOL_SPUIT,
+    ID_EDIT_SELECT_ALL, ID_DRAW_WRAP, ID_BRUSH_LARGER, ID_BRUSH_SQUARE, ID_BRUSH_ROUND, ID_MIRROR_ACROSS,
+    ID_MIRROR_DOWN};
 
 /// What a menu shows of the table; in a list of files or plug-ins each command counts.
 Ids everyCommand() {

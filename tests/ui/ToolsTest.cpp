@@ -1,8 +1,11 @@
 #include "Program.h"
+#include "paint/DrawingOptions.h"
 
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QSpinBox>
 
+#include <algorithm>
 #include <tuple>
 
 namespace dyeworks {
@@ -118,6 +121,27 @@ TEST_F(Tools, LettersChooseToolsAndLeaveTheZoomKeysAlone) {
     run(ID_TOOL_ZOOM_LENS);
     moveMouse(at(8, 8), Qt::NoButton);
     EXPECT_EQ(view().viewport()->cursor().hotSpot(), QPoint(8, 8));
+}
+
+TEST_F(Tools, BrushIsMadeLargerByKeysAndByItsBarAndKept) {
+    QSpinBox& size = *frame().findChild<QSpinBox*>("IDC_BRUSH_SIZE");
+    run(ID_VIEW_BRUSHBAR);
+    key(Qt::Key_BracketRight);
+    key(Qt::Key_BracketRight);
+    EXPECT_EQ(size.value(), 3);
+    key(Qt::Key_BracketLeft);
+    QTest::keyClick(&size, Qt::Key_Up);
+    QTest::keyClicks(&size, "]");
+    EXPECT_EQ(size.value(), 3);
+    run(ID_MIRROR_ACROSS);
+    run(ID_TOOL_PIXEL);
+    QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, at(2, 2));
+    EXPECT_EQ(canvas(), texels(kSide, kSide, [](int x, int y) {
+                  const int fromEdge = std::min(x, kSide - 1 - x);
+                  return fromEdge >= 1 && fromEdge <= 3 && y >= 1 && y <= 3 ? 200 : groundAt(x, y);
+              }));
+    restoreDrawingOptions();
+    EXPECT_EQ(drawingOptions(), (DrawingOptions{{3, false}, true, false, false}));
 }
 
 TEST_F(Tools, LosingTheFocusOrTheReleaseTakesADragBack) {

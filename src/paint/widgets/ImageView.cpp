@@ -272,21 +272,23 @@ void ImageView::paintPart(QPainter& painter, const QRect& part, std::uint32_t re
     surface.originY = origin.y();
     view_.Paint(surface, {origin.x(), origin.y(), origin.x() + part.width(), origin.y() + part.height()},
                 palette().color(QPalette::Button).rgb(), redrawRequest);
+    view_.PaintBrush(surface);
     // Enlarged by the scale factor, texels keep their edges.
     painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
     painter.drawImage(part.topLeft(), picture);
 }
 
 void ImageView::scrollContentsBy(int dx, int dy) {
-    if (viewport()->underMouse())
-        view_.Scrolled();
     if (view_.showsNoPalette()) {
         // The words stay where they are in the window.
         viewport()->update();
-        return;
+    } else {
+        stale_.translate(dx, dy);
+        ScrollView::scrollContentsBy(dx, dy);
     }
-    stale_.translate(dx, dy);
-    ScrollView::scrollContentsBy(dx, dy);
+    // Then, so that what it asks to be repainted does not move along.
+    if (viewport()->underMouse())
+        view_.Scrolled();
 }
 
 void ImageView::resizeEvent(QResizeEvent* event) {
@@ -347,6 +349,12 @@ void ImageView::mouseReleaseEvent(QMouseEvent* event) {
 void ImageView::mouseDoubleClickEvent(QMouseEvent* event) {
     // Two quick clicks are two clicks: each of them draws.
     mousePressEvent(event);
+}
+
+bool ImageView::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::Leave)
+        view_.PointerLeft();
+    return ScrollView::viewportEvent(event);
 }
 
 void ImageView::contextMenuEvent(QContextMenuEvent* event) {
