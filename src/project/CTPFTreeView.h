@@ -27,6 +27,8 @@ public:
     /// Joins the document's views until it is destroyed. Both must outlive the view.
     CTPFTreeView(CTPFDocument& document, ProjectTreeWindow& window);
     ~CTPFTreeView() override;
+    CTPFTreeView(const CTPFTreeView&) = delete;
+    CTPFTreeView& operator=(const CTPFTreeView&) = delete;
 
     [[nodiscard]] CTPFDocument& document() const noexcept { return document_; }
     [[nodiscard]] ProjectTree& tree() noexcept { return tree_; }

@@ -271,7 +271,7 @@ std::string fileNameIn(const std::string& directories, const std::string& name) 
         return name;
     PathAbsolute(path);
     for (const std::string& folder : folders) {
-        const std::string relative = pathFrom(folder, path);
+        std::string relative = pathFrom(folder, path);
         if (isRooted(relative) || relative.starts_with(".."))
             continue;
         // Another file of this name may be in a folder before this one.
