@@ -200,15 +200,6 @@ TEST_F(ProjectFile, PicturesGoBehindTheNamedOneOrToTheHead) {
     EXPECT_EQ(names, file_.order);
 }
 
-TEST_F(ProjectFile, NamesInAFolderAreInTheProjectsWhateverTheCurrentOne) {
-    read("TMF_DIR = tex\n");
-    ASSERT_TRUE(fake_.files.setCurrentDirectory("c:\\program"));
-    PictureEntry entry{"sub/a.tmf", "..\\x\\a.tlf", 0};
-    file_.SetPicture("A", entry, std::nullopt);
-    EXPECT_EQ(entry.tmfFile, "sub\\a.tmf");
-    EXPECT_EQ(entry.tlfFile, "..\\x\\a.tlf");
-}
-
 TEST_F(ProjectFile, UnsavedChangesAreNotOverwritten) {
     read("PICT_NUM = 1\nPICT.0 = A,a\n");
     set("B");

@@ -134,9 +134,11 @@ TEST_F(TreeView, ShowsWhatACommandAddsBelowItsNode) {
 TEST_F(TreeView, SelectionFollowsItsPicture) {
     openPictures({"A", "B", "C"});
     show();
+    EXPECT_EQ(view_->dragData(), std::nullopt);
     select("\\project\\picture\\b");
     EXPECT_THAT(host_.take(), ElementsAre("update nodes", "select B"));
     const std::string dragged = view_->dragData().value();
+    EXPECT_FALSE(view_->Drop(nullptr, dragged, drop_effect::kMove));
     EXPECT_TRUE(view_->Drop(node("\\Project\\Picture"), dragged, drop_effect::kMove));
     EXPECT_THAT(pictures(), ElementsAre("B", "A", "C"));
     EXPECT_EQ(selected(), "\\Project\\Picture\\B");
@@ -152,21 +154,6 @@ TEST_F(TreeView, SelectionFollowsItsPicture) {
         EXPECT_TRUE(document_.RemovePicture(view_->tree().selected()->text));
         EXPECT_EQ(selected(), path);
     }
-}
-
-TEST_F(TreeView, NothingIsDraggedOrDroppedWithoutANode) {
-    openPictures({"A"});
-    show();
-    EXPECT_EQ(view_->dragData(), std::nullopt);
-    select("\\Project\\Picture");
-    EXPECT_EQ(view_->dragData(), std::nullopt);
-    select("\\Project\\Picture\\A");
-    const std::optional<std::string> dragged = view_->dragData();
-    EXPECT_EQ(dragged, "\\Project\\Picture\\A=A.tmf,A.tlf,0");
-    EXPECT_EQ(view_->DragOver(nullptr, dragged, 0), drop_effect::kNone);
-    EXPECT_FALSE(view_->Drop(nullptr, dragged, drop_effect::kMove));
-    EXPECT_EQ(view_->DragOver(node("\\Project\\Picture"), dragged, 0), drop_effect::kMove);
-    EXPECT_EQ(view_->DragOver(view_->tree().selected(), dragged, 0), drop_effect::kNone);
 }
 
 TEST_F(TreeView, RemembersItsPlaceAndWhatIsExpanded) {
