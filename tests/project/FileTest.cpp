@@ -232,12 +232,5 @@ TEST_F(ProjectFile, WritesNothingThatWouldBeReadOtherwise) {
     EXPECT_TRUE(CTPFFile::holdsPicture("A \xE8\xA1\xA8", {"sub\\a=b.tmf", "", 15}));
 }
 
-TEST_F(ProjectFile, JapaneseNamesStayInTheirCodePage) {
-    read("TMF_DIR = tex\nPICT_NUM = 1\nPICT.0 = \x95\x5C,\x95\x5C.tmf,a.tlf,0\n");
-    EXPECT_THAT(listed(), ElementsAre("\xE8\xA1\xA8,\xE8\xA1\xA8.tmf,a.tlf,0"));
-    EXPECT_EQ(written(), "TMF_DIR\t=\ttex\r\nPICT_NUM\t=\t1\r\nTPF_DIR\t=\tc:\\p\r\nTLF_DIR\t=\t\r\n"
-                         "PICT.0\t=\t\x95\x5C,\x95\x5C.tmf,a.tlf,0\r\n");
-}
-
 } // namespace
 } // namespace dyeworks

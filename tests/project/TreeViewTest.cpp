@@ -70,7 +70,8 @@ TEST_F(TreeView, BeginsWithTheProjectOpenAndItsPicturesInOrder) {
 TEST_F(TreeView, CommandsGoToThePicturesTheProjectOrThePlugIns) {
     openPictures({"A"});
     show();
-    view_->AddNode("Notes", 2, "\\Project", std::string());
+    for (const char* text : {"Notes", "pictures too"})
+        view_->AddNode(text, 2, "\\Project", std::string());
     const struct {
         const char* node;
         bool queries; ///< What the plug-ins answer.
@@ -91,6 +92,11 @@ TEST_F(TreeView, CommandsGoToThePicturesTheProjectOrThePlugIns) {
          {true, true, true, false},
          {"select A", "command 32807", "select A", "command 32809", "select A", "command 32808",
           "\\Project\\Picture\\A 3"}},
+        // By how its path begins, in any case, a node is one of the pictures.
+        {"\\Project\\pictures too",
+         false,
+         {true, true, true, false},
+         {"command 32807", "command 32809", "command 32808", "\\Project\\pictures too 3"}},
         {"\\Project\\Notes",
          true,
          {true, true, true, true},
