@@ -6,13 +6,10 @@
 
 #include <QAccessible>
 
-#include <algorithm>
 #include <fstream>
 
 namespace dyeworks {
 namespace {
-
-using testing::ElementsAre;
 
 /// Whether a file is part of this process at this moment.
 bool isMapped(const std::string& fileName) {
@@ -106,51 +103,6 @@ TEST_F(ControlTest, WrappersOfWhatIsNoControlAreEmpty) {
 TEST_F(ControlTest, AFileMakesNoClassKnownBeforeItIsRegistered) {
     QCoreApplication::instance()->setProperty("dyeworks.control.RampSlider", QVariant());
     EXPECT_FALSE(CRampSlider().exists());
-}
-
-TEST_F(ControlTest, WrappersReachTheMembersOfTheirNames) {
-    CSwatchGrid grid;
-    ASSERT_TRUE(grid.setCellCount(6));
-    grid.setCellLayout(3, 2);
-    EXPECT_EQ(grid.cellCount(), 6);
-    grid.setCellValue(5, 0xff123456U);
-    EXPECT_EQ(grid.cellValue(5), 0xff123456U);
-    EXPECT_TRUE(grid.setMarker(2, 4));
-    EXPECT_EQ(grid.marker(2), 4);
-    grid.setSelectable(1);
-    grid.setBankMode(true);
-    grid.resize(200, 150);
-    grid.show();
-    std::vector<std::string> heard;
-    QObject::connect(&grid, &CSwatchGrid::clicked, [&] { heard.push_back("click"); });
-    QObject::connect(&grid, &CSwatchGrid::doubleClicked, [&] { heard.push_back("double"); });
-    QObject::connect(&grid, &CSwatchGrid::rangeSelected, [&](int a, int b, int c, int d) {
-        heard.push_back(std::to_string(a * 1000 + b * 100 + c * 10 + d));
-    });
-    QObject::connect(&grid, &CSwatchGrid::cellsPasted,
-                     [&](int first, int last) { heard.push_back(std::to_string(first * 10 + last)); });
-    QWidget* const window = grid.controlWindow();
-    QTest::keyClick(window, Qt::Key_End, Qt::ControlModifier);
-    QTest::keyClick(window, Qt::Key_Left, Qt::ShiftModifier);
-    EXPECT_EQ(grid.clickedCell(), 5);
-    ASSERT_TRUE(grid.hasSelectedRange());
-    EXPECT_EQ(grid.selectedRange()->firstColumn, 1);
-    EXPECT_EQ(grid.selectedRange()->lastColumn, 2);
-    ASSERT_TRUE(grid.copySelected());
-    EXPECT_TRUE(grid.hasCopiedCells());
-    EXPECT_TRUE(grid.paste(1, 0));
-    EXPECT_EQ(grid.cellValue(2), 0xff123456U);
-    QTest::keyClick(window, Qt::Key_Return);
-    EXPECT_THAT(heard, ElementsAre("2121", "click", "1121", "22", "double"));
-
-    CRampSlider slider;
-    slider.setRange(0, 31);
-    slider.setValue(40);
-    EXPECT_EQ(slider.value(), 31);
-    int last = -1;
-    QObject::connect(&slider, &CRampSlider::valueChanged, [&](int value) { last = value; });
-    QTest::keyClick(slider.controlWindow(), Qt::Key_Home);
-    EXPECT_EQ(last, 0);
 }
 
 } // namespace

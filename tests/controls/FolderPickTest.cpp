@@ -1,5 +1,4 @@
 #include "ControlTest.h"
-#include "ui/controls/CFolderPick.h"
 
 #include <QApplication>
 #include <QDir>
@@ -52,21 +51,6 @@ TEST_F(FolderPickTest, StartsAtTheFolderThatExistsAndGivesTheChosenOne) {
         EXPECT_EQ(began_, host(c.begins));
         EXPECT_EQ(chosen, c.accept ? host("c:\\tex\\sky") : "untouched");
     }
-}
-
-TEST_F(FolderPickTest, TheWrapperSpeaksInPathsOfTheProgram) {
-    const std::unique_ptr<CFolderPick> pick = CFolderPick::create();
-    ASSERT_TRUE(pick);
-    pick->setFolder("c:\\tex\\sky");
-    answer(host("c:\\tex\\sky"), true);
-    std::string chosen;
-    ASSERT_TRUE(pick->choose(chosen));
-    EXPECT_EQ(began_, host("c:\\tex\\sky"));
-    EXPECT_EQ(chosen, fake_.files.fromHostPath(host("c:\\tex\\sky")));
-    pick->setFolder("d:\\nowhere");
-    answer({}, false);
-    EXPECT_FALSE(pick->choose(chosen));
-    EXPECT_EQ(began_, QDir::current().canonicalPath().toStdString());
 }
 
 } // namespace

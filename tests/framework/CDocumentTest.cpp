@@ -1,5 +1,4 @@
 #include "TestDocument.h"
-#include "framework/CommandRouter.h"
 
 using namespace dyeworks;
 using testing::ElementsAre;
@@ -46,17 +45,6 @@ TEST_F(CDocumentFile, SaveTakesMarksOutOfTheTitleAndAFailedOneLeavesIt) {
     document.saveSucceeds = true;
     EXPECT_TRUE(document.save());
     EXPECT_EQ(document.title(), "sky.tmf");
-}
-
-TEST(CDocument, SaveCommandUsesThePathAndSaveAsAlwaysAsks) {
-    const FakePlatform fake;
-    TestDocument document;
-    CommandRouter router([&] { return std::vector<CommandTarget*>{&document}; });
-    for (const CommandId id : {ID_FILE_SAVE, ID_FILE_SAVE, ID_FILE_SAVE_AS})
-        router.run(id);
-    EXPECT_THAT(document.saves, ElementsAre("", "c:\\tex\\chosen.tmf", ""))
-        << "without a path it asks as well";
-    EXPECT_EQ(document.title(), "chosen.tmf");
 }
 
 TEST(CDocument, TellsAllViewsButTheSenderOfAChange) {

@@ -129,17 +129,4 @@ TEST_F(MdiFrames, CaptionStaysWhileAnotherProgramComesToTheFront) {
     EXPECT_EQ(main.windowTitle(), QStringLiteral("Dyeworks - sky.tmf"));
 }
 
-TEST_F(MdiFrames, CommandsReachTheFrontWindowWhileAnotherWindowOfTheProgramIsActive) {
-    open("c:\\sea.tmf");
-    open("c:\\sky.tmf");
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&main));
-    ChildFrame* front = main.activeChild();
-    QWidget palette;
-    palette.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&palette));
-    EXPECT_EQ(main.activeChild(), front);
-    EXPECT_EQ(main.childFrames().front(), front);
-    EXPECT_EQ(main.commandTargets().at(1), front->document());
-}
-
 } // namespace

@@ -1,5 +1,6 @@
 #include "BmpFile.h"
 #include "CanvasTesting.h"
+#include "paint/BackgroundPicture.h"
 #include "paint/ViewGeometry.h"
 #include "platform/fake/FakePlatform.h"
 
@@ -146,6 +147,26 @@ TEST_F(CanvasBmp, DamagedFilesAreRefusedWithoutAMessage) {
     }
     EXPECT_FALSE(canvas_.LoadBmp("c:\\none.bmp"));
     EXPECT_THAT(fake_.messages.shown, IsEmpty());
+}
+
+// The other depths are seen with the eyes of ImageMagick.
+TEST_F(CanvasBmp, ABackgroundHasItsColoursOrIsNotThere) {
+    const struct {
+        BmpFile file;
+        std::vector<std::uint32_t> pixels;
+        const char* message = "";
+    } cases[] = {
+        {{.width = 2, .bits = 16, .colours = 0}, {0xFF088429, 0xFF100039, 0xFF008408, 0xFF080018}},
+        {{.width = 2, .coloursUsed = 6, .colours = 6}, {0xFF050505, 0xFF000000, 0xFF010101, 0xFF020202}},
+        {{.height = 3}, {}},
+        {{.compression = 1}, {}, "compressed format not supported.\n"},
+    };
+    EXPECT_TRUE(BackgroundPicture::read("c:\\picture.bmp").empty());
+    for (const auto& [file, pixels, message] : cases) {
+        fake_.files.putFile("c:\\picture.bmp", file.bytes());
+        EXPECT_EQ(BackgroundPicture::read("c:\\picture.bmp").pixels, pixels);
+        EXPECT_EQ(fake_.messages.lastText(), message);
+    }
 }
 
 TEST_F(CanvasBmp, TheLongestSideCanBeShownAtTheLargestZoom) {

@@ -14,6 +14,26 @@ TEST_F(DocFixture, AnInverseStepGoesTheOtherWay) {
     EXPECT_EQ(pixels(), after);
 }
 
+TEST_F(DocFixture, WhatWasDrawnPastTheHistoryStays) {
+    TextureCanvas& canvas = document.canvas();
+    const auto dropFill = [&] {
+        ASSERT_NE(document.BeginEdit(nullptr), nullptr);
+        canvas.FillBox(0, 0, 15, 11, 3);
+        document.DropEdit();
+    };
+    pixel(1, 1, 5);
+    canvas.PutPixel(8, 8, 7);
+    canvas.ResetChangedRect();
+    dropFill();
+    ASSERT_TRUE(document.Undo());
+    EXPECT_EQ(canvas.GetPixel(1, 1), 0U);
+    EXPECT_EQ(canvas.GetPixel(8, 8), 7U);
+    ASSERT_TRUE(canvas.CreateLike(canvas));
+    const auto blank = pixels();
+    dropFill();
+    EXPECT_EQ(pixels(), blank);
+}
+
 TEST_F(DocFixture, WithoutMemoryToUndoItAnEditIsAskedAboutFirst) {
     document.setPathName("c:\\a.tmf");
     document.setSnapshotFactory([](const auto&) { return nullptr; });

@@ -3,30 +3,9 @@
 namespace dyeworks {
 namespace {
 
-bool canAttach(CDyeworksDoc& document) {
-    return stateOf(document, ID_IMAGE_ATTACH).enabled;
-}
-
 void makeEntriesDistinct(TextureLookupTable& palette) {
     for (std::int32_t i = 0; i < palette.table.count; ++i)
         palette.table.setEntry(i, static_cast<std::uint16_t>((i % 32) << 11 | (i / 32) << 6 | 1));
-}
-
-TEST_F(DocFixture, AttachTakesTheCurrentPaletteOnce) {
-    EXPECT_FALSE(canAttach(document));
-    document.Attach();
-    EXPECT_EQ(document.attachedName(), "");
-
-    openPalette();
-    EXPECT_TRUE(canAttach(document));
-    document.runCommand(ID_IMAGE_ATTACH);
-    EXPECT_EQ(document.attachedName(), host.palettes.currentKey);
-    EXPECT_FALSE(canAttach(document));
-
-    const std::string first = document.attachedName();
-    openPalette();
-    EXPECT_TRUE(canAttach(document));
-    EXPECT_EQ(document.attachedName(), first);
 }
 
 TEST_F(DocFixture, ColoursComeFromTheBarForTheActiveImageAndElseFromItsOwnBank) {

@@ -1,4 +1,5 @@
 #include "CanvasTesting.h"
+#include "paint/BackgroundPicture.h"
 #include "platform/LittleEndian.h"
 #include "platform/fake/FakePlatform.h"
 
@@ -26,6 +27,15 @@ Colours coloursOf(const TextureCanvas& canvas) {
                 add(value >> 16U & 0xFFU, value >> 8U & 0xFFU, value & 0xFFU);
             }
         }
+    }
+    return colours;
+}
+
+Colours coloursOf(const BackgroundPicture& picture) {
+    Colours colours;
+    for (const std::uint32_t pixel : picture.pixels) {
+        for (const unsigned shift : {16U, 8U, 0U})
+            colours.push_back(static_cast<std::uint8_t>(pixel >> shift));
     }
     return colours;
 }
@@ -91,6 +101,7 @@ TEST_F(ImageMagick, SeesThePixelsAndColoursThatWeOpenAndSave) {
             EXPECT_EQ(canvas.bitsPerPixel(), bits);
             EXPECT_EQ(canvas.width(), 9);
             EXPECT_EQ(coloursOf(canvas), seen("a.bmp"));
+            EXPECT_EQ(coloursOf(BackgroundPicture::read(path("a.bmp"))), coloursOf(canvas));
             ASSERT_TRUE(canvas.SaveBmp(path("ours.bmp")));
             EXPECT_EQ(coloursOf(canvas), seen("ours.bmp"));
         }

@@ -101,7 +101,8 @@ struct ToolModel : WholeImages {
     }
     [[nodiscard]] Image selected() const {
         auto part = std::make_unique<TextureCanvas>();
-        if (part->Create(selection.right - selection.left + 1, selection.bottom - selection.top + 1, 1, 4)) {
+        if (part->Create(selection.right - selection.left + 1, selection.bottom - selection.top + 1, 1,
+                         image->bitsPerPixel())) {
             std::ranges::copy(image->colourTable(), part->colourTable().begin());
             for (std::int32_t y = 0; y < part->height(); ++y) {
                 for (std::int32_t x = 0; x < part->width(); ++x)
@@ -145,7 +146,7 @@ struct ToolModel : WholeImages {
         if (e.control && tool != Tool::Select && tool != Tool::ZoomLens)
             return pick(e.position);
         if (cell >= 0)
-            value = static_cast<std::uint32_t>(cell - firstEntry) & 15U;
+            value = static_cast<std::uint32_t>(cell - firstEntry) & ((1U << image->bitsPerPixel()) - 1);
         start = texel(e.position);
         dragging = tool != Tool::Paint && tool != Tool::Replacer;
         if (tool == Tool::Select)
@@ -324,12 +325,17 @@ struct ToolModel : WholeImages {
                         e.key == Key::Up     ? -1
                         : e.key == Key::Down ? 1
                                              : 0};
-        if (exists())
+        const bool moves = exists() && way != Point{};
+        if (moves)
             selection = {selection.left + (e.shift ? 0 : way.x), selection.top + (e.shift ? 0 : way.y),
                          selection.right + way.x, selection.bottom + way.y};
-        return zooms(e.key) || (exists() && way != Point{});
+        return zooms(e.key) || moves;
     }
 
+    void setImage(const TextureCanvas& other) {
+        cancel();
+        edit([&](TextureCanvas& c) { c.CopyFrom(other); });
+    }
     void save() {
         cancel();
         if (piece != nullptr)

@@ -30,6 +30,9 @@ constexpr Key kKeys[] = {Key::Escape, Key::Enter, Key::Left,    Key::Up,        
 class ToolScript : public DocFixture, public testing::WithParamInterface<ToolCommand> {
 protected:
     ToolScript() {
+        const std::uint16_t bits = static_cast<int>(GetParam().tool) % 2 == 0 ? 4 : 8;
+        // Of an odd width, so that rows of 4 bits end within a byte.
+        document.canvas().Create(15, 12, 1, bits);
         window.view = &view;
         openPalette(256);
         document.setPathName(kPath);
@@ -43,12 +46,13 @@ protected:
         setCurrentTool(Tool::Select);
         title_ = "a [b] * c.tmf [" + host.palettes.palettes.begin()->second->title + "]";
         model.image = document.canvas().Clone();
+        model.value = (1U << bits) - 1;
         model.client = window.client;
         model.firstEntry = host.firstEntry = 32;
         model.cell = host.cell = 41;
         // Wider than the image.
         model.clipboard = std::make_unique<TextureCanvas>();
-        EXPECT_TRUE(model.clipboard->Create(20, 3, 1, 4));
+        EXPECT_TRUE(model.clipboard->Create(20, 3, 1, bits));
         model.clipboard->FillEllipse(0, 0, 19, 2, 12);
         EXPECT_TRUE(model.clipboard->CopyToClipboard({0, 0, 19, 2}));
     }
@@ -82,7 +86,7 @@ protected:
         log_ << event.position.x << ' ' << event.position.y << ' ' << event.shift << event.control
              << event.alt << ' ';
         window.pointer = event.position;
-        const std::int32_t dice = below(102);
+        const std::int32_t dice = below(103);
         if (dice < 22) {
             log_ << "press";
             view.PointerPressed(event);
@@ -121,7 +125,14 @@ protected:
         } else if (dice < 99) {
             log_ << "colours";
             document.RefreshPalette();
-        } else if (dice < 100) {
+        } else if (dice < 101) {
+            log_ << "image";
+            TextureCanvas set;
+            EXPECT_TRUE(set.CreateLike(*model.image));
+            set.FillEllipse(below(16), below(12), below(16), below(12), 5);
+            model.setImage(set);
+            EXPECT_TRUE(document.SetImage(*set.ToImage()));
+        } else if (dice < 102) {
             log_ << "save";
             model.save();
             EXPECT_TRUE(document.save());

@@ -16,24 +16,6 @@ TEST_F(ViewFixture, ZoomCommandsAreAvailableUpToTheEnds) {
     EXPECT_EQ(stateOf(view, ID_ZOOM_X1).checked, false);
 }
 
-TEST_F(ViewFixture, KeysZoomAtThePointerAndKeepItsTexel) {
-    view.runCommand(ID_ZOOM_X4);
-    window.pointer = {20, 15};
-    window.scroll = {10, 6};
-    const auto under = [&] {
-        return Point{(window.pointer.x + window.scroll.x) / view.zoom(),
-                     (window.pointer.y + window.scroll.y) / view.zoom()};
-    };
-    const Point texel = under();
-    for (const Key key : {Key::I, Key::Numpad9, Key::I, Key::I, Key::O, Key::NumpadDivide}) {
-        view.KeyPressed({key});
-        EXPECT_EQ(under(), texel) << "at zoom " << view.zoom();
-    }
-    EXPECT_EQ(view.zoom(), 8);
-    view.KeyPressed({Key::I, 2});
-    EXPECT_EQ(view.zoom(), 8);
-}
-
 TEST_F(ViewFixture, PixelsThatAreColoursShowWithoutAPalette) {
     constexpr std::uint32_t kFace = 0xFF808080;
     const struct {

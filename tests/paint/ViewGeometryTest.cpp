@@ -32,29 +32,6 @@ TEST(ViewGeometry, ZoomsBetweenTheFactorsStayInRange) {
     EXPECT_EQ(ViewGeometry::holdZoom(17), 16);
 }
 
-TEST(ViewGeometry, MapsClientPointsToTexels) {
-    struct Case {
-        std::int32_t zoom;
-        Point scroll, client, texel;
-    };
-    for (const Case& c : {Case{3, {5, 0}, {10, 2}, {5, 0}}, Case{1, {0, 0}, {7, 9}, {7, 9}},
-                          Case{4, {0, 0}, {-3, -4}, {0, -1}}, Case{4, {8, 4}, {3, 4}, {2, 2}}}) {
-        const ViewGeometry geometry(c.zoom, {100, 100}, {50, 50}, c.scroll);
-        EXPECT_EQ(geometry.texelAt(c.client), c.texel) << c.client.x << ' ' << c.zoom;
-    }
-}
-
-TEST(ViewGeometry, ScrollStaysInTheContent) {
-    struct Case {
-        std::int32_t zoom;
-        Point wanted, allowed;
-    };
-    // The content is 40 by 20 at zoom 2 and 80 by 40 at zoom 4, the client area 30 by 25.
-    for (const Case& c : {Case{2, {99, 99}, {10, 0}}, Case{2, {-1, -1}, {0, 0}}, Case{4, {50, 15}, {50, 15}},
-                          Case{4, {51, 16}, {50, 15}}, Case{1, {5, 5}, {0, 0}}})
-        EXPECT_EQ(ViewGeometry(c.zoom, {20, 10}, {30, 25}, {}).clampedScroll(c.wanted), c.allowed);
-}
-
 TEST(ViewGeometry, DirectionThatFitsExactlyKeepsItsPositionWhenZoomed) {
     const ViewGeometry geometry(2, {20, 50}, {40, 30}, {3, 0});
     EXPECT_EQ(geometry.scrollToKeep({10, 20}, {4, 5}), (Point{3, 35}));

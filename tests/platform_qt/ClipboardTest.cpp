@@ -1,3 +1,4 @@
+#include "../paint/BmpFile.h"
 #include "Desktop.h"
 #include "platform/PackedDib.h"
 
@@ -25,33 +26,22 @@ QByteArray arrayOf(const Bytes& bytes) {
     return {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())};
 }
 
-void put(Bytes& bytes, std::size_t position, std::uint32_t value, std::size_t size = 4) {
-    for (std::size_t i = 0; i < size; ++i)
-        bytes[position + i] = static_cast<std::byte>(value >> 8 * i & 0xFFU);
-}
-
 /// One row of texels 1, 0 in `bits` each under a header of `headerSize` bytes, whose colour 1 is the
 /// blue-green-red 10, 20, 30.
 Bytes dibOf(std::uint32_t headerSize, std::uint32_t bits, std::uint32_t colours, std::uint32_t coloursUsed) {
-    const std::uint32_t entry = headerSize == 12 ? 3 : 4;
-    Bytes dib(headerSize + entry * colours + 4);
-    put(dib, 0, headerSize);
-    if (headerSize == 12) {
-        put(dib, 4, 2, 2);
-        put(dib, 6, 1, 2);
-        put(dib, 8, 1, 2);
-        put(dib, 10, bits, 2);
-    } else {
-        put(dib, 4, 2);
-        put(dib, 8, 1);
-        put(dib, 12, 1, 2);
-        put(dib, 14, bits, 2);
-        put(dib, 32, coloursUsed);
-    }
-    put(dib, headerSize + entry, 0x1E140A, 3);
-    const std::uint32_t texels = bits == 8 ? 0x0001 : bits == 4 ? 0x10 : 0x80;
-    put(dib, dib.size() - 4, texels);
-    return dib;
+    Bytes file = BmpFile{.headerSize = headerSize,
+                         .width = 2,
+                         .height = 1,
+                         .bits = static_cast<std::uint16_t>(bits),
+                         .coloursUsed = coloursUsed,
+                         .colours = colours,
+                         .rowBytes = 4}
+                     .bytes();
+    const std::uint8_t colour[] = {10, 20, 30};
+    std::ranges::copy(std::as_bytes(std::span(colour)),
+                      file.begin() + 14 + headerSize + (headerSize == 12 ? 3 : 4));
+    writeU32(file, file.size() - 4, bits == 8 ? 0x0001 : bits == 4 ? 0x10 : 0x80);
+    return {file.begin() + 14, file.end()};
 }
 
 /// Header size, bits, colours in the table, colours that the header names.
@@ -78,7 +68,7 @@ TEST(PackedDib, ComesOutOfAFileWithoutTheGapBeforeItsPixels) {
     const Bytes dib = dibOf(124, 8, 256, 0);
     Bytes bmp = bmpFromDib(dib).value();
     bmp.insert(bmp.end() - 4, 2, std::byte{0xEE});
-    put(bmp, 10, 14 + 124 + 1024 + 2);
+    writeU32(bmp, 10, 14 + 124 + 1024 + 2);
     EXPECT_EQ(dibFromBmp(bmp), dib);
 }
 
@@ -87,15 +77,16 @@ TEST(PackedDib, GetsTheColoursThatItsFileLeavesOut) {
     for (const std::uint32_t headerSize : {12U, 124U}) {
         const std::uint32_t entry = headerSize == 12 ? 3 : 4;
         const auto at = [&](std::uint32_t colours) { return 14 + headerSize + entry * colours; };
-        const Bytes whole = bmpFromDib(dibOf(headerSize, 4, 16, 0)).value();
+        Bytes whole = bmpFromDib(dibOf(headerSize, 4, 16, 0)).value();
+        std::fill(whole.begin() + at(5), whole.begin() + at(16), std::byte{});
         Bytes bmp = whole;
         bmp.erase(bmp.begin() + at(5) + 2, bmp.begin() + at(16));
-        put(bmp, at(5), 0xEEEE, 2);
-        put(bmp, 10, at(5) + 2);
+        writeU16(bmp, at(5), 0xEEEE);
+        writeU32(bmp, 10, at(5) + 2);
         EXPECT_EQ(dibFromBmp(bmp), Bytes(whole.begin() + 14, whole.end())) << headerSize;
     }
     Bytes damaged = bmpFromDib(dibOf(124, 8, 256, 0)).value();
-    put(damaged, 14 + 32, 0xFFFFFFFF);
+    writeU32(damaged, 14 + 32, 0xFFFFFFFF);
     EXPECT_EQ(dibFromBmp(damaged), std::nullopt);
 }
 
@@ -105,20 +96,20 @@ TEST(PackedDib, IsRefusedWhenCutOffOrOfNoKnownKind) {
         EXPECT_EQ(dibFromBmp(std::span(whole).first(size)), std::nullopt) << size;
     for (const std::uint32_t headerSize : {0U, 11U, 13U, 39U, 125U, 0xFFFFFFFFU}) {
         Bytes dib = dibOf(40, 8, 256, 0);
-        put(dib, 0, headerSize);
+        writeU32(dib, 0, headerSize);
         EXPECT_EQ(bmpFromDib(dib), std::nullopt) << headerSize;
     }
     Bytes colours = dibOf(40, 8, 256, 0);
-    put(colours, 32, 0xFFFFFFFF);
+    writeU32(colours, 32, 0xFFFFFFFF);
     EXPECT_EQ(bmpFromDib(colours), std::nullopt);
     Bytes compressed = whole;
-    put(compressed, 14 + 16, 3);
+    writeU32(compressed, 14 + 16, 3);
     EXPECT_EQ(dibFromBmp(compressed), std::nullopt);
 }
 
 TEST_F(ClipboardTest, HandsABitmapToOthersAndBackUnchanged) {
     Bytes dib = dibOf(40, 4, 16, 0);
-    put(dib, 24, 0xABCDEF);
+    writeU32(dib, 24, 0xABCDEF);
     ASSERT_TRUE(platform_.clipboard().setBitmap(dib));
     const QByteArray offered = QApplication::clipboard()->mimeData()->data(QStringLiteral("image/bmp"));
     EXPECT_EQ(bytesOf(offered.mid(14)), dib);
@@ -132,7 +123,7 @@ TEST_F(ClipboardTest, HandsABitmapToOthersAndBackUnchanged) {
 
 TEST_F(ClipboardTest, TakesThePictureOfAProgramThatOffersNoBmpOrACompressedOne) {
     Bytes compressed = bmpFromDib(dibOf(40, 8, 256, 0)).value();
-    put(compressed, 14 + 16, 3);
+    writeU32(compressed, 14 + 16, 3);
     QImage picture(2, 1, QImage::Format_Indexed8);
     picture.setColorTable(QList<QRgb>(200, qRgb(30, 20, 10)));
     picture.fill(150);

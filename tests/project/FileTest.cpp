@@ -200,15 +200,6 @@ TEST_F(ProjectFile, PicturesGoBehindTheNamedOneOrToTheHead) {
     EXPECT_EQ(names, file_.order);
 }
 
-TEST_F(ProjectFile, NamesInAFolderAreInTheProjectsWhateverTheCurrentOne) {
-    read("TMF_DIR = tex\n");
-    ASSERT_TRUE(fake_.files.setCurrentDirectory("c:\\program"));
-    PictureEntry entry{"sub/a.tmf", "..\\x\\a.tlf", 0};
-    file_.SetPicture("A", entry, std::nullopt);
-    EXPECT_EQ(entry.tmfFile, "sub\\a.tmf");
-    EXPECT_EQ(entry.tlfFile, "..\\x\\a.tlf");
-}
-
 TEST_F(ProjectFile, UnsavedChangesAreNotOverwritten) {
     read("PICT_NUM = 1\nPICT.0 = A,a\n");
     set("B");
@@ -239,13 +230,6 @@ TEST_F(ProjectFile, WritesNothingThatWouldBeReadOtherwise) {
             << field;
     }
     EXPECT_TRUE(CTPFFile::holdsPicture("A \xE8\xA1\xA8", {"sub\\a=b.tmf", "", 15}));
-}
-
-TEST_F(ProjectFile, JapaneseNamesStayInTheirCodePage) {
-    read("TMF_DIR = tex\nPICT_NUM = 1\nPICT.0 = \x95\x5C,\x95\x5C.tmf,a.tlf,0\n");
-    EXPECT_THAT(listed(), ElementsAre("\xE8\xA1\xA8,\xE8\xA1\xA8.tmf,a.tlf,0"));
-    EXPECT_EQ(written(), "TMF_DIR\t=\ttex\r\nPICT_NUM\t=\t1\r\nTPF_DIR\t=\tc:\\p\r\nTLF_DIR\t=\t\r\n"
-                         "PICT.0\t=\t\x95\x5C,\x95\x5C.tmf,a.tlf,0\r\n");
 }
 
 } // namespace

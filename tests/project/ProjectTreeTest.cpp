@@ -117,31 +117,6 @@ TEST_F(ProjectTrees, RenamesAndRemovesByIndexAndByPath) {
     EXPECT_EQ(shown(tree), "Project");
 }
 
-TEST_F(ProjectTrees, ClassifiesTheSelectedNode) {
-    tree.AddNode("pictures too", 1, "\\Project", std::string());
-    tree.AddNode("Notes", 1, "\\Project", std::string());
-    struct Case {
-        const char* path;
-        bool isProject;
-        bool isPicture;
-    };
-    for (const Case& each : std::initializer_list<Case>{{"\\Project", true, false},
-                                                        {"\\Project\\Picture", false, true},
-                                                        {"\\Project\\Picture\\A", false, true},
-                                                        {"\\Project\\pictures too", false, true},
-                                                        {"\\Project\\Notes", false, false},
-                                                        {"", false, false}}) {
-        tree.setSelected(tree.FindNode(each.path));
-        bool isProject = !each.isProject;
-        bool isPicture = !each.isPicture;
-        std::string path = "old";
-        tree.ClassifyNode(isProject, isPicture, path);
-        EXPECT_EQ(isProject, each.isProject) << each.path;
-        EXPECT_EQ(isPicture, each.isPicture) << each.path;
-        EXPECT_EQ(path, each.path);
-    }
-}
-
 TEST_F(ProjectTrees, RemovingANodeAboveTheSelectedOneLeavesNoneSelected) {
     tree.setSelected(tree.FindNode("\\Project\\Picture\\B"));
     EXPECT_TRUE(tree.RemoveNode("A", "\\Project\\Picture"));

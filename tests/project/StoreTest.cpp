@@ -160,15 +160,6 @@ TEST_F(Store, KeepsBytesOfNoEncoding) {
     EXPECT_EQ(saved(), "A\t=\t\x95\x5C\r\n\xEF\xBB\xBF\xFF\xFF\r\n");
 }
 
-TEST_F(Store, FailedFilesChangeNothing) {
-    load("A = 1\n");
-    EXPECT_FALSE(store_.LoadFile("c:\\none.tpf"));
-    fake_.files.failNextWrite(FileError::NoSpace);
-    EXPECT_FALSE(store_.SaveFile(kPath));
-    EXPECT_EQ(store_.LineCount(), 1U);
-    EXPECT_EQ(fake_.files.textOf(kPath), "A = 1\n");
-}
-
 TEST_F(Store, RefusesValuesThatAreTooLong) {
     const std::string longest = std::string(506, 'x') + "\xE8\xA1\xA8";
     EXPECT_EQ(store_.SetValue("A", longest), 1U);

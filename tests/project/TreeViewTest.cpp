@@ -70,7 +70,8 @@ TEST_F(TreeView, BeginsWithTheProjectOpenAndItsPicturesInOrder) {
 TEST_F(TreeView, CommandsGoToThePicturesTheProjectOrThePlugIns) {
     openPictures({"A"});
     show();
-    view_->AddNode("Notes", 2, "\\Project", std::string());
+    for (const char* text : {"Notes", "pictures too"})
+        view_->AddNode(text, 2, "\\Project", std::string());
     const struct {
         const char* node;
         bool queries; ///< What the plug-ins answer.
@@ -91,6 +92,11 @@ TEST_F(TreeView, CommandsGoToThePicturesTheProjectOrThePlugIns) {
          {true, true, true, false},
          {"select A", "command 32807", "select A", "command 32809", "select A", "command 32808",
           "\\Project\\Picture\\A 3"}},
+        // By how its path begins, in any case, a node is one of the pictures.
+        {"\\Project\\pictures too",
+         false,
+         {true, true, true, false},
+         {"command 32807", "command 32809", "command 32808", "\\Project\\pictures too 3"}},
         {"\\Project\\Notes",
          true,
          {true, true, true, true},
@@ -134,9 +140,11 @@ TEST_F(TreeView, ShowsWhatACommandAddsBelowItsNode) {
 TEST_F(TreeView, SelectionFollowsItsPicture) {
     openPictures({"A", "B", "C"});
     show();
+    EXPECT_EQ(view_->dragData(), std::nullopt);
     select("\\project\\picture\\b");
     EXPECT_THAT(host_.take(), ElementsAre("update nodes", "select B"));
     const std::string dragged = view_->dragData().value();
+    EXPECT_FALSE(view_->Drop(nullptr, dragged, drop_effect::kMove));
     EXPECT_TRUE(view_->Drop(node("\\Project\\Picture"), dragged, drop_effect::kMove));
     EXPECT_THAT(pictures(), ElementsAre("B", "A", "C"));
     EXPECT_EQ(selected(), "\\Project\\Picture\\B");
@@ -152,21 +160,6 @@ TEST_F(TreeView, SelectionFollowsItsPicture) {
         EXPECT_TRUE(document_.RemovePicture(view_->tree().selected()->text));
         EXPECT_EQ(selected(), path);
     }
-}
-
-TEST_F(TreeView, NothingIsDraggedOrDroppedWithoutANode) {
-    openPictures({"A"});
-    show();
-    EXPECT_EQ(view_->dragData(), std::nullopt);
-    select("\\Project\\Picture");
-    EXPECT_EQ(view_->dragData(), std::nullopt);
-    select("\\Project\\Picture\\A");
-    const std::optional<std::string> dragged = view_->dragData();
-    EXPECT_EQ(dragged, "\\Project\\Picture\\A=A.tmf,A.tlf,0");
-    EXPECT_EQ(view_->DragOver(nullptr, dragged, 0), drop_effect::kNone);
-    EXPECT_FALSE(view_->Drop(nullptr, dragged, drop_effect::kMove));
-    EXPECT_EQ(view_->DragOver(node("\\Project\\Picture"), dragged, 0), drop_effect::kMove);
-    EXPECT_EQ(view_->DragOver(view_->tree().selected(), dragged, 0), drop_effect::kNone);
 }
 
 TEST_F(TreeView, RemembersItsPlaceAndWhatIsExpanded) {

@@ -206,6 +206,8 @@ TEST_F(PaletteBarWindow, ABankIsChosenByCellSpinAndTyping) {
     QTest::keyClick(&spin, Qt::Key_Up);
     EXPECT_EQ(image().paletteValue(), 96);
     EXPECT_EQ(app_.imageHost().paletteBarCell(), 6 * 16 + 9);
+    frame().SetPaletteBarNumber(3);
+    EXPECT_EQ(seen(0), Rgb(24, 0, 0));
     type(IDC_PALETTE_NUMBER, "99");
     EXPECT_EQ(shown(IDC_PALETTE_NUMBER), "15");
     EXPECT_EQ(seen(0), Rgb(120, 0, 0));

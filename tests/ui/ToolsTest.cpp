@@ -164,21 +164,6 @@ TEST_F(Tools, LosingTheFocusOrTheReleaseTakesADragBack) {
 
 using Drawing = Program;
 
-TEST_F(Drawing, ABankOfTheFourBitImageShowsItsEntriesAndStoresLowBits) {
-    openAttached(texels(10, 6, [](int x, int) { return static_cast<unsigned>(x); }), 4, 256);
-    frame().SetPaletteBarNumber(3);
-    EXPECT_EQ(app_.imageHost().paletteBarFirstEntry(), 48);
-    const auto table = image().canvas().colourTable();
-    for (int i = 0; i < 16; ++i) {
-        std::uint8_t red = 0, green = 0, blue = 0, flags = 0;
-        ASSERT_TRUE(image().GetAttachedPalette()->toPaletteEntry(48 + i, red, green, blue, flags));
-        const std::size_t at = 4 * static_cast<std::size_t>(i);
-        EXPECT_THAT(table.subspan(at, 3), ElementsAre(blue, green, red)) << i;
-    }
-    drawPixel({2, 2}, 48 + 13);
-    EXPECT_EQ(canvas()[2][2], 13U);
-}
-
 TEST_F(Drawing, AHalfPixelOfAScaledDisplayBelongsToThePixelItLiesIn) {
     openBlank();
     ASSERT_TRUE(run(ID_TOOL_PIXEL));
