@@ -31,6 +31,8 @@ SourceFailure writePair(const SourcePair& pair, const QString& headerPath) {
     if (wasThere && !before.open(QIODevice::ReadOnly))
         return {headerPath, before.errorString()};
     const QByteArray old = wasThere ? before.readAll() : QByteArray();
+    if (before.error() != QFileDevice::NoError)
+        return {headerPath, before.errorString()};
     before.close();
     if (const QString reason = writeFile(headerPath, bytesOf(pair.header)); !reason.isEmpty())
         return {headerPath, reason};

@@ -3,6 +3,7 @@
 #include "interchange/Texture.h"
 
 #include <algorithm>
+#include <array>
 #include <unordered_set>
 #include <utility>
 
@@ -29,6 +30,17 @@ std::vector<Colour> coloursIn(const std::vector<Colour>& pixels) {
     return colours;
 }
 
+/// Of all the steps that a grey picture could hold those that it does, in the order in which they come.
+std::vector<Colour> usedOf(const Picture& picture) {
+    std::vector<Colour> colours;
+    std::array<bool, kMostColours> known{};
+    for (const std::uint8_t index : picture.indices) {
+        if (!std::exchange(known.at(index), true))
+            colours.push_back(picture.colours.at(index));
+    }
+    return colours;
+}
+
 } // namespace
 
 PaletteResult readPngPalette(std::span<const std::byte> file) {
@@ -37,7 +49,12 @@ PaletteResult readPngPalette(std::span<const std::byte> file) {
         return png.error();
     Picture& picture = png.value().picture;
     PaletteColours result;
-    result.colours = picture.isIndexed() ? std::move(picture.colours) : coloursIn(picture.pixels);
+    if (!picture.isIndexed())
+        result.colours = coloursIn(picture.pixels);
+    else if (png.value().isGrey)
+        result.colours = usedOf(picture);
+    else
+        result.colours = std::move(picture.colours);
     if (result.colours.size() > kMostColours)
         return InterchangeError{InterchangeError::Kind::TooManyColours, {}, std::int64_t{kMostColours}, 0};
     result.hasAlpha =
