@@ -3,8 +3,11 @@
 #include <QBuffer>
 #include <QImage>
 #include <QImageReader>
+#include <QtEndian>
 
 #include <algorithm>
+#include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <new>
 
@@ -23,6 +26,37 @@ PictureError errorOf(const QImageReader& reader) {
     if (reader.error() == QImageReader::UnsupportedFormatError)
         return {PictureError::Kind::UnknownFormat, {}, 0, 0};
     return {PictureError::Kind::Damaged, reader.errorString().toStdString(), 0, 0};
+}
+
+/// Whether the rows of a bitmap that has no shorter form for them reach beyond the end of the file.
+bool rowsAreCut(const QByteArray& bitmap) {
+    constexpr int kOldHeader = 12;
+    constexpr int kNewHeader = 40;
+    if (bitmap.size() < 14 + kNewHeader)
+        return false; // So small an old one has hardly a row.
+    const auto number = [&bitmap](int at) {
+        return qFromLittleEndian<std::int32_t>(bitmap.constData() + at);
+    };
+    const auto half = [&bitmap](int at) { return qFromLittleEndian<std::uint16_t>(bitmap.constData() + at); };
+    const bool old = number(14) == kOldHeader;
+    constexpr int kRle8 = 1;
+    constexpr int kRle4 = 2;
+    if (!old && (number(30) == kRle8 || number(30) == kRle4))
+        return false;
+    const std::int64_t width = old ? half(18) : number(18);
+    const std::int64_t height = old ? half(20) : number(22);
+    const std::int64_t rowBytes = (width * half(old ? 24 : 28) + 31) / 32 * 4;
+    return static_cast<std::uint32_t>(number(10)) + rowBytes * std::abs(height) > bitmap.size();
+}
+
+/// Of some formats Qt gives what there is of a file that was cut off.
+bool isCutOff(const QByteArray& format, const QByteArray& file) {
+    if (format == "bmp")
+        return rowsAreCut(file);
+    // Within the data behind a "start of scan" neither of the two markers can occur.
+    if (format == "jpeg")
+        return file.lastIndexOf("\xFF\xD9") < file.lastIndexOf("\xFF\xDA");
+    return false;
 }
 
 Colour colourOf(QRgb colour) {
@@ -86,11 +120,14 @@ Result<Picture, PictureError> QtPictureReader::read(std::span<const std::byte> f
     reader.setAutoTransform(true);
     if (const QSize size = reader.size(); size.isValid() && !isPictureSize(size.width(), size.height()))
         return tooLarge(size);
+    const QByteArray format = reader.format();
     const QImage image = reader.read();
     if (image.isNull())
         return errorOf(reader);
     if (!isPictureSize(image.width(), image.height()))
         return tooLarge(image.size());
+    if (isCutOff(format, bytes))
+        return PictureError{PictureError::Kind::Damaged, "the file ends too early", 0, 0};
     std::optional<Picture> picture = pictureOf(image);
     if (!picture)
         return PictureError{PictureError::Kind::NoMemory, {}, 0, 0};

@@ -1,0 +1,84 @@
+#include "platform/qt/QtPictureReader.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <gtest/gtest.h>
+
+#include <span>
+
+namespace dyeworks {
+
+namespace {
+
+QByteArray fileOf(const QImage& image, const char* format, int quality = -1) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    EXPECT_TRUE(buffer.open(QIODevice::WriteOnly));
+    EXPECT_TRUE(image.save(&buffer, format, quality)) << format;
+    return bytes;
+}
+
+Result<Picture, PictureError> read(const QByteArray& file) {
+    return QtPictureReader().read(
+        std::as_bytes(std::span(file.constData(), static_cast<std::size_t>(file.size()))));
+}
+
+} // namespace
+
+TEST(PictureReader, TablesKeepTheirOrderAndTwins) {
+    QImage image(7, 5, QImage::Format_Indexed8); // Rows with bytes to spare behind them.
+    image.setColorTable({qRgb(9, 8, 7), qRgb(255, 0, 0), qRgb(9, 8, 7), qRgb(0, 255, 0)});
+    for (int i = 0; i < 35; ++i)
+        image.setPixel(i % 7, i / 7, static_cast<uint>(i * i % 4));
+    const auto read = dyeworks::read(fileOf(image, "BMP"));
+    ASSERT_TRUE(read.ok());
+    const Picture& picture = read.value();
+    ASSERT_EQ(picture.indices.size(), 35U);
+    for (std::size_t i = 0; i < 35; ++i)
+        EXPECT_EQ(picture.indices[i], i * i % 4);
+    ASSERT_GE(picture.colours.size(), 4U);
+    EXPECT_EQ(picture.colours[0], picture.colours[2]);
+    EXPECT_EQ(picture.colours[1], (Colour{255, 0, 0}));
+}
+
+TEST(PictureReader, PhotosStandUpright) {
+    QImage image(14, 10, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    for (int y = 0; y < 10; ++y)
+        image.setPixel(0, y, qRgb(255, 255, 255));
+    QByteArray file = fileOf(image, "JPG", 100);
+    // Orientation 6: what the file has on the left belongs at the top.
+    const QByteArray exif("\xFF\xE1\x00\x22"
+                          "Exif\0\0MM\0*\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01\0\x06\0\0\0\0\0\0",
+                          36);
+    file.insert(2, exif);
+    const auto read = dyeworks::read(file);
+    ASSERT_TRUE(read.ok());
+    const Picture& picture = read.value();
+    EXPECT_FALSE(picture.isIndexed());
+    ASSERT_EQ(picture.width, 10);
+    ASSERT_EQ(picture.height, 14);
+    for (std::size_t x = 0; x < 10; ++x) {
+        EXPECT_GT(picture.pixels[x].green, 200);
+        EXPECT_LT(picture.pixels[13 * 10 + x].green, 50);
+    }
+}
+
+TEST(PictureReader, RefusesWhatItCannotTakeWhole) {
+    EXPECT_EQ(read("GIMP Palette\n").error().kind, PictureError::Kind::UnknownFormat);
+    QImage image(33, 9, QImage::Format_RGB32);
+    image.fill(Qt::blue);
+    for (const char* format : {"JPG", "BMP"}) {
+        const QByteArray whole = fileOf(image, format);
+        EXPECT_TRUE(read(whole).ok()) << format;
+        const auto cut = read(whole.first(whole.size() - 3));
+        EXPECT_TRUE(!cut.ok() && cut.error().kind == PictureError::Kind::Damaged) << format;
+    }
+    QByteArray file = fileOf(image, "BMP");
+    file[18 + 2] = '\x7F'; // The width's third byte.
+    const PictureError error = read(file).error();
+    EXPECT_EQ(error.kind, PictureError::Kind::TooLarge);
+    EXPECT_EQ(error.width, (0x7F << 16) + 33);
+}
+
+} // namespace dyeworks
