@@ -84,8 +84,9 @@ public:
     openForReading(const std::string& path) const = 0;
 
     /// Replaces the file by `pieces`, one after the other, in one step, or leaves it exactly as it was: the
-    /// bytes go to a temporary file beside it, are flushed to the disk and renamed over it. Permissions
-    /// survive, and a symbolic link keeps pointing at the replaced file. Nothing: written.
+    /// bytes go to a temporary file in its folder, are flushed to the disk and renamed over it. Permissions
+    /// survive, and a symbolic link keeps pointing at the replaced file. Temporary files in the folder whose
+    /// program was killed are taken away. Nothing: written.
     [[nodiscard]] virtual std::optional<FileError> writePieces(const std::string& path,
                                                                FilePieces pieces) = 0;
 

@@ -2,17 +2,23 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
+#include <cerrno>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
 
-int emptyWrites = 0; // So many calls of write answer that they wrote nothing.
+int emptyWrites = 0;          // So many calls of write answer that they wrote nothing.
+bool namesAreRefused = false; // A file without a name can be given none.
 
 } // namespace
 
@@ -22,6 +28,14 @@ extern "C" ssize_t write(int descriptor, const void* bytes, std::size_t size) {
         return 0;
     }
     return ::syscall(SYS_write, descriptor, bytes, size);
+}
+
+extern "C" int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) {
+    if (namesAreRefused) {
+        errno = EPERM;
+        return -1;
+    }
+    return static_cast<int>(::syscall(SYS_linkat, fromFolder, from, toFolder, to, flags));
 }
 
 namespace dyeworks {
@@ -109,6 +123,31 @@ TEST_F(PosixFilesWrite, TakesAWriteOfNothingForAFailure) {
     EXPECT_EQ(write("c:\\sky.tlf", "new"), FileError::Other);
     emptyWrites = 0;
     EXPECT_EQ(fake.files.textOf("c:\\sky.tlf"), "old");
+}
+
+TEST_F(PosixFilesWrite, AKilledSaveLeavesAWholeFileAndNothingBesideIt) {
+    const std::string texts[] = {std::string(300'000, 'a'), std::string(200'000, 'b')};
+    std::ofstream(host("sky.tlf")) << texts[0]; // The first save in the folder is that of a child.
+    std::mt19937 random(5);
+    std::size_t left = 0;
+    for (int kill = 0; kill < 60; ++kill) {
+        namesAreRefused = kill % 2 == 1;
+        const pid_t child = ::fork();
+        if (child == 0) {
+            for (std::size_t i = 0;; ++i)
+                (void)write("c:\\sky.tlf", texts[i % 2]);
+        }
+        ::usleep(static_cast<useconds_t>(500 + random() % 4000));
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+        const std::string text = fake.files.textOf("c:\\sky.tlf").value_or("");
+        EXPECT_TRUE(text == texts[0] || text == texts[1]) << text.size();
+        left = std::max(left, entryCount() - entriesBefore - 1);
+    }
+    EXPECT_GT(left, 0U) << "no save was killed at the moment that this is about";
+    EXPECT_EQ(write("c:\\sky.tlf", "new"), std::nullopt);
+    EXPECT_EQ(entryCount(), entriesBefore + 1);
+    namesAreRefused = false;
 }
 
 TEST_F(PosixFilesWrite, PutsANewFileInPlaceOfTheOldOne) {

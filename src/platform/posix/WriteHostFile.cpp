@@ -1,13 +1,11 @@
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/HostFile.h"
 #include "platform/posix/SignalShield.h"
+#include "platform/posix/TemporaryFile.h"
 
 #include <array>
-#include <atomic>
 #include <cerrno>
 #include <climits>
-#include <cstdio>
-#include <ctime>
 #include <fcntl.h>
 #include <string_view>
 #include <sys/stat.h>
@@ -26,7 +24,6 @@ using ErrorNumber = int;
 constexpr mode_t kNewFileMode = 0666; // Less what the user's mask takes.
 constexpr mode_t kPermissions = 0777;
 constexpr int kMaxLinks = 40;
-constexpr int kMaxNameAttempts = 100;
 
 std::string folderOf(const std::string& path) {
     return path.substr(0, path.rfind('/') + 1);
@@ -114,49 +111,6 @@ ErrorNumber keepPermissions(int descriptor, const std::string& path, const struc
     return ::fchmod(descriptor, old.st_mode & kPermissions) == 0 ? 0 : errno;
 }
 
-/// A file with a name of its own in `folder`, removed again unless it was put in the target's place.
-class TemporaryFile {
-public:
-    TemporaryFile(int folder, mode_t mode) noexcept
-        : folder_(folder) {
-        // Short, so that it fits wherever the target's own name does.
-        static std::atomic<unsigned> counter{0};
-        for (int attempt = 0; attempt < kMaxNameAttempts; ++attempt) {
-            timespec now{};
-            ::clock_gettime(CLOCK_REALTIME, &now);
-            std::snprintf(name_.data(), name_.size(), ".dyeworks-%lx-%lx-%x", static_cast<long>(::getpid()),
-                          now.tv_nsec, counter++);
-            file_ = Descriptor(
-                ::openat(folder, name_.data(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode));
-            if (file_.valid() || errno != EEXIST)
-                break;
-        }
-        error_ = file_.valid() ? 0 : errno;
-    }
-    ~TemporaryFile() {
-        if (error_ == 0 && !placed_)
-            (void)::unlinkat(folder_, name_.data(), 0);
-    }
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-
-    [[nodiscard]] ErrorNumber error() const noexcept { return error_; }
-    [[nodiscard]] int get() const noexcept { return file_.get(); }
-    [[nodiscard]] ErrorNumber close() noexcept { return file_.close(); }
-
-    [[nodiscard]] ErrorNumber place(const std::string& name) noexcept {
-        placed_ = ::renameat(folder_, name_.data(), folder_, name.c_str()) == 0;
-        return placed_ ? 0 : errno;
-    }
-
-private:
-    int folder_;
-    std::array<char, 64> name_{};
-    Descriptor file_;
-    ErrorNumber error_ = 0;
-    bool placed_ = false;
-};
-
 /// A folder that may be entered and written but not listed can still be worked in, though not flushed.
 Descriptor openFolder(const std::string& path) {
     Descriptor folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -165,14 +119,9 @@ Descriptor openFolder(const std::string& path) {
     return folder;
 }
 
-/// `old` is null for a file that does not exist.
-ErrorNumber replaceFile(const std::string& path, const struct stat* old, FilePieces pieces) {
-    const std::string folderName = folderOf(path);
-    const Descriptor folder = openFolder(folderName.empty() ? "." : folderName);
-    if (!folder.valid())
-        return errno;
-    // Nobody else may look into a copy of a file whose rights are not set yet.
-    TemporaryFile file(folder.get(), old != nullptr ? S_IRUSR | S_IWUSR : kNewFileMode);
+/// `old` is null for a file that does not exist. `nameRefused` tells that the file could not be given one.
+ErrorNumber replaceThrough(TemporaryFile& file, const std::string& path, const struct stat* old,
+                           FilePieces pieces, bool& nameRefused) {
     ErrorNumber error = file.error();
     if (error == 0 && old != nullptr)
         error = keepPermissions(file.get(), path, *old);
@@ -180,10 +129,33 @@ ErrorNumber replaceFile(const std::string& path, const struct stat* old, FilePie
         error = writeAll(file.get(), pieces);
     if (error == 0)
         error = flush(file.get());
+    if (error == 0) {
+        error = file.makeNamed();
+        nameRefused = error != 0;
+    }
     if (error == 0)
         error = file.close();
     if (error == 0)
         error = file.place(nameOf(path));
+    return error;
+}
+
+ErrorNumber replaceFile(const std::string& path, const struct stat* old, FilePieces pieces) {
+    const std::string folderName = folderOf(path);
+    const Descriptor folder = openFolder(folderName.empty() ? "." : folderName);
+    if (!folder.valid())
+        return errno;
+    removeAbandonedFiles(folder.get());
+    ErrorNumber error = 0;
+    bool nameRefused = false;
+    for (const auto name : {TemporaryFile::Name::None, TemporaryFile::Name::Hidden}) {
+        nameRefused = false;
+        // Nobody else may look into a copy of a file whose rights are not set yet.
+        TemporaryFile file(folder.get(), old != nullptr ? S_IRUSR | S_IWUSR : kNewFileMode, name);
+        error = replaceThrough(file, path, old, pieces, nameRefused);
+        if (!nameRefused)
+            break;
+    }
     if (error == 0) {
         // The file is in its place. A folder that cannot be flushed only makes that less lasting.
         (void)flush(folder.get());
