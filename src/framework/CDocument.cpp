@@ -8,8 +8,18 @@
 
 namespace dyeworks {
 
+namespace {
+
+std::uint64_t nextNumber() {
+    static std::uint64_t number = 0;
+    return ++number;
+}
+
+} // namespace
+
 CDocument::CDocument(DocumentTemplate* documentTemplate)
-    : template_(documentTemplate) {
+    : template_(documentTemplate)
+    , number_(nextNumber()) {
     on(ID_FILE_SAVE, &CDocument::OnFileSave);
     on(ID_FILE_SAVE_AS, &CDocument::OnFileSaveAs);
 }

@@ -31,6 +31,8 @@ public:
     virtual void setModified(bool modified);
     /// Another number after each change.
     [[nodiscard]] std::uint64_t changes() const noexcept { return changes_; }
+    /// That no other document of this run of the program has or had.
+    [[nodiscard]] std::uint64_t number() const noexcept { return number_; }
 
     [[nodiscard]] DocumentTemplate* documentTemplate() const noexcept { return template_; }
 
@@ -80,6 +82,7 @@ private:
     std::string pathName_;
     bool modified_ = false;
     std::uint64_t changes_ = 0;
+    std::uint64_t number_;
     std::vector<DocumentView*> views_;
     std::vector<DocumentTitleListener*> titleListeners_;
 };

@@ -42,6 +42,10 @@ public:
     [[nodiscard]] TextureCanvas& canvas() noexcept { return canvas_; }
     [[nodiscard]] const TextureCanvas& canvas() const noexcept { return canvas_; }
     [[nodiscard]] const EditHistory& edits() const noexcept { return edits_; }
+    /// The image without what an open edit has drawn so far.
+    [[nodiscard]] const TextureCanvas& settledCanvas() const noexcept {
+        return openEdit_ == nullptr ? canvas_ : *snapshot_.canvas();
+    }
 
     // Edits: all that changes the canvas. `viewer` is the one that causes it, or null.
     /// Opens an edit, which the document owns: it is drawn through, shown with `ShowEdit`, and ended with
@@ -135,6 +139,8 @@ public:
     /// Makes a document that is new one of these texels, which no file holds yet. False when there is no
     /// memory.
     [[nodiscard]] bool CreateFrom(const TmfImage& image);
+    /// The same of a bitmap's texels.
+    [[nodiscard]] bool CreateFrom(const BmpImage& bitmap);
     /// A bitmap's colours become a new palette.
     bool onOpenDocument(const std::string& path) override;
     bool onSaveDocument(const std::string& path) override;
@@ -178,6 +184,7 @@ private:
     [[nodiscard]] static bool goesWithoutUndo();
     void editedWithoutUndo(ImageViewer* viewer);
     void contentsAreSaved();
+    void contentsAreUnsaved();
 
     static constexpr std::int32_t kPreviews = 2;
     struct Preview {

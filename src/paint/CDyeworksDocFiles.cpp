@@ -52,13 +52,24 @@ bool CDyeworksDoc::CreateFrom(const TmfImage& image) {
         !canvas_.Create(image.width, image.height, 1, static_cast<std::uint16_t>(image.bits)))
         return false;
     canvas_.FromImage(image);
+    contentsAreUnsaved();
+    return true;
+}
+
+bool CDyeworksDoc::CreateFrom(const BmpImage& bitmap) {
+    if (!CDocument::onNewDocument() || !canvas_.CreateFrom(bitmap))
+        return false;
+    contentsAreUnsaved();
+    return true;
+}
+
+void CDyeworksDoc::contentsAreUnsaved() {
     snapshot_.forget();
     contentsAreSaved();
     // No step, and none that is undone, leads to what a file holds.
     edits_.loseSavedPosition();
     unrecorded_ = true;
     setModified(true);
-    return true;
 }
 
 bool CDyeworksDoc::onOpenDocument(const std::string& path) {

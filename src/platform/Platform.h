@@ -9,6 +9,7 @@
 #include "platform/PictureReader.h"
 #include "platform/Profile.h"
 #include "platform/Shell.h"
+#include "platform/StateFolder.h"
 #include "platform/Text.h"
 #include "platform/VersionInfo.h"
 #include "platform/WaitCursor.h"
@@ -30,6 +31,7 @@ public:
     virtual VersionInfo& versionInfo() = 0;
     virtual Locale& locale() = 0;
     virtual Shell& shell() = 0;
+    virtual StateFolder& stateFolder() = 0;
     virtual WaitCursor& waitCursor() = 0;
     virtual Texts& texts() = 0;
 };

@@ -73,7 +73,11 @@ bool CKeyValueStore::LoadFile(const std::string& path, std::optional<FileError>*
             *why = file.error();
         return false;
     }
-    const std::span<const std::byte> bytes = file.value().bytes();
+    LoadBytes(file.value().bytes());
+    return true;
+}
+
+void CKeyValueStore::LoadBytes(std::span<const std::byte> bytes) {
     std::string_view raw(reinterpret_cast<const char*>(bytes.data()), bytes.size());
     const bool utf8 = isUtf8(raw);
     byteOrderMark_ = utf8 && raw.starts_with(kByteOrderMark);
@@ -89,10 +93,14 @@ bool CKeyValueStore::LoadFile(const std::string& path, std::optional<FileError>*
             line.remove_suffix(1);
         AddLine(std::string(line));
     }
-    return true;
 }
 
 bool CKeyValueStore::SaveFile(const std::string& path) const {
+    const std::string text = FileText();
+    return !platform().files().write(path, std::as_bytes(std::span(text))).has_value();
+}
+
+std::string CKeyValueStore::FileText() const {
     std::string text;
     for (const StoreLine& line : lines_)
         text += lineText(line) + "\r\n";
@@ -103,7 +111,7 @@ bool CKeyValueStore::SaveFile(const std::string& path) const {
     } else if (byteOrderMark_) {
         text.insert(0, kByteOrderMark);
     }
-    return !platform().files().write(path, std::as_bytes(std::span(text))).has_value();
+    return text;
 }
 
 std::size_t CKeyValueStore::AddLine(const std::string& text) {

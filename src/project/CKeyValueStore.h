@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -47,9 +48,13 @@ public:
     /// Appends the file's lines. A file that is not UTF-8 is read in code page 932. False, changing nothing,
     /// when the file cannot be read, the reason then in `why`.
     bool LoadFile(const std::string& path, std::optional<FileError>* why = nullptr);
+    /// The same of a file's bytes.
+    void LoadBytes(std::span<const std::byte> bytes);
     /// Writes all lines in the encoding of the file that was loaded last, in UTF-8 when there was none or
     /// that cannot hold them. False when the file cannot be written; it then is as it was.
     bool SaveFile(const std::string& path) const;
+    /// The bytes of that file.
+    [[nodiscard]] std::string FileText() const;
 
     /// Appends the line, or puts an assignment in the place of the one of the same name. The result is the
     /// number of lines.

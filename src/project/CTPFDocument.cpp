@@ -118,6 +118,17 @@ bool CTPFDocument::onOpenDocument(const std::string& path) {
     return true;
 }
 
+bool CTPFDocument::Recover(const std::string& path, std::span<const std::byte> contents) {
+    if (!closeOther())
+        return false;
+    projectFile_.Restore(path, contents);
+    setPathName(path);
+    becomeOpen();
+    setModified(true);
+    host_.projectPlugIns().TPF_OnUpdate(plugInHandles_);
+    return true;
+}
+
 bool CTPFDocument::onSaveDocument(const std::string& path) {
     std::string target = path;
     if (target.empty()) {

@@ -38,6 +38,9 @@ public:
     /// Asks what the project is to be like and writes its file at once.
     bool onNewDocument() override;
     bool onOpenDocument(const std::string& path) override;
+    /// Opens what was kept of the file, as if it were its contents. False when the project that is open
+    /// stays.
+    bool Recover(const std::string& path, std::span<const std::byte> contents);
     /// Saved under another name, the project is that file's.
     bool onSaveDocument(const std::string& path) override;
     /// Asks about the project's changes, then closes the images and palettes of its pictures after a

@@ -145,6 +145,20 @@ bool CTPFFile::Read(const std::string& path, std::optional<FileError>* why) {
     pathName = path;
     if (pathName.empty() || !store->LoadFile(pathName, why))
         return false;
+    takeStore();
+    return true;
+}
+
+void CTPFFile::Restore(const std::string& path, std::span<const std::byte> bytes) {
+    store = std::make_unique<CKeyValueStore>();
+    pathName = path;
+    store->LoadBytes(bytes);
+    takeStore();
+    modified = true;
+}
+
+/// What the store of a file that was just read says.
+void CTPFFile::takeStore() {
     PathTitle(projectName, pathName);
     std::string name;
     PathSplitFolder(pathName, tpfDir, name);
@@ -152,7 +166,6 @@ bool CTPFFile::Read(const std::string& path, std::optional<FileError>* why) {
     readFolder(kTmfDir, tmfDir);
     readFolder(kTlfDir, tlfDir);
     readPictures();
-    return true;
 }
 
 void CTPFFile::readFolder(const char* entry, std::string& directory) const {
@@ -195,13 +208,8 @@ void CTPFFile::readPicture(const std::string& value) {
         order.push_back(fields[0]);
 }
 
-bool CTPFFile::Write(const std::string& path) {
-    if (store == nullptr)
-        return false;
-    pathName = path;
-    std::string name;
-    PathSplitFolder(pathName, tpfDir, name);
-    std::vector<std::pair<std::string, std::string>> values{
+std::optional<CTPFFile::Values> CTPFFile::values() const {
+    Values values{
         {kTpfDir, tpfDir}, {kTmfDir, relativeTo(tpfDir, tmfDir)}, {kTlfDir, relativeTo(tpfDir, tlfDir)}};
     std::int32_t count = 0;
     for (const std::string& picture : order) {
@@ -209,20 +217,40 @@ bool CTPFFile::Write(const std::string& path) {
             values.emplace_back(pictureKey(static_cast<std::size_t>(count++)),
                                 pictureValue(picture, found->second));
     }
+    values.emplace_back(kPictureCount, std::to_string(count));
     // The project's own folder is found out anew by every reading.
     const auto isHeld = [](const auto& value) {
         return value.first == kTpfDir || CKeyValueStore::holds(value.first, value.second);
     };
-    if (!std::ranges::all_of(values, isHeld))
+    return std::ranges::all_of(values, isHeld) ? std::optional(values) : std::nullopt;
+}
+
+bool CTPFFile::Write(const std::string& path) {
+    if (store == nullptr)
         return false;
-    for (const auto& [key, value] : values)
+    pathName = path;
+    std::string name;
+    PathSplitFolder(pathName, tpfDir, name);
+    const std::optional<Values> assignments = values();
+    if (!assignments)
+        return false;
+    for (const auto& [key, value] : *assignments)
         store->SetValue(key, value);
-    store->SetLongValue(kPictureCount, count);
     if (!store->SaveFile(pathName))
         return false;
     modified = false;
     PathTitle(projectName, pathName);
     return true;
+}
+
+std::optional<std::string> CTPFFile::fileText() const {
+    const std::optional<Values> assignments = values();
+    if (store == nullptr || !assignments)
+        return std::nullopt;
+    CKeyValueStore written = *store;
+    for (const auto& [key, value] : *assignments)
+        written.SetValue(key, value);
+    return written.FileText();
 }
 
 bool CTPFFile::SetPicture(const std::string& name, PictureEntry& entry,

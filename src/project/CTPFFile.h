@@ -3,10 +3,13 @@
 #include "project/CKeyValueStore.h"
 #include "project/PictureEntry.h"
 
+#include <cstddef>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace dyeworks {
@@ -26,6 +29,12 @@ public:
     /// Writes the project, which is then that file's. False when it has nothing to write, when an entry is
     /// too long to be read again, or when the file cannot be written.
     bool Write(const std::string& path);
+
+    /// What `Write` to its own path would put into the file; nothing where that would fail.
+    [[nodiscard]] std::optional<std::string> fileText() const;
+    /// Takes these bytes for those of the file of that name, which is not read and need not exist. They count
+    /// as unsaved.
+    void Restore(const std::string& path, std::span<const std::byte> bytes);
 
     /// Sets the folders that exist. Of others it tells the user, and returns false.
     bool SetDirectories(const std::string& tpfFolder, const std::string& tmfFolder,
@@ -59,6 +68,10 @@ public:
     bool modified = false;
 
 private:
+    /// The assignments that stand for folders and pictures; nothing when one is too long to be read again.
+    using Values = std::vector<std::pair<std::string, std::string>>;
+    [[nodiscard]] std::optional<Values> values() const;
+    void takeStore();
     void takeFolder(const char* entry, const std::string& folder, std::string& directory,
                     std::string& errors);
     void readFolder(const char* entry, std::string& directory) const;

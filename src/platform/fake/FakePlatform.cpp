@@ -17,6 +17,7 @@ public:
     VersionInfo& versionInfo() override { return fakes_.versionInfo; }
     Locale& locale() override { return fakes_.locale; }
     Shell& shell() override { return fakes_.shell; }
+    StateFolder& stateFolder() override { return fakes_.stateFolder; }
     WaitCursor& waitCursor() override { return fakes_.waitCursor; }
     Texts& texts() override { return fakes_.texts; }
 

@@ -13,6 +13,7 @@
 #include "platform/fake/FakeTexts.h"
 #include "platform/fake/FakeVersionInfo.h"
 #include "platform/fake/FakeWaitCursor.h"
+#include "platform/posix/PosixStateFolder.h"
 
 #include <memory>
 
@@ -43,6 +44,8 @@ public:
     FakeVersionInfo versionInfo;
     FakeLocale locale;
     FakeShell shell;
+    /// In a folder beside the drives.
+    PosixStateFolder stateFolder{files.hostFolder() + "/state"};
     FakeWaitCursor waitCursor;
     FakeTexts texts;
 

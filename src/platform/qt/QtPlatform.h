@@ -4,6 +4,7 @@
 #include "platform/posix/PosixFiles.h"
 #include "platform/posix/PosixLibrary.h"
 #include "platform/posix/PosixLocale.h"
+#include "platform/posix/PosixStateFolder.h"
 #include "platform/posix/PosixVersionInfo.h"
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFileDialogs.h"
@@ -41,6 +42,7 @@ public:
     VersionInfo& versionInfo() override { return versionInfo_; }
     Locale& locale() override { return locale_; }
     Shell& shell() override { return shell_; }
+    StateFolder& stateFolder() override { return stateFolder_; }
     WaitCursor& waitCursor() override { return waitCursor_; }
     Texts& texts() override { return texts_; }
 
@@ -56,6 +58,7 @@ private:
     PosixVersionInfo versionInfo_;
     PosixLocale locale_;
     QtShell shell_;
+    PosixStateFolder stateFolder_{PosixStateFolder::usersBase()};
     QtWaitCursor waitCursor_;
     QtTexts texts_;
 };
