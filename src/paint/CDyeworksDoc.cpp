@@ -33,6 +33,7 @@ CDyeworksDoc::~CDyeworksDoc() {
     openEdit_.reset();
     if (host_.lastActivatedImage() == this)
         host_.setLastActivatedImage(nullptr);
+    host_.imageClosed();
 }
 
 TextureLookupTable* CDyeworksDoc::GetAttachedPalette() const {
@@ -69,6 +70,7 @@ void CDyeworksDoc::refreshPalette(bool ofAnyPalette) {
             takeColours(*set->lookup(attachedName_));
         UpdateTitle();
     }
+    host_.imageChanged(*this, std::nullopt);
     updateAllViews(nullptr, kHintColours);
     RefreshPreviews();
     canvas_.ResetChangedRect();
@@ -79,6 +81,7 @@ void CDyeworksDoc::PaletteChanged(const std::string& name, const TextureLookupTa
         return;
     if (!attachedName_.empty() && equalIgnoringCase(name, attachedName_))
         takeColours(*palette);
+    host_.imageChanged(*this, std::nullopt);
     updateAllViews(nullptr, kHintColours);
     RefreshPreviews();
     canvas_.ResetChangedRect();

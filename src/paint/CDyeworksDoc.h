@@ -8,6 +8,7 @@
 #include "paint/ImageUndoRecord.h"
 #include "paint/ImageViewer.h"
 #include "paint/Rect.h"
+#include "paint/TexelCounts.h"
 #include "paint/TextureCanvas.h"
 #include "platform/DisplayPalette.h"
 
@@ -97,6 +98,10 @@ public:
 
     bool Undo();
     bool Redo();
+
+    /// How many texels of the image have each value, without what an open edit has drawn so far. They are
+    /// counted at the first call; from then on the counts follow each edit at the cost of what it changes.
+    [[nodiscard]] const TexelCounts::Values& texelCounts();
     void ClearUndo() { edits_.restart(); }
     /// Replaces what copies the canvas as it is before an edit; null when it cannot. It is
     /// `TextureCanvas::Clone`.
@@ -129,6 +134,9 @@ public:
     /// this image.
     [[nodiscard]] std::int32_t paletteValue() const noexcept { return paletteValue_; }
     void setPaletteValue(std::int32_t value) noexcept { paletteValue_ = value; }
+
+    /// Entry of `palette`, the attached one or a copy of it, that the value 0 shows.
+    [[nodiscard]] std::int32_t firstEntryFor(const TextureLookupTable& palette) const;
 
     // Plug-ins, by their numbers in the lists of `ImagePlugIns`.
     /// The image has become the active one: the previews that are on for it show it, the others are off.
@@ -177,7 +185,8 @@ private:
 
     void showDrawn(ImageViewer* viewer) override;
     void showTakenBack(ImageViewer* viewer) override;
-    bool recordStep(const TextureCanvas& before, const Rect& changed) override;
+    bool recordStep(const TextureCanvas& before, const Rect& changed, const TouchedTiles& touched) override;
+    void tellTexelsChanged();
     void showEverywhere(ImageViewer* viewer);
     [[nodiscard]] bool openEdit(ImageViewer* viewer);
     void endOpenEdit();
@@ -207,7 +216,6 @@ private:
     void showReplaced(Point moved);
     void refreshPalette(bool ofAnyPalette);
     void takeColours(const TextureLookupTable& palette);
-    [[nodiscard]] std::int32_t firstEntryFor(const TextureLookupTable& palette) const;
     [[nodiscard]] const std::string& nameWithoutParts() const;
     [[nodiscard]] TlutData* attachedTable() const;
     [[nodiscard]] std::int32_t firstEntryForPlugIns() const;
@@ -235,6 +243,7 @@ private:
     ImageHost& host_;
     TextureCanvas canvas_;
     CanvasSnapshot snapshot_;
+    TexelCounts counts_;
     EditHistory edits_{MessageIcon::Warning};
     RecordFactory makeRecord_;
     std::unique_ptr<ImageEdit> openEdit_;

@@ -8,6 +8,22 @@
 
 namespace dyeworks {
 
+namespace {
+
+/// The texels (inclusive) that undoing or redoing a step changes; nothing when that cannot be told.
+std::optional<Rect> texelsOf(const UndoRecord* record, const TextureCanvas& canvas) {
+    const auto* const edit = dynamic_cast<const ImageUndoRecord*>(record);
+    if (edit == nullptr || edit->before == nullptr)
+        return std::nullopt;
+    // A piece that a plug-in's change of size has left outside changes nothing.
+    const Rect texels = intersection({edit->left, edit->top, edit->left + edit->before->width() - 1,
+                                      edit->top + edit->before->height() - 1},
+                                     {0, 0, canvas.width() - 1, canvas.height() - 1});
+    return texels.left > texels.right || texels.top > texels.bottom ? std::nullopt : std::optional(texels);
+}
+
+} // namespace
+
 bool CDyeworksDoc::openEdit(ImageViewer* viewer) {
     endOpenEdit();
     if (!snapshot_.take(canvas_))
@@ -51,6 +67,7 @@ bool CDyeworksDoc::goesWithoutUndo() {
 
 void CDyeworksDoc::editedWithoutUndo(ImageViewer* viewer) {
     if (canvas_.changedRect()) {
+        counts_.forget();
         historyMoved_ = unrecorded_ = true;
         edits_.loseSavedPosition();
     }
@@ -70,9 +87,21 @@ bool CDyeworksDoc::SetImage(const TmfImage& image) {
     return true;
 }
 
+const TexelCounts::Values& CDyeworksDoc::texelCounts() {
+    if (!counts_.known())
+        counts_.count(openEdit_ == nullptr ? canvas_ : *snapshot_.canvas());
+    return counts_.values();
+}
+
+void CDyeworksDoc::tellTexelsChanged() {
+    if (canvas_.changedRect())
+        host_.imageChanged(*this, canvas_.changedRect());
+}
+
 void CDyeworksDoc::showDrawn(ImageViewer* viewer) {
     if (viewer != nullptr)
         viewer->InvalidateChanged();
+    tellTexelsChanged();
     canvas_.ResetChangedRect();
     RefreshPreviews();
 }
@@ -80,12 +109,14 @@ void CDyeworksDoc::showDrawn(ImageViewer* viewer) {
 void CDyeworksDoc::showTakenBack(ImageViewer* viewer) {
     if (viewer != nullptr)
         viewer->InvalidateChanged();
+    tellTexelsChanged();
     updateAllViews(viewer, kHintPixels);
     canvas_.ResetChangedRect();
 }
 
-bool CDyeworksDoc::recordStep(const TextureCanvas& before, const Rect& changed) {
+bool CDyeworksDoc::recordStep(const TextureCanvas& before, const Rect& changed, const TouchedTiles& touched) {
     historyMoved_ = true;
+    counts_.change(before, canvas_, changed, touched);
     const bool recorded = edits_.add(makeRecord_(before, canvas_, changed));
     unrecorded_ = unrecorded_ || !recorded;
     return recorded;
@@ -96,6 +127,7 @@ void CDyeworksDoc::showEverywhere(ImageViewer* viewer) {
     if (viewer != nullptr)
         viewer->InvalidateChanged();
     followHistory();
+    tellTexelsChanged();
     updateAllViews(viewer, kHintPixels);
     RefreshPreviews();
     canvas_.ResetChangedRect();
@@ -122,8 +154,15 @@ bool CDyeworksDoc::Redo() {
 
 bool CDyeworksDoc::step(bool (EditHistory::*move)(void*), const UndoRecord* record) {
     const auto* const whole = dynamic_cast<const WholeImageRecord*>(record);
+    const std::optional<Rect> texels = texelsOf(record, canvas_);
+    if (texels)
+        counts_.leave(canvas_, *texels);
+    else
+        counts_.forget();
     if (!(edits_.*move)(&canvas_))
         return false;
+    if (texels)
+        counts_.enter(canvas_, *texels);
     historyMoved_ = true;
     if (whole != nullptr)
         showReplaced(whole->moved());
@@ -162,6 +201,7 @@ bool CDyeworksDoc::ReplaceImage(const CanvasMaker& make, const Replacing& how) {
 /// that floats stays where it is.
 void CDyeworksDoc::showReplaced(Point moved) {
     snapshot_.forget();
+    counts_.forget();
     forEachViewer([](ImageViewer& viewer) {
         if (!viewer.hasFloatingPiece())
             viewer.DropSelection();
@@ -172,6 +212,7 @@ void CDyeworksDoc::showReplaced(Point moved) {
     if (const TextureLookupTable* const palette = GetAttachedPalette())
         takeColours(*palette);
     forEachViewer([moved](ImageViewer& viewer) { viewer.SizeChanged(moved); });
+    host_.imageChanged(*this, Rect{0, 0, canvas_.width() - 1, canvas_.height() - 1});
     RefreshOwnPalette();
 }
 
@@ -193,6 +234,7 @@ void CDyeworksDoc::takeBackDrags() {
 /// The image is another one, which is what its file holds.
 void CDyeworksDoc::contentsAreSaved() {
     edits_.restartSaved();
+    counts_.forget();
     unrecorded_ = false;
 }
 

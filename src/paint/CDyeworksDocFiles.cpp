@@ -160,6 +160,7 @@ void CDyeworksDoc::Revert() {
     contentsAreSaved();
     historyMoved_ = false;
     setModified(false);
+    host_.imageChanged(*this, Rect{0, 0, canvas_.width() - 1, canvas_.height() - 1});
     RefreshPalette();
 }
 

@@ -111,6 +111,8 @@ public:
     /// Held to 1 to 16.
     void SetZoom(std::int32_t zoom);
     void ToggleGrid();
+    /// Lets the texels of a value stand out from now on, without touching them; nothing: all look as always.
+    void StandOut(std::optional<std::uint32_t> value);
     /// The image stays where it is as far as the window lets it.
     void ToggleRepeat();
 
@@ -213,6 +215,7 @@ private:
     /// The image's size when the window was last laid out for it.
     Size shownSize_{1, 1};
     bool initialised_ = false;
+    std::optional<std::uint32_t> standingOut_;
     bool noPaletteShown_ = false; ///< What the window shows is the words in place of the image.
     /// Where the window was scrolled to when its file was last open. Until the first paint the window takes
     /// on its size by and by, and a size that is passed through must not cut the position.

@@ -26,6 +26,7 @@ void CDyeworksView::Paint(Surface& surface, const Rect& contentArea, std::uint32
     look.zoom = zoom_;
     look.gridShown = gridShown_;
     look.repeated = repeated_;
+    look.standingOut = standingOut_;
     look.mirrorsAcross = drawingOptions().mirrorAcross;
     look.mirrorsDown = drawingOptions().mirrorDown;
     look.noPalette = showsNoPalette();
@@ -39,6 +40,11 @@ void CDyeworksView::Paint(Surface& surface, const Rect& contentArea, std::uint32
     ViewRenderer(document_.canvas(), look)
         .draw(logical, {contentArea.left - origin.x, contentArea.top - origin.y, contentArea.right - origin.x,
                         contentArea.bottom - origin.y});
+}
+
+void CDyeworksView::StandOut(std::optional<std::uint32_t> value) {
+    if (std::exchange(standingOut_, value) != value)
+        window_.invalidateAll();
 }
 
 void CDyeworksView::Tick() {

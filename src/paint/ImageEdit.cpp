@@ -9,7 +9,8 @@ ImageEdit::ImageEdit(ImageEditHost& host, TextureCanvas& canvas, const CanvasSna
     : host_(host)
     , canvas_(canvas)
     , snapshot_(snapshot)
-    , viewer_(viewer) {}
+    , viewer_(viewer)
+    , touchedTiles_({canvas.width(), canvas.height()}) {}
 
 ImageEdit::~ImageEdit() {
     if (!committed_)
@@ -31,6 +32,7 @@ void ImageEdit::takeBack() {
     snapshot_.restore(canvas_);
     canvas_.SetChangedRect(*touched_);
     touched_.reset();
+    touchedTiles_.clear();
     takenBack_ = true;
     host_.showTakenBack(viewer_);
 }
@@ -46,11 +48,14 @@ bool ImageEdit::commit() {
         return false;
     const TextureCanvas& before = *snapshot_.canvas();
     const auto differing = differingRect(before, canvas_, intersection(*touched_, *written));
-    return differing && host_.recordStep(before, *differing);
+    return differing && host_.recordStep(before, *differing, touchedTiles_);
 }
 
 void ImageEdit::noteChanges() {
+    if (!canvas_.changedRect())
+        return;
     touched_ = unionOf(touched_, canvas_.changedRect());
+    touchedTiles_.add(*canvas_.changedRect());
 }
 
 } // namespace dyeworks

@@ -3,6 +3,7 @@
 #include "paint/CanvasSnapshot.h"
 #include "paint/Rect.h"
 #include "paint/TextureCanvas.h"
+#include "paint/TouchedTiles.h"
 
 #include <optional>
 
@@ -19,9 +20,10 @@ public:
     /// after it was taken back everywhere, because others may have been painted in between.
     virtual void showDrawn(ImageViewer* viewer) = 0;
     virtual void showTakenBack(ImageViewer* viewer) = 0;
-    /// Adds the step from `before` to what the canvas is now within `changed` (inclusive). False when it
-    /// could not be made, which the user has then been told.
-    virtual bool recordStep(const TextureCanvas& before, const Rect& changed) = 0;
+    /// Adds the step from `before` to what the canvas is now within `changed` (inclusive), where nothing but
+    /// what was touched differs. False when it could not be made, which the user has then been told.
+    virtual bool recordStep(const TextureCanvas& before, const Rect& changed,
+                            const TouchedTiles& touched) = 0;
 };
 
 /// One change of an image, from its first texel to its undo step. It is drawn through, shown as often as
@@ -60,6 +62,7 @@ private:
     /// What the edit has changed (inclusive). Kept here because the canvas's own changed rectangle starts
     /// anew whenever it has been shown.
     std::optional<Rect> touched_;
+    TouchedTiles touchedTiles_;
     bool takenBack_ = false; ///< Since it was shown last: the previews still have what was drawn before.
     bool committed_ = false;
 };

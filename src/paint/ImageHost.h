@@ -1,6 +1,7 @@
 #pragma once
 
 #include "paint/ImageWork.h"
+#include "paint/Rect.h"
 
 #include <cstdint>
 #include <optional>
@@ -65,6 +66,13 @@ public:
 
     /// Whether a view that closes keeps how it showed its image. Not where nobody saw it.
     [[nodiscard]] virtual bool keepsImageSettings() const { return true; }
+
+    /// What `image` shows has changed: its texels within a rectangle (inclusive), also while an edit is open,
+    /// or, without one, its colours or the palette that it is attached to. Nothing is to be drawn before it
+    /// returns.
+    virtual void imageChanged(const CDyeworksDoc& /*image*/, const std::optional<Rect>& /*texels*/) {}
+    /// An image has gone.
+    virtual void imageClosed() {}
 
     /// The document whose view was activated last, still remembered while another kind of window is active;
     /// null before the first and after that document has ended.

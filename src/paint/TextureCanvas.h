@@ -107,6 +107,9 @@ public:
     /// Draws the part `source` of the picture, in its colours, over the area `destination` of the surface;
     /// both with right and bottom exclusive. The result is the number of surface rows written.
     virtual std::int32_t Draw(Surface& surface, const Rect& destination, const Rect& source) const;
+    /// The same in the colours of another table, laid out as `colourTable`.
+    std::int32_t DrawInColours(Surface& surface, const Rect& destination, const Rect& source,
+                               std::span<const std::uint8_t> colours) const;
 
     /// Why a BMP file could not be read: the fault of the file or of what is in it.
     using BmpFailure = std::variant<FileError, BmpError>;

@@ -222,6 +222,11 @@ private:
 } // namespace
 
 std::int32_t TextureCanvas::Draw(Surface& surface, const Rect& destination, const Rect& source) const {
+    return DrawInColours(surface, destination, source, colourTable());
+}
+
+std::int32_t TextureCanvas::DrawInColours(Surface& surface, const Rect& destination, const Rect& source,
+                                          std::span<const std::uint8_t> colours) const {
     const std::int64_t width = std::int64_t{destination.right} - destination.left;
     const std::int64_t height = std::int64_t{destination.bottom} - destination.top;
     const std::int64_t sourceWidth = std::int64_t{source.right} - source.left;
@@ -244,7 +249,7 @@ std::int32_t TextureCanvas::Draw(Surface& surface, const Rect& destination, cons
 
     visitDepth<PixelAccess>(bitsPerPixel_, [&]<int Bits>(PixelAccess<Bits>) {
         if constexpr (Bits != 0) {
-            const RowPainter<Bits> painter(colourTable(), across, source.left);
+            const RowPainter<Bits> painter(colours, across, source.left);
             const std::int64_t firstX = is.first - onSurfaceX.first;
             const std::uint32_t* painted = nullptr;
             std::int64_t paintedY = 0;

@@ -6,6 +6,9 @@
 #include "paint/ViewGeometry.h"
 #include "paint/WrapCopies.h"
 
+#include <algorithm>
+#include <cstddef>
+
 namespace dyeworks {
 
 namespace {
@@ -26,11 +29,22 @@ std::int32_t firstFrom(std::int32_t from, std::int32_t rest, std::int32_t period
     return from + (rest - from % period + period) % period;
 }
 
+/// Whether white lies further from a colour (blue, green, red) than black does; weights of ITU-R BT.601.
+bool isDark(const std::uint8_t* quad) {
+    return 114 * quad[0] + 587 * quad[1] + 299 * quad[2] < 1000 * 128;
+}
+
 } // namespace
 
 ViewRenderer::ViewRenderer(const TextureCanvas& canvas, const ViewLook& look)
     : canvas_(canvas)
-    , look_(look) {}
+    , look_(look) {
+    if (!look.standingOut || *look.standingOut >= canvas.GetColorCount())
+        return;
+    colours_.assign(canvas.colourTable().begin(), canvas.colourTable().end());
+    std::uint8_t* const quad = colours_.data() + 4 * std::size_t{*look.standingOut};
+    std::fill_n(quad, 3, isDark(quad) ? std::uint8_t{255} : std::uint8_t{0});
+}
 
 void ViewRenderer::draw(Surface& surface, const Rect& area) const {
     const Rect visible = intersection(area, reachOf(surface));
@@ -110,7 +124,9 @@ void ViewRenderer::drawImage(const Surface& surface, const Rect& area) const {
                       std::min(area.bottom / zoom + 1, canvas_.height())};
     const Rect place{texels.left * zoom, texels.top * zoom, texels.right * zoom, texels.bottom * zoom};
     // What a depth without colours leaves out would show what the surface happens to hold.
-    if (canvas_.Draw(part, place, texels) == 0)
+    const std::int32_t rows = colours_.empty() ? canvas_.Draw(part, place, texels)
+                                               : canvas_.DrawInColours(part, place, texels, colours_);
+    if (rows == 0)
         fillArea(part, area, look_.outsideColour);
 }
 

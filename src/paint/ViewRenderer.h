@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 namespace dyeworks {
 
@@ -27,9 +28,10 @@ struct ViewLook {
     // Lines over the middle column and row, where what is drawn is mirrored.
     bool mirrorsAcross = false;
     bool mirrorsDown = false;
-    bool noPalette = false;          ///< The outside colour takes the place of all else.
-    std::uint32_t outsideColour = 0; ///< 0xffRRGGBB, around the image.
-    bool imageShown = true;          ///< Otherwise what the surface holds stays beneath the selection.
+    bool noPalette = false;                   ///< The outside colour takes the place of all else.
+    std::uint32_t outsideColour = 0;          ///< 0xffRRGGBB, around the image.
+    std::optional<std::uint32_t> standingOut; ///< Texels of this value show in a colour far from their own.
+    bool imageShown = true; ///< Otherwise what the surface holds stays beneath the selection.
     std::optional<SelectionLook> selection;
 };
 
@@ -57,6 +59,7 @@ private:
 
     const TextureCanvas& canvas_;
     ViewLook look_;
+    std::vector<std::uint8_t> colours_; ///< In place of the canvas's own while a value stands out.
 };
 
 } // namespace dyeworks
