@@ -2628,5 +2628,57 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <source>Progress of the reduction</source>
         <translation>減色の進み具合</translation>
     </message>
+    <message>
+        <source>Unsaved Work</source>
+        <translation>未保存の作業</translation>
+    </message>
+    <message>
+        <source>Orrery Dyeworks ended without being able to save. This is what it had kept of the work until then. What you recover is opened as changed and touches no file before you save it.</source>
+        <translation>Orrery Dyeworks は保存できないまま終了しました。それまでに控えてあった作業の一覧です。復元したものは変更ありとして開かれ、保存するまでどのファイルにも触れません。</translation>
+    </message>
+    <message>
+        <source>(not saved yet)</source>
+        <translation>(まだ保存されていません)</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <translation>控えた日時</translation>
+    </message>
+    <message>
+        <source>&amp;Recover</source>
+        <translation>復元(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Open what is ticked as it was</source>
+        <translation>選んだものを控えたときの状態で開きます</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>破棄(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Remove what is ticked for ever</source>
+        <translation>選んだものを完全に取り除きます</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>後で(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Leave it as it is and ask again at the next start</source>
+        <translation>そのまま残し、次の起動時にもう一度たずねます</translation>
+    </message>
+    <message>
+        <source>Remove unsaved work for ever? Number of documents: %1</source>
+        <translation>未保存の作業を完全に取り除きますか? 文書の数: %1</translation>
+    </message>
+    <message>
+        <source>Could not be recovered, and stays kept:%1</source>
+        <translation>復元できませんでした。控えは残しておきます:%1</translation>
+    </message>
+    <message>
+        <source>Unsaved work cannot be kept in case of a crash: %1</source>
+        <translation>異常終了に備えて未保存の作業を控えておくことができません: %1</translation>
+    </message>
 </context>
 </TS>

@@ -18,6 +18,9 @@ public:
     virtual void setText(const std::string& section, const std::string& entry, const std::string& value) = 0;
     virtual void remove(const std::string& section, const std::string& entry) = 0;
 
+    /// Puts what has changed on the disk before it returns.
+    virtual void sync() = 0;
+
     /// Names of the entries directly in `section`, in byte order.
     [[nodiscard]] virtual std::vector<std::string> entries(const std::string& section) const = 0;
 

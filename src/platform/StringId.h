@@ -53,6 +53,21 @@ enum class StringId {
     InterchangeIndexTooHigh,       ///< %1 highest in the file, %2 highest possible
     InterchangeNoTexels,
     InterchangeCancelled,
+    RecoveryCaption,
+    RecoveryWords,
+    RecoveryName,
+    RecoveryFile,
+    RecoveryNoFile,
+    RecoveryTime,
+    RecoveryRecover,
+    RecoveryRecoverTip,
+    RecoveryDiscard,
+    RecoveryDiscardTip,
+    RecoveryLater,
+    RecoveryLaterTip,
+    RecoveryDiscardQuestion, ///< %1 number
+    RecoveryNotOpened,       ///< %1 titles, a line each
+    RecoveryFailed,          ///< %1 reason
     ReadingPicture,
     MatchingColours,
     PictureOpened, ///< %1 name, %2 and %3 numbers

@@ -151,6 +151,10 @@ void CDyeworksApp::BroadcastPaletteChange(const std::string& key, const TextureL
         image->PaletteChanged(key, &palette);
 }
 
+void CDyeworksApp::imageChanged(const CDyeworksDoc& image, const std::optional<Rect>& texels) {
+    recovery_.imageChanged(image, texels);
+}
+
 void CDyeworksApp::keepAttachments(const std::function<bool()>& save) {
     std::map<CDyeworksDoc*, const TextureLookupTable*> attached;
     for (CDyeworksDoc* image : imageDocuments())

@@ -12,6 +12,7 @@
 #include "ui/ApplicationImageHost.h"
 #include "ui/ApplicationPlugInHost.h"
 #include "ui/ApplicationProjectHost.h"
+#include "ui/CrashRecovery.h"
 #include "ui/CurrentProject.h"
 #include "ui/MainFrameHost.h"
 #include "ui/OpenRequestQueue.h"
@@ -21,6 +22,7 @@
 #include "ui/ProjectCommands.h"
 #include "ui/RecentFiles.h"
 #include "ui/StartUpParts.h"
+#include "ui/TerminationSignals.h"
 #include "ui/Workspace.h"
 
 #include <QPointer>
@@ -70,9 +72,14 @@ public:
     /// The kind called exactly so ("Texture", "Project"), or null.
     [[nodiscard]] DocumentTemplate* FindDocTemplate(const std::string& name) const;
     [[nodiscard]] DocumentTemplate& imageTemplate() noexcept override { return *FindDocTemplate("Texture"); }
+    [[nodiscard]] DocumentTemplate& projectTemplate() noexcept override {
+        return *FindDocTemplate("Project");
+    }
     [[nodiscard]] CDocument* FindOpenDocument(const std::string& path) const override;
 
     [[nodiscard]] std::vector<CDocument*> documents() const override;
+    void imageChanged(const CDyeworksDoc& image, const std::optional<Rect>& texels) override;
+    void imageClosed() override {}
     void keepAttachments(const std::function<bool()>& save) override;
     [[nodiscard]] std::optional<std::string> savePaletteAs(const std::string& key) override;
     OpenedFile OpenDocumentFile(const std::string& path) override;
@@ -139,6 +146,9 @@ private:
     [[nodiscard]] bool printFiles(const CommandLine& commandLine);
     void showMainFrame();
 
+    void keepSettings() const;
+    void keepUnsavedWork();
+    [[noreturn]] void endAtOnce(int signal);
     void raiseMainFrame();
     void openHandedOver(const std::vector<std::string>& paths);
 
@@ -177,6 +187,8 @@ private:
     PictureImport pictures_{*this};
     PastePictureCommands pastePictures_{*this, pictures_};
     PaletteFileCommands paletteFiles_{*this};
+    CrashRecovery recovery_{*this};
+    std::unique_ptr<TerminationSignals> signals_;
     std::vector<std::unique_ptr<DocumentTemplate>> templates_;
     std::unique_ptr<CMainFrame> mainFrame_;
     QPointer<QWidget> splash_;

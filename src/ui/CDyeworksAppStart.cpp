@@ -14,9 +14,11 @@
 
 #include <QApplication>
 #include <QPixmap>
+#include <QSessionManager>
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 
 namespace dyeworks {
 
@@ -73,6 +75,8 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
     plugIns_.LoadPlugIns(programFolder_, localeOf(commandLine));
     for (const std::string& fileName : plugIns_.failed())
         plugInHost_.tellPlugInFailed(fileName);
+    if (commandLine.isInteractive() && !commandLine.renders())
+        keepUnsavedWork();
     if (commandLine.task == CommandLine::Task::Serve || !processCommandLine(commandLine))
         return false;
     showMainFrame();
@@ -82,18 +86,44 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
     return true;
 }
 
+/// Offers what an earlier run has left before anything else is opened, and begins to keep what this one does.
+void CDyeworksApp::keepUnsavedWork() {
+    recovery_.start();
+    signals_ = std::make_unique<TerminationSignals>([this](int signal) { endAtOnce(signal); });
+    // Whoever logs out is not kept waiting by questions; the work is there again at the next start.
+    QObject::connect(
+        qApp, &QGuiApplication::commitDataRequest, &recovery_,
+        [this](QSessionManager& /*session*/) { recovery_.keepNow(); }, Qt::DirectConnection);
+    if (!recovery_.hasLeft())
+        return;
+    showMainFrame();
+    recovery_.offer();
+}
+
+void CDyeworksApp::endAtOnce(int signal) {
+    recovery_.keepNow();
+    mainFrame_->keepLayout();
+    keepSettings();
+    platform().profile().sync();
+    std::_Exit(128 + signal); // As a shell tells of it. Nothing of what is open is asked about or closed.
+}
+
+void CDyeworksApp::keepSettings() const {
+    if (!keepsSettings_)
+        return;
+    platform().profile().setText(kAppSection, kDirectoryEntry, platform().files().currentDirectory());
+    recentFiles_.save();
+}
+
 int CDyeworksApp::ExitInstance() {
-    Profile& profile = platform().profile();
-    if (keepsSettings_)
-        profile.setText(kAppSection, kDirectoryEntry, platform().files().currentDirectory());
+    recovery_.end();
+    keepSettings();
     setPlugInHost(nullptr);
     plugIns_.FreePlugIns();
     if (palettes_ != nullptr)
         palettes_->setListener(nullptr);
     mainFrame_.reset();
     palettes_.reset();
-    if (keepsSettings_)
-        recentFiles_.save();
     return exitCode_;
 }
 

@@ -306,10 +306,14 @@ void CMainFrame::OnUpdateFrameTitle() {
 bool CMainFrame::OnClose() {
     if (!host_.SaveAllModified())
         return false;
+    keepLayout();
+    return true;
+}
+
+void CMainFrame::keepLayout() {
     savePlacement();
     saveBarLayout(*this, *paletteBar_);
     host_.SaveOpenDocuments();
-    return true;
 }
 
 void CMainFrame::closeEvent(QCloseEvent* event) {

@@ -72,6 +72,9 @@ public:
     /// Shows the active image through another bank of the current palette.
     void SetPaletteBarNumber(std::int32_t number);
 
+    /// Keeps the window's place, that of its bars and what is open, as closing it does.
+    void keepLayout();
+
     /// The window as a picture, with the palette bar where it floats above it.
     [[nodiscard]] QPixmap picture();
 

@@ -19,6 +19,7 @@ public:
                                                   const std::string& entry) const override;
     void setText(const std::string& section, const std::string& entry, const std::string& value) override;
     void remove(const std::string& section, const std::string& entry) override;
+    void sync() override {}
     [[nodiscard]] std::vector<std::string> entries(const std::string& section) const override;
 };
 

@@ -23,7 +23,7 @@ public:
     [[nodiscard]] std::vector<std::string> entries(const std::string& section) const override;
 
     /// Writes what has changed to the file.
-    void sync();
+    void sync() override;
 
     /// The settings file, in host form.
     [[nodiscard]] std::string fileName() const;
