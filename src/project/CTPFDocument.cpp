@@ -1,11 +1,13 @@
 #include "project/CTPFDocument.h"
 
 #include "framework/DocumentTemplate.h"
+#include "framework/PathText.h"
 #include "platform/AskForFile.h"
 #include "platform/Platform.h"
 #include "platform/TextCase.h"
 #include "project/PathHelpers.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -221,6 +223,15 @@ std::string CTPFDocument::findFile(const std::string& directories, const std::st
     return path;
 }
 
+bool CTPFDocument::holdsImage(const std::string& path) const {
+    const std::string_view name = fileNameOf(path);
+    return std::ranges::any_of(projectFile_.pictures, [&](const auto& picture) {
+        // Only what may be it is looked for on the disk.
+        return equalIgnoringCase(fileNameOf(picture.second.tmfFile), name) &&
+               equalIgnoringCase(findFile(projectFile_.tmfDir, picture.second.tmfFile), path);
+    });
+}
+
 void CTPFDocument::setPathName(const std::string& path) {
     CDocument::setPathName(path);
     updateTitle();
@@ -258,6 +269,15 @@ bool CTPFDocument::EditProperties() {
                                 settings.paletteDirectories);
     setModified(true);
     return true;
+}
+
+TextureRules CTPFDocument::rules() const {
+    return projectFile_.store == nullptr ? TextureRules{} : readRules(*projectFile_.store);
+}
+
+void CTPFDocument::SetRules(const TextureRules& rules) {
+    if (projectFile_.store != nullptr && writeRules(*projectFile_.store, rules))
+        setModified(true);
 }
 
 bool CTPFDocument::GetValue(const std::string& key, std::string& value) const {

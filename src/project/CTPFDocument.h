@@ -8,6 +8,7 @@
 #include "project/ProjectHost.h"
 #include "project/ProjectNodes.h"
 #include "project/ProjectPlugIns.h"
+#include "project/TextureRules.h"
 
 #include <cstdint>
 #include <functional>
@@ -73,6 +74,12 @@ public:
     bool ChangePicture(const std::string& name);
     bool RemovePicture(const std::string& name);
     bool EditProperties();
+    /// What the project's images must keep to. All off while it has no file.
+    [[nodiscard]] TextureRules rules() const;
+    /// Other rules than before count as unsaved.
+    void SetRules(const TextureRules& rules);
+    /// Whether the file, in full, is the image of a picture.
+    [[nodiscard]] bool holdsImage(const std::string& path) const;
     /// Opens the picture's palette and image and attaches one to the other. False when that failed, which has
     /// been reported.
     bool OpenPicture(const std::string& name);

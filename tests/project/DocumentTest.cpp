@@ -51,6 +51,22 @@ TEST_F(Project, IsTheOnlyOne) {
     EXPECT_EQ(fake_.messages.shown[0].icon, MessageIcon::Warning);
 }
 
+TEST_F(Project, KeepsRulesForTheImagesOfItsPictures) {
+    fake_.files.putFile("c:\\p\\tex\\a.tmf", "");
+    fake_.files.putFile("c:\\p\\a.tmf", "");
+    open("TMF_DIR = tex\nPICT_NUM = 1\nPICT.0 = a,A.tmf,a.tlf,0\nRules.PowersOfTwo = 1\n");
+    TextureRules rules = document_.rules();
+    EXPECT_TRUE(rules.powersOfTwo);
+    document_.SetRules(rules);
+    EXPECT_FALSE(document_.isModified());
+    rules.texelBytes = 2048;
+    document_.SetRules(rules);
+    ASSERT_TRUE(document_.isModified() && document_.save());
+    EXPECT_THAT(fake_.files.textOf("c:\\p\\sea.tpf").value(), HasSubstr("Rules.TexelBytes\t=\t2048\r\n"));
+    EXPECT_TRUE(document_.holdsImage("c:\\p\\tex\\a.tmf"));
+    EXPECT_FALSE(document_.holdsImage("c:\\p\\a.tmf"));
+}
+
 TEST_F(Project, MarksItsTitleWhileItIsModified) {
     open("");
     document_.SetValue("Note.1", "x");
