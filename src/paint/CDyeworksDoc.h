@@ -91,7 +91,10 @@ public:
     bool ReplaceImage(const CanvasMaker& make, const Replacing& how);
     bool ReplaceImage(const CanvasMaker& make) { return ReplaceImage(make, {}); }
 
+    /// Takes back the edit that is open or that a drag has recorded, otherwise the last step. False when
+    /// there is none.
     bool Undo();
+    [[nodiscard]] bool CanUndo() const { return openEdit_ != nullptr || edits_.canUndo(); }
     bool Redo();
     void ClearUndo() { edits_.restart(); }
     /// Replaces what copies the canvas as it is before an edit; null when it cannot. It is
