@@ -96,7 +96,10 @@ public:
     bool ReplaceImage(const CanvasMaker& make, const Replacing& how);
     bool ReplaceImage(const CanvasMaker& make) { return ReplaceImage(make, {}); }
 
+    /// Takes back the edit that is open or that a drag has recorded, otherwise the last step. False when
+    /// there is none.
     bool Undo();
+    [[nodiscard]] bool CanUndo() const { return openEdit_ != nullptr || edits_.canUndo(); }
     bool Redo();
 
     /// How many texels of the image have each value, without what an open edit has drawn so far. They are

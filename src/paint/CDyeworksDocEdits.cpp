@@ -143,7 +143,12 @@ void CDyeworksDoc::followHistory() {
 }
 
 bool CDyeworksDoc::Undo() {
+    // What is being drawn is the newest edit: a step below it has to wait for the next time.
+    const bool drawn = openEdit_ != nullptr;
+    const std::int32_t before = edits_.position();
     takeBackDrags();
+    if (drawn || edits_.position() != before)
+        return true;
     return edits_.canUndo() && step(&EditHistory::undo, edits_.steps->currentRecord());
 }
 

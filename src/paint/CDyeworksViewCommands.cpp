@@ -109,7 +109,7 @@ void CDyeworksView::OnUndo() {
 }
 
 void CDyeworksView::OnUpdateUndo(CommandUi& ui) {
-    ui.enabled = document_.edits().canUndo();
+    ui.enabled = document_.CanUndo();
 }
 
 void CDyeworksView::OnRedo() {

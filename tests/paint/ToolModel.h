@@ -287,20 +287,26 @@ struct ToolModel : WholeImages {
         record(std::move(snapshot));
         return false;
     }
-    void cancel() {
+    /// True when that took back texels.
+    bool cancel() {
         if (!std::exchange(dragging, false))
-            return;
-        if (std::exchange(scrolling, false))
-            return scrollTo(scrollBefore);
+            return false;
+        if (std::exchange(scrolling, false)) {
+            scrollTo(scrollBefore);
+            return false;
+        }
         if (atPress == Tool::Select) {
             if (cut)
                 piece.reset();
             selection = selectionBefore;
         }
-        if (atPress != Tool::Select && atPress != Tool::Pixel && atPress != Tool::ZoomLens)
+        const bool open = atPress != Tool::Select && atPress != Tool::Pixel && atPress != Tool::ZoomLens;
+        const bool recorded = !open && atPress != Tool::ZoomLens && hasStep;
+        if (open)
             image->CopyFrom(*snapshot);
-        else if (atPress != Tool::ZoomLens && hasStep)
+        else if (recorded)
             undo();
+        return open || recorded;
     }
 
     /// False when the key does nothing; a key that zooms is left to the view.
@@ -344,8 +350,9 @@ struct ToolModel : WholeImages {
     }
 
     void command(CommandId id) {
+        bool tookBack = false;
         if (id == ID_EDIT_SELECT_ALL || id == ID_EDIT_PASTE || id == ID_EDIT_UNDO || id == ID_EDIT_REDO)
-            cancel();
+            tookBack = cancel();
         for (const ToolCommand& choice : kToolCommands) {
             if (choice.command == id) {
                 tool = choice.tool;
@@ -379,7 +386,7 @@ struct ToolModel : WholeImages {
         }
         if (id == ID_EDIT_PASTE && clipboard != nullptr)
             letFloat(clipboard->Clone());
-        if (id == ID_EDIT_UNDO)
+        if (id == ID_EDIT_UNDO && !tookBack)
             undo();
         if (id == ID_EDIT_REDO)
             redo();
