@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/EditHistory.h"
+#include "core/JointStep.h"
 #include "framework/CDocument.h"
 #include "paint/CanvasSnapshot.h"
 #include "paint/ImageEdit.h"
@@ -26,7 +27,7 @@ class TextureLookupTable;
 
 /// The document of an image: its canvas, the name of the palette that it is attached to, and the history of
 /// its edits. Rectangles are inclusive texels unless said otherwise.
-class CDyeworksDoc : public CDocument, private ImageEditHost {
+class CDyeworksDoc : public CDocument, private ImageEditHost, private JointDocument {
 public:
     /// Cuts the pieces of an undo step; null when it cannot.
     using RecordFactory = std::function<std::unique_ptr<ImageUndoRecord>(
@@ -35,8 +36,6 @@ public:
     /// `host` must outlive the document.
     explicit CDyeworksDoc(ImageHost& host, DocumentTemplate* documentTemplate = nullptr);
     ~CDyeworksDoc() override;
-    CDyeworksDoc(const CDyeworksDoc&) = delete;
-    CDyeworksDoc& operator=(const CDyeworksDoc&) = delete;
 
     [[nodiscard]] ImageHost& host() const noexcept { return host_; }
     [[nodiscard]] TextureCanvas& canvas() noexcept { return canvas_; }
@@ -91,8 +90,13 @@ public:
     bool ReplaceImage(const CanvasMaker& make, const Replacing& how);
     bool ReplaceImage(const CanvasMaker& make) { return ReplaceImage(make, {}); }
 
-    bool Undo();
-    bool Redo();
+    /// A step that belongs to other documents, too, is taken back (done again) in all of them.
+    bool Undo() { return JointStep::move(*this, StepWay::Back); }
+    bool Redo() { return JointStep::move(*this, StepWay::Forward); }
+    /// For steps that this image shares with others.
+    [[nodiscard]] JointDocument& jointSide() noexcept { return *this; }
+    /// Ends drags and puts pieces that float into the image. False when one floats on.
+    [[nodiscard]] bool settlePieces();
     void ClearUndo() { edits_.restart(); }
     /// Replaces what copies the canvas as it is before an edit; null when it cannot. It is
     /// `TextureCanvas::Clone`.
@@ -125,6 +129,8 @@ public:
     /// this image.
     [[nodiscard]] std::int32_t paletteValue() const noexcept { return paletteValue_; }
     void setPaletteValue(std::int32_t value) noexcept { paletteValue_ = value; }
+    /// The entry of the attached palette that value 0 shows; 0 without a palette.
+    [[nodiscard]] std::int32_t firstShownEntry() const;
 
     // Plug-ins, by their numbers in the lists of `ImagePlugIns`.
     /// The image has become the active one: the previews that are on for it show it, the others are off.
@@ -172,6 +178,13 @@ private:
     void showDrawn(ImageViewer* viewer) override;
     void showTakenBack(ImageViewer* viewer) override;
     bool recordStep(const TextureCanvas& before, const Rect& changed) override;
+    [[nodiscard]] std::string jointName() const override { return displayName(); }
+    [[nodiscard]] const EditHistory& jointHistory() const override { return edits_; }
+    void settle() override { takeBackDrags(); }
+    bool moveAlone(StepWay way) override;
+    void take(std::unique_ptr<UndoRecord> record) override;
+    void showMoved() override;
+    void showAlone() override;
     void showEverywhere(ImageViewer* viewer);
     [[nodiscard]] bool openEdit(ImageViewer* viewer);
     void endOpenEdit();
@@ -196,7 +209,6 @@ private:
     }
     void takeBackDrags();
     void followHistory();
-    bool step(bool (EditHistory::*move)(void*), const UndoRecord* record);
     void showReplaced(Point moved);
     void refreshPalette(bool ofAnyPalette);
     void takeColours(const TextureLookupTable& palette);
@@ -208,8 +220,6 @@ private:
     void switchPreviewOff(std::int32_t which);
     [[nodiscard]] std::string nameToSaveUnder() const;
     void makePaletteOfColours();
-    /// Ends drags and puts pieces that float into the image. False when one floats on.
-    [[nodiscard]] bool settlePieces();
     /// False when the file could not be written or belongs to another document, which has been reported.
     [[nodiscard]] bool writeCanvas(const std::string& path) const;
     /// Leaves what the image was in `contents`, or that as it is.
@@ -235,6 +245,8 @@ private:
     std::uint64_t newestShown_ = 0; ///< Counts the states of the image that were to be shown.
     bool historyMoved_ = false;     ///< Since the flag and the title last followed it.
     bool unrecorded_ = false;       ///< An edit that no step tells of has been made since the last save.
+    /// Steps have brought another canvas, which has not been shown yet; by how much the picture has moved.
+    std::optional<Point> replaced_;
     DisplayPalette displayPalette_;
     std::string attachedName_;
     std::int32_t paletteValue_ = 0;

@@ -110,28 +110,6 @@ void CDyeworksDoc::followHistory() {
     setModified(edits_.canUndo() || unrecorded_);
 }
 
-bool CDyeworksDoc::Undo() {
-    takeBackDrags();
-    return edits_.canUndo() && step(&EditHistory::undo, edits_.steps->currentRecord());
-}
-
-bool CDyeworksDoc::Redo() {
-    takeBackDrags();
-    return edits_.canRedo() && step(&EditHistory::redo, edits_.steps->redoRecord());
-}
-
-bool CDyeworksDoc::step(bool (EditHistory::*move)(void*), const UndoRecord* record) {
-    const auto* const whole = dynamic_cast<const WholeImageRecord*>(record);
-    if (!(edits_.*move)(&canvas_))
-        return false;
-    historyMoved_ = true;
-    if (whole != nullptr)
-        showReplaced(whole->moved());
-    else
-        showEverywhere(nullptr);
-    return true;
-}
-
 bool CDyeworksDoc::ReplaceImage(const CanvasMaker& make, const Replacing& how) {
     if (!settlePieces())
         return false;
