@@ -2677,8 +2677,48 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <translation>復元できませんでした。控えは残しておきます:%1</translation>
     </message>
     <message>
+        <source>This step changed several documents together.</source>
+        <translation>この操作は複数の文書をまとめて変更しました。</translation>
+    </message>
+    <message>
+        <source>This step changes several documents together.</source>
+        <translation>この操作は複数の文書をまとめて変更します。</translation>
+    </message>
+    <message>
+        <source>No longer part of it, and left as they are, because they were closed or their history has dropped the step:%1</source>
+        <translation>閉じられたか、履歴にこの操作が残っていないため、次の文書は今のままになります:%1</translation>
+    </message>
+    <message>
+        <source>There are later steps in:%1</source>
+        <translation>次の文書には、その後の操作があります:%1</translation>
+    </message>
+    <message>
+        <source>Earlier steps have been taken back in:%1</source>
+        <translation>次の文書では、それより前の操作が取り消されています:%1</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Do you want to take those back, too?</source>
+        <translation>それらも取り消しますか?</translation>
+    </message>
+    <message>
+        <source>Do you want to do those again, too?</source>
+        <translation>それらもやり直しますか?</translation>
+    </message>
+    <message>
+        <source>Do you want to take it back in the others?</source>
+        <translation>残りの文書で取り消しますか?</translation>
+    </message>
+    <message>
+        <source>Do you want to do it again in the others?</source>
+        <translation>残りの文書でやり直しますか?</translation>
+    </message>
+    <message>
         <source>Unsaved work cannot be kept in case of a crash: %1</source>
-        <translation>異常終了に備えて未保存の作業を控えておくことができません: %1</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

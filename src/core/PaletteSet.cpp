@@ -225,6 +225,12 @@ void PaletteSet::entriesChanged(const TextureLookupTable& palette) {
         listener_->titlesChanged();
 }
 
+void PaletteSet::entriesMoved(const TextureLookupTable& palette) {
+    entriesChanged(palette);
+    if (listener_ != nullptr)
+        listener_->coloursChanged();
+}
+
 PaletteSet::Map::iterator PaletteSet::insertUnderFreeKey(std::unique_ptr<TextureLookupTable> palette) {
     const std::string base = TextureLookupTable::keyFor(palette->path);
     std::string key = base;

@@ -67,6 +67,8 @@ public:
     void refreshViews();
     /// To be called when somebody else than the palette bar has changed the entries of a palette of the set.
     void entriesChanged(const TextureLookupTable& palette);
+    /// The same when no image has been told either.
+    void entriesMoved(const TextureLookupTable& palette);
 
     std::string currentKey;
     Map palettes;

@@ -13,6 +13,8 @@ public:
     virtual void currentPaletteChanged() = 0;
     /// A palette was saved or changed: its title, and whether it has unsaved changes, are to be read anew.
     virtual void titlesChanged() = 0;
+    /// Images show colours of a palette, maybe not the current one, that it no longer has.
+    virtual void coloursChanged() {}
 };
 
 } // namespace dyeworks

@@ -34,8 +34,40 @@ std::uint8_t widened(std::uint8_t fiveBits) {
 
 } // namespace
 
+class TextureLookupTable::Side : public JointDocument {
+public:
+    explicit Side(TextureLookupTable& palette)
+        : palette_(palette) {}
+
+    std::string jointName() const override {
+        return palette_.title.substr(0, palette_.title.find(kModifiedMark));
+    }
+    const EditHistory& jointHistory() const override { return palette_.edits_; }
+    void settle() override {}
+    bool moveAlone(StepWay way) override {
+        const bool moved = way == StepWay::Back ? palette_.edits_.undo(&palette_.table)
+                                                : palette_.edits_.redo(&palette_.table);
+        if (moved)
+            palette_.updateTitle();
+        return moved;
+    }
+    void take(std::unique_ptr<UndoRecord> record) override {
+        record->redo(&palette_.table);
+        palette_.edits_.add(std::move(record));
+        palette_.updateTitle();
+    }
+    void showMoved() override {
+        if (PaletteSet* const set = applicationPaletteSet())
+            set->entriesMoved(palette_);
+    }
+
+private:
+    TextureLookupTable& palette_;
+};
+
 TextureLookupTable::TextureLookupTable()
-    : makeRecord_(makePaletteRecord) {}
+    : makeRecord_(makePaletteRecord)
+    , jointSide_(std::make_unique<Side>(*this)) {}
 
 TextureLookupTable::TextureLookupTable(const TextureLookupTable& other)
     : table(other.table)
@@ -43,14 +75,16 @@ TextureLookupTable::TextureLookupTable(const TextureLookupTable& other)
     , title(other.title)
     , modified(other.modified)
     , savedTable_(other.savedTable_)
-    , makeRecord_(other.makeRecord_) {
+    , makeRecord_(other.makeRecord_)
+    , jointSide_(std::make_unique<Side>(*this)) {
     if (!other.edits_.standsAtSavedPosition())
         edits_.loseSavedPosition();
 }
 
 TextureLookupTable::TextureLookupTable(const TlutData& source)
     : table(source)
-    , makeRecord_(makePaletteRecord) {}
+    , makeRecord_(makePaletteRecord)
+    , jointSide_(std::make_unique<Side>(*this)) {}
 
 TextureLookupTable::~TextureLookupTable() = default;
 
@@ -247,17 +281,11 @@ bool TextureLookupTable::commitEdit() {
 }
 
 bool TextureLookupTable::undo() {
-    if (!edits_.undo(&table))
-        return false;
-    updateTitle();
-    return true;
+    return JointStep::move(*jointSide_, StepWay::Back);
 }
 
 bool TextureLookupTable::redo() {
-    if (!edits_.redo(&table))
-        return false;
-    updateTitle();
-    return true;
+    return JointStep::move(*jointSide_, StepWay::Forward);
 }
 
 bool TextureLookupTable::canUndo() const {

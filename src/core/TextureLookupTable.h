@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/EditHistory.h"
+#include "core/JointStep.h"
 #include "core/TlutData.h"
 #include "platform/DisplayPalette.h"
 
@@ -79,12 +80,15 @@ public:
     bool beginEdit();
     bool commitEdit();
 
+    /// A step that belongs to other documents, too, is taken back (done again) in all of them.
     bool undo();
     bool redo();
     [[nodiscard]] bool canUndo() const;
     [[nodiscard]] bool canRedo() const;
     /// Starts a new, empty history.
     void resetHistory();
+    /// For steps that this palette shares with others.
+    [[nodiscard]] JointDocument& jointSide() noexcept { return *jointSide_; }
 
     /// Names the palette after its path: the last part without extension and without a leading "*". A path
     /// of which nothing is left keeps the title.
@@ -109,6 +113,8 @@ public:
     std::unique_ptr<TlutData> snapshot; ///< The table at `beginEdit`.
 
 private:
+    class Side;
+
     bool changed(bool result);
     [[nodiscard]] bool holdsWhatTheFileHolds() const;
     void markSaved();
@@ -116,6 +122,7 @@ private:
 
     std::optional<TlutData> savedTable_; ///< What was last written or read.
     RecordFactory makeRecord_;
+    std::unique_ptr<JointDocument> jointSide_;
 };
 
 } // namespace dyeworks

@@ -5,6 +5,15 @@
 
 namespace dyeworks {
 
+/// What somebody else keeps with a record, and which ends with it.
+class RecordTie {
+public:
+    RecordTie() = default;
+    virtual ~RecordTie() = default;
+    RecordTie(const RecordTie&) = delete;
+    RecordTie& operator=(const RecordTie&) = delete;
+};
+
 /// One undoable edit. Records are linked and owned by the history that they were added to.
 class UndoRecord {
 public:
@@ -28,6 +37,7 @@ public:
     std::int32_t identifier = -1; ///< -1 until the record is added.
     UndoRecord* previous = nullptr;
     UndoRecord* next = nullptr;
+    std::unique_ptr<RecordTie> tie; ///< Mostly none.
 };
 
 /// A list of edits with a movable position: `undo` steps back over one edit, `redo` steps forward again.

@@ -107,6 +107,11 @@ std::int32_t CDyeworksDoc::firstEntryFor(const TextureLookupTable& palette) cons
     return paletteValue_ >= 0 && paletteValue_ <= palette.table.count - colours ? paletteValue_ : 0;
 }
 
+std::int32_t CDyeworksDoc::firstShownEntry() const {
+    const TextureLookupTable* const palette = GetAttachedPalette();
+    return palette == nullptr || canvas_.bitsPerPixel() == 8 ? 0 : firstEntryFor(*palette);
+}
+
 void CDyeworksDoc::UpdateTitle() {
     baseName_ = nameWithoutParts();
     std::string composed = baseName_;

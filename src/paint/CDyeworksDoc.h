@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/EditHistory.h"
+#include "core/JointStep.h"
 #include "framework/CDocument.h"
 #include "paint/CanvasSnapshot.h"
 #include "paint/ImageEdit.h"
@@ -27,7 +28,7 @@ class TextureLookupTable;
 
 /// The document of an image: its canvas, the name of the palette that it is attached to, and the history of
 /// its edits. Rectangles are inclusive texels unless said otherwise.
-class CDyeworksDoc : public CDocument, private ImageEditHost {
+class CDyeworksDoc : public CDocument, private ImageEditHost, private JointDocument {
 public:
     /// Cuts the pieces of an undo step; null when it cannot.
     using RecordFactory = std::function<std::unique_ptr<ImageUndoRecord>(
@@ -36,8 +37,6 @@ public:
     /// `host` must outlive the document.
     explicit CDyeworksDoc(ImageHost& host, DocumentTemplate* documentTemplate = nullptr);
     ~CDyeworksDoc() override;
-    CDyeworksDoc(const CDyeworksDoc&) = delete;
-    CDyeworksDoc& operator=(const CDyeworksDoc&) = delete;
 
     [[nodiscard]] ImageHost& host() const noexcept { return host_; }
     [[nodiscard]] TextureCanvas& canvas() noexcept { return canvas_; }
@@ -97,10 +96,14 @@ public:
     bool ReplaceImage(const CanvasMaker& make) { return ReplaceImage(make, {}); }
 
     /// Takes back the edit that is open or that a drag has recorded, otherwise the last step. False when
-    /// there is none.
+    /// there is none. A step that belongs to other documents, too, is taken back (done again) in all of them.
     bool Undo();
     [[nodiscard]] bool CanUndo() const { return openEdit_ != nullptr || edits_.canUndo(); }
-    bool Redo();
+    bool Redo() { return JointStep::move(*this, StepWay::Forward); }
+    /// For steps that this image shares with others.
+    [[nodiscard]] JointDocument& jointSide() noexcept { return *this; }
+    /// Ends drags and puts pieces that float into the image. False when one floats on.
+    [[nodiscard]] bool settlePieces();
 
     /// How many texels of the image have each value, without what an open edit has drawn so far. They are
     /// counted at the first call; from then on the counts follow each edit at the cost of what it changes.
@@ -137,6 +140,8 @@ public:
     /// this image.
     [[nodiscard]] std::int32_t paletteValue() const noexcept { return paletteValue_; }
     void setPaletteValue(std::int32_t value) noexcept { paletteValue_ = value; }
+    /// The entry of the attached palette that value 0 shows; 0 without a palette.
+    [[nodiscard]] std::int32_t firstShownEntry() const;
 
     /// Entry of `palette`, the attached one or a copy of it, that the value 0 shows.
     [[nodiscard]] std::int32_t firstEntryFor(const TextureLookupTable& palette) const;
@@ -190,6 +195,13 @@ private:
     void showTakenBack(ImageViewer* viewer) override;
     bool recordStep(const TextureCanvas& before, const Rect& changed, const TouchedTiles& touched) override;
     void tellTexelsChanged();
+    [[nodiscard]] std::string jointName() const override { return displayName(); }
+    [[nodiscard]] const EditHistory& jointHistory() const override { return edits_; }
+    void settle() override { takeBackDrags(); }
+    bool moveAlone(StepWay way) override;
+    void take(std::unique_ptr<UndoRecord> record) override;
+    void showMoved() override;
+    void showAlone() override;
     void showEverywhere(ImageViewer* viewer);
     [[nodiscard]] bool openEdit(ImageViewer* viewer);
     void endOpenEdit();
@@ -215,7 +227,6 @@ private:
     }
     void takeBackDrags();
     void followHistory();
-    bool step(bool (EditHistory::*move)(void*), const UndoRecord* record);
     void showReplaced(Point moved);
     void refreshPalette(bool ofAnyPalette);
     void takeColours(const TextureLookupTable& palette);
@@ -226,8 +237,6 @@ private:
     void switchPreviewOff(std::int32_t which);
     [[nodiscard]] std::string nameToSaveUnder() const;
     void makePaletteOfColours();
-    /// Ends drags and puts pieces that float into the image. False when one floats on.
-    [[nodiscard]] bool settlePieces();
     /// False when the file could not be written or belongs to another document, which has been reported.
     [[nodiscard]] bool writeCanvas(const std::string& path) const;
     /// Leaves what the image was in `contents`, or that as it is.
@@ -254,6 +263,8 @@ private:
     std::uint64_t newestShown_ = 0; ///< Counts the states of the image that were to be shown.
     bool historyMoved_ = false;     ///< Since the flag and the title last followed it.
     bool unrecorded_ = false;       ///< An edit that no step tells of has been made since the last save.
+    /// Steps have brought another canvas, which has not been shown yet; by how much the picture has moved.
+    std::optional<Point> replaced_;
     DisplayPalette displayPalette_;
     std::string attachedName_;
     std::int32_t paletteValue_ = 0;

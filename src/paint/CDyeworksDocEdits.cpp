@@ -8,22 +8,6 @@
 
 namespace dyeworks {
 
-namespace {
-
-/// The texels (inclusive) that undoing or redoing a step changes; nothing when that cannot be told.
-std::optional<Rect> texelsOf(const UndoRecord* record, const TextureCanvas& canvas) {
-    const auto* const edit = dynamic_cast<const ImageUndoRecord*>(record);
-    if (edit == nullptr || edit->before == nullptr)
-        return std::nullopt;
-    // A piece that a plug-in's change of size has left outside changes nothing.
-    const Rect texels = intersection({edit->left, edit->top, edit->left + edit->before->width() - 1,
-                                      edit->top + edit->before->height() - 1},
-                                     {0, 0, canvas.width() - 1, canvas.height() - 1});
-    return texels.left > texels.right || texels.top > texels.bottom ? std::nullopt : std::optional(texels);
-}
-
-} // namespace
-
 bool CDyeworksDoc::openEdit(ImageViewer* viewer) {
     endOpenEdit();
     if (!snapshot_.take(canvas_))
@@ -140,40 +124,6 @@ void CDyeworksDoc::followHistory() {
         return;
     historyMoved_ = false;
     setModified(edits_.canUndo() || unrecorded_);
-}
-
-bool CDyeworksDoc::Undo() {
-    // What is being drawn is the newest edit: a step below it has to wait for the next time.
-    const bool drawn = openEdit_ != nullptr;
-    const std::int32_t before = edits_.position();
-    takeBackDrags();
-    if (drawn || edits_.position() != before)
-        return true;
-    return edits_.canUndo() && step(&EditHistory::undo, edits_.steps->currentRecord());
-}
-
-bool CDyeworksDoc::Redo() {
-    takeBackDrags();
-    return edits_.canRedo() && step(&EditHistory::redo, edits_.steps->redoRecord());
-}
-
-bool CDyeworksDoc::step(bool (EditHistory::*move)(void*), const UndoRecord* record) {
-    const auto* const whole = dynamic_cast<const WholeImageRecord*>(record);
-    const std::optional<Rect> texels = texelsOf(record, canvas_);
-    if (texels)
-        counts_.leave(canvas_, *texels);
-    else
-        counts_.forget();
-    if (!(edits_.*move)(&canvas_))
-        return false;
-    if (texels)
-        counts_.enter(canvas_, *texels);
-    historyMoved_ = true;
-    if (whole != nullptr)
-        showReplaced(whole->moved());
-    else
-        showEverywhere(nullptr);
-    return true;
 }
 
 bool CDyeworksDoc::ReplaceImage(const CanvasMaker& make, const Replacing& how) {

@@ -31,6 +31,7 @@ public:
     void tabsChanged() override;
     void currentPaletteChanged() override { RefreshFromPalette(); }
     void titlesChanged() override;
+    void coloursChanged() override { host_.RefreshAllImages(); }
     /// Reads the current palette into grid and controls; a value that was not applied is dropped.
     void RefreshFromPalette();
     /// The active image may be attached otherwise now. As long as its bank is the one that is shown, a value

@@ -73,6 +73,16 @@ enum class StringId {
     PictureOpened, ///< %1 name, %2 and %3 numbers
     PastedName,    ///< Of an image from the clipboard.
     PastedColoursDiffer,
+    JointUndo,
+    JointRedo,
+    JointGone,         ///< %1 lines of names
+    JointLaterSteps,   ///< %1 lines of names with numbers
+    JointEarlierSteps, ///< The same
+    JointStepCount,    ///< %1 name, %2 number
+    JointUndoAll,
+    JointRedoAll,
+    JointUndoRest,
+    JointRedoRest,
     ImportPaletteCaption,
     ImportColourCount, ///< %1 number
     ImportAsNew,

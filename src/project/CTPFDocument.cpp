@@ -202,18 +202,21 @@ void CTPFDocument::RestartPlugIns() {
 /// Those that are there, in the order of the pictures.
 std::vector<std::string> CTPFDocument::pictureFiles() const {
     std::vector<std::string> paths;
-    const auto add = [&](const std::string& directories, const std::string& name) {
-        if (std::string path = findFile(directories, name); !path.empty())
-            paths.push_back(std::move(path));
-    };
     for (const std::string& name : projectFile_.order) {
-        PictureEntry entry;
-        if (!projectFile_.GetPicture(name, entry))
-            continue;
-        add(projectFile_.tmfDir, entry.tmfFile);
-        add(projectFile_.tlfDir, entry.tlfFile);
+        PictureFiles files = FilesOf(name);
+        for (std::string* path : {&files.image, &files.palette}) {
+            if (!path->empty())
+                paths.push_back(std::move(*path));
+        }
     }
     return paths;
+}
+
+CTPFDocument::PictureFiles CTPFDocument::FilesOf(const std::string& name) const {
+    PictureEntry entry;
+    if (!projectFile_.GetPicture(name, entry))
+        return {};
+    return {findFile(projectFile_.tmfDir, entry.tmfFile), findFile(projectFile_.tlfDir, entry.tlfFile)};
 }
 
 /// Empty when there is no such file.

@@ -68,6 +68,11 @@ public:
     [[nodiscard]] bool GetPicture(const std::string& name, PictureEntry& entry) const {
         return projectFile_.GetPicture(name, entry);
     }
+    struct PictureFiles {
+        std::string image; ///< Full paths; empty where there is no such file.
+        std::string palette;
+    };
+    [[nodiscard]] PictureFiles FilesOf(const std::string& name) const;
     bool AddPicture(const std::optional<std::string>& name, const std::optional<std::string>& imageFile,
                     const std::optional<std::string>& paletteFile, std::int32_t paletteNumber,
                     const std::optional<std::string>& after, bool silent) override;

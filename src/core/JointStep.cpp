@@ -1,0 +1,234 @@
+#include "core/JointStep.h"
+
+#include "platform/Platform.h"
+
+#include <algorithm>
+#include <new>
+#include <utility>
+
+namespace dyeworks {
+
+namespace {
+
+const UndoRecord* atHand(const JointDocument& document, StepWay way) {
+    const UndoHistory* const history = document.jointHistory().steps.get();
+    if (history == nullptr)
+        return nullptr;
+    return way == StepWay::Back ? history->currentRecord() : history->redoRecord();
+}
+
+const UndoRecord* further(const UndoRecord& record, StepWay way) {
+    return way == StepWay::Back ? record.previous : record.next;
+}
+
+std::string listed(const std::vector<std::string>& names) {
+    std::string lines;
+    for (const std::string& name : names)
+        lines += "\n    " + name;
+    return lines;
+}
+
+} // namespace
+
+/// What a record has of the step. The step forgets the document when the record goes.
+class JointStep::Tie : public RecordTie {
+public:
+    Tie(std::shared_ptr<JointStep> step, std::size_t part)
+        : step_(std::move(step))
+        , part_(part) {}
+    ~Tie() override {
+        step_->parts_[part_].document = nullptr;
+        step_->parts_[part_].record = nullptr;
+    }
+    Tie(const Tie&) = delete;
+    Tie& operator=(const Tie&) = delete;
+
+    [[nodiscard]] JointStep& step() const noexcept { return *step_; }
+
+private:
+    std::shared_ptr<JointStep> step_;
+    std::size_t part_;
+};
+
+/// How far each document has to go, so that one of them gets through its step at hand.
+class JointStep::Walk {
+public:
+    Walk(JointDocument& document, StepWay way)
+        : way_(way)
+        , first_(stepOf(*atHand(document, way))) {
+        reach(document, *atHand(document, way));
+    }
+
+    /// The others that have further steps before it.
+    [[nodiscard]] std::vector<std::string> others() const {
+        std::vector<std::string> names;
+        for (const Leg& leg : legs_) {
+            const int before = leg.steps - (isOf(*first_, *leg.document) ? 1 : 0);
+            if (before > 0)
+                names.push_back(
+                    text(StringId::JointStepCount, {leg.document->jointName(), std::to_string(before)}));
+        }
+        return names;
+    }
+    [[nodiscard]] const std::vector<std::string>& gone() const noexcept { return gone_; }
+    [[nodiscard]] std::vector<JointDocument*> documents() const {
+        std::vector<JointDocument*> all;
+        for (const Leg& leg : legs_)
+            all.push_back(leg.document);
+        return all;
+    }
+
+    /// Joint steps stand in the same order in every history, so that there is always one that can be next.
+    void go() {
+        for (bool moved = true; moved;) {
+            moved = false;
+            for (Leg& leg : legs_)
+                moved = (leg.steps > 0 && goOne(leg)) || moved;
+        }
+    }
+
+private:
+    struct Leg {
+        JointDocument* document;
+        int steps;
+    };
+
+    [[nodiscard]] static bool isOf(const JointStep& step, const JointDocument& document) {
+        return std::ranges::find(step.parts_, &document, &Part::document) != step.parts_.end();
+    }
+
+    [[nodiscard]] Leg& legOf(JointDocument& document) {
+        const auto known = std::ranges::find(legs_, &document, &Leg::document);
+        return known == legs_.end() ? legs_.emplace_back(Leg{&document, 0}) : *known;
+    }
+
+    void missing(const std::string& name) {
+        if (std::ranges::find(gone_, name) == gone_.end())
+            gone_.push_back(name);
+    }
+
+    /// All joint steps on the way to the record are those of other documents, too.
+    void reach(JointDocument& document, const UndoRecord& record) {
+        int steps = 1;
+        const UndoRecord* passed = atHand(document, way_);
+        for (; passed != nullptr && passed != &record; passed = further(*passed, way_))
+            ++steps;
+        if (passed == nullptr) {
+            missing(document.jointName());
+            return;
+        }
+        const int known = std::exchange(legOf(document).steps, std::max(legOf(document).steps, steps));
+        passed = atHand(document, way_);
+        for (int n = 0; n < steps; ++n, passed = further(*passed, way_)) {
+            if (n >= known)
+                reachPartsOf(stepOf(*passed));
+        }
+    }
+
+    void reachPartsOf(const JointStep* step) {
+        if (step == nullptr)
+            return;
+        for (const Part& part : step->parts_) {
+            if (part.document == nullptr)
+                missing(part.name);
+            else
+                reach(*part.document, *part.record);
+        }
+    }
+
+    bool goOne(Leg& leg) {
+        const UndoRecord* const record = atHand(*leg.document, way_);
+        if (record == nullptr)
+            return false;
+        const JointStep* const step = stepOf(*record);
+        if (step == nullptr)
+            return leg.document->moveAlone(way_) && leg.steps-- > 0;
+        const bool allStandAtIt = std::ranges::all_of(step->parts_, [this](const Part& part) {
+            return part.document == nullptr || atHand(*part.document, way_) == part.record;
+        });
+        if (!allStandAtIt)
+            return false;
+        for (const Part& part : step->parts_) {
+            if (part.document != nullptr && part.document->moveAlone(way_))
+                --legOf(*part.document).steps;
+        }
+        return true;
+    }
+
+    StepWay way_;
+    const JointStep* first_;
+    std::vector<Leg> legs_;
+    std::vector<std::string> gone_;
+};
+
+JointStep* JointStep::stepOf(const UndoRecord& record) {
+    const auto* const tie = dynamic_cast<const Tie*>(record.tie.get());
+    return tie == nullptr ? nullptr : &tie->step();
+}
+
+bool JointStep::carryOut(std::vector<Change> changes) {
+    try {
+        const auto step = std::make_shared<JointStep>();
+        step->parts_.reserve(changes.size());
+        for (Change& change : changes) {
+            step->parts_.push_back({change.document, change.record.get(), change.document->jointName()});
+            change.record->tie = std::make_unique<Tie>(step, step->parts_.size() - 1);
+        }
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+    for (Change& change : changes)
+        change.document->take(std::move(change.record));
+    for (const Change& change : changes)
+        change.document->showMoved();
+    return true;
+}
+
+bool JointStep::move(JointDocument& document, StepWay way) {
+    document.settle();
+    const UndoRecord* const record = atHand(document, way);
+    if (record == nullptr)
+        return false;
+    if (stepOf(*record) == nullptr) {
+        if (!document.moveAlone(way))
+            return false;
+        document.showAlone();
+        return true;
+    }
+    Walk walk(document, way);
+    for (JointDocument* other : walk.documents())
+        other->settle();
+    const std::weak_ptr<JointDocument*> self = document.handle();
+
+    const std::vector<std::string> others = walk.others();
+    if (!others.empty() || !walk.gone().empty()) {
+        const bool back = way == StepWay::Back;
+        std::string question = text(back ? StringId::JointUndo : StringId::JointRedo);
+        if (!walk.gone().empty())
+            question += "\n\n" + text(StringId::JointGone, {listed(walk.gone())});
+        if (!others.empty())
+            question += "\n\n" + text(back ? StringId::JointLaterSteps : StringId::JointEarlierSteps,
+                                      {listed(others)});
+        question += "\n\n" + text(others.empty() ? (back ? StringId::JointUndoRest : StringId::JointRedoRest)
+                                                 : (back ? StringId::JointUndoAll : StringId::JointRedoAll));
+        if (applicationMessage(question, MessageButtons::YesNo) != MessageAnswer::Yes)
+            return false;
+        // Files may have been handed to the program meanwhile.
+        if (self.expired() || atHand(document, way) != record)
+            return false;
+        walk = Walk(document, way);
+    }
+
+    // Showing an image may let a plug-in close another.
+    std::vector<std::weak_ptr<JointDocument*>> moved;
+    for (const JointDocument* each : walk.documents())
+        moved.push_back(each->handle());
+    walk.go();
+    for (const auto& each : moved) {
+        if (const auto alive = each.lock())
+            (*alive)->showMoved();
+    }
+    return true;
+}
+
+} // namespace dyeworks

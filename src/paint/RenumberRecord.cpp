@@ -1,0 +1,75 @@
+#include "paint/RenumberRecord.h"
+
+#include <bitset>
+#include <new>
+
+namespace dyeworks {
+
+namespace {
+
+/// The map that leads back from the values for which `counts`; false when two of them come together.
+template <typename Counts>
+bool invert(const ValueMap& map, ValueMap& back, Counts counts) {
+    std::bitset<256> taken;
+    for (std::size_t value = 0; value < map.size(); ++value) {
+        if (!counts(value))
+            continue;
+        if (taken.test(map[value]))
+            return false;
+        taken.set(map[value]);
+        back[map[value]] = static_cast<std::uint8_t>(value);
+    }
+    return true;
+}
+
+} // namespace
+
+std::unique_ptr<RenumberRecord> RenumberRecord::make(const TextureCanvas& canvas, const ValueMap& map) {
+    std::unique_ptr<RenumberRecord> record(new (std::nothrow) RenumberRecord);
+    if (record == nullptr)
+        return nullptr;
+    record->forward_ = map;
+    // Mostly a permutation, for which no texel has to be looked at.
+    if (invert(map, record->back_, [](std::size_t /*value*/) { return true; }))
+        return record;
+    const auto counts = countValues(canvas);
+    if (invert(map, record->back_, [&](std::size_t value) { return counts[value] > 0; }))
+        return record;
+    record->before_ = canvas.Clone();
+    return record->before_ == nullptr ? nullptr : std::move(record);
+}
+
+bool RenumberRecord::undo(void* target) {
+    auto* const canvas = static_cast<TextureCanvas*>(target);
+    if (canvas == nullptr)
+        return false;
+    if (before_ != nullptr)
+        return canvas->CopyFrom(*before_);
+    renumber(*canvas, back_);
+    return true;
+}
+
+bool RenumberRecord::redo(void* target) {
+    auto* const canvas = static_cast<TextureCanvas*>(target);
+    if (canvas == nullptr)
+        return false;
+    renumber(*canvas, forward_);
+    return true;
+}
+
+std::unique_ptr<UndoRecord> RenumberRecord::inverse() const {
+    std::unique_ptr<RenumberRecord> inverted(before_ != nullptr ? nullptr
+                                                                : new (std::nothrow) RenumberRecord);
+    if (inverted == nullptr)
+        return nullptr;
+    inverted->forward_ = back_;
+    inverted->back_ = forward_;
+    inverted->identifier = identifier;
+    return inverted;
+}
+
+std::uint64_t RenumberRecord::bytes() const {
+    return before_ == nullptr ? 0 : before_->block().size();
+}
+
+} // namespace dyeworks
