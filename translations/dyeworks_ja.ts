@@ -2718,7 +2718,7 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     </message>
     <message>
         <source>Unsaved work cannot be kept in case of a crash: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>異常終了に備えて未保存の作業を控えておくことができません: %1</translation>
     </message>
 </context>
 </TS>
