@@ -234,6 +234,8 @@ private:
     bool spuit_ = false; ///< A right press picks the colour under it.
     bool scrollDragging_ = false;
     Point scrollDragPoint_; ///< Client point up to which the scroll drag has been followed.
+    /// Where the left button has gone up since its last press.
+    std::optional<PointerEvent> released_;
     Point scrollDragStart_; ///< Scroll position at its press.
 };
 
