@@ -50,6 +50,9 @@ public:
     /// The image moved beneath the pointer, which is in the client area.
     void Scrolled();
     /// The window is about to close; it still stands where it stood.
+    /// Whether the window may close while the image lives on in others: not when the user then keeps a piece
+    /// that floats in it from being placed.
+    [[nodiscard]] bool MayClose();
     void Closing();
     /// The interval of `ViewWindow::startTicking` has passed.
     void Tick();

@@ -165,6 +165,12 @@ TEST_F(ViewFixture, APieceThatMayNotBePlacedFloatsOn) {
         press({9, 9});
         platform.messages.answerWith(MessageAnswer::No);
         EXPECT_FALSE(document.save());
+        {
+            FakeViewWindow otherWindow;
+            const CDyeworksView other(document, otherWindow);
+            platform.messages.answerWith(MessageAnswer::No);
+            EXPECT_FALSE(view.MayClose());
+        }
         EXPECT_TRUE(view.selection().hasFloatingPiece());
         EXPECT_EQ(view.selection().texels(), place);
         view.CancelDrag();

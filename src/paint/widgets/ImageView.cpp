@@ -149,6 +149,10 @@ void ImageView::activated(ChildFrame&) {
     view_.Activated();
 }
 
+bool ImageView::mayClose(ChildFrame&) {
+    return view_.MayClose();
+}
+
 void ImageView::closing(ChildFrame&) {
     view_.Closing();
     frame_ = nullptr;
