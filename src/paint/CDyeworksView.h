@@ -23,6 +23,7 @@ namespace dyeworks {
 class DrawTool;
 class TextureCanvas;
 class ViewWindow;
+struct ViewLook;
 enum class CursorShape;
 
 /// A view of an image: what it shows and what the pointer, the keys and the commands do in it. Works through
@@ -63,6 +64,11 @@ public:
     /// image. A redraw request without kRedrawImage draws onto what the surface holds.
     void Paint(Surface& surface, const Rect& contentArea, std::uint32_t buttonFace,
                std::uint32_t redrawRequest = 0) const;
+    /// Draws a part of the image as it is printed: with its zoom, grid and selection, and without what only
+    /// helps to draw, as its copies and the lines of the mirrors. `area` (right and bottom exclusive) counts
+    /// from the image's corner, as the surface's origin does, and reaches to `printedSize`.
+    void PaintPrinted(Surface& surface, const Rect& area, std::uint32_t paperColour) const;
+    [[nodiscard]] Size printedSize() const;
     /// Draws what of the brush's outline under the pointer lies on the surface, whose origin is in content
     /// coordinates, over what a paint has left there.
     void PaintBrush(const Surface& surface) const;
@@ -132,6 +138,7 @@ private:
     [[nodiscard]] ViewGeometry geometry() const;
     [[nodiscard]] Size imageSize() const;
     void applyZoom(bool redraw);
+    [[nodiscard]] ViewLook look(std::uint32_t outsideColour, std::uint32_t redrawRequest) const;
     void scrollTo(Point position);
     [[nodiscard]] Point texelInImage(Point client) const;
     [[nodiscard]] Point texelOfDrag(Point client) const;
