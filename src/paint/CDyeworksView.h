@@ -50,10 +50,10 @@ public:
     void Resized();
     /// The image moved beneath the pointer, which is in the client area.
     void Scrolled();
-    /// The window is about to close; it still stands where it stood.
     /// Whether the window may close while the image lives on in others: not when the user then keeps a piece
     /// that floats in it from being placed.
     [[nodiscard]] bool MayClose();
+    /// The window is about to close; it still stands where it stood.
     void Closing();
     /// The interval of `ViewWindow::startTicking` has passed.
     void Tick();
@@ -80,6 +80,8 @@ public:
     void PointerPressed(const PointerEvent& event);
     void PointerMoved(const PointerEvent& event);
     void PointerReleased(const PointerEvent& event);
+    /// The pointer has come from something else, as from a menu that closed, and need not move.
+    void PointerEntered(Point client);
     /// The pointer is over something else now.
     void PointerLeft();
     /// The capture was taken away other than by `releasePointer`.
@@ -136,9 +138,9 @@ private:
     [[nodiscard]] ImageViewer& viewer() noexcept override { return *this; }
 
     [[nodiscard]] ViewGeometry geometry() const;
+    [[nodiscard]] ViewLook look(std::uint32_t outsideColour, std::uint32_t redrawRequest) const;
     [[nodiscard]] Size imageSize() const;
     void applyZoom(bool redraw);
-    [[nodiscard]] ViewLook look(std::uint32_t outsideColour, std::uint32_t redrawRequest) const;
     void scrollTo(Point position);
     [[nodiscard]] Point texelInImage(Point client) const;
     [[nodiscard]] Point texelOfDrag(Point client) const;
@@ -232,6 +234,8 @@ private:
     /// Of the drag that is going on. Shared with the call that the tool is in: a preview may end the drag
     /// there.
     std::shared_ptr<DrawTool> tool_;
+    /// Where the left button has gone up since its last press.
+    std::optional<PointerEvent> released_;
     Point dragCopy_; ///< Way to the copy of the image that it began in.
     Point pointed_;  ///< The texel that the status line tells of.
     struct PointedBrush {
@@ -244,8 +248,6 @@ private:
     bool spuit_ = false; ///< A right press picks the colour under it.
     bool scrollDragging_ = false;
     Point scrollDragPoint_; ///< Client point up to which the scroll drag has been followed.
-    /// Where the left button has gone up since its last press.
-    std::optional<PointerEvent> released_;
     Point scrollDragStart_; ///< Scroll position at its press.
 };
 
