@@ -138,9 +138,13 @@ bool CDyeworksDoc::step(bool (EditHistory::*move)(void*), const UndoRecord* reco
 }
 
 bool CDyeworksDoc::ReplaceImage(const CanvasMaker& make, const Replacing& how) {
-    if (!settlePieces())
+    bool floats = false;
+    forEachViewer([&](const ImageViewer& viewer) { floats = floats || viewer.hasFloatingPiece(); });
+    // Pieces must not be placed for nothing.
+    const bool hopeless = floats && make(canvas_) == nullptr;
+    if (!hopeless && !settlePieces())
         return false;
-    std::unique_ptr<TextureCanvas> made = make(canvas_);
+    std::unique_ptr<TextureCanvas> made = hopeless ? nullptr : make(canvas_);
     const bool same = made != nullptr && made->width() == canvas_.width() &&
                       made->height() == canvas_.height() && made->bitsPerPixel() == canvas_.bitsPerPixel();
     const Rect whole{0, 0, canvas_.width() - 1, canvas_.height() - 1};
