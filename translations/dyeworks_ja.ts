@@ -2628,5 +2628,9 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <source>Progress of the reduction</source>
         <translation>減色の進み具合</translation>
     </message>
+    <message>
+        <source>Pictures of the project that no longer fit the image: %1, first &quot;%2&quot;. Its palette number is %3 now.</source>
+        <translation>プロジェクトのピクチャーのうち %1 個が、この画像に合わなくなりました（最初は「%2」）。画像のパレット番号は %3 になりました。</translation>
+    </message>
 </context>
 </TS>

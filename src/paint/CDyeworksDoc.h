@@ -201,6 +201,7 @@ private:
     void followHistory();
     bool step(bool (EditHistory::*move)(void*), const UndoRecord* record);
     void showReplaced(Point moved);
+    void tellProject(std::uint16_t depthBefore) const;
     void refreshPalette(bool ofAnyPalette);
     void takeColours(const TextureLookupTable& palette);
     [[nodiscard]] std::int32_t firstEntryFor(const TextureLookupTable& palette) const;

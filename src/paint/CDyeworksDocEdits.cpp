@@ -1,5 +1,7 @@
 #include "paint/CDyeworksDoc.h"
+#include "paint/CanvasDepth.h"
 #include "paint/CanvasDifference.h"
+#include "paint/OpenProject.h"
 #include "paint/WholeImageRecord.h"
 #include "platform/Platform.h"
 
@@ -7,6 +9,12 @@
 #include <utility>
 
 namespace dyeworks {
+
+namespace {
+
+constexpr int kMessagePane = 0;
+
+} // namespace
 
 bool CDyeworksDoc::openEdit(ImageViewer* viewer) {
     endOpenEdit();
@@ -117,12 +125,21 @@ bool CDyeworksDoc::Undo() {
     takeBackDrags();
     if (drawn || edits_.position() != before)
         return true;
-    return edits_.canUndo() && step(&EditHistory::undo, edits_.steps->currentRecord());
+    const std::uint16_t depth = canvas_.bitsPerPixel();
+    if (!edits_.canUndo() || !step(&EditHistory::undo, edits_.steps->currentRecord()))
+        return false;
+    if (canvas_.bitsPerPixel() != depth)
+        host_.setStatusText("", kMessagePane);
+    return true;
 }
 
 bool CDyeworksDoc::Redo() {
     takeBackDrags();
-    return edits_.canRedo() && step(&EditHistory::redo, edits_.steps->redoRecord());
+    const std::uint16_t depth = canvas_.bitsPerPixel();
+    if (!edits_.canRedo() || !step(&EditHistory::redo, edits_.steps->redoRecord()))
+        return false;
+    tellProject(depth);
+    return true;
 }
 
 bool CDyeworksDoc::step(bool (EditHistory::*move)(void*), const UndoRecord* record) {
@@ -144,6 +161,7 @@ bool CDyeworksDoc::ReplaceImage(const CanvasMaker& make, const Replacing& how) {
     const bool hopeless = floats && make(canvas_) == nullptr;
     if (!hopeless && !settlePieces())
         return false;
+    const std::uint16_t depth = canvas_.bitsPerPixel();
     std::unique_ptr<TextureCanvas> made = hopeless ? nullptr : make(canvas_);
     const bool same = made != nullptr && made->width() == canvas_.width() &&
                       made->height() == canvas_.height() && made->bitsPerPixel() == canvas_.bitsPerPixel();
@@ -164,7 +182,23 @@ bool CDyeworksDoc::ReplaceImage(const CanvasMaker& make, const Replacing& how) {
     historyMoved_ = true;
     static_cast<void>(edits_.add(std::move(record)));
     showReplaced(how.moved);
+    tellProject(depth);
     return true;
+}
+
+/// Pictures of the project keep the palette number that they name. At 4 bits that has to be the bank that the
+/// image was made for, and at 8 bits, where there are no banks, 0.
+void CDyeworksDoc::tellProject(std::uint16_t depthBefore) const {
+    const OpenProject* const project = host_.openProject();
+    if (project == nullptr || pathName().empty() || canvas_.bitsPerPixel() == depthBefore)
+        return;
+    const std::int32_t number = canvas_.bitsPerPixel() == 4 ? paletteValue_ / kBankEntries : 0;
+    const std::vector<std::string> names = project->PicturesOfOtherNumber(pathName(), number);
+    host_.setStatusText(names.empty()
+                            ? std::string()
+                            : text(StringId::PicturesNameOtherNumber,
+                                   {std::to_string(names.size()), names.front(), std::to_string(number)}),
+                        kMessagePane);
 }
 
 /// The canvas is another one: everything that depends on its size, its depth or its colours follows. A piece

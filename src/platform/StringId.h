@@ -58,6 +58,7 @@ enum class StringId {
     PictureOpened, ///< %1 name, %2 and %3 numbers
     PastedName,    ///< Of an image from the clipboard.
     PastedColoursDiffer,
+    PicturesNameOtherNumber, ///< %1 number of pictures, %2 the first one, %3 palette number
     ImportPaletteCaption,
     ImportColourCount, ///< %1 number
     ImportAsNew,

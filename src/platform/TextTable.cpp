@@ -85,6 +85,10 @@ constexpr Row kRows[] = {
     Row{StringId::PastedColoursDiffer,
         QT_TRANSLATE_NOOP("Text", "The pasted colours are not those of the image: they will change when the "
                                   "piece is placed. Paste Matching Colours finds the nearest ones.")},
+    Row{StringId::PicturesNameOtherNumber,
+        QT_TRANSLATE_NOOP("Text",
+                          "Pictures of the project that no longer fit the image: %1, first \"%2\". Its "
+                          "palette number is %3 now.")},
     Row{StringId::ImportPaletteCaption, QT_TRANSLATE_NOOP("Text", "Import Palette")},
     Row{StringId::ImportColourCount, QT_TRANSLATE_NOOP("Text", "Colours in the file: %1")},
     Row{StringId::ImportAsNew, QT_TRANSLATE_NOOP("Text", "As a &new palette")},

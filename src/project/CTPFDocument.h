@@ -14,6 +14,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace dyeworks {
 
@@ -64,6 +65,8 @@ public:
     [[nodiscard]] bool GetPicture(const std::string& name, PictureEntry& entry) const {
         return projectFile_.GetPicture(name, entry);
     }
+    [[nodiscard]] std::vector<std::string> PicturesOfOtherNumber(const std::string& imageFile,
+                                                                 std::int32_t paletteNumber) const override;
     bool AddPicture(const std::optional<std::string>& name, const std::optional<std::string>& imageFile,
                     const std::optional<std::string>& paletteFile, std::int32_t paletteNumber,
                     const std::optional<std::string>& after, bool silent) override;
