@@ -2719,6 +2719,8 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     <message>
         <source>Unsaved work cannot be kept in case of a crash: %1</source>
         <translation>異常終了に備えて未保存の作業を控えておくことができません: %1</translation>
+        <source>Pictures of the project that no longer fit the image: %1, first &quot;%2&quot;. Its palette number is %3 now.</source>
+        <translation>プロジェクトのピクチャーのうち %1 個が、この画像に合わなくなりました（最初は「%2」）。画像のパレット番号は %3 になりました。</translation>
     </message>
 </context>
 </TS>

@@ -99,7 +99,7 @@ public:
     /// there is none. A step that belongs to other documents, too, is taken back (done again) in all of them.
     bool Undo();
     [[nodiscard]] bool CanUndo() const { return openEdit_ != nullptr || edits_.canUndo(); }
-    bool Redo() { return JointStep::move(*this, StepWay::Forward); }
+    bool Redo();
     /// For steps that this image shares with others.
     [[nodiscard]] JointDocument& jointSide() noexcept { return *this; }
     /// Ends drags and puts pieces that float into the image. False when one floats on.
@@ -228,6 +228,7 @@ private:
     void takeBackDrags();
     void followHistory();
     void showReplaced(Point moved);
+    void tellProject(std::uint16_t depthBefore) const;
     void refreshPalette(bool ofAnyPalette);
     void takeColours(const TextureLookupTable& palette);
     [[nodiscard]] const std::string& nameWithoutParts() const;

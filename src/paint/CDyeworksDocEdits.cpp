@@ -1,5 +1,7 @@
 #include "paint/CDyeworksDoc.h"
+#include "paint/CanvasDepth.h"
 #include "paint/CanvasDifference.h"
+#include "paint/OpenProject.h"
 #include "paint/WholeImageRecord.h"
 #include "platform/Platform.h"
 
@@ -7,6 +9,12 @@
 #include <utility>
 
 namespace dyeworks {
+
+namespace {
+
+constexpr int kMessagePane = 0;
+
+} // namespace
 
 bool CDyeworksDoc::openEdit(ImageViewer* viewer) {
     endOpenEdit();
@@ -127,9 +135,14 @@ void CDyeworksDoc::followHistory() {
 }
 
 bool CDyeworksDoc::ReplaceImage(const CanvasMaker& make, const Replacing& how) {
-    if (!settlePieces())
+    bool floats = false;
+    forEachViewer([&](const ImageViewer& viewer) { floats = floats || viewer.hasFloatingPiece(); });
+    // Pieces must not be placed for nothing.
+    const bool hopeless = floats && make(canvas_) == nullptr;
+    if (!hopeless && !settlePieces())
         return false;
-    std::unique_ptr<TextureCanvas> made = make(canvas_);
+    const std::uint16_t depth = canvas_.bitsPerPixel();
+    std::unique_ptr<TextureCanvas> made = hopeless ? nullptr : make(canvas_);
     const bool same = made != nullptr && made->width() == canvas_.width() &&
                       made->height() == canvas_.height() && made->bitsPerPixel() == canvas_.bitsPerPixel();
     const Rect whole{0, 0, canvas_.width() - 1, canvas_.height() - 1};
@@ -149,7 +162,23 @@ bool CDyeworksDoc::ReplaceImage(const CanvasMaker& make, const Replacing& how) {
     historyMoved_ = true;
     static_cast<void>(edits_.add(std::move(record)));
     showReplaced(how.moved);
+    tellProject(depth);
     return true;
+}
+
+/// Pictures of the project keep the palette number that they name. At 4 bits that has to be the bank that the
+/// image was made for, and at 8 bits, where there are no banks, 0.
+void CDyeworksDoc::tellProject(std::uint16_t depthBefore) const {
+    const OpenProject* const project = host_.openProject();
+    if (project == nullptr || pathName().empty() || canvas_.bitsPerPixel() == depthBefore)
+        return;
+    const std::int32_t number = canvas_.bitsPerPixel() == 4 ? paletteValue_ / kBankEntries : 0;
+    const std::vector<std::string> names = project->PicturesOfOtherNumber(pathName(), number);
+    host_.setStatusText(names.empty()
+                            ? std::string()
+                            : text(StringId::PicturesNameOtherNumber,
+                                   {std::to_string(names.size()), names.front(), std::to_string(number)}),
+                        kMessagePane);
 }
 
 /// The canvas is another one: everything that depends on its size, its depth or its colours follows. A piece

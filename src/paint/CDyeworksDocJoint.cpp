@@ -1,4 +1,5 @@
 #include "paint/CDyeworksDoc.h"
+#include "paint/ImageUndoRecord.h"
 #include "paint/WholeImageRecord.h"
 
 #include <utility>
@@ -6,6 +7,8 @@
 namespace dyeworks {
 
 namespace {
+
+constexpr int kMessagePane = 0;
 
 /// The texels (inclusive) that undoing or redoing a step changes; nothing when that cannot be told.
 std::optional<Rect> texelsOf(const UndoRecord* record, const TextureCanvas& canvas) {
@@ -28,7 +31,20 @@ bool CDyeworksDoc::Undo() {
     takeBackDrags();
     if (drawn || edits_.position() != before)
         return true;
-    return JointStep::move(*this, StepWay::Back);
+    const std::uint16_t depth = canvas_.bitsPerPixel();
+    if (!JointStep::move(*this, StepWay::Back))
+        return false;
+    if (canvas_.bitsPerPixel() != depth)
+        host_.setStatusText("", kMessagePane);
+    return true;
+}
+
+bool CDyeworksDoc::Redo() {
+    const std::uint16_t depth = canvas_.bitsPerPixel();
+    if (!JointStep::move(*this, StepWay::Forward))
+        return false;
+    tellProject(depth);
+    return true;
 }
 
 bool CDyeworksDoc::moveAlone(StepWay way) {

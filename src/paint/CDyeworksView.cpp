@@ -85,10 +85,14 @@ void CDyeworksView::Scrolled() {
         followPointer(window_.pointerPosition());
 }
 
+/// The image lives on in its other windows, and what floats in this one is a part of the work.
+bool CDyeworksView::MayClose() {
+    return document_.views().size() == 1 || selection_.commitFloatingPiece(false);
+}
+
 void CDyeworksView::Closing() {
-    // The image lives on in its other windows, and what floats in this one is a part of the work.
-    if (document_.views().size() > 1)
-        selection_.commitFloatingPiece(false);
+    // Where nobody was asked it has to go.
+    static_cast<void>(MayClose());
     saveSettings();
 }
 

@@ -23,6 +23,7 @@ namespace dyeworks {
 class DrawTool;
 class TextureCanvas;
 class ViewWindow;
+struct ViewLook;
 enum class CursorShape;
 
 /// A view of an image: what it shows and what the pointer, the keys and the commands do in it. Works through
@@ -49,6 +50,9 @@ public:
     void Resized();
     /// The image moved beneath the pointer, which is in the client area.
     void Scrolled();
+    /// Whether the window may close while the image lives on in others: not when the user then keeps a piece
+    /// that floats in it from being placed.
+    [[nodiscard]] bool MayClose();
     /// The window is about to close; it still stands where it stood.
     void Closing();
     /// The interval of `ViewWindow::startTicking` has passed.
@@ -60,6 +64,11 @@ public:
     /// image. A redraw request without kRedrawImage draws onto what the surface holds.
     void Paint(Surface& surface, const Rect& contentArea, std::uint32_t buttonFace,
                std::uint32_t redrawRequest = 0) const;
+    /// Draws a part of the image as it is printed: with its zoom, grid and selection, and without what only
+    /// helps to draw, as its copies and the lines of the mirrors. `area` (right and bottom exclusive) counts
+    /// from the image's corner, as the surface's origin does, and reaches to `printedSize`.
+    void PaintPrinted(Surface& surface, const Rect& area, std::uint32_t paperColour) const;
+    [[nodiscard]] Size printedSize() const;
     /// Draws what of the brush's outline under the pointer lies on the surface, whose origin is in content
     /// coordinates, over what a paint has left there.
     void PaintBrush(const Surface& surface) const;
@@ -71,6 +80,8 @@ public:
     void PointerPressed(const PointerEvent& event);
     void PointerMoved(const PointerEvent& event);
     void PointerReleased(const PointerEvent& event);
+    /// The pointer has come from something else, as from a menu that closed, and need not move.
+    void PointerEntered(Point client);
     /// The pointer is over something else now.
     void PointerLeft();
     /// The capture was taken away other than by `releasePointer`.
@@ -129,6 +140,7 @@ private:
     [[nodiscard]] ImageViewer& viewer() noexcept override { return *this; }
 
     [[nodiscard]] ViewGeometry geometry() const;
+    [[nodiscard]] ViewLook look(std::uint32_t outsideColour, std::uint32_t redrawRequest) const;
     [[nodiscard]] Size imageSize() const;
     void applyZoom(bool redraw);
     void scrollTo(Point position);
@@ -225,6 +237,8 @@ private:
     /// Of the drag that is going on. Shared with the call that the tool is in: a preview may end the drag
     /// there.
     std::shared_ptr<DrawTool> tool_;
+    /// Where the left button has gone up since its last press.
+    std::optional<PointerEvent> released_;
     Point dragCopy_; ///< Way to the copy of the image that it began in.
     Point pointed_;  ///< The texel that the status line tells of.
     struct PointedBrush {

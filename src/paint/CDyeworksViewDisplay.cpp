@@ -20,24 +20,29 @@ ImageSelection::RedrawRequest CDyeworksView::BeginPaint() {
     return selection_.takeRedrawRequest();
 }
 
-void CDyeworksView::Paint(Surface& surface, const Rect& contentArea, std::uint32_t buttonFace,
-                          std::uint32_t redrawRequest) const {
+ViewLook CDyeworksView::look(std::uint32_t outsideColour, std::uint32_t redrawRequest) const {
     ViewLook look;
     look.zoom = zoom_;
     look.gridShown = gridShown_;
-    look.repeated = repeated_;
-    look.standingOut = standingOut_;
-    look.mirrorsAcross = drawingOptions().mirrorAcross;
-    look.mirrorsDown = drawingOptions().mirrorDown;
     look.noPalette = showsNoPalette();
-    look.outsideColour = buttonFace;
+    look.outsideColour = outsideColour;
     look.imageShown = redrawRequest == 0 || (redrawRequest & ImageSelection::kRedrawImage) != 0;
     look.selection = selection_.look(redrawRequest);
+    return look;
+}
+
+void CDyeworksView::Paint(Surface& surface, const Rect& contentArea, std::uint32_t buttonFace,
+                          std::uint32_t redrawRequest) const {
+    ViewLook shown = look(buttonFace, redrawRequest);
+    shown.repeated = repeated_;
+    shown.standingOut = standingOut_;
+    shown.mirrorsAcross = drawingOptions().mirrorAcross;
+    shown.mirrorsDown = drawingOptions().mirrorDown;
     const Point origin = geometry().origin();
     Surface logical = surface;
     logical.originX -= origin.x;
     logical.originY -= origin.y;
-    ViewRenderer(document_.canvas(), look)
+    ViewRenderer(document_.canvas(), shown)
         .draw(logical, {contentArea.left - origin.x, contentArea.top - origin.y, contentArea.right - origin.x,
                         contentArea.bottom - origin.y});
 }
@@ -45,6 +50,14 @@ void CDyeworksView::Paint(Surface& surface, const Rect& contentArea, std::uint32
 void CDyeworksView::StandOut(std::optional<std::uint32_t> value) {
     if (std::exchange(standingOut_, value) != value)
         window_.invalidateAll();
+}
+
+void CDyeworksView::PaintPrinted(Surface& surface, const Rect& area, std::uint32_t paperColour) const {
+    ViewRenderer(document_.canvas(), look(paperColour, 0)).draw(surface, area);
+}
+
+Size CDyeworksView::printedSize() const {
+    return ViewGeometry(zoom_, imageSize(), {}, {}).contentSize();
 }
 
 void CDyeworksView::Tick() {

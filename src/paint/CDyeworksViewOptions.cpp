@@ -100,6 +100,11 @@ void CDyeworksView::drawingOptionsChanged() {
     showBrush(window_.pointerPosition());
 }
 
+void CDyeworksView::PointerEntered(Point client) {
+    pointerInside_ = true;
+    showBrush(client);
+}
+
 void CDyeworksView::PointerLeft() {
     pointerInside_ = false;
     showBrush({});

@@ -24,6 +24,7 @@ void CDyeworksView::PointerPressed(const PointerEvent& event) {
         pickColour(event.position);
     if (event.button != PointerButton::Left)
         return;
+    released_.reset();
     if (event.shift) {
         scrollDragging_ = true;
         scrollDragPoint_ = event.position;
@@ -50,6 +51,9 @@ void CDyeworksView::PointerPressed(const PointerEvent& event) {
         window_.capturePointer();
         // Not before the drag has begun: a preview may end it.
         document_.ShowEdit();
+        // The button may have gone up in the event loop of a preview, before there was a drag to end.
+        if (const std::optional<PointerEvent> released = released_)
+            PointerReleased(*released);
     }
 }
 
@@ -72,7 +76,10 @@ void CDyeworksView::PointerMoved(const PointerEvent& event) {
 }
 
 void CDyeworksView::PointerReleased(const PointerEvent& event) {
-    if (event.button != PointerButton::Left || !dragging())
+    if (event.button != PointerButton::Left)
+        return;
+    released_ = event;
+    if (!dragging())
         return;
     const std::shared_ptr<DrawTool> tool = endDrag();
     if (tool != nullptr) {

@@ -83,6 +83,7 @@ enum class StringId {
     JointRedoAll,
     JointUndoRest,
     JointRedoRest,
+    PicturesNameOtherNumber, ///< %1 number of pictures, %2 the first one, %3 palette number
     ImportPaletteCaption,
     ImportColourCount, ///< %1 number
     ImportAsNew,

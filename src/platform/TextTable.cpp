@@ -120,6 +120,10 @@ constexpr Row kRows[] = {
     Row{StringId::JointRedoAll, QT_TRANSLATE_NOOP("Text", "Do you want to do those again, too?")},
     Row{StringId::JointUndoRest, QT_TRANSLATE_NOOP("Text", "Do you want to take it back in the others?")},
     Row{StringId::JointRedoRest, QT_TRANSLATE_NOOP("Text", "Do you want to do it again in the others?")},
+    Row{StringId::PicturesNameOtherNumber,
+        QT_TRANSLATE_NOOP("Text",
+                          "Pictures of the project that no longer fit the image: %1, first \"%2\". Its "
+                          "palette number is %3 now.")},
     Row{StringId::ImportPaletteCaption, QT_TRANSLATE_NOOP("Text", "Import Palette")},
     Row{StringId::ImportColourCount, QT_TRANSLATE_NOOP("Text", "Colours in the file: %1")},
     Row{StringId::ImportAsNew, QT_TRANSLATE_NOOP("Text", "As a &new palette")},

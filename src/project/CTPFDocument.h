@@ -15,6 +15,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace dyeworks {
 
@@ -73,6 +74,8 @@ public:
         std::string palette;
     };
     [[nodiscard]] PictureFiles FilesOf(const std::string& name) const;
+    [[nodiscard]] std::vector<std::string> PicturesOfOtherNumber(const std::string& imageFile,
+                                                                 std::int32_t paletteNumber) const override;
     bool AddPicture(const std::optional<std::string>& name, const std::optional<std::string>& imageFile,
                     const std::optional<std::string>& paletteFile, std::int32_t paletteNumber,
                     const std::optional<std::string>& after, bool silent) override;

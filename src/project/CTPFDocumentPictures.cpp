@@ -2,6 +2,7 @@
 #include "paint/CDyeworksDoc.h"
 #include "platform/Platform.h"
 #include "platform/ProgramPath.h"
+#include "platform/TextCase.h"
 #include "project/CTPFDocument.h"
 #include "project/PathHelpers.h"
 
@@ -68,6 +69,18 @@ std::string CTPFDocument::freeName(const std::string& proposed) const {
     while (projectFile_.pictures.contains(name))
         name = base + std::to_string(next++);
     return name;
+}
+
+std::vector<std::string> CTPFDocument::PicturesOfOtherNumber(const std::string& imageFile,
+                                                             std::int32_t paletteNumber) const {
+    std::vector<std::string> names;
+    for (const std::string& name : projectFile_.order) {
+        PictureEntry entry;
+        if (projectFile_.GetPicture(name, entry) && entry.paletteNo != paletteNumber &&
+            equalIgnoringCase(findFile(projectFile_.tmfDir, entry.tmfFile), imageFile))
+            names.push_back(name);
+    }
+    return names;
 }
 
 bool CTPFDocument::AddPicture(const std::optional<std::string>& name,

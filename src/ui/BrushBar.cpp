@@ -23,6 +23,7 @@ BrushBar::BrushBar()
     setObjectName(QStringLiteral("ID_VIEW_BRUSHBAR"));
     setWhatsThis(shown(StringId::HelpBrushBar));
     size_->setObjectName(QStringLiteral("IDC_BRUSH_SIZE"));
+    size_->setEnabled(false);
     size_->setRange(1, Brush::kMaxSize);
     size_->setAccessibleName(shown(StringId::BrushSize));
     size_->setToolTip(shown(StringId::BrushSizeTip));
@@ -44,6 +45,10 @@ BrushBar::BrushBar()
 
 BrushBar::~BrushBar() {
     removeDrawingOptionsListener(*this);
+}
+
+void BrushBar::enableSize(bool enabled) {
+    size_->setEnabled(enabled);
 }
 
 void BrushBar::drawingOptionsChanged() {

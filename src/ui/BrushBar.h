@@ -19,6 +19,10 @@ public:
     BrushBar(const BrushBar&) = delete;
     BrushBar& operator=(const BrushBar&) = delete;
 
+    /// Without an image there is nothing to draw in, and the field would be the only one to take the keys. It
+    /// cannot be used at first.
+    void enableSize(bool enabled);
+
 private:
     void drawingOptionsChanged() override;
 

@@ -143,6 +143,7 @@ void CMainFrame::makeProjectBar() {
 void CMainFrame::makeBrushBar() {
     auto* bar = new BrushBar;
     fillToolBar(*bar, brushBarItems(), actions_);
+    connect(actions_.action(ID_BRUSH_ROUND), &QAction::enabledChanged, bar, &BrushBar::enableSize);
     // In a row of its own, which is there only while the bar is.
     addToolBarBreak(Qt::TopToolBarArea);
     addToolBar(Qt::TopToolBarArea, bar);

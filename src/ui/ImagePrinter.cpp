@@ -41,7 +41,7 @@ QRect toQt(const Rect& rectangle) {
     surface.stride = strip.bytesPerLine() / static_cast<qsizetype>(sizeof(std::uint32_t));
     surface.originX = content.left;
     surface.originY = content.top;
-    view.Paint(surface, content, kPaperColour);
+    view.PaintPrinted(surface, content, kPaperColour);
     painter.drawImage(paper, strip);
     return true;
 }
@@ -62,12 +62,12 @@ QRect toQt(const Rect& rectangle) {
 
 int ImagePrinter::pageCount(const QPrinter& printer) const {
     return view_.view().showsNoPalette() ? 1
-                                         : planFor(view_, view_.view().contentSize(), printer).pageCount();
+                                         : planFor(view_, view_.view().printedSize(), printer).pageCount();
 }
 
 bool ImagePrinter::print(QPrinter& printer, const Progress& progress) const {
     const CDyeworksView& view = view_.view();
-    const PagePlan plan = planFor(view_, view.contentSize(), printer);
+    const PagePlan plan = planFor(view_, view.printedSize(), printer);
     const int pages = pageCount(printer);
     const int first = printer.fromPage() > 0 ? printer.fromPage() : 1;
     const int last = printer.toPage() > 0 ? std::min(printer.toPage(), pages) : pages;

@@ -8,8 +8,8 @@ namespace dyeworks {
 
 class ImageView;
 
-/// Prints the image of a view as the view shows it: at its zoom, with its grid, in the size that it has on
-/// the screen, over as many pages as that takes.
+/// Prints the image of a view as the view shows it, but once and without the lines of the mirrors: at its
+/// zoom, with its grid, in the size that it has on the screen, over as many pages as that takes.
 class ImagePrinter {
 public:
     /// Told before each page, with its number counted from 1 and the number of all; false stops the printing.

@@ -24,8 +24,8 @@ struct Pane {
 
 constexpr std::array kPanes{
     Pane{"ID_SEPARATOR", "", 0, "", StringId::HelpMessagePane},
-    Pane{"ID_INDICATOR_POSITION", "(0, 0)", 96, "(1024, 1024) 1600%", StringId::HelpPositionPane},
-    Pane{"ID_INDICATOR_SIZE", "(0, 0) 4bit", 120, "(1024, 1024) 8bit", StringId::HelpSizePane},
+    Pane{"ID_INDICATOR_POSITION", "(0, 0)", 96, "(65535, 65535) 1600%", StringId::HelpPositionPane},
+    Pane{"ID_INDICATOR_SIZE", "(0, 0) 4bit", 120, "(65536, 65536) 8bit", StringId::HelpSizePane},
 };
 
 } // namespace

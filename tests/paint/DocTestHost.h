@@ -73,6 +73,11 @@ public:
         added.push_back(imageFile.value_or("none") + "," + paletteFile.value_or("none"));
         return true;
     }
+    std::vector<std::string> PicturesOfOtherNumber(const std::string& imageFile,
+                                                   std::int32_t paletteNumber) const override {
+        return imageFile == "c:\\a.tmf" && paletteNumber != 3 ? std::vector<std::string>{"sky", "sea"}
+                                                              : std::vector<std::string>();
+    }
     std::vector<std::string> added;
 };
 

@@ -240,6 +240,9 @@ TEST_F(ImageSize, WithoutMemoryEverythingStays) {
     EXPECT_EQ(pixels(), before);
     EXPECT_EQ(document.edits().steps->count(), 1);
     EXPECT_TRUE(view.selection().texels());
+    view.selection().setFloatingPiece(document.canvas().CopyRect(0, 0, 2, 2));
+    EXPECT_FALSE(document.ReplaceImage([](const auto&) { return nullptr; }));
+    EXPECT_TRUE(view.selection().hasFloatingPiece());
     EXPECT_EQ(resized(document.canvas(), {65536, 65536}, {}, 0), nullptr);
 }
 

@@ -43,10 +43,14 @@ protected:
 };
 
 TEST_F(ImageWorkCommands, ADepthShowsWhatTheEyeSawThereAndBack) {
+    FakeProject project; // Whose picture of the image names bank 3.
+    host.project = &project;
+    document.setPathName("c:\\a.tmf");
     fill(0, 0, 0x35);
     pixel(1, 2, 0x3C);
     const auto before = seen();
     run(ID_IMAGE_TO_4_BITS);
+    EXPECT_EQ(host.panes[0], "");
     EXPECT_EQ(host.questions, 0);
     EXPECT_EQ(document.canvas().bitsPerPixel(), 4);
     EXPECT_EQ(document.canvas().GetPixel(1, 2), 0xCU);
@@ -54,6 +58,7 @@ TEST_F(ImageWorkCommands, ADepthShowsWhatTheEyeSawThereAndBack) {
     EXPECT_EQ(host.panes[2], "(6, 4) 4bit");
     EXPECT_EQ(seen(), before);
     run(ID_IMAGE_TO_8_BITS);
+    EXPECT_EQ(host.panes[0], text(StringId::PicturesNameOtherNumber, {"2", "sky", "0"}));
     EXPECT_EQ(document.canvas().GetPixel(1, 2), 0x3CU);
     EXPECT_EQ(seen(), before);
     run(ID_EDIT_UNDO);

@@ -109,6 +109,23 @@ TEST_F(ViewFixture, ActivationShowsTheDocumentOncePerChange) {
     EXPECT_EQ(host.panes[1], "(8, 2) 100%");
 }
 
+TEST_F(ViewFixture, AButtonThatGoesUpWhileThePressIsPreviewedEndsTheDrag) {
+    host.active = &document;
+    document.runCommand(ID_PREVIEW1);
+    for (const Tool tool : {Tool::Pen, Tool::Pixel, Tool::Box}) {
+        view.selection().setFloatingPiece(document.canvas().CopyRect(0, 0, 2, 2));
+        setCurrentTool(tool);
+        host.plugIns.onPreview = [&] { release({5, 5}); };
+        press({5, 5});
+        host.plugIns.onPreview = nullptr;
+        EXPECT_FALSE(view.dragging());
+        EXPECT_EQ(document.canvas().GetPixel(5, 5), 9U);
+        EXPECT_TRUE(document.Undo());
+        EXPECT_EQ(document.canvas().GetPixel(5, 5), 0U);
+    }
+    setCurrentTool(Tool::Select);
+}
+
 TEST_F(ViewFixture, PreviewsSeeADragEndAndNoEventReachesWhatHasGone) {
     host.active = &document;
     document.runCommand(ID_PREVIEW1);
@@ -148,6 +165,12 @@ TEST_F(ViewFixture, APieceThatMayNotBePlacedFloatsOn) {
         press({9, 9});
         platform.messages.answerWith(MessageAnswer::No);
         EXPECT_FALSE(document.save());
+        {
+            FakeViewWindow otherWindow;
+            const CDyeworksView other(document, otherWindow);
+            platform.messages.answerWith(MessageAnswer::No);
+            EXPECT_FALSE(view.MayClose());
+        }
         EXPECT_TRUE(view.selection().hasFloatingPiece());
         EXPECT_EQ(view.selection().texels(), place);
         view.CancelDrag();

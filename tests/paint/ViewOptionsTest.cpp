@@ -90,6 +90,19 @@ TEST_F(ViewOptions, WhatIsDrawnInACopyIsDrawnInTheImage) {
     }
 }
 
+TEST_F(ViewOptions, PaperShowsNeitherCopiesNorMirrorLines) {
+    seen.SetZoom(2);
+    const auto before = shown.painted(0);
+    setDrawingOptions({{}, true, true, false});
+    seen.ToggleRepeat();
+    shown.scroll = {};
+    ASSERT_NE(shown.painted(0), before);
+    EXPECT_EQ(shown.drawn([this](Surface& surface, const Rect& area) {
+        seen.PaintPrinted(surface, area, PaintingWindow::kOutside);
+    }),
+              before);
+}
+
 TEST_F(ViewOptions, RepeatKeepsTheImageWhereItIsAndComesBack) {
     document.setPathName("c:\\a.tmf");
     ASSERT_TRUE(document.save());

@@ -67,6 +67,14 @@ TEST_F(Project, KeepsRulesForTheImagesOfItsPictures) {
     EXPECT_FALSE(document_.holdsImage("c:\\p\\a.tmf"));
 }
 
+TEST_F(Project, TellsPicturesOfAnImageThatNameAnotherNumber) {
+    fake_.files.putFile("c:\\p\\Sea.tmf", "");
+    open("PICT.0\t=\tone,sea.tmf,a.tlf,2\r\nPICT.1\t=\ttwo,SEA.tmf,a.tlf,0\r\n"
+         "PICT.2\t=\tthree,gone.tmf,a.tlf,2\r\nPICT_NUM\t=\t3\r\n");
+    EXPECT_THAT(document_.PicturesOfOtherNumber("C:\\p\\sea.tmf", 0), ElementsAre("one"));
+    EXPECT_THAT(document_.PicturesOfOtherNumber("c:\\p\\sea.tmf", 2), ElementsAre("two"));
+}
+
 TEST_F(Project, MarksItsTitleWhileItIsModified) {
     open("");
     document_.SetValue("Note.1", "x");

@@ -101,7 +101,10 @@ QSize ChildFrame::minimumSizeHint() const {
 void ChildFrame::closeEvent(QCloseEvent* event) {
     if (document_ != nullptr) {
         // A document that closes may run an event loop, in which the frame is closed again.
-        if (releasing_ || (asks_ && isLastOfDocument() && !document_->mayClose())) {
+        const auto mayClose = [this] {
+            return isLastOfDocument() ? document_->mayClose() : view_->mayClose(*this);
+        };
+        if (releasing_ || (asks_ && !mayClose())) {
             event->ignore();
             return;
         }

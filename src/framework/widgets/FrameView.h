@@ -23,6 +23,8 @@ public:
     virtual void initialUpdate(ChildFrame& /*frame*/) {}
     /// The frame became the active one.
     virtual void activated(ChildFrame& /*frame*/) {}
+    /// Asked before the frame goes while other frames keep the document open.
+    virtual bool mayClose(ChildFrame& /*frame*/) { return true; }
     /// The frame goes; it and the document are still whole. The last moment to record where the window stood.
     virtual void closing(ChildFrame& /*frame*/) {}
 };

@@ -149,6 +149,10 @@ void ImageView::activated(ChildFrame&) {
     view_.Activated();
 }
 
+bool ImageView::mayClose(ChildFrame&) {
+    return view_.MayClose();
+}
+
 void ImageView::closing(ChildFrame&) {
     view_.Closing();
     frame_ = nullptr;
@@ -354,6 +358,8 @@ void ImageView::mouseDoubleClickEvent(QMouseEvent* event) {
 bool ImageView::viewportEvent(QEvent* event) {
     if (event->type() == QEvent::Leave)
         view_.PointerLeft();
+    else if (event->type() == QEvent::Enter)
+        view_.PointerEntered(pixelAt(static_cast<const QEnterEvent*>(event)->position()));
     return ScrollView::viewportEvent(event);
 }
 

@@ -28,6 +28,7 @@ public:
     DocumentView& documentView() override { return view_; }
     void initialUpdate(ChildFrame& frame) override;
     void activated(ChildFrame& frame) override;
+    bool mayClose(ChildFrame& frame) override;
     void closing(ChildFrame& frame) override;
 
 Q_SIGNALS:
