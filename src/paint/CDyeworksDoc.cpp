@@ -104,6 +104,11 @@ std::int32_t CDyeworksDoc::firstEntryFor(const TextureLookupTable& palette) cons
     return paletteValue_ >= 0 && paletteValue_ <= palette.table.count - colours ? paletteValue_ : 0;
 }
 
+std::int32_t CDyeworksDoc::firstEntry() const {
+    const TextureLookupTable* const palette = canvas_.bitsPerPixel() == 4 ? GetAttachedPalette() : nullptr;
+    return palette == nullptr ? 0 : firstEntryFor(*palette);
+}
+
 void CDyeworksDoc::UpdateTitle() {
     baseName_ = nameWithoutParts();
     std::string composed = baseName_;

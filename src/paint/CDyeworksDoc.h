@@ -91,6 +91,12 @@ public:
     bool ReplaceImage(const CanvasMaker& make, const Replacing& how);
     bool ReplaceImage(const CanvasMaker& make) { return ReplaceImage(make, {}); }
 
+    /// Another number after each change of the texels, once the edit has been committed; no other image, nor
+    /// this one before, has had it.
+    [[nodiscard]] std::uint64_t texelState() const noexcept { return texelState_; }
+    /// Whether an edit is open: the canvas then holds what may be taken back.
+    [[nodiscard]] bool isBeingEdited() const noexcept { return openEdit_ != nullptr; }
+
     bool Undo();
     bool Redo();
     void ClearUndo() { edits_.restart(); }
@@ -124,6 +130,8 @@ public:
     /// First palette entry that the image uses: what the palette bar stored when its bank was last chosen for
     /// this image.
     [[nodiscard]] std::int32_t paletteValue() const noexcept { return paletteValue_; }
+    /// The entry of the attached palette that index 0 shows; 0 without one and at other depths than 4 bits.
+    [[nodiscard]] std::int32_t firstEntry() const;
     void setPaletteValue(std::int32_t value) noexcept { paletteValue_ = value; }
 
     // Plug-ins, by their numbers in the lists of `ImagePlugIns`.
@@ -175,6 +183,7 @@ private:
     void showEverywhere(ImageViewer* viewer);
     [[nodiscard]] bool openEdit(ImageViewer* viewer);
     void endOpenEdit();
+    void texelsChanged();
     [[nodiscard]] static bool goesWithoutUndo();
     void editedWithoutUndo(ImageViewer* viewer);
     void contentsAreSaved();
@@ -233,8 +242,9 @@ private:
     std::unique_ptr<ImageEdit> openEdit_;
     std::array<Preview, kPreviews> previews_{};
     std::uint64_t newestShown_ = 0; ///< Counts the states of the image that were to be shown.
-    bool historyMoved_ = false;     ///< Since the flag and the title last followed it.
-    bool unrecorded_ = false;       ///< An edit that no step tells of has been made since the last save.
+    std::uint64_t texelState_ = 0;
+    bool historyMoved_ = false; ///< Since the flag and the title last followed it.
+    bool unrecorded_ = false;   ///< An edit that no step tells of has been made since the last save.
     DisplayPalette displayPalette_;
     std::string attachedName_;
     std::int32_t paletteValue_ = 0;

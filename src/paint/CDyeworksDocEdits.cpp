@@ -8,6 +8,11 @@
 
 namespace dyeworks {
 
+void CDyeworksDoc::texelsChanged() {
+    static std::uint64_t latest = 0;
+    texelState_ = ++latest;
+}
+
 bool CDyeworksDoc::openEdit(ImageViewer* viewer) {
     endOpenEdit();
     if (!snapshot_.take(canvas_))
@@ -52,6 +57,7 @@ bool CDyeworksDoc::goesWithoutUndo() {
 void CDyeworksDoc::editedWithoutUndo(ImageViewer* viewer) {
     if (canvas_.changedRect()) {
         historyMoved_ = unrecorded_ = true;
+        texelsChanged();
         edits_.loseSavedPosition();
     }
     showEverywhere(viewer);
@@ -86,6 +92,7 @@ void CDyeworksDoc::showTakenBack(ImageViewer* viewer) {
 
 bool CDyeworksDoc::recordStep(const TextureCanvas& before, const Rect& changed) {
     historyMoved_ = true;
+    texelsChanged();
     const bool recorded = edits_.add(makeRecord_(before, canvas_, changed));
     unrecorded_ = unrecorded_ || !recorded;
     return recorded;
@@ -125,6 +132,7 @@ bool CDyeworksDoc::step(bool (EditHistory::*move)(void*), const UndoRecord* reco
     if (!(edits_.*move)(&canvas_))
         return false;
     historyMoved_ = true;
+    texelsChanged();
     if (whole != nullptr)
         showReplaced(whole->moved());
     else
@@ -153,6 +161,7 @@ bool CDyeworksDoc::ReplaceImage(const CanvasMaker& make, const Replacing& how) {
     }
     record->redo(&canvas_);
     historyMoved_ = true;
+    texelsChanged();
     static_cast<void>(edits_.add(std::move(record)));
     showReplaced(how.moved);
     return true;
@@ -194,6 +203,7 @@ void CDyeworksDoc::takeBackDrags() {
 void CDyeworksDoc::contentsAreSaved() {
     edits_.restartSaved();
     unrecorded_ = false;
+    texelsChanged();
 }
 
 } // namespace dyeworks

@@ -76,6 +76,7 @@ void CDyeworksDoc::ImportThrough(std::int32_t plugIn) {
 
     const std::unique_ptr<TextureCanvas> before = canvas_.Clone();
     canvas_.FromImage(*image);
+    texelsChanged();
     const Rect whole{0, 0, canvas_.width() - 1, canvas_.height() - 1};
     if (before == nullptr || differingRect(*before, canvas_, whole))
         edits_.loseSavedPosition();
