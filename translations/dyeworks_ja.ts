@@ -1061,6 +1061,26 @@ Paste Matching Colours</source>
         <translation>クリップボードの絵を画像のパレットの最も近い色で貼り付けます
 色を合わせて貼り付け</translation>
     </message>
+    <message>
+        <source>R&amp;ules...</source>
+        <translation>ルール(&amp;U)...</translation>
+    </message>
+    <message>
+        <source>Say what the images of the project must keep to
+Rules</source>
+        <translation>プロジェクトの画像が守るルールを決めます
+ルール</translation>
+    </message>
+    <message>
+        <source>Rule &amp;Findings</source>
+        <translation>ルール違反(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Show or hide the list of what breaks a rule
+Toggle Rule Findings</source>
+        <translation>ルール違反の一覧の表示と非表示を切り替えます
+ルール違反の表示切り替え</translation>
+    </message>
 </context>
 <context>
     <name>FolderPick</name>
@@ -2721,6 +2741,236 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <translation>異常終了に備えて未保存の作業を控えておくことができません: %1</translation>
         <source>Pictures of the project that no longer fit the image: %1, first &quot;%2&quot;. Its palette number is %3 now.</source>
         <translation>プロジェクトのピクチャーのうち %1 個が、この画像に合わなくなりました（最初は「%2」）。画像のパレット番号は %3 になりました。</translation>
+        <source>Rule Findings</source>
+        <translation>ルール違反</translation>
+    </message>
+    <message>
+        <source>Lists what in the open images breaks a rule, and where. A click, or Enter, goes there.</source>
+        <translation>開いている画像のうちルールに反するものと、その場所の一覧です。クリックするか Enter を押すと、そこへ移ります。</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>ルール</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>場所</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>理由</translation>
+    </message>
+    <message>
+        <source>No rule is set.</source>
+        <translation>ルールは設定されていません。</translation>
+    </message>
+    <message>
+        <source>Nothing breaks a rule.</source>
+        <translation>ルールに反するものはありません。</translation>
+    </message>
+    <message>
+        <source>R&amp;ules...</source>
+        <translation>ルール(&amp;U)...</translation>
+    </message>
+    <message>
+        <source>Set the rules of the open project, or those of all other images</source>
+        <translation>開いているプロジェクトのルール、またはほかのすべての画像のルールを設定します</translation>
+    </message>
+    <message>
+        <source>Largest size</source>
+        <translation>最大の大きさ</translation>
+    </message>
+    <message>
+        <source>Powers of two</source>
+        <translation>2 のべき乗</translation>
+    </message>
+    <message>
+        <source>Bytes of the texels</source>
+        <translation>テクセルのバイト数</translation>
+    </message>
+    <message>
+        <source>Bytes with the colours</source>
+        <translation>色を含むバイト数</translation>
+    </message>
+    <message>
+        <source>Colours of a block</source>
+        <translation>ブロックの色数</translation>
+    </message>
+    <message>
+        <source>First entry transparent</source>
+        <translation>先頭のエントリーが透明</translation>
+    </message>
+    <message>
+        <source>Indexes inside the palette</source>
+        <translation>インデックスがパレット内</translation>
+    </message>
+    <message>
+        <source>Alpha only 0 or full</source>
+        <translation>アルファは 0 か最大のみ</translation>
+    </message>
+    <message>
+        <source>Whole image</source>
+        <translation>画像全体</translation>
+    </message>
+    <message>
+        <source>Entry %1</source>
+        <translation>エントリー %1</translation>
+    </message>
+    <message>
+        <source>Texel %1, %2</source>
+        <translation>テクセル %1, %2</translation>
+    </message>
+    <message>
+        <source>Texels %1, %2 to %3, %4</source>
+        <translation>テクセル %1, %2 ～ %3, %4</translation>
+    </message>
+    <message>
+        <source>%1 by %2 texels, at most %3 by %4</source>
+        <translation>%1 × %2 テクセル (最大 %3 × %4)</translation>
+    </message>
+    <message>
+        <source>%1 by %2 texels</source>
+        <translation>%1 × %2 テクセル</translation>
+    </message>
+    <message>
+        <source>%1 bytes, at most %2</source>
+        <translation>%1 バイト (最大 %2)</translation>
+    </message>
+    <message>
+        <source>%1 colours, at most %2</source>
+        <translation>%1 色 (最大 %2)</translation>
+    </message>
+    <message>
+        <source>Its alpha is %1, not 0</source>
+        <translation>アルファが 0 ではなく %1 です</translation>
+    </message>
+    <message>
+        <source>%2 texels have index %1, the palette has %3 entries</source>
+        <translation>%2 テクセルのインデックスが %1 ですが、パレットは %3 エントリーです</translation>
+    </message>
+    <message>
+        <source>Has index %1, the palette has %2 entries</source>
+        <translation>インデックスが %1 ですが、パレットは %2 エントリーです</translation>
+    </message>
+    <message>
+        <source>Its alpha is %1, neither 0 nor 255</source>
+        <translation>アルファが 0 でも 255 でもなく %1 です</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>ほか %1 件</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>ルール</translation>
+    </message>
+    <message>
+        <source>Rules of the Project</source>
+        <translation>プロジェクトのルール</translation>
+    </message>
+    <message>
+        <source>What images must keep to that are no pictures of the open project.</source>
+        <translation>開いているプロジェクトのピクチャーではない画像が守るルールです。</translation>
+    </message>
+    <message>
+        <source>&amp;Largest size</source>
+        <translation>最大の大きさ(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Neither side of the image is longer.</source>
+        <translation>画像のどちらの辺もこれより長くありません。</translation>
+    </message>
+    <message>
+        <source>&amp;Powers of two</source>
+        <translation>2 のべき乗(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Width and height are each 1, 2, 4, 8, 16 and so on.</source>
+        <translation>幅も高さも 1、2、4、8、16 などです。</translation>
+    </message>
+    <message>
+        <source>&amp;Bytes of the texels</source>
+        <translation>テクセルのバイト数(&amp;B)</translation>
+    </message>
+    <message>
+        <source>No more than these, in rows of whole four bytes as in the image&apos;s file.</source>
+        <translation>これを超えません。画像ファイルと同じく、各行は 4 バイト単位です。</translation>
+    </message>
+    <message>
+        <source>Bytes &amp;with the colours</source>
+        <translation>色を含むバイト数(&amp;W)</translation>
+    </message>
+    <message>
+        <source>The same and two bytes an entry: the 16 of the bank, or, at 8 bits, the whole palette.</source>
+        <translation>上に、エントリーごとの 2 バイトを加えます。バンクの 16 個、8 ビットではパレット全体です。</translation>
+    </message>
+    <message>
+        <source>&amp;Colours of a block</source>
+        <translation>ブロックの色数(&amp;C)</translation>
+    </message>
+    <message>
+        <source>No more different indexes in any block of that many texels by that many.</source>
+        <translation>この大きさのどのブロックでも、異なるインデックスはこの数以下です。</translation>
+    </message>
+    <message>
+        <source>First entry &amp;transparent</source>
+        <translation>先頭のエントリーが透明(&amp;T)</translation>
+    </message>
+    <message>
+        <source>The entry of index 0, at 4 bits the first of the bank, has alpha 0.</source>
+        <translation>インデックス 0 のエントリー (4 ビットではバンクの先頭) のアルファが 0 です。</translation>
+    </message>
+    <message>
+        <source>&amp;Indexes inside the palette</source>
+        <translation>インデックスがパレット内(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Every texel&apos;s entry exists; at 4 bits it is counted from the first of the bank.</source>
+        <translation>どのテクセルのエントリーも存在します。4 ビットではバンクの先頭から数えます。</translation>
+    </message>
+    <message>
+        <source>&amp;Alpha only 0 or full</source>
+        <translation>アルファは 0 か最大のみ(&amp;A)</translation>
+    </message>
+    <message>
+        <source>No entry of an IA palette is half transparent: its alpha is 0 or 255.</source>
+        <translation>IA パレットのエントリーに半透明のものはありません。アルファは 0 か 255 です。</translation>
+    </message>
+    <message>
+        <source>Largest width in texels, 1 to %1</source>
+        <translation>最大の幅 (テクセル)、1 ～ %1</translation>
+    </message>
+    <message>
+        <source>Largest height in texels, 1 to %1</source>
+        <translation>最大の高さ (テクセル)、1 ～ %1</translation>
+    </message>
+    <message>
+        <source>Most bytes, 1 to %1</source>
+        <translation>最大のバイト数、1 ～ %1</translation>
+    </message>
+    <message>
+        <source>Most colours of a block, 1 to %1</source>
+        <translation>ブロックの最大の色数、1 ～ %1</translation>
+    </message>
+    <message>
+        <source>Texels on each side of a block, %1 to %2</source>
+        <translation>ブロックの辺のテクセル数、%1 ～ %2</translation>
+    </message>
+    <message>
+        <source>texels</source>
+        <translation>テクセル</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>バイト</translation>
+    </message>
+    <message>
+        <source>in blocks with sides of</source>
+        <translation>色、ブロックの辺</translation>
+    </message>
+    <message>
+        <source>What the images of the project&apos;s pictures must keep to. Rule Findings in the View menu lists what does not.</source>
+        <translation>プロジェクトのピクチャーの画像が守るルールです。反するものは[表示]メニューの[ルール違反]に並びます。</translation>
     </message>
 </context>
 </TS>

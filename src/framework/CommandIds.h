@@ -146,6 +146,9 @@ inline constexpr CommandId ID_BRUSH_SQUARE = 33165;
 inline constexpr CommandId ID_BRUSH_ROUND = 33166;
 inline constexpr CommandId ID_MIRROR_ACROSS = 33167;
 inline constexpr CommandId ID_MIRROR_DOWN = 33168;
+
+inline constexpr CommandId ID_PROJECT_RULES = 33210;
+inline constexpr CommandId ID_VIEW_FINDINGS = 33211;
 // NOLINTEND(readability-identifier-naming)
 
 } // namespace dyeworks

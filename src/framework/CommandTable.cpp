@@ -236,6 +236,13 @@ constexpr CommandRow kRows[] = {
     CommandRow{ID_MIRROR_DOWN, QT_TRANSLATE_NOOP("Command", "Mirror &Down"),
                QT_TRANSLATE_NOOP("Command", "Draw above and below the middle alike\nMirror Down"), "",
                "mirror-down"},
+    CommandRow{ID_PROJECT_RULES, QT_TRANSLATE_NOOP("Command", "R&ules..."),
+               QT_TRANSLATE_NOOP("Command", "Say what the images of the project must keep to\nRules"), "",
+               ""},
+    CommandRow{
+        ID_VIEW_FINDINGS, QT_TRANSLATE_NOOP("Command", "Rule &Findings"),
+        QT_TRANSLATE_NOOP("Command", "Show or hide the list of what breaks a rule\nToggle Rule Findings"), "",
+        ""},
     CommandRow{ID_FILE_NEW, QT_TRANSLATE_NOOP("Command", "&New"),
                QT_TRANSLATE_NOOP("Command", "Create a new document\nNew"), "Ctrl+N", "new"},
     CommandRow{ID_FILE_OPEN, QT_TRANSLATE_NOOP("Command", "&Open..."),

@@ -95,6 +95,12 @@ public:
     bool ReplaceImage(const CanvasMaker& make, const Replacing& how);
     bool ReplaceImage(const CanvasMaker& make) { return ReplaceImage(make, {}); }
 
+    /// Another number after each change of the texels, once the edit has been committed; no other image, nor
+    /// this one before, has had it.
+    [[nodiscard]] std::uint64_t texelState() const noexcept { return texelState_; }
+    /// Whether an edit is open: the canvas then holds what may be taken back.
+    [[nodiscard]] bool isBeingEdited() const noexcept { return openEdit_ != nullptr; }
+
     /// Takes back the edit that is open or that a drag has recorded, otherwise the last step. False when
     /// there is none. A step that belongs to other documents, too, is taken back (done again) in all of them.
     bool Undo();
@@ -140,7 +146,7 @@ public:
     /// this image.
     [[nodiscard]] std::int32_t paletteValue() const noexcept { return paletteValue_; }
     void setPaletteValue(std::int32_t value) noexcept { paletteValue_ = value; }
-    /// The entry of the attached palette that value 0 shows; 0 without a palette.
+    /// The entry of the attached palette that value 0 shows; 0 without one and at other depths than 4 bits.
     [[nodiscard]] std::int32_t firstShownEntry() const;
 
     /// Entry of `palette`, the attached one or a copy of it, that the value 0 shows.
@@ -205,6 +211,7 @@ private:
     void showEverywhere(ImageViewer* viewer);
     [[nodiscard]] bool openEdit(ImageViewer* viewer);
     void endOpenEdit();
+    void texelsChanged();
     [[nodiscard]] static bool goesWithoutUndo();
     void editedWithoutUndo(ImageViewer* viewer);
     void contentsAreSaved();
@@ -262,6 +269,7 @@ private:
     std::unique_ptr<ImageEdit> openEdit_;
     std::array<Preview, kPreviews> previews_{};
     std::uint64_t newestShown_ = 0; ///< Counts the states of the image that were to be shown.
+    std::uint64_t texelState_ = 0;
     bool historyMoved_ = false;     ///< Since the flag and the title last followed it.
     bool unrecorded_ = false;       ///< An edit that no step tells of has been made since the last save.
     /// Steps have brought another canvas, which has not been shown yet; by how much the picture has moved.

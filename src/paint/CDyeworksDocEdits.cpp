@@ -16,6 +16,11 @@ constexpr int kMessagePane = 0;
 
 } // namespace
 
+void CDyeworksDoc::texelsChanged() {
+    static std::uint64_t latest = 0;
+    texelState_ = ++latest;
+}
+
 bool CDyeworksDoc::openEdit(ImageViewer* viewer) {
     endOpenEdit();
     if (!snapshot_.take(canvas_))
@@ -61,6 +66,7 @@ void CDyeworksDoc::editedWithoutUndo(ImageViewer* viewer) {
     if (canvas_.changedRect()) {
         counts_.forget();
         historyMoved_ = unrecorded_ = true;
+        texelsChanged();
         edits_.loseSavedPosition();
     }
     showEverywhere(viewer);
@@ -109,6 +115,7 @@ void CDyeworksDoc::showTakenBack(ImageViewer* viewer) {
 bool CDyeworksDoc::recordStep(const TextureCanvas& before, const Rect& changed, const TouchedTiles& touched) {
     historyMoved_ = true;
     counts_.change(before, canvas_, changed, touched);
+    texelsChanged();
     const bool recorded = edits_.add(makeRecord_(before, canvas_, changed));
     unrecorded_ = unrecorded_ || !recorded;
     return recorded;
@@ -160,6 +167,7 @@ bool CDyeworksDoc::ReplaceImage(const CanvasMaker& make, const Replacing& how) {
     }
     record->redo(&canvas_);
     historyMoved_ = true;
+    texelsChanged();
     static_cast<void>(edits_.add(std::move(record)));
     showReplaced(how.moved);
     tellProject(depth);
@@ -220,6 +228,7 @@ void CDyeworksDoc::contentsAreSaved() {
     edits_.restartSaved();
     counts_.forget();
     unrecorded_ = false;
+    texelsChanged();
 }
 
 } // namespace dyeworks

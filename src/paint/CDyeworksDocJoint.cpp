@@ -65,6 +65,7 @@ bool CDyeworksDoc::moveAlone(StepWay way) {
     if (texels)
         counts_.enter(canvas_, *texels);
     historyMoved_ = true;
+    texelsChanged();
     if (whole != nullptr) {
         const Point before = replaced_.value_or(Point{});
         replaced_ = Point{before.x + whole->moved().x, before.y + whole->moved().y};
@@ -76,6 +77,7 @@ void CDyeworksDoc::take(std::unique_ptr<UndoRecord> record) {
     record->redo(&canvas_);
     counts_.forget();
     historyMoved_ = true;
+    texelsChanged();
     static_cast<void>(edits_.add(std::move(record)));
 }
 

@@ -77,6 +77,7 @@ void CDyeworksDoc::ImportThrough(std::int32_t plugIn) {
     const std::unique_ptr<TextureCanvas> before = canvas_.Clone();
     canvas_.FromImage(*image);
     counts_.forget();
+    texelsChanged();
     const Rect whole{0, 0, canvas_.width() - 1, canvas_.height() - 1};
     if (before == nullptr || differingRect(*before, canvas_, whole))
         edits_.loseSavedPosition();

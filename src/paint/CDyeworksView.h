@@ -126,6 +126,9 @@ public:
     void StandOut(std::optional<std::uint32_t> value);
     /// The image stays where it is as far as the window lets it.
     void ToggleRepeat();
+    /// Selects texels of the image (inclusive), at least two by two where it has as many, with the Select
+    /// tool, and brings them into sight. Nothing while a piece floats on.
+    void SelectTexels(const Rect& texels);
 
 private:
     // As the document and the tools see the view.
@@ -156,6 +159,7 @@ private:
     void followPointer(Point client);
     void showPosition() const;
     [[nodiscard]] bool isInSight(Point client) const;
+    bool select(const Rect& texels);
     void showSize() const;
     void updateCursor(Point client, bool shift, bool control);
     [[nodiscard]] CursorShape selectionCursor(Point client) const;

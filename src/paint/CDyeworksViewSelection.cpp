@@ -42,6 +42,14 @@ bool keepsColours(const TextureCanvas& piece, const TextureCanvas& image) {
     return true;
 }
 
+/// Makes one texel two where a side of `length` texels has room for them.
+void widen(std::int32_t& first, std::int32_t& last, std::int32_t length) {
+    if (first == last && last + 1 < length)
+        ++last;
+    else if (first == last && first > 0)
+        --first;
+}
+
 } // namespace
 
 void CDyeworksView::SetFloatingPiece(std::unique_ptr<TextureCanvas> piece) {
@@ -71,17 +79,41 @@ void CDyeworksView::OnUpdateSpuit(CommandUi& ui) {
     ui.checked = spuit_;
 }
 
-void CDyeworksView::OnSelectAll() {
+/// By hand, as it were: with the Select tool, what floats going into the image. False when it floats on.
+bool CDyeworksView::select(const Rect& texels) {
     CancelDrag();
     setCurrentTool(Tool::Select);
     selection_.setToolAtPress(Tool::Select);
     if (!selection_.commitFloatingPiece(false))
-        return;
-    const TextureCanvas& canvas = document_.canvas();
-    selection_.select(Rect{0, 0, canvas.width() - 1, canvas.height() - 1}, false);
+        return false;
+    selection_.select(texels, false);
     // The frame of a shape that has just been taken back must not keep the selection's out.
     static_cast<void>(selection_.takeRedrawRequest());
     window_.invalidateAll();
+    return true;
+}
+
+void CDyeworksView::OnSelectAll() {
+    const TextureCanvas& canvas = document_.canvas();
+    select({0, 0, canvas.width() - 1, canvas.height() - 1});
+}
+
+void CDyeworksView::SelectTexels(const Rect& texels) {
+    const TextureCanvas& canvas = document_.canvas();
+    Rect area = intersection(texels, {0, 0, canvas.width() - 1, canvas.height() - 1});
+    if (area.right < area.left || area.bottom < area.top)
+        return;
+    // Less than an area shows no frame.
+    widen(area.left, area.right, canvas.width());
+    widen(area.top, area.bottom, canvas.height());
+    if (!select(area))
+        return;
+    const Size client = window_.clientSize();
+    const Rect shown = geometry().clientArea(area);
+    if (shown.left >= 0 && shown.top >= 0 && shown.right <= client.width && shown.bottom <= client.height)
+        return;
+    const Point middle{(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+    scrollTo(geometry().scrollToKeep(middle, {client.width / 2, client.height / 2}));
 }
 
 void CDyeworksView::OnUpdateSelectAll(CommandUi& ui) {

@@ -231,6 +231,37 @@ enum class StringId {
     BarBrush,
     BrushSize,
     BrushSizeTip,
+    FindingsCaption,
+    FindingsHelp,
+    FindingsImage,
+    FindingsRule,
+    FindingsPlace,
+    FindingsReason,
+    FindingsNoRule,
+    FindingsNone,
+    FindingsRules,
+    FindingsRulesTip,
+    FindingLargestSize, ///< The rules' names in the list.
+    FindingPowersOfTwo,
+    FindingTexelBytes,
+    FindingBytesWithColours,
+    FindingBlockColours,
+    FindingFirstEntryTransparent,
+    FindingIndexesInPalette,
+    FindingAlphaZeroOrFull,
+    FindingWholeImage,
+    FindingEntry,             ///< %1 entry
+    FindingTexel,             ///< %1, %2 texel
+    FindingTexels,            ///< %1, %2 the first, %3, %4 the last
+    FindingTooLarge,          ///< %1, %2 size, %3, %4 largest
+    FindingNotPowers,         ///< %1, %2 size
+    FindingTooManyBytes,      ///< %1 bytes, %2 most
+    FindingTooManyColours,    ///< %1 colours, %2 most
+    FindingNotTransparent,    ///< %1 alpha
+    FindingMissingEntry,      ///< %1 index, %2 texels, %3 entries
+    FindingMissingEntryOfOne, ///< %1 index, %2 entries; one texel alone
+    FindingHalfTransparent,   ///< %1 alpha
+    FindingMore,              ///< %1 how many are not listed
     ProjectBarAdd,
     ProjectBarChange,
     ProjectBarRemove,
@@ -319,6 +350,35 @@ enum class StringId {
     OptionsGeneralTab,
     OptionsAskUseProject,
     OptionsAskUseProjectTip,
+    OptionsRulesTab,
+    RulesCaption,
+    RulesForPictures,
+    RulesForOthers,
+    RuleLargestSize,
+    RuleLargestSizeHint,
+    RulePowersOfTwo,
+    RulePowersOfTwoHint,
+    RuleTexelBytes,
+    RuleTexelBytesHint,
+    RuleBytesWithColours,
+    RuleBytesWithColoursHint,
+    RuleBlockColours,
+    RuleBlockColoursHint,
+    RuleFirstEntryTransparent,
+    RuleFirstEntryTransparentHint,
+    RuleIndexesInPalette,
+    RuleIndexesInPaletteHint,
+    RuleAlphaZeroOrFull,
+    RuleAlphaZeroOrFullHint,
+    RuleLargestWidthTip,
+    RuleLargestHeightTip,
+    RuleBytesTip,
+    RuleColoursTip,
+    RuleBlockSideTip,
+    RuleTexelsUnit,
+    RuleBytesUnit,
+    RuleColoursUnit,
+    RuleBlockUnit,
     UseProjectCaption,
     UseProjectQuestion,
     UseProjectNew,

@@ -8,6 +8,7 @@
 #include "ui/CMainFrame.h"
 #include "ui/CommandLine.h"
 #include "ui/OpenDocumentsList.h"
+#include "ui/RuleWatch.h"
 #include "ui/SplashScreen.h"
 #include "ui/controls/ControlRegistration.h"
 #include "ui/palettebar/CPaletteBar.h"
@@ -185,7 +186,10 @@ void CDyeworksApp::createTemplates() {
 
 bool CDyeworksApp::createMainFrame() {
     mainFrame_ = parts_.makeMainFrame(*this);
-    return mainFrame_ != nullptr;
+    if (mainFrame_ == nullptr)
+        return false;
+    new RuleWatch(*this, mainFrame_->findings());
+    return true;
 }
 
 void CDyeworksApp::listenForOpenRequests(const CommandLine& commandLine) {

@@ -17,6 +17,7 @@
 #include "ui/BrushBar.h"
 #include "ui/CProjectBar.h"
 #include "ui/CurrentProject.h"
+#include "ui/FindingsDock.h"
 #include "ui/MainFrameHost.h"
 #include "ui/MainMenus.h"
 #include "ui/StatusPanes.h"
@@ -92,6 +93,7 @@ CMainFrame::CMainFrame(MainFrameHost& host)
     makePaletteBar();
     makeProjectBar();
     makeBrushBar();
+    makeFindings();
     actions_.addTo(*this);
     // An icon takes the place of the mark that says whether the bar is shown.
     for (const MenuItem& item : barsMenu())
@@ -149,6 +151,13 @@ void CMainFrame::makeBrushBar() {
     addToolBar(Qt::TopToolBarArea, bar);
     addBar(ID_VIEW_BRUSHBAR, *bar);
     bar->hide();
+}
+
+void CMainFrame::makeFindings() {
+    findings_ = new FindingsDock;
+    addDockWidget(Qt::BottomDockWidgetArea, findings_);
+    addBar(ID_VIEW_FINDINGS, *findings_);
+    findings_->hide();
 }
 
 void CMainFrame::addBar(CommandId id, QWidget& bar) {

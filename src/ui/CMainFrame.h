@@ -19,6 +19,7 @@ class CDyeworksDoc;
 class CTPFDocument;
 class CPaletteBar;
 class CProjectBar;
+class FindingsDock;
 class ImageView;
 class MainFrameHost;
 class StatusPanes;
@@ -39,6 +40,7 @@ public:
     [[nodiscard]] CommandActions& commandActions() noexcept { return actions_; }
     [[nodiscard]] CPaletteBar& paletteBar() noexcept { return *paletteBar_; }
     [[nodiscard]] PrintCommands& printing() noexcept { return printing_; }
+    [[nodiscard]] FindingsDock& findings() noexcept { return *findings_; }
 
     // Each opens a window with a view of the document and makes it the active one.
     void openImageWindow(CDyeworksDoc& document);
@@ -96,6 +98,7 @@ private:
     void makePaletteBar();
     void makeProjectBar();
     void makeBrushBar();
+    void makeFindings();
     void restorePlacement();
     void savePlacement() const;
     /// What closing does before the window goes. False when the user cancels.
@@ -122,6 +125,7 @@ private:
     StatusPanes* panes_ = nullptr;
     CProjectBar* projectBar_ = nullptr;
     CPaletteBar* paletteBar_ = nullptr;
+    FindingsDock* findings_ = nullptr;
     std::map<CommandId, QWidget*> bars_; ///< By the commands that show and hide them.
 };
 

@@ -131,7 +131,7 @@ constexpr std::array kZoomMenu{
 constexpr std::array kBarsMenu{
     MenuItem{ID_VIEW_PALETTEBAR}, MenuItem{ID_VIEW_PROJECTBAR}, MenuItem{ID_VIEW_TOOLBAR},
     MenuItem{ID_VIEW_DRAWBAR},    MenuItem{ID_VIEW_VIEWBAR},    MenuItem{ID_VIEW_STATUS_BAR},
-    MenuItem{ID_VIEW_BRUSHBAR},
+    MenuItem{ID_VIEW_BRUSHBAR},   MenuItem{ID_VIEW_FINDINGS},
 };
 
 constexpr std::array kImageViewMenu{
@@ -262,6 +262,7 @@ constexpr std::array kProjectMenu{
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "P&icture"), kPictureMenu},
     kSeparator,
     MenuItem{ID_PROJECT_PROPERTY},
+    MenuItem{ID_PROJECT_RULES},
 };
 
 constexpr std::array kTreeProjectMenu{
@@ -276,6 +277,7 @@ constexpr std::array kTreeProjectMenu{
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "No&de"), kNodeMenu},
     kSeparator,
     MenuItem{ID_PROJECT_PROPERTY},
+    MenuItem{ID_PROJECT_RULES},
 };
 
 constexpr std::array kWindowMenu{

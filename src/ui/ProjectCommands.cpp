@@ -1,8 +1,10 @@
 #include "ui/ProjectCommands.h"
 
 #include "project/CTPFDocument.h"
+#include "ui/CMainFrame.h"
 #include "ui/CurrentProject.h"
 #include "ui/Workspace.h"
+#include "ui/sheets/CRulesPage.h"
 
 #include <optional>
 #include <string>
@@ -15,6 +17,7 @@ ProjectCommands::ProjectCommands(Workspace& workspace)
     on(ID_PROJECT_SAVE, &ProjectCommands::OnProjectSave, &ProjectCommands::updateNeedsProject);
     on(ID_PROJECT_SAVE_AS, &ProjectCommands::OnProjectSaveAs, &ProjectCommands::updateNeedsProject);
     on(ID_PROJECT_PROPERTY, &ProjectCommands::OnProjectProperty, &ProjectCommands::updateNeedsProject);
+    on(ID_PROJECT_RULES, &ProjectCommands::OnProjectRules, &ProjectCommands::updateNeedsProject);
     on(ID_PICTURE_ADD, &ProjectCommands::OnPictureAdd, &ProjectCommands::updateNeedsProject);
     on(ID_PICTURE_CHANGE, &ProjectCommands::OnPictureChange, &ProjectCommands::updateNeedsPicture);
     on(ID_PICTURE_REMOVE, &ProjectCommands::OnPictureRemove, &ProjectCommands::updateNeedsPicture);
@@ -43,6 +46,12 @@ void ProjectCommands::OnProjectSaveAs() {
 
 void ProjectCommands::OnProjectProperty() {
     workspace_.currentProject().document()->EditProperties();
+}
+
+void ProjectCommands::OnProjectRules() {
+    CTPFDocument& project = *workspace_.currentProject().document();
+    if (const auto rules = askProjectRules(project.rules(), &workspace_.mainFrame()))
+        project.SetRules(*rules);
 }
 
 void ProjectCommands::OnPictureAdd() {

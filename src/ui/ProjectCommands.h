@@ -19,6 +19,7 @@ private:
     void OnProjectSave();
     void OnProjectSaveAs();
     void OnProjectProperty();
+    void OnProjectRules();
     void OnPictureAdd();
     void OnPictureChange();
     void OnPictureRemove();

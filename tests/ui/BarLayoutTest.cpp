@@ -1,6 +1,7 @@
 #include "Program.h"
 
 #include <QDebug>
+#include <QDockWidget>
 #include <QMenu>
 #include <QScreen>
 #include <QStatusBar>
@@ -20,6 +21,8 @@ protected:
         for (const QToolBar* each : frame().findChildren<QToolBar*>())
             words += each->objectName() + word(frame().toolBarArea(each)) +
                      (each->isVisible() ? word(each->pos()) : "hidden");
+        const auto& findings = *frame().findChild<QDockWidget*>("ID_VIEW_FINDINGS");
+        words += word(findings.isVisible());
         words += word(palette().isVisible()) + word(palette().geometry());
         words += word(frame().statusBar()->isVisible());
         return words;
@@ -51,10 +54,10 @@ TEST_F(BarLayout, AtFirstTheBarsAreAtTheTopWithTheirButtonsAndThePaletteFloats) 
             EXPECT_EQ(button->icon().isNull(), button->isSeparator() || flat);
     }
     const std::unique_ptr<QMenu> menu(static_cast<QMainWindow&>(frame()).createPopupMenu());
-    EXPECT_EQ(menu->actions().size(), 7);
+    EXPECT_EQ(menu->actions().size(), 8);
     frame().commandActions().refresh();
     for (const QAction* item : menu->actions())
-        EXPECT_TRUE(item->isChecked() != (item == menu->actions().last()) && !item->isIconVisibleInMenu())
+        EXPECT_TRUE(item->isChecked() == (menu->actions().indexOf(item) < 6) && !item->isIconVisibleInMenu())
             << item->text().toStdString();
     EXPECT_TRUE(bar("ID_VIEW_BRUSHBAR").isHidden());
     EXPECT_TRUE(palette().isWindow());
@@ -69,6 +72,7 @@ TEST_F(BarLayout, WhatWasMovedAndHiddenComesBackAsItWas) {
     frame().addToolBar(Qt::BottomToolBarArea, &bar("ID_VIEW_PROJECTBAR"));
     ASSERT_TRUE(run(ID_VIEW_VIEWBAR));
     ASSERT_TRUE(run(ID_VIEW_STATUS_BAR));
+    ASSERT_TRUE(run(ID_VIEW_FINDINGS));
     palette().setGeometry(40, 60, 360, 600);
     QCoreApplication::processEvents();
     const QStringList left = layout();

@@ -20,13 +20,13 @@ const Ids kAlwaysEnabled{ID_PROJECT_NEW,      ID_PROJECT_OPEN,    ID_FILE_NEW,  
                          ID_APP_ABOUT,        ID_APP_EXIT,        ID_HELP_INDEX,   ID_HELP,
                          ID_CONTEXT_HELP,     ID_VIEW_PALETTEBAR, ID_VIEW_TOOLBAR, ID_VIEW_DRAWBAR,
                          ID_VIEW_PROJECTBAR,  ID_VIEW_STATUS_BAR, ID_VIEW_VIEWBAR, ID_FILE_IMPORT_BMP,
-                         ID_PALETTE_IMPORT,   ID_VIEW_BRUSHBAR};
+                         ID_PALETTE_IMPORT,   ID_VIEW_BRUSHBAR,   ID_VIEW_FINDINGS};
 
 /// Besides, with an unchanged project, in whose window the program is.
 const Ids kEnabledWithProject{
-    ID_PROJECT_CLOSE,    ID_PROJECT_SAVE,     ID_PROJECT_SAVE_AS,     ID_PROJECT_PROPERTY, ID_PICTURE_ADD,
-    ID_FILE_CLOSE,       ID_FILE_SAVE,        ID_FILE_SAVE_AS,        ID_WINDOW_NEW,       ID_WINDOW_CASCADE,
-    ID_WINDOW_TILE_HORZ, ID_WINDOW_TILE_VERT, ID_RECENT_PROJECT_FIRST};
+    ID_PROJECT_CLOSE,    ID_PROJECT_SAVE,     ID_PROJECT_SAVE_AS,      ID_PROJECT_PROPERTY, ID_PICTURE_ADD,
+    ID_FILE_CLOSE,       ID_FILE_SAVE,        ID_FILE_SAVE_AS,         ID_WINDOW_NEW,       ID_WINDOW_CASCADE,
+    ID_WINDOW_TILE_HORZ, ID_WINDOW_TILE_VERT, ID_RECENT_PROJECT_FIRST, ID_PROJECT_RULES};
 
 /// Besides, with a palette that is unchanged.
 const Ids kEnabledWithPalette{ID_PALETTE_EDIT,    ID_PALETTE_CLOSE,  ID_PALETTE_SAVE,

@@ -13,7 +13,8 @@ PropertySheet::PropertySheet(const QString& caption, QWidget* parent)
     , tabs_(new QTabWidget) {
     setWindowTitle(caption);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("IDOK"));
+    ok_ = buttons->button(QDialogButtonBox::Ok);
+    ok_->setObjectName(QStringLiteral("IDOK"));
     buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("IDCANCEL"));
     connect(buttons, &QDialogButtonBox::accepted, this, &PropertySheet::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &PropertySheet::reject);
@@ -25,6 +26,7 @@ PropertySheet::PropertySheet(const QString& caption, QWidget* parent)
 void PropertySheet::addPage(std::unique_ptr<PropertyPage> page) {
     const QString title = page->windowTitle();
     page->setAccessibleName(title);
+    connect(page.get(), &PropertyPage::edited, this, &PropertySheet::followPages);
     tabs_->addTab(page.release(), title);
 }
 
@@ -33,6 +35,10 @@ void PropertySheet::removePage(PropertyPage& page) {
     // The tabs have let go of it, but it is still among their children, where it would be laid out.
     page.hide();
     page.setParent(this);
+}
+
+void PropertySheet::showPage(PropertyPage& page) {
+    tabs_->setCurrentWidget(&page);
 }
 
 int PropertySheet::activePage() const {
@@ -50,6 +56,13 @@ void PropertySheet::fitToPages() {
     layout()->setSizeConstraint(grows ? QLayout::SetMinimumSize : QLayout::SetFixedSize);
 }
 
+void PropertySheet::followPages() {
+    bool acceptable = true;
+    for (int i = 0; i < tabs_->count(); ++i)
+        acceptable = acceptable && page(i)->isAcceptable();
+    ok_->setEnabled(acceptable);
+}
+
 void PropertySheet::showEvent(QShowEvent* event) {
     // A sheet that comes back from its icon is open already, with what has been typed into it.
     if (event->spontaneous())
@@ -57,6 +70,7 @@ void PropertySheet::showEvent(QShowEvent* event) {
     fitToPages();
     for (int i = 0; i < tabs_->count(); ++i)
         page(i)->showValues();
+    followPages();
     QDialog::showEvent(event);
     // As if the user had gone there with the Tab key, so that what is typed replaces the text.
     if (QWidget* inFront = tabs_->currentWidget())

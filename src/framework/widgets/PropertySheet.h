@@ -4,6 +4,7 @@
 
 #include <memory>
 
+class QPushButton;
 class QTabWidget;
 
 namespace dyeworks {
@@ -22,6 +23,12 @@ public:
     /// Takes the values over from the controls. False when one of them cannot be, which the page has told the
     /// user and put the focus on.
     [[nodiscard]] virtual bool takeOver() { return true; }
+    /// Whether what the controls hold makes sense as it stands; OK is off while it does not. Asked for again
+    /// after each `edited`.
+    [[nodiscard]] virtual bool isAcceptable() const { return true; }
+
+Q_SIGNALS:
+    void edited();
 };
 
 /// A dialog of pages, a tab for each, also where there is one only: its tab says what the sheet is for. OK
@@ -37,6 +44,8 @@ public:
     void addPage(std::unique_ptr<PropertyPage> page);
     /// Takes the page out of what is shown and taken over. The sheet still owns it.
     void removePage(PropertyPage& page);
+    /// Brings the page to the front, also before the sheet opens.
+    void showPage(PropertyPage& page);
     /// Position of the page in front among those that are left, counted from 0; after OK or Cancel that at
     /// the time it was pressed.
     [[nodiscard]] int activePage() const;
@@ -49,8 +58,10 @@ protected:
 private:
     [[nodiscard]] PropertyPage* page(int index) const;
     void fitToPages();
+    void followPages();
 
     QTabWidget* tabs_;
+    QPushButton* ok_;
 };
 
 } // namespace dyeworks

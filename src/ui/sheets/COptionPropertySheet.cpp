@@ -2,6 +2,7 @@
 
 #include "ui/sheets/AskUseProject.h"
 #include "ui/sheets/CGeneralPropertyPage.h"
+#include "ui/sheets/CRulesPage.h"
 #include "ui/sheets/SheetControls.h"
 
 namespace dyeworks {
@@ -12,13 +13,20 @@ COptionPropertySheet::COptionPropertySheet(QWidget* parent)
     auto page = std::make_unique<CGeneralPropertyPage>();
     generalPage_ = page.get();
     addPage(std::move(page));
+    auto rules = std::make_unique<CRulesPage>(StringId::RulesForOthers);
+    rulesPage_ = rules.get();
+    addPage(std::move(rules));
 }
 
-void OptionsCommand(QWidget* owner) {
+void OptionsCommand(QWidget* owner, OptionsPage inFront) {
     COptionPropertySheet sheet(owner);
+    sheet.rulesPage().setRules(defaultRules());
+    if (inFront == OptionsPage::Rules)
+        sheet.showPage(sheet.rulesPage());
     sheet.generalPage().setAsksUseProject(asksUseProject());
     sheet.exec();
     setAsksUseProject(sheet.generalPage().asksUseProject());
+    setDefaultRules(sheet.rulesPage().rules());
 }
 
 } // namespace dyeworks

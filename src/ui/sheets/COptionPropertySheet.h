@@ -5,6 +5,7 @@
 namespace dyeworks {
 
 class CGeneralPropertyPage;
+class CRulesPage;
 
 /// The sheet of the program's options.
 class COptionPropertySheet : public PropertySheet {
@@ -14,13 +15,17 @@ public:
     explicit COptionPropertySheet(QWidget* parent = nullptr);
 
     [[nodiscard]] CGeneralPropertyPage& generalPage() const noexcept { return *generalPage_; }
+    [[nodiscard]] CRulesPage& rulesPage() const noexcept { return *rulesPage_; }
 
 private:
     CGeneralPropertyPage* generalPage_;
+    CRulesPage* rulesPage_;
 };
 
-/// Lets the user change the options: shows the settings in the sheet and keeps what it holds when it closes.
-/// Cancel leaves them as they were.
-void OptionsCommand(QWidget* owner);
+enum class OptionsPage { General, Rules };
+
+/// Lets the user change the options: shows the settings in the sheet, `inFront` first, and keeps what it
+/// holds when it closes. Cancel leaves them as they were.
+void OptionsCommand(QWidget* owner, OptionsPage inFront = OptionsPage::General);
 
 } // namespace dyeworks
