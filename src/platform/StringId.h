@@ -205,6 +205,22 @@ enum class StringId {
     BarBrush,
     BrushSize,
     BrushSizeTip,
+    BarBanks,
+    BanksTab,
+    PalettesTab,
+    BankName,       ///< %1 number
+    BankTip,        ///< %1 number, %2 and %3 first and last entry
+    BankPaletteTip, ///< %1 title
+    BanksNoImage,
+    BanksNoPalette,
+    BanksEightBits,
+    BanksSmallPalette,
+    UsageNone,
+    UsageOneTexel,
+    UsageTexels,    ///< %1 number
+    UsageTwin,      ///< %1 entry; follows another text
+    UsageClear,     ///< Follows another text.
+    ShowTexelsNone, ///< %1 entry
     ProjectBarAdd,
     ProjectBarChange,
     ProjectBarRemove,
@@ -216,6 +232,7 @@ enum class StringId {
     HelpViewBar,
     HelpDrawBar,
     HelpBrushBar,
+    HelpBanksBar,
     HelpProjectBar,
     HelpPaletteBar,
     HelpMessagePane,

@@ -73,6 +73,14 @@ std::optional<ImageWork> ApplicationImageHost::askImageWork(const ImageWork& pro
     return dyeworks::askImageWork(proposed, image, &workspace_.mainFrame());
 }
 
+void ApplicationImageHost::imageChanged(const CDyeworksDoc& image, const std::optional<Rect>& texels) {
+    workspace_.imageChanged(image, texels);
+}
+
+void ApplicationImageHost::imageClosed() {
+    workspace_.imageClosed();
+}
+
 void ApplicationImageHost::AskUseProject() {
     UseProjectParts parts;
     parts.projectIsOpen = workspace_.currentProject().document() != nullptr;

@@ -31,6 +31,8 @@ public:
     [[nodiscard]] std::optional<ImageWork> askImageWork(const ImageWork& proposed,
                                                         const TextureCanvas& image) override;
     void AskUseProject() override;
+    void imageChanged(const CDyeworksDoc& image, const std::optional<Rect>& texels) override;
+    void imageClosed() override;
     [[nodiscard]] bool keepsImageSettings() const override { return keepsSettings_; }
     void setKeepsImageSettings(bool keeps) noexcept { keepsSettings_ = keeps; }
     [[nodiscard]] const CDyeworksDoc* lastActivatedImage() const override { return lastActivated_; }

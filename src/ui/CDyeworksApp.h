@@ -16,6 +16,7 @@
 #include "ui/MainFrameHost.h"
 #include "ui/OpenRequestQueue.h"
 #include "ui/PaletteFileCommands.h"
+#include "ui/PaletteUsage.h"
 #include "ui/PastePictureCommands.h"
 #include "ui/PictureImport.h"
 #include "ui/ProjectCommands.h"
@@ -73,6 +74,8 @@ public:
     [[nodiscard]] CDocument* FindOpenDocument(const std::string& path) const override;
 
     [[nodiscard]] std::vector<CDocument*> documents() const override;
+    void imageChanged(const CDyeworksDoc& image, const std::optional<Rect>& texels) override;
+    void imageClosed() override { usage_.imageChanged(false); }
     void keepAttachments(const std::function<bool()>& save) override;
     [[nodiscard]] std::optional<std::string> savePaletteAs(const std::string& key) override;
     OpenedFile OpenDocumentFile(const std::string& path) override;
@@ -177,6 +180,7 @@ private:
     PictureImport pictures_{*this};
     PastePictureCommands pastePictures_{*this, pictures_};
     PaletteFileCommands paletteFiles_{*this};
+    PaletteUsage usage_{*this};
     std::vector<std::unique_ptr<DocumentTemplate>> templates_;
     std::unique_ptr<CMainFrame> mainFrame_;
     QPointer<QWidget> splash_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "paint/Rect.h"
 #include "ui/OpenedFile.h"
 
 #include <functional>
@@ -10,6 +11,7 @@
 namespace dyeworks {
 
 class CDocument;
+class CDyeworksDoc;
 class CMainFrame;
 class CommandRouter;
 class CurrentProject;
@@ -41,6 +43,9 @@ public:
     virtual OpenedFile OpenDocumentFile(const std::string& path) = 0;
     /// All that are open, the project first.
     [[nodiscard]] virtual std::vector<CDocument*> documents() const = 0;
+    // As images tell it: see `ImageHost`.
+    virtual void imageChanged(const CDyeworksDoc& image, const std::optional<Rect>& texels) = 0;
+    virtual void imageClosed() = 0;
     /// Saving may give palettes new keys; images stay attached to theirs. `save` answers whether they are to
     /// be shown anew.
     virtual void keepAttachments(const std::function<bool()>& save) = 0;
