@@ -1080,6 +1080,34 @@ Rules</source>
 Toggle Rule Findings</source>
         <translation>ルール違反の一覧の表示と非表示を切り替えます
 ルール違反の表示切り替え</translation>
+        <source>&amp;Usage</source>
+        <translation>使用状況(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Mark entries that no image shows, twins and transparent ones that are in use
+Toggle Usage</source>
+        <translation>どの画像も使っていないエントリ、同じ色のエントリ、使われている透明なエントリに印を付けます
+使用状況の表示切り替え</translation>
+    </message>
+    <message>
+        <source>Show &amp;Texels</source>
+        <translation>テクセルを示す(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Flash the texels that show the current entry
+Show Texels</source>
+        <translation>現在のエントリを使うテクセルを点滅させます
+テクセルを示す</translation>
+    </message>
+    <message>
+        <source>Ban&amp;ks</source>
+        <translation>バンクバー(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Show or hide the image through all banks.
+Toggle Banks</source>
+        <translation>すべてのバンクで見た画像の表示と非表示を切り替えます。
+バンクバーの表示切り替え</translation>
     </message>
 </context>
 <context>
@@ -2971,6 +2999,72 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     <message>
         <source>What the images of the project&apos;s pictures must keep to. Rule Findings in the View menu lists what does not.</source>
         <translation>プロジェクトのピクチャーの画像が守るルールです。反するものは[表示]メニューの[ルール違反]に並びます。</translation>
+        <source>Banks</source>
+        <translation>バンク</translation>
+    </message>
+    <message>
+        <source>&amp;Banks</source>
+        <translation>バンク(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Pa&amp;lettes</source>
+        <translation>パレット(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Bank %1</source>
+        <translation>バンク %1</translation>
+    </message>
+    <message>
+        <source>Bank %1, entries %2 to %3; click to choose it</source>
+        <translation>バンク %1、エントリ %2～%3。クリックすると選びます</translation>
+    </message>
+    <message>
+        <source>%1; click to attach the image to it</source>
+        <translation>%1。クリックすると画像に割り当てます</translation>
+    </message>
+    <message>
+        <source>No image is active.</source>
+        <translation>アクティブな画像がありません。</translation>
+    </message>
+    <message>
+        <source>The image is attached to no palette.</source>
+        <translation>画像にパレットが割り当てられていません。</translation>
+    </message>
+    <message>
+        <source>An image of 8 bits shows the whole palette and has no banks. The other page shows it through the open palettes.</source>
+        <translation>8 ビットの画像はパレット全体を使うのでバンクがありません。もう一方のページで、開いているパレットごとの見え方を確かめられます。</translation>
+    </message>
+    <message>
+        <source>A palette of 16 colours is a single bank. The other page shows the image through the open palettes.</source>
+        <translation>16 色のパレットはバンク一つだけです。もう一方のページで、開いているパレットごとの見え方を確かめられます。</translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>未使用</translation>
+    </message>
+    <message>
+        <source>1 texel</source>
+        <translation>1 テクセル</translation>
+    </message>
+    <message>
+        <source>%1 texels</source>
+        <translation>%1 テクセル</translation>
+    </message>
+    <message>
+        <source>, same as entry %1</source>
+        <translation>、エントリ %1 と同じ色</translation>
+    </message>
+    <message>
+        <source>, fully transparent</source>
+        <translation>、完全に透明</translation>
+    </message>
+    <message>
+        <source>No texel shows entry %1.</source>
+        <translation>エントリ %1 を使うテクセルはありません。</translation>
+    </message>
+    <message>
+        <source>The active image through every bank of its palette, or through every open palette. The framed one is the image&apos;s own; click another to choose it.</source>
+        <translation>アクティブな画像を、パレットのすべてのバンク、または開いているすべてのパレットで見たものです。枠が付いているのが今の表示で、ほかをクリックするとそれを選びます。</translation>
     </message>
 </context>
 </TS>

@@ -147,6 +147,10 @@ inline constexpr CommandId ID_BRUSH_ROUND = 33166;
 inline constexpr CommandId ID_MIRROR_ACROSS = 33167;
 inline constexpr CommandId ID_MIRROR_DOWN = 33168;
 
+inline constexpr CommandId ID_VIEW_USAGE = 33200;
+inline constexpr CommandId ID_PALETTE_SHOW_TEXELS = 33201;
+inline constexpr CommandId ID_VIEW_BANKSBAR = 33202;
+
 inline constexpr CommandId ID_PROJECT_RULES = 33210;
 inline constexpr CommandId ID_VIEW_FINDINGS = 33211;
 // NOLINTEND(readability-identifier-naming)

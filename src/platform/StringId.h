@@ -262,6 +262,22 @@ enum class StringId {
     FindingMissingEntryOfOne, ///< %1 index, %2 entries; one texel alone
     FindingHalfTransparent,   ///< %1 alpha
     FindingMore,              ///< %1 how many are not listed
+    BarBanks,
+    BanksTab,
+    PalettesTab,
+    BankName,       ///< %1 number
+    BankTip,        ///< %1 number, %2 and %3 first and last entry
+    BankPaletteTip, ///< %1 title
+    BanksNoImage,
+    BanksNoPalette,
+    BanksEightBits,
+    BanksSmallPalette,
+    UsageNone,
+    UsageOneTexel,
+    UsageTexels,    ///< %1 number
+    UsageTwin,      ///< %1 entry; follows another text
+    UsageClear,     ///< Follows another text.
+    ShowTexelsNone, ///< %1 entry
     ProjectBarAdd,
     ProjectBarChange,
     ProjectBarRemove,
@@ -273,6 +289,7 @@ enum class StringId {
     HelpViewBar,
     HelpDrawBar,
     HelpBrushBar,
+    HelpBanksBar,
     HelpProjectBar,
     HelpPaletteBar,
     HelpMessagePane,

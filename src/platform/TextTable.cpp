@@ -342,6 +342,26 @@ constexpr Row kRows[] = {
         QT_TRANSLATE_NOOP("Text", "Has index %1, the palette has %2 entries")},
     Row{StringId::FindingHalfTransparent, QT_TRANSLATE_NOOP("Text", "Its alpha is %1, neither 0 nor 255")},
     Row{StringId::FindingMore, QT_TRANSLATE_NOOP("Text", "%1 more")},
+    Row{StringId::BarBanks, QT_TRANSLATE_NOOP("Text", "Banks")},
+    Row{StringId::BanksTab, QT_TRANSLATE_NOOP("Text", "&Banks")},
+    Row{StringId::PalettesTab, QT_TRANSLATE_NOOP("Text", "Pa&lettes")},
+    Row{StringId::BankName, QT_TRANSLATE_NOOP("Text", "Bank %1")},
+    Row{StringId::BankTip, QT_TRANSLATE_NOOP("Text", "Bank %1, entries %2 to %3; click to choose it")},
+    Row{StringId::BankPaletteTip, QT_TRANSLATE_NOOP("Text", "%1; click to attach the image to it")},
+    Row{StringId::BanksNoImage, QT_TRANSLATE_NOOP("Text", "No image is active.")},
+    Row{StringId::BanksNoPalette, QT_TRANSLATE_NOOP("Text", "The image is attached to no palette.")},
+    Row{StringId::BanksEightBits,
+        QT_TRANSLATE_NOOP("Text", "An image of 8 bits shows the whole palette and has no banks. The other "
+                                  "page shows it through the open palettes.")},
+    Row{StringId::BanksSmallPalette,
+        QT_TRANSLATE_NOOP("Text", "A palette of 16 colours is a single bank. The other page shows the image "
+                                  "through the open palettes.")},
+    Row{StringId::UsageNone, QT_TRANSLATE_NOOP("Text", "not used")},
+    Row{StringId::UsageOneTexel, QT_TRANSLATE_NOOP("Text", "1 texel")},
+    Row{StringId::UsageTexels, QT_TRANSLATE_NOOP("Text", "%1 texels")},
+    Row{StringId::UsageTwin, QT_TRANSLATE_NOOP("Text", ", same as entry %1")},
+    Row{StringId::UsageClear, QT_TRANSLATE_NOOP("Text", ", fully transparent")},
+    Row{StringId::ShowTexelsNone, QT_TRANSLATE_NOOP("Text", "No texel shows entry %1.")},
     Row{StringId::ProjectBarAdd, QT_TRANSLATE_NOOP("Text", "&Add")},
     Row{StringId::ProjectBarChange, QT_TRANSLATE_NOOP("Text", "&Change")},
     Row{StringId::ProjectBarRemove, QT_TRANSLATE_NOOP("Text", "&Remove")},
@@ -364,6 +384,9 @@ constexpr Row kRows[] = {
             "Text", "How the drawing tools draw: size and shape of the brush, mirrored on both sides of "
                     "the middle, around the edges. Drag the handle to move the bar to another side of "
                     "the window.")},
+    Row{StringId::HelpBanksBar,
+        QT_TRANSLATE_NOOP("Text", "The active image through every bank of its palette, or through every open "
+                                  "palette. The framed one is the image's own; click another to choose it.")},
     Row{StringId::HelpProjectBar,
         QT_TRANSLATE_NOOP("Text", "The pictures of the open project. Choose one in the list; the button on "
                                   "the right opens it, the others change the list.")},

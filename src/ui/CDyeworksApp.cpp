@@ -43,6 +43,7 @@ std::vector<CommandTarget*> CDyeworksApp::commandChain() {
     chain.push_back(&recentFiles_);
     chain.push_back(&pastePictures_);
     chain.push_back(&paletteFiles_);
+    chain.push_back(&usage_);
     chain.push_back(this);
     return chain;
 }
@@ -149,10 +150,15 @@ void CDyeworksApp::RefreshAllImages() {
 void CDyeworksApp::BroadcastPaletteChange(const std::string& key, const TextureLookupTable& palette) {
     for (CDyeworksDoc* image : imageDocuments())
         image->PaletteChanged(key, &palette);
+    if (mainFrame_ != nullptr)
+        mainFrame_->palettePreviewed(key, palette);
 }
 
 void CDyeworksApp::imageChanged(const CDyeworksDoc& image, const std::optional<Rect>& texels) {
     recovery_.imageChanged(image, texels);
+    usage_.imageChanged(texels.has_value());
+    if (mainFrame_ != nullptr)
+        mainFrame_->imageChanged(image, texels);
 }
 
 void CDyeworksApp::keepAttachments(const std::function<bool()>& save) {

@@ -17,6 +17,7 @@
 #include "ui/MainFrameHost.h"
 #include "ui/OpenRequestQueue.h"
 #include "ui/PaletteFileCommands.h"
+#include "ui/PaletteUsage.h"
 #include "ui/PastePictureCommands.h"
 #include "ui/PictureImport.h"
 #include "ui/ProjectCommands.h"
@@ -79,7 +80,7 @@ public:
 
     [[nodiscard]] std::vector<CDocument*> documents() const override;
     void imageChanged(const CDyeworksDoc& image, const std::optional<Rect>& texels) override;
-    void imageClosed() override {}
+    void imageClosed() override { usage_.imageChanged(false); }
     void keepAttachments(const std::function<bool()>& save) override;
     [[nodiscard]] std::optional<std::string> savePaletteAs(const std::string& key) override;
     OpenedFile OpenDocumentFile(const std::string& path) override;
@@ -187,6 +188,7 @@ private:
     PictureImport pictures_{*this};
     PastePictureCommands pastePictures_{*this, pictures_};
     PaletteFileCommands paletteFiles_{*this};
+    PaletteUsage usage_{*this};
     CrashRecovery recovery_{*this};
     std::unique_ptr<TerminationSignals> signals_;
     std::vector<std::unique_ptr<DocumentTemplate>> templates_;

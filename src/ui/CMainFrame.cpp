@@ -1,5 +1,6 @@
 #include "ui/CMainFrame.h"
 
+#include "core/PaletteSet.h"
 #include "framework/widgets/ChildFrame.h"
 #include "framework/widgets/ContextMenuKey.h"
 #include "framework/widgets/MenuBuilder.h"
@@ -94,6 +95,7 @@ CMainFrame::CMainFrame(MainFrameHost& host)
     makeProjectBar();
     makeBrushBar();
     makeFindings();
+    makeBanksBar();
     actions_.addTo(*this);
     // An icon takes the place of the mark that says whether the bar is shown.
     for (const MenuItem& item : barsMenu())
@@ -158,6 +160,48 @@ void CMainFrame::makeFindings() {
     addDockWidget(Qt::BottomDockWidgetArea, findings_);
     addBar(ID_VIEW_FINDINGS, *findings_);
     findings_->hide();
+}
+
+void CMainFrame::makeBanksBar() {
+    banksBar_ = new BanksBar(*this);
+    addDockWidget(Qt::RightDockWidgetArea, banksBar_);
+    addBar(ID_VIEW_BANKSBAR, *banksBar_);
+    banksBar_->hide();
+    connect(this, &MdiFrame::activeChildChanged, banksBar_, &BanksBar::showAnew);
+    connect(paletteBar_, &CPaletteBar::shownAnew, banksBar_, &BanksBar::showAnew);
+}
+
+CDyeworksDoc* CMainFrame::activeImage() const {
+    ImageView* const view = activeImageView();
+    return view == nullptr ? nullptr : &view->view().document();
+}
+
+const PaletteSet& CMainFrame::openPalettes() const {
+    return *host_.paletteBarHost().paletteSet();
+}
+
+void CMainFrame::chooseBank(std::int32_t number) {
+    const CDyeworksDoc* const image = activeImage();
+    if (image == nullptr || !image->IsAttached())
+        return;
+    // The bar gives banks to images of the palette that it shows.
+    PaletteSet& palettes = *host_.paletteBarHost().paletteSet();
+    if (image->attachedName() != palettes.currentKey)
+        palettes.setCurrent(image->attachedName());
+    SetPaletteBarNumber(number);
+}
+
+void CMainFrame::attachActiveTo(const std::string& key) {
+    host_.paletteBarHost().paletteSet()->setCurrent(key);
+    actions_.run(ID_IMAGE_ATTACH);
+}
+
+void CMainFrame::imageChanged(const CDyeworksDoc& image, const std::optional<Rect>& texels) {
+    banksBar_->imageChanged(image, texels);
+}
+
+void CMainFrame::palettePreviewed(const std::string& key, const TextureLookupTable& palette) {
+    banksBar_->palettePreviewed(key, palette);
 }
 
 void CMainFrame::addBar(CommandId id, QWidget& bar) {

@@ -4,10 +4,12 @@
 #include "framework/widgets/CommandActions.h"
 #include "framework/widgets/MdiFrame.h"
 #include "platform/StringId.h"
+#include "ui/BanksBar.h"
 #include "ui/PrintCommands.h"
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -27,7 +29,7 @@ class StatusPanes;
 /// The main window: documents in the middle, menus, tool bars, project bar and status bar around them, the
 /// palette bar floating above. What it shows follows the application; its place and that of its bars are
 /// kept in the settings.
-class CMainFrame : public MdiFrame {
+class CMainFrame : public MdiFrame, private BanksBarHost {
     Q_OBJECT
 
 public:
@@ -74,6 +76,11 @@ public:
     /// Shows the active image through another bank of the current palette.
     void SetPaletteBarNumber(std::int32_t number);
 
+    /// What the image shows has changed, as `ImageHost::imageChanged` tells it.
+    void imageChanged(const CDyeworksDoc& image, const std::optional<Rect>& texels);
+    /// The palette shows in the colours of a passing copy.
+    void palettePreviewed(const std::string& key, const TextureLookupTable& palette);
+
     /// Keeps the window's place, that of its bars and what is open, as closing it does.
     void keepLayout();
 
@@ -99,6 +106,11 @@ private:
     void makeProjectBar();
     void makeBrushBar();
     void makeFindings();
+    void makeBanksBar();
+    [[nodiscard]] CDyeworksDoc* activeImage() const override;
+    [[nodiscard]] const PaletteSet& openPalettes() const override;
+    void chooseBank(std::int32_t number) override;
+    void attachActiveTo(const std::string& key) override;
     void restorePlacement();
     void savePlacement() const;
     /// What closing does before the window goes. False when the user cancels.
@@ -126,6 +138,7 @@ private:
     CProjectBar* projectBar_ = nullptr;
     CPaletteBar* paletteBar_ = nullptr;
     FindingsDock* findings_ = nullptr;
+    BanksBar* banksBar_ = nullptr;
     std::map<CommandId, QWidget*> bars_; ///< By the commands that show and hide them.
 };
 

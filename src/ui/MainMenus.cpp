@@ -131,7 +131,7 @@ constexpr std::array kZoomMenu{
 constexpr std::array kBarsMenu{
     MenuItem{ID_VIEW_PALETTEBAR}, MenuItem{ID_VIEW_PROJECTBAR}, MenuItem{ID_VIEW_TOOLBAR},
     MenuItem{ID_VIEW_DRAWBAR},    MenuItem{ID_VIEW_VIEWBAR},    MenuItem{ID_VIEW_STATUS_BAR},
-    MenuItem{ID_VIEW_BRUSHBAR},   MenuItem{ID_VIEW_FINDINGS},
+    MenuItem{ID_VIEW_BRUSHBAR},   MenuItem{ID_VIEW_FINDINGS},   MenuItem{ID_VIEW_BANKSBAR},
 };
 
 constexpr std::array kImageViewMenu{
@@ -215,6 +215,9 @@ constexpr std::array kPaletteMenu{
     kSeparator,
     MenuItem{ID_PALETTE_IMPORT},
     MenuItem{ID_PALETTE_EXPORT},
+    kSeparator,
+    MenuItem{ID_VIEW_USAGE},
+    MenuItem{ID_PALETTE_SHOW_TEXELS},
 };
 
 // The context menus of an image.

@@ -54,11 +54,14 @@ TEST_F(BarLayout, AtFirstTheBarsAreAtTheTopWithTheirButtonsAndThePaletteFloats) 
             EXPECT_EQ(button->icon().isNull(), button->isSeparator() || flat);
     }
     const std::unique_ptr<QMenu> menu(static_cast<QMainWindow&>(frame()).createPopupMenu());
-    EXPECT_EQ(menu->actions().size(), 8);
+    EXPECT_EQ(menu->actions().size(), 9);
     frame().commandActions().refresh();
-    for (const QAction* item : menu->actions())
-        EXPECT_TRUE(item->isChecked() == (menu->actions().indexOf(item) < 6) && !item->isIconVisibleInMenu())
+    for (qsizetype i = 0; i < menu->actions().size(); ++i) {
+        const QAction* const item = menu->actions().at(i);
+        // The last ones are hidden at first.
+        EXPECT_TRUE(item->isChecked() == (i < 6) && !item->isIconVisibleInMenu())
             << item->text().toStdString();
+    }
     EXPECT_TRUE(bar("ID_VIEW_BRUSHBAR").isHidden());
     EXPECT_TRUE(palette().isWindow());
     EXPECT_TRUE(palette().isVisible());

@@ -15,12 +15,13 @@ namespace {
 
 using Ids = std::set<CommandId>;
 
-const Ids kAlwaysEnabled{ID_PROJECT_NEW,      ID_PROJECT_OPEN,    ID_FILE_NEW,     ID_FILE_OPEN,
-                         ID_FILE_PRINT_SETUP, ID_PALETTE_NEW,     ID_PALETTE_OPEN, ID_OPTIONS,
-                         ID_APP_ABOUT,        ID_APP_EXIT,        ID_HELP_INDEX,   ID_HELP,
-                         ID_CONTEXT_HELP,     ID_VIEW_PALETTEBAR, ID_VIEW_TOOLBAR, ID_VIEW_DRAWBAR,
-                         ID_VIEW_PROJECTBAR,  ID_VIEW_STATUS_BAR, ID_VIEW_VIEWBAR, ID_FILE_IMPORT_BMP,
-                         ID_PALETTE_IMPORT,   ID_VIEW_BRUSHBAR,   ID_VIEW_FINDINGS};
+const Ids kAlwaysEnabled{ID_PROJECT_NEW,      ID_PROJECT_OPEN,    ID_FILE_NEW,      ID_FILE_OPEN,
+                         ID_FILE_PRINT_SETUP, ID_PALETTE_NEW,     ID_PALETTE_OPEN,  ID_OPTIONS,
+                         ID_APP_ABOUT,        ID_APP_EXIT,        ID_HELP_INDEX,    ID_HELP,
+                         ID_CONTEXT_HELP,     ID_VIEW_PALETTEBAR, ID_VIEW_TOOLBAR,  ID_VIEW_DRAWBAR,
+                         ID_VIEW_PROJECTBAR,  ID_VIEW_STATUS_BAR, ID_VIEW_VIEWBAR,  ID_FILE_IMPORT_BMP,
+                         ID_PALETTE_IMPORT,   ID_VIEW_BRUSHBAR,   ID_VIEW_FINDINGS, ID_VIEW_USAGE,
+                         ID_VIEW_BANKSBAR};
 
 /// Besides, with an unchanged project, in whose window the program is.
 const Ids kEnabledWithProject{
@@ -145,7 +146,7 @@ TEST_F(Commands, AreEnabledWhereTheyCanDoSomething) {
     alsoExpect(kEnabledWithImage);
     ASSERT_TRUE(run(ID_IMAGE_ATTACH));
     expected.erase(ID_IMAGE_ATTACH);
-    alsoExpect({});
+    alsoExpect({ID_PALETTE_SHOW_TEXELS});
 }
 
 TEST_F(Commands, StandInAMenuAndShowTheirPromptAndToolTip) {

@@ -94,6 +94,10 @@ std::int16_t CSwatchGrid::clickedCell() const {
     return control().call(102, {}, kNone);
 }
 
+void CSwatchGrid::setCellGlyphs(std::int16_t cell, std::int16_t glyphs) {
+    control().call(110, {cell, glyphs});
+}
+
 void CSwatchGrid::describeAgain() {
     control().call(103, {});
 }

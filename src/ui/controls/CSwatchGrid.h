@@ -23,6 +23,10 @@ public:
     /// The slot whose cell is the current one. Slots 1 to 3 are further marks.
     static constexpr std::int16_t kCurrent = 0;
 
+    static constexpr std::int16_t kUnusedGlyph = 1; ///< A folded corner.
+    static constexpr std::int16_t kTwinGlyph = 2;   ///< Two bars.
+    static constexpr std::int16_t kClearGlyph = 4;  ///< A chequer.
+
     /// Corners of a range of cells, all inclusive; the first is left of and above the last.
     struct Range {
         std::int16_t firstColumn = 0;
@@ -65,6 +69,8 @@ public:
     void setBankRow(std::int16_t row); // 101
     /// The cell of the last click or double click, by mouse or keyboard; kNone before the first.
     [[nodiscard]] std::int16_t clickedCell() const; // 102
+    /// Small signs on a cell, of those below, added up.
+    void setCellGlyphs(std::int16_t cell, std::int16_t glyphs); // 110
     /// Says what a cell holds, for its tool tip and for screen readers. Without one it is the cell's value.
     void setDescriber(std::function<QString(int cell)> describer) { describer_ = std::move(describer); }
     /// The description of some cell is another one now, though its value is the same.

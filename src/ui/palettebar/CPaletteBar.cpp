@@ -23,6 +23,7 @@ CPaletteBar::CPaletteBar(PaletteBarHost& host, CommandActions& actions, QWidget&
     // The keys stay with the document when the bar comes up.
     setAttribute(Qt::WA_ShowWithoutActivating);
     fillMenu(*menu_, paletteBarMenu(), actions);
+    connect(controls_, &CPaletteBarControls::shownAnew, this, &CPaletteBar::shownAnew);
 
     auto* layout = new QVBoxLayout(this);
     const int margin = fontMetrics().height() / 3;

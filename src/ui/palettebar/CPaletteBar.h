@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+#include <utility>
 #include <vector>
 
 class QMenu;
@@ -24,8 +25,14 @@ public:
     [[nodiscard]] bool isShown() const noexcept { return shown_; }
 
     [[nodiscard]] PaletteBarState& state() noexcept { return controls_->state(); }
+    /// As the controls do it.
+    void showRemarks(std::vector<EntryRemark> remarks) { controls_->showRemarks(std::move(remarks)); }
     /// The commands that act on the entries of the palette.
     [[nodiscard]] PaletteBarCommands& commands() noexcept { return controls_->commands(); }
+
+Q_SIGNALS:
+    /// The palettes, the current one's values or the bank were shown anew.
+    void shownAnew();
 
 protected:
     bool event(QEvent* event) override;

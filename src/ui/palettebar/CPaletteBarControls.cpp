@@ -55,6 +55,36 @@ void CPaletteBarControls::valuesChanged() {
     (state_.viewMode() == ViewMode::Alpha ? alpha_ : rgb_)->setChecked(true);
     const QSignalBlocker quietPreview(preview_);
     preview_->setChecked(state_.editor().preview());
+    Q_EMIT shownAnew();
+}
+
+void CPaletteBarControls::showRemarks(std::vector<EntryRemark> remarks) {
+    if (remarks == remarks_)
+        return;
+    remarks_ = std::move(remarks);
+    showGlyphs();
+    grid_->describeAgain();
+}
+
+void CPaletteBarControls::showGlyphs() {
+    for (std::int16_t cell = 0; cell < grid_->cellCount(); ++cell) {
+        const auto at = static_cast<std::size_t>(cell);
+        const EntryRemark* const remark = at < remarks_.size() ? &remarks_[at] : nullptr;
+        int glyphs = 0;
+        if (remark != nullptr)
+            glyphs = (remark->isUnused() ? CSwatchGrid::kUnusedGlyph : 0) |
+                     (remark->twin ? CSwatchGrid::kTwinGlyph : 0) |
+                     (remark->isClear ? CSwatchGrid::kClearGlyph : 0);
+        grid_->setCellGlyphs(cell, static_cast<std::int16_t>(glyphs));
+    }
+}
+
+QString CPaletteBarControls::cellTip(int cell) const {
+    std::string tip = state_.tips().ofCell(cell);
+    const auto at = static_cast<std::size_t>(cell);
+    if (at < remarks_.size())
+        tip += ": " + describe(remarks_[at]);
+    return QString::fromStdString(tip);
 }
 
 void CPaletteBarControls::showEntry() {
@@ -100,6 +130,8 @@ void CPaletteBarControls::layoutChanged() {
     setToolTip(QString::fromStdString(state_.tips().of({})));
     updateGeometry();
     arrange();
+    // Cells may have gone and come again since.
+    showGlyphs();
 }
 
 void CPaletteBarControls::tabsChanged() {
@@ -121,6 +153,7 @@ void CPaletteBarControls::tabsChanged() {
     tabs_->setCurrentIndex(state_.tabs().current());
     // Hidden, the tab bar keeps a new height to itself.
     tabs_->updateGeometry();
+    Q_EMIT shownAnew();
 }
 
 std::optional<std::uint16_t> CPaletteBarControls::askEntry(ColourType type, std::uint16_t start) {

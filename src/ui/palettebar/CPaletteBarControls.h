@@ -1,5 +1,6 @@
 #pragma once
 
+#include "palette/EntryUsage.h"
 #include "palette/PaletteBarCommands.h"
 #include "palette/PaletteBarHost.h"
 #include "palette/PaletteBarState.h"
@@ -9,6 +10,7 @@
 
 #include <array>
 #include <memory>
+#include <vector>
 
 class QAction;
 class QBoxLayout;
@@ -42,12 +44,19 @@ public:
     [[nodiscard]] PaletteBarState& state() noexcept { return state_; }
     [[nodiscard]] PaletteBarCommands& commands() noexcept { return commands_; }
 
+    /// Shows on the cells, and says of them, what is remarked of the entries; none: nothing.
+    void showRemarks(std::vector<EntryRemark> remarks);
+
     /// Room for a palette of 256 colours, with the fields beside it.
     [[nodiscard]] QSize sizeHint() const override { return preferredSize_; }
     /// The smallest width at all, and the smallest height at the present width.
     [[nodiscard]] QSize minimumSizeHint() const override;
     /// Its texts that wrap do not shape it.
     [[nodiscard]] bool hasHeightForWidth() const override { return false; }
+
+Q_SIGNALS:
+    /// The palettes, the current one's values or the bank were shown anew.
+    void shownAnew();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -76,6 +85,8 @@ private:
     [[nodiscard]] int heightOfOthers() const;
     void showEntry();
     void showBank();
+    void showGlyphs();
+    [[nodiscard]] QString cellTip(int cell) const;
 
     CommandActions& actions_;
     PaletteBarState state_;
@@ -101,6 +112,7 @@ private:
     CSwatchGrid* strip_ = nullptr;
     std::unique_ptr<PaletteGridControl> gridControl_;
     std::unique_ptr<PaletteGridControl> stripControl_;
+    std::vector<EntryRemark> remarks_;
     QSize preferredSize_;
 };
 

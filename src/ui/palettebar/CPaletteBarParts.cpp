@@ -102,7 +102,7 @@ QWidget* CPaletteBarControls::makeGrid() {
     grid_ = new CSwatchGrid;
     identify(*grid_, IDC_PALETTE_GRID);
     grid_->setAccessibleName(shown(StringId::PaletteColours));
-    grid_->setDescriber([this](int cell) { return QString::fromStdString(state_.tips().ofCell(cell)); });
+    grid_->setDescriber([this](int cell) { return cellTip(cell); });
     connect(grid_, &CSwatchGrid::clicked, this, [this] { state_.GridClicked(); });
     connect(grid_, &CSwatchGrid::doubleClicked, this, [this] { actions_.run(ID_PALETTE_EDIT); });
     connect(grid_, &CSwatchGrid::cellsPasted, this, [this] { state_.GridChanged(); });

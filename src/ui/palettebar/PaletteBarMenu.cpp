@@ -24,6 +24,9 @@ constexpr std::array kPaletteBarMenu{
     kSeparator,
     MenuItem{ID_PALETTE_COPY},
     MenuItem{ID_PALETTE_PASTE},
+    kSeparator,
+    MenuItem{ID_VIEW_USAGE},
+    MenuItem{ID_PALETTE_SHOW_TEXELS},
 };
 
 } // namespace

@@ -26,11 +26,17 @@ void SwatchCells::setCount(int newCount) {
 }
 
 void SwatchCells::setValue(int cell, std::uint32_t value) {
-    cells_[static_cast<std::size_t>(cell)] = {value, value & kColourBits};
+    Cell& changed = cells_[static_cast<std::size_t>(cell)];
+    changed.value = value;
+    changed.colour = value & kColourBits;
 }
 
 void SwatchCells::setColour(int cell, std::uint32_t colour) {
     cells_[static_cast<std::size_t>(cell)].colour = colour & kColourBits;
+}
+
+void SwatchCells::setGlyphs(int cell, unsigned glyphs) {
+    cells_[static_cast<std::size_t>(cell)].glyphs = glyphs;
 }
 
 bool SwatchCells::setMarker(int slot, int cell) {

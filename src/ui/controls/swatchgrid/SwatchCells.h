@@ -20,9 +20,17 @@ public:
     static constexpr int kCurrentSlot = 0;
     static constexpr int kSlots = 4;
 
+    /// Signs that may stand on a cell together.
+    enum Glyph : unsigned {
+        kUnusedGlyph = 1, ///< A corner that is folded over, at the lower right.
+        kTwinGlyph = 2,   ///< Two bars, at the upper right.
+        kClearGlyph = 4   ///< A chequer, at the lower left.
+    };
+
     struct Cell {
         std::uint32_t value = 0;  ///< 0xAABBGGRR
         std::uint32_t colour = 0; ///< 0x00BBGGRR, what is painted.
+        unsigned glyphs = 0;      ///< Of `Glyph`, small signs on the cell.
     };
 
     // A new shape or count ends the selection. Marks stay, also on cells that do not exist any more.
@@ -37,6 +45,7 @@ public:
     /// Sets the value, and the displayed colour to its low 24 bits.
     void setValue(int cell, std::uint32_t value);
     void setColour(int cell, std::uint32_t colour);
+    void setGlyphs(int cell, unsigned glyphs);
 
     /// False, changing nothing, for a slot that there is not or a cell below kSwitchedOff. The selection ends
     /// when the current cell becomes another one.

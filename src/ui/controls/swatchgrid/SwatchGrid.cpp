@@ -69,6 +69,13 @@ void SwatchGrid::setColour(int cell, std::uint32_t colour) {
     update();
 }
 
+void SwatchGrid::setGlyphs(int cell, unsigned glyphs) {
+    if (cells_.at(cell).glyphs == glyphs)
+        return;
+    cells_.setGlyphs(cell, glyphs);
+    update();
+}
+
 bool SwatchGrid::setMarker(int slot, int cell) {
     const int before = activeCell();
     if (!cells_.setMarker(slot, cell))

@@ -38,6 +38,7 @@ public:
     void setCount(int count);
     void setValue(int cell, std::uint32_t value);
     void setColour(int cell, std::uint32_t colour);
+    void setGlyphs(int cell, unsigned glyphs);
     bool setMarker(int slot, int cell);
     /// As SwatchCells does it.
     std::optional<std::pair<int, int>> paste(const CopiedCells& copied, int column, int row);

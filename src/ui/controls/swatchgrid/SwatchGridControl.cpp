@@ -61,6 +61,12 @@ void SwatchGridControl::addCellMembers() {
         grid_.setColour(cell, static_cast<std::uint32_t>(colour));
         return std::monostate{};
     });
+    members_.method(110, [this](std::int16_t cell, std::int16_t glyphs) -> OrBadParameter<std::monostate> {
+        if (!grid_.cells().has(cell))
+            return BadParameter{};
+        grid_.setGlyphs(cell, static_cast<unsigned>(glyphs));
+        return std::monostate{};
+    });
     members_.method(11, [this](std::int16_t slot, std::int16_t cell) { return grid_.setMarker(slot, cell); });
     members_.method(12, [this](std::int16_t slot) { return asShort(grid_.cells().marker(slot)); });
     members_.method(102, [this] { return asShort(grid_.clickedCell()); });

@@ -24,6 +24,9 @@ namespace dyeworks {
 ///     property, set         row of the bank, -1 that of the current cell 102 short () cell of the last click
 ///     or double click, -1 none 103 void ()                     descriptions have changed
 ///
+///     110 void (index, glyphs)        small signs on a cell, added up: 1 a folded corner, 2 two bars, 4 a
+///     chequer
+///
 /// Events: -600 a cell was chosen; -601 double click; 1 (column, row, column, row) the user selects a range;
 /// 2 (first, last) cells that a paste changed, not raised when it changed none; 101 (index, string* text)
 /// asks for what people are told about a cell.

@@ -38,6 +38,10 @@ void SwatchPainter::useDevicePixels() {
 
 void SwatchPainter::paint() {
     paintCells();
+    for (int cell = 0; cell < geometry_.shownCells(); ++cell) {
+        if (look_.cells.at(cell).glyphs != 0)
+            paintGlyphs(cell);
+    }
     for (int slot = 1; slot < SwatchCells::kSlots; ++slot)
         paintMark(slot);
     paintBank();
@@ -71,6 +75,40 @@ void SwatchPainter::paintRings(const QRect& area, int outside, std::initializer_
     for (const QColor& colour : colours) {
         paintRing(outer, line_, colour);
         outer = grown(outer, -line_);
+    }
+}
+
+/// Each has dark and light in it, so that it can be told on a cell of any colour.
+void SwatchPainter::paintGlyphs(int cell) {
+    const QRect area = geometry_.cell(cell);
+    const unsigned glyphs = look_.cells.at(cell).glyphs;
+    const int unit = std::max(line_, area.width() / 10);
+    if ((glyphs & SwatchCells::kUnusedGlyph) != 0) {
+        const QPoint corner = area.bottomRight() + QPoint(1, 1);
+        const auto fold = [&](int length) {
+            return QPolygon({corner, corner - QPoint(length, 0), corner - QPoint(0, length)});
+        };
+        const int side = area.width() / 2;
+        painter_.setPen(Qt::NoPen);
+        painter_.setRenderHint(QPainter::Antialiasing);
+        painter_.setBrush(Qt::white);
+        painter_.drawPolygon(fold(side));
+        painter_.setBrush(Qt::black);
+        painter_.drawPolygon(fold(side - 2 * unit));
+        painter_.setRenderHint(QPainter::Antialiasing, false);
+    }
+    if ((glyphs & SwatchCells::kTwinGlyph) != 0) {
+        const QRect ground(area.right() + 1 - 5 * unit, area.top(), 5 * unit, 5 * unit);
+        painter_.fillRect(ground, Qt::black);
+        painter_.fillRect(QRect(ground.left() + unit, ground.top() + unit, 3 * unit, unit), Qt::white);
+        painter_.fillRect(QRect(ground.left() + unit, ground.top() + 3 * unit, 3 * unit, unit), Qt::white);
+    }
+    if ((glyphs & SwatchCells::kClearGlyph) != 0) {
+        const int half = 2 * unit;
+        const QRect ground(area.left(), area.bottom() + 1 - 2 * half, 2 * half, 2 * half);
+        painter_.fillRect(ground, Qt::white);
+        painter_.fillRect(QRect(ground.topLeft(), QSize(half, half)), Qt::black);
+        painter_.fillRect(QRect(ground.center() + QPoint(1, 1), QSize(half, half)), Qt::black);
     }
 }
 

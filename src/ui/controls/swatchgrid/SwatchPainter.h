@@ -35,6 +35,7 @@ public:
 private:
     void useDevicePixels();
     void paintCells();
+    void paintGlyphs(int cell);
     void paintMark(int slot);
     void paintBank();
     void paintSelection();

@@ -1,0 +1,59 @@
+#include "palette/EntryUsage.h"
+
+#include "palette/EntryFormat.h"
+#include "platform/Text.h"
+
+#include <algorithm>
+
+namespace dyeworks {
+
+namespace {
+
+/// The first entry of [begin, end) that has the value of entry `index` and is another one.
+std::optional<std::int32_t> twinOf(const TlutData& table, std::int32_t index, std::int32_t begin,
+                                   std::int32_t end) {
+    for (std::int32_t i = begin; i < end; ++i) {
+        if (i != index && table.getEntry(i) == table.getEntry(index))
+            return i;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::vector<std::uint64_t> entryUsage(AttachedImages& images, const std::string& key, std::int32_t entries) {
+    std::vector<std::uint64_t> usage(static_cast<std::size_t>(std::max(entries, 0)));
+    for (const AttachedImages::Image& image : images.attachedTo(key)) {
+        const auto first = static_cast<std::size_t>(image.firstEntry);
+        for (std::size_t value = 0; value < image.texels.size() && first + value < usage.size(); ++value)
+            usage[first + value] += image.texels[value];
+    }
+    return usage;
+}
+
+std::vector<EntryRemark> entryRemarks(const TlutData& table, const std::vector<std::uint64_t>& usage,
+                                      std::int32_t group) {
+    std::vector<EntryRemark> remarks(usage.size());
+    for (std::int32_t i = 0; i < table.count && i < static_cast<std::int32_t>(usage.size()); ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        const std::int32_t begin = i / group * group;
+        const std::uint64_t texels = usage[at];
+        remarks[at] = {texels, twinOf(table, i, begin, std::min(begin + group, table.count)),
+                       texels != 0 && highestValue(table.colourType, Channel::Alpha) &&
+                           table.getAlpha(i) == 0};
+    }
+    return remarks;
+}
+
+std::string describe(const EntryRemark& remark) {
+    std::string said = remark.isUnused()    ? text(StringId::UsageNone)
+                       : remark.texels == 1 ? text(StringId::UsageOneTexel)
+                                            : text(StringId::UsageTexels, {std::to_string(remark.texels)});
+    if (remark.twin)
+        said += text(StringId::UsageTwin, {std::to_string(*remark.twin)});
+    if (remark.isClear)
+        said += text(StringId::UsageClear);
+    return said;
+}
+
+} // namespace dyeworks

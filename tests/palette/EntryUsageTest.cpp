@@ -1,0 +1,57 @@
+#include "palette/EntryUsage.h"
+
+#include "platform/fake/FakePlatform.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace dyeworks {
+namespace {
+
+using testing::ElementsAre;
+
+class TwoImages : public AttachedImages {
+public:
+    std::vector<Image> attachedTo(const std::string& key) override {
+        EXPECT_EQ(key, "*p");
+        return {{16, inBank}, {0, whole}};
+    }
+    std::vector<std::uint64_t> inBank{5, 0, 7};
+    std::vector<std::uint64_t> whole = std::vector<std::uint64_t>(256, 1);
+};
+
+TEST(EntryUsage, AddsUpImagesThroughTheirBanksAsFarAsThePaletteReaches) {
+    TwoImages images;
+    const std::vector<std::uint64_t> all = entryUsage(images, "*p", 256);
+    EXPECT_EQ(all.size(), 256U);
+    EXPECT_THAT((std::vector(all.begin() + 15, all.begin() + 20)), ElementsAre(1, 6, 1, 8, 1));
+    EXPECT_THAT(entryUsage(images, "*p", 17), testing::Contains(6).Times(1));
+}
+
+TEST(EntryUsage, RemarksTwinsOfTheSameGroupAndClearEntriesInUse) {
+    const FakePlatform platform;
+    TlutData table;
+    ASSERT_TRUE(table.create(32, ColourType::Rgba));
+    for (std::int32_t i = 0; i < 32; ++i)
+        table.setEntry(i, static_cast<std::uint16_t>(2 * i + 1));
+    table.setEntry(18, table.getEntry(2));
+    table.setEntry(9, table.getEntry(2));
+    table.setEntry(4, 0x1230);
+    table.setEntry(5, 0x1230);
+    std::vector<std::uint64_t> usage(32, 1);
+    usage[5] = 0;
+    usage[2] = 12;
+    const auto said = [&](std::int32_t group, std::size_t entry) {
+        return describe(entryRemarks(table, usage, group).at(entry));
+    };
+    EXPECT_EQ(said(16, 2), "12 texels, same as entry 9");
+    EXPECT_EQ(said(16, 18), "1 texel");
+    EXPECT_EQ(said(32, 18), "1 texel, same as entry 2");
+    EXPECT_EQ(said(16, 4), "1 texel, same as entry 5, fully transparent");
+    EXPECT_EQ(said(16, 5), "not used, same as entry 4");
+    table.colourType = ColourType::Ia;
+    EXPECT_EQ(said(16, 4), "1 texel, same as entry 5");
+}
+
+} // namespace
+} // namespace dyeworks
