@@ -23,7 +23,8 @@ public:
     /// The slot whose cell is the current one. Slots 1 to 3 are further marks.
     static constexpr std::int16_t kCurrent = 0;
 
-    /// Corners of a range of cells, all inclusive; the first is left of and above the last.
+    /// Where a range of cells begins and ends, inclusive: corners of a rectangle, the first left of and above
+    /// the last, or the first and the last of a run of cells, where the last may be further left.
     struct Range {
         std::int16_t firstColumn = 0;
         std::int16_t firstRow = 0;
@@ -65,6 +66,17 @@ public:
     void setBankRow(std::int16_t row); // 101
     /// The cell of the last click or double click, by mouse or keyboard; kNone before the first.
     [[nodiscard]] std::int16_t clickedCell() const; // 102
+    /// What is selected, by the cells' numbers.
+    struct Selected {
+        std::int16_t first = 0;
+        std::int16_t last = 0;
+        std::int16_t count = 0; ///< 0 without a selection; fewer than first to last in a rectangle.
+    };
+    [[nodiscard]] Selected selectedCells() const; // 110
+    /// Says what is selected, for screen readers. Without one it is the first and the last number.
+    void setSelectionDescriber(std::function<QString(const Selected&)> describer) {
+        selectionDescriber_ = std::move(describer);
+    }
     /// Says what a cell holds, for its tool tip and for screen readers. Without one it is the cell's value.
     void setDescriber(std::function<QString(int cell)> describer) { describer_ = std::move(describer); }
     /// The description of some cell is another one now, though its value is the same.
@@ -83,6 +95,7 @@ private:
     void hearEvent(DispatchId event, DispatchArguments arguments) override;
 
     std::function<QString(int)> describer_;
+    std::function<QString(const Selected&)> selectionDescriber_;
 };
 
 } // namespace dyeworks

@@ -26,6 +26,7 @@ public:
     [[nodiscard]] PaletteBarState& state() noexcept { return controls_->state(); }
     /// The commands that act on the entries of the palette.
     [[nodiscard]] PaletteBarCommands& commands() noexcept { return controls_->commands(); }
+    [[nodiscard]] RangeCommands& rangeCommands() noexcept { return controls_->rangeCommands(); }
 
 protected:
     bool event(QEvent* event) override;
