@@ -1108,6 +1108,54 @@ Show Texels</source>
 Toggle Banks</source>
         <translation>すべてのバンクで見た画像の表示と非表示を切り替えます。
 バンクバーの表示切り替え</translation>
+        <source>Ra&amp;mp</source>
+        <translation>グラデーション(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Lay even steps between the first and the last of the selected entries, or of all
+Ramp</source>
+        <translation>選択したエントリー(なければ全体)の最初と最後の間を等間隔の段階で埋めます
+グラデーション</translation>
+    </message>
+    <message>
+        <source>Ad&amp;just...</source>
+        <translation>調整(&amp;J)...</translation>
+    </message>
+    <message>
+        <source>Change hue, saturation, brightness, a channel or alpha of the selected entries, or of all
+Adjust Entries</source>
+        <translation>選択したエントリー(なければ全体)の色相、彩度、明るさ、チャンネル、アルファを変えます
+エントリーの調整</translation>
+    </message>
+    <message>
+        <source>&amp;Invert</source>
+        <translation>反転(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Invert the colours of the selected entries, or of all
+Invert Entries</source>
+        <translation>選択したエントリー(なければ全体)の色を反転します
+エントリーの色を反転</translation>
+    </message>
+    <message>
+        <source>Re&amp;verse</source>
+        <translation>逆順(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Put the selected entries, or all, in the opposite order
+Reverse Entries</source>
+        <translation>選択したエントリー(なければ全体)を逆の順に並べます
+エントリーを逆順に</translation>
+    </message>
+    <message>
+        <source>&amp;Fill</source>
+        <translation>塗りつぶし(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Give the selected entries, or all, the value of the entry that is being edited
+Fill Entries</source>
+        <translation>選択したエントリ(なければ全体)を編集中のエントリの値にします
+エントリの塗りつぶし</translation>
     </message>
 </context>
 <context>
@@ -3065,6 +3113,68 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     <message>
         <source>The active image through every bank of its palette, or through every open palette. The framed one is the image&apos;s own; click another to choose it.</source>
         <translation>アクティブな画像を、パレットのすべてのバンク、または開いているすべてのパレットで見たものです。枠が付いているのが今の表示で、ほかをクリックするとそれを選びます。</translation>
+        <source>entries %1 to %2 are selected</source>
+        <translation>エントリー %1～%2 を選択</translation>
+    </message>
+    <message>
+        <source>%1 entries are selected</source>
+        <translation>%1 個のエントリーを選択</translation>
+    </message>
+    <message>
+        <source>Adjust Entries</source>
+        <translation>エントリーの調整</translation>
+    </message>
+    <message>
+        <source>Entries %1 to %2</source>
+        <translation>エントリー %1～%2</translation>
+    </message>
+    <message>
+        <source>&amp;Hue</source>
+        <translation>色相(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Degrees to turn the hue by, from red towards green</source>
+        <translation>色相を回す角度(赤から緑の向きに)</translation>
+    </message>
+    <message>
+        <source>&amp;Saturation</source>
+        <translation>彩度(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Percent of the way to grey, or to the purest colour</source>
+        <translation>灰色、または最も鮮やかな色へ近づける割合(%)</translation>
+    </message>
+    <message>
+        <source>&amp;Brightness</source>
+        <translation>明るさ(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Percent of the way to black, or to white</source>
+        <translation>黒、または白へ近づける割合(%)</translation>
+    </message>
+    <message>
+        <source>&amp;Channel</source>
+        <translation>チャンネル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>The channel that the steps are for</source>
+        <translation>段階を変えるチャンネル</translation>
+    </message>
+    <message>
+        <source>&amp;Intensity</source>
+        <translation>輝度(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Steps down or up, as far as there are any</source>
+        <translation>下げる、または上げる段階数(限度まで)</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>リセット(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Back to the entries as they are</source>
+        <translation>元のエントリーに戻します</translation>
     </message>
 </context>
 </TS>

@@ -147,6 +147,12 @@ inline constexpr CommandId ID_BRUSH_ROUND = 33166;
 inline constexpr CommandId ID_MIRROR_ACROSS = 33167;
 inline constexpr CommandId ID_MIRROR_DOWN = 33168;
 
+inline constexpr CommandId ID_RANGE_RAMP = 33180;
+inline constexpr CommandId ID_RANGE_ADJUST = 33181;
+inline constexpr CommandId ID_RANGE_INVERT = 33182;
+inline constexpr CommandId ID_RANGE_REVERSE = 33183;
+inline constexpr CommandId ID_RANGE_FILL = 33184;
+
 inline constexpr CommandId ID_VIEW_USAGE = 33200;
 inline constexpr CommandId ID_PALETTE_SHOW_TEXELS = 33201;
 inline constexpr CommandId ID_VIEW_BANKSBAR = 33202;

@@ -236,6 +236,27 @@ constexpr CommandRow kRows[] = {
     CommandRow{ID_MIRROR_DOWN, QT_TRANSLATE_NOOP("Command", "Mirror &Down"),
                QT_TRANSLATE_NOOP("Command", "Draw above and below the middle alike\nMirror Down"), "",
                "mirror-down"},
+    CommandRow{ID_RANGE_RAMP, QT_TRANSLATE_NOOP("Command", "Ra&mp"),
+               QT_TRANSLATE_NOOP(
+                   "Command",
+                   "Lay even steps between the first and the last of the selected entries, or of all\nRamp"),
+               "", ""},
+    CommandRow{ID_RANGE_ADJUST, QT_TRANSLATE_NOOP("Command", "Ad&just..."),
+               QT_TRANSLATE_NOOP("Command", "Change hue, saturation, brightness, a channel or alpha of the "
+                                            "selected entries, or of all\nAdjust Entries"),
+               "", ""},
+    CommandRow{
+        ID_RANGE_INVERT, QT_TRANSLATE_NOOP("Command", "&Invert"),
+        QT_TRANSLATE_NOOP("Command", "Invert the colours of the selected entries, or of all\nInvert Entries"),
+        "", ""},
+    CommandRow{ID_RANGE_REVERSE, QT_TRANSLATE_NOOP("Command", "Re&verse"),
+               QT_TRANSLATE_NOOP("Command",
+                                 "Put the selected entries, or all, in the opposite order\nReverse Entries"),
+               "", ""},
+    CommandRow{ID_RANGE_FILL, QT_TRANSLATE_NOOP("Command", "&Fill"),
+               QT_TRANSLATE_NOOP("Command", "Give the selected entries, or all, the value of the entry that "
+                                            "is being edited\nFill Entries"),
+               "", ""},
     CommandRow{ID_VIEW_USAGE, QT_TRANSLATE_NOOP("Command", "&Usage"),
                QT_TRANSLATE_NOOP("Command", "Mark entries that no image shows, twins and transparent ones "
                                             "that are in use\nToggle Usage"),

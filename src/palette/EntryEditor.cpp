@@ -90,9 +90,14 @@ void EntryEditor::PreviewChecked(bool checked) {
         preview_.turnOff();
 }
 
-void EntryEditor::SetShown(bool shown) {
-    if (preview_.setShown(shown) && shown && entry_.pending())
+void EntryEditor::ShowAgain() {
+    if (entry_.pending())
         preview_.show(cells_.currentEntry(), entry_);
+}
+
+void EntryEditor::SetShown(bool shown) {
+    if (preview_.setShown(shown) && shown)
+        ShowAgain();
 }
 
 ColourRef EntryEditor::colour(ViewMode mode) const {

@@ -34,6 +34,8 @@ public:
 
     /// From the palette, a value that was not applied is dropped.
     void SyncControls(Source source);
+    /// The images have shown something else: they show the edited value again, if they did before.
+    void ShowAgain();
     /// The bar appeared or was closed; a closed bar leaves no preview behind.
     void SetShown(bool shown);
 

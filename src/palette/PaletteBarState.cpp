@@ -161,6 +161,20 @@ void PaletteBarState::edit(TextureLookupTable& palette,
     showStored();
 }
 
+void PaletteBarState::showPassing(const std::string& key, const TextureLookupTable& shown) {
+    // Another palette may have become the current one meanwhile.
+    if (key == host_.paletteSet()->currentKey && cells_.started())
+        cells_.show(shown.table, viewMode_);
+    host_.BroadcastPaletteChange(key, shown);
+}
+
+void PaletteBarState::endPassing(const std::string& key) {
+    const auto& palettes = host_.paletteSet()->palettes;
+    if (const auto position = palettes.find(key); position != palettes.end())
+        showPassing(key, *position->second);
+    editor_.ShowAgain();
+}
+
 void PaletteBarState::showStored() {
     const Action action(changes_, PaletteBarChanges::kValues);
     RefreshFromPalette();

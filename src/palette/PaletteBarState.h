@@ -62,6 +62,10 @@ public:
 
     /// One undoable edit of a palette, then everything shows it.
     void edit(TextureLookupTable& palette, const std::function<void(TextureLookupTable&)>& write);
+    /// Lets the bar and the images show `shown` as the palette of that key, which stays what it is.
+    void showPassing(const std::string& key, const TextureLookupTable& shown);
+    /// After that: what they showed before, an edited value that was not applied included.
+    void endPassing(const std::string& key);
     /// Lets the bar and the images take the stored entries of the palette.
     void showStored();
 

@@ -36,16 +36,20 @@ bool PaletteCells::read(ViewMode mode) {
     grid_->setBankMode(inBankMode());
     grid_->setCellCount(columns_ * rows_);
     grid_->setLayout(columns_, rows_);
-    for (std::int32_t i = 0; i < columns_ * rows_; ++i) {
-        // A palette of another size than 16 may leave cells without an entry.
-        const std::uint32_t value =
-            i < count ? cellValue(palette->table.colourType, palette->table.getEntry(i)) : 0U;
-        grid_->setValue(i, value);
-        grid_->setColour(i, cellColour(value, mode));
-    }
+    if (palette != nullptr)
+        show(palette->table, mode);
     keepCurrentInside();
     grid_->redraw();
     return resized;
+}
+
+void PaletteCells::show(const TlutData& table, ViewMode mode) {
+    for (std::int32_t i = 0; i < columns_ * rows_; ++i) {
+        // A palette of another size than 16 may leave cells without an entry.
+        const std::uint32_t value = i < table.count ? cellValue(table.colourType, table.getEntry(i)) : 0U;
+        grid_->setValue(i, value);
+        grid_->setColour(i, cellColour(value, mode));
+    }
 }
 
 /// The palette may have become smaller, or be the first one.
@@ -75,6 +79,24 @@ std::optional<std::int32_t> PaletteCells::currentEntry() const {
     if (cell < 0 || cell >= palette_.get()->table.count)
         return std::nullopt;
     return cell;
+}
+
+std::optional<EntryRange> PaletteCells::selectedRange() const {
+    if (!started() || !palette_.exists())
+        return std::nullopt;
+    const PaletteGrid::Selected selected = grid_->selectedCells();
+    const EntryRange range{selected.first, std::min(selected.last, palette_.get()->table.count - 1)};
+    // Cells without an entry at the end of the grid may be selected too.
+    if (range.last <= range.first || blockIsSelected())
+        return std::nullopt;
+    return range;
+}
+
+bool PaletteCells::blockIsSelected() const {
+    if (!started())
+        return false;
+    const PaletteGrid::Selected selected = grid_->selectedCells();
+    return selected.count > 0 && selected.count != selected.last - selected.first + 1;
 }
 
 bool PaletteCells::canCopy() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "palette/CurrentPalette.h"
+#include "palette/EntryRange.h"
 #include "palette/PaletteBarHost.h"
 #include "palette/PaletteGrid.h"
 
@@ -30,8 +31,17 @@ public:
     /// Shows the current palette and the bank of the active image. True when the grid has another size than
     /// before.
     bool read(ViewMode mode);
+    /// Shows other entries in the cells, until the palette is read again.
+    void show(const TlutData& table, ViewMode mode);
     /// Writes every cell to the palette.
     void writeTo(TextureLookupTable& palette) const;
+
+    /// The selected entries, where several in a row are selected, whatever the rows of the grid. The current
+    /// cell alone is no range.
+    [[nodiscard]] std::optional<EntryRange> selectedRange() const;
+    /// A rectangle is selected that leaves out entries between its first and its last, so that it is no
+    /// range.
+    [[nodiscard]] bool blockIsSelected() const;
 
     [[nodiscard]] bool canCopy() const;
     /// The selected cells.

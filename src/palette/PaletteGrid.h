@@ -14,6 +14,12 @@ public:
         std::int32_t row = 0;
     };
 
+    struct Selected {
+        std::int32_t first = 0;
+        std::int32_t last = 0;
+        std::int32_t count = 0; ///< 0 without a selection.
+    };
+
     /// The marker of the current cell; the others are numbered up to `kLastMarker`.
     static constexpr std::int32_t kCurrentCell = 0;
     static constexpr std::int32_t kLastMarker = 3;
@@ -43,6 +49,8 @@ public:
 
     /// First corner of the selected range; nothing without a selection.
     [[nodiscard]] virtual std::optional<Cell> selection() const = 0;
+    /// All selected cells by their numbers: a run, or a block with others between its first and its last.
+    [[nodiscard]] virtual Selected selectedCells() const = 0;
     virtual bool copy() = 0;
     [[nodiscard]] virtual bool hasCopiedCells() const = 0;
     /// Puts the copied cells with their first corner at `cell` and then reports that cells have changed.

@@ -336,6 +336,23 @@ enum class StringId {
     PaletteEntryTip,
     PaletteEntryWrong,
     PaletteGradient,
+    RangeSelected, ///< %1 and %2 numbers
+    BlockSelected, ///< %1 number
+    AdjustCaption,
+    AdjustEntries, ///< %1 and %2 numbers
+    AdjustHue,
+    AdjustHueTip,
+    AdjustSaturation,
+    AdjustSaturationTip,
+    AdjustBrightness,
+    AdjustBrightnessTip,
+    AdjustChannel,
+    AdjustChannelTip,
+    AdjustIntensity,
+    AdjustAlpha,
+    AdjustStepsTip,
+    AdjustReset,
+    AdjustResetTip,
 
     NewProjectTab,
     NewProjectName,

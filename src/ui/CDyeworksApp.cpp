@@ -37,6 +37,7 @@ std::vector<CommandTarget*> CDyeworksApp::commandChain() {
     if (mainFrame_ != nullptr) {
         chain = mainFrame_->commandTargets();
         chain.push_back(&mainFrame_->paletteBar().commands());
+        chain.push_back(&mainFrame_->paletteBar().rangeCommands());
         chain.push_back(&mainFrame_->printing());
     }
     chain.push_back(&projectCommands_);

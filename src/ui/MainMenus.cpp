@@ -199,8 +199,18 @@ constexpr std::array kDrawMenu{
 
 // Apart, because "Copy" and "Open" of a palette have the same letter.
 constexpr std::array kEntriesMenu{
-    MenuItem{ID_PALETTE_EDIT}, MenuItem{ID_PALETTE_UNDO},  MenuItem{ID_PALETTE_REDO}, kSeparator,
-    MenuItem{ID_PALETTE_COPY}, MenuItem{ID_PALETTE_PASTE},
+    MenuItem{ID_PALETTE_EDIT},
+    MenuItem{ID_PALETTE_UNDO},
+    MenuItem{ID_PALETTE_REDO},
+    kSeparator,
+    MenuItem{ID_PALETTE_COPY},
+    MenuItem{ID_PALETTE_PASTE},
+    kSeparator,
+    MenuItem{ID_RANGE_RAMP},
+    MenuItem{ID_RANGE_ADJUST},
+    MenuItem{ID_RANGE_INVERT},
+    MenuItem{ID_RANGE_REVERSE},
+    MenuItem{ID_RANGE_FILL},
 };
 
 constexpr std::array kPaletteMenu{

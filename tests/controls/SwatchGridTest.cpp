@@ -56,10 +56,16 @@ protected:
     void click(int cell, Qt::KeyboardModifiers modifiers = {}) {
         QTest::mouseClick(&widget(), Qt::LeftButton, modifiers, at(cell));
     }
-    void drag(int from, QPoint to) {
-        QTest::mousePress(&widget(), Qt::LeftButton, {}, at(from));
+    void drag(int from, QPoint to, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::mousePress(&widget(), Qt::LeftButton, modifiers, at(from));
         QTest::mouseMove(&widget(), to);
-        QTest::mouseRelease(&widget(), Qt::LeftButton, {}, to);
+        QTest::mouseRelease(&widget(), Qt::LeftButton, modifiers, to);
+    }
+    /// How many cells are selected, the first and the last of them; 0 alone without a selection.
+    std::vector<int> selected() {
+        std::array<std::int16_t, 2> ends{};
+        const int count = number(call(111, {&ends[0], &ends[1]}));
+        return count == 0 ? std::vector<int>{0} : std::vector<int>{count, ends[0], ends[1]};
     }
 };
 
@@ -99,12 +105,15 @@ TEST_F(SwatchGridTest, DragAndShiftSelectRangesAroundTheCurrentCell) {
     EXPECT_THAT(sink_.taken(), ElementsAre("1(1,2,1,2)", "-600()", "1(1,1,2,2)"));
     EXPECT_EQ(marker(0), 9);
     EXPECT_THAT(range(), ElementsAre(1, 1, 2, 2));
+    EXPECT_THAT(selected(), ElementsAre(4, 5, 10));
+    // With Shift it becomes a run, over the ends of rows.
     press(Qt::Key_Right, Qt::ShiftModifier);
     press(Qt::Key_Up, Qt::ShiftModifier);
     press(Qt::Key_Up, Qt::ShiftModifier);
-    EXPECT_THAT(range(), ElementsAre(1, 0, 3, 2));
+    EXPECT_THAT(selected(), ElementsAre(7, 3, 9));
+    EXPECT_THAT(range(), ElementsAre(3, 0, 1, 2));
     click(12, Qt::ShiftModifier);
-    EXPECT_THAT(range(), ElementsAre(0, 2, 1, 3));
+    EXPECT_THAT(selected(), ElementsAre(4, 9, 12));
     EXPECT_EQ(marker(0), 9);
     sink_.taken();
     // Beyond the edge the nearest cell counts.
@@ -191,6 +200,50 @@ TEST_F(SwatchGridTest, PasteIsCutAtTheEdgesAndNamesTheChangedCells) {
     EXPECT_EQ(number(callShort(17, {0, 0})), 1);
     EXPECT_THAT(sink_.taken(), ElementsAre("2(2,2)"));
     EXPECT_EQ(value(2), 4);
+}
+
+TEST_F(SwatchGridTest, ARunIsCopiedPastedFramedAndToldAcrossTheEndsOfRows) {
+    layOut(4, 4, 16);
+    set(3, shortValue(1));
+    EXPECT_THAT(selected(), ElementsAre(0));
+    click(6);
+    const QImage plain = widget().grab().toImage();
+    drag(8, at(11), Qt::ShiftModifier);
+    EXPECT_THAT(selected(), ElementsAre(6, 6, 11));
+    EXPECT_EQ(marker(0), 6);
+    const QImage framed = widget().grab().toImage();
+    // Cells whose second pixel from the left or from above has changed: there the frame runs inside of them.
+    std::vector<int> left, top;
+    const auto changes = [&](int cell, QPoint step) {
+        QPoint edge = at(cell);
+        while (cellAt(edge + step) == cell)
+            edge += step;
+        return framed.pixelColor(edge - step) != plain.pixelColor(edge - step);
+    };
+    for (int cell = 0; cell < 16; ++cell) {
+        if (changes(cell, {-1, 0}))
+            left.push_back(cell);
+        if (changes(cell, {0, -1}))
+            top.push_back(cell);
+    }
+    EXPECT_THAT(left, ElementsAre(8));
+    EXPECT_THAT(top, ElementsAre(7, 8, 9));
+    QAccessibleInterface* const table = QAccessible::queryAccessibleInterface(&widget());
+    EXPECT_TRUE(table->text(QAccessible::Value).endsWith(QStringLiteral("6-11")));
+    EXPECT_EQ(table->tableInterface()->selectedCellCount(), 6);
+    EXPECT_THAT(table->tableInterface()->selectedRows(), ElementsAre(2));
+    EXPECT_THAT(table->tableInterface()->selectedColumns(), IsEmpty());
+    EXPECT_EQ(number(call(15, {})), 1);
+    sink_.taken();
+    EXPECT_EQ(number(callShort(17, {2, 3})), 1);
+    EXPECT_THAT(sink_.taken(), ElementsAre("2(14,15)"));
+    EXPECT_EQ(number(callShort(17, {3, 0})), 1); // 6 to 11 on 3 to 8
+    EXPECT_THAT((std::vector{value(3), value(4), value(8), value(9), value(14)}),
+                ElementsAre(6, 7, 11, 9, 6));
+    press(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_THAT(selected(), ElementsAre(16, 0, 15));
+    press(Qt::Key_Escape);
+    EXPECT_THAT(selected(), ElementsAre(1, 6, 6));
 }
 
 TEST_F(SwatchGridTest, PaintsTheDisplayedColourUpToTheLastPixelOfEveryCell) {

@@ -36,6 +36,7 @@ public:
     void setMarker(int marker, int cell) override { markers.at(std::size_t(marker)) = cell; }
     int marker(int marker) const override { return markers.at(std::size_t(marker)); }
     std::optional<Cell> selection() const override { return selected; }
+    Selected selectedCells() const override { return cells; }
     bool copy() override { return copied = true; }
     bool hasCopiedCells() const override { return copied; }
     bool paste(Cell at) override { return (pastedAt = at.row * columns + at.column) >= 0; }
@@ -46,6 +47,7 @@ public:
     std::vector<std::uint32_t> values, colours;
     std::vector<int> markers{5, 5, 5, 5};
     std::optional<Cell> selected;
+    Selected cells;
 };
 
 /// A bar over real palettes, and images of which only the entries that they show are kept.

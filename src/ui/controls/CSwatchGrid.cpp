@@ -102,6 +102,12 @@ void CSwatchGrid::describeAgain() {
     control().call(103, {});
 }
 
+CSwatchGrid::Selected CSwatchGrid::selectedCells() const {
+    Selected selected;
+    selected.count = control().call(111, {&selected.first, &selected.last}, std::int16_t{0});
+    return selected;
+}
+
 void CSwatchGrid::hearEvent(DispatchId event, DispatchArguments arguments) {
     switch (event) {
     case -600:
@@ -121,6 +127,15 @@ void CSwatchGrid::hearEvent(DispatchId event, DispatchArguments arguments) {
         if (arguments.size() == 2 && describer_) {
             if (std::string* const* text = std::get_if<std::string*>(&arguments[1]))
                 **text = describer_(shortOf(arguments, 0)).toStdString();
+        }
+        break;
+    case 111:
+        if (arguments.size() == 4 && selectionDescriber_) {
+            const auto number = [&](std::size_t i) {
+                return static_cast<std::int16_t>(shortOf(arguments, i));
+            };
+            if (std::string* const* text = std::get_if<std::string*>(&arguments[3]))
+                **text = selectionDescriber_({number(0), number(1), number(2)}).toStdString();
         }
         break;
     default:

@@ -27,7 +27,8 @@ public:
     static constexpr std::int16_t kTwinGlyph = 2;   ///< Two bars.
     static constexpr std::int16_t kClearGlyph = 4;  ///< A chequer.
 
-    /// Corners of a range of cells, all inclusive; the first is left of and above the last.
+    /// Where a range of cells begins and ends, inclusive: corners of a rectangle, the first left of and above
+    /// the last, or the first and the last of a run of cells, where the last may be further left.
     struct Range {
         std::int16_t firstColumn = 0;
         std::int16_t firstRow = 0;
@@ -71,6 +72,17 @@ public:
     [[nodiscard]] std::int16_t clickedCell() const; // 102
     /// Small signs on a cell, of those below, added up.
     void setCellGlyphs(std::int16_t cell, std::int16_t glyphs); // 110
+    /// What is selected, by the cells' numbers.
+    struct Selected {
+        std::int16_t first = 0;
+        std::int16_t last = 0;
+        std::int16_t count = 0; ///< 0 without a selection; fewer than first to last in a rectangle.
+    };
+    [[nodiscard]] Selected selectedCells() const; // 111
+    /// Says what is selected, for screen readers. Without one it is the first and the last number.
+    void setSelectionDescriber(std::function<QString(const Selected&)> describer) {
+        selectionDescriber_ = std::move(describer);
+    }
     /// Says what a cell holds, for its tool tip and for screen readers. Without one it is the cell's value.
     void setDescriber(std::function<QString(int cell)> describer) { describer_ = std::move(describer); }
     /// The description of some cell is another one now, though its value is the same.
@@ -89,6 +101,7 @@ private:
     void hearEvent(DispatchId event, DispatchArguments arguments) override;
 
     std::function<QString(int)> describer_;
+    std::function<QString(const Selected&)> selectionDescriber_;
 };
 
 } // namespace dyeworks

@@ -29,6 +29,7 @@ public:
     void showRemarks(std::vector<EntryRemark> remarks) { controls_->showRemarks(std::move(remarks)); }
     /// The commands that act on the entries of the palette.
     [[nodiscard]] PaletteBarCommands& commands() noexcept { return controls_->commands(); }
+    [[nodiscard]] RangeCommands& rangeCommands() noexcept { return controls_->rangeCommands(); }
 
 Q_SIGNALS:
     /// The palettes, the current one's values or the bank were shown anew.

@@ -6,6 +6,7 @@
 #include "ui/controls/CSwatchGrid.h"
 #include "ui/palettebar/CPaletteBarChannel.h"
 #include "ui/palettebar/PaletteBarWidgets.h"
+#include "ui/sheets/AdjustEntriesSheet.h"
 #include "ui/sheets/CIaPaletteDialog.h"
 #include "ui/sheets/CRgbaPaletteDialog.h"
 #include "ui/sheets/ColourControls.h"
@@ -157,10 +158,17 @@ void CPaletteBarControls::tabsChanged() {
 }
 
 std::optional<std::uint16_t> CPaletteBarControls::askEntry(ColourType type, std::uint16_t start) {
-    // The command also comes from a menu, while the bar is hidden.
-    QWidget* const parent = isVisible() ? window() : window()->parentWidget();
-    return type == ColourType::Ia ? ask<CIaPaletteDialog>(parent, start)
-                                  : ask<CRgbaPaletteDialog>(parent, start);
+    return type == ColourType::Ia ? ask<CIaPaletteDialog>(dialogOwner(), start)
+                                  : ask<CRgbaPaletteDialog>(dialogOwner(), start);
+}
+
+QWidget* CPaletteBarControls::dialogOwner() const {
+    return isVisible() ? window() : window()->parentWidget();
+}
+
+bool CPaletteBarControls::askAdjustment(RangeAdjustment& adjustment) {
+    AdjustEntriesSheet sheet(adjustment, dialogOwner(), window());
+    return sheet.exec() == QDialog::Accepted;
 }
 
 void CPaletteBarControls::resizeEvent(QResizeEvent*) {

@@ -4,6 +4,7 @@
 #include "palette/PaletteBarCommands.h"
 #include "palette/PaletteBarHost.h"
 #include "palette/PaletteBarState.h"
+#include "palette/RangeCommands.h"
 #include "ui/palettebar/PaletteGridControl.h"
 
 #include <QWidget>
@@ -33,7 +34,7 @@ class IntegerField;
 ///
 /// The cells take the room that is there: they stand beside the fields where that makes them larger, above
 /// them otherwise.
-class CPaletteBarControls : public QWidget, private PaletteBarView {
+class CPaletteBarControls : public QWidget, private PaletteBarView, private RangeView {
     Q_OBJECT
 
 public:
@@ -43,6 +44,7 @@ public:
 
     [[nodiscard]] PaletteBarState& state() noexcept { return state_; }
     [[nodiscard]] PaletteBarCommands& commands() noexcept { return commands_; }
+    [[nodiscard]] RangeCommands& rangeCommands() noexcept { return rangeCommands_; }
 
     /// Shows on the cells, and says of them, what is remarked of the entries; none: nothing.
     void showRemarks(std::vector<EntryRemark> remarks);
@@ -67,6 +69,8 @@ private:
     void layoutChanged() override;
     void tabsChanged() override;
     std::optional<std::uint16_t> askEntry(ColourType type, std::uint16_t start) override;
+    // RangeView
+    bool askAdjustment(RangeAdjustment& adjustment) override;
 
     // What the controls are made of, from above to below.
     void makeTabs();
@@ -79,6 +83,8 @@ private:
     QWidget* makeChannels();
     QWidget* makeStrip();
 
+    /// The window that a dialog is for: the bar's commands also come from a menu, while the bar is hidden.
+    [[nodiscard]] QWidget* dialogOwner() const;
     void arrange();
     [[nodiscard]] QSize smallestBeside() const;
     [[nodiscard]] QSize smallestAbove() const;
@@ -91,6 +97,7 @@ private:
     CommandActions& actions_;
     PaletteBarState state_;
     PaletteBarCommands commands_;
+    RangeCommands rangeCommands_;
     QTabBar* tabs_ = nullptr;
     QWidget* emptyNotice_ = nullptr;
     QBoxLayout* body_ = nullptr;

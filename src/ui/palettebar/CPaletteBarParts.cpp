@@ -45,6 +45,7 @@ CPaletteBarControls::CPaletteBarControls(PaletteBarHost& host, CommandActions& a
     : actions_(actions)
     , state_(host, *this)
     , commands_(state_, host, *this)
+    , rangeCommands_(state_, host, *this)
     , body_(new QBoxLayout(QBoxLayout::LeftToRight)) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -103,6 +104,12 @@ QWidget* CPaletteBarControls::makeGrid() {
     identify(*grid_, IDC_PALETTE_GRID);
     grid_->setAccessibleName(shown(StringId::PaletteColours));
     grid_->setDescriber([this](int cell) { return cellTip(cell); });
+    grid_->setSelectionDescriber([](const CSwatchGrid::Selected& selected) {
+        const bool isRun = selected.count == selected.last - selected.first + 1;
+        return isRun ? shown(StringId::RangeSelected,
+                             {std::to_string(selected.first), std::to_string(selected.last)})
+                     : shown(StringId::BlockSelected, {std::to_string(selected.count)});
+    });
     connect(grid_, &CSwatchGrid::clicked, this, [this] { state_.GridClicked(); });
     connect(grid_, &CSwatchGrid::doubleClicked, this, [this] { actions_.run(ID_PALETTE_EDIT); });
     connect(grid_, &CSwatchGrid::cellsPasted, this, [this] { state_.GridChanged(); });

@@ -25,6 +25,12 @@ constexpr std::array kPaletteBarMenu{
     MenuItem{ID_PALETTE_COPY},
     MenuItem{ID_PALETTE_PASTE},
     kSeparator,
+    MenuItem{ID_RANGE_RAMP},
+    MenuItem{ID_RANGE_ADJUST},
+    MenuItem{ID_RANGE_INVERT},
+    MenuItem{ID_RANGE_REVERSE},
+    MenuItem{ID_RANGE_FILL},
+    kSeparator,
     MenuItem{ID_VIEW_USAGE},
     MenuItem{ID_PALETTE_SHOW_TEXELS},
 };

@@ -64,6 +64,11 @@ std::optional<PaletteGrid::Cell> PaletteGridControl::selection() const {
     return Cell{range->firstColumn, range->firstRow};
 }
 
+PaletteGrid::Selected PaletteGridControl::selectedCells() const {
+    const CSwatchGrid::Selected selected = control_.selectedCells();
+    return {selected.first, selected.last, selected.count};
+}
+
 bool PaletteGridControl::copy() {
     return control_.copySelected();
 }

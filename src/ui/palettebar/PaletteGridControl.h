@@ -23,6 +23,7 @@ public:
     void setMarker(std::int32_t marker, std::int32_t cell) override;
     [[nodiscard]] std::int32_t marker(std::int32_t marker) const override;
     [[nodiscard]] std::optional<Cell> selection() const override;
+    [[nodiscard]] Selected selectedCells() const override;
     bool copy() override;
     [[nodiscard]] bool hasCopiedCells() const override;
     bool paste(Cell cell) override;

@@ -16,6 +16,12 @@ QString formatName() {
     return QString::fromLatin1("application/x-dyeworks-cells");
 }
 
+/// Says of a row of cells that it is a run. Beside the cells, so that a program that knows no runs reads them
+/// as a row.
+QString runFormatName() {
+    return QString::fromLatin1("application/x-dyeworks-cell-run");
+}
+
 /// One line per row, hexadecimal values between blanks.
 QByteArray encoded(const CopiedCells& cells) {
     QByteArray lines;
@@ -66,13 +72,20 @@ QString readable(const CopiedCells& cells) {
 void CopiedCells::putOnClipboard() const {
     auto data = std::make_unique<QMimeData>();
     data->setData(formatName(), encoded(*this));
+    if (isRun)
+        data->setData(runFormatName(), QByteArray("1"));
     data->setText(readable(*this));
     QGuiApplication::clipboard()->setMimeData(data.release());
 }
 
 std::optional<CopiedCells> CopiedCells::fromClipboard() {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    return data == nullptr ? std::nullopt : decoded(data->data(formatName()));
+    if (data == nullptr)
+        return std::nullopt;
+    std::optional<CopiedCells> cells = decoded(data->data(formatName()));
+    if (cells)
+        cells->isRun = data->hasFormat(runFormatName());
+    return cells;
 }
 
 bool CopiedCells::areOnClipboard() {

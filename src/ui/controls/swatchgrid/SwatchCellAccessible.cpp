@@ -31,7 +31,9 @@ QAccessibleInterface* SwatchCellAccessible::parent() const {
 }
 
 QString SwatchCellAccessible::text(QAccessible::Text kind) const {
-    return isValid() && kind == QAccessible::Name ? grid_->description(cell_) : QString();
+    if (isValid() && kind == QAccessible::Name)
+        return grid_->description(cell_);
+    return isSelected() && kind == QAccessible::Description ? grid_->selectionDescription() : QString();
 }
 
 QRect SwatchCellAccessible::rect() const {
@@ -56,8 +58,7 @@ QAccessible::State SwatchCellAccessible::state() const {
 }
 
 bool SwatchCellAccessible::isSelected() const {
-    const std::optional<QRect> range = isValid() ? grid_->cells().selection() : std::nullopt;
-    return range && range->contains(columnIndex(), rowIndex());
+    return isValid() && grid_->cells().isSelected(cell_);
 }
 
 int SwatchCellAccessible::columnIndex() const {

@@ -53,26 +53,57 @@ int SwatchCells::marker(int slot) const {
     return slot < 0 || slot >= kSlots ? kNone : markers_[static_cast<std::size_t>(slot)];
 }
 
-void SwatchCells::select(int from, int to) {
-    selection_ = {from, to};
+void SwatchCells::select(int from, int to, Shape shape) {
+    selection_ = {from, to, shape};
 }
 
-std::optional<QRect> SwatchCells::selection() const {
+std::optional<SwatchCells::Corners> SwatchCells::selection() const {
     if (!selection_ || columns_ == 0)
         return std::nullopt;
-    const QPoint from(selection_->first % columns_, selection_->first / columns_);
-    const QPoint to(selection_->second % columns_, selection_->second / columns_);
-    return QRect(QPoint(std::min(from.x(), to.x()), std::min(from.y(), to.y())),
-                 QPoint(std::max(from.x(), to.x()), std::max(from.y(), to.y())));
+    const auto [low, high] = std::minmax(selection_->from, selection_->to);
+    const QPoint first(low % columns_, low / columns_);
+    const QPoint last(high % columns_, high / columns_);
+    if (selection_->shape == Shape::Run)
+        return Corners{first, last};
+    return Corners{{std::min(first.x(), last.x()), first.y()}, {std::max(first.x(), last.x()), last.y()}};
+}
+
+bool SwatchCells::isSelected(int cell) const {
+    const std::optional<Corners> range = selection();
+    if (!range || !has(cell))
+        return false;
+    const QPoint place(cell % columns_, cell / columns_);
+    const bool inRows = place.y() >= range->first.y() && place.y() <= range->last.y();
+    if (selection_->shape == Shape::Block)
+        return inRows && place.x() >= range->first.x() && place.x() <= range->last.x();
+    return inRows && (place.y() > range->first.y() || place.x() >= range->first.x()) &&
+           (place.y() < range->last.y() || place.x() <= range->last.x());
+}
+
+std::vector<int> SwatchCells::selectedCells() const {
+    std::vector<int> cells;
+    for (int cell = 0; cell < count(); ++cell) {
+        if (isSelected(cell))
+            cells.push_back(cell);
+    }
+    return cells;
 }
 
 std::optional<CopiedCells> SwatchCells::selected() const {
-    const std::optional<QRect> range = selection();
+    const std::optional<Corners> range = selection();
     if (!range)
         return std::nullopt;
-    CopiedCells copied{range->width(), {}};
-    for (int row = range->top(); row <= range->bottom(); ++row) {
-        for (int column = range->left(); column <= range->right(); ++column) {
+    CopiedCells copied;
+    if (selection_->shape == Shape::Run) {
+        copied.isRun = true;
+        for (const int cell : selectedCells())
+            copied.values.push_back(at(cell).value);
+        copied.columns = static_cast<int>(copied.values.size());
+        return copied;
+    }
+    copied.columns = range->last.x() - range->first.x() + 1;
+    for (int row = range->first.y(); row <= range->last.y(); ++row) {
+        for (int column = range->first.x(); column <= range->last.x(); ++column) {
             // The last row may be shorter than the range is wide.
             const int cell = row * columns_ + column;
             copied.values.push_back(has(cell) ? at(cell).value : 0);
@@ -83,19 +114,17 @@ std::optional<CopiedCells> SwatchCells::selected() const {
 
 std::optional<std::pair<int, int>> SwatchCells::paste(const CopiedCells& copied, int column, int row) {
     std::optional<std::pair<int, int>> changed;
-    const int copiedRows = static_cast<int>(copied.values.size()) / copied.columns;
-    const int endRow = std::min(row + copiedRows, rows_);
-    const int endColumn = std::min(column + copied.columns, columns_);
-    for (int toRow = row; toRow < endRow; ++toRow) {
-        for (int toColumn = column; toColumn < endColumn; ++toColumn) {
-            const int cell = toRow * columns_ + toColumn;
-            const std::uint32_t value =
-                copied.values[static_cast<std::size_t>((toRow - row) * copied.columns + toColumn - column)];
-            if (!has(cell) || at(cell).value == value)
-                continue;
-            setValue(cell, value);
-            changed = {changed ? changed->first : cell, cell};
-        }
+    const int first = row * columns_ + column;
+    for (int i = 0; i < static_cast<int>(copied.values.size()); ++i) {
+        const int across = i % copied.columns;
+        const int down = i / copied.columns;
+        const int cell = first + (copied.isRun ? i : down * columns_ + across);
+        const bool isInside = copied.isRun || column + across < columns_;
+        const std::uint32_t value = copied.values[static_cast<std::size_t>(i)];
+        if (!isInside || cell >= rows_ * columns_ || !has(cell) || at(cell).value == value)
+            continue;
+        setValue(cell, value);
+        changed = {changed ? changed->first : cell, cell};
     }
     return changed;
 }

@@ -2,7 +2,7 @@
 
 #include "ui/controls/swatchgrid/CopiedCells.h"
 
-#include <QRect>
+#include <QPoint>
 
 #include <array>
 #include <cstdint>
@@ -54,26 +54,47 @@ public:
     [[nodiscard]] int marker(int slot) const;
     [[nodiscard]] int current() const { return markers_[kCurrentSlot]; }
 
-    /// Both ends are cells that exist; they are opposite corners.
-    void select(int from, int to);
-    /// Columns and rows of the selected cells.
-    [[nodiscard]] std::optional<QRect> selection() const;
-    /// The corner that the selection began at; kNone without one.
-    [[nodiscard]] int selectionStart() const { return selection_ ? selection_->first : kNone; }
-    [[nodiscard]] int selectionEnd() const { return selection_ ? selection_->second : kNone; }
+    /// Which cells belong to a selection between two.
+    enum class Shape {
+        Block, ///< A rectangle with the two as opposite corners.
+        Run,   ///< All that lie between them in the order of their numbers, over the ends of rows.
+    };
+    /// Where a selection begins and ends, as column and row. The last cell of a run may stand left of the
+    /// first.
+    struct Corners {
+        QPoint first;
+        QPoint last;
+        friend bool operator==(const Corners&, const Corners&) = default;
+    };
+
+    /// Both ends are cells that exist.
+    void select(int from, int to, Shape shape);
+    [[nodiscard]] std::optional<Corners> selection() const;
+    [[nodiscard]] bool isSelected(int cell) const;
+    /// The selected cells that exist, by number.
+    [[nodiscard]] std::vector<int> selectedCells() const;
+    /// The cell that the selection began at; kNone without one.
+    [[nodiscard]] int selectionStart() const { return selection_ ? selection_->from : kNone; }
+    [[nodiscard]] int selectionEnd() const { return selection_ ? selection_->to : kNone; }
 
     /// The selected cells; nothing without a selection.
     [[nodiscard]] std::optional<CopiedCells> selected() const;
-    /// Puts copied cells with their first at a place, leaving out those that lie outside the grid. The first
-    /// and the last cell that have another value now; nothing when none has.
+    /// Puts copied cells with their first at a place, leaving out those that lie outside the grid; a run goes
+    /// on in the next row. The first and the last cell that have another value now; nothing when none has.
     std::optional<std::pair<int, int>> paste(const CopiedCells& copied, int column, int row);
 
 private:
+    struct Selection {
+        int from;
+        int to;
+        Shape shape;
+    };
+
     int columns_ = 0;
     int rows_ = 0;
     std::vector<Cell> cells_;
     std::array<int, kSlots> markers_{kNone, kNone, kNone, kNone};
-    std::optional<std::pair<int, int>> selection_;
+    std::optional<Selection> selection_;
 };
 
 } // namespace dyeworks

@@ -174,7 +174,7 @@ void SwatchGrid::choose(int cell) {
     update();
     tellFocus();
     if (canSelect())
-        select(cell, cell);
+        select(cell, cell, SwatchCells::Shape::Block);
     listener_.clicked();
 }
 
@@ -186,10 +186,19 @@ void SwatchGrid::open(int cell) {
     listener_.doubleClicked();
 }
 
-void SwatchGrid::select(int from, int to) {
-    const std::optional<QRect> before = cells_.selection();
-    cells_.select(from, to);
-    const std::optional<QRect> now = cells_.selection();
+bool SwatchGrid::hasSeveralSelected() const {
+    const auto range = cells_.selection();
+    return range && range->first != range->last;
+}
+
+QString SwatchGrid::selectionDescription() const {
+    return hasSeveralSelected() ? listener_.describeSelection() : QString();
+}
+
+void SwatchGrid::select(int from, int to, SwatchCells::Shape shape) {
+    const auto before = cells_.selection();
+    cells_.select(from, to, shape);
+    const auto now = cells_.selection();
     if (!now || now == before)
         return;
     update();
@@ -198,16 +207,26 @@ void SwatchGrid::select(int from, int to) {
     listener_.selected(*now);
 }
 
-void SwatchGrid::selectTo(int cell) {
+void SwatchGrid::selectTo(int cell, SwatchCells::Shape shape) {
     const int start = cells_.selectionStart();
     const int from = cells_.has(start) ? start : activeCell();
     if (from == kNone)
         choose(cell);
     else
-        select(from, cell);
+        select(from, cell, shape);
+}
+
+bool SwatchGrid::isOwnKey(const QKeyEvent& event) const {
+    if (!canSelect())
+        return false;
+    return event.matches(QKeySequence::SelectAll) || (event.key() == Qt::Key_Escape && hasSeveralSelected());
 }
 
 bool SwatchGrid::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && isOwnKey(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
@@ -239,8 +258,10 @@ void SwatchGrid::mousePressEvent(QMouseEvent* event) {
         return QWidget::mousePressEvent(event);
     const int cell = cellAt(event->position());
     isDragging_ = cell != kNone;
-    if (isDragging_ && canSelect() && (event->modifiers() & Qt::ShiftModifier))
-        selectTo(cell);
+    const bool extends = canSelect() && (event->modifiers() & Qt::ShiftModifier);
+    dragged_ = extends ? SwatchCells::Shape::Run : SwatchCells::Shape::Block;
+    if (isDragging_ && extends)
+        selectTo(cell, dragged_);
     else
         choose(cell);
 }
@@ -252,7 +273,7 @@ void SwatchGrid::mouseMoveEvent(QMouseEvent* event) {
     if (cell == kNone)
         return;
     if (canSelect())
-        selectTo(cell);
+        selectTo(cell, dragged_);
     else if (cell != clicked_)
         choose(cell);
 }
@@ -307,7 +328,7 @@ void SwatchGrid::keyPressEvent(QKeyEvent* event) {
     const int from = std::max(cells_.has(end) ? end : active, 0);
     if (const std::optional<int> target = walkTarget(*event, from)) {
         if (extends) {
-            selectTo(*target);
+            selectTo(*target, SwatchCells::Shape::Run);
         } else if (cells_.current() == SwatchCells::kSwitchedOff) {
             // Nothing is current here: walking looks at cells, the blank chooses one.
             walked_ = *target;
@@ -318,6 +339,12 @@ void SwatchGrid::keyPressEvent(QKeyEvent* event) {
             choose(active == kNone && isStep(event->key()) ? 0 : *target);
         }
         return;
+    }
+    if (isOwnKey(*event)) {
+        const bool everything = event->key() != Qt::Key_Escape;
+        const int first = everything ? 0 : active;
+        return select(std::max(first, 0), everything ? shown - 1 : std::max(first, 0),
+                      everything ? SwatchCells::Shape::Run : SwatchCells::Shape::Block);
     }
     switch (event->key()) {
     case Qt::Key_Space:

@@ -21,10 +21,12 @@ public:
         /// `clickedCell()` was chosen. Where the current cell is not switched off, it is this one already.
         virtual void clicked() = 0;
         virtual void doubleClicked() = 0;
-        /// The user selected a range, in columns and rows.
-        virtual void selected(const QRect& range) = 0;
+        /// The user selected a range.
+        virtual void selected(const SwatchCells::Corners& range) = 0;
         /// What a cell holds, for people.
         [[nodiscard]] virtual QString describe(int cell) const = 0;
+        /// The selected cells, of which there are several, for people.
+        [[nodiscard]] virtual QString describeSelection() const = 0;
 
     protected:
         ~Listener() = default;
@@ -59,6 +61,8 @@ public:
     /// kNone when there is no such cell.
     [[nodiscard]] int activeCell() const;
     [[nodiscard]] QString description(int cell) const { return listener_.describe(cell); }
+    /// What is selected besides the cell that the keyboard is at; empty when nothing is.
+    [[nodiscard]] QString selectionDescription() const;
     /// Chooses a cell as a click does.
     void choose(int cell);
     /// As a double click does.
@@ -92,8 +96,11 @@ private:
     [[nodiscard]] std::optional<int> walkTarget(const QKeyEvent& event, int from) const;
     void shapeChanged(const SwatchGeometry& before);
     /// Extends the selection, or one that begins at the active cell, to a cell.
-    void selectTo(int cell);
-    void select(int from, int to);
+    void selectTo(int cell, SwatchCells::Shape shape);
+    void select(int from, int to, SwatchCells::Shape shape);
+    [[nodiscard]] bool hasSeveralSelected() const;
+    /// Keys that mean something here, whatever the program's menus use them for. False: not this one.
+    [[nodiscard]] bool isOwnKey(const QKeyEvent& event) const;
     // To assistive technology.
     void tellFocus();
     void tellName(int cell);
@@ -106,6 +113,7 @@ private:
     int clicked_ = kNone;
     int walked_ = 0; // Where the keyboard is while the current cell is switched off.
     bool isDragging_ = false;
+    SwatchCells::Shape dragged_ = SwatchCells::Shape::Block;
 };
 
 } // namespace dyeworks

@@ -2,17 +2,22 @@
 
 #include "ui/controls/swatchgrid/SwatchCellAccessible.h"
 
+#include <algorithm>
 #include <memory>
-#include <numeric>
 #include <utility>
 
 namespace dyeworks {
 
 namespace {
 
-QList<int> numbers(int first, int count) {
-    QList<int> result(count);
-    std::iota(result.begin(), result.end(), first);
+/// The numbers from 0 that are asked for.
+template <typename Wanted>
+QList<int> numbers(int count, Wanted wanted) {
+    QList<int> result;
+    for (int number = 0; number < count; ++number) {
+        if (wanted(number))
+            result.append(number);
+    }
     return result;
 }
 
@@ -41,7 +46,11 @@ QString SwatchGridAccessible::text(QAccessible::Text kind) const {
     if (kind != QAccessible::Value)
         return AccessibleControl::text(kind);
     const int cell = grid_.activeCell();
-    return cell == SwatchGrid::kNone ? QString() : grid_.description(cell);
+    if (cell == SwatchGrid::kNone)
+        return {};
+    const QString selected = grid_.selectionDescription();
+    return selected.isEmpty() ? grid_.description(cell)
+                              : QString::fromLatin1("%1, %2").arg(grid_.description(cell), selected);
 }
 
 QAccessibleInterface* SwatchGridAccessible::focusChild() const {
@@ -89,12 +98,9 @@ int SwatchGridAccessible::rowCount() const {
 
 QList<QAccessibleInterface*> SwatchGridAccessible::selectedCells() const {
     QList<QAccessibleInterface*> cells;
-    const QRect range = grid_.cells().selection().value_or(QRect());
-    for (int row = range.top(); row <= range.bottom(); ++row) {
-        for (int column = range.left(); column <= range.right(); ++column) {
-            if (QAccessibleInterface* const cell = cellAt(row, column))
-                cells.append(cell);
-        }
+    for (const int cell : grid_.cells().selectedCells()) {
+        if (QAccessibleInterface* const found = child(cell))
+            cells.append(found);
     }
     return cells;
 }
@@ -103,14 +109,30 @@ int SwatchGridAccessible::selectedCellCount() const {
     return static_cast<int>(selectedCells().size());
 }
 
+/// Whether all cells are selected from one on, with so many numbers from each to the next, up to `end`.
+bool SwatchGridAccessible::areSelected(int first, int step, int end) const {
+    for (int cell = first; cell < end; cell += step) {
+        if (!grid_.cells().isSelected(cell))
+            return false;
+    }
+    return first < end;
+}
+
+bool SwatchGridAccessible::isColumnSelected(int column) const {
+    return column >= 0 && column < columnCount() && areSelected(column, columnCount(), childCount());
+}
+
+bool SwatchGridAccessible::isRowSelected(int row) const {
+    const int first = row * columnCount();
+    return row >= 0 && areSelected(first, 1, std::min(first + columnCount(), childCount()));
+}
+
 QList<int> SwatchGridAccessible::selectedColumns() const {
-    const QRect range = grid_.cells().selection().value_or(QRect());
-    return range.height() == rowCount() ? numbers(range.left(), range.width()) : QList<int>();
+    return numbers(columnCount(), [this](int column) { return isColumnSelected(column); });
 }
 
 QList<int> SwatchGridAccessible::selectedRows() const {
-    const QRect range = grid_.cells().selection().value_or(QRect());
-    return range.width() == columnCount() ? numbers(range.top(), range.height()) : QList<int>();
+    return numbers(rowCount(), [this](int row) { return isRowSelected(row); });
 }
 
 int SwatchGridAccessible::selectedColumnCount() const {
@@ -119,14 +141,6 @@ int SwatchGridAccessible::selectedColumnCount() const {
 
 int SwatchGridAccessible::selectedRowCount() const {
     return static_cast<int>(selectedRows().size());
-}
-
-bool SwatchGridAccessible::isColumnSelected(int column) const {
-    return selectedColumns().contains(column);
-}
-
-bool SwatchGridAccessible::isRowSelected(int row) const {
-    return selectedRows().contains(row);
 }
 
 void SwatchGridAccessible::modelChange(QAccessibleTableModelChangeEvent* /*event*/) {

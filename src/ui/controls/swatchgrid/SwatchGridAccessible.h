@@ -46,6 +46,7 @@ public:
 
 private:
     void forgetCells();
+    [[nodiscard]] bool areSelected(int first, int step, int end) const;
 
     SwatchGrid& grid_;
     // Interfaces of cells are made when asked for and are owned by Qt.

@@ -12,6 +12,12 @@ std::int16_t asShort(int value) {
     return static_cast<std::int16_t>(value);
 }
 
+/// Where nobody wants a result, the place for it is null.
+void give(std::int16_t* place, int value) {
+    if (place != nullptr)
+        *place = asShort(value);
+}
+
 } // namespace
 
 SwatchGridControl::SwatchGridControl() {
@@ -76,17 +82,13 @@ void SwatchGridControl::addCellMembers() {
 void SwatchGridControl::addRangeMembers() {
     members_.method(14, [this](std::int16_t* firstColumn, std::int16_t* firstRow, std::int16_t* lastColumn,
                                std::int16_t* lastRow) {
-        const std::optional<QRect> range = grid_.cells().selection();
+        const auto range = grid_.cells().selection();
         if (!range)
             return false;
-        const auto give = [](std::int16_t* place, int value) {
-            if (place != nullptr)
-                *place = asShort(value);
-        };
-        give(firstColumn, range->left());
-        give(firstRow, range->top());
-        give(lastColumn, range->right());
-        give(lastRow, range->bottom());
+        give(firstColumn, range->first.x());
+        give(firstRow, range->first.y());
+        give(lastColumn, range->last.x());
+        give(lastRow, range->last.y());
         return true;
     });
     members_.method(15, [this] {
@@ -97,6 +99,14 @@ void SwatchGridControl::addRangeMembers() {
     });
     members_.method(16, [] { return CopiedCells::areOnClipboard(); });
     members_.method(17, [this](std::int16_t column, std::int16_t row) { return paste(column, row); });
+    members_.method(111, [this](std::int16_t* first, std::int16_t* last) {
+        const std::vector<int> cells = grid_.cells().selectedCells();
+        if (!cells.empty()) {
+            give(first, cells.front());
+            give(last, cells.back());
+        }
+        return asShort(static_cast<int>(cells.size()));
+    });
 }
 
 DispatchResult SwatchGridControl::invoke(DispatchId member, DispatchKind kind, DispatchArguments arguments) {
@@ -123,8 +133,9 @@ void SwatchGridControl::doubleClicked() {
     raise(-601, {});
 }
 
-void SwatchGridControl::selected(const QRect& range) {
-    raise(1, {asShort(range.left()), asShort(range.top()), asShort(range.right()), asShort(range.bottom())});
+void SwatchGridControl::selected(const SwatchCells::Corners& range) {
+    raise(1, {asShort(range.first.x()), asShort(range.first.y()), asShort(range.last.x()),
+              asShort(range.last.y())});
 }
 
 QString SwatchGridControl::describe(int cell) const {
@@ -136,6 +147,15 @@ QString SwatchGridControl::describe(int cell) const {
         .arg(cell)
         .arg(grid_.cells().at(cell).value, 8, 16, QLatin1Char('0'))
         .toUpper();
+}
+
+QString SwatchGridControl::describeSelection() const {
+    const std::vector<int> cells = grid_.cells().selectedCells();
+    const int count = static_cast<int>(cells.size());
+    std::string text;
+    raise(111, {asShort(cells.front()), asShort(cells.back()), asShort(count), &text});
+    return text.empty() ? QString::fromLatin1("%1-%2").arg(cells.front()).arg(cells.back())
+                        : QString::fromStdString(text);
 }
 
 void SwatchGridControl::raise(DispatchId event, std::initializer_list<DispatchValue> arguments) const {

@@ -23,13 +23,20 @@ namespace dyeworks {
 ///     under a point of the window, -1 none 26  void (index, long colour)   displayed colour 101 short
 ///     property, set         row of the bank, -1 that of the current cell 102 short () cell of the last click
 ///     or double click, -1 none 103 void ()                     descriptions have changed
+///     111 short (short* first, short* last)   how many cells are selected, and the first and the last of
+///     them by number: a run when there are no others between; 0, giving nothing, without a selection
+///
+/// A drag selects a rectangle. With Shift, by click, drag or keys, it is a run in the order of the cells'
+/// numbers; 14 and event 1 then give the places of its first and its last cell, and 17 goes on in the next
+/// row where one ends.
 ///
 ///     110 void (index, glyphs)        small signs on a cell, added up: 1 a folded corner, 2 two bars, 4 a
 ///     chequer
 ///
 /// Events: -600 a cell was chosen; -601 double click; 1 (column, row, column, row) the user selects a range;
 /// 2 (first, last) cells that a paste changed, not raised when it changed none; 101 (index, string* text)
-/// asks for what people are told about a cell.
+/// asks for what people are told about a cell; 111 (first, last, count, string* text) asks for what they are
+/// told about several cells that are selected.
 class SwatchGridControl final : public Control, private SwatchGrid::Listener {
 public:
     SwatchGridControl();
@@ -42,8 +49,9 @@ public:
 private:
     void clicked() override;
     void doubleClicked() override;
-    void selected(const QRect& range) override;
+    void selected(const SwatchCells::Corners& range) override;
     [[nodiscard]] QString describe(int cell) const override;
+    [[nodiscard]] QString describeSelection() const override;
 
     void addLayoutMembers();
     void addCellMembers();

@@ -19,6 +19,24 @@ QRect grown(const QRect& area, int by) {
     return area.adjusted(-by, -by, by, by);
 }
 
+constexpr std::array kWays{QPoint(-1, -1), QPoint(0, -1), QPoint(1, -1), QPoint(-1, 0),
+                           QPoint(1, 0),   QPoint(-1, 1), QPoint(0, 1),  QPoint(1, 1)};
+
+/// `by` is less than the region is wide anywhere.
+QRegion grown(const QRegion& region, int by) {
+    QRegion result = region;
+    for (const QPoint& way : kWays)
+        result += region.translated(way * by);
+    return result;
+}
+
+QRegion shrunk(const QRegion& region, int by) {
+    QRegion result = region;
+    for (const QPoint& way : kWays)
+        result &= region.translated(way * by);
+    return result;
+}
+
 } // namespace
 
 SwatchPainter::SwatchPainter(QPainter& painter, const SwatchLook& look)
@@ -170,19 +188,42 @@ void SwatchPainter::paintBank() {
     painter_.setRenderHint(QPainter::Antialiasing, false);
 }
 
-void SwatchPainter::paintSelection() {
-    const std::optional<QRect> range = look_.cells.selection();
-    // A single cell has the frame of the current one.
-    if (!range || (range->width() == 1 && range->height() == 1))
-        return;
-    QRect area;
-    for (int row = range->top(); row <= range->bottom(); ++row) {
+QRegion SwatchPainter::selectedArea() const {
+    QRegion area;
+    QRect above;
+    for (int row = 0; row < geometry_.shownRows(); ++row) {
+        QRect inRow;
         const int first = row * geometry_.columns();
-        area |= geometry_.area(first + range->left(), first + range->right());
+        for (int cell = first; cell < first + geometry_.columns(); ++cell) {
+            if (look_.cells.isSelected(cell))
+                inRow |= geometry_.cell(cell);
+        }
+        // A run may begin further to the right than it ends below: then the rows have nothing in common.
+        const int left = std::max(above.left(), inRow.left());
+        const int right = std::min(above.right(), inRow.right());
+        if (!above.isEmpty() && !inRow.isEmpty() && left <= right)
+            area += QRect(QPoint(left, above.bottom()), QPoint(right, inRow.top()));
+        area += inRow;
+        above = inRow;
     }
-    paintRings(area, 2, {Qt::black, Qt::white});
+    return area;
+}
+
+void SwatchPainter::paintSelection() {
+    const auto range = look_.cells.selection();
+    // A single cell has the frame of the current one.
+    if (!range || range->first == range->last)
+        return;
+    const QRegion area = selectedArea();
+    const auto paint = [this](const QRegion& region, const QColor& colour) {
+        for (const QRect& part : region)
+            painter_.fillRect(part, colour);
+    };
+    const QRegion nearer = grown(area, line_);
     const QColor inside = look_.colours.color(QPalette::Highlight);
-    paintRings(area, 0, {inside, inside});
+    paint(grown(area, 2 * line_) - nearer, Qt::black);
+    paint(nearer - area, Qt::white);
+    paint(area - shrunk(area, 2 * line_), inside);
 }
 
 /// Dark, light, dark: two neighbours of any colour, and the ground between them, differ from one of the

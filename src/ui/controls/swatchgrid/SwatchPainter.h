@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QPainter>
 #include <QPalette>
+#include <QRegion>
 
 #include <initializer_list>
 
@@ -45,6 +46,8 @@ private:
     /// beyond it.
     void paintRings(const QRect& area, int outside, std::initializer_list<QColor> colours);
     void paintRing(const QRect& outer, int width, const QBrush& brush);
+    /// The selected cells and the lines between them, in device pixels.
+    [[nodiscard]] QRegion selectedArea() const;
 
     QPainter& painter_;
     const SwatchLook& look_;

@@ -1,0 +1,90 @@
+#include "palette/RangeCommands.h"
+
+#include "core/PaletteSet.h"
+#include "palette/EntryOperations.h"
+#include "palette/PaletteBarState.h"
+#include "palette/RangeAdjustment.h"
+
+namespace dyeworks {
+
+RangeCommands::RangeCommands(PaletteBarState& state, PaletteBarHost& host, RangeView& view)
+    : state_(state)
+    , host_(host)
+    , view_(view) {
+    using Self = RangeCommands;
+    on(ID_RANGE_RAMP, &Self::OnRamp, &Self::OnUpdateRamp);
+    on(ID_RANGE_ADJUST, &Self::OnAdjust, &Self::OnUpdateRange);
+    on(ID_RANGE_INVERT, &Self::OnInvert, &Self::OnUpdateRange);
+    on(ID_RANGE_REVERSE, &Self::OnReverse, &Self::OnUpdateRange);
+    on(ID_RANGE_FILL, &Self::OnFill, &Self::OnUpdateFill);
+}
+
+std::optional<EntryRange> RangeCommands::target() const {
+    const TextureLookupTable* const palette = state_.palette().get();
+    if (palette == nullptr || palette->table.count == 0 || state_.cells().blockIsSelected())
+        return std::nullopt;
+    return state_.cells().selectedRange().value_or(EntryRange{0, palette->table.count - 1});
+}
+
+void RangeCommands::replace(TextureLookupTable& palette, const TlutData& table) {
+    if (table == palette.table)
+        return;
+    state_.edit(palette, [&](TextureLookupTable& edited) {
+        for (std::int32_t i = 0; i < table.count; ++i)
+            edited.setEntry(i, table.getEntry(i));
+    });
+}
+
+void RangeCommands::change(const std::function<void(TlutData&, EntryRange)>& operation) {
+    const auto range = target();
+    if (!range)
+        return;
+    TextureLookupTable& palette = *state_.palette().get();
+    TlutData table = palette.table;
+    operation(table, *range);
+    replace(palette, table);
+}
+
+void RangeCommands::OnUpdateRange(CommandUi& ui) {
+    ui.enabled = target().has_value();
+}
+
+void RangeCommands::OnRamp() {
+    change(rampEntries);
+}
+
+void RangeCommands::OnUpdateRamp(CommandUi& ui) {
+    const auto range = target();
+    ui.enabled = range && range->last - range->first > 1;
+}
+
+void RangeCommands::OnInvert() {
+    change(invertEntries);
+}
+
+void RangeCommands::OnReverse() {
+    change(reverseEntries);
+}
+
+void RangeCommands::OnFill() {
+    change([value = state_.entry().value()](TlutData& table, EntryRange range) {
+        fillEntries(table, range, value);
+    });
+}
+
+void RangeCommands::OnUpdateFill(CommandUi& ui) {
+    ui.enabled = target() && state_.cells().currentEntry() && !state_.editor().textIsWrong();
+}
+
+void RangeCommands::OnAdjust() {
+    const auto range = target();
+    if (!range)
+        return;
+    RangeAdjustment adjustment(state_, host_, host_.paletteSet()->currentKey, *range);
+    if (!view_.askAdjustment(adjustment))
+        return;
+    if (TextureLookupTable* const palette = adjustment.palette())
+        replace(*palette, adjustment.result());
+}
+
+} // namespace dyeworks
