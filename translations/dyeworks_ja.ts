@@ -2224,7 +2224,7 @@ You must open or create a palette.
     </message>
     <message>
         <source>&quot;%1&quot; is open as a new image. Colours rounded: %2, entries changed by other programs: %3.</source>
-        <translation>&quot;%1&quot; を新しい画像として開きました。丸めた色: %2、ほかのプログラムが変えたエントリ: %3</translation>
+        <translation>&quot;%1&quot; を新しい画像として開きました。丸めた色: %2、ほかのプログラムが変えたエントリー: %3</translation>
     </message>
     <message>
         <source>Pasted</source>
@@ -2248,19 +2248,19 @@ You must open or create a palette.
     </message>
     <message>
         <source>A palette of 16 or 256 entries, whichever holds the colours</source>
-        <translation>色が収まる 16 または 256 エントリのパレット</translation>
+        <translation>色が収まる 16 または 256 エントリーのパレット</translation>
     </message>
     <message>
         <source>&amp;Into the current palette from entry</source>
-        <translation>現在のパレットに入れる、最初のエントリ(&amp;I)</translation>
+        <translation>現在のパレットに入れる、最初のエントリー(&amp;I)</translation>
     </message>
     <message>
         <source>Replace entries of the current palette; Undo takes it back in one step</source>
-        <translation>現在のパレットのエントリを置き換えます。一度の操作で元に戻せます</translation>
+        <translation>現在のパレットのエントリーを置き換えます。一度の操作で元に戻せます</translation>
     </message>
     <message>
         <source>Entry of the current palette that takes the first colour</source>
-        <translation>最初の色を入れる現在のパレットのエントリ</translation>
+        <translation>最初の色を入れる現在のパレットのエントリー</translation>
     </message>
     <message>
         <source>&quot;%1&quot;: %2 colours imported, %3 of them rounded; %4 did not fit.</source>
@@ -2280,11 +2280,11 @@ You must open or create a palette.
     </message>
     <message>
         <source>Entries</source>
-        <translation>エントリ</translation>
+        <translation>エントリー</translation>
     </message>
     <message>
         <source>&amp;All %1 entries</source>
-        <translation>%1 エントリすべて(&amp;A)</translation>
+        <translation>%1 エントリーすべて(&amp;A)</translation>
     </message>
     <message>
         <source>Write the whole palette</source>
@@ -2292,7 +2292,7 @@ You must open or create a palette.
     </message>
     <message>
         <source>Only &amp;bank %1, entries %2 to %3</source>
-        <translation>バンク %1 だけ、エントリ %2～%3(&amp;B)</translation>
+        <translation>バンク %1 だけ、エントリー %2～%3(&amp;B)</translation>
     </message>
     <message>
         <source>Write the bank that the palette bar shows</source>
@@ -2376,7 +2376,7 @@ You must open or create a palette.
     </message>
     <message>
         <source>The 16 entries of the current palette that the image is made of, 0 to 15</source>
-        <translation>画像に使う現在のパレットの 16 エントリ、0～15</translation>
+        <translation>画像に使う現在のパレットの 16 エントリー、0～15</translation>
     </message>
     <message>
         <source>&amp;Colours</source>
@@ -2408,7 +2408,7 @@ You must open or create a palette.
     </message>
     <message>
         <source>Entries of the current palette that the new one has at the same place, as in 0, 4-7</source>
-        <translation>新しいパレットの同じ番号に残す、現在のパレットのエントリ。例: 0, 4-7</translation>
+        <translation>新しいパレットの同じ番号に残す、現在のパレットのエントリー。例: 0, 4-7</translation>
     </message>
     <message>
         <source>none</source>
@@ -2627,6 +2627,10 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     <message>
         <source>Progress of the reduction</source>
         <translation>減色の進み具合</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the file of another open palette.</source>
+        <translation>「%1」は開いている別のパレットのファイルです。</translation>
     </message>
 </context>
 </TS>
