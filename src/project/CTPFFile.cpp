@@ -198,11 +198,11 @@ void CTPFFile::readPicture(const std::string& value) {
 bool CTPFFile::Write(const std::string& path) {
     if (store == nullptr)
         return false;
-    pathName = path;
+    std::string folder;
     std::string name;
-    PathSplitFolder(pathName, tpfDir, name);
+    PathSplitFolder(path, folder, name);
     std::vector<std::pair<std::string, std::string>> values{
-        {kTpfDir, tpfDir}, {kTmfDir, relativeTo(tpfDir, tmfDir)}, {kTlfDir, relativeTo(tpfDir, tlfDir)}};
+        {kTpfDir, folder}, {kTmfDir, relativeTo(folder, tmfDir)}, {kTlfDir, relativeTo(folder, tlfDir)}};
     std::int32_t count = 0;
     for (const std::string& picture : order) {
         if (const auto found = pictures.find(picture); found != pictures.end())
@@ -215,11 +215,16 @@ bool CTPFFile::Write(const std::string& path) {
     };
     if (!std::ranges::all_of(values, isHeld))
         return false;
+    // What cannot be written stays the project of the file that it has.
+    auto written = std::make_unique<CKeyValueStore>(*store);
     for (const auto& [key, value] : values)
-        store->SetValue(key, value);
-    store->SetLongValue(kPictureCount, count);
-    if (!store->SaveFile(pathName))
+        written->SetValue(key, value);
+    written->SetLongValue(kPictureCount, count);
+    if (!written->SaveFile(path))
         return false;
+    store = std::move(written);
+    pathName = path;
+    tpfDir = folder;
     modified = false;
     PathTitle(projectName, pathName);
     return true;
