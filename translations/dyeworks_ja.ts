@@ -1076,10 +1076,6 @@ Rules</source>
         <translation>ルール違反(&amp;F)</translation>
     </message>
     <message>
-        <source>Show or hide the list of what breaks a rule
-Toggle Rule Findings</source>
-        <translation>ルール違反の一覧の表示と非表示を切り替えます
-ルール違反の表示切り替え</translation>
         <source>&amp;Usage</source>
         <translation>使用状況(&amp;U)</translation>
     </message>
@@ -1104,10 +1100,6 @@ Show Texels</source>
         <translation>バンクバー(&amp;K)</translation>
     </message>
     <message>
-        <source>Show or hide the image through all banks.
-Toggle Banks</source>
-        <translation>すべてのバンクで見た画像の表示と非表示を切り替えます。
-バンクバーの表示切り替え</translation>
         <source>Ra&amp;mp</source>
         <translation>グラデーション(&amp;M)</translation>
     </message>
@@ -1156,6 +1148,16 @@ Reverse Entries</source>
 Fill Entries</source>
         <translation>選択したエントリ(なければ全体)を編集中のエントリの値にします
 エントリの塗りつぶし</translation>
+    </message>
+    <message>
+        <source>Show or hide the image through all banks.
+Toggle Banks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show or hide the list of what breaks a rule
+Toggle Rule Findings</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2320,7 +2322,7 @@ You must open or create a palette.
     </message>
     <message>
         <source>&quot;%1&quot; is open as a new image. Colours rounded: %2, entries changed by other programs: %3.</source>
-        <translation>&quot;%1&quot; を新しい画像として開きました。丸めた色: %2、ほかのプログラムが変えたエントリ: %3</translation>
+        <translation>&quot;%1&quot; を新しい画像として開きました。丸めた色: %2、ほかのプログラムが変えたエントリー: %3</translation>
     </message>
     <message>
         <source>Pasted</source>
@@ -2344,19 +2346,19 @@ You must open or create a palette.
     </message>
     <message>
         <source>A palette of 16 or 256 entries, whichever holds the colours</source>
-        <translation>色が収まる 16 または 256 エントリのパレット</translation>
+        <translation>色が収まる 16 または 256 エントリーのパレット</translation>
     </message>
     <message>
         <source>&amp;Into the current palette from entry</source>
-        <translation>現在のパレットに入れる、最初のエントリ(&amp;I)</translation>
+        <translation>現在のパレットに入れる、最初のエントリー(&amp;I)</translation>
     </message>
     <message>
         <source>Replace entries of the current palette; Undo takes it back in one step</source>
-        <translation>現在のパレットのエントリを置き換えます。一度の操作で元に戻せます</translation>
+        <translation>現在のパレットのエントリーを置き換えます。一度の操作で元に戻せます</translation>
     </message>
     <message>
         <source>Entry of the current palette that takes the first colour</source>
-        <translation>最初の色を入れる現在のパレットのエントリ</translation>
+        <translation>最初の色を入れる現在のパレットのエントリー</translation>
     </message>
     <message>
         <source>&quot;%1&quot;: %2 colours imported, %3 of them rounded; %4 did not fit.</source>
@@ -2376,11 +2378,11 @@ You must open or create a palette.
     </message>
     <message>
         <source>Entries</source>
-        <translation>エントリ</translation>
+        <translation>エントリー</translation>
     </message>
     <message>
         <source>&amp;All %1 entries</source>
-        <translation>%1 エントリすべて(&amp;A)</translation>
+        <translation>%1 エントリーすべて(&amp;A)</translation>
     </message>
     <message>
         <source>Write the whole palette</source>
@@ -2388,7 +2390,7 @@ You must open or create a palette.
     </message>
     <message>
         <source>Only &amp;bank %1, entries %2 to %3</source>
-        <translation>バンク %1 だけ、エントリ %2～%3(&amp;B)</translation>
+        <translation>バンク %1 だけ、エントリー %2～%3(&amp;B)</translation>
     </message>
     <message>
         <source>Write the bank that the palette bar shows</source>
@@ -2472,7 +2474,7 @@ You must open or create a palette.
     </message>
     <message>
         <source>The 16 entries of the current palette that the image is made of, 0 to 15</source>
-        <translation>画像に使う現在のパレットの 16 エントリ、0～15</translation>
+        <translation>画像に使う現在のパレットの 16 エントリー、0～15</translation>
     </message>
     <message>
         <source>&amp;Colours</source>
@@ -2504,7 +2506,7 @@ You must open or create a palette.
     </message>
     <message>
         <source>Entries of the current palette that the new one has at the same place, as in 0, 4-7</source>
-        <translation>新しいパレットの同じ番号に残す、現在のパレットのエントリ。例: 0, 4-7</translation>
+        <translation>新しいパレットの同じ番号に残す、現在のパレットのエントリー。例: 0, 4-7</translation>
     </message>
     <message>
         <source>none</source>
@@ -2813,10 +2815,6 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <translation>残りの文書でやり直しますか?</translation>
     </message>
     <message>
-        <source>Unsaved work cannot be kept in case of a crash: %1</source>
-        <translation>異常終了に備えて未保存の作業を控えておくことができません: %1</translation>
-        <source>Pictures of the project that no longer fit the image: %1, first &quot;%2&quot;. Its palette number is %3 now.</source>
-        <translation>プロジェクトのピクチャーのうち %1 個が、この画像に合わなくなりました（最初は「%2」）。画像のパレット番号は %3 になりました。</translation>
         <source>Rule Findings</source>
         <translation>ルール違反</translation>
     </message>
@@ -3045,8 +3043,6 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <translation>色、ブロックの辺</translation>
     </message>
     <message>
-        <source>What the images of the project&apos;s pictures must keep to. Rule Findings in the View menu lists what does not.</source>
-        <translation>プロジェクトのピクチャーの画像が守るルールです。反するものは[表示]メニューの[ルール違反]に並びます。</translation>
         <source>Banks</source>
         <translation>バンク</translation>
     </message>
@@ -3111,8 +3107,6 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <translation>エントリ %1 を使うテクセルはありません。</translation>
     </message>
     <message>
-        <source>The active image through every bank of its palette, or through every open palette. The framed one is the image&apos;s own; click another to choose it.</source>
-        <translation>アクティブな画像を、パレットのすべてのバンク、または開いているすべてのパレットで見たものです。枠が付いているのが今の表示で、ほかをクリックするとそれを選びます。</translation>
         <source>entries %1 to %2 are selected</source>
         <translation>エントリー %1～%2 を選択</translation>
     </message>
@@ -3173,8 +3167,28 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <translation>リセット(&amp;R)</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is the file of another open palette.</source>
+        <translation>「%1」は開いている別のパレットのファイルです。</translation>
+    </message>
+    <message>
+        <source>Unsaved work cannot be kept in case of a crash: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures of the project that no longer fit the image: %1, first &quot;%2&quot;. Its palette number is %3 now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The active image through every bank of its palette, or through every open palette. The framed one is the image&apos;s own; click another to choose it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Back to the entries as they are</source>
-        <translation>元のエントリーに戻します</translation>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the images of the project&apos;s pictures must keep to. Rule Findings in the View menu lists what does not.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

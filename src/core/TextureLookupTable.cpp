@@ -102,23 +102,34 @@ bool TextureLookupTable::create(std::int32_t count, ColourType colourType) {
 }
 
 bool TextureLookupTable::save(const char* name, bool forceDialog) {
-    const std::string target = name == nullptr ? "" : name;
-    if (!target.empty() && !isUnsavedName(target)) {
-        path = target;
+    std::string target = path;
+    if (name != nullptr && *name != '\0' && !isUnsavedName(name)) {
+        target = name;
     } else if (forceDialog || path.empty() || isUnsavedName(path)) {
         const auto chosen = askForFileToSave({.filter = kFilter,
                                               .defaultExtension = kExtension,
                                               .initialName = isUnsavedName(path) ? path.substr(1) : path});
         if (!chosen)
             return false;
-        path = *chosen;
+        target = *chosen;
     }
-    if (!table.saveTlf(path))
+    if (isFileOfAnother(target)) {
+        reportTlf(text(StringId::FileIsOfOpenPalette, {displayPath(target)}));
         return false;
+    }
+    if (!table.saveTlf(target))
+        return false;
+    path = target;
     titleFromPath();
     modified = false;
     markSaved();
     return true;
+}
+
+bool TextureLookupTable::isFileOfAnother(const std::string& file) const {
+    const PaletteSet* const set = applicationPaletteSet();
+    const TextureLookupTable* const open = set == nullptr ? nullptr : set->lookup(file);
+    return open != nullptr && open != this;
 }
 
 bool TextureLookupTable::open(const char* name) {

@@ -117,6 +117,7 @@ private:
 
     bool changed(bool result);
     [[nodiscard]] bool holdsWhatTheFileHolds() const;
+    [[nodiscard]] bool isFileOfAnother(const std::string& file) const;
     void markSaved();
     [[nodiscard]] std::unique_ptr<UndoRecord> newRecord() const;
 

@@ -1,6 +1,7 @@
 #include "interchange/PaletteFormats.h"
 #include "interchange/PaletteText.h"
 
+#include <algorithm>
 #include <string>
 
 namespace dyeworks {
@@ -10,15 +11,20 @@ PaletteResult readJascPalette(std::string_view text) {
     PaletteLines lines(text);
     auto line = lines.next(); // The header, by which the file was known.
     int loneNumbers = 0;
+    std::size_t told = 0;
     while (result.colours.size() < kMostPaletteColours && (line = lines.next())) {
         std::string_view rest = *line;
         if (rest.empty())
             continue;
-        // Version and count: the lines are what counts, as programs that add some leave the count.
+        // Version and count.
         std::string_view lone = rest;
-        if (result.colours.empty() && loneNumbers < 2 && takeNumber(lone, 1000000) && lone.empty()) {
-            ++loneNumbers;
-            continue;
+        if (result.colours.empty() && loneNumbers < 2) {
+            const auto number = takeNumber(lone, 1000000);
+            if (number && lone.empty()) {
+                ++loneNumbers;
+                told = *number;
+                continue;
+            }
         }
         const auto red = takeNumber(rest, 255);
         const auto green = takeNumber(rest, 255);
@@ -31,6 +37,9 @@ PaletteResult readJascPalette(std::string_view text) {
         result.colours.push_back({static_cast<std::uint8_t>(*red), static_cast<std::uint8_t>(*green),
                                   static_cast<std::uint8_t>(*blue), static_cast<std::uint8_t>(*alpha)});
     }
+    // Programs that add colours may leave the count; fewer than it tells are what is left of a file.
+    if (loneNumbers == 2 && result.colours.size() < std::min(told, kMostPaletteColours))
+        return InterchangeError{InterchangeError::Kind::Damaged, "the file ends too early"};
     return result;
 }
 

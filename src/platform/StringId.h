@@ -23,6 +23,7 @@ enum class StringId {
     CannotReadFile,      ///< %1 file
     PaletteOpenFailed,   ///< %1 file
     FileIsOpenElsewhere, ///< %1 file
+    FileIsOfOpenPalette, ///< %1 file
     RevertQuestion,      ///< %1 document
     WithoutUndoQuestion,
     UndoBufferQuestion,

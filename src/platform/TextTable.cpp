@@ -35,6 +35,8 @@ constexpr Row kRows[] = {
     Row{StringId::CannotReadFile, QT_TRANSLATE_NOOP("Text", "Cannot read \"%1\".")},
     Row{StringId::PaletteOpenFailed, QT_TRANSLATE_NOOP("Text", "%1 open failed")},
     Row{StringId::FileIsOpenElsewhere, QT_TRANSLATE_NOOP("Text", "\"%1\" is open in another window.")},
+    Row{StringId::FileIsOfOpenPalette,
+        QT_TRANSLATE_NOOP("Text", "\"%1\" is the file of another open palette.")},
     Row{StringId::RevertQuestion,
         QT_TRANSLATE_NOOP("Text", "Go back to the saved file?\nThe changes to \"%1\" will be lost.")},
     Row{StringId::WithoutUndoQuestion,

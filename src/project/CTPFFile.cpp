@@ -208,9 +208,9 @@ void CTPFFile::readPicture(const std::string& value) {
         order.push_back(fields[0]);
 }
 
-std::optional<CTPFFile::Values> CTPFFile::values() const {
+std::optional<CTPFFile::Values> CTPFFile::valuesIn(const std::string& folder) const {
     Values values{
-        {kTpfDir, tpfDir}, {kTmfDir, relativeTo(tpfDir, tmfDir)}, {kTlfDir, relativeTo(tpfDir, tlfDir)}};
+        {kTpfDir, folder}, {kTmfDir, relativeTo(folder, tmfDir)}, {kTlfDir, relativeTo(folder, tlfDir)}};
     std::int32_t count = 0;
     for (const std::string& picture : order) {
         if (const auto found = pictures.find(picture); found != pictures.end())
@@ -228,23 +228,28 @@ std::optional<CTPFFile::Values> CTPFFile::values() const {
 bool CTPFFile::Write(const std::string& path) {
     if (store == nullptr)
         return false;
-    pathName = path;
+    std::string folder;
     std::string name;
-    PathSplitFolder(pathName, tpfDir, name);
-    const std::optional<Values> assignments = values();
+    PathSplitFolder(path, folder, name);
+    const std::optional<Values> assignments = valuesIn(folder);
     if (!assignments)
         return false;
+    // What cannot be written stays the project of the file that it has.
+    auto written = std::make_unique<CKeyValueStore>(*store);
     for (const auto& [key, value] : *assignments)
-        store->SetValue(key, value);
-    if (!store->SaveFile(pathName))
+        written->SetValue(key, value);
+    if (!written->SaveFile(path))
         return false;
+    store = std::move(written);
+    pathName = path;
+    tpfDir = folder;
     modified = false;
     PathTitle(projectName, pathName);
     return true;
 }
 
 std::optional<std::string> CTPFFile::fileText() const {
-    const std::optional<Values> assignments = values();
+    const std::optional<Values> assignments = valuesIn(tpfDir);
     if (store == nullptr || !assignments)
         return std::nullopt;
     CKeyValueStore written = *store;

@@ -68,9 +68,10 @@ public:
     bool modified = false;
 
 private:
-    /// The assignments that stand for folders and pictures; nothing when one is too long to be read again.
+    /// The assignments that stand for folders and pictures in a file of that folder; nothing when one is too
+    /// long to be read again.
     using Values = std::vector<std::pair<std::string, std::string>>;
-    [[nodiscard]] std::optional<Values> values() const;
+    [[nodiscard]] std::optional<Values> valuesIn(const std::string& folder) const;
     void takeStore();
     void takeFolder(const char* entry, const std::string& folder, std::string& directory,
                     std::string& errors);

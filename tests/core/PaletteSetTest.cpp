@@ -147,13 +147,27 @@ TEST_F(PaletteSetRekey, TitleAndItsMarkStayUnlessTheKeyIsTaken) {
     palette.updateTitle();
     const std::string title = palette.title;
     EXPECT_TRUE(title.ends_with(" * "));
-    fake.dialogs.answerWith("c:\\none\\deep\\x.tlf");
-    EXPECT_FALSE(set.savePaletteAs("", true));
+    palette.path = "c:\\deep\\x.tlf";
     EXPECT_TRUE(set.rekeyAll());
-    EXPECT_EQ(set.currentKey + " " + palette.title, "c:\\none\\deep\\x.tlf " + title);
+    EXPECT_EQ(set.currentKey + " " + palette.title, "c:\\deep\\x.tlf " + title);
     palette.path = "c:\\x";
     set.rekeyAll();
     EXPECT_EQ(set.currentKey + " " + palette.title, "c:\\x_1 x_1 * ");
+}
+
+TEST_F(PaletteSetRekey, AFailedSaveAsLeavesThePaletteAndItsNeighbours) {
+    open({"c:\\a", "c:\\b"});
+    setApplicationPaletteSet(&set);
+    const auto other = fake.files.textOf("c:\\a");
+    for (const char* target : {"c:\\a", "c:\\none\\deep\\x.tlf"}) {
+        fake.dialogs.answerWith(target);
+        EXPECT_FALSE(set.savePaletteAs("c:\\b", true)) << target;
+        EXPECT_FALSE(set.rekeyAll()) << target;
+        EXPECT_EQ(state(), "c:\\a >c:\\b t") << target;
+        EXPECT_EQ(set.lookup("")->title, "b") << target;
+    }
+    EXPECT_EQ(fake.files.textOf("c:\\a"), other);
+    EXPECT_EQ(fake.messages.shown.size(), 2U) << "each says why";
 }
 
 TEST_F(PaletteSetRekey, AllAtOnceWhileKeysMove) {

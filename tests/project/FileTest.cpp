@@ -203,9 +203,11 @@ TEST_F(ProjectFile, PicturesGoBehindTheNamedOneOrToTheHead) {
 TEST_F(ProjectFile, UnsavedChangesAreNotOverwritten) {
     read("PICT_NUM = 1\nPICT.0 = A,a\n");
     set("B");
+    const std::string folder = file_.tpfDir;
     fake_.files.failNextWrite(FileError::NoSpace);
-    EXPECT_FALSE(file_.Write(kPath));
+    EXPECT_FALSE(file_.Write("c:\\elsewhere\\q.tpf"));
     EXPECT_TRUE(file_.IsModified());
+    EXPECT_EQ(file_.pathName + file_.tpfDir, kPath + folder);
     EXPECT_FALSE(file_.Read(kPath));
     EXPECT_THAT(file_.order, ElementsAre("B", "A"));
     EXPECT_TRUE(file_.Write(kPath));
