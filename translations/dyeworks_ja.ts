@@ -1152,12 +1152,14 @@ Fill Entries</source>
     <message>
         <source>Show or hide the image through all banks.
 Toggle Banks</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのバンクで見た画像の表示と非表示を切り替えます。
+バンクバーの表示切り替え</translation>
     </message>
     <message>
         <source>Show or hide the list of what breaks a rule
 Toggle Rule Findings</source>
-        <translation type="unfinished"></translation>
+        <translation>ルール違反の一覧の表示と非表示を切り替えます
+ルール違反の表示切り替え</translation>
     </message>
 </context>
 <context>
@@ -3172,23 +3174,23 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     </message>
     <message>
         <source>Unsaved work cannot be kept in case of a crash: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>異常終了に備えて未保存の作業を控えておくことができません: %1</translation>
     </message>
     <message>
         <source>Pictures of the project that no longer fit the image: %1, first &quot;%2&quot;. Its palette number is %3 now.</source>
-        <translation type="unfinished"></translation>
+        <translation>プロジェクトのピクチャーのうち %1 個が、この画像に合わなくなりました（最初は「%2」）。画像のパレット番号は %3 になりました。</translation>
     </message>
     <message>
         <source>The active image through every bank of its palette, or through every open palette. The framed one is the image&apos;s own; click another to choose it.</source>
-        <translation type="unfinished"></translation>
+        <translation>アクティブな画像を、パレットのすべてのバンク、または開いているすべてのパレットで見たものです。枠が付いているのが今の表示で、ほかをクリックするとそれを選びます。</translation>
     </message>
     <message>
         <source>Back to the entries as they are</source>
-        <translation type="unfinished"></translation>
+        <translation>元のエントリーに戻します</translation>
     </message>
     <message>
         <source>What the images of the project&apos;s pictures must keep to. Rule Findings in the View menu lists what does not.</source>
-        <translation type="unfinished"></translation>
+        <translation>プロジェクトのピクチャーの画像が守るルールです。反するものは[表示]メニューの[ルール違反]に並びます。</translation>
     </message>
 </context>
 </TS>
