@@ -2969,8 +2969,8 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <translation>テクセルのバイト数(&amp;B)</translation>
     </message>
     <message>
-        <source>No more than these, in rows of whole four bytes as in the image&apos;s file.</source>
-        <translation>これを超えません。画像ファイルと同じく、各行は 4 バイト単位です。</translation>
+        <source>No more than these in the image&apos;s file, without its header.</source>
+        <translation>画像ファイルのヘッダーを除いた部分がこれを超えません。</translation>
     </message>
     <message>
         <source>Bytes &amp;with the colours</source>

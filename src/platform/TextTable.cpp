@@ -527,7 +527,7 @@ constexpr Row kRows[] = {
         QT_TRANSLATE_NOOP("Text", "Width and height are each 1, 2, 4, 8, 16 and so on.")},
     Row{StringId::RuleTexelBytes, QT_TRANSLATE_NOOP("Text", "&Bytes of the texels")},
     Row{StringId::RuleTexelBytesHint,
-        QT_TRANSLATE_NOOP("Text", "No more than these, in rows of whole four bytes as in the image's file.")},
+        QT_TRANSLATE_NOOP("Text", "No more than these in the image's file, without its header.")},
     Row{StringId::RuleBytesWithColours, QT_TRANSLATE_NOOP("Text", "Bytes &with the colours")},
     Row{StringId::RuleBytesWithColoursHint,
         QT_TRANSLATE_NOOP(

@@ -19,6 +19,12 @@ bool isPowerOfTwo(std::int32_t side) {
     return side > 0 && std::has_single_bit(static_cast<std::uint32_t>(side));
 }
 
+/// Of the texels.
+std::int64_t bytesInFile(const TextureCanvas& canvas) {
+    const std::int64_t row = (std::int64_t{canvas.width()} * canvas.bitsPerPixel() + 7) / 8;
+    return (row * canvas.height() + 3) / 4 * 4;
+}
+
 } // namespace
 
 RuleCheck::RuleCheck(const TextureRules& rules, const TextureCanvas& canvas, const TlutData* palette,
@@ -60,7 +66,7 @@ void RuleCheck::checkSize() {
 }
 
 void RuleCheck::checkBytes(const TlutData* palette) {
-    const std::int64_t texels = std::int64_t{canvas_.stride()} * canvas_.height();
+    const std::int64_t texels = bytesInFile(canvas_);
     if (rules_.texelBytes && texels > *rules_.texelBytes)
         add({Rule::TexelBytes, {}, {}, {texels, *rules_.texelBytes}});
     const bool inBank = canvas_.bitsPerPixel() == 4;

@@ -23,7 +23,8 @@ struct TextureRules {
     std::optional<Size> largestSize;
     /// Both sides are powers of two; 1 is one.
     bool powersOfTwo = false;
-    /// Bytes of the image's texels as its file holds them, in rows of whole four bytes; 1 to kMostBytes.
+    /// Bytes of the image's texels as its file holds them: rows of whole bytes one behind the other, the end
+    /// filled up to a multiple of four; 1 to kMostBytes.
     std::optional<std::int32_t> texelBytes;
     /// The same and two bytes for each entry that goes with the image: the 16 of its bank, or, at 8 bits, all
     /// of its palette.

@@ -45,7 +45,7 @@ std::set<Plain> plainCheck(const TextureRules& rules, const TextureCanvas& image
     const int width = image.width();
     const int height = image.height();
     const int colours = image.bitsPerPixel() == 4 ? 16 : palette.count;
-    const int bytes = (width * image.bitsPerPixel() + 31) / 32 * 4 * height;
+    const int bytes = ((width * image.bitsPerPixel() + 7) / 8 * height + 3) / 4 * 4;
     if (width > rules.largestSize->width || height > rules.largestSize->height)
         broken.insert({Rule::LargestSize, {}, {}, {width, height, 64, 32}});
     if ((width & (width - 1)) != 0 || (height & (height - 1)) != 0)

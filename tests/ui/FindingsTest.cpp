@@ -72,14 +72,14 @@ TEST_F(FindingsOfRules, FollowTheRulesOfTheSheet) {
         EXPECT_TRUE(ok.isEnabled()) << "of a rule that is off";
         sheet.findChild<QCheckBox*>("IDC_RULE_LIMITS_TEXELS")->click();
         EXPECT_FALSE(ok.isEnabled());
-        most.setValue(15);
+        most.setValue(7);
         EXPECT_TRUE(ok.isEnabled());
         ok.click();
     });
     ASSERT_TRUE(run(ID_PROJECT_RULES));
     EXPECT_TRUE(project.isModified());
     ASSERT_TRUE(waitForTheOther());
-    EXPECT_EQ(row(), "pic.tmf: Bytes of the texels: Whole image: 16 bytes, at most 15");
+    EXPECT_EQ(row(), "pic.tmf: Bytes of the texels: Whole image: 8 bytes, at most 7");
     ASSERT_TRUE(project.RemovePicture("pic"));
     ASSERT_TRUE(waitForTheOther()) << "the default rules, of which there are none";
 }
