@@ -236,11 +236,11 @@ constexpr CommandRow kRows[] = {
     CommandRow{ID_MIRROR_DOWN, QT_TRANSLATE_NOOP("Command", "Mirror &Down"),
                QT_TRANSLATE_NOOP("Command", "Draw above and below the middle alike\nMirror Down"), "",
                "mirror-down"},
-    CommandRow{ID_VIEW_USAGE, QT_TRANSLATE_NOOP("Command", "&Usage"),
+    CommandRow{ID_VIEW_USAGE, QT_TRANSLATE_NOOP("Command", "Usa&ge"),
                QT_TRANSLATE_NOOP("Command", "Mark entries that no image shows, twins and transparent ones "
                                             "that are in use\nToggle Usage"),
                "", ""},
-    CommandRow{ID_PALETTE_SHOW_TEXELS, QT_TRANSLATE_NOOP("Command", "Show &Texels"),
+    CommandRow{ID_PALETTE_SHOW_TEXELS, QT_TRANSLATE_NOOP("Command", "Show Texe&ls"),
                QT_TRANSLATE_NOOP("Command", "Flash the texels that show the current entry\nShow Texels"), "",
                ""},
     CommandRow{ID_VIEW_BANKSBAR, QT_TRANSLATE_NOOP("Command", "Ban&ks"),
