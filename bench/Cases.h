@@ -6,6 +6,7 @@ void registerCanvasCases();
 void registerDocumentCases();
 void registerDrawCases();
 void registerFileCases();
+void registerPaletteUseCases();
 void registerPngCases();
 void registerPreviewCases();
 void registerProjectCases();

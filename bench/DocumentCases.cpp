@@ -1,7 +1,7 @@
+#include "bench/BareHost.h"
 #include "bench/Baseline.h"
 #include "bench/Cases.h"
 #include "paint/CDyeworksDoc.h"
-#include "paint/ImageHost.h"
 
 #include <benchmark/benchmark.h>
 
@@ -18,30 +18,6 @@ namespace {
 constexpr std::int32_t kSide = 4096;
 constexpr std::size_t kTexels = std::size_t{kSide} * kSide;
 constexpr Rect kWhole{0, 0, kSide - 1, kSide - 1};
-
-/// An application without palettes, windows, plug-ins and projects.
-class BareHost : public ImageHost {
-public:
-    PaletteSet* paletteSet() override { return nullptr; }
-    std::int32_t paletteBarFirstEntry() const override { return 0; }
-    std::int32_t paletteBarCell() const override { return -1; }
-    void selectPaletteBarCell(std::int32_t /*cell*/) override {}
-    void refreshPaletteBar() override {}
-    std::optional<std::string> savePaletteAs(const std::string& /*key*/) override { return std::nullopt; }
-    void setStatusText(const std::string& /*text*/, int /*pane*/) override {}
-    bool isActiveImage(const CDyeworksDoc& /*document*/) const override { return false; }
-    ImageViewer* activeView() const override { return nullptr; }
-    ImagePlugIns& imagePlugIns() override { std::abort(); }
-    OpenProject* openProject() override { return nullptr; }
-    std::optional<NewImage> askNewImage() override { return std::nullopt; }
-    std::optional<ImageWork> askImageWork(const ImageWork& /*proposed*/,
-                                          const TextureCanvas& /*image*/) override {
-        return std::nullopt;
-    }
-    void AskUseProject() override {}
-    const CDyeworksDoc* lastActivatedImage() const override { return nullptr; }
-    void setLastActivatedImage(const CDyeworksDoc* /*document*/) override {}
-};
 
 /// Bytes that the program holds on the heap.
 std::size_t heldBytes() {

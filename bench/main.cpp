@@ -19,6 +19,7 @@ int main(int argc, char** argv) {
     dyeworks::registerDocumentCases();
     dyeworks::registerDrawCases();
     dyeworks::registerFileCases();
+    dyeworks::registerPaletteUseCases();
     dyeworks::registerPngCases();
     dyeworks::registerPreviewCases();
     dyeworks::registerProjectCases();

@@ -1078,6 +1078,8 @@ Rules</source>
     <message>
         <source>&amp;Usage</source>
         <translation>使用状況(&amp;U)</translation>
+        <source>Usa&amp;ge</source>
+        <translation>使用状況(&amp;G)</translation>
     </message>
     <message>
         <source>Mark entries that no image shows, twins and transparent ones that are in use
@@ -1086,8 +1088,8 @@ Toggle Usage</source>
 使用状況の表示切り替え</translation>
     </message>
     <message>
-        <source>Show &amp;Texels</source>
-        <translation>テクセルを示す(&amp;T)</translation>
+        <source>Show Texe&amp;ls</source>
+        <translation>テクセルを示す(&amp;L)</translation>
     </message>
     <message>
         <source>Flash the texels that show the current entry

@@ -257,11 +257,11 @@ constexpr CommandRow kRows[] = {
                QT_TRANSLATE_NOOP("Command", "Give the selected entries, or all, the value of the entry that "
                                             "is being edited\nFill Entries"),
                "", ""},
-    CommandRow{ID_VIEW_USAGE, QT_TRANSLATE_NOOP("Command", "&Usage"),
+    CommandRow{ID_VIEW_USAGE, QT_TRANSLATE_NOOP("Command", "Usa&ge"),
                QT_TRANSLATE_NOOP("Command", "Mark entries that no image shows, twins and transparent ones "
                                             "that are in use\nToggle Usage"),
                "", ""},
-    CommandRow{ID_PALETTE_SHOW_TEXELS, QT_TRANSLATE_NOOP("Command", "Show &Texels"),
+    CommandRow{ID_PALETTE_SHOW_TEXELS, QT_TRANSLATE_NOOP("Command", "Show Texe&ls"),
                QT_TRANSLATE_NOOP("Command", "Flash the texels that show the current entry\nShow Texels"), "",
                ""},
     CommandRow{ID_VIEW_BANKSBAR, QT_TRANSLATE_NOOP("Command", "Ban&ks"),

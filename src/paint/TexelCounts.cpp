@@ -71,9 +71,12 @@ void changeRow(const std::uint8_t* before, const std::uint8_t* after, std::int64
         }
         const std::int64_t stop = std::min(end, (first / kInWord + 1) * kInWord);
         for (; first < stop; ++first) {
-            // Of those that are the same, one cancels the other.
-            --values[PixelAccess<Bits>::get(before, first)];
-            ++values[PixelAccess<Bits>::get(after, first)];
+            const std::uint32_t was = PixelAccess<Bits>::get(before, first);
+            const std::uint32_t is = PixelAccess<Bits>::get(after, first);
+            if (was == is)
+                continue;
+            --values[was];
+            ++values[is];
         }
     }
 }
