@@ -1148,8 +1148,8 @@ Reverse Entries</source>
     <message>
         <source>Give the selected entries, or all, the value of the entry that is being edited
 Fill Entries</source>
-        <translation>選択したエントリ(なければ全体)を編集中のエントリの値にします
-エントリの塗りつぶし</translation>
+        <translation>選択したエントリー(なければ全体)を編集中のエントリーの値にします
+エントリーの塗りつぶし</translation>
     </message>
     <message>
         <source>Show or hide the image through all banks.

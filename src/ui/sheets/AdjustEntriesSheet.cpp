@@ -16,6 +16,8 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <optional>
+#include <string>
 
 namespace dyeworks {
 
@@ -157,7 +159,8 @@ void AdjustEntriesSheet::addButtons() {
 void AdjustEntriesSheet::follow() {
     if (isResetting_)
         return;
-    ok_->setEnabled(std::ranges::all_of(amounts_, [](const Amount& each) { return each.field->value(); }));
+    ok_->setEnabled(
+        std::ranges::all_of(amounts_, [](const Amount& each) { return each.field->value().has_value(); }));
     const auto of = [](const Amount& amount) {
         return amount.slider == nullptr ? 0 : amount.slider->value();
     };
