@@ -105,6 +105,8 @@ OpenedFile PictureImport::openReduced(const Picture& picture, const std::string&
             state = ReductionState(current->table, workspace_.mainFrame().GetPaletteBarFirstEntry());
         }
         state.load(platform().profile());
+        // The files of the command line are opened before the main window is shown.
+        workspace_.mainFrame().show();
         ReduceColoursDialog dialog(picture, state, QString::fromStdString(name), &workspace_.mainFrame());
         if (dialog.exec() != QDialog::Accepted)
             return OpenedFile::cancelled();

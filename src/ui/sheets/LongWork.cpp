@@ -36,6 +36,9 @@ void runLongWork(QWidget* owner, const QString& what, const std::function<void(c
     if (running.wait_for(kPatience) == std::future_status::ready)
         return;
     const OrdinaryPointerScope pointer;
+    // The files of the command line are opened before the main window is shown.
+    if (owner != nullptr)
+        owner->show();
     QProgressDialog dialog(owner);
     dialog.setLabelText(what);
     dialog.setRange(0, kWhole);
