@@ -71,7 +71,10 @@ protected:
         const int x = random.between(-2, w + 1);
         const int y = random.between(-2, h + 1);
         const auto value = random.bits() & (old.bits == 4 ? 15U : 255U);
-        switch (random.between(0, 12)) {
+        const int x2 = random.between(0, w - 1);
+        const int y2 = random.between(0, h - 1);
+        const auto become = [&](auto texel) { model.become(Plain::of(w, h, old.bits, texel)); };
+        switch (random.between(0, 15)) {
         case 0:
             model.move(true);
             document.Undo();
@@ -99,9 +102,50 @@ protected:
             }));
             break;
         case 5:
-            document.Edit(&view, [&](TextureCanvas& canvas) { canvas.Flip(0, 0, w - 1, h - 1, 1); });
-            model.become(Plain::of(w, h, old.bits, [&](int i, int j) { return old.at(w - 1 - i, j); }));
+            document.Edit(&view, [&](TextureCanvas& canvas) { canvas.Flip(x2, y2, w - 1, 0, 1); });
+            become(
+                [&](int i, int j) { return i >= x2 && j <= y2 ? old.at(w - 1 + x2 - i, j) : old.at(i, j); });
             break;
+        case 13: {
+            document.Edit(&view, [&](TextureCanvas& canvas) { canvas.DrawLine(x, y, x2, y2, value); });
+            const bool wide = std::abs(x2 - x) >= std::abs(y2 - y);
+            const int n = std::max(std::abs(x2 - x), std::abs(y2 - y));
+            const int rise = std::min(std::abs(x2 - x), std::abs(y2 - y));
+            become([&](int i, int j) {
+                const int right = x < x2 ? i - x : x - i;
+                const int down = y < y2 ? j - y : y - j;
+                const int along = wide ? right : down;
+                const int across = (n / 2 + along * rise) / std::max(n, 1);
+                return along >= 0 && along <= n && (wide ? down : right) == across ? value : old.at(i, j);
+            });
+            break;
+        }
+        case 14:
+            document.Edit(&view, [&](TextureCanvas& canvas) {
+                canvas.ReplaceColor({x2, y2, w - 1, h - 1}, x, y, value);
+            });
+            become([&](int i, int j) {
+                return old.has(x, y) && x >= x2 && y >= y2 && i >= x2 && j >= y2 &&
+                               old.at(i, j) == old.at(x, y)
+                           ? value
+                           : old.at(i, j);
+            });
+            break;
+        case 15: {
+            document.Edit(&view, [&](TextureCanvas& canvas) { canvas.FloodFill(x2, y2, value); });
+            Plain filled = Plain::of(w, h, 1, [&](int i, int j) { return i == x2 && j == y2 ? 1U : 0U; });
+            const auto reached = [&](int i, int j) { return filled.has(i, j) && filled.at(i, j) == 1; };
+            for (Plain before; before.rows != filled.rows;) {
+                before = filled;
+                filled = Plain::of(w, h, 1, [&](int i, int j) {
+                    const bool is = reached(i, j) || reached(i - 1, j) || reached(i + 1, j) ||
+                                    reached(i, j - 1) || reached(i, j + 1);
+                    return is && old.at(i, j) == old.at(x2, y2) ? 1U : 0U;
+                });
+            }
+            become([&](int i, int j) { return reached(i, j) ? value : old.at(i, j); });
+            break;
+        }
         case 6:
         case 7: {
             const Size size{random.between(1, 20), random.between(1, 20)};
