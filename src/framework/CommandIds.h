@@ -146,6 +146,12 @@ inline constexpr CommandId ID_BRUSH_SQUARE = 33165;
 inline constexpr CommandId ID_BRUSH_ROUND = 33166;
 inline constexpr CommandId ID_MIRROR_ACROSS = 33167;
 inline constexpr CommandId ID_MIRROR_DOWN = 33168;
+
+inline constexpr CommandId ID_PALETTE_MOVE = 33190;
+inline constexpr CommandId ID_PALETTE_SWAP = 33191;
+inline constexpr CommandId ID_PALETTE_SORT = 33192;
+inline constexpr CommandId ID_PALETTE_MERGE_TWINS = 33193;
+inline constexpr CommandId ID_PALETTE_COMPACT = 33194;
 // NOLINTEND(readability-identifier-naming)
 
 } // namespace dyeworks

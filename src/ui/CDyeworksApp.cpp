@@ -43,6 +43,7 @@ std::vector<CommandTarget*> CDyeworksApp::commandChain() {
     chain.push_back(&recentFiles_);
     chain.push_back(&pastePictures_);
     chain.push_back(&paletteFiles_);
+    chain.push_back(&entryOrder_);
     chain.push_back(this);
     return chain;
 }

@@ -13,6 +13,7 @@
 #include "ui/ApplicationPlugInHost.h"
 #include "ui/ApplicationProjectHost.h"
 #include "ui/CurrentProject.h"
+#include "ui/EntryOrderCommands.h"
 #include "ui/MainFrameHost.h"
 #include "ui/OpenRequestQueue.h"
 #include "ui/PaletteFileCommands.h"
@@ -177,6 +178,7 @@ private:
     PictureImport pictures_{*this};
     PastePictureCommands pastePictures_{*this, pictures_};
     PaletteFileCommands paletteFiles_{*this};
+    EntryOrderCommands entryOrder_{*this};
     std::vector<std::unique_ptr<DocumentTemplate>> templates_;
     std::unique_ptr<CMainFrame> mainFrame_;
     QPointer<QWidget> splash_;

@@ -203,6 +203,11 @@ constexpr std::array kEntriesMenu{
     MenuItem{ID_PALETTE_COPY}, MenuItem{ID_PALETTE_PASTE},
 };
 
+constexpr std::array kOrderMenu{
+    MenuItem{ID_PALETTE_MOVE},        MenuItem{ID_PALETTE_SWAP},    MenuItem{ID_PALETTE_SORT},
+    MenuItem{ID_PALETTE_MERGE_TWINS}, MenuItem{ID_PALETTE_COMPACT},
+};
+
 constexpr std::array kPaletteMenu{
     MenuItem{ID_PALETTE_NEW},
     MenuItem{ID_PALETTE_OPEN},
@@ -215,6 +220,8 @@ constexpr std::array kPaletteMenu{
     kSeparator,
     MenuItem{ID_PALETTE_IMPORT},
     MenuItem{ID_PALETTE_EXPORT},
+    kSeparator,
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Arran&ge"), kOrderMenu},
 };
 
 // The context menus of an image.

@@ -2,11 +2,18 @@
 
 #include "framework/CommandIds.h"
 
+#include <QtGlobal>
+
 #include <array>
 
 namespace dyeworks {
 
 namespace {
+
+constexpr std::array kOrderMenu{
+    MenuItem{ID_PALETTE_MOVE},        MenuItem{ID_PALETTE_SWAP},    MenuItem{ID_PALETTE_SORT},
+    MenuItem{ID_PALETTE_MERGE_TWINS}, MenuItem{ID_PALETTE_COMPACT},
+};
 
 constexpr std::array kPaletteBarMenu{
     MenuItem{ID_PALETTE_NEW},
@@ -24,6 +31,8 @@ constexpr std::array kPaletteBarMenu{
     kSeparator,
     MenuItem{ID_PALETTE_COPY},
     MenuItem{ID_PALETTE_PASTE},
+    kSeparator,
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Arran&ge"), kOrderMenu},
 };
 
 } // namespace
