@@ -1,15 +1,20 @@
 #include "bench/BareHost.h"
 #include "bench/Baseline.h"
 #include "bench/Cases.h"
+#include "core/PaletteSet.h"
 #include "paint/CDyeworksDoc.h"
+#include "ui/ImagesOfPalette.h"
 
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
 #include <functional>
 #include <malloc.h>
+#include <memory>
 #include <optional>
+#include <random>
 #include <string>
+#include <vector>
 
 namespace dyeworks {
 
@@ -94,9 +99,53 @@ void addHundredStrokes(std::uint16_t bits) {
     })->Unit(benchmark::kMicrosecond);
 }
 
+/// With the palettes that documents are attached to.
+class HostOfPalettes : public BareHost {
+public:
+    PaletteSet* paletteSet() override { return &palettes; }
+    PaletteSet palettes;
+};
+
+/// A palette is sorted, turn by turn the other way round, with four attached images of 1024x1024 texels.
+void addSort() {
+    constexpr std::int32_t kImageSide = 1024;
+    constexpr std::size_t kBytes = std::size_t{4} * kImageSide * kImageSide;
+    const std::string base = baseline(Baseline::Memcpy, kBytes);
+    benchmark::RegisterBenchmark("Sort-with-four-images/8bit/1024", [=](benchmark::State& state) {
+        HostOfPalettes host;
+        host.palettes.newPalette(256, ColourType::Rgba, 1);
+        TextureLookupTable& palette = *host.palettes.lookup("");
+        std::mt19937 random(1);
+        for (std::int32_t i = 0; i < 256; ++i)
+            palette.setEntry(i, static_cast<std::uint16_t>(random()));
+        std::vector<std::unique_ptr<CDyeworksDoc>> documents;
+        std::vector<CDyeworksDoc*> images;
+        for (int n = 0; n < 4; ++n) {
+            CDyeworksDoc& image = *documents.emplace_back(std::make_unique<CDyeworksDoc>(host));
+            if (!image.canvas().Create(kImageSide, kImageSide, 1, 8))
+                state.SkipWithError("no memory");
+            for (std::uint8_t& texel : image.canvas().pixelRows())
+                texel = static_cast<std::uint8_t>(random());
+            image.setAttachedName(host.palettes.currentKey);
+            images.push_back(&image);
+        }
+        EntryOrder order;
+        order.range = {0, 255};
+        for (auto _ : state) {
+            order.reversed = !order.reversed;
+            const auto map = mapOf(order, palette.table, {});
+            if (!map || !ImagesOfPalette(palette, images, nullptr).rearrange(*map))
+                state.SkipWithError("not sorted");
+            benchmark::ClobberMemory();
+        }
+        state.SetLabel(base);
+    })->Unit(benchmark::kMicrosecond);
+}
+
 } // namespace
 
 void registerDocumentCases() {
+    addSort();
     for (const std::uint16_t bits : {std::uint16_t{4}, std::uint16_t{8}}) {
         const std::size_t bytes = kTexels * bits / 8;
         add("Edit-texel", bits, Baseline::Memcpy, bytes, [](CDyeworksDoc& document, std::uint32_t turn) {

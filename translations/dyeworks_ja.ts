@@ -1076,8 +1076,6 @@ Rules</source>
         <translation>ルール違反(&amp;F)</translation>
     </message>
     <message>
-        <source>&amp;Usage</source>
-        <translation>使用状況(&amp;U)</translation>
         <source>Usa&amp;ge</source>
         <translation>使用状況(&amp;G)</translation>
     </message>
@@ -1156,6 +1154,56 @@ Fill Entries</source>
 Toggle Banks</source>
         <translation>すべてのバンクで見た画像の表示と非表示を切り替えます。
 バンクバーの表示切り替え</translation>
+    </message>
+    <message>
+        <source>&amp;Move...</source>
+        <translation>移動(&amp;M)...</translation>
+    </message>
+    <message>
+        <source>Move entries to another place; images keep their colours
+Move Entries</source>
+        <translation>エントリを別の場所へ移動します。画像の色は変わりません
+エントリの移動</translation>
+    </message>
+    <message>
+        <source>S&amp;wap...</source>
+        <translation>入れ替え(&amp;W)...</translation>
+    </message>
+    <message>
+        <source>Exchange entries with others; images keep their colours
+Swap Entries</source>
+        <translation>エントリをほかのエントリと入れ替えます。画像の色は変わりません
+エントリの入れ替え</translation>
+    </message>
+    <message>
+        <source>&amp;Sort By...</source>
+        <translation>並べ替え(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Bring entries into an order; images keep their colours
+Sort Entries</source>
+        <translation>エントリを順番に並べます。画像の色は変わりません
+エントリの並べ替え</translation>
+    </message>
+    <message>
+        <source>Merge &amp;Twins...</source>
+        <translation>同色をまとめる(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>Let the texels of equal entries all have one of them
+Merge Twins</source>
+        <translation>等しいエントリのテクセルを一つのエントリにまとめます
+同色をまとめる</translation>
+    </message>
+    <message>
+        <source>&amp;Compact...</source>
+        <translation>詰める(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Move entries that no texel has to the end
+Compact Entries</source>
+        <translation>どのテクセルも使わないエントリを末尾へ移動します
+エントリを詰める</translation>
     </message>
     <message>
         <source>Show or hide the list of what breaks a rule
@@ -1252,6 +1300,10 @@ Toggle Rule Findings</source>
     <message>
         <source>Brus&amp;h</source>
         <translation>ブラシ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Arrange En&amp;tries</source>
+        <translation>整理(&amp;T)</translation>
     </message>
 </context>
 <context>
@@ -3189,6 +3241,162 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     <message>
         <source>Back to the entries as they are</source>
         <translation>元のエントリーに戻します</translation>
+    </message>
+    <message>
+        <source>Move Entries</source>
+        <translation>エントリの移動</translation>
+    </message>
+    <message>
+        <source>Swap Entries</source>
+        <translation>エントリの入れ替え</translation>
+    </message>
+    <message>
+        <source>Sort Entries</source>
+        <translation>エントリの並べ替え</translation>
+    </message>
+    <message>
+        <source>Merge Twins</source>
+        <translation>同色をまとめる</translation>
+    </message>
+    <message>
+        <source>Compact Entries</source>
+        <translation>エントリを詰める</translation>
+    </message>
+    <message>
+        <source>&amp;From entry</source>
+        <translation>最初のエントリ(&amp;F)</translation>
+    </message>
+    <message>
+        <source>First of the entries that this is about</source>
+        <translation>対象の最初のエントリ</translation>
+    </message>
+    <message>
+        <source>&amp;To entry</source>
+        <translation>最後のエントリ(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Last of the entries that this is about</source>
+        <translation>対象の最後のエントリ</translation>
+    </message>
+    <message>
+        <source>&amp;Place</source>
+        <translation>行き先(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Where the first of the entries goes</source>
+        <translation>最初のエントリの行き先</translation>
+    </message>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation>並べ替えの基準(&amp;S)</translation>
+    </message>
+    <message>
+        <source>What the entries are compared by</source>
+        <translation>エントリを比べる基準</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>明度</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>色相</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>使用数</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>&amp;Reversed</source>
+        <translation>逆順(&amp;R)</translation>
+    </message>
+    <message>
+        <source>The other way round; equal entries keep their order</source>
+        <translation>逆の順番にします。等しいエントリの順番は変わりません</translation>
+    </message>
+    <message>
+        <source>&amp;Keep in place</source>
+        <translation>動かさない(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Entries that stay where they are, such as 0, 5, 16-31</source>
+        <translation>動かさないエントリ。例: 0, 5, 16-31</translation>
+    </message>
+    <message>
+        <source>Each &amp;bank by itself</source>
+        <translation>バンクごとに(&amp;B)</translation>
+    </message>
+    <message>
+        <source>No entry leaves its bank of 16, as images of 4 bits need it</source>
+        <translation>どのエントリも16色のバンクから出ません。4ビットの画像に必要です</translation>
+    </message>
+    <message>
+        <source>&amp;Images and pictures of this palette</source>
+        <translation>このパレットの画像とピクチャ(&amp;I)</translation>
+    </message>
+    <message>
+        <source>What becomes of the images that show the palette</source>
+        <translation>パレットを表示している画像がどうなるか</translation>
+    </message>
+    <message>
+        <source>%1: follows</source>
+        <translation>%1: 追従します</translation>
+    </message>
+    <message>
+        <source>%1: shows none of these entries</source>
+        <translation>%1: 対象のエントリを表示していません</translation>
+    </message>
+    <message>
+        <source>%1: follows, but for %2 texels beyond the palette, which stay</source>
+        <translation>%1: 追従します。パレットの範囲外のテクセル%2個は変わりません</translation>
+    </message>
+    <message>
+        <source>%1: %2 texels would leave bank %3</source>
+        <translation>%1: テクセル%2個がバンク%3から出てしまいます</translation>
+    </message>
+    <message>
+        <source>%1: is not open, and would show other colours</source>
+        <translation>%1: 開いていないため、色が変わります</translation>
+    </message>
+    <message>
+        <source>No open image shows the palette.</source>
+        <translation>このパレットを表示している画像は開いていません。</translation>
+    </message>
+    <message>
+        <source>&amp;Open the pictures that are not open first</source>
+        <translation>開いていないピクチャを先に開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>So that they follow, too</source>
+        <translation>それらも追従させます</translation>
+    </message>
+    <message>
+        <source>The entries cannot go there.</source>
+        <translation>そこへは移せません。</translation>
+    </message>
+    <message>
+        <source>Colours of an image would leave its bank. Take each bank by itself.</source>
+        <translation>画像の色がバンクから出てしまいます。バンクごとに行ってください。</translation>
+    </message>
+    <message>
+        <source>Colours of an image would leave its bank.</source>
+        <translation>画像の色がバンクから出てしまいます。</translation>
+    </message>
+    <message>
+        <source>Nothing would change.</source>
+        <translation>何も変わりません。</translation>
+    </message>
+    <message>
+        <source>Entries that change places: %1</source>
+        <translation>場所が変わるエントリ: %1</translation>
+    </message>
+    <message>
+        <source>Twins that become free: %1</source>
+        <translation>空くエントリ: %1</translation>
     </message>
     <message>
         <source>What the images of the project&apos;s pictures must keep to. Rule Findings in the View menu lists what does not.</source>

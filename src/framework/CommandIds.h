@@ -153,6 +153,12 @@ inline constexpr CommandId ID_RANGE_INVERT = 33182;
 inline constexpr CommandId ID_RANGE_REVERSE = 33183;
 inline constexpr CommandId ID_RANGE_FILL = 33184;
 
+inline constexpr CommandId ID_PALETTE_MOVE = 33190;
+inline constexpr CommandId ID_PALETTE_SWAP = 33191;
+inline constexpr CommandId ID_PALETTE_SORT = 33192;
+inline constexpr CommandId ID_PALETTE_MERGE_TWINS = 33193;
+inline constexpr CommandId ID_PALETTE_COMPACT = 33194;
+
 inline constexpr CommandId ID_VIEW_USAGE = 33200;
 inline constexpr CommandId ID_PALETTE_SHOW_TEXELS = 33201;
 inline constexpr CommandId ID_VIEW_BANKSBAR = 33202;

@@ -257,6 +257,25 @@ constexpr CommandRow kRows[] = {
                QT_TRANSLATE_NOOP("Command", "Give the selected entries, or all, the value of the entry that "
                                             "is being edited\nFill Entries"),
                "", ""},
+    CommandRow{ID_PALETTE_MOVE, QT_TRANSLATE_NOOP("Command", "&Move..."),
+               QT_TRANSLATE_NOOP("Command",
+                                 "Move entries to another place; images keep their colours\nMove Entries"),
+               "", ""},
+    CommandRow{
+        ID_PALETTE_SWAP, QT_TRANSLATE_NOOP("Command", "S&wap..."),
+        QT_TRANSLATE_NOOP("Command", "Exchange entries with others; images keep their colours\nSwap Entries"),
+        "", ""},
+    CommandRow{
+        ID_PALETTE_SORT, QT_TRANSLATE_NOOP("Command", "&Sort By..."),
+        QT_TRANSLATE_NOOP("Command", "Bring entries into an order; images keep their colours\nSort Entries"),
+        "", ""},
+    CommandRow{
+        ID_PALETTE_MERGE_TWINS, QT_TRANSLATE_NOOP("Command", "Merge &Twins..."),
+        QT_TRANSLATE_NOOP("Command", "Let the texels of equal entries all have one of them\nMerge Twins"), "",
+        ""},
+    CommandRow{ID_PALETTE_COMPACT, QT_TRANSLATE_NOOP("Command", "&Compact..."),
+               QT_TRANSLATE_NOOP("Command", "Move entries that no texel has to the end\nCompact Entries"), "",
+               ""},
     CommandRow{ID_VIEW_USAGE, QT_TRANSLATE_NOOP("Command", "Usa&ge"),
                QT_TRANSLATE_NOOP("Command", "Mark entries that no image shows, twins and transparent ones "
                                             "that are in use\nToggle Usage"),

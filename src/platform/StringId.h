@@ -85,6 +85,46 @@ enum class StringId {
     JointUndoRest,
     JointRedoRest,
     PicturesNameOtherNumber, ///< %1 number of pictures, %2 the first one, %3 palette number
+    OrderMoveCaption,
+    OrderSwapCaption,
+    OrderSortCaption,
+    OrderTwinsCaption,
+    OrderCompactCaption,
+    OrderPalette,
+    OrderFirst,
+    OrderFirstTip,
+    OrderLast,
+    OrderLastTip,
+    OrderTarget,
+    OrderTargetTip,
+    OrderKey,
+    OrderKeyTip,
+    OrderLightness,
+    OrderHue,
+    OrderUse,
+    OrderValue,
+    OrderReversed,
+    OrderReversedTip,
+    OrderKept,
+    OrderKeptTip,
+    OrderBanks,
+    OrderBanksTip,
+    OrderImages,
+    OrderImagesTip,
+    OrderFollows,    ///< %1 name
+    OrderUnaffected, ///< %1 name
+    OrderBeyond,     ///< %1 name, %2 number
+    OrderLeaves,     ///< %1 name, %2 and %3 numbers
+    OrderClosed,     ///< %1 name
+    OrderNoImages,
+    OrderOpen,
+    OrderOpenTip,
+    OrderCannot,
+    OrderUseBanks,
+    OrderRefused,
+    OrderNothing,
+    OrderMoved,  ///< %1 number
+    OrderMerged, ///< %1 number
     ImportPaletteCaption,
     ImportColourCount, ///< %1 number
     ImportAsNew,

@@ -45,6 +45,7 @@ std::vector<CommandTarget*> CDyeworksApp::commandChain() {
     chain.push_back(&pastePictures_);
     chain.push_back(&paletteFiles_);
     chain.push_back(&usage_);
+    chain.push_back(&entryOrder_);
     chain.push_back(this);
     return chain;
 }

@@ -14,6 +14,7 @@
 #include "ui/ApplicationProjectHost.h"
 #include "ui/CrashRecovery.h"
 #include "ui/CurrentProject.h"
+#include "ui/EntryOrderCommands.h"
 #include "ui/MainFrameHost.h"
 #include "ui/OpenRequestQueue.h"
 #include "ui/PaletteFileCommands.h"
@@ -191,6 +192,7 @@ private:
     PaletteUsage usage_{*this};
     CrashRecovery recovery_{*this};
     std::unique_ptr<TerminationSignals> signals_;
+    EntryOrderCommands entryOrder_{*this};
     std::vector<std::unique_ptr<DocumentTemplate>> templates_;
     std::unique_ptr<CMainFrame> mainFrame_;
     QPointer<QWidget> splash_;

@@ -2,6 +2,7 @@
 
 #include "core/JointStep.h"
 #include "core/PaletteUndoRecord.h"
+#include "framework/PathText.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/RenumberRecord.h"
 #include "platform/Platform.h"
@@ -65,7 +66,9 @@ std::vector<AttachedImage> ImagesOfPalette::openImages() const {
     std::vector<AttachedImage> images;
     for (const CDyeworksDoc* image : attached_) {
         images.push_back(described(*image));
-        images.back().name = image->displayName();
+        // Without its folder, as in the title.
+        const std::string name = image->pathName().empty() ? image->displayName() : image->pathName();
+        images.back().name = fileNameOf(name);
         images.back().texels = countValues(image->canvas());
     }
     return images;

@@ -30,9 +30,11 @@ const Ids kEnabledWithProject{
     ID_WINDOW_TILE_HORZ, ID_WINDOW_TILE_VERT, ID_RECENT_PROJECT_FIRST, ID_PROJECT_RULES};
 
 /// Besides, with a palette that is unchanged.
-const Ids kEnabledWithPalette{ID_PALETTE_EDIT,   ID_PALETTE_CLOSE,        ID_PALETTE_SAVE, ID_PALETTE_SAVE_AS,
-                              ID_PALETTE_EXPORT, ID_RECENT_PALETTE_FIRST, ID_RANGE_RAMP,   ID_RANGE_ADJUST,
-                              ID_RANGE_INVERT,   ID_RANGE_REVERSE,        ID_RANGE_FILL};
+const Ids kEnabledWithPalette{
+    ID_PALETTE_EDIT,   ID_PALETTE_CLOSE,        ID_PALETTE_SAVE,        ID_PALETTE_SAVE_AS,
+    ID_PALETTE_EXPORT, ID_RECENT_PALETTE_FIRST, ID_RANGE_RAMP,          ID_RANGE_ADJUST,
+    ID_RANGE_INVERT,   ID_RANGE_REVERSE,        ID_RANGE_FILL,          ID_PALETTE_MOVE,
+    ID_PALETTE_SWAP,   ID_PALETTE_SORT,         ID_PALETTE_MERGE_TWINS, ID_PALETTE_COMPACT};
 
 /// Besides, with an unchanged image.
 const Ids kEnabledWithImage{

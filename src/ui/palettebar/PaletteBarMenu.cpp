@@ -2,11 +2,18 @@
 
 #include "framework/CommandIds.h"
 
+#include <QtGlobal>
+
 #include <array>
 
 namespace dyeworks {
 
 namespace {
+
+constexpr std::array kOrderMenu{
+    MenuItem{ID_PALETTE_MOVE},        MenuItem{ID_PALETTE_SWAP},    MenuItem{ID_PALETTE_SORT},
+    MenuItem{ID_PALETTE_MERGE_TWINS}, MenuItem{ID_PALETTE_COMPACT},
+};
 
 constexpr std::array kPaletteBarMenu{
     MenuItem{ID_PALETTE_NEW},
@@ -30,6 +37,7 @@ constexpr std::array kPaletteBarMenu{
     MenuItem{ID_RANGE_INVERT},
     MenuItem{ID_RANGE_REVERSE},
     MenuItem{ID_RANGE_FILL},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Arrange En&tries"), kOrderMenu},
     kSeparator,
     MenuItem{ID_VIEW_USAGE},
     MenuItem{ID_PALETTE_SHOW_TEXELS},

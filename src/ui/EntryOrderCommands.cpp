@@ -1,0 +1,121 @@
+#include "ui/EntryOrderCommands.h"
+
+#include "core/PaletteSet.h"
+#include "paint/CDyeworksDoc.h"
+#include "palette/EntryOrderPlan.h"
+#include "platform/Platform.h"
+#include "project/CTPFDocument.h"
+#include "ui/CMainFrame.h"
+#include "ui/CurrentProject.h"
+#include "ui/ImagesOfPalette.h"
+#include "ui/Workspace.h"
+#include "ui/palettebar/CPaletteBar.h"
+#include "ui/sheets/EntryOrderSheet.h"
+
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace dyeworks {
+
+namespace {
+
+/// The range that is selected in the palette bar; the current entry where only one corner is known.
+template <typename Cells>
+std::optional<EntryRange> selectedRange(const Cells& cells) {
+    if constexpr (requires { cells.selectedRange(); }) {
+        return cells.selectedRange();
+    } else {
+        const auto current = cells.canCopy() ? cells.currentEntry() : std::nullopt;
+        return current ? std::optional(EntryRange{*current, *current}) : std::nullopt;
+    }
+}
+
+} // namespace
+
+EntryOrderCommands::EntryOrderCommands(Workspace& workspace)
+    : workspace_(workspace) {
+    onRange(ID_PALETTE_MOVE, ID_PALETTE_COMPACT, &EntryOrderCommands::OnOrder,
+            &EntryOrderCommands::OnUpdateOrder);
+}
+
+std::vector<CDyeworksDoc*> EntryOrderCommands::images() const {
+    std::vector<CDyeworksDoc*> all;
+    for (CDocument* document : workspace_.documents()) {
+        if (auto* const image = dynamic_cast<CDyeworksDoc*>(document))
+            all.push_back(image);
+    }
+    return all;
+}
+
+/// One entry alone can be moved or swapped; anything else is done to the whole palette then.
+EntryOrder EntryOrderCommands::proposal(EntryOperation operation) const {
+    const PaletteCells& cells = workspace_.mainFrame().paletteBar().state().cells();
+    const TlutData& table = workspace_.paletteSet()->lookup("")->table;
+    const bool goesSomewhere = operation == EntryOperation::Move || operation == EntryOperation::Swap;
+    EntryOrder order;
+    order.operation = operation;
+    order.range = {0, table.count - 1};
+    const std::optional<EntryRange> selected = selectedRange(cells);
+    if (selected && (goesSomewhere || selected->first < selected->last)) {
+        order.range = *selected;
+    } else if (goesSomewhere) {
+        const std::int32_t current = cells.currentEntry().value_or(0);
+        order.range = {current, current};
+    }
+    order.target = order.range.first;
+    // Texels of value 0 are mostly what is seen through.
+    order.kept.set(0, operation == EntryOperation::Sort || operation == EntryOperation::Compact);
+    return order;
+}
+
+void EntryOrderCommands::openPictures(const std::vector<std::string>& names) const {
+    for (const std::string& name : names) {
+        if (CTPFDocument* const project = workspace_.currentProject().document())
+            project->OpenPicture(name);
+    }
+}
+
+void EntryOrderCommands::OnOrder(CommandId id) {
+    PaletteSet& set = *workspace_.paletteSet();
+    const std::string key = set.currentKey;
+    const auto find = [&] {
+        return ImagesOfPalette(*set.lookup(key), images(), workspace_.currentProject().document());
+    };
+    // What floats belongs to the images that the sheet tells of.
+    for (CDyeworksDoc* image : images()) {
+        if (image->GetAttachedPalette() == set.lookup(key) && !image->settlePieces())
+            return;
+    }
+    EntryOrder order = proposal(static_cast<EntryOperation>(id - ID_PALETTE_MOVE));
+    order.insideBanks = showBanks(find().openImages(), set.lookup(key)->table);
+    for (;;) {
+        const ImagesOfPalette shown = find();
+        const TextureLookupTable& palette = *set.lookup(key);
+        const std::string title = palette.title.substr(0, palette.title.find(" * "));
+        EntryOrderSheet sheet(order, palette.table, title, shown, &workspace_.mainFrame());
+        if (sheet.exec() != QDialog::Accepted || !sheet.order())
+            return;
+        order = *sheet.order();
+        if (sheet.opensPictures())
+            openPictures(shown.closedPictures());
+        // The palette may have gone while the sheet was open, or images may have come.
+        if (set.lookup(key) == nullptr)
+            return;
+        ImagesOfPalette now = find();
+        const EntryOrderPlan plan = planOf(order, set.lookup(key)->table, now.openImages());
+        if (plan.canBeDone()) {
+            now.rearrange(*plan.map);
+            return;
+        }
+        applicationMessage(text(plan.leavesBank() ? StringId::OrderRefused : StringId::OrderNothing));
+    }
+}
+
+void EntryOrderCommands::OnUpdateOrder(CommandUi& ui) {
+    const TextureLookupTable* const palette = workspace_.paletteSet()->lookup("");
+    ui.enabled =
+        palette != nullptr && palette->table.count > 0 && palette->table.count <= EntryMap::kMostEntries;
+}
+
+} // namespace dyeworks
