@@ -243,6 +243,7 @@ public:
         return markers_.at(static_cast<std::size_t>(marker));
     }
     std::optional<Cell> selection() const override { return std::nullopt; }
+    Selected selectedCells() const override { return {}; }
     bool copy() override { return false; }
     bool hasCopiedCells() const override { return false; }
     bool paste(Cell /*cell*/) override { return false; }

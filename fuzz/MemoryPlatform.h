@@ -50,6 +50,7 @@ public:
     VersionInfo& versionInfo() override { std::abort(); }
     Locale& locale() override { std::abort(); }
     Shell& shell() override { std::abort(); }
+    StateFolder& stateFolder() override { std::abort(); }
     WaitCursor& waitCursor() override { std::abort(); }
     Texts& texts() override { std::abort(); }
 

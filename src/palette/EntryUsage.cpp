@@ -21,9 +21,9 @@ std::optional<std::int32_t> twinOf(const TlutData& table, std::int32_t index, st
 
 } // namespace
 
-std::vector<std::uint64_t> entryUsage(AttachedImages& images, const std::string& key, std::int32_t entries) {
+std::vector<std::uint64_t> entryUsage(CountedImages& images, const std::string& key, std::int32_t entries) {
     std::vector<std::uint64_t> usage(static_cast<std::size_t>(std::max(entries, 0)));
-    for (const AttachedImages::Image& image : images.attachedTo(key)) {
+    for (const CountedImages::Image& image : images.attachedTo(key)) {
         const auto first = static_cast<std::size_t>(image.firstEntry);
         for (std::size_t value = 0; value < image.texels.size() && first + value < usage.size(); ++value)
             usage[first + value] += image.texels[value];

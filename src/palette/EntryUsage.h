@@ -11,7 +11,7 @@
 namespace dyeworks {
 
 /// The images that are attached to palettes, as far as they use their entries.
-class AttachedImages {
+class CountedImages {
 public:
     /// How an image uses its palette.
     struct Image {
@@ -20,7 +20,7 @@ public:
         std::span<const std::uint64_t> texels;
     };
 
-    virtual ~AttachedImages() = default;
+    virtual ~CountedImages() = default;
 
     /// The open images that are attached to the palette of this key.
     [[nodiscard]] virtual std::vector<Image> attachedTo(const std::string& key) = 0;
@@ -28,7 +28,7 @@ public:
 
 /// How many texels of all attached images show each of the `entries` entries of a palette. Texels of values
 /// beyond the palette show none.
-[[nodiscard]] std::vector<std::uint64_t> entryUsage(AttachedImages& images, const std::string& key,
+[[nodiscard]] std::vector<std::uint64_t> entryUsage(CountedImages& images, const std::string& key,
                                                     std::int32_t entries);
 
 /// What is worth knowing of an entry beside its colour.

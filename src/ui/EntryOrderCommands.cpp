@@ -18,21 +18,6 @@
 
 namespace dyeworks {
 
-namespace {
-
-/// The range that is selected in the palette bar; the current entry where only one corner is known.
-template <typename Cells>
-std::optional<EntryRange> selectedRange(const Cells& cells) {
-    if constexpr (requires { cells.selectedRange(); }) {
-        return cells.selectedRange();
-    } else {
-        const auto current = cells.canCopy() ? cells.currentEntry() : std::nullopt;
-        return current ? std::optional(EntryRange{*current, *current}) : std::nullopt;
-    }
-}
-
-} // namespace
-
 EntryOrderCommands::EntryOrderCommands(Workspace& workspace)
     : workspace_(workspace) {
     onRange(ID_PALETTE_MOVE, ID_PALETTE_COMPACT, &EntryOrderCommands::OnOrder,
@@ -56,7 +41,7 @@ EntryOrder EntryOrderCommands::proposal(EntryOperation operation) const {
     EntryOrder order;
     order.operation = operation;
     order.range = {0, table.count - 1};
-    const std::optional<EntryRange> selected = selectedRange(cells);
+    const std::optional<EntryRange> selected = cells.selectedRange();
     if (selected && (goesSomewhere || selected->first < selected->last)) {
         order.range = *selected;
     } else if (goesSomewhere) {

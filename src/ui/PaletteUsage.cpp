@@ -54,7 +54,7 @@ std::vector<CDyeworksDoc*> PaletteUsage::imagesOf(const std::string& key) const 
     return images;
 }
 
-std::vector<AttachedImages::Image> PaletteUsage::attachedTo(const std::string& key) {
+std::vector<CountedImages::Image> PaletteUsage::attachedTo(const std::string& key) {
     std::vector<Image> attached;
     for (CDyeworksDoc* image : imagesOf(key))
         attached.push_back({image->firstEntryFor(*image->GetAttachedPalette()), image->texelCounts()});

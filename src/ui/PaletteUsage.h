@@ -18,7 +18,7 @@ class Workspace;
 
 /// How the open images use the entries of their palettes: counted for whoever asks, marked on the cells of
 /// the palette bar while that is wished, and flashed in the views.
-class PaletteUsage : public CommandTarget, private AttachedImages {
+class PaletteUsage : public CommandTarget, private CountedImages {
 public:
     /// `workspace` must outlive it.
     explicit PaletteUsage(Workspace& workspace);

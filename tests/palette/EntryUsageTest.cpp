@@ -10,7 +10,7 @@ namespace {
 
 using testing::ElementsAre;
 
-class TwoImages : public AttachedImages {
+class TwoImages : public CountedImages {
 public:
     std::vector<Image> attachedTo(const std::string& key) override {
         EXPECT_EQ(key, "*p");
