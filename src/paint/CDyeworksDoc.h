@@ -270,8 +270,8 @@ private:
     std::array<Preview, kPreviews> previews_{};
     std::uint64_t newestShown_ = 0; ///< Counts the states of the image that were to be shown.
     std::uint64_t texelState_ = 0;
-    bool historyMoved_ = false;     ///< Since the flag and the title last followed it.
-    bool unrecorded_ = false;       ///< An edit that no step tells of has been made since the last save.
+    bool historyMoved_ = false; ///< Since the flag and the title last followed it.
+    bool unrecorded_ = false;   ///< An edit that no step tells of has been made since the last save.
     /// Steps have brought another canvas, which has not been shown yet; by how much the picture has moved.
     std::optional<Point> replaced_;
     DisplayPalette displayPalette_;

@@ -390,7 +390,9 @@ TEST_F(PaletteBarWindow, WithoutAPaletteOnlyTheTabsAreLeft) {
         QTest::keyClick(&bar(), Qt::Key_F10, Qt::ShiftModifier);
         std::vector<std::string> items;
         if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
-            EXPECT_EQ(menu->pos(), bar().mapToGlobal(QPoint(5, 5)));
+            const QPoint asked = bar().mapToGlobal(QPoint(5, 5));
+            EXPECT_EQ(menu->x(), asked.x());
+            EXPECT_LE(menu->y(), asked.y()) << "where the screen ends before it, it moves up";
             for (const QAction* action : menu->actions()) {
                 if (!action->isSeparator())
                     items.push_back(action->text().toStdString());
@@ -420,7 +422,8 @@ TEST_F(PaletteBarWindow, WithoutAPaletteOnlyTheTabsAreLeft) {
               std::to_string(find<CSwatchGrid>(IDC_PALETTE_GRID).cellAt(at.x(), at.y())));
     EXPECT_THAT(menus(),
                 ElementsAre("&New", "&Open...", "&Close", "&Save", "Save &As...", "&Edit...", "A&ttach",
-                            "&Undo", "&Redo", "C&opy", "&Paste", "Usa&ge", "Show Texe&ls"));
+                            "&Undo", "&Redo", "C&opy", "&Paste", "Ra&mp", "Ad&just...", "&Invert", "Re&verse",
+                            "&Fill", "Arrange En&tries", "Usa&ge", "Show Texe&ls"));
     EXPECT_EQ(find<QLabel>(IDC_RED_LABEL).text(), QStringLiteral("&I"));
     for (const PaletteBarId& id :
          {IDC_GREEN, IDC_BLUE_SLIDER, IDC_BLUE_HEX, IDC_GRADIENT, IDC_GRADIENT_LEFT, IDC_RED_TRACK})
