@@ -37,6 +37,8 @@ public:
     /// `host` must outlive the document.
     explicit CDyeworksDoc(ImageHost& host, DocumentTemplate* documentTemplate = nullptr);
     ~CDyeworksDoc() override;
+    CDyeworksDoc(const CDyeworksDoc&) = delete;
+    CDyeworksDoc& operator=(const CDyeworksDoc&) = delete;
 
     [[nodiscard]] ImageHost& host() const noexcept { return host_; }
     [[nodiscard]] TextureCanvas& canvas() noexcept { return canvas_; }

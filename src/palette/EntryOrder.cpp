@@ -73,7 +73,8 @@ void placeSorted(EntryMap& map, const Entries& places, const EntryOrder& order, 
 
 void placeUsedFirst(EntryMap& map, const Entries& places, const EntryCounts& use) {
     Entries entries = places;
-    std::ranges::stable_partition(entries, [&](std::int32_t entry) { return useOf(use, entry) > 0; });
+    std::stable_partition(entries.begin(), entries.end(),
+                          [&](std::int32_t entry) { return useOf(use, entry) > 0; });
     for (std::size_t i = 0; i < places.size(); ++i)
         map.set(entries[i], places[i]);
 }
