@@ -23,6 +23,11 @@ constexpr seconds kAtLatest{15};
 /// Of an image in one look: about a millisecond of copying.
 constexpr std::size_t kMostBytes = std::size_t{4} << 20U;
 
+/// Without a file the title would bring its marks into the name that the document gets again.
+std::string nameOf(const CDocument& document) {
+    return document.pathName().empty() ? document.displayName() : document.title();
+}
+
 const char* fileStem(RecoveryItem::Kind kind) {
     switch (kind) {
     case RecoveryItem::Kind::Palette:
@@ -64,7 +69,7 @@ std::vector<RecoveryKeeper::Subject> RecoveryKeeper::subjects() const {
         subject.stamp.changes = document->changes();
         subject.stamp.item = {image != nullptr ? RecoveryItem::Kind::Image : RecoveryItem::Kind::Project,
                               document->pathName(),
-                              document->title(),
+                              nameOf(*document),
                               0,
                               {},
                               0};

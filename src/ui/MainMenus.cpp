@@ -1,5 +1,7 @@
 #include "ui/MainMenus.h"
 
+#include "ui/palettebar/PaletteBarMenu.h"
+
 #include <QtGlobal>
 
 #include <array>
@@ -213,11 +215,6 @@ constexpr std::array kEntriesMenu{
     MenuItem{ID_RANGE_FILL},
 };
 
-constexpr std::array kOrderMenu{
-    MenuItem{ID_PALETTE_MOVE},        MenuItem{ID_PALETTE_SWAP},    MenuItem{ID_PALETTE_SORT},
-    MenuItem{ID_PALETTE_MERGE_TWINS}, MenuItem{ID_PALETTE_COMPACT},
-};
-
 constexpr std::array kPaletteMenu{
     MenuItem{ID_PALETTE_NEW},
     MenuItem{ID_PALETTE_OPEN},
@@ -231,7 +228,7 @@ constexpr std::array kPaletteMenu{
     MenuItem{ID_PALETTE_IMPORT},
     MenuItem{ID_PALETTE_EXPORT},
     kSeparator,
-    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Arrange En&tries"), kOrderMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Arrange En&tries"), kArrangeMenu},
     MenuItem{ID_VIEW_USAGE},
     MenuItem{ID_PALETTE_SHOW_TEXELS},
 };

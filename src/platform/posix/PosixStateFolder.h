@@ -7,7 +7,7 @@
 
 namespace dyeworks {
 
-/// A folder in the user's state folder (XDG Base Directory Specification), locked as long as the program
+/// A folder in the user's state folder ($XDG_STATE_HOME), locked as long as the program
 /// runs.
 class PosixStateFolder : public StateFolder {
 public:

@@ -10,11 +10,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::array kOrderMenu{
-    MenuItem{ID_PALETTE_MOVE},        MenuItem{ID_PALETTE_SWAP},    MenuItem{ID_PALETTE_SORT},
-    MenuItem{ID_PALETTE_MERGE_TWINS}, MenuItem{ID_PALETTE_COMPACT},
-};
-
 constexpr std::array kPaletteBarMenu{
     MenuItem{ID_PALETTE_NEW},
     MenuItem{ID_PALETTE_OPEN},
@@ -37,7 +32,7 @@ constexpr std::array kPaletteBarMenu{
     MenuItem{ID_RANGE_INVERT},
     MenuItem{ID_RANGE_REVERSE},
     MenuItem{ID_RANGE_FILL},
-    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Arrange En&tries"), kOrderMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Arrange En&tries"), kArrangeMenu},
     kSeparator,
     MenuItem{ID_VIEW_USAGE},
     MenuItem{ID_PALETTE_SHOW_TEXELS},
