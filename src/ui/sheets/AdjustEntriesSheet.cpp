@@ -97,6 +97,9 @@ AdjustEntriesSheet::Amount AdjustEntriesSheet::addAmount(const char* name, QWidg
     amount.slider->setTickPosition(QSlider::TicksBelow);
     amount.slider->setTickInterval(limit);
     amount.slider->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
+    // All as wide as that of the highest number, so that the sliders end below each other.
+    constexpr IntegerField::Range kWidest{-255, 255};
+    amount.field->setMinimumWidth(IntegerField(kWidest, kWidest, 0).sizeHint().width());
     for (QWidget* each : {static_cast<QWidget*>(amount.slider), static_cast<QWidget*>(amount.field)}) {
         each->setToolTip(shown(tip));
         each->setAccessibleDescription(shown(tip));
