@@ -1,6 +1,7 @@
 #include "core/EditHistory.h"
 
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 
 #include <utility>
 

@@ -1,6 +1,7 @@
 #include "core/JointStep.h"
 
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 
 #include <algorithm>
 #include <new>

@@ -5,6 +5,7 @@
 #include "core/Report.h"
 #include "platform/AskForFile.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 
 #include <new>
 #include <utility>

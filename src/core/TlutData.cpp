@@ -4,6 +4,7 @@
 #include "core/Report.h"
 #include "core/TlfFormat.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 
 #include <algorithm>
 #include <array>

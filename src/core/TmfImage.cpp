@@ -4,6 +4,7 @@
 #include "core/Report.h"
 #include "core/TmfFormat.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 
 #include <cstdio>
 #include <optional>

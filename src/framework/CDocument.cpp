@@ -3,6 +3,7 @@
 #include "framework/DocumentTemplate.h"
 #include "framework/PathText.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 
 #include <algorithm>
 

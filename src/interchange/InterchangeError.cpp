@@ -1,5 +1,7 @@
 #include "interchange/InterchangeError.h"
 
+#include "platform/StringId.h"
+
 namespace dyeworks {
 
 namespace {

@@ -4,6 +4,7 @@
 #include "paint/PixelAccess.h"
 #include "paint/TextureCanvas.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 
 #include <new>
 

@@ -5,6 +5,7 @@
 #include "paint/CanvasFile.h"
 #include "platform/AskForFile.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 
 namespace dyeworks {
 

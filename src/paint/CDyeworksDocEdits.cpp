@@ -4,6 +4,7 @@
 #include "paint/OpenProject.h"
 #include "paint/WholeImageRecord.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 
 #include <new>
 #include <utility>

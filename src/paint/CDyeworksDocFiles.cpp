@@ -5,6 +5,7 @@
 #include "paint/OpenProject.h"
 #include "platform/AskForFile.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 
 #include <algorithm>
 #include <vector>

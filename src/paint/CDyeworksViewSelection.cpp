@@ -3,6 +3,7 @@
 #include "paint/DrawTool.h"
 #include "paint/ViewWindow.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 
 #include <algorithm>
 #include <array>

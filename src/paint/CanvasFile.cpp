@@ -3,6 +3,7 @@
 #include "core/TmfFormat.h"
 #include "paint/TextureCanvas.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "platform/TextCase.h"
 
 #include <variant>

@@ -7,6 +7,7 @@
 #include "paint/SurfaceDrawing.h"
 #include "paint/ViewWindow.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,6 +1,7 @@
 #include "paint/PixelRuns.h"
 #include "paint/TextureCanvas.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 
 #include <algorithm>
 #include <new>

@@ -4,6 +4,7 @@
 #include "palette/ChannelRow.h"
 #include "palette/NumberText.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,7 @@
 #include "palette/EntryUsage.h"
 
 #include "palette/EntryFormat.h"
+#include "platform/StringId.h"
 #include "platform/Text.h"
 
 #include <algorithm>

@@ -2,6 +2,7 @@
 
 #include "core/PaletteSet.h"
 #include "platform/Files.h"
+#include "platform/StringId.h"
 #include "platform/Text.h"
 
 #include <algorithm>

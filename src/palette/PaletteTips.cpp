@@ -1,5 +1,6 @@
 #include "palette/PaletteTips.h"
 
+#include "platform/StringId.h"
 #include "platform/Text.h"
 #include "platform/TextCase.h"
 

@@ -1,6 +1,7 @@
 #include "platform/Files.h"
 
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 
 namespace dyeworks {
 

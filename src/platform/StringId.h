@@ -1,11 +1,9 @@
 #pragma once
 
-#include <initializer_list>
-
 namespace dyeworks {
 
 /// Texts of the program that are not part of a menu or a form. Their English wording stands in TextTable.cpp.
-enum class StringId {
+enum class StringId : int {
     ApplicationTitle,
 
     FileErrorNotFound,

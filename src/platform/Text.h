@@ -1,10 +1,13 @@
 #pragma once
 
-#include "platform/StringId.h"
-
+#include <initializer_list>
 #include <string>
 
 namespace dyeworks {
+
+/// A text of the string table. The names stand in platform/StringId.h, which only sources that use one
+/// include: a new text then does not build the rest anew.
+enum class StringId : int;
 
 /// Finds the user's language for an English source text.
 class Texts {

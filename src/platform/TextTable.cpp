@@ -1,3 +1,4 @@
+#include "platform/StringId.h"
 #include "platform/Text.h"
 
 #include <cassert>

@@ -3,6 +3,7 @@
 #include "core/PaletteSet.h"
 #include "paint/TextureCanvas.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "platform/WaitCursor.h"
 #include "plugin/PlugInCall.h"
 #include "plugin/PlugInRecords.h"

@@ -1,6 +1,7 @@
 #include "plugin/ProjectPlugInCalls.h"
 
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "platform/WaitCursor.h"
 #include "plugin/PlugInCall.h"
 

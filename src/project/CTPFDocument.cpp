@@ -4,6 +4,7 @@
 #include "framework/PathText.h"
 #include "platform/AskForFile.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "platform/TextCase.h"
 #include "project/PathHelpers.h"
 

@@ -2,6 +2,7 @@
 #include "paint/CDyeworksDoc.h"
 #include "platform/Platform.h"
 #include "platform/ProgramPath.h"
+#include "platform/StringId.h"
 #include "platform/TextCase.h"
 #include "project/CTPFDocument.h"
 #include "project/PathHelpers.h"

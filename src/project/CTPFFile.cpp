@@ -1,6 +1,7 @@
 #include "project/CTPFFile.h"
 
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "project/PathHelpers.h"
 
 #include <algorithm>

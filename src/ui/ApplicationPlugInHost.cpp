@@ -2,6 +2,7 @@
 
 #include "framework/CommandRouter.h"
 #include "paint/CDyeworksDoc.h"
+#include "platform/StringId.h"
 #include "platform/Text.h"
 #include "project/CTPFDocument.h"
 #include "ui/CMainFrame.h"

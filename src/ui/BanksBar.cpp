@@ -2,6 +2,7 @@
 
 #include "core/PaletteSet.h"
 #include "paint/CDyeworksDoc.h"
+#include "platform/StringId.h"
 #include "ui/ThumbnailSheet.h"
 #include "ui/sheets/SheetControls.h"
 

@@ -1,5 +1,6 @@
 #include "ui/BrushBar.h"
 
+#include "platform/StringId.h"
 #include "platform/Text.h"
 
 #include <QLabel>

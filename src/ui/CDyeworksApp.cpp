@@ -4,6 +4,7 @@
 #include "framework/widgets/ChildFrame.h"
 #include "paint/widgets/ImageView.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "platform/TextCase.h"
 #include "project/CTPFDocument.h"
 #include "ui/CMainFrame.h"

@@ -1,5 +1,6 @@
 #include "platform/AskForFile.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "platform/qt/QtWaitCursor.h"
 #include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"

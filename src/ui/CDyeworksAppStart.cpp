@@ -2,6 +2,7 @@
 #include "paint/DrawingOptions.h"
 #include "paint/widgets/ImageView.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "plugin/HostFunctions.h"
 #include "project/CTPFDocument.h"
 #include "ui/CDyeworksApp.h"

@@ -11,6 +11,7 @@
 #include "paint/widgets/CChildFrame.h"
 #include "paint/widgets/ImageView.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "project/CTPFDocument.h"
 #include "project/widgets/CTPFChildFrame.h"
 #include "project/widgets/ProjectTreeWidget.h"

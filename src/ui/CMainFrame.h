@@ -3,7 +3,7 @@
 #include "framework/Menu.h"
 #include "framework/widgets/CommandActions.h"
 #include "framework/widgets/MdiFrame.h"
-#include "platform/StringId.h"
+#include "platform/Text.h"
 #include "ui/BanksBar.h"
 #include "ui/PrintCommands.h"
 

@@ -2,6 +2,7 @@
 
 #include "framework/CommandIds.h"
 #include "framework/widgets/CommandActions.h"
+#include "platform/StringId.h"
 #include "platform/Text.h"
 #include "project/CTPFDocument.h"
 #include "ui/CurrentProject.h"

@@ -6,6 +6,7 @@
 #include "paint/BmpFormat.h"
 #include "paint/CDyeworksDoc.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "project/CTPFDocument.h"
 #include "recovery/PackedPalette.h"
 #include "ui/CMainFrame.h"

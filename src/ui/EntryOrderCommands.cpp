@@ -4,6 +4,7 @@
 #include "paint/CDyeworksDoc.h"
 #include "palette/EntryOrderPlan.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "project/CTPFDocument.h"
 #include "ui/CMainFrame.h"
 #include "ui/CurrentProject.h"

@@ -1,5 +1,6 @@
 #include "ui/FindingsDock.h"
 
+#include "platform/StringId.h"
 #include "platform/Text.h"
 
 #include <QHeaderView>

@@ -3,6 +3,7 @@
 #include "core/PaletteSet.h"
 #include "paint/CDyeworksDoc.h"
 #include "palette/PaletteCells.h"
+#include "platform/StringId.h"
 #include "platform/Text.h"
 
 #include <algorithm>

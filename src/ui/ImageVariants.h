@@ -2,7 +2,7 @@
 
 #include "core/TextureLookupTable.h"
 #include "paint/IndexThumbnail.h"
-#include "platform/StringId.h"
+#include "platform/Text.h"
 
 #include <cstdint>
 #include <memory>

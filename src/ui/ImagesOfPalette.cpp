@@ -6,6 +6,7 @@
 #include "paint/CDyeworksDoc.h"
 #include "paint/RenumberRecord.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "platform/TextCase.h"
 #include "project/CTPFDocument.h"
 

@@ -6,6 +6,7 @@
 #include "interchange/Texture.h"
 #include "platform/AskForFile.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "ui/CMainFrame.h"
 #include "ui/UnsavedPalette.h"
 #include "ui/Workspace.h"

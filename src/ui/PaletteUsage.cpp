@@ -5,6 +5,7 @@
 #include "paint/CDyeworksDoc.h"
 #include "paint/CDyeworksView.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "ui/CMainFrame.h"
 #include "ui/Workspace.h"
 #include "ui/palettebar/CPaletteBar.h"

@@ -6,6 +6,7 @@
 #include "paint/CDyeworksDoc.h"
 #include "paint/widgets/ImageView.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "ui/CMainFrame.h"
 #include "ui/ClipboardPicture.h"
 #include "ui/PictureImport.h"

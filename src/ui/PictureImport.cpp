@@ -8,6 +8,7 @@
 #include "interchange/ReductionState.h"
 #include "paint/CDyeworksDoc.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "platform/TextCase.h"
 #include "ui/CMainFrame.h"
 #include "ui/UnsavedPalette.h"

@@ -3,6 +3,7 @@
 #include "paint/CDyeworksDoc.h"
 #include "paint/widgets/ImageView.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "platform/posix/HostFile.h"
 #include "ui/ImagePrinter.h"
 

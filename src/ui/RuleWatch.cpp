@@ -5,6 +5,7 @@
 #include "framework/PathText.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/widgets/ImageView.h"
+#include "platform/StringId.h"
 #include "project/CTPFDocument.h"
 #include "ui/CMainFrame.h"
 #include "ui/CurrentProject.h"

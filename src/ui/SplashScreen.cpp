@@ -1,5 +1,6 @@
 #include "ui/SplashScreen.h"
 
+#include "platform/StringId.h"
 #include "platform/Text.h"
 #include "platform/Version.h"
 

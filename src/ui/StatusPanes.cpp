@@ -1,5 +1,6 @@
 #include "ui/StatusPanes.h"
 
+#include "platform/StringId.h"
 #include "platform/Text.h"
 
 #include <QEvent>

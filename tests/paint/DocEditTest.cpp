@@ -1,4 +1,5 @@
 #include "DocTestHost.h"
+#include "platform/StringId.h"
 
 namespace dyeworks {
 namespace {

@@ -2,6 +2,7 @@
 #include "ViewTestWindow.h"
 #include "paint/CanvasDepth.h"
 #include "paint/CanvasTransform.h"
+#include "platform/StringId.h"
 
 #include <cstdlib>
 #include <numeric>

@@ -1,5 +1,6 @@
 #include "ViewTestWindow.h"
 #include "paint/CanvasDepth.h"
+#include "platform/StringId.h"
 
 namespace dyeworks {
 namespace {

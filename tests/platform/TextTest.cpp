@@ -1,3 +1,4 @@
+#include "platform/StringId.h"
 #include "platform/TextCase.h"
 #include "platform/fake/FakePlatform.h"
 

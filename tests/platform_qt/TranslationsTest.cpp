@@ -1,5 +1,6 @@
 #include "Desktop.h"
 #include "framework/CommandTable.h"
+#include "platform/StringId.h"
 #include "platform/qt/Language.h"
 
 #include <QProcess>

@@ -1,6 +1,7 @@
 #include "framework/widgets/IntegerField.h"
 
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 
 #include <QLineEdit>
 #include <QStyleOptionSpinBox>

@@ -4,6 +4,7 @@
 #include "paint/CDyeworksDoc.h"
 #include "paint/widgets/CChildFrame.h"
 #include "paint/widgets/LensCursor.h"
+#include "platform/StringId.h"
 #include "platform/Text.h"
 
 #include <QApplication>

@@ -2,6 +2,7 @@
 
 #include "platform/Files.h"
 #include "platform/Messages.h"
+#include "platform/StringId.h"
 #include "platform/Text.h"
 #include "platform/qt/FileFilters.h"
 #include "platform/qt/QtWaitCursor.h"

@@ -1,5 +1,6 @@
 #include "platform/qt/QtMessages.h"
 
+#include "platform/StringId.h"
 #include "platform/Text.h"
 #include "platform/qt/QtWaitCursor.h"
 

@@ -3,6 +3,7 @@
 #include "framework/widgets/ChildFrame.h"
 #include "framework/widgets/MenuBuilder.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "project/CTPFDocument.h"
 #include "project/PathHelpers.h"
 #include "project/PictureImage.h"

@@ -2,6 +2,7 @@
 
 #include "framework/widgets/CommandActions.h"
 #include "framework/widgets/MenuBuilder.h"
+#include "platform/StringId.h"
 #include "ui/palettebar/PaletteBarMenu.h"
 #include "ui/sheets/SheetControls.h"
 

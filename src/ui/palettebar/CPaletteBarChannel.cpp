@@ -2,6 +2,7 @@
 
 #include "framework/widgets/IntegerField.h"
 #include "palette/ChannelRow.h"
+#include "platform/StringId.h"
 #include "platform/Text.h"
 #include "ui/controls/CRampSlider.h"
 #include "ui/palettebar/PaletteBarWidgets.h"

@@ -1,5 +1,6 @@
 #include "framework/widgets/CommandActions.h"
 #include "framework/widgets/IntegerField.h"
+#include "platform/StringId.h"
 #include "ui/controls/CSwatchGrid.h"
 #include "ui/palettebar/CPaletteBarChannel.h"
 #include "ui/palettebar/CPaletteBarControls.h"

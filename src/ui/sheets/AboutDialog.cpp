@@ -1,6 +1,7 @@
 #include "ui/sheets/AboutDialog.h"
 
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "platform/qt/DesktopEntries.h"
 #include "plugin/PlugInCatalogue.h"
 #include "ui/sheets/SheetControls.h"

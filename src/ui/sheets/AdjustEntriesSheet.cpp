@@ -2,6 +2,7 @@
 
 #include "framework/widgets/IntegerField.h"
 #include "palette/RangeAdjustment.h"
+#include "platform/StringId.h"
 #include "ui/sheets/SheetControls.h"
 
 #include <QComboBox>

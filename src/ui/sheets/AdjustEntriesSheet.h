@@ -1,7 +1,7 @@
 #pragma once
 
 #include "palette/EntryAdjustment.h"
-#include "platform/StringId.h"
+#include "platform/Text.h"
 
 #include <QDialog>
 

@@ -1,6 +1,7 @@
 #include "ui/sheets/CFileNewProjectPage.h"
 
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "ui/controls/CFolderPick.h"
 #include "ui/sheets/PathEdit.h"
 #include "ui/sheets/SheetControls.h"

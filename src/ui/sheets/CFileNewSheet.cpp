@@ -1,5 +1,6 @@
 #include "ui/sheets/CFileNewSheet.h"
 
+#include "platform/StringId.h"
 #include "platform/Text.h"
 #include "ui/sheets/CFileNewPalettePage.h"
 #include "ui/sheets/CFileNewProjectPage.h"

@@ -2,6 +2,7 @@
 
 #include "core/TmfImage.h"
 #include "framework/widgets/IntegerField.h"
+#include "platform/StringId.h"
 #include "ui/sheets/SheetControls.h"
 
 #include <QFormLayout>

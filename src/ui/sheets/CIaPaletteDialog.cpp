@@ -1,5 +1,7 @@
 #include "ui/sheets/CIaPaletteDialog.h"
 
+#include "platform/StringId.h"
+
 namespace dyeworks {
 
 CIaPaletteDialog::CIaPaletteDialog(QWidget* parent)

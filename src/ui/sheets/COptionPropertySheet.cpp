@@ -1,5 +1,6 @@
 #include "ui/sheets/COptionPropertySheet.h"
 
+#include "platform/StringId.h"
 #include "ui/sheets/AskUseProject.h"
 #include "ui/sheets/CGeneralPropertyPage.h"
 #include "ui/sheets/CRulesPage.h"

@@ -4,6 +4,7 @@
 #include "core/TmfFormat.h"
 #include "framework/widgets/IntegerField.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "project/PictureImage.h"
 #include "project/widgets/PictureThumbnail.h"
 #include "ui/sheets/CFileNewPalettePage.h"

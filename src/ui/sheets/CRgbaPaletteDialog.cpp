@@ -1,6 +1,7 @@
 #include "ui/sheets/CRgbaPaletteDialog.h"
 
 #include "palette/Gradient.h"
+#include "platform/StringId.h"
 #include "platform/Text.h"
 #include "ui/sheets/ColourControls.h"
 

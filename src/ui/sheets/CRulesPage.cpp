@@ -1,6 +1,7 @@
 #include "ui/sheets/CRulesPage.h"
 
 #include "framework/widgets/IntegerField.h"
+#include "platform/StringId.h"
 #include "ui/sheets/SheetControls.h"
 
 #include <QCheckBox>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/widgets/PropertySheet.h"
-#include "platform/StringId.h"
+#include "platform/Text.h"
 #include "project/TextureRules.h"
 
 #include <initializer_list>

@@ -1,5 +1,6 @@
 #include "ui/sheets/CUseProjectDlg.h"
 
+#include "platform/StringId.h"
 #include "platform/qt/DesktopEntries.h"
 #include "ui/sheets/SheetControls.h"
 

@@ -1,5 +1,6 @@
 #include "ui/sheets/EntryDialog.h"
 
+#include "platform/StringId.h"
 #include "platform/Text.h"
 #include "ui/sheets/ColourControls.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "palette/EntryDialogState.h"
-#include "platform/StringId.h"
+#include "platform/Text.h"
 
 #include <QColor>
 #include <QDialog>

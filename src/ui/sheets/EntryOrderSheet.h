@@ -2,7 +2,7 @@
 
 #include "core/TlutData.h"
 #include "palette/EntryOrderPlan.h"
-#include "platform/StringId.h"
+#include "platform/Text.h"
 
 #include <QDialog>
 

@@ -1,6 +1,7 @@
 #include "ui/sheets/ExportPaletteDialog.h"
 
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "ui/sheets/PaletteFormats.h"
 #include "ui/sheets/SheetControls.h"
 

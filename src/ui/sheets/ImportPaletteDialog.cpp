@@ -1,5 +1,6 @@
 #include "ui/sheets/ImportPaletteDialog.h"
 
+#include "platform/StringId.h"
 #include "ui/sheets/SheetControls.h"
 
 #include <QDialogButtonBox>

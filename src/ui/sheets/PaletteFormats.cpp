@@ -1,5 +1,6 @@
 #include "ui/sheets/PaletteFormats.h"
 
+#include "platform/StringId.h"
 #include "platform/Text.h"
 
 namespace dyeworks {

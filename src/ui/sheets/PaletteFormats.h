@@ -1,7 +1,7 @@
 #pragma once
 
 #include "interchange/PaletteFile.h"
-#include "platform/StringId.h"
+#include "platform/Text.h"
 
 #include <array>
 #include <string>

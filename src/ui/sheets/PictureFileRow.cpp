@@ -3,6 +3,7 @@
 #include "platform/AskForFile.h"
 #include "platform/Platform.h"
 #include "platform/ProgramPath.h"
+#include "platform/StringId.h"
 #include "platform/TextCase.h"
 #include "project/CKeyValueStore.h"
 #include "project/PathHelpers.h"

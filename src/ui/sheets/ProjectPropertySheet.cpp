@@ -1,5 +1,6 @@
 #include "ui/sheets/ProjectPropertySheet.h"
 
+#include "platform/StringId.h"
 #include "ui/sheets/SheetControls.h"
 
 #include <utility>

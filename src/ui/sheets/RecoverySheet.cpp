@@ -1,5 +1,6 @@
 #include "ui/sheets/RecoverySheet.h"
 
+#include "platform/StringId.h"
 #include "ui/sheets/SheetControls.h"
 
 #include <QDialogButtonBox>

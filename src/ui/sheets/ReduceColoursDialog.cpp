@@ -2,6 +2,7 @@
 
 #include "interchange/EntryColour.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "ui/sheets/PicturePreview.h"
 #include "ui/sheets/SheetControls.h"
 

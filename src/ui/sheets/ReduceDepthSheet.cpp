@@ -1,6 +1,7 @@
 #include "ui/sheets/ReduceDepthSheet.h"
 
 #include "paint/TextureCanvas.h"
+#include "platform/StringId.h"
 #include "ui/sheets/SheetControls.h"
 
 #include <QComboBox>

@@ -2,6 +2,7 @@
 
 #include "framework/widgets/IntegerField.h"
 #include "paint/TextureCanvas.h"
+#include "platform/StringId.h"
 #include "ui/sheets/SheetControls.h"
 
 #include <QCheckBox>

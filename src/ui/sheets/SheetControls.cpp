@@ -1,5 +1,6 @@
 #include "ui/sheets/SheetControls.h"
 
+#include "platform/StringId.h"
 #include "platform/Text.h"
 
 #include <QFontMetrics>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/StringId.h"
+#include "platform/Text.h"
 
 #include <QString>
 #include <QWidget>
