@@ -9,6 +9,7 @@
 #include "ui/CMainFrame.h"
 #include "ui/CurrentProject.h"
 #include "ui/ImagesOfPalette.h"
+#include "ui/OpenImages.h"
 #include "ui/Workspace.h"
 #include "ui/palettebar/CPaletteBar.h"
 #include "ui/sheets/EntryOrderSheet.h"
@@ -23,15 +24,6 @@ EntryOrderCommands::EntryOrderCommands(Workspace& workspace)
     : workspace_(workspace) {
     onRange(ID_PALETTE_MOVE, ID_PALETTE_COMPACT, &EntryOrderCommands::OnOrder,
             &EntryOrderCommands::OnUpdateOrder);
-}
-
-std::vector<CDyeworksDoc*> EntryOrderCommands::images() const {
-    std::vector<CDyeworksDoc*> all;
-    for (CDocument* document : workspace_.documents()) {
-        if (auto* const image = dynamic_cast<CDyeworksDoc*>(document))
-            all.push_back(image);
-    }
-    return all;
 }
 
 /// One entry alone can be moved or swapped; anything else is done to the whole palette then.
@@ -66,10 +58,11 @@ void EntryOrderCommands::OnOrder(CommandId id) {
     PaletteSet& set = *workspace_.paletteSet();
     const std::string key = set.currentKey;
     const auto find = [&] {
-        return ImagesOfPalette(*set.lookup(key), images(), workspace_.currentProject().document());
+        return ImagesOfPalette(*set.lookup(key), openImages(workspace_),
+                               workspace_.currentProject().document());
     };
     // What floats belongs to the images that the sheet tells of.
-    for (CDyeworksDoc* image : images()) {
+    for (CDyeworksDoc* image : openImages(workspace_)) {
         if (image->GetAttachedPalette() == set.lookup(key) && !image->settlePieces())
             return;
     }

@@ -8,7 +8,6 @@
 
 namespace dyeworks {
 
-class CDyeworksDoc;
 class Workspace;
 
 /// The commands that give entries of the current palette other places, with all images that show it.
@@ -21,7 +20,6 @@ private:
     void OnOrder(CommandId id);
     void OnUpdateOrder(CommandUi& ui);
     [[nodiscard]] EntryOrder proposal(EntryOperation operation) const;
-    [[nodiscard]] std::vector<CDyeworksDoc*> images() const;
     void openPictures(const std::vector<std::string>& names) const;
 
     Workspace& workspace_;
