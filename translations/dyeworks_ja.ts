@@ -1305,6 +1305,10 @@ Toggle Rule Findings</source>
         <source>Arrange En&amp;tries</source>
         <translation>整理(&amp;T)</translation>
     </message>
+    <message>
+        <source>C&amp;hange Entries</source>
+        <translation>エントリの変更(&amp;H)</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
