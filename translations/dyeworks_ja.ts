@@ -1213,6 +1213,171 @@ Toggle Rule Findings</source>
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Work with console textures in scripts: images (.tmf), palettes (.tlf) and projects (.tpf).</source>
+        <translation>コンソール用テクスチャ（画像 .tmf、パレット .tlf、プロジェクト .tpf）をスクリプトから扱います。</translation>
+    </message>
+    <message>
+        <source>&quot;dyeworks-cli COMMAND --help&quot; tells the options of a command. &quot;-&quot; is the standard input or output.
+Exit code: 0 done, 1 something found, 2 wrong arguments, 3 trouble with files.</source>
+        <translation>各コマンドのオプションは「dyeworks-cli コマンド --help」で表示します。「-」は標準入力または標準出力です。
+終了コード: 0 完了、1 問題を発見、2 引数の誤り、3 ファイルの問題。</translation>
+    </message>
+    <message>
+        <source>Change palettes, and the images that show them along.</source>
+        <translation>パレットを、それを使う画像とともに変更します。</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>使い方</translation>
+    </message>
+    <message>
+        <source>OPTIONS</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>COMMAND</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>引数</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>REQUIRED</source>
+        <translation>必須</translation>
+    </message>
+    <message>
+        <source>Print this help and exit</source>
+        <translation>このヘルプを表示して終了</translation>
+    </message>
+    <message>
+        <source>Print the version and exit</source>
+        <translation>バージョンを表示して終了</translation>
+    </message>
+    <message>
+        <source>Tell nothing but results and failures</source>
+        <translation>結果と失敗以外は表示しない</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; makes no sense here</source>
+        <translation>%1: 「%2」は使えない値です</translation>
+    </message>
+    <message>
+        <source>%1: %2 is not from %3 to %4</source>
+        <translation>%1: %2 は %3 から %4 までの数ではありません</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is none of %3</source>
+        <translation>%1: 「%2」は %3 のどれでもありません</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>%1 がありません</translation>
+    </message>
+    <message>
+        <source>a command is missing</source>
+        <translation>コマンドがありません</translation>
+    </message>
+    <message>
+        <source>there is no command &quot;%1&quot;</source>
+        <translation>「%1」というコマンドはありません</translation>
+    </message>
+    <message>
+        <source>%1 has no value that fits</source>
+        <translation>%1 に合う値がありません</translation>
+    </message>
+    <message>
+        <source>Try &quot;%1 --help&quot;.</source>
+        <translation>「%1 --help」をご覧ください。</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>標準出力</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this.</source>
+        <translation>メモリが足りません。</translation>
+    </message>
+    <message>
+        <source>The file is cut off.</source>
+        <translation>ファイルが途中で切れています。</translation>
+    </message>
+    <message>
+        <source>The file is no image of 4 or 8 bits.</source>
+        <translation>4 ビットまたは 8 ビットの画像ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The file is no palette of 16 or 256 entries.</source>
+        <translation>16 または 256 エントリのパレットファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The image is larger than can be.</source>
+        <translation>画像が大きすぎます。</translation>
+    </message>
+    <message>
+        <source>The file is of no kind that is known.</source>
+        <translation>知られていない種類のファイルです。</translation>
+    </message>
+    <message>
+        <source>Tell what files hold.</source>
+        <translation>ファイルの内容を表示します。</translation>
+    </message>
+    <message>
+        <source>Images, palettes, projects, pictures (PNG, BMP) and palette files of other programs</source>
+        <translation>画像、パレット、プロジェクト、画像ファイル（PNG、BMP）、他のプログラムのパレットファイル</translation>
+    </message>
+    <message>
+        <source>Tell it as JSON</source>
+        <translation>JSON で出力</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>%1 x %2</source>
+        <translation>%1 x %2</translation>
+    </message>
+    <message>
+        <source>%1 bits</source>
+        <translation>%1 ビット</translation>
+    </message>
+    <message>
+        <source>%1 colours used</source>
+        <translation>使用色 %1</translation>
+    </message>
+    <message>
+        <source>%1 entries (%2 different)</source>
+        <translation>%1 エントリ（異なるもの %2）</translation>
+    </message>
+    <message>
+        <source>bank %1</source>
+        <translation>バンク %1</translation>
+    </message>
+    <message>
+        <source>%1 pictures</source>
+        <translation>ピクチャ %1</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 バイト</translation>
+    </message>
+    <message>
+        <source>unknown argument: %1</source>
+        <translation>不明な引数です: %1</translation>
+    </message>
+</context>
+<context>
     <name>FolderPick</name>
     <message>
         <source>Choose Folder</source>

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+
+namespace dyeworks {
+
+/// Texts of the command line alone. Their English wording stands in CliTexts.cpp.
+enum class CliText : int {
+    ProgramSummary,
+    ProgramFooter,
+    PaletteSummary,
+    HelpUsage,
+    HelpOptionsMark,
+    HelpCommandMark,
+    HelpArguments,
+    HelpOptions,
+    HelpCommands,
+    HelpRequired,
+    HelpHelp,
+    HelpVersion,
+    HelpQuiet,
+    WrongValue,      ///< %1 option, %2 value
+    NumberOutside,   ///< %1 option, %2 value, %3 and %4 ends
+    NoSuchChoice,    ///< %1 option, %2 value, %3 list
+    ExtraArgument,   ///< %1 arguments
+    MissingArgument, ///< %1 name
+    MissingCommand,
+    NoSuchCommand,      ///< %1 name
+    OptionWithoutValue, ///< %1 option
+    TryHelp,            ///< %1 program and command
+    StandardOutput,
+    OutOfMemory,
+    FileCutOff,
+    NoImage,
+    NoPalette,
+    ImageTooLarge,
+    UnknownKind,
+    InfoSummary,
+    InfoFiles,
+    InfoJson,
+    InfoBetween,
+    InfoSize, ///< %1 width, %2 height
+    InfoBits,
+    InfoUsed,
+    InfoEntries,
+    InfoBank,
+    InfoPictures,
+    InfoBytes,
+};
+
+/// The text in the user's language.
+[[nodiscard]] std::string say(CliText id);
+/// The same with each %1, %2 … replaced by the argument at that place.
+[[nodiscard]] std::string say(CliText id, std::initializer_list<std::string> arguments);
+
+} // namespace dyeworks

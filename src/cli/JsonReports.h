@@ -1,0 +1,18 @@
+#pragma once
+
+#include "cli/FileInfo.h"
+
+#include <string>
+#include <vector>
+
+namespace dyeworks {
+
+// Reports for programs, UTF-8 with a line end behind. Bytes of a name that are none become U+FFFD.
+
+struct NamedInfo {
+    std::string file;
+    FileInfo info;
+};
+[[nodiscard]] std::string jsonOf(const std::vector<NamedInfo>& files);
+
+} // namespace dyeworks
