@@ -1376,6 +1376,169 @@ Exit code: 0 done, 1 something found, 2 wrong arguments, 3 trouble with files.</
         <source>unknown argument: %1</source>
         <translation>不明な引数です: %1</translation>
     </message>
+    <message>
+        <source>FILE|FOLDER</source>
+        <translation>ファイル|フォルダー</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>FORMAT</source>
+        <translation>形式</translation>
+    </message>
+    <message>
+        <source>NUMBER</source>
+        <translation>数</translation>
+    </message>
+    <message>
+        <source>WxH</source>
+        <translation>幅x高さ</translation>
+    </message>
+    <message>
+        <source>X,Y,WxH</source>
+        <translation>X,Y,幅x高さ</translation>
+    </message>
+    <message>
+        <source>HOW</source>
+        <translation>方法</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>The file is neither an image nor a picture that can be read (PNG, BMP).</source>
+        <translation>画像ファイルでも、読み込める画像（PNG、BMP）でもありません。</translation>
+    </message>
+    <message>
+        <source>The file brings no palette.</source>
+        <translation>パレットを含まないファイルです。</translation>
+    </message>
+    <message>
+        <source>A palette alone cannot be written in this format.</source>
+        <translation>パレットだけをこの形式で書き出すことはできません。</translation>
+    </message>
+    <message>
+        <source>The file has %1 colours, a palette holds 256.</source>
+        <translation>ファイルには %1 色ありますが、パレットは 256 色までです。</translation>
+    </message>
+    <message>
+        <source>The part to keep lies outside of the image of %1 x %2 texels.</source>
+        <translation>切り抜く範囲が %1 x %2 テクセルの画像の外にあります。</translation>
+    </message>
+    <message>
+        <source>The image uses more than 16 indices; to bring it to 4 bits takes its palette (--palette).</source>
+        <translation>16 を超える番号が使われています。4 ビットにするにはパレットが必要です（--palette）。</translation>
+    </message>
+    <message>
+        <source>The palette has no bank %1.</source>
+        <translation>パレットにバンク %1 はありません。</translation>
+    </message>
+    <message>
+        <source>the name of the output tells no format; --format does</source>
+        <translation>出力の名前から形式が分かりません。--format で指定してください</translation>
+    </message>
+    <message>
+        <source>C source is two files and needs a name (the format h is one).</source>
+        <translation>C ソースは 2 つのファイルになるため、名前が必要です（形式 h なら 1 つです）。</translation>
+    </message>
+    <message>
+        <source>Another file has already been written as &quot;%1&quot;.</source>
+        <translation>「%1」には別のファイルを書き込み済みです。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 do not go together</source>
+        <translation>%1 と %2 は一緒に使えません</translation>
+    </message>
+    <message>
+        <source>several files do not go into the standard output</source>
+        <translation>複数のファイルを標準出力に書くことはできません</translation>
+    </message>
+    <message>
+        <source>%1 colours were rounded to what a palette holds</source>
+        <translation>%1 色をパレットで表せる色に丸めました</translation>
+    </message>
+    <message>
+        <source>Convert images, pictures and palettes into other formats.</source>
+        <translation>画像、画像ファイル、パレットを他の形式に変換します。</translation>
+    </message>
+    <message>
+        <source>Images (.tmf), pictures (PNG, BMP), palettes (.tlf) and palette files (.gpl, .pal, .act, .hex)</source>
+        <translation>画像（.tmf）、画像ファイル（PNG、BMP）、パレット（.tlf）、パレットファイル（.gpl、.pal、.act、.hex）</translation>
+    </message>
+    <message>
+        <source>Where the result goes; for several files a folder</source>
+        <translation>結果の出力先。ファイルが複数ならフォルダー</translation>
+    </message>
+    <message>
+        <source>What is written, where the name of the output does not tell: %1</source>
+        <translation>出力の名前から決まらないときの形式: %1</translation>
+    </message>
+    <message>
+        <source>Palette that images are shown with and pictures are brought into</source>
+        <translation>画像の表示に使い、画像ファイルの色を合わせるパレット</translation>
+    </message>
+    <message>
+        <source>Bank of a palette of 256 entries that an image of 4 bits shows, 0 to 15</source>
+        <translation>4 ビットの画像が使う、256 エントリのパレットのバンク（0 から 15）</translation>
+    </message>
+    <message>
+        <source>Also write the palette of the result, a TLF file</source>
+        <translation>結果のパレットも TLF ファイルに書く</translation>
+    </message>
+    <message>
+        <source>Keep this part alone: its left top texel and its size</source>
+        <translation>この範囲だけを残す（左上のテクセルと大きさ）</translation>
+    </message>
+    <message>
+        <source>Scale to this size, each texel to the nearest</source>
+        <translation>この大きさに拡大または縮小する（最近傍）</translation>
+    </message>
+    <message>
+        <source>Turn: %1</source>
+        <translation>回転: %1</translation>
+    </message>
+    <message>
+        <source>Bits of a texel: %1</source>
+        <translation>テクセルのビット数: %1</translation>
+    </message>
+    <message>
+        <source>Most colours of a palette that is made for a picture</source>
+        <translation>画像ファイルから作るパレットの色数の上限</translation>
+    </message>
+    <message>
+        <source>Entries of such a palette: %1</source>
+        <translation>そのパレットのエントリの種類: %1</translation>
+    </message>
+    <message>
+        <source>How colours that are missing are mixed: %1</source>
+        <translation>足りない色の混ぜ方（ディザ）: %1</translation>
+    </message>
+    <message>
+        <source>Name of the arrays in C source instead of the output&apos;s</source>
+        <translation>C ソースの配列名（省略時は出力の名前）</translation>
+    </message>
+    <message>
+        <source>Alignment of the arrays in bytes, a power of 2</source>
+        <translation>配列のアライメント（バイト、2 の累乗）</translation>
+    </message>
+    <message>
+        <source>Put all banks into C source or raw bytes, not only the one that is shown</source>
+        <translation>表示するバンクだけでなくパレット全体を C ソースや生データに入れる</translation>
+    </message>
+    <message>
+        <source>In this order: crop, resize, turn, colours, depth. A picture without indexed colours gets a palette of its
+own, or the nearest colours of the one that is given. c writes the header beside the source; h is all in one.</source>
+        <translation>処理の順序: 切り抜き、拡大縮小、回転、色、ビット数。インデックスカラーでない画像ファイルには新しい
+パレットを作るか、指定したパレットの最も近い色を割り当てます。形式 c はソースと並べてヘッダーも書き、
+形式 h は 1 つのファイルにまとめます。</translation>
+    </message>
+    <message>
+        <source>%1 files converted, %2 failed</source>
+        <translation>%1 ファイルを変換、失敗 %2</translation>
+    </message>
 </context>
 <context>
     <name>FolderPick</name>

@@ -47,6 +47,46 @@ enum class CliText : int {
     InfoBank,
     InfoPictures,
     InfoBytes,
+    TypeOutput,
+    TypeFile,
+    TypeFormat,
+    TypeNumber,
+    TypeSize,
+    TypePart,
+    TypeWay,
+    TypeName,
+    NoPicture,
+    BringsNoPalette,
+    PaletteIsNoPicture,
+    TooManyColours, ///< %1 number
+    CropOutside,    ///< %1 width, %2 height
+    DepthNeedsPalette,
+    NoSuchBank, ///< %1 number
+    FormatMissing,
+    TwoFilesIntoOne,
+    WrittenTwice, ///< %1 file
+    NotTogether,  ///< %1, %2 options
+    ManyIntoOne,
+    ColoursRounded, ///< %1 number
+    ConvertSummary,
+    ConvertInputs,
+    ConvertOutput,
+    ConvertFormat, ///< %1 list
+    ConvertPalette,
+    ConvertBank,
+    ConvertPaletteOut,
+    ConvertCrop,
+    ConvertResize,
+    ConvertTurn,  ///< %1 list
+    ConvertDepth, ///< %1 list
+    ConvertColours,
+    ConvertType,   ///< %1 list
+    ConvertDither, ///< %1 list
+    ConvertName,
+    ConvertAlign,
+    ConvertWholePalette,
+    ConvertFooter,
+    ConvertDone, ///< %1, %2 numbers
 };
 
 /// The text in the user's language.

@@ -1,5 +1,6 @@
 #include "cli/CommandList.h"
 
+#include "cli/ConvertCommand.h"
 #include "cli/InfoCommand.h"
 
 #include <array>
@@ -15,6 +16,7 @@ std::unique_ptr<Command> make() {
 
 constexpr std::array kEntries{
     CommandEntry{"info", CliText::InfoSummary, make<InfoCommand>},
+    CommandEntry{"convert", CliText::ConvertSummary, make<ConvertCommand>},
 };
 
 } // namespace

@@ -256,6 +256,7 @@ void Options::files(const char* name, std::vector<std::string>& values, CliText 
             say(help))
         ->type_name("")
         ->expected(1, CLI::detail::expected_max_vector_size)
+        ->allow_extra_args(true)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
         ->required(isRequired);
 }
