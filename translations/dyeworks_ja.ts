@@ -1539,6 +1539,62 @@ own, or the nearest colours of the one that is given. c writes the header beside
         <source>%1 files converted, %2 failed</source>
         <translation>%1 ファイルを変換、失敗 %2</translation>
     </message>
+    <message>
+        <source>FOLDER</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Write the pictures of a project for the console&apos;s build, as far as they have changed.</source>
+        <translation>プロジェクトのピクチャのうち変更されたものをビルド用に書き出します。</translation>
+    </message>
+    <message>
+        <source>The project (.tpf)</source>
+        <translation>プロジェクト（.tpf）</translation>
+    </message>
+    <message>
+        <source>Folder of the results, made when there is none</source>
+        <translation>出力先のフォルダー。なければ作る</translation>
+    </message>
+    <message>
+        <source>What each picture becomes: %1; png where nothing is said. tmf writes the palette beside it</source>
+        <translation>ピクチャの形式: %1。省略時は png。tmf ではパレットも並べて書く</translation>
+    </message>
+    <message>
+        <source>How many pictures are made at a time; as many as there are processors where nothing is said</source>
+        <translation>同時に作るピクチャの数。省略時はプロセッサの数</translation>
+    </message>
+    <message>
+        <source>Only print the files that would be written</source>
+        <translation>書き込むファイルの名前だけを表示</translation>
+    </message>
+    <message>
+        <source>Make everything, changed or not</source>
+        <translation>変更がなくてもすべて作る</translation>
+    </message>
+    <message>
+        <source>Write a rule for make or ninja: index.json and the files that it was made from</source>
+        <translation>make や ninja 用の規則（index.json とその元になったファイル）を書く</translation>
+    </message>
+    <message>
+        <source>index.json in the folder lists the pictures with their files, sizes and banks. A picture is made again when
+its image, its palette, its entry in the project or the options have changed, or its file is not what was
+written. Files of pictures that are gone from the project are removed.</source>
+        <translation>フォルダーの index.json に、ピクチャとそのファイル、大きさ、バンクの一覧を書きます。画像、パレット、
+プロジェクトの項目、オプションのどれかが変わったとき、または出力ファイルが書いたときのままでないときに、
+ピクチャを作り直します。プロジェクトからなくなったピクチャのファイルは削除します。</translation>
+    </message>
+    <message>
+        <source>The picture would be written under the same name as &quot;%1&quot;.</source>
+        <translation>ピクチャの出力の名前が「%1」と同じになります。</translation>
+    </message>
+    <message>
+        <source>The name of a file holds a line end, which a rule cannot.</source>
+        <translation>ファイル名に改行があり、規則に書けません。</translation>
+    </message>
+    <message>
+        <source>%1 made, %2 up to date, %3 removed, %4 failed</source>
+        <translation>作成 %1、最新 %2、削除 %3、失敗 %4</translation>
+    </message>
 </context>
 <context>
     <name>FolderPick</name>

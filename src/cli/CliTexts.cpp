@@ -146,6 +146,39 @@ constexpr Row kRows[] = {
                           "colours gets a palette of its\nown, or the nearest colours of the one that is "
                           "given. c writes the header beside the source; h is all in one.")},
     Row{CliText::ConvertDone, QT_TRANSLATE_NOOP("CommandLine", "%1 files converted, %2 failed")},
+    Row{CliText::TypeFolder, QT_TRANSLATE_NOOP("CommandLine", "FOLDER")},
+    Row{CliText::BuildSummary,
+        QT_TRANSLATE_NOOP(
+            "CommandLine",
+            "Write the pictures of a project for the console's build, as far as they have changed.")},
+    Row{CliText::BuildProject, QT_TRANSLATE_NOOP("CommandLine", "The project (.tpf)")},
+    Row{CliText::BuildOutput,
+        QT_TRANSLATE_NOOP("CommandLine", "Folder of the results, made when there is none")},
+    Row{CliText::BuildFormat,
+        QT_TRANSLATE_NOOP(
+            "CommandLine",
+            "What each picture becomes: %1; png where nothing is said. tmf writes the palette beside it")},
+    Row{CliText::BuildJobs,
+        QT_TRANSLATE_NOOP(
+            "CommandLine",
+            "How many pictures are made at a time; as many as there are processors where nothing is said")},
+    Row{CliText::BuildDryRun, QT_TRANSLATE_NOOP("CommandLine", "Only print the files that would be written")},
+    Row{CliText::BuildAll, QT_TRANSLATE_NOOP("CommandLine", "Make everything, changed or not")},
+    Row{CliText::BuildDepfile,
+        QT_TRANSLATE_NOOP("CommandLine",
+                          "Write a rule for make or ninja: index.json and the files that it was made from")},
+    Row{CliText::BuildFooter,
+        QT_TRANSLATE_NOOP("CommandLine",
+                          "index.json in the folder lists the pictures with their files, sizes and banks. A "
+                          "picture is made again when\nits image, its palette, its entry in the project or "
+                          "the options have changed, or its file is not what was\nwritten. Files of pictures "
+                          "that are gone from the project are removed.")},
+    Row{CliText::BuildSameName,
+        QT_TRANSLATE_NOOP("CommandLine", "The picture would be written under the same name as \"%1\".")},
+    Row{CliText::BuildNameWithLine,
+        QT_TRANSLATE_NOOP("CommandLine", "The name of a file holds a line end, which a rule cannot.")},
+    Row{CliText::BuildDone,
+        QT_TRANSLATE_NOOP("CommandLine", "%1 made, %2 up to date, %3 removed, %4 failed")},
 };
 
 constexpr bool areInOrder() {

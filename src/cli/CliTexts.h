@@ -87,6 +87,19 @@ enum class CliText : int {
     ConvertWholePalette,
     ConvertFooter,
     ConvertDone, ///< %1, %2 numbers
+    TypeFolder,
+    BuildSummary,
+    BuildProject,
+    BuildOutput,
+    BuildFormat, ///< %1 list
+    BuildJobs,
+    BuildDryRun,
+    BuildAll,
+    BuildDepfile,
+    BuildFooter,
+    BuildSameName, ///< %1 picture
+    BuildNameWithLine,
+    BuildDone, ///< %1 to %4 numbers
 };
 
 /// The text in the user's language.

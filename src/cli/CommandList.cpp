@@ -1,5 +1,6 @@
 #include "cli/CommandList.h"
 
+#include "cli/BuildCommand.h"
 #include "cli/ConvertCommand.h"
 #include "cli/InfoCommand.h"
 
@@ -17,6 +18,7 @@ std::unique_ptr<Command> make() {
 constexpr std::array kEntries{
     CommandEntry{"info", CliText::InfoSummary, make<InfoCommand>},
     CommandEntry{"convert", CliText::ConvertSummary, make<ConvertCommand>},
+    CommandEntry{"build", CliText::BuildSummary, make<BuildCommand>},
 };
 
 } // namespace

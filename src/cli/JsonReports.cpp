@@ -47,4 +47,20 @@ std::string jsonOf(const std::vector<NamedInfo>& files) {
     return textOf(list);
 }
 
+std::string jsonOf(const BuildState& state) {
+    Json pictures = Json::array();
+    for (const BuiltPicture& picture : state.pictures) {
+        Json files = Json::array();
+        for (const BuiltPicture::Output& output : picture.outputs)
+            files.push_back(output.name);
+        pictures.push_back({{"name", picture.name},
+                            {"files", std::move(files)},
+                            {"width", picture.width},
+                            {"height", picture.height},
+                            {"bits", picture.bits},
+                            {"bank", picture.bank}});
+    }
+    return textOf({{"pictures", std::move(pictures)}});
+}
+
 } // namespace dyeworks

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/BuildState.h"
 #include "cli/FileInfo.h"
 
 #include <string>
@@ -14,5 +15,8 @@ struct NamedInfo {
     FileInfo info;
 };
 [[nodiscard]] std::string jsonOf(const std::vector<NamedInfo>& files);
+
+/// The index of a build: its pictures with what they became.
+[[nodiscard]] std::string jsonOf(const BuildState& state);
 
 } // namespace dyeworks

@@ -79,6 +79,11 @@ bool isFolder(const std::string& name) {
     return ::stat(name.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+bool isFile(const std::string& name) {
+    struct stat status {};
+    return ::stat(name.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+}
+
 std::optional<FileError> makeFolder(const std::string& name) {
     constexpr mode_t kEverybody = 0777; // Less what the user's mask takes.
     for (std::size_t end = name.find('/', 1); end != std::string::npos; end = name.find('/', end + 1))

@@ -22,6 +22,8 @@ inline constexpr const char* kStandardStream = "-";
 [[nodiscard]] std::optional<FileError> writeNamed(const std::string& name, std::span<const std::byte> bytes);
 
 [[nodiscard]] bool isFolder(const std::string& name);
+/// Of whatever kind that is no folder.
+[[nodiscard]] bool isFile(const std::string& name);
 
 /// Makes the folder, and those that it stands in, unless it is there. Nothing: it is.
 [[nodiscard]] std::optional<FileError> makeFolder(const std::string& name);
