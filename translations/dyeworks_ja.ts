@@ -1595,6 +1595,166 @@ written. Files of pictures that are gone from the project are removed.</source>
         <source>%1 made, %2 up to date, %3 removed, %4 failed</source>
         <translation>作成 %1、最新 %2、削除 %3、失敗 %4</translation>
     </message>
+    <message>
+        <source>ENTRIES</source>
+        <translation>エントリ</translation>
+    </message>
+    <message>
+        <source>Sort the entries of a palette; the images follow.</source>
+        <translation>パレットのエントリを並べ替え、画像を追従させます。</translation>
+    </message>
+    <message>
+        <source>Give texels of equal entries the first of them.</source>
+        <translation>同じエントリのテクセルを最初のエントリにまとめます。</translation>
+    </message>
+    <message>
+        <source>Move entries that no texel shows to the end.</source>
+        <translation>どのテクセルも使わないエントリを末尾に移します。</translation>
+    </message>
+    <message>
+        <source>Move entries to another place; the images follow.</source>
+        <translation>エントリを別の場所に移し、画像を追従させます。</translation>
+    </message>
+    <message>
+        <source>Exchange two ranges of entries; the images follow.</source>
+        <translation>2 つの範囲のエントリを入れ替え、画像を追従させます。</translation>
+    </message>
+    <message>
+        <source>Make even steps from the first to the last entry of a range.</source>
+        <translation>範囲の最初から最後のエントリまでを等しい段階にします。</translation>
+    </message>
+    <message>
+        <source>Change hue, saturation, brightness, a channel or alpha.</source>
+        <translation>色相、彩度、明るさ、チャンネル、アルファを変えます。</translation>
+    </message>
+    <message>
+        <source>The palette (.tlf), which is changed in place</source>
+        <translation>パレット（.tlf）。その場で変更する</translation>
+    </message>
+    <message>
+        <source>Images (.tmf) that show it and are to look the same afterwards</source>
+        <translation>このパレットを使い、見た目を保つ画像（.tmf）</translation>
+    </message>
+    <message>
+        <source>Take all images along that a project (.tpf) shows with this palette, each with its bank</source>
+        <translation>プロジェクト（.tpf）でこのパレットを使うすべての画像を、それぞれのバンクで追従させる</translation>
+    </message>
+    <message>
+        <source>Only these entries, such as 16-31</source>
+        <translation>対象のエントリ（例: 16-31）</translation>
+    </message>
+    <message>
+        <source>Write palette and images into this folder and leave the files as they are</source>
+        <translation>ファイルを変更せず、パレットと画像をこのフォルダーに書く</translation>
+    </message>
+    <message>
+        <source>Entry that the first of the range goes to</source>
+        <translation>範囲の最初のエントリの移動先</translation>
+    </message>
+    <message>
+        <source>What comes first: %1</source>
+        <translation>並べ替えの基準: %1</translation>
+    </message>
+    <message>
+        <source>The other way round</source>
+        <translation>逆順</translation>
+    </message>
+    <message>
+        <source>Each bank of 16 entries by itself; also without this where an image shows a bank alone</source>
+        <translation>16 エントリのバンクごとに行う。バンクだけを使う画像があれば常にそうする</translation>
+    </message>
+    <message>
+        <source>These entries stay where they are, such as 0,4-7</source>
+        <translation>動かさないエントリ（例: 0,4-7）</translation>
+    </message>
+    <message>
+        <source>Degrees, -180 to 180</source>
+        <translation>角度（-180 から 180）</translation>
+    </message>
+    <message>
+        <source>Percent, -100 (grey) to 100</source>
+        <translation>パーセント（-100（灰色）から 100）</translation>
+    </message>
+    <message>
+        <source>Percent, -100 (black) to 100 (white)</source>
+        <translation>パーセント（-100（黒）から 100（白））</translation>
+    </message>
+    <message>
+        <source>The channel that --steps changes: %1</source>
+        <translation>--steps で変えるチャンネル: %1</translation>
+    </message>
+    <message>
+        <source>Steps of that channel</source>
+        <translation>そのチャンネルの段階数</translation>
+    </message>
+    <message>
+        <source>Steps of alpha</source>
+        <translation>アルファの段階数</translation>
+    </message>
+    <message>
+        <source>The palette has no entry %1.</source>
+        <translation>パレットにエントリ %1 はありません。</translation>
+    </message>
+    <message>
+        <source>The entries cannot go there.</source>
+        <translation>エントリをそこへ移すことはできません。</translation>
+    </message>
+    <message>
+        <source>%1 texels would leave the bank that the image shows.</source>
+        <translation>%1 テクセルが画像の使うバンクの外に出ます。</translation>
+    </message>
+    <message>
+        <source>The image is shown through two banks and can follow only one.</source>
+        <translation>画像が 2 つのバンクで使われているため、追従できません。</translation>
+    </message>
+    <message>
+        <source>The palette has no such channel.</source>
+        <translation>パレットにそのチャンネルはありません。</translation>
+    </message>
+    <message>
+        <source>%1 files written</source>
+        <translation>%1 ファイルを書き込みました</translation>
+    </message>
+    <message>
+        <source>Draw an image as the editor shows it, or the pictures of a project side by side.</source>
+        <translation>画像をエディターと同じ見た目で、またはプロジェクトのピクチャを並べて描画します。</translation>
+    </message>
+    <message>
+        <source>An image (.tmf), a picture (PNG, BMP) or a project (.tpf)</source>
+        <translation>画像（.tmf）、画像ファイル（PNG、BMP）、またはプロジェクト（.tpf）</translation>
+    </message>
+    <message>
+        <source>The PNG file to write</source>
+        <translation>書き込む PNG ファイル</translation>
+    </message>
+    <message>
+        <source>Palette that the image is shown with; greys without one</source>
+        <translation>画像の表示に使うパレット。なければ灰色</translation>
+    </message>
+    <message>
+        <source>Pixels of a texel, 1 to 16</source>
+        <translation>テクセル 1 つのピクセル数（1 から 16）</translation>
+    </message>
+    <message>
+        <source>Show the grid of 8 texels</source>
+        <translation>8 テクセルごとのグリッドを表示</translation>
+    </message>
+    <message>
+        <source>Show alpha as greys</source>
+        <translation>アルファを灰色で表示</translation>
+    </message>
+    <message>
+        <source>Let a checkerboard shine through what is transparent</source>
+        <translation>透明な部分に市松模様を表示</translation>
+    </message>
+    <message>
+        <source>Pictures in a row of the sheet</source>
+        <translation>1 行に並べるピクチャの数</translation>
+    </message>
+    <message>
+        <source>Side of a picture&apos;s square on the sheet in pixels</source>
+        <translation>ピクチャ 1 つの正方形の辺（ピクセル）</translation>
+    </message>
 </context>
 <context>
     <name>FolderPick</name>

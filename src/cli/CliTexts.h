@@ -100,6 +100,46 @@ enum class CliText : int {
     BuildSameName, ///< %1 picture
     BuildNameWithLine,
     BuildDone, ///< %1 to %4 numbers
+    TypeRange,
+    PaletteSortSummary,
+    PaletteMergeSummary,
+    PaletteCompactSummary,
+    PaletteMoveSummary,
+    PaletteSwapSummary,
+    PaletteRampSummary,
+    PaletteAdjustSummary,
+    PaletteFile,
+    PaletteImages,
+    PaletteProject,
+    PaletteRange,
+    PaletteOutput,
+    PaletteTo,
+    PaletteBy, ///< %1 list
+    PaletteReverse,
+    PaletteInBanks,
+    PaletteKeep,
+    PaletteHue,
+    PaletteSaturation,
+    PaletteBrightness,
+    PaletteChannel, ///< %1 list
+    PaletteSteps,
+    PaletteAlpha,
+    PaletteNoSuchEntry, ///< %1 number
+    PaletteNoPlace,
+    PaletteLeavesBank, ///< %1 number
+    PaletteTwoBanks,
+    PaletteNoChannel,
+    PaletteDone, ///< %1 number
+    RenderSummary,
+    RenderInput,
+    RenderOutput,
+    RenderPalette,
+    RenderZoom,
+    RenderGrid,
+    RenderAlpha,
+    RenderCheckerboard,
+    RenderColumns,
+    RenderSide,
 };
 
 /// The text in the user's language.
