@@ -1366,7 +1366,7 @@ Exit code: 0 done, 1 something found, 2 wrong arguments, 3 trouble with files.</
     </message>
     <message>
         <source>%1 pictures</source>
-        <translation>ピクチャ %1</translation>
+        <translation>ピクチャー %1</translation>
     </message>
     <message>
         <source>%1 bytes</source>
@@ -1545,7 +1545,7 @@ own, or the nearest colours of the one that is given. c writes the header beside
     </message>
     <message>
         <source>Write the pictures of a project for the console&apos;s build, as far as they have changed.</source>
-        <translation>プロジェクトのピクチャのうち変更されたものをビルド用に書き出します。</translation>
+        <translation>プロジェクトのピクチャーのうち変更されたものをビルド用に書き出します。</translation>
     </message>
     <message>
         <source>The project (.tpf)</source>
@@ -1557,11 +1557,11 @@ own, or the nearest colours of the one that is given. c writes the header beside
     </message>
     <message>
         <source>What each picture becomes: %1; png where nothing is said. tmf writes the palette beside it</source>
-        <translation>ピクチャの形式: %1。省略時は png。tmf ではパレットも並べて書く</translation>
+        <translation>ピクチャーの形式: %1。省略時は png。tmf ではパレットも並べて書く</translation>
     </message>
     <message>
         <source>How many pictures are made at a time; as many as there are processors where nothing is said</source>
-        <translation>同時に作るピクチャの数。省略時はプロセッサの数</translation>
+        <translation>同時に作るピクチャーの数。省略時はプロセッサの数</translation>
     </message>
     <message>
         <source>Only print the files that would be written</source>
@@ -1579,13 +1579,13 @@ own, or the nearest colours of the one that is given. c writes the header beside
         <source>index.json in the folder lists the pictures with their files, sizes and banks. A picture is made again when
 its image, its palette, its entry in the project or the options have changed, or its file is not what was
 written. Files of pictures that are gone from the project are removed.</source>
-        <translation>フォルダーの index.json に、ピクチャとそのファイル、大きさ、バンクの一覧を書きます。画像、パレット、
+        <translation>フォルダーの index.json に、ピクチャーとそのファイル、大きさ、バンクの一覧を書きます。画像、パレット、
 プロジェクトの項目、オプションのどれかが変わったとき、または出力ファイルが書いたときのままでないときに、
-ピクチャを作り直します。プロジェクトからなくなったピクチャのファイルは削除します。</translation>
+ピクチャーを作り直します。プロジェクトからなくなったピクチャーのファイルは削除します。</translation>
     </message>
     <message>
         <source>The picture would be written under the same name as &quot;%1&quot;.</source>
-        <translation>ピクチャの出力の名前が「%1」と同じになります。</translation>
+        <translation>ピクチャーの出力の名前が「%1」と同じになります。</translation>
     </message>
     <message>
         <source>The name of a file holds a line end, which a rule cannot.</source>
@@ -1717,7 +1717,7 @@ written. Files of pictures that are gone from the project are removed.</source>
     </message>
     <message>
         <source>Draw an image as the editor shows it, or the pictures of a project side by side.</source>
-        <translation>画像をエディターと同じ見た目で、またはプロジェクトのピクチャを並べて描画します。</translation>
+        <translation>画像をエディターと同じ見た目で、またはプロジェクトのピクチャーを並べて描画します。</translation>
     </message>
     <message>
         <source>An image (.tmf), a picture (PNG, BMP) or a project (.tpf)</source>
@@ -1749,11 +1749,19 @@ written. Files of pictures that are gone from the project are removed.</source>
     </message>
     <message>
         <source>Pictures in a row of the sheet</source>
-        <translation>1 行に並べるピクチャの数</translation>
+        <translation>1 行に並べるピクチャーの数</translation>
     </message>
     <message>
         <source>Side of a picture&apos;s square on the sheet in pixels</source>
-        <translation>ピクチャ 1 つの正方形の辺（ピクセル）</translation>
+        <translation>ピクチャー 1 つの正方形の辺（ピクセル）</translation>
+    </message>
+    <message>
+        <source>c=FOLDER</source>
+        <translation>c=フォルダー</translation>
+    </message>
+    <message>
+        <source>Let a drive that a project names stand for a folder</source>
+        <translation>プロジェクトにあるドライブ名の置き換え先のフォルダー</translation>
     </message>
 </context>
 <context>
