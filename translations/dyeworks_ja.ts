@@ -2969,10 +2969,6 @@ You must open or create a palette.
         <translation>最初の色を入れる現在のパレットのエントリー</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: %2 colours imported, %3 of them rounded; %4 did not fit.</source>
-        <translation>&quot;%1&quot;: %2 色を取り込みました。丸めた色: %3、入らなかった色: %4</translation>
-    </message>
-    <message>
         <source>Export Palette</source>
         <translation>パレットのエクスポート</translation>
     </message>
@@ -3953,6 +3949,18 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     <message>
         <source>What the images of the project&apos;s pictures must keep to. Rule Findings in the View menu lists what does not.</source>
         <translation>プロジェクトのピクチャーの画像が守るルールです。反するものは[表示]メニューの[ルール違反]に並びます。</translation>
+    </message>
+    <message>
+        <source>The file ends too early.</source>
+        <translation>ファイルが途中で終わっています。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: colours imported: %2, rounded: %3, without room: %4.</source>
+        <translation>&quot;%1&quot;: 取り込んだ色: %2、丸めた色: %3、入らなかった色: %4</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: colours written: %2.</source>
+        <translation>&quot;%1&quot;: 書き出した色: %2</translation>
     </message>
 </context>
 </TS>

@@ -82,11 +82,11 @@ private:
     [[nodiscard]] std::string alignmentMacro() const {
         if (alignment_ == 1)
             return {};
-        const std::string define = "#define " + macro_ + "_ALIGNED ";
+        const std::string define = "#define " + macro_ + "_ALIGNED";
         const std::string bytes = '(' + std::to_string(alignment_) + ")\n";
-        return "\n#if defined(__cplusplus) && __cplusplus >= 201103L\n" + define + "alignas" + bytes +
-               "#elif defined(__STDC_VERSION__) && __STDC_VERSION__ >= 201112L\n" + define + "_Alignas" +
-               bytes + "#elif defined(__GNUC__)\n" + define + "__attribute__((aligned(" +
+        return "\n#if defined(__cplusplus) && __cplusplus >= 201103L\n" + define + " alignas" + bytes +
+               "#elif defined(__STDC_VERSION__) && __STDC_VERSION__ >= 201112L\n" + define + " _Alignas" +
+               bytes + "#elif defined(__GNUC__)\n" + define + " __attribute__((aligned(" +
                std::to_string(alignment_) + ")))\n#else\n" + define + "\n#endif\n";
     }
 

@@ -42,6 +42,7 @@ enum class StringId : int {
     TmfNoMemory,
 
     InterchangeUnknownFormat,
+    FileEndsTooEarly,
     InterchangeDamaged,
     InterchangeDamagedWhere, ///< %3 where or why, in English
     InterchangeTooLarge,     ///< %1 width, %2 height
@@ -131,6 +132,7 @@ enum class StringId : int {
     ImportIntoTip,
     ImportFirstTip,
     PaletteImported, ///< %1 file, %2 to %4 numbers
+    PaletteExported, ///< %1 file, %2 number
     ExportPaletteCaption,
     ExportFormat,
     ExportFormatTip,

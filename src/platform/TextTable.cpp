@@ -66,6 +66,7 @@ constexpr Row kRows[] = {
 
     Row{StringId::InterchangeUnknownFormat,
         QT_TRANSLATE_NOOP("Text", "The file is of no kind that can be read here.")},
+    Row{StringId::FileEndsTooEarly, QT_TRANSLATE_NOOP("Text", "The file ends too early.")},
     Row{StringId::InterchangeDamaged, QT_TRANSLATE_NOOP("Text", "The file is damaged.")},
     Row{StringId::InterchangeDamagedWhere, QT_TRANSLATE_NOOP("Text", "The file is damaged (%3).")},
     Row{StringId::InterchangeTooLarge, QT_TRANSLATE_NOOP("Text", "It is too large: %1 x %2 pixels.")},
@@ -184,7 +185,8 @@ constexpr Row kRows[] = {
     Row{StringId::ImportFirstTip,
         QT_TRANSLATE_NOOP("Text", "Entry of the current palette that takes the first colour")},
     Row{StringId::PaletteImported,
-        QT_TRANSLATE_NOOP("Text", "\"%1\": %2 colours imported, %3 of them rounded; %4 did not fit.")},
+        QT_TRANSLATE_NOOP("Text", "\"%1\": colours imported: %2, rounded: %3, without room: %4.")},
+    Row{StringId::PaletteExported, QT_TRANSLATE_NOOP("Text", "\"%1\": colours written: %2.")},
     Row{StringId::ExportPaletteCaption, QT_TRANSLATE_NOOP("Text", "Export Palette")},
     Row{StringId::ExportFormat, QT_TRANSLATE_NOOP("Text", "&Format")},
     Row{StringId::ExportFormatTip,
