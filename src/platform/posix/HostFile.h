@@ -23,4 +23,13 @@ Result<std::unique_ptr<FileReader>, FileError> openHostFile(const std::string& p
 /// and stay. Devices and pipes are written into, since there is nothing beside them to put in their place.
 [[nodiscard]] std::optional<FileError> writeHostFile(const std::string& path, FilePieces pieces);
 
+/// Whether a file that could not be replaced for this reason may still be written: it is a regular one, and
+/// it is its folder that takes no other.
+[[nodiscard]] bool takesNothingButContents(const std::string& path, FileError why);
+
+/// Writes over what the file holds, which is lost where that breaks off. Room for a longer file is taken
+/// before anything is overwritten. `path` is as above; `torn` tells whether the file was touched.
+[[nodiscard]] std::optional<FileError> writeIntoHostFile(const std::string& path, FilePieces pieces,
+                                                         bool& torn);
+
 } // namespace dyeworks
