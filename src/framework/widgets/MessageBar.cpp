@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QStyle>
 
@@ -51,6 +52,9 @@ MessageBar::MessageBar(const QString& name, QWidget* parent)
 }
 
 void MessageBar::setText(const QString& text) {
+    // What is below must not jump while words take turns.
+    if (isVisible())
+        text_->setMinimumHeight(text_->height());
     text_->setText(text);
     setAccessibleDescription(text);
 }
@@ -70,8 +74,16 @@ QSize MessageBar::minimumSizeHint() const {
     return {row_->minimumSize().width() + margins.left() + margins.right(), layout_->minimumSize().height()};
 }
 
+/// A hint may be as dark as the window is; the edge tells the bar from it.
+void MessageBar::paintEvent(QPaintEvent* event) {
+    QFrame::paintEvent(event);
+    QPainter(this).fillRect(0, 0, layout_->contentsMargins().left() / 2, height(), palette().highlight());
+}
+
 void MessageBar::resizeEvent(QResizeEvent* event) {
     QFrame::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width())
+        text_->setMinimumHeight(0);
     const int left = width() - minimumSizeHint().width();
     layout_->setDirection(left < kFewestLetters * fontMetrics().averageCharWidth() ? QBoxLayout::TopToBottom
                                                                                    : QBoxLayout::LeftToRight);
