@@ -4202,5 +4202,105 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <source>&quot;%1&quot;: colours written: %2.</source>
         <translation>&quot;%1&quot;: 書き出した色: %2</translation>
     </message>
+    <message>
+        <source>Another program has changed %1.</source>
+        <translation>%1 は他のプログラムによって変更されました。</translation>
+    </message>
+    <message>
+        <source>Another program has changed %1, which has unsaved changes here.</source>
+        <translation>%1 は他のプログラムによって変更されました。こちらにも未保存の変更があります。</translation>
+    </message>
+    <message>
+        <source>%1 has been removed or renamed. Saving writes it again.</source>
+        <translation>%1 は削除されたか、名前が変わりました。保存すると書き直されます。</translation>
+    </message>
+    <message>
+        <source>%1 is there again, as it was.</source>
+        <translation>%1 が元のまま戻りました。</translation>
+    </message>
+    <message>
+        <source>%1 is there again, with other contents.</source>
+        <translation>%1 が戻りましたが、内容が変わっています。</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>再読み込み(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Take over what the file holds now; Undo brings back what was here</source>
+        <translation>ファイルの今の内容を取り込みます。元に戻すと、ここにあった内容に戻ります</translation>
+    </message>
+    <message>
+        <source>Open the project as its file holds it now; asks when it has unsaved changes</source>
+        <translation>ファイルの今の内容でプロジェクトを開き直します。未保存の変更があれば確認します</translation>
+    </message>
+    <message>
+        <source>Keep &amp;Mine</source>
+        <translation>このまま(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Leave what is here as it is; the next save replaces the file</source>
+        <translation>ここにある内容をそのままにします。次に保存するとファイルを置き換えます</translation>
+    </message>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>比較(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Show the image of the file and this one in turn</source>
+        <translation>ファイルの画像とこの画像を交互に表示します</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>OK(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Close this notice</source>
+        <translation>この知らせを閉じます</translation>
+    </message>
+    <message>
+        <source>Shown: the image of the file</source>
+        <translation>表示中: ファイルの画像</translation>
+    </message>
+    <message>
+        <source>Shown: this image</source>
+        <translation>表示中: この画像</translation>
+    </message>
+    <message>
+        <source>The file: %1 x %2 texels of %3 bits, this image: %4 x %5 of %6.</source>
+        <translation>ファイル: %1 x %2 テクセル %3 ビット、この画像: %4 x %5 テクセル %6 ビット。</translation>
+    </message>
+    <message>
+        <source>Reloaded after another program changed it: %1</source>
+        <translation>他のプログラムが変更したため読み込み直しました: %1</translation>
+    </message>
+    <message>
+        <source>Change from outside</source>
+        <translation>外部での変更</translation>
+    </message>
+    <message>
+        <source>%1
+Another program has changed this file since it was opened or saved here.
+Save over it all the same?</source>
+        <translation>%1
+ここで開くか保存したあとに、他のプログラムがこのファイルを変更しました。
+それでも上書き保存しますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Reload documents without unsaved changes when other programs change their files.</source>
+        <translation>未保存の変更がない文書は、他のプログラムがファイルを変更したら読み込み直す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Otherwise a bar in the window of the document asks</source>
+        <translation>オフのときは、文書のウィンドウのバーで尋ねます</translation>
+    </message>
+    <message>
+        <source>%1
+The folder lets no file be replaced, so this one was written in place, and that broke off: %2
+The file is no longer whole. Save under another name; until then what was to be saved is kept.</source>
+        <translation>%1
+このフォルダではファイルを置き換えられないため直接書き込みましたが、途中で止まりました: %2
+ファイルは壊れています。別の名前で保存してください。それまで、保存するはずだった内容を控えておきます。</translation>
+    </message>
 </context>
 </TS>

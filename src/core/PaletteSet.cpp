@@ -237,6 +237,8 @@ PaletteSet::Map::iterator PaletteSet::insertUnderFreeKey(std::unique_ptr<Texture
     for (std::int32_t n = 1; palettes.contains(key); ++n)
         key = base + "_" + std::to_string(n);
     palette->path = key;
+    if (!key.starts_with('*') && !palette->file().isAt(key))
+        palette->file() = KnownFile(key);
     return palettes.emplace(key, std::move(palette)).first;
 }
 

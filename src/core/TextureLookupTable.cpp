@@ -7,6 +7,7 @@
 #include "platform/Platform.h"
 #include "platform/StringId.h"
 
+#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -77,6 +78,7 @@ TextureLookupTable::TextureLookupTable(const TextureLookupTable& other)
     , path(other.path)
     , title(other.title)
     , modified(other.modified)
+    , file_(other.file_)
     , savedTable_(other.savedTable_)
     , makeRecord_(other.makeRecord_)
     , jointSide_(std::make_unique<Side>(*this)) {
@@ -120,9 +122,10 @@ bool TextureLookupTable::save(const char* name, bool forceDialog) {
         reportTlf(text(StringId::FileIsOfOpenPalette, {displayPath(target)}));
         return false;
     }
-    if (!table.saveTlf(target))
+    if (!file_.mayBeReplaced(target) || !table.saveTlf(target))
         return false;
     path = target;
+    file_ = KnownFile(path);
     titleFromPath();
     modified = false;
     markSaved();
@@ -148,11 +151,30 @@ bool TextureLookupTable::open(const char* name) {
             return false;
         path = *chosen;
     }
+    KnownFile now(path);
     if (!table.readTlf(path))
         return false;
+    file_ = std::move(now);
     titleFromPath();
     markSaved();
     updateTitle();
+    return true;
+}
+
+bool TextureLookupTable::reloadFile() {
+    KnownFile now(path);
+    TlutData read;
+    if (!read.readTlf(path))
+        return false;
+    if (!(read == table)) {
+        beginEdit();
+        table = std::move(read);
+        commitEdit();
+    }
+    file_ = std::move(now);
+    title.resize(std::min(title.size(), title.find(kModifiedMark)));
+    modified = false;
+    markSaved();
     return true;
 }
 
@@ -255,7 +277,7 @@ bool TextureLookupTable::createPalette(DisplayPalette& palette) const {
 }
 
 bool TextureLookupTable::hasUnsavedChanges() const {
-    return modified || !edits_.standsAtSavedPosition() || !holdsWhatTheFileHolds();
+    return modified || !edits_.standsAtSavedPosition() || !holdsWhatTheFileHolds() || file_.isMissing();
 }
 
 void TextureLookupTable::markUnsaved() {

@@ -4,6 +4,7 @@
 #include "core/JointStep.h"
 #include "core/TlutData.h"
 #include "platform/DisplayPalette.h"
+#include "platform/KnownFile.h"
 
 #include <cstdint>
 #include <memory>
@@ -37,6 +38,12 @@ public:
     /// Reads the palette from `name`, from its own path when there is no name, or from a file that the user
     /// is asked for when there is neither. A modified palette refuses.
     virtual bool open(const char* name);
+
+    /// Takes over what the file holds now, as one step of the history. False, changing nothing, when it could
+    /// not be read, which has been reported.
+    bool reloadFile();
+    /// What the palette knows of its file.
+    [[nodiscard]] KnownFile& file() noexcept { return file_; }
 
     // As the setters of TlutData; a change marks the palette modified.
     virtual bool setRed(std::int32_t index, std::int32_t value);
@@ -121,6 +128,7 @@ private:
     void markSaved();
     [[nodiscard]] std::unique_ptr<UndoRecord> newRecord() const;
 
+    KnownFile file_;
     std::optional<TlutData> savedTable_; ///< What was last written or read.
     RecordFactory makeRecord_;
     std::unique_ptr<JointDocument> jointSide_;

@@ -37,6 +37,8 @@ void CDocument::setTitle(const std::string& title) {
 void CDocument::setPathName(const std::string& path) {
     pathName_ = platform().files().fullPath(path);
     title_ = fileNameOf(pathName_);
+    if (!file_.isAt(pathName_))
+        file_ = KnownFile(pathName_);
     tellRenamed();
     if (template_ != nullptr)
         template_->pathNamed(pathName_);
@@ -86,11 +88,13 @@ void CDocument::removeTitleListener(DocumentTitleListener& listener) {
 
 bool CDocument::onNewDocument() {
     pathName_.clear();
+    file_ = {};
     setModified(false);
     return true;
 }
 
-bool CDocument::onOpenDocument(const std::string& /*path*/) {
+bool CDocument::onOpenDocument(const std::string& path) {
+    file_ = KnownFile(path);
     setModified(false);
     return true;
 }

@@ -2,9 +2,11 @@
 
 #include "framework/CommandTarget.h"
 #include "framework/DocumentView.h"
+#include "platform/KnownFile.h"
 
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace dyeworks {
@@ -34,6 +36,14 @@ public:
     /// That no other document of this run of the program has or had.
     [[nodiscard]] std::uint64_t number() const noexcept { return number_; }
 
+    /// What it knows of its file.
+    [[nodiscard]] KnownFile& file() noexcept { return file_; }
+    /// Takes over what the file holds now. False, changing nothing, when it could not be read, which has been
+    /// reported, or the user rather keeps what is here.
+    virtual bool reloadFile() { return false; }
+    /// What the document holds is in no file: until it is saved it counts as changed.
+    virtual void markUnsaved() { setModified(true); }
+
     [[nodiscard]] DocumentTemplate* documentTemplate() const noexcept { return template_; }
 
     /// Views are not owned. Title listeners hear of each that comes or goes.
@@ -48,7 +58,8 @@ public:
 
     /// Empties the document for a fresh start. False abandons it. Here: no path, not modified.
     virtual bool onNewDocument();
-    /// Reads the file. False when it could not be read, which has been reported. Here: not modified.
+    /// Reads the file. False when it could not be read, which has been reported. Here: not modified, and
+    /// about to read the file.
     virtual bool onOpenDocument(const std::string& path);
     /// Writes the document to `path` and clears the modified flag. An empty path asks for a name, which
     /// becomes the document's path once it is written. False when it could not be written (which has been
@@ -58,7 +69,7 @@ public:
     virtual void onCloseDocument() {}
 
     /// Whether closing would lose something.
-    [[nodiscard]] virtual bool hasUnsavedChanges() const { return modified_; }
+    [[nodiscard]] virtual bool hasUnsavedChanges() const { return modified_ || file_.isMissing(); }
     /// Asks "save?" when there are unsaved changes and saves on Yes. True: the caller may go on, which is so
     /// after a save that succeeded and after No.
     virtual bool saveModified();
@@ -70,6 +81,10 @@ public:
     bool save();
     bool saveAs();
 
+protected:
+    /// What the document holds is what is now in the file, or what is about to be read from it.
+    void setFile(KnownFile file) { file_ = std::move(file); }
+
 private:
     void OnFileSave();
     void OnFileSaveAs();
@@ -80,6 +95,7 @@ private:
     DocumentTemplate* template_;
     std::string title_;
     std::string pathName_;
+    KnownFile file_;
     bool modified_ = false;
     std::uint64_t changes_ = 0;
     std::uint64_t number_;

@@ -160,7 +160,7 @@ std::string CDyeworksDoc::displayName() const {
 bool CDyeworksDoc::hasUnsavedChanges() const {
     bool floats = false;
     forEachViewer([&](const ImageViewer& viewer) { floats = floats || viewer.hasFloatingPiece(); });
-    return floats || isModified() || !edits_.standsAtSavedPosition();
+    return floats || CDocument::hasUnsavedChanges() || !edits_.standsAtSavedPosition();
 }
 
 void CDyeworksDoc::OnUpdateAttach(CommandUi& ui) {

@@ -168,6 +168,9 @@ public:
     /// A bitmap's colours become a new palette.
     bool onOpenDocument(const std::string& path) override;
     bool onSaveDocument(const std::string& path) override;
+    /// One step of the history, so that what was here comes back with Undo. What floats is placed before.
+    bool reloadFile() override;
+    void markUnsaved() override;
     void onCloseDocument() override;
     [[nodiscard]] std::string displayName() const override;
     /// Also when the history stands elsewhere than it stood when the file was last written, and while a piece
@@ -218,6 +221,7 @@ private:
     [[nodiscard]] static bool goesWithoutUndo();
     void editedWithoutUndo(ImageViewer* viewer);
     void contentsAreSaved();
+    void contentsAreInFile();
     void contentsAreUnsaved();
 
     static constexpr std::int32_t kPreviews = 2;

@@ -8,6 +8,8 @@
 #include "platform/StringId.h"
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 #include <vector>
 
 namespace dyeworks {
@@ -96,14 +98,21 @@ bool CDyeworksDoc::onSaveDocument(const std::string& path) {
             return false;
         target = *chosen;
     }
-    if (!writeCanvas(target))
+    if (!file().mayBeReplaced(target) || !writeCanvas(target))
         return false;
-    edits_.markSaved();
-    unrecorded_ = false;
-    setModified(false);
+    setFile(KnownFile(target));
+    contentsAreInFile();
     if (path.empty())
         setPathName(target);
     return true;
+}
+
+/// The history goes on from here.
+void CDyeworksDoc::contentsAreInFile() {
+    edits_.markSaved();
+    unrecorded_ = false;
+    historyMoved_ = false;
+    setModified(false);
 }
 
 bool CDyeworksDoc::settlePieces() {
@@ -154,8 +163,10 @@ void CDyeworksDoc::Revert() {
                                                   MessageButtons::YesNo) != MessageAnswer::Yes)
         return;
     TextureCanvas saved;
+    KnownFile now(pathName());
     if (!loadCanvas(saved, pathName()))
         return;
+    setFile(std::move(now));
     forEachViewer([](ImageViewer& viewer) { viewer.DropSelection(); });
     takeContents(saved);
     contentsAreSaved();
@@ -163,6 +174,30 @@ void CDyeworksDoc::Revert() {
     setModified(false);
     host_.imageChanged(*this, Rect{0, 0, canvas_.width() - 1, canvas_.height() - 1});
     RefreshPalette();
+}
+
+bool CDyeworksDoc::reloadFile() {
+    KnownFile now(pathName());
+    auto loaded = std::make_unique<TextureCanvas>();
+    if (!loadCanvas(*loaded, pathName()) || !settlePieces())
+        return false;
+    const bool fits = loaded->width() == canvas_.width() && loaded->height() == canvas_.height() &&
+                      loaded->bitsPerPixel() == canvas_.bitsPerPixel();
+    // What is selected and where the window stands stay as they are, where they can.
+    const bool taken =
+        fits ? Edit(nullptr, [&](TextureCanvas& canvas) { static_cast<void>(canvas.CopyFrom(*loaded)); })
+             : ReplaceImage([&](const TextureCanvas&) { return std::move(loaded); });
+    if (!taken)
+        return false;
+    setFile(std::move(now));
+    contentsAreInFile();
+    return true;
+}
+
+void CDyeworksDoc::markUnsaved() {
+    edits_.loseSavedPosition();
+    unrecorded_ = true;
+    setModified(true);
 }
 
 /// The image keeps its colours as far as it has the same number of them.

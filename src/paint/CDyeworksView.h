@@ -124,6 +124,9 @@ public:
     void ToggleGrid();
     /// Lets the texels of a value stand out from now on, without touching them; nothing: all look as always.
     void StandOut(std::optional<std::uint32_t> value);
+    /// Shows another canvas in the place of the image's, from the same corner on, without touching that;
+    /// null: the image again. The canvas must outlive that.
+    void ShowInstead(const TextureCanvas* other);
     /// The image stays where it is as far as the window lets it.
     void ToggleRepeat();
     /// Selects texels of the image (inclusive), at least two by two where it has as many, with the Select
@@ -232,7 +235,8 @@ private:
     Size shownSize_{1, 1};
     bool initialised_ = false;
     std::optional<std::uint32_t> standingOut_;
-    bool noPaletteShown_ = false; ///< What the window shows is the words in place of the image.
+    const TextureCanvas* instead_ = nullptr; ///< Mostly none.
+    bool noPaletteShown_ = false;            ///< What the window shows is the words in place of the image.
     /// Where the window was scrolled to when its file was last open. Until the first paint the window takes
     /// on its size by and by, and a size that is passed through must not cut the position.
     std::optional<Point> restoredScroll_;

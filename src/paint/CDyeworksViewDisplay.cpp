@@ -42,13 +42,18 @@ void CDyeworksView::Paint(Surface& surface, const Rect& contentArea, std::uint32
     Surface logical = surface;
     logical.originX -= origin.x;
     logical.originY -= origin.y;
-    ViewRenderer(document_.canvas(), shown)
+    ViewRenderer(instead_ == nullptr ? document_.canvas() : *instead_, shown)
         .draw(logical, {contentArea.left - origin.x, contentArea.top - origin.y, contentArea.right - origin.x,
                         contentArea.bottom - origin.y});
 }
 
 void CDyeworksView::StandOut(std::optional<std::uint32_t> value) {
     if (std::exchange(standingOut_, value) != value)
+        window_.invalidateAll();
+}
+
+void CDyeworksView::ShowInstead(const TextureCanvas* other) {
+    if (std::exchange(instead_, other) != other)
         window_.invalidateAll();
 }
 

@@ -36,6 +36,16 @@ struct FileEntry {
     bool directory = false;
 };
 
+/// What tells a version of a file from most others without reading it.
+struct FileStamp {
+    std::uint64_t device = 0;
+    std::uint64_t identity = 0; ///< Of the file on its device; another one when it was replaced.
+    std::uint64_t size = 0;     ///< In bytes.
+    std::int64_t time = 0;      ///< Of its last change, in nanoseconds since 1970 (UTC).
+
+    bool operator==(const FileStamp&) const = default;
+};
+
 /// Parts of a file's contents, in their order.
 using FilePieces = std::span<const std::span<const std::byte>>;
 
@@ -50,6 +60,20 @@ public:
 
     /// Reads on until `room` is full or the file ends or cannot be read further; how many bytes came.
     [[nodiscard]] virtual std::size_t read(std::span<std::byte> room) = 0;
+};
+
+/// Keeps what is about to be written over a file that cannot be replaced in one step.
+class SafetyCopies {
+public:
+    virtual ~SafetyCopies() = default;
+
+    /// The file at `path` is going to hold these pieces. False: they could not be kept, and the file is left
+    /// alone.
+    [[nodiscard]] virtual bool keep(const std::string& path, FilePieces pieces) = 0;
+    /// The file holds them, or what it held before.
+    virtual void release(const std::string& path) = 0;
+    /// Writing has broken off, and the file is no longer whole.
+    virtual void broken(const std::string& path, FileError why) = 0;
 };
 
 /// The file system. Paths are UTF-8 with "\" between their parts; "/" is accepted and means the same. A
@@ -72,6 +96,9 @@ public:
     [[nodiscard]] virtual bool exists(const std::string& path) const = 0;
     [[nodiscard]] virtual bool isDirectory(const std::string& path) const = 0;
 
+    /// Of the file that the name leads to; nothing when there is none, or it is no regular one.
+    [[nodiscard]] virtual std::optional<FileStamp> stamp(const std::string& path) const = 0;
+
     /// The entries that match `pattern`, whose last part may hold "*" and "?" (case-blind), without "." and
     /// "..", in the order of their names. "*.*" matches every name.
     [[nodiscard]] virtual std::vector<FileEntry> enumerate(const std::string& pattern) const = 0;
@@ -87,6 +114,9 @@ public:
     /// bytes go to a temporary file in its folder, are flushed to the disk and renamed over it. Permissions
     /// survive, and a symbolic link keeps pointing at the replaced file. Temporary files in the folder whose
     /// program was killed are taken away. Nothing: written.
+    ///
+    /// A file that may be written in a folder that may not is written in place, once the pieces are in the
+    /// safety copies; without those it is left alone.
     [[nodiscard]] virtual std::optional<FileError> writePieces(const std::string& path,
                                                                FilePieces pieces) = 0;
 
@@ -94,6 +124,9 @@ public:
     [[nodiscard]] std::optional<FileError> write(const std::string& path, std::span<const std::byte> bytes) {
         return writePieces(path, FilePieces(&bytes, 1));
     }
+
+    /// Null: nobody keeps any. They must outlive their use.
+    virtual void setSafetyCopies(SafetyCopies* copies) = 0;
 
     /// Folder of the running program, with a trailing "\".
     [[nodiscard]] virtual std::string programFolder() const = 0;

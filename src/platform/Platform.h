@@ -2,6 +2,7 @@
 
 #include "platform/Clipboard.h"
 #include "platform/FileDialogs.h"
+#include "platform/FileWatcher.h"
 #include "platform/Files.h"
 #include "platform/Library.h"
 #include "platform/Locale.h"
@@ -24,6 +25,7 @@ public:
     virtual Messages& messages() = 0;
     virtual FileDialogs& fileDialogs() = 0;
     virtual Files& files() = 0;
+    virtual FileWatcher& fileWatcher() = 0;
     virtual Profile& profile() = 0;
     virtual Clipboard& clipboard() = 0;
     virtual PictureReader& pictureReader() = 0;

@@ -30,7 +30,7 @@ class StateFolder {
 public:
     virtual ~StateFolder() = default;
 
-    /// Replaces the file `name`, a plain name, in one step. May be called on one thread at a time, whichever.
+    /// Replaces the file `name`, a plain name, in one step. May be called on any thread, as `remove`.
     [[nodiscard]] virtual std::optional<FileError> write(const std::string& name, FilePieces pieces) = 0;
     /// Nothing when there is no such file.
     virtual void remove(const std::string& name) = 0;

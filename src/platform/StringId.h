@@ -68,6 +68,29 @@ enum class StringId : int {
     RecoveryDiscardQuestion, ///< %1 number
     RecoveryNotOpened,       ///< %1 titles, a line each
     RecoveryFailed,          ///< %1 reason
+    OutsideChanged,          ///< %1 file, as all below
+    OutsideChangedBoth,
+    OutsideRemoved,
+    OutsideBack,
+    OutsideBackChanged,
+    OutsideReload,
+    OutsideReloadTip,
+    OutsideReloadProjectTip,
+    OutsideKeep,
+    OutsideKeepTip,
+    OutsideCompare,
+    OutsideCompareTip,
+    OutsideClose,
+    OutsideCloseTip,
+    OutsideShowsFile,
+    OutsideShowsOwn,
+    OutsideSizesDiffer, ///< %1, %2, %3 columns, rows and bits of the file's image, %4, %5, %6 of the other
+    OutsideReloaded,    ///< %1 file
+    OutsideBar,
+    OutsideOverQuestion, ///< %1 file
+    OptionsReloadUnchanged,
+    OptionsReloadUnchangedTip,
+    WrittenInPlaceBroke, ///< %1 file, %2 why
     ReadingPicture,
     MatchingColours,
     PictureOpened, ///< %1 name, %2 and %3 numbers

@@ -132,6 +132,27 @@ bool CTPFDocument::Recover(const std::string& path, std::span<const std::byte> c
     return true;
 }
 
+bool CTPFDocument::reloadFile() {
+    if (isModified() && applicationMessage(text(StringId::RevertQuestion, {displayName()}),
+                                           MessageButtons::YesNo) != MessageAnswer::Yes)
+        return false;
+    KnownFile now(pathName());
+    CTPFFile read;
+    std::optional<FileError> why;
+    if (!read.Read(pathName(), &why)) {
+        applicationMessage(why ? text(StringId::CannotOpenFile, {displayPath(pathName()), describe(*why)})
+                               : text(StringId::CannotReadFile, {displayPath(pathName())}));
+        return false;
+    }
+    EndPlugIns();
+    projectFile_ = std::move(read);
+    setFile(std::move(now));
+    setModified(false);
+    RestartPlugIns();
+    host_.ProjectChanged();
+    return true;
+}
+
 bool CTPFDocument::onSaveDocument(const std::string& path) {
     std::string target = path;
     if (target.empty()) {
@@ -141,6 +162,8 @@ bool CTPFDocument::onSaveDocument(const std::string& path) {
             return false;
         target = *chosen;
     }
+    if (!file().mayBeReplaced(target))
+        return false;
     if (!write(target)) {
         applicationMessage(text(StringId::CannotSaveProject, {displayPath(target)}));
         return false;
@@ -153,6 +176,7 @@ bool CTPFDocument::onSaveDocument(const std::string& path) {
 bool CTPFDocument::write(const std::string& path) {
     if (!projectFile_.Write(path))
         return false;
+    setFile(KnownFile(path));
     setModified(false);
     updateAllViews(nullptr, kHintSelection);
     return true;

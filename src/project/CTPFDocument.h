@@ -43,6 +43,8 @@ public:
     /// Opens what was kept of the file, as if it were its contents. False when the project that is open
     /// stays.
     bool Recover(const std::string& path, std::span<const std::byte> contents);
+    /// The project begins anew, which cannot be undone; asks when it has unsaved changes.
+    bool reloadFile() override;
     /// Saved under another name, the project is that file's.
     bool onSaveDocument(const std::string& path) override;
     /// Asks about the project's changes, then closes the images and palettes of its pictures after a

@@ -11,10 +11,11 @@ namespace dyeworks {
 namespace {
 
 constexpr std::string_view kFirstLine = "Orrery Dyeworks recovery 1\n";
-constexpr std::array<std::pair<RecoveryItem::Kind, std::string_view>, 3> kKinds{
+constexpr std::array<std::pair<RecoveryItem::Kind, std::string_view>, 4> kKinds{
     {{RecoveryItem::Kind::Palette, "palette"},
      {RecoveryItem::Kind::Image, "image"},
-     {RecoveryItem::Kind::Project, "project"}}};
+     {RecoveryItem::Kind::Project, "project"},
+     {RecoveryItem::Kind::File, "file"}}};
 
 /// File names may hold line breaks.
 std::string escaped(std::string_view value) {

@@ -14,7 +14,9 @@ struct RecoveryItem {
     enum class Kind {
         Palette, ///< Contents: colour type and entries (`packPalette`).
         Image,   ///< Contents: a bitmap file.
-        Project  ///< Contents: what the project's file would hold.
+        Project, ///< Contents: what the project's file would hold.
+        File ///< Contents: the bytes of the file, of any of the three kinds, whose writing may have broken
+             ///< off.
     };
     Kind kind = Kind::Image;
     std::string path; ///< Of its file; of a palette without one its key; else empty.

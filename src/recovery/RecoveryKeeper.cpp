@@ -35,6 +35,7 @@ const char* fileStem(RecoveryItem::Kind kind) {
     case RecoveryItem::Kind::Image:
         return "image-";
     case RecoveryItem::Kind::Project:
+    case RecoveryItem::Kind::File:
         break;
     }
     return "project-";

@@ -159,6 +159,7 @@ void CDyeworksApp::BroadcastPaletteChange(const std::string& key, const TextureL
 
 void CDyeworksApp::imageChanged(const CDyeworksDoc& image, const std::optional<Rect>& texels) {
     recovery_.imageChanged(image, texels);
+    outside_.imageChanged(image, texels);
     usage_.imageChanged(texels.has_value());
     if (mainFrame_ != nullptr)
         mainFrame_->imageChanged(image, texels);

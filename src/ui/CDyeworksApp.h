@@ -17,6 +17,7 @@
 #include "ui/EntryOrderCommands.h"
 #include "ui/MainFrameHost.h"
 #include "ui/OpenRequestQueue.h"
+#include "ui/OutsideChanges.h"
 #include "ui/PaletteFileCommands.h"
 #include "ui/PaletteUsage.h"
 #include "ui/PastePictureCommands.h"
@@ -191,6 +192,7 @@ private:
     PaletteFileCommands paletteFiles_{*this};
     PaletteUsage usage_{*this};
     CrashRecovery recovery_{*this};
+    OutsideChanges outside_{*this};
     std::unique_ptr<TerminationSignals> signals_;
     EntryOrderCommands entryOrder_{*this};
     std::vector<std::unique_ptr<DocumentTemplate>> templates_;

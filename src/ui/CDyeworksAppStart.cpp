@@ -94,6 +94,7 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
 /// Offers what an earlier run has left before anything else is opened, and begins to keep what this one does.
 void CDyeworksApp::keepUnsavedWork() {
     recovery_.start();
+    outside_.start();
     signals_ = std::make_unique<TerminationSignals>([this](int signal) { endAtOnce(signal); });
     // Whoever logs out is not kept waiting by questions; the work is there again at the next start.
     QObject::connect(
@@ -121,6 +122,7 @@ void CDyeworksApp::keepSettings() const {
 }
 
 int CDyeworksApp::ExitInstance() {
+    outside_.end();
     recovery_.end();
     keepSettings();
     setPlugInHost(nullptr);

@@ -1,12 +1,16 @@
 #include "ui/CrashRecovery.h"
 
 #include "core/PaletteSet.h"
+#include "core/TlfFormat.h"
+#include "core/TmfFormat.h"
 #include "framework/DocumentTemplate.h"
 #include "framework/PathText.h"
 #include "paint/BmpFormat.h"
 #include "paint/CDyeworksDoc.h"
+#include "paint/CanvasFile.h"
 #include "platform/Platform.h"
 #include "platform/StringId.h"
+#include "platform/TextCase.h"
 #include "project/CTPFDocument.h"
 #include "recovery/PackedPalette.h"
 #include "ui/CMainFrame.h"
@@ -84,6 +88,9 @@ void CrashRecovery::start() {
     keeper_.emplace(platform().stateFolder(),
                     RecoveryKeeper::Open{[this] { return workspace_.documents(); },
                                          [this] { return workspace_.paletteSet(); }});
+    copies_.emplace(platform().stateFolder(), [](const std::string& path, FileError why) {
+        applicationMessage(text(StringId::WrittenInPlaceBroke, {displayPath(path), describe(why)}));
+    });
     timer_.start(kBetweenLooks);
 }
 
@@ -109,6 +116,7 @@ void CrashRecovery::keepNow() {
 
 void CrashRecovery::end() {
     timer_.stop();
+    copies_.reset();
     if (keeper_)
         keeper_->discard();
     keeper_.reset();
@@ -188,22 +196,47 @@ void CrashRecovery::recover(const std::vector<std::size_t>& rows) {
 bool CrashRecovery::open(const RecoveryItem& item, std::span<const std::byte> contents,
                          std::vector<Renamed>& palettes) {
     switch (item.kind) {
-    case RecoveryItem::Kind::Palette:
-        return openPalette(item, contents, palettes);
-    case RecoveryItem::Kind::Image:
-        return openImage(item, contents, palettes);
+    case RecoveryItem::Kind::Palette: {
+        const std::optional<TlutData> table = unpackPalette(contents);
+        return table && openPalette(item, *table, palettes);
+    }
+    case RecoveryItem::Kind::Image: {
+        const Result<BmpImage, BmpError> bitmap = parseBmp(contents);
+        return bitmap &&
+               openImage(
+                   item, [&](CDyeworksDoc& image) { return image.CreateFrom(bitmap.value()); }, palettes);
+    }
+    case RecoveryItem::Kind::File:
+        return openFile(item, contents, palettes);
     case RecoveryItem::Kind::Project:
         break;
     }
     return openProject(item, contents);
 }
 
-bool CrashRecovery::openPalette(const RecoveryItem& item, std::span<const std::byte> contents,
+/// By the kind of the file, as if it were opened.
+bool CrashRecovery::openFile(const RecoveryItem& item, std::span<const std::byte> contents,
+                             std::vector<Renamed>& palettes) {
+    const std::string_view extension = extensionOf(item.path);
+    if (equalIgnoringCase(extension, ".tpf"))
+        return openProject(item, contents);
+    if (equalIgnoringCase(extension, ".tlf")) {
+        const auto table = parseTlf(contents);
+        return table && openPalette(item, table.value(), palettes);
+    }
+    RecoveryItem as = item;
+    as.kind = RecoveryItem::Kind::Image;
+    if (isBmpName(item.path))
+        return open(as, contents, palettes);
+    const auto image = parseTmf(contents);
+    return image &&
+           openImage(
+               as, [&](CDyeworksDoc& document) { return document.CreateFrom(image.value()); }, palettes);
+}
+
+bool CrashRecovery::openPalette(const RecoveryItem& item, const TlutData& table,
                                 std::vector<Renamed>& palettes) {
-    const std::optional<TlutData> table = unpackPalette(contents);
-    if (!table)
-        return false;
-    auto palette = std::make_unique<TextureLookupTable>(*table);
+    auto palette = std::make_unique<TextureLookupTable>(table);
     palette->path = item.path;
     palette->titleFromPath();
     palette->markUnsaved();
@@ -214,11 +247,8 @@ bool CrashRecovery::openPalette(const RecoveryItem& item, std::span<const std::b
     return true;
 }
 
-bool CrashRecovery::openImage(const RecoveryItem& item, std::span<const std::byte> contents,
+bool CrashRecovery::openImage(const RecoveryItem& item, const std::function<bool(CDyeworksDoc&)>& fill,
                               const std::vector<Renamed>& palettes) {
-    const Result<BmpImage, BmpError> bitmap = parseBmp(contents);
-    if (!bitmap)
-        return false;
     // What became of the palette; one that had no unsaved changes is to be opened from its file.
     std::string key = item.attachedName;
     const auto renamed = std::ranges::find(palettes, key, &Renamed::before);
@@ -229,7 +259,7 @@ bool CrashRecovery::openImage(const RecoveryItem& item, std::span<const std::byt
     const bool isFree = !item.path.empty() && workspace_.FindOpenDocument(item.path) == nullptr;
     return workspace_.imageTemplate().newDocument(item.title, [&](CDocument& document) {
         auto& image = static_cast<CDyeworksDoc&>(document);
-        if (!image.CreateFrom(bitmap.value()))
+        if (!fill(image))
             return false;
         if (isFree)
             image.setPathName(item.path);

@@ -2,6 +2,7 @@
 
 #include "paint/Rect.h"
 #include "platform/StateFolder.h"
+#include "recovery/InPlaceCopies.h"
 #include "recovery/RecoveryItem.h"
 #include "recovery/RecoveryKeeper.h"
 
@@ -9,6 +10,7 @@
 #include <QTimer>
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -60,15 +62,19 @@ private:
     void recover(const std::vector<std::size_t>& rows);
     [[nodiscard]] bool open(const RecoveryItem& item, std::span<const std::byte> contents,
                             std::vector<Renamed>& palettes);
-    [[nodiscard]] bool openImage(const RecoveryItem& item, std::span<const std::byte> contents,
+    /// `fill` gives a new document its texels.
+    [[nodiscard]] bool openImage(const RecoveryItem& item, const std::function<bool(CDyeworksDoc&)>& fill,
                                  const std::vector<Renamed>& palettes);
-    [[nodiscard]] bool openPalette(const RecoveryItem& item, std::span<const std::byte> contents,
+    [[nodiscard]] bool openPalette(const RecoveryItem& item, const TlutData& table,
                                    std::vector<Renamed>& palettes);
+    [[nodiscard]] bool openFile(const RecoveryItem& item, std::span<const std::byte> contents,
+                                std::vector<Renamed>& palettes);
     [[nodiscard]] bool openProject(const RecoveryItem& item, std::span<const std::byte> contents);
     void forget(const std::vector<std::size_t>& rows);
 
     Workspace& workspace_;
     std::optional<RecoveryKeeper> keeper_;
+    std::optional<InPlaceCopies> copies_;
     QTimer timer_;
     bool failureTold_ = false;
     std::optional<std::vector<std::unique_ptr<LeftState>>> states_; ///< Once they have been looked for.

@@ -205,6 +205,49 @@ TEST_F(PosixFilesWrite, LeavesProtectedFilesAndFoldersAlone) {
     EXPECT_EQ(fake.files.enumerate("c:\\closed\\*.*").size(), 1U);
 }
 
+TEST_F(PosixFilesWrite, WritesInPlaceWhereTheFolderTakesNoFileOnceACopyIsKept) {
+    struct Copies : SafetyCopies {
+        bool keep(const std::string& path, FilePieces pieces) override {
+            log += "keep " + path + " " + std::to_string(pieces.front().size()) + "\n";
+            return keeps;
+        }
+        void release(const std::string& path) override { log += "release " + path + "\n"; }
+        void broken(const std::string& path, FileError /*why*/) override { log += "broken " + path + "\n"; }
+        bool keeps = true;
+        std::string log;
+    } copies;
+    fake.files.setSafetyCopies(&copies);
+    fake.files.putFile("c:\\closed\\sky.tlf", "the old text");
+    fake.files.putFile("c:\\closed\\locked.tlf", "old");
+    fs::permissions(host("closed/locked.tlf"), fs::perms::owner_read);
+    fs::permissions(host("closed"), fs::perms::owner_read | fs::perms::owner_exec);
+    {
+        const OrdinaryUser user(fake.files.hostFolder());
+        EXPECT_EQ(write("c:\\closed\\sky.tlf", "new"), std::nullopt);
+        EXPECT_EQ(fake.files.textOf("c:\\closed\\sky.tlf"), "new");
+        EXPECT_EQ(write("c:\\closed\\locked.tlf", "new"), FileError::AccessDenied);
+        EXPECT_EQ(write("c:\\closed\\none.tlf", "new"), FileError::AccessDenied);
+        copies.keeps = false;
+        EXPECT_EQ(write("c:\\closed\\sky.tlf", "newer"), FileError::AccessDenied);
+        copies.keeps = true;
+        // There is no room: nothing is overwritten.
+        rlimit before{};
+        ::getrlimit(RLIMIT_FSIZE, &before);
+        const rlimit few{10, before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &few);
+        const std::optional<FileError> tooLong = write("c:\\closed\\sky.tlf", std::string(20, 'x'));
+        ::setrlimit(RLIMIT_FSIZE, &before);
+        EXPECT_EQ(tooLong, FileError::NoSpace);
+        EXPECT_EQ(fake.files.textOf("c:\\closed\\sky.tlf"), "new");
+        emptyWrites = 1;
+        EXPECT_EQ(write("c:\\closed\\sky.tlf", "x"), FileError::Other);
+    }
+    EXPECT_EQ(copies.log, "keep c:\\closed\\sky.tlf 3\nrelease c:\\closed\\sky.tlf\n"
+                          "keep c:\\closed\\sky.tlf 5\n"
+                          "keep c:\\closed\\sky.tlf 20\nrelease c:\\closed\\sky.tlf\n"
+                          "keep c:\\closed\\sky.tlf 1\nbroken c:\\closed\\sky.tlf\n");
+}
+
 TEST_F(PosixFilesWrite, WritesIntoAPipeThatHasNoName) {
     std::array<int, 2> ends{};
     ASSERT_EQ(::pipe(ends.data()), 0);

@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QBoxLayout>
 #include <QCloseEvent>
 #include <QFontMetrics>
 #include <QLayout>
@@ -49,8 +50,8 @@ WindowPlacement ChildFrame::placement() const {
     }
     placement.left = normalGeometry_.left();
     placement.top = normalGeometry_.top();
-    placement.right = normalGeometry_.left() + normalGeometry_.width();
-    placement.bottom = normalGeometry_.top() + normalGeometry_.height();
+    placement.right = normalGeometry_.left() + normalGeometry_.width() - grown_.width();
+    placement.bottom = normalGeometry_.top() + normalGeometry_.height() - grown_.height();
     return placement;
 }
 
@@ -85,6 +86,36 @@ void ChildFrame::fitToContent(const ScrollView& view) {
             wanted.rheight() += view.horizontalScrollBar()->sizeHint().height();
     }
     resize(wanted.boundedTo(available).expandedTo(minimumSizeHint()));
+}
+
+void ChildFrame::setBar(QWidget* bar) {
+    const bool hasOwnSize = !isMaximized() && !isMinimized();
+    if (bar_ != nullptr) {
+        if (widget() != nullptr && bar_->isAncestorOf(QApplication::focusWidget()))
+            widget()->setFocus();
+        layout()->removeWidget(bar_);
+        bar_->hide();
+        bar_->deleteLater();
+        if (hasOwnSize)
+            resize(size() - grown_);
+        grown_ = QSize(0, 0);
+    }
+    bar_ = bar;
+    auto* const boxes = qobject_cast<QBoxLayout*>(layout());
+    if (bar == nullptr || boxes == nullptr)
+        return;
+    boxes->setSpacing(0);
+    boxes->insertWidget(0, bar);
+    bar->show();
+    if (!hasOwnSize || parentWidget() == nullptr)
+        return;
+    const QSize before = size();
+    resize(std::max(width(), bar->minimumSizeHint().width() + width() - contentsRect().width()), height());
+    // How high it is shows once it has its width.
+    layout()->activate();
+    const int below = parentWidget()->height() - geometry().bottom() - 1;
+    resize(width(), height() + std::clamp(bar->heightForWidth(bar->width()), 0, std::max(below, 0)));
+    grown_ = size() - before;
 }
 
 QSize ChildFrame::minimumSizeHint() const {

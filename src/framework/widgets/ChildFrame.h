@@ -47,6 +47,11 @@ public:
     /// right or bottom edge of the document area. A maximized or minimized frame keeps its size.
     void fitToContent(const ScrollView& view);
 
+    /// Puts a bar above the view, in place of the one before, which is deleted; null: none. The frame owns it
+    /// and is larger by it meanwhile, as far as there is room, so that as much of the view shows.
+    void setBar(QWidget* bar);
+    [[nodiscard]] QWidget* bar() const noexcept { return bar_; }
+
     /// Room for the buttons and for a dozen letters of the title.
     [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -66,6 +71,8 @@ private:
     FrameView* view_;
     std::span<const MenuItem> menus_;
     QRect normalGeometry_;
+    QWidget* bar_ = nullptr;
+    QSize grown_{0, 0}; ///< By how much the frame is larger for the bar.
     bool asks_ = true;
     bool releasing_ = false; ///< The view is being given up.
 };

@@ -10,6 +10,7 @@ public:
     Messages& messages() override { return fakes_.messages; }
     FileDialogs& fileDialogs() override { return fakes_.dialogs; }
     Files& files() override { return fakes_.files; }
+    FileWatcher& fileWatcher() override { return fakes_.fileWatcher; }
     Profile& profile() override { return fakes_.profile; }
     Clipboard& clipboard() override { return fakes_.clipboard; }
     PictureReader& pictureReader() override { return fakes_.pictures; }

@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 #include "platform/fake/FakeClipboard.h"
 #include "platform/fake/FakeFileDialogs.h"
+#include "platform/fake/FakeFileWatcher.h"
 #include "platform/fake/FakeFiles.h"
 #include "platform/fake/FakeLibrary.h"
 #include "platform/fake/FakeLocale.h"
@@ -37,6 +38,7 @@ public:
     FakeMessages messages;
     FakeFileDialogs dialogs;
     FakeFiles files;
+    FakeFileWatcher fileWatcher;
     FakeProfile profile;
     FakeClipboard clipboard;
     FakePictureReader pictures;

@@ -28,4 +28,13 @@ enum class Flush { Yes, No };
 [[nodiscard]] std::optional<FileError> writeHostFile(const std::string& path, FilePieces pieces,
                                                      Flush flush = Flush::Yes);
 
+/// Whether a file that could not be replaced for this reason may still be written: it is a regular one, and
+/// it is its folder that takes no other.
+[[nodiscard]] bool takesNothingButContents(const std::string& path, FileError why);
+
+/// Writes over what the file holds, which is lost where that breaks off. Room for a longer file is taken
+/// before anything is overwritten. `path` is as above; `torn` tells whether the file was touched.
+[[nodiscard]] std::optional<FileError> writeIntoHostFile(const std::string& path, FilePieces pieces,
+                                                         bool& torn);
+
 } // namespace dyeworks

@@ -132,6 +132,16 @@ bool PosixFiles::isDirectory(const std::string& path) const {
     return !host.empty() && isHostDirectory(host);
 }
 
+std::optional<FileStamp> PosixFiles::stamp(const std::string& path) const {
+    const std::string host = hostPath(path);
+    struct stat status {};
+    if (host.empty() || ::stat(host.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
+        return std::nullopt;
+    constexpr std::int64_t kSecond = 1'000'000'000;
+    return FileStamp{status.st_dev, status.st_ino, static_cast<std::uint64_t>(status.st_size),
+                     status.st_mtim.tv_sec * kSecond + status.st_mtim.tv_nsec};
+}
+
 std::vector<FileEntry> PosixFiles::enumerate(const std::string& pattern) const {
     std::vector<FileEntry> entries;
     if (pattern.empty() || isSeparator(pattern.back()) || isDotName(pattern))
@@ -174,7 +184,18 @@ std::optional<FileError> PosixFiles::writePieces(const std::string& path, FilePi
     const std::string host = hostPath(path);
     if (host.empty())
         return FileError::NotFound;
-    return writeHostFile(host, pieces);
+    const std::optional<FileError> error = writeHostFile(host, pieces);
+    if (!error || safetyCopies_ == nullptr || !takesNothingButContents(host, *error))
+        return error;
+    if (!safetyCopies_->keep(path, pieces))
+        return error;
+    bool torn = false;
+    const std::optional<FileError> failure = writeIntoHostFile(host, pieces, torn);
+    if (failure && torn)
+        safetyCopies_->broken(path, *failure);
+    else
+        safetyCopies_->release(path);
+    return failure;
 }
 
 std::string PosixFiles::programFolder() const {

@@ -26,11 +26,13 @@ public:
     bool setCurrentDirectory(const std::string& path) override;
     [[nodiscard]] bool exists(const std::string& path) const override;
     [[nodiscard]] bool isDirectory(const std::string& path) const override;
+    [[nodiscard]] std::optional<FileStamp> stamp(const std::string& path) const override;
     [[nodiscard]] std::vector<FileEntry> enumerate(const std::string& pattern) const override;
     [[nodiscard]] Result<ByteBuffer, FileError> read(const std::string& path) const override;
     [[nodiscard]] Result<std::unique_ptr<FileReader>, FileError>
     openForReading(const std::string& path) const override;
     [[nodiscard]] std::optional<FileError> writePieces(const std::string& path, FilePieces pieces) override;
+    void setSafetyCopies(SafetyCopies* copies) override { safetyCopies_ = copies; }
     [[nodiscard]] std::string programFolder() const override;
     [[nodiscard]] std::string shortPath(const std::string& path) const override;
     /// Empty when `path` is empty or stands on a server or a drive that is not mapped.
@@ -45,6 +47,7 @@ private:
     [[nodiscard]] std::optional<std::string> hostRootOf(const ProgramPath& path) const;
 
     DriveLookup drives_;
+    SafetyCopies* safetyCopies_ = nullptr;
     std::string programFolder_;
     // In the program's form, because it may lie on a drive, which the host's own one does not remember.
     std::string currentDirectory_ = "\\";

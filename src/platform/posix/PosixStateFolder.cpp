@@ -90,7 +90,11 @@ std::string PosixStateFolder::usersBase() {
     return std::string(home == nullptr ? "" : home) + "/.local/state" + kOwn;
 }
 
+/// Where it has not been made yet.
 std::optional<FileError> PosixStateFolder::make() {
+    const std::lock_guard guard(mutex_);
+    if (!folder_.empty())
+        return std::nullopt;
     std::error_code error;
     fs::create_directories(base_, error);
     if (error)
@@ -113,19 +117,23 @@ std::optional<FileError> PosixStateFolder::make() {
 }
 
 std::optional<FileError> PosixStateFolder::write(const std::string& name, FilePieces pieces) {
-    if (folder_.empty()) {
-        if (const auto error = make())
-            return error;
-    }
-    return writeHostFile(folder_ + '/' + name, pieces);
+    if (const auto error = make())
+        return error;
+    return writeHostFile(folder() + '/' + name, pieces);
+}
+
+std::string PosixStateFolder::folder() const {
+    const std::lock_guard lock(mutex_);
+    return folder_;
 }
 
 void PosixStateFolder::remove(const std::string& name) {
-    if (!folder_.empty())
-        (void)::unlink((folder_ + '/' + name).c_str());
+    if (const std::string from = folder(); !from.empty())
+        (void)::unlink((from + '/' + name).c_str());
 }
 
 void PosixStateFolder::discard() {
+    const std::lock_guard lock(mutex_);
     if (folder_.empty())
         return;
     removeWhole(folder_);
@@ -134,11 +142,12 @@ void PosixStateFolder::discard() {
 }
 
 std::vector<std::unique_ptr<LeftState>> PosixStateFolder::left() {
+    const std::string own = folder();
     std::vector<std::string> folders;
     std::error_code error;
     for (fs::directory_iterator entry(base_, error), end; !error && entry != end; entry.increment(error)) {
-        if (std::string path = entry->path().string(); path != folder_ && entry->is_directory(error) &&
-                                                       !entry->path().filename().string().starts_with('.'))
+        if (std::string path = entry->path().string();
+            path != own && entry->is_directory(error) && !entry->path().filename().string().starts_with('.'))
             folders.push_back(std::move(path));
     }
     std::ranges::sort(folders);

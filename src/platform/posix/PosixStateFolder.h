@@ -3,6 +3,7 @@
 #include "platform/StateFolder.h"
 #include "platform/posix/Descriptor.h"
 
+#include <mutex>
 #include <string>
 
 namespace dyeworks {
@@ -24,9 +25,11 @@ public:
 
 private:
     [[nodiscard]] std::optional<FileError> make();
+    [[nodiscard]] std::string folder() const;
 
     std::string base_;
-    std::string folder_; ///< Empty as long as it has not been made.
+    mutable std::mutex mutex_; ///< For what follows.
+    std::string folder_;       ///< Empty as long as it has not been made.
     Descriptor lock_;
 };
 

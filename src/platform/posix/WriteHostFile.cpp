@@ -195,7 +195,54 @@ ErrorNumber writeResolved(std::string path, FilePieces pieces, Flush flushes) {
     return replaceFile(path, &old, pieces, flushes);
 }
 
+/// Nothing is overwritten before there is room for all of it.
+ErrorNumber reserve(int file, off_t before, off_t wanted) {
+    if (wanted <= before)
+        return 0;
+    const ErrorNumber error = ::posix_fallocate(file, before, wanted - before);
+    if (error == 0 || error == EOPNOTSUPP || error == EINVAL)
+        return 0;
+    std::ignore = ::ftruncate(file, before);
+    return error;
+}
+
+ErrorNumber writeOver(const std::string& path, FilePieces pieces, bool& torn) {
+    Descriptor file(::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY));
+    struct stat old {};
+    if (!file.valid() || ::fstat(file.get(), &old) != 0)
+        return errno;
+    off_t size = 0;
+    for (const std::span<const std::byte> piece : pieces)
+        size += static_cast<off_t>(piece.size());
+    ErrorNumber error = reserve(file.get(), old.st_size, size);
+    if (error != 0)
+        return error;
+    torn = true;
+    error = writeAll(file.get(), pieces);
+    if (error == 0 && ::ftruncate(file.get(), size) != 0)
+        error = errno;
+    if (error == 0)
+        error = flush(file.get());
+    return error == 0 ? file.close() : error;
+}
+
 } // namespace
+
+bool takesNothingButContents(const std::string& path, FileError why) {
+    if (why != FileError::AccessDenied && why != FileError::ReadOnly)
+        return false;
+    struct stat named {};
+    return ::stat(path.c_str(), &named) == 0 && S_ISREG(named.st_mode) &&
+           ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
+}
+
+std::optional<FileError> writeIntoHostFile(const std::string& path, FilePieces pieces, bool& torn) {
+    const SignalShield shield;
+    const ErrorNumber error = writeOver(path, pieces, torn);
+    if (error == 0)
+        return std::nullopt;
+    return fileErrorFrom(error);
+}
 
 std::optional<FileError> writeHostFile(const std::string& path, FilePieces pieces, Flush flush) {
     const SignalShield shield;

@@ -8,6 +8,7 @@
 #include "platform/posix/PosixVersionInfo.h"
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFileDialogs.h"
+#include "platform/qt/QtFileWatcher.h"
 #include "platform/qt/QtMessages.h"
 #include "platform/qt/QtPictureReader.h"
 #include "platform/qt/QtProfile.h"
@@ -35,6 +36,7 @@ public:
     Messages& messages() override { return messages_; }
     FileDialogs& fileDialogs() override { return fileDialogs_; }
     Files& files() override { return files_; }
+    FileWatcher& fileWatcher() override { return fileWatcher_; }
     QtProfile& profile() override { return profile_; }
     Clipboard& clipboard() override { return clipboard_; }
     PictureReader& pictureReader() override { return pictureReader_; }
@@ -50,6 +52,7 @@ private:
     WindowContext windows_;
     QtProfile profile_;
     PosixFiles files_;
+    QtFileWatcher fileWatcher_{files_};
     QtMessages messages_;
     QtFileDialogs fileDialogs_;
     QtClipboard clipboard_;

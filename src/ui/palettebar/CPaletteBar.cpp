@@ -41,6 +41,16 @@ QSize CPaletteBar::compactSize() const {
     return controls_->compactSize().grownBy(layout()->contentsMargins());
 }
 
+void CPaletteBar::setBar(QWidget* bar) {
+    if (bar_ != nullptr) {
+        bar_->hide();
+        bar_->deleteLater();
+    }
+    bar_ = bar;
+    if (bar != nullptr)
+        static_cast<QBoxLayout*>(layout())->insertWidget(0, bar);
+}
+
 void CPaletteBar::setShown(bool shown) {
     shown_ = shown;
     setVisible(shown && parentWidget()->isVisible());

@@ -25,6 +25,9 @@ public:
     [[nodiscard]] bool isShown() const noexcept { return shown_; }
 
     [[nodiscard]] PaletteBarState& state() noexcept { return controls_->state(); }
+    /// Puts a bar above the controls, in place of the one before, which is deleted; null: none.
+    void setBar(QWidget* bar);
+    [[nodiscard]] QWidget* bar() const noexcept { return bar_; }
     /// As the controls do it.
     void showRemarks(std::vector<EntryRemark> remarks) { controls_->showRemarks(std::move(remarks)); }
     void selectEntries(EntryRange range) { controls_->selectEntries(range); }
@@ -58,6 +61,7 @@ private:
     CommandActions& actions_;
     CPaletteBarControls* controls_;
     QMenu* menu_;
+    QWidget* bar_ = nullptr;
     bool shown_ = true;
     bool keysLent_ = false; ///< To dialogs that opened while the bar had the keys.
 };

@@ -18,12 +18,18 @@ public:
     /// Shown when the sheet opens.
     void setAsksUseProject(bool asks) { asksUseProject_ = asks; }
 
+    /// Whether unchanged documents follow their files by themselves. The same.
+    [[nodiscard]] bool reloadsUnchanged() const noexcept { return reloadsUnchanged_; }
+    void setReloadsUnchanged(bool reloads) { reloadsUnchanged_ = reloads; }
+
     void showValues() override;
     [[nodiscard]] bool takeOver() override;
 
 private:
     QCheckBox* box_;
+    QCheckBox* reload_;
     bool asksUseProject_ = true;
+    bool reloadsUnchanged_ = false;
 };
 
 } // namespace dyeworks

@@ -1,5 +1,6 @@
 #include "ui/sheets/COptionPropertySheet.h"
 
+#include "framework/ReloadOption.h"
 #include "platform/StringId.h"
 #include "ui/sheets/AskUseProject.h"
 #include "ui/sheets/CGeneralPropertyPage.h"
@@ -25,8 +26,10 @@ void OptionsCommand(QWidget* owner, OptionsPage inFront) {
     if (inFront == OptionsPage::Rules)
         sheet.showPage(sheet.rulesPage());
     sheet.generalPage().setAsksUseProject(asksUseProject());
+    sheet.generalPage().setReloadsUnchanged(reloadsUnchanged());
     sheet.exec();
     setAsksUseProject(sheet.generalPage().asksUseProject());
+    setReloadsUnchanged(sheet.generalPage().reloadsUnchanged());
     setDefaultRules(sheet.rulesPage().rules());
 }
 
