@@ -14,6 +14,12 @@ function(dyeworks_target_settings target)
     set_target_properties(${target} PROPERTIES
       C_COMPILER_LAUNCHER "${DYEWORKS_CCACHE}" CXX_COMPILER_LAUNCHER "${DYEWORKS_CCACHE}")
   endif()
+  if(DYEWORKS_REPRODUCIBLE)
+    # Debuggers and coverage want the paths, so other configurations keep them. The later option is asked first.
+    foreach(map "${PROJECT_SOURCE_DIR}=." "${PROJECT_BINARY_DIR}=./build")
+      target_compile_options(${target} PRIVATE "$<$<CONFIG:Release,MinSizeRel>:-ffile-prefix-map=${map}>")
+    endforeach()
+  endif()
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
   if(DYEWORKS_WARNINGS_AS_ERRORS)
     target_compile_options(${target} PRIVATE -Werror)

@@ -3,7 +3,10 @@
 #   lib/orrery-dyeworks/bin/    the program and its companion controls, which it looks for beside itself
 #   lib/orrery-dyeworks/doc/    the guide, which the program opens as ../doc/index.html
 #   bin/Dyeworks                a link to the program
-#   share/                      what the desktop reads (data/README.md), samples
+#   share/                      what the desktop reads (data/README.md), samples, manual pages, completion
+#
+# Components: editor, sdk. Everything finds its parts from where it is itself, so a tree that was installed may be
+# moved; only the desktop entry names the prefix.
 
 file(GLOB_RECURSE guide_pages CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/docs/guide/*")
 set(guide_pictures "${PROJECT_SOURCE_DIR}/docs/window.png" "${PROJECT_SOURCE_DIR}/data/icons/orrery-dyeworks.svg")
@@ -25,17 +28,33 @@ endif()
 
 set(home lib/orrery-dyeworks)
 install(TARGETS Dyeworks dyeworks_control_swatchgrid dyeworks_control_rampslider dyeworks_control_folderpick
-  RUNTIME DESTINATION ${home}/bin LIBRARY DESTINATION ${home}/bin)
-install(DIRECTORY "${PROJECT_BINARY_DIR}/doc" DESTINATION ${home})
-install(DIRECTORY samples/ DESTINATION share/orrery-dyeworks/samples)
+  RUNTIME DESTINATION ${home}/bin COMPONENT editor
+  LIBRARY DESTINATION ${home}/bin COMPONENT editor)
+install(DIRECTORY "${PROJECT_BINARY_DIR}/doc" DESTINATION ${home} COMPONENT editor)
+install(DIRECTORY samples/ DESTINATION share/orrery-dyeworks/samples COMPONENT editor)
 
 get_target_property(share dyeworks_desktop_files DYEWORKS_SHARE)
-install(DIRECTORY "${share}/icons" "${share}/mime" DESTINATION share)
-install(FILES data/orrery-dyeworks.metainfo.xml DESTINATION share/metainfo RENAME local.orrery.dyeworks.metainfo.xml)
+install(DIRECTORY "${share}/icons" "${share}/mime" DESTINATION share COMPONENT editor)
+install(FILES data/orrery-dyeworks.metainfo.xml
+  DESTINATION share/metainfo RENAME local.orrery.dyeworks.metainfo.xml COMPONENT editor)
+
+# dyeworks_command_files(<program> <component>): its manual pages in both languages and its completion for two shells.
+function(dyeworks_command_files program component)
+  foreach(language . ja)
+    set(page "${CMAKE_CURRENT_BINARY_DIR}/man/${language}/man1/${program}.1")
+    configure_file("docs/man/${language}/${program}.1.in" "${page}" @ONLY)
+    install(FILES "${page}" DESTINATION share/man/${language}/man1 COMPONENT ${component})
+  endforeach()
+  install(FILES data/completions/${program}.bash
+    DESTINATION share/bash-completion/completions RENAME ${program} COMPONENT ${component})
+  install(FILES data/completions/_${program} DESTINATION share/zsh/site-functions COMPONENT ${component})
+endfunction()
+dyeworks_command_files(Dyeworks editor)
 
 # The prefix is known when installing only. In the entry it is a quoted argument, where "%" starts a field code and
 # some characters take a backslash that is written twice.
-install(CODE "set(entry \"${share}/applications/orrery-dyeworks.desktop\")\nset(version ${PROJECT_VERSION})")
+install(CODE "set(entry \"${share}/applications/orrery-dyeworks.desktop\")\nset(version ${PROJECT_VERSION})"
+  COMPONENT editor)
 install(CODE [[
   set(root "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
   file(MAKE_DIRECTORY "${root}/bin")
@@ -48,4 +67,13 @@ install(CODE [[
   set(MIME_TYPES "image/x-orrery-tmf;text/x-orrery-tpf;application/x-orrery-tlf;")
   message(STATUS "Installing: ${root}/share/applications/orrery-dyeworks.desktop")
   configure_file("${entry}" "${root}/share/applications/orrery-dyeworks.desktop" @ONLY)
-]])
+
+  # In the list of what was installed, from which all of it can be removed.
+  list(APPEND CMAKE_INSTALL_MANIFEST_FILES
+    "${CMAKE_INSTALL_PREFIX}/bin/Dyeworks" "${CMAKE_INSTALL_PREFIX}/share/applications/orrery-dyeworks.desktop")
+]] COMPONENT editor)
+
+add_custom_target(uninstall
+  COMMAND "${CMAKE_COMMAND}" "-DBUILD=${PROJECT_BINARY_DIR}" -P "${PROJECT_SOURCE_DIR}/cmake/Uninstall.cmake"
+  VERBATIM)
+include(Packages)

@@ -10,6 +10,8 @@ StringId textOf(const InterchangeError& error) {
     switch (error.kind) {
     case InterchangeError::Kind::UnknownFormat:
         return StringId::InterchangeUnknownFormat;
+    case InterchangeError::Kind::EndsTooEarly:
+        return StringId::FileEndsTooEarly;
     case InterchangeError::Kind::Damaged:
         return error.detail.empty() ? StringId::InterchangeDamaged : StringId::InterchangeDamagedWhere;
     case InterchangeError::Kind::TooLarge:

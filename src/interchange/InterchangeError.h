@@ -11,8 +11,9 @@ namespace dyeworks {
 struct InterchangeError {
     enum class Kind {
         UnknownFormat, ///< The bytes are of no format that could be meant.
-        Damaged,       ///< `detail` says where or why, in English (a library's words), or is empty.
-        TooLarge,      ///< `first` by `second` pixels.
+        EndsTooEarly,
+        Damaged,  ///< `detail` says where or why, in English (a library's words), or is empty.
+        TooLarge, ///< `first` by `second` pixels.
         NoMemory,
         NoColours,          ///< The file holds none.
         TooManyColours,     ///< More than `first`.

@@ -39,7 +39,7 @@ PaletteResult readJascPalette(std::string_view text) {
     }
     // Programs that add colours may leave the count; fewer than it tells are what is left of a file.
     if (loneNumbers == 2 && result.colours.size() < std::min(told, kMostPaletteColours))
-        return InterchangeError{InterchangeError::Kind::Damaged, "the file ends too early"};
+        return InterchangeError{InterchangeError::Kind::EndsTooEarly, {}, 0, 0};
     return result;
 }
 

@@ -13,6 +13,8 @@ InterchangeError errorOf(const PictureError& error) {
     switch (error.kind) {
     case PictureError::Kind::UnknownFormat:
         return {Kind::UnknownFormat, {}, 0, 0};
+    case PictureError::Kind::EndsTooEarly:
+        return {Kind::EndsTooEarly, {}, 0, 0};
     case PictureError::Kind::Damaged:
         break;
     case PictureError::Kind::TooLarge:

@@ -39,6 +39,8 @@ public:
     Reader& operator=(const Reader&) = delete;
 
     [[nodiscard]] bool isReady() const noexcept { return info_ != nullptr; }
+    /// Whether more was wanted than the file has.
+    [[nodiscard]] bool endsTooEarly() const noexcept { return ended_; }
     [[nodiscard]] const char* reason() const noexcept { return failure_.reason.data(); }
     [[nodiscard]] png_uint_32 width() const { return png_get_image_width(png_, info_); }
     [[nodiscard]] png_uint_32 height() const { return png_get_image_height(png_, info_); }
@@ -167,13 +169,16 @@ public:
 private:
     static void readBytes(png_structp png, png_bytep to, std::size_t size) {
         auto* const reader = static_cast<Reader*>(png_get_io_ptr(png));
-        if (size > reader->rest_.size())
+        if (size > reader->rest_.size()) {
+            reader->ended_ = true;
             png_error(png, "Read Error");
+        }
         std::memcpy(to, reader->rest_.data(), size);
         reader->rest_ = reader->rest_.subspan(size);
     }
 
     std::span<const std::byte> rest_;
+    bool ended_ = false;
     PngFailure failure_;
     png_structp png_;
     png_infop info_;
@@ -184,6 +189,8 @@ private:
 };
 
 InterchangeError damaged(const Reader& reader) {
+    if (reader.endsTooEarly())
+        return {InterchangeError::Kind::EndsTooEarly, {}, 0, 0};
     return {InterchangeError::Kind::Damaged, reader.reason(), 0, 0};
 }
 

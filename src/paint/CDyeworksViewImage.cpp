@@ -4,6 +4,8 @@
 #include "paint/CanvasDepth.h"
 #include "paint/CanvasTransform.h"
 #include "paint/DrawTool.h"
+#include "platform/Platform.h"
+#include "platform/StringId.h"
 
 #include <algorithm>
 #include <array>
@@ -44,10 +46,15 @@ std::array<ShownColour, 256> shownColours(const TextureCanvas& canvas, const Tex
 }
 
 template <typename Work>
-std::optional<Work> ask(CDyeworksDoc& document, const Work& proposed) {
-    const std::optional<ImageWork> wanted = document.host().askImageWork(proposed, document.canvas());
+std::optional<Work> ask(CDyeworksDoc& document, const Work& proposed, const TextureCanvas& image) {
+    const std::optional<ImageWork> wanted = document.host().askImageWork(proposed, image);
     const Work* const work = wanted ? std::get_if<Work>(&*wanted) : nullptr;
     return work == nullptr ? std::nullopt : std::optional(*work);
+}
+
+template <typename Work>
+std::optional<Work> ask(CDyeworksDoc& document, const Work& proposed) {
+    return ask(document, proposed, document.canvas());
 }
 
 } // namespace
@@ -111,16 +118,24 @@ void CDyeworksView::OnTurn(CommandId id) {
 
 void CDyeworksView::OnToFourBits() {
     CancelDrag();
-    // What floats is counted with the rest.
-    if (!selection_.commitFloatingPiece(true))
-        return;
+    // What floats is counted with the rest, and floats on when the image is left.
+    std::unique_ptr<TextureCanvas> placed;
+    if (selection_.hasFloatingPiece()) {
+        placed = document_.canvas().Clone();
+        if (placed == nullptr) {
+            applicationMessage(text(StringId::NotEnoughMemory));
+            return;
+        }
+        selection_.drawFloatingPiece(*placed);
+    }
+    const TextureCanvas& seen = placed ? *placed : document_.canvas();
     const TextureLookupTable* const palette = document_.GetAttachedPalette();
     const std::int32_t banks =
         palette == nullptr ? kBanks : std::clamp(palette->table.count / kBankEntries, 1, kBanks);
-    const IndexCounts counts = countIndexes(document_.canvas());
+    const IndexCounts counts = countIndexes(seen);
     std::int32_t bank = fullestBank(counts, banks);
     if (countOutside(counts, bank) != 0) {
-        const auto wanted = ask(document_, ReduceDepth{bank, banks});
+        const auto wanted = ask(document_, ReduceDepth{bank, banks}, seen);
         if (!wanted)
             return;
         bank = wanted->bank;

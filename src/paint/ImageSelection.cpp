@@ -136,6 +136,11 @@ void ImageSelection::recolourFloatingPiece() {
         floatingPiece_->copyColourTableFrom(document_.canvas());
 }
 
+void ImageSelection::drawFloatingPiece(TextureCanvas& canvas) const {
+    if (floatingPiece_ != nullptr)
+        CanvasDrawing(canvas, drawingOptions(), 0).paste(*floatingPiece_, texels_.value_or(Rect{}));
+}
+
 bool ImageSelection::commitFloatingPiece(bool redraw) {
     // Released before the repaints that follow.
     if (std::unique_ptr<TextureCanvas> piece = std::move(floatingPiece_)) {

@@ -69,6 +69,8 @@ public:
     /// Puts the floating piece, if there is one, into the image; then nothing is selected. False when it
     /// floats on, because the user left an edit that could not be undone.
     bool commitFloatingPiece(bool redraw);
+    /// Draws the floating piece, if there is one, on the canvas where it would be placed.
+    void drawFloatingPiece(TextureCanvas& canvas) const;
     /// Forgets the floating piece. It shows until the next repaint.
     void dropFloatingPiece();
     /// Turns what is selected, of which there must be something, about its middle. By a quarter it is lifted

@@ -14,6 +14,7 @@ namespace dyeworks {
 struct PictureError {
     enum class Kind {
         UnknownFormat, ///< They are of no format that the desktop can read.
+        EndsTooEarly,
         Damaged,
         TooLarge, ///< `width` by `height` pixels.
         NoMemory

@@ -152,7 +152,7 @@ private:
     void keepUnsavedWork();
     [[noreturn]] void endAtOnce(int signal);
     void raiseMainFrame();
-    void openHandedOver(const std::vector<std::string>& paths);
+    void openHandedOver(const std::vector<std::string>& request);
 
     void fillCommands();
     void openWithDialog(const char* defaultExtension, int filterIndex);

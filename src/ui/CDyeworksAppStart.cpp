@@ -84,6 +84,9 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
     showMainFrame();
     if (commandLine.task == CommandLine::Task::Nothing && !commandLine.renders() && !ResumeDocuments())
         applicationMessage(text(StringId::ResumeFailed), MessageIcon::Information);
+    // As if handed over: a sheet waits for an answer, for which the program has to be up.
+    if (const std::vector<std::string> sheets = commandLine.newFiles(); !sheets.empty())
+        openRequests_.add(sheets);
     openRequests_.start();
     return true;
 }
@@ -272,9 +275,17 @@ void CDyeworksApp::raiseMainFrame() {
     top->activateWindow();
 }
 
-void CDyeworksApp::openHandedOver(const std::vector<std::string>& paths) {
-    if (mainFrame_ != nullptr)
-        OpenFiles(paths, false);
+void CDyeworksApp::openHandedOver(const std::vector<std::string>& request) {
+    if (mainFrame_ == nullptr)
+        return;
+    std::vector<std::string> files = request;
+    const bool palette = std::erase(files, CommandLine::kNewPalette) > 0;
+    const bool image = std::erase(files, CommandLine::kNewImage) > 0;
+    OpenFiles(files, false);
+    if (palette)
+        router().run(ID_PALETTE_NEW);
+    if (image)
+        router().run(ID_FILE_NEW);
 }
 
 bool CDyeworksApp::ResumeDocuments() {

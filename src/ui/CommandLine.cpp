@@ -47,6 +47,10 @@ struct Options {
         QStringLiteral("drive"),
         QStringLiteral("Let a drive of projects made elsewhere stand for a folder, from now on."),
         QStringLiteral("letter=folder")};
+    QCommandLineOption newImage{QStringLiteral("new-image"),
+                                QStringLiteral("Ask what a new image is to be like.")};
+    QCommandLineOption newPalette{QStringLiteral("new-palette"),
+                                  QStringLiteral("Ask what a new palette is to be like.")};
     QCommandLineOption newInstance{QStringLiteral("new-instance"),
                                    QStringLiteral("Start another program even when one is running.")};
     QCommandLineOption attach{
@@ -77,8 +81,9 @@ struct Options {
         return option;
     }
     void addTo(QCommandLineParser& parser) const {
-        parser.addOptions({help, version, language, settings, drive, newInstance, attach, print, printTo,
-                           render, noSplash, unregister, printWithDriver, receive, serve});
+        parser.addOptions({help, version, language, settings, drive, newImage, newPalette, newInstance,
+                           attach, print, printTo, render, noSplash, unregister, printWithDriver, receive,
+                           serve});
     }
 };
 
@@ -151,6 +156,22 @@ std::vector<std::string> CommandLine::paths() const {
     return paths;
 }
 
+std::vector<std::string> CommandLine::newFiles() const {
+    std::vector<std::string> words;
+    if (newPalette)
+        words.emplace_back(kNewPalette);
+    if (newImage)
+        words.emplace_back(kNewImage);
+    return words;
+}
+
+std::vector<std::string> CommandLine::request() const {
+    std::vector<std::string> request = paths();
+    const std::vector<std::string> words = newFiles();
+    request.insert(request.end(), words.begin(), words.end());
+    return request;
+}
+
 CommandLine parseCommandLine(const QStringList& arguments) {
     const Options options;
     QCommandLineParser parser;
@@ -186,6 +207,8 @@ CommandLine parseCommandLine(const QStringList& arguments) {
         result.drives.emplace_back(drive.at(0).toLower().toLatin1(), folder);
     }
     result.attach = parser.isSet(options.attach);
+    result.newImage = parser.isSet(options.newImage);
+    result.newPalette = parser.isSet(options.newPalette);
     result.newInstance = parser.isSet(options.newInstance);
     result.noSplash = parser.isSet(options.noSplash);
     result.renderTo = absolute(parser.value(options.render));
@@ -204,13 +227,15 @@ CommandLine parseCommandLine(const QStringList& arguments) {
         result.task = Task::Print;
         if (files.isEmpty())
             return refused(QStringLiteral("there is no file to print"));
-    } else if (!files.isEmpty()) {
+    } else if (!files.isEmpty() || result.newImage || result.newPalette) {
         result.task = Task::Open;
     } else if (parser.isSet(options.receive)) {
         result.task = Task::Receive;
     }
     for (const QString& file : files)
         result.files << absolute(file);
+    if ((result.newImage || result.newPalette) && !result.isInteractive())
+        return refused(QStringLiteral("nobody is there to be asked about a new file"));
     return result;
 }
 

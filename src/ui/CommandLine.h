@@ -13,7 +13,7 @@ namespace dyeworks {
 struct CommandLine {
     enum class Task {
         Nothing,    ///< Just start, with what was open last.
-        Open,       ///< Open the files.
+        Open,       ///< Open the files, or ask what a new one is to be like.
         Print,      ///< Print the last of the files on the default printer and end.
         PrintTo,    ///< The same on a printer that is named, or into a file.
         Receive,    ///< Start and wait for files that are handed over.
@@ -29,6 +29,8 @@ struct CommandLine {
     QString settingsFile; ///< Empty for the user's own settings.
     std::vector<std::pair<char, QString>>
         drives;               ///< Letters and the folders that they stand for from now on.
+    bool newImage = false;    ///< Show the sheet for a new image, once the program is up.
+    bool newPalette = false;  ///< The same for a new palette.
     bool attach = false;      ///< Attach each image to the palette that is current when it opens.
     bool newInstance = false; ///< Start another program even when one runs.
     bool noSplash = false;
@@ -36,8 +38,16 @@ struct CommandLine {
     bool ended = false; ///< Help, the version or an error has been printed: nothing is to be started.
     int exitCode = 0;   ///< Of the process, when `ended`.
 
+    /// What stands for `newImage` and `newPalette` in a request. No path begins like them.
+    static constexpr const char* kNewImage = "--new-image";
+    static constexpr const char* kNewPalette = "--new-palette";
+
     /// The files as the program writes paths.
     [[nodiscard]] std::vector<std::string> paths() const;
+    /// The new files asked for, as the words above.
+    [[nodiscard]] std::vector<std::string> newFiles() const;
+    /// What a program that is running is handed: the paths, then the new files.
+    [[nodiscard]] std::vector<std::string> request() const;
     [[nodiscard]] bool prints() const noexcept { return task == Task::Print || task == Task::PrintTo; }
     [[nodiscard]] bool renders() const noexcept { return !renderTo.isEmpty(); }
     /// Whether somebody is going to sit before the window.

@@ -131,8 +131,13 @@ void PaletteFileCommands::OnExportPalette() {
         why = describe(file.error(), platform().texts());
     else if (const auto error = platform().files().write(*path, file.value()))
         why = describe(*error);
-    if (!why.empty())
+    if (!why.empty()) {
         applicationMessage(text(StringId::CannotSaveFile, {displayPath(*path), why}));
+        return;
+    }
+    window.SetStatusText(text(StringId::PaletteExported,
+                              {std::string(fileNameOf(*path)), std::to_string(dialog.entryCount())}),
+                         0);
 }
 
 void PaletteFileCommands::OnUpdateExportPalette(CommandUi& ui) {

@@ -101,7 +101,7 @@ bool renderWindow(CMainFrame& window, const QString& file) {
 } // namespace
 
 bool handToRunningProgram(const CommandLine& commandLine) {
-    return commandLine.canBeHandedOver() && platform().shell().handToRunningInstance(commandLine.paths());
+    return commandLine.canBeHandedOver() && platform().shell().handToRunningInstance(commandLine.request());
 }
 
 int runDyeworks(int argc, char** argv) {

@@ -75,7 +75,7 @@ protected:
         const int x2 = random.between(0, w - 1);
         const int y2 = random.between(0, h - 1);
         const auto become = [&](auto texel) { model.become(Plain::of(w, h, old.bits, texel)); };
-        switch (random.between(0, 15)) {
+        switch (random.between(0, 18)) {
         case 0:
             model.move(true);
             document.Undo();
@@ -147,6 +147,37 @@ protected:
             become([&](int i, int j) { return reached(i, j) ? value : old.at(i, j); });
             break;
         }
+        case 16:
+            document.Edit(&view, [&](TextureCanvas& canvas) { canvas.DrawBox(x, y, x2, y2, value); });
+            become([&](int i, int j) {
+                const bool inside = std::min(x, x2) <= i && i <= std::max(x, x2) && std::min(y, y2) <= j &&
+                                    j <= std::max(y, y2);
+                return inside && (i == x || i == x2 || j == y || j == y2) ? value : old.at(i, j);
+            });
+            break;
+        case 17: {
+            const bool filled = random.once(2);
+            document.Edit(&view, [&](TextureCanvas& canvas) {
+                filled ? canvas.FillEllipse(x, y, x2, y2, value) : canvas.DrawEllipse(x, y, x2, y2, value);
+            });
+            model.become(withEllipse(old, {x, y, x2, y2}, filled, value));
+            break;
+        }
+        case 18: {
+            const auto piece = document.canvas().CopyRect(0, 0, w / 2, h / 2);
+            document.Edit(&view, [&](TextureCanvas& canvas) {
+                return canvas.StretchPaste(*piece, x, y, x2 + 1, y2 + 1);
+            });
+            const auto from = [](int part, int to, int size) {
+                return static_cast<int>(part * (static_cast<double>(size) / to));
+            };
+            become([&](int i, int j) {
+                const bool inside = i >= x && j >= y && i <= x2 && j <= y2;
+                return inside ? old.at(from(i - x, x2 + 1 - x, w / 2 + 1), from(j - y, y2 + 1 - y, h / 2 + 1))
+                              : old.at(i, j);
+            });
+            break;
+        }
         case 6:
         case 7: {
             const Size size{random.between(1, 20), random.between(1, 20)};
@@ -203,6 +234,50 @@ protected:
             }));
         }
         }
+    }
+
+    /// Steps along each of the two regions of the inscribed ellipse, on all four sides at once.
+    static Plain withEllipse(Plain plain, const Rect& corners, bool filled, std::uint32_t value) {
+        const Rect box = corners.normalised();
+        const double a = (box.right - box.left) / 2.0;
+        const double b = (box.bottom - box.top) / 2.0;
+        const auto row = [&](double left, double right, double at) {
+            const int first = static_cast<int>(left);
+            const int last = static_cast<int>(right);
+            for (int i = first; i <= last; ++i) {
+                if ((filled || i == first || i == last) && plain.has(i, static_cast<int>(at)))
+                    plain.rows[static_cast<std::size_t>(at)][static_cast<std::size_t>(i)] = value;
+            }
+        };
+        const auto both = [&](double u, double up, double down) {
+            row(box.left + a - u, box.left + a + 0.5 + u, box.top + b + up);
+            row(box.left + a - u, box.left + a + 0.5 + u, box.top + b + down);
+        };
+        if (a == 0 || b == 0)
+            return plain;
+        double in = a;
+        double d = -b;
+        for (double w = 0; d <= 0 || w == 0;) {
+            both(in, 0.5 + w, -w);
+            w += 1;
+            d += 2 * w * a / b;
+            if (d >= 0) {
+                in -= 1;
+                d -= 2 * in * b / a;
+            }
+        }
+        in = b;
+        d = -a;
+        for (double u = 0; d <= 0 || u == 0;) {
+            both(u, in, 0.5 - in);
+            u += 1;
+            d += 2 * u * b / a;
+            if (d >= 0) {
+                in -= 1;
+                d -= 2 * in * a / b;
+            }
+        }
+        return plain;
     }
 
     void replace(const CDyeworksDoc::CanvasMaker& make) { EXPECT_TRUE(document.ReplaceImage(make)); }

@@ -80,6 +80,9 @@ TEST_F(ImageWorkCommands, IndexesOutsideTheBankAreAskedAboutAndTakeItsNearestCol
     run(ID_IMAGE_TO_4_BITS);
     EXPECT_EQ(host.questions, 1);
     EXPECT_EQ(pixels(), before);
+    view.selection().setFloatingPiece(document.canvas().CopyRect(0, 0, 2, 2));
+    run(ID_IMAGE_TO_4_BITS);
+    EXPECT_TRUE(view.selection().hasFloatingPiece());
     host.answer = ReduceDepth{3};
     run(ID_IMAGE_TO_4_BITS);
     EXPECT_EQ(document.canvas().GetPixel(0, 0), 5U);

@@ -46,6 +46,7 @@ TEST(CommandLine, TakesTheSwitchesOfOtherDesktopsBesideItsOwn) {
         {"/PT a.tmf Laser", Task::PrintTo, a, "Laser"},
         {"--print-to a.tmf o.PDF", Task::PrintTo, a, "", here("o.PDF")},
         {"--print-to a.tlf a.tmf Laser", Task::PrintTo, both, "Laser"},
+        {"--new-image", Task::Open},
         {"/dde", Task::Receive},
         {"/dde a.tmf", Task::Open, a},
         {"-Embedding", Task::Serve},
@@ -71,7 +72,8 @@ TEST(CommandLine, AnExistingFileIsMeantWhereItsNameLooksLikeASwitch) {
 }
 
 TEST(CommandLine, OnlyAnOrdinaryStartIsHandedToARunningProgram) {
-    for (const char* arguments : {"", "a.tmf", "/dde", "--language ja --settings s.ini a.tmf"})
+    for (const char* arguments :
+         {"", "a.tmf", "/dde", "--language ja --settings s.ini a.tmf", "--new-image", "--new-palette a.tmf"})
         EXPECT_TRUE(parsed(arguments).canBeHandedOver()) << arguments;
     for (const char* arguments : {"--new-instance", "--attach a.tmf", "--render o.png a.tmf", "/p a.tmf",
                                   "--print-to a.tmf o.pdf", "/embedding"})
@@ -80,7 +82,7 @@ TEST(CommandLine, OnlyAnOrdinaryStartIsHandedToARunningProgram) {
 
 TEST(CommandLine, ArgumentsThatMakeNoSenseEndTheProgramWithTwo) {
     for (const char* arguments : {"--no-such-option", "--language de", "--language", "a.tmf --render", "/p",
-                                  "--print-to a.tmf", "/pt a.tmf"}) {
+                                  "--print-to a.tmf", "/pt a.tmf", "--new-image --render o.png"}) {
         const CommandLine line = parsed(arguments);
         EXPECT_TRUE(line.ended) << arguments;
         EXPECT_EQ(line.exitCode, 2) << arguments;

@@ -1,8 +1,11 @@
 #include "Program.h"
 #include "ui/RunDyeworks.h"
+#include "ui/sheets/CFileNewSheet.h"
 
 #include <QDialog>
 #include <QSignalSpy>
+#include <QTabWidget>
+#include <QTimer>
 
 namespace dyeworks {
 namespace {
@@ -40,6 +43,23 @@ TEST_F(OneProgram, OpensFilesWhenTheDialogThatIsUpHasItsAnswer) {
     QSignalSpy shown(&frame(), &MdiFrame::activeChildChanged);
     question.exec();
     EXPECT_TRUE(shown.wait());
+    EXPECT_THAT(openImages(), ElementsAre("c:\\a.tmf"));
+}
+
+TEST_F(OneProgram, ShowsTheSheetsThatASecondStartAsksFor) {
+    QStringList pages;
+    QTimer answers;
+    QObject::connect(&answers, &QTimer::timeout, [&pages] {
+        auto* sheet = qobject_cast<CFileNewSheet*>(QApplication::activeModalWidget());
+        if (sheet == nullptr)
+            return;
+        pages << sheet->findChild<QTabWidget*>()->currentWidget()->objectName();
+        sheet->reject();
+    });
+    answers.start();
+    EXPECT_TRUE(fake_.shell.deliverOpenRequest({"c:\\a.tmf", "--new-palette", "--new-image"}));
+    EXPECT_TRUE(QTest::qWaitFor([&pages] { return pages.size() == 2; }));
+    EXPECT_EQ(pages, (QStringList{"IDD_FILENEW_PALETTE", "IDD_FILENEW_TEXTURE"}));
     EXPECT_THAT(openImages(), ElementsAre("c:\\a.tmf"));
 }
 

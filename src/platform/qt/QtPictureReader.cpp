@@ -127,7 +127,7 @@ Result<Picture, PictureError> QtPictureReader::read(std::span<const std::byte> f
     if (!isPictureSize(image.width(), image.height()))
         return tooLarge(image.size());
     if (isCutOff(format, bytes))
-        return PictureError{PictureError::Kind::Damaged, "the file ends too early", 0, 0};
+        return PictureError{PictureError::Kind::EndsTooEarly, {}, 0, 0};
     std::optional<Picture> picture = pictureOf(image);
     if (!picture)
         return PictureError{PictureError::Kind::NoMemory, {}, 0, 0};

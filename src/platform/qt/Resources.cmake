@@ -1,3 +1,6 @@
+# The times of the files, which newer formats keep, would make every build another one.
+set(resource_options OPTIONS --format-version 1)
+
 # The translations, compiled and put into dyeworks_platform_qt as the resource ":/translations".
 
 set(translation_sources "${PROJECT_SOURCE_DIR}/translations/dyeworks_ja.ts")
@@ -10,6 +13,7 @@ qt6_add_lrelease(dyeworks_platform_qt
 qt6_add_resources(dyeworks_platform_qt translations
   PREFIX "/translations"
   BASE "${CMAKE_CURRENT_BINARY_DIR}/translations"
+  ${resource_options}
   FILES ${translation_files})
 
 # What the desktop is told of the program (data/), as the resource ":/desktop", laid out as below the user's data
@@ -19,5 +23,6 @@ get_target_property(desktop_files dyeworks_desktop_files DYEWORKS_FILES)
 qt6_add_resources(dyeworks_platform_qt desktop
   PREFIX "/desktop"
   BASE "${desktop_share}"
+  ${resource_options}
   FILES ${desktop_files})
 add_dependencies(dyeworks_platform_qt dyeworks_desktop_files)

@@ -1,7 +1,9 @@
 #include "ui/sheets/LongWork.h"
 
+#include "platform/StringId.h"
 #include "platform/WaitCursor.h"
 #include "platform/qt/QtWaitCursor.h"
+#include "ui/sheets/SheetControls.h"
 
 #include <QProgressDialog>
 #include <QTimer>
@@ -40,6 +42,7 @@ void runLongWork(QWidget* owner, const QString& what, const std::function<void(c
     if (owner != nullptr)
         owner->show();
     QProgressDialog dialog(owner);
+    dialog.setWindowTitle(shown(StringId::ApplicationTitle));
     dialog.setLabelText(what);
     dialog.setRange(0, kWhole);
     dialog.setWindowModality(Qt::ApplicationModal);
