@@ -10,6 +10,7 @@ void registerPaletteUseCases();
 void registerPngCases();
 void registerPreviewCases();
 void registerProjectCases();
+void registerRuleCases();
 void registerViewCases();
 
 } // namespace dyeworks

@@ -23,6 +23,7 @@ int main(int argc, char** argv) {
     dyeworks::registerPngCases();
     dyeworks::registerPreviewCases();
     dyeworks::registerProjectCases();
+    dyeworks::registerRuleCases();
     dyeworks::registerViewCases();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))

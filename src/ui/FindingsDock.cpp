@@ -19,7 +19,7 @@ namespace dyeworks {
 
 namespace {
 
-// Letters that the columns have room for at first; the last takes what is left.
+// Letters that the columns get room for by themselves; the last takes what is left.
 constexpr std::array kColumnLetters{24, 28, 30};
 
 QString shown(StringId id) {
@@ -55,11 +55,20 @@ void FindingsDock::makeList() {
     list_->setRootIsDecorated(false);
     list_->setUniformRowHeights(true);
     list_->setAllColumnsShowFocus(true);
-    for (std::size_t column = 0; column < kColumnLetters.size(); ++column)
-        list_->setColumnWidth(static_cast<int>(column),
-                              kColumnLetters.at(column) * fontMetrics().averageCharWidth());
+    widenColumns();
     connect(list_, &QTreeWidget::itemClicked, this, &FindingsDock::go);
     connect(list_, &QTreeWidget::itemActivated, this, &FindingsDock::go);
+}
+
+/// They never become narrower than they are, or the user has made them.
+void FindingsDock::widenColumns() {
+    for (std::size_t i = 0; i < kColumnLetters.size(); ++i) {
+        const auto column = static_cast<int>(i);
+        const int before = list_->topLevelItemCount() == 0 ? 0 : list_->columnWidth(column);
+        list_->resizeColumnToContents(column);
+        const int most = kColumnLetters.at(i) * fontMetrics().averageCharWidth();
+        list_->setColumnWidth(column, std::max(before, std::min(list_->columnWidth(column), most)));
+    }
 }
 
 QWidget* FindingsDock::makeNotice() {
@@ -97,6 +106,7 @@ void FindingsDock::showFindings(std::vector<Finding> findings) {
     }
     list_->clear();
     list_->addTopLevelItems(rows);
+    widenColumns();
     if (again == nullptr && current >= 0 && !rows.isEmpty())
         again = rows.at(std::min(current, static_cast<int>(rows.size()) - 1));
     list_->setCurrentItem(again);

@@ -41,6 +41,7 @@ Q_SIGNALS:
 
 private:
     void makeList();
+    void widenColumns();
     [[nodiscard]] QWidget* makeNotice();
     void go(QTreeWidgetItem* row);
 

@@ -61,13 +61,13 @@ CPaletteBarControls::CPaletteBarControls(PaletteBarHost& host, CommandActions& a
     body_->addWidget(fields_ = makeFields());
     layout->addWidget(stripRow_ = makeStrip());
     // Before anything is hidden for the palette that is shown.
+    const int others = heightOfOthers() + 2 * fontMetrics().height();
     preferredSize_ = {gridArea_->sizeHint().width() + gap + fields_->sizeHint().width(),
-                      heightOfOthers() + 2 * fontMetrics().height() +
-                          std::max(gridArea_->sizeHint().height(), fields_->sizeHint().height())};
+                      others + std::max(gridArea_->sizeHint().height(), fields_->sizeHint().height())};
     // Cells that can still be told apart; the grid is empty now and asks for no room.
     const int side = gridArea_->sizeHint().height() * 2 / 3;
     const QSize fields = fields_->minimumSizeHint();
-    compactSize_ = {side + gap + fields.width(), heightOfOthers() + std::max(side, fields.height())};
+    compactSize_ = {side + gap + fields.width(), others + std::max(side, fields.height())};
     gridControl_ = std::make_unique<PaletteGridControl>(*grid_);
     stripControl_ = std::make_unique<PaletteGridControl>(*strip_);
     state_.Start(*gridControl_, *stripControl_);

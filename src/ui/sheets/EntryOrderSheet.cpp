@@ -19,7 +19,7 @@ namespace dyeworks {
 
 namespace {
 
-constexpr int kListWidth = 56; // In letters.
+constexpr int kListWidth = 48; // In Latin letters, whatever the font has besides.
 
 StringId captionOf(EntryOperation operation) {
     switch (operation) {
@@ -111,7 +111,7 @@ EntryOrderSheet::EntryOrderSheet(const EntryOrder& proposed, const TlutData& tab
     // Names of files may be long.
     list_->setWordWrap(true);
     list_->setResizeMode(QListView::Adjust);
-    list_->setMinimumWidth(kListWidth * list_->fontMetrics().averageCharWidth());
+    list_->setMinimumWidth(kListWidth * list_->fontMetrics().horizontalAdvance(QLatin1Char('x')));
     layout->addWidget(heading);
     layout->addWidget(list_);
     if (!closed_.empty()) {
