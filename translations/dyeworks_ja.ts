@@ -1213,6 +1213,550 @@ Toggle Rule Findings</source>
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Work with console textures in scripts: images (.tmf), palettes (.tlf) and projects (.tpf).</source>
+        <translation>コンソール用テクスチャ（画像 .tmf、パレット .tlf、プロジェクト .tpf）をスクリプトから扱います。</translation>
+    </message>
+    <message>
+        <source>&quot;dyeworks-cli COMMAND --help&quot; tells the options of a command. &quot;-&quot; is the standard input or output.
+Exit code: 0 done, 1 something found, 2 wrong arguments, 3 trouble with files.</source>
+        <translation>各コマンドのオプションは「dyeworks-cli コマンド --help」で表示します。「-」は標準入力または標準出力です。
+終了コード: 0 完了、1 問題を発見、2 引数の誤り、3 ファイルの問題。</translation>
+    </message>
+    <message>
+        <source>Change palettes, and the images that show them along.</source>
+        <translation>パレットを、それを使う画像とともに変更します。</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>使い方</translation>
+    </message>
+    <message>
+        <source>OPTIONS</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>COMMAND</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>引数</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>REQUIRED</source>
+        <translation>必須</translation>
+    </message>
+    <message>
+        <source>Print this help and exit</source>
+        <translation>このヘルプを表示して終了</translation>
+    </message>
+    <message>
+        <source>Print the version and exit</source>
+        <translation>バージョンを表示して終了</translation>
+    </message>
+    <message>
+        <source>Tell nothing but results and failures</source>
+        <translation>結果と失敗以外は表示しない</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; makes no sense here</source>
+        <translation>%1: 「%2」は使えない値です</translation>
+    </message>
+    <message>
+        <source>%1: %2 is not from %3 to %4</source>
+        <translation>%1: %2 は %3 から %4 までの数ではありません</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is none of %3</source>
+        <translation>%1: 「%2」は %3 のどれでもありません</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>%1 がありません</translation>
+    </message>
+    <message>
+        <source>a command is missing</source>
+        <translation>コマンドがありません</translation>
+    </message>
+    <message>
+        <source>there is no command &quot;%1&quot;</source>
+        <translation>「%1」というコマンドはありません</translation>
+    </message>
+    <message>
+        <source>%1 has no value that fits</source>
+        <translation>%1 に合う値がありません</translation>
+    </message>
+    <message>
+        <source>Try &quot;%1 --help&quot;.</source>
+        <translation>「%1 --help」をご覧ください。</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>標準出力</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this.</source>
+        <translation>メモリが足りません。</translation>
+    </message>
+    <message>
+        <source>The file is cut off.</source>
+        <translation>ファイルが途中で切れています。</translation>
+    </message>
+    <message>
+        <source>The file is no image of 4 or 8 bits.</source>
+        <translation>4 ビットまたは 8 ビットの画像ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The file is no palette of 16 or 256 entries.</source>
+        <translation>16 または 256 エントリのパレットファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The image is larger than can be.</source>
+        <translation>画像が大きすぎます。</translation>
+    </message>
+    <message>
+        <source>The file is of no kind that is known.</source>
+        <translation>知られていない種類のファイルです。</translation>
+    </message>
+    <message>
+        <source>Tell what files hold.</source>
+        <translation>ファイルの内容を表示します。</translation>
+    </message>
+    <message>
+        <source>Images, palettes, projects, pictures (PNG, BMP) and palette files of other programs</source>
+        <translation>画像、パレット、プロジェクト、画像ファイル（PNG、BMP）、他のプログラムのパレットファイル</translation>
+    </message>
+    <message>
+        <source>Tell it as JSON</source>
+        <translation>JSON で出力</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>%1 x %2</source>
+        <translation>%1 x %2</translation>
+    </message>
+    <message>
+        <source>%1 bits</source>
+        <translation>%1 ビット</translation>
+    </message>
+    <message>
+        <source>%1 colours used</source>
+        <translation>使用色 %1</translation>
+    </message>
+    <message>
+        <source>%1 entries (%2 different)</source>
+        <translation>%1 エントリ（異なるもの %2）</translation>
+    </message>
+    <message>
+        <source>bank %1</source>
+        <translation>バンク %1</translation>
+    </message>
+    <message>
+        <source>%1 pictures</source>
+        <translation>ピクチャ %1</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 バイト</translation>
+    </message>
+    <message>
+        <source>unknown argument: %1</source>
+        <translation>不明な引数です: %1</translation>
+    </message>
+    <message>
+        <source>FILE|FOLDER</source>
+        <translation>ファイル|フォルダー</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>FORMAT</source>
+        <translation>形式</translation>
+    </message>
+    <message>
+        <source>NUMBER</source>
+        <translation>数</translation>
+    </message>
+    <message>
+        <source>WxH</source>
+        <translation>幅x高さ</translation>
+    </message>
+    <message>
+        <source>X,Y,WxH</source>
+        <translation>X,Y,幅x高さ</translation>
+    </message>
+    <message>
+        <source>HOW</source>
+        <translation>方法</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>The file is neither an image nor a picture that can be read (PNG, BMP).</source>
+        <translation>画像ファイルでも、読み込める画像（PNG、BMP）でもありません。</translation>
+    </message>
+    <message>
+        <source>The file brings no palette.</source>
+        <translation>パレットを含まないファイルです。</translation>
+    </message>
+    <message>
+        <source>A palette alone cannot be written in this format.</source>
+        <translation>パレットだけをこの形式で書き出すことはできません。</translation>
+    </message>
+    <message>
+        <source>The file has %1 colours, a palette holds 256.</source>
+        <translation>ファイルには %1 色ありますが、パレットは 256 色までです。</translation>
+    </message>
+    <message>
+        <source>The part to keep lies outside of the image of %1 x %2 texels.</source>
+        <translation>切り抜く範囲が %1 x %2 テクセルの画像の外にあります。</translation>
+    </message>
+    <message>
+        <source>The image uses more than 16 indices; to bring it to 4 bits takes its palette (--palette).</source>
+        <translation>16 を超える番号が使われています。4 ビットにするにはパレットが必要です（--palette）。</translation>
+    </message>
+    <message>
+        <source>The palette has no bank %1.</source>
+        <translation>パレットにバンク %1 はありません。</translation>
+    </message>
+    <message>
+        <source>the name of the output tells no format; --format does</source>
+        <translation>出力の名前から形式が分かりません。--format で指定してください</translation>
+    </message>
+    <message>
+        <source>C source is two files and needs a name (the format h is one).</source>
+        <translation>C ソースは 2 つのファイルになるため、名前が必要です（形式 h なら 1 つです）。</translation>
+    </message>
+    <message>
+        <source>Another file has already been written as &quot;%1&quot;.</source>
+        <translation>「%1」には別のファイルを書き込み済みです。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 do not go together</source>
+        <translation>%1 と %2 は一緒に使えません</translation>
+    </message>
+    <message>
+        <source>several files do not go into the standard output</source>
+        <translation>複数のファイルを標準出力に書くことはできません</translation>
+    </message>
+    <message>
+        <source>%1 colours were rounded to what a palette holds</source>
+        <translation>%1 色をパレットで表せる色に丸めました</translation>
+    </message>
+    <message>
+        <source>Convert images, pictures and palettes into other formats.</source>
+        <translation>画像、画像ファイル、パレットを他の形式に変換します。</translation>
+    </message>
+    <message>
+        <source>Images (.tmf), pictures (PNG, BMP), palettes (.tlf) and palette files (.gpl, .pal, .act, .hex)</source>
+        <translation>画像（.tmf）、画像ファイル（PNG、BMP）、パレット（.tlf）、パレットファイル（.gpl、.pal、.act、.hex）</translation>
+    </message>
+    <message>
+        <source>Where the result goes; for several files a folder</source>
+        <translation>結果の出力先。ファイルが複数ならフォルダー</translation>
+    </message>
+    <message>
+        <source>What is written, where the name of the output does not tell: %1</source>
+        <translation>出力の名前から決まらないときの形式: %1</translation>
+    </message>
+    <message>
+        <source>Palette that images are shown with and pictures are brought into</source>
+        <translation>画像の表示に使い、画像ファイルの色を合わせるパレット</translation>
+    </message>
+    <message>
+        <source>Bank of a palette of 256 entries that an image of 4 bits shows, 0 to 15</source>
+        <translation>4 ビットの画像が使う、256 エントリのパレットのバンク（0 から 15）</translation>
+    </message>
+    <message>
+        <source>Also write the palette of the result, a TLF file</source>
+        <translation>結果のパレットも TLF ファイルに書く</translation>
+    </message>
+    <message>
+        <source>Keep this part alone: its left top texel and its size</source>
+        <translation>この範囲だけを残す（左上のテクセルと大きさ）</translation>
+    </message>
+    <message>
+        <source>Scale to this size, each texel to the nearest</source>
+        <translation>この大きさに拡大または縮小する（最近傍）</translation>
+    </message>
+    <message>
+        <source>Turn: %1</source>
+        <translation>回転: %1</translation>
+    </message>
+    <message>
+        <source>Bits of a texel: %1</source>
+        <translation>テクセルのビット数: %1</translation>
+    </message>
+    <message>
+        <source>Most colours of a palette that is made for a picture</source>
+        <translation>画像ファイルから作るパレットの色数の上限</translation>
+    </message>
+    <message>
+        <source>Entries of such a palette: %1</source>
+        <translation>そのパレットのエントリの種類: %1</translation>
+    </message>
+    <message>
+        <source>How colours that are missing are mixed: %1</source>
+        <translation>足りない色の混ぜ方（ディザ）: %1</translation>
+    </message>
+    <message>
+        <source>Name of the arrays in C source instead of the output&apos;s</source>
+        <translation>C ソースの配列名（省略時は出力の名前）</translation>
+    </message>
+    <message>
+        <source>Alignment of the arrays in bytes, a power of 2</source>
+        <translation>配列のアライメント（バイト、2 の累乗）</translation>
+    </message>
+    <message>
+        <source>Put all banks into C source or raw bytes, not only the one that is shown</source>
+        <translation>表示するバンクだけでなくパレット全体を C ソースや生データに入れる</translation>
+    </message>
+    <message>
+        <source>In this order: crop, resize, turn, colours, depth. A picture without indexed colours gets a palette of its
+own, or the nearest colours of the one that is given. c writes the header beside the source; h is all in one.</source>
+        <translation>処理の順序: 切り抜き、拡大縮小、回転、色、ビット数。インデックスカラーでない画像ファイルには新しい
+パレットを作るか、指定したパレットの最も近い色を割り当てます。形式 c はソースと並べてヘッダーも書き、
+形式 h は 1 つのファイルにまとめます。</translation>
+    </message>
+    <message>
+        <source>%1 files converted, %2 failed</source>
+        <translation>%1 ファイルを変換、失敗 %2</translation>
+    </message>
+    <message>
+        <source>FOLDER</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Write the pictures of a project for the console&apos;s build, as far as they have changed.</source>
+        <translation>プロジェクトのピクチャのうち変更されたものをビルド用に書き出します。</translation>
+    </message>
+    <message>
+        <source>The project (.tpf)</source>
+        <translation>プロジェクト（.tpf）</translation>
+    </message>
+    <message>
+        <source>Folder of the results, made when there is none</source>
+        <translation>出力先のフォルダー。なければ作る</translation>
+    </message>
+    <message>
+        <source>What each picture becomes: %1; png where nothing is said. tmf writes the palette beside it</source>
+        <translation>ピクチャの形式: %1。省略時は png。tmf ではパレットも並べて書く</translation>
+    </message>
+    <message>
+        <source>How many pictures are made at a time; as many as there are processors where nothing is said</source>
+        <translation>同時に作るピクチャの数。省略時はプロセッサの数</translation>
+    </message>
+    <message>
+        <source>Only print the files that would be written</source>
+        <translation>書き込むファイルの名前だけを表示</translation>
+    </message>
+    <message>
+        <source>Make everything, changed or not</source>
+        <translation>変更がなくてもすべて作る</translation>
+    </message>
+    <message>
+        <source>Write a rule for make or ninja: index.json and the files that it was made from</source>
+        <translation>make や ninja 用の規則（index.json とその元になったファイル）を書く</translation>
+    </message>
+    <message>
+        <source>index.json in the folder lists the pictures with their files, sizes and banks. A picture is made again when
+its image, its palette, its entry in the project or the options have changed, or its file is not what was
+written. Files of pictures that are gone from the project are removed.</source>
+        <translation>フォルダーの index.json に、ピクチャとそのファイル、大きさ、バンクの一覧を書きます。画像、パレット、
+プロジェクトの項目、オプションのどれかが変わったとき、または出力ファイルが書いたときのままでないときに、
+ピクチャを作り直します。プロジェクトからなくなったピクチャのファイルは削除します。</translation>
+    </message>
+    <message>
+        <source>The picture would be written under the same name as &quot;%1&quot;.</source>
+        <translation>ピクチャの出力の名前が「%1」と同じになります。</translation>
+    </message>
+    <message>
+        <source>The name of a file holds a line end, which a rule cannot.</source>
+        <translation>ファイル名に改行があり、規則に書けません。</translation>
+    </message>
+    <message>
+        <source>%1 made, %2 up to date, %3 removed, %4 failed</source>
+        <translation>作成 %1、最新 %2、削除 %3、失敗 %4</translation>
+    </message>
+    <message>
+        <source>ENTRIES</source>
+        <translation>エントリ</translation>
+    </message>
+    <message>
+        <source>Sort the entries of a palette; the images follow.</source>
+        <translation>パレットのエントリを並べ替え、画像を追従させます。</translation>
+    </message>
+    <message>
+        <source>Give texels of equal entries the first of them.</source>
+        <translation>同じエントリのテクセルを最初のエントリにまとめます。</translation>
+    </message>
+    <message>
+        <source>Move entries that no texel shows to the end.</source>
+        <translation>どのテクセルも使わないエントリを末尾に移します。</translation>
+    </message>
+    <message>
+        <source>Move entries to another place; the images follow.</source>
+        <translation>エントリを別の場所に移し、画像を追従させます。</translation>
+    </message>
+    <message>
+        <source>Exchange two ranges of entries; the images follow.</source>
+        <translation>2 つの範囲のエントリを入れ替え、画像を追従させます。</translation>
+    </message>
+    <message>
+        <source>Make even steps from the first to the last entry of a range.</source>
+        <translation>範囲の最初から最後のエントリまでを等しい段階にします。</translation>
+    </message>
+    <message>
+        <source>Change hue, saturation, brightness, a channel or alpha.</source>
+        <translation>色相、彩度、明るさ、チャンネル、アルファを変えます。</translation>
+    </message>
+    <message>
+        <source>The palette (.tlf), which is changed in place</source>
+        <translation>パレット（.tlf）。その場で変更する</translation>
+    </message>
+    <message>
+        <source>Images (.tmf) that show it and are to look the same afterwards</source>
+        <translation>このパレットを使い、見た目を保つ画像（.tmf）</translation>
+    </message>
+    <message>
+        <source>Take all images along that a project (.tpf) shows with this palette, each with its bank</source>
+        <translation>プロジェクト（.tpf）でこのパレットを使うすべての画像を、それぞれのバンクで追従させる</translation>
+    </message>
+    <message>
+        <source>Only these entries, such as 16-31</source>
+        <translation>対象のエントリ（例: 16-31）</translation>
+    </message>
+    <message>
+        <source>Write palette and images into this folder and leave the files as they are</source>
+        <translation>ファイルを変更せず、パレットと画像をこのフォルダーに書く</translation>
+    </message>
+    <message>
+        <source>Entry that the first of the range goes to</source>
+        <translation>範囲の最初のエントリの移動先</translation>
+    </message>
+    <message>
+        <source>What comes first: %1</source>
+        <translation>並べ替えの基準: %1</translation>
+    </message>
+    <message>
+        <source>The other way round</source>
+        <translation>逆順</translation>
+    </message>
+    <message>
+        <source>Each bank of 16 entries by itself; also without this where an image shows a bank alone</source>
+        <translation>16 エントリのバンクごとに行う。バンクだけを使う画像があれば常にそうする</translation>
+    </message>
+    <message>
+        <source>These entries stay where they are, such as 0,4-7</source>
+        <translation>動かさないエントリ（例: 0,4-7）</translation>
+    </message>
+    <message>
+        <source>Degrees, -180 to 180</source>
+        <translation>角度（-180 から 180）</translation>
+    </message>
+    <message>
+        <source>Percent, -100 (grey) to 100</source>
+        <translation>パーセント（-100（灰色）から 100）</translation>
+    </message>
+    <message>
+        <source>Percent, -100 (black) to 100 (white)</source>
+        <translation>パーセント（-100（黒）から 100（白））</translation>
+    </message>
+    <message>
+        <source>The channel that --steps changes: %1</source>
+        <translation>--steps で変えるチャンネル: %1</translation>
+    </message>
+    <message>
+        <source>Steps of that channel</source>
+        <translation>そのチャンネルの段階数</translation>
+    </message>
+    <message>
+        <source>Steps of alpha</source>
+        <translation>アルファの段階数</translation>
+    </message>
+    <message>
+        <source>The palette has no entry %1.</source>
+        <translation>パレットにエントリ %1 はありません。</translation>
+    </message>
+    <message>
+        <source>The entries cannot go there.</source>
+        <translation>エントリをそこへ移すことはできません。</translation>
+    </message>
+    <message>
+        <source>%1 texels would leave the bank that the image shows.</source>
+        <translation>%1 テクセルが画像の使うバンクの外に出ます。</translation>
+    </message>
+    <message>
+        <source>The image is shown through two banks and can follow only one.</source>
+        <translation>画像が 2 つのバンクで使われているため、追従できません。</translation>
+    </message>
+    <message>
+        <source>The palette has no such channel.</source>
+        <translation>パレットにそのチャンネルはありません。</translation>
+    </message>
+    <message>
+        <source>%1 files written</source>
+        <translation>%1 ファイルを書き込みました</translation>
+    </message>
+    <message>
+        <source>Draw an image as the editor shows it, or the pictures of a project side by side.</source>
+        <translation>画像をエディターと同じ見た目で、またはプロジェクトのピクチャを並べて描画します。</translation>
+    </message>
+    <message>
+        <source>An image (.tmf), a picture (PNG, BMP) or a project (.tpf)</source>
+        <translation>画像（.tmf）、画像ファイル（PNG、BMP）、またはプロジェクト（.tpf）</translation>
+    </message>
+    <message>
+        <source>The PNG file to write</source>
+        <translation>書き込む PNG ファイル</translation>
+    </message>
+    <message>
+        <source>Palette that the image is shown with; greys without one</source>
+        <translation>画像の表示に使うパレット。なければ灰色</translation>
+    </message>
+    <message>
+        <source>Pixels of a texel, 1 to 16</source>
+        <translation>テクセル 1 つのピクセル数（1 から 16）</translation>
+    </message>
+    <message>
+        <source>Show the grid of 8 texels</source>
+        <translation>8 テクセルごとのグリッドを表示</translation>
+    </message>
+    <message>
+        <source>Show alpha as greys</source>
+        <translation>アルファを灰色で表示</translation>
+    </message>
+    <message>
+        <source>Let a checkerboard shine through what is transparent</source>
+        <translation>透明な部分に市松模様を表示</translation>
+    </message>
+    <message>
+        <source>Pictures in a row of the sheet</source>
+        <translation>1 行に並べるピクチャの数</translation>
+    </message>
+    <message>
+        <source>Side of a picture&apos;s square on the sheet in pixels</source>
+        <translation>ピクチャ 1 つの正方形の辺（ピクセル）</translation>
+    </message>
+</context>
+<context>
     <name>FolderPick</name>
     <message>
         <source>Choose Folder</source>

@@ -21,8 +21,8 @@ InterchangeError errorOf(InterchangeError::Kind kind) {
 
 } // namespace
 
-EntryRange chosenEntries(const TmfImage& image, const TlutData* palette, std::int32_t firstEntry,
-                         const SourceOptions& options) {
+ChosenEntries chosenEntries(const TmfImage& image, const TlutData* palette, std::int32_t firstEntry,
+                            const SourceOptions& options) {
     if (!options.withPalette || palette == nullptr || palette->entries == nullptr || palette->count <= 0)
         return {};
     if (options.wholePalette || image.bits != 4)
@@ -74,7 +74,7 @@ Result<std::vector<std::byte>, InterchangeError> rawBytes(const TmfImage& image,
             return texels.error();
         bytes = std::move(texels).value();
     }
-    const EntryRange range = chosenEntries(image, palette, firstEntry, options);
+    const ChosenEntries range = chosenEntries(image, palette, firstEntry, options);
     if (bytes.empty() && range.count == 0)
         return errorOf(InterchangeError::Kind::NoColours);
     if (range.count == 0)

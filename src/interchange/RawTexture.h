@@ -35,14 +35,14 @@ struct SourceOptions {
                                                                         const SourceOptions& options);
 
 /// Entries of a palette that go out with an image.
-struct EntryRange {
+struct ChosenEntries {
     std::int32_t first = 0;
     std::int32_t count = 0; ///< 0 for no palette.
 };
 
 /// Those that the options ask for; never more than there are.
-[[nodiscard]] EntryRange chosenEntries(const TmfImage& image, const TlutData* palette,
-                                       std::int32_t firstEntry, const SourceOptions& options);
+[[nodiscard]] ChosenEntries chosenEntries(const TmfImage& image, const TlutData* palette,
+                                          std::int32_t firstEntry, const SourceOptions& options);
 
 /// Bytes of a row of an image of 4 or 8 bits, without what pads it in memory.
 [[nodiscard]] constexpr std::int64_t rawRowBytes(const TmfImage& image) noexcept {

@@ -25,7 +25,7 @@ std::string upper(std::string text) {
 /// What the source is made of, in the order in which it is read.
 class SourceText {
 public:
-    SourceText(const TmfImage& image, const TlutData* palette, EntryRange range, std::int32_t firstEntry,
+    SourceText(const TmfImage& image, const TlutData* palette, ChosenEntries range, std::int32_t firstEntry,
                const SourceOptions& options, std::vector<std::byte> texels)
         : image_(image)
         , palette_(palette)
@@ -161,7 +161,7 @@ private:
 
     const TmfImage& image_;
     const TlutData* palette_;
-    EntryRange range_;
+    ChosenEntries range_;
     std::int32_t firstOfImage_;
     std::int32_t alignment_;
     std::string name_;
@@ -180,7 +180,7 @@ Result<T, InterchangeError> sourceOf(const TmfImage& image, const TlutData* pale
             return raw.error();
         texels = std::move(raw).value();
     }
-    const EntryRange range = chosenEntries(image, palette, firstEntry, options);
+    const ChosenEntries range = chosenEntries(image, palette, firstEntry, options);
     if (texels.empty() && range.count == 0)
         return InterchangeError{InterchangeError::Kind::NoColours, {}, 0, 0};
     try {

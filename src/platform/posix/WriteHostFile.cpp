@@ -121,13 +121,13 @@ Descriptor openFolder(const std::string& path) {
 
 /// `old` is null for a file that does not exist. `nameRefused` tells that the file could not be given one.
 ErrorNumber replaceThrough(TemporaryFile& file, const std::string& path, const struct stat* old,
-                           FilePieces pieces, bool& nameRefused) {
+                           FilePieces pieces, Flush flushes, bool& nameRefused) {
     ErrorNumber error = file.error();
     if (error == 0 && old != nullptr)
         error = keepPermissions(file.get(), path, *old);
     if (error == 0)
         error = writeAll(file.get(), pieces);
-    if (error == 0)
+    if (error == 0 && flushes == Flush::Yes)
         error = flush(file.get());
     if (error == 0) {
         error = file.makeNamed();
@@ -140,7 +140,7 @@ ErrorNumber replaceThrough(TemporaryFile& file, const std::string& path, const s
     return error;
 }
 
-ErrorNumber replaceFile(const std::string& path, const struct stat* old, FilePieces pieces) {
+ErrorNumber replaceFile(const std::string& path, const struct stat* old, FilePieces pieces, Flush flushes) {
     const std::string folderName = folderOf(path);
     const Descriptor folder = openFolder(folderName.empty() ? "." : folderName);
     if (!folder.valid())
@@ -152,11 +152,11 @@ ErrorNumber replaceFile(const std::string& path, const struct stat* old, FilePie
         nameRefused = false;
         // Nobody else may look into a copy of a file whose rights are not set yet.
         TemporaryFile file(folder.get(), old != nullptr ? S_IRUSR | S_IWUSR : kNewFileMode, name);
-        error = replaceThrough(file, path, old, pieces, nameRefused);
+        error = replaceThrough(file, path, old, pieces, flushes, nameRefused);
         if (!nameRefused)
             break;
     }
-    if (error == 0) {
+    if (error == 0 && flushes == Flush::Yes) {
         // The file is in its place. A folder that cannot be flushed only makes that less lasting.
         (void)flush(folder.get());
     }
@@ -178,7 +178,7 @@ bool isDevice(const std::string& path) {
     return ::stat(path.c_str(), &named) == 0 && !S_ISREG(named.st_mode) && !S_ISDIR(named.st_mode);
 }
 
-ErrorNumber writeResolved(std::string path, FilePieces pieces) {
+ErrorNumber writeResolved(std::string path, FilePieces pieces, Flush flushes) {
     // Before the links are followed: what "/dev/stdout" leads to may be a pipe, which has no name to follow.
     if (isDevice(path))
         return writeInto(path, pieces);
@@ -186,20 +186,20 @@ ErrorNumber writeResolved(std::string path, FilePieces pieces) {
         return error;
     struct stat old {};
     if (::stat(path.c_str(), &old) != 0)
-        return errno == ENOENT ? replaceFile(path, nullptr, pieces) : errno;
+        return errno == ENOENT ? replaceFile(path, nullptr, pieces, flushes) : errno;
     if (S_ISDIR(old.st_mode))
         return EISDIR;
     // Replacing asks for rights to the folder only; a file that is protected itself is left alone.
     if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0)
         return errno;
-    return replaceFile(path, &old, pieces);
+    return replaceFile(path, &old, pieces, flushes);
 }
 
 } // namespace
 
-std::optional<FileError> writeHostFile(const std::string& path, FilePieces pieces) {
+std::optional<FileError> writeHostFile(const std::string& path, FilePieces pieces, Flush flush) {
     const SignalShield shield;
-    const ErrorNumber error = writeResolved(path, pieces);
+    const ErrorNumber error = writeResolved(path, pieces, flush);
     if (error == 0)
         return std::nullopt;
     return fileErrorFrom(error);

@@ -1,0 +1,35 @@
+#include "cli/FileStamp.h"
+
+#include <ctime>
+#include <sys/stat.h>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr std::int64_t kNanoseconds = 1'000'000'000;
+/// File systems tell times in steps of up to 10 ms, the clock's tick.
+constexpr std::int64_t kTooClose = 50'000'000;
+
+std::int64_t inNanoseconds(const timespec& time) {
+    return std::int64_t{time.tv_sec} * kNanoseconds + time.tv_nsec;
+}
+
+} // namespace
+
+std::optional<FileStamp> stampOf(const std::string& path) {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
+        return std::nullopt;
+    return FileStamp{static_cast<std::uint64_t>(status.st_size), inNanoseconds(status.st_mtim),
+                     status.st_ino};
+}
+
+FileStamp settled(FileStamp stamp) {
+    timespec now{};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    const std::int64_t age = inNanoseconds(now) - stamp.time;
+    return age < kTooClose && age > -kTooClose ? FileStamp{} : stamp;
+}
+
+} // namespace dyeworks

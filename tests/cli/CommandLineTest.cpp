@@ -1,0 +1,158 @@
+// What a script sees of every command: exit codes, messages, names and streams.
+
+#include "cli/Program.h"
+
+#include <gmock/gmock.h>
+
+namespace dyeworks {
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+
+using Arguments = std::vector<std::string>;
+
+std::string image(int side = 8) {
+    return tmfFile(side, side, 4, std::vector<unsigned>(std::size_t(side) * std::size_t(side), 5));
+}
+
+std::string palette() {
+    return tlfFile(std::vector<unsigned>(16, 0xf801), false);
+}
+
+struct CommandLine : testing::Test {
+    CommandLine() {
+        folder.write("a.tmf", image());
+        folder.write("a.tlf", palette());
+        folder.write("cut.tmf", image().substr(0, 40));
+        folder.write("cut.tlf", palette().substr(0, 70));
+        folder.write("text", "no texture");
+        folder.write("p.tpf", "PICT.0=One,a.tmf,a.tlf,0\nPICT_NUM=1\n");
+        folder.write("gone.tpf", "PICT.0=One,a.tmf,none.tlf,0\nPICT.1=Two,a.tmf,a.tlf,0\nPICT_NUM=2\n");
+        folder.write("same.tpf", "PICT.0=a/b,a.tmf,a.tlf,0\nPICT.1=a_b,a.tmf,a.tlf,0\nPICT_NUM=2\n");
+    }
+    TestFolder folder;
+};
+
+struct Refused {
+    Arguments arguments;
+    int code;
+    const char* message; ///< What the standard error stream begins with.
+};
+
+const std::vector<Refused> kRefused{
+    {{}, 2, "dyeworks-cli: "},
+    {{"draw"}, 2, "dyeworks-cli: "},
+    {{"palette"}, 2, "dyeworks-cli palette: "},
+    {{"palette", "draw"}, 2, "dyeworks-cli palette: "},
+    {{"info"}, 2, "dyeworks-cli info: "},
+    {{"info", "--colour", "a.tmf"}, 2, "dyeworks-cli info: "},
+    {{"info", "none.tmf"}, 3, "none.tmf: "},
+    {{"info", "."}, 3, ".: "},
+    {{"info", "text"}, 3, "text: "},
+    {{"info", "cut.tmf"}, 3, "cut.tmf: "},
+    {{"info", "cut.tlf"}, 3, "cut.tlf: "},
+    {{"convert", "a.tmf"}, 2, "dyeworks-cli convert: "},
+    {{"convert", "a.tmf", "-o"}, 2, "dyeworks-cli convert: "},
+    {{"convert", "a.tmf", "-o", "a"}, 2, "dyeworks-cli convert: "},
+    {{"convert", "a.tmf", "-o", "."}, 2, "dyeworks-cli convert: "},
+    {{"convert", "a.tmf", "-o", "b.png", "--crop", "1,2"}, 2, "dyeworks-cli convert: "},
+    {{"convert", "a.tmf", "-o", "b.png", "--bank", "16"}, 2, "dyeworks-cli convert: "},
+    {{"convert", "a.tmf", "-o", "b.png", "--turn", "up"}, 2, "dyeworks-cli convert: "},
+    {{"convert", "a.tmf", "a.tlf", "-o", "-", "-f", "png"}, 2, "dyeworks-cli convert: "},
+    {{"convert", "a.tmf", "-o", "b.png", "--crop", "4,4,8x8"}, 3, "a.tmf: "},
+    {{"convert", "a.tmf", "-o", "b.png", "-p", "cut.tlf"}, 3, "cut.tlf: "},
+    {{"convert", "a.tmf", "-o", "b.png", "-p", "a.tlf", "-b", "1"}, 3, "a.tlf: "},
+    {{"convert", "a.tmf", "-o", "none/b.png"}, 3, "none/b.png: "},
+    {{"convert", "a.tmf", "-o", "b.gpl"}, 3, "a.tmf: "},
+    {{"convert", "a.tlf", "-o", "b.tmf"}, 3, "a.tlf: "},
+    {{"build", "none.tpf", "-o", "out"}, 3, "none.tpf: "},
+    {{"build", "p.tpf", "-o", "text"}, 3, "text: "},
+    {{"build", "same.tpf", "-o", "out"}, 3, "a_b: "},
+    {{"palette", "move", "a.tlf"}, 2, "dyeworks-cli palette move: "},
+    {{"palette", "move", "a.tlf", "--to", "16"}, 3, "a.tlf: "},
+    {{"palette", "sort", "a.tlf", "--range", "9-4"}, 2, "dyeworks-cli palette sort: "},
+    {{"palette", "sort", "a.tlf", "cut.tmf"}, 3, "cut.tmf: "},
+    {{"render", "a.tmf"}, 2, "dyeworks-cli render: "},
+    {{"render", "a.tmf", "-o", "b.png", "--zoom", "17"}, 2, "dyeworks-cli render: "},
+    {{"render", "a.tmf", "-o", "b.png", "-p", "none.tlf"}, 3, "none.tlf: "},
+};
+
+TEST_F(CommandLine, SaysWhatIsWrongInTheUsersLanguage) {
+    for (const Refused& refused : kRefused) {
+        SCOPED_TRACE(testing::PrintToString(refused.arguments));
+        const ProgramRun english = folder.run(refused.arguments);
+        EXPECT_EQ(english.code, refused.code);
+        EXPECT_THAT(english.err, StartsWith(refused.message));
+        EXPECT_THAT(english.err, Not(HasSubstr("\r"))); // Progress is for terminals.
+        EXPECT_THAT(english.out, IsEmpty());
+        const ProgramRun japanese = folder.run(refused.arguments, {.language = "ja_JP.UTF-8"});
+        EXPECT_EQ(japanese.code, refused.code);
+        EXPECT_THAT(japanese.err, StartsWith(refused.message));
+        const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 128; };
+        EXPECT_FALSE(std::ranges::all_of(japanese.err, isAscii)) << japanese.err;
+        EXPECT_FALSE(std::filesystem::exists(folder.path() / "b.png"));
+    }
+}
+
+TEST_F(CommandLine, HelpHasNoEnglishHeadingsInJapanese) {
+    for (const Arguments& command : std::vector<Arguments>{
+             {}, {"info"}, {"convert"}, {"build"}, {"render"}, {"palette"}, {"palette", "sort"}}) {
+        Arguments arguments = command;
+        arguments.push_back("--help");
+        EXPECT_THAT(folder.run(arguments).out, HasSubstr("Usage: dyeworks-cli"));
+        const ProgramRun japanese = folder.run(arguments, {.language = "ja_JP.UTF-8"});
+        EXPECT_EQ(japanese.code, 0);
+        for (const char* const english : {"Usage", "Options", "OPTIONS", "REQUIRED", "Print", "Arguments"})
+            EXPECT_THAT(japanese.out, Not(HasSubstr(english)));
+    }
+}
+
+TEST_F(CommandLine, TakesFilesOfAnyName) {
+    const std::vector<std::string> names{"a b", "\n",       "-x",   "--help", "[a,b]", "b]",
+                                         "%%",  "\xff\xfe", "a\\b", "=",      "#",     "日本"};
+    for (const std::string& stem : names) {
+        SCOPED_TRACE(testing::PrintToString(stem));
+        const std::string name = stem + ".tmf]";
+        folder.write(name, image());
+        EXPECT_EQ(folder.run({"info", "--", name}).out.substr(0, name.size() + 2), name + ": ");
+        EXPECT_EQ(folder.run({"convert", "-o", "./" + stem + ".png]", "-f", "png", "--", name}).code, 0);
+        EXPECT_THAT(folder.read(stem + ".png]"), StartsWith("\x89PNG"));
+        const ProgramRun missing = folder.run({"info", "--", stem + ".none"});
+        EXPECT_EQ(missing.code, 3);
+        EXPECT_THAT(missing.err, StartsWith(stem + ".none: "));
+    }
+}
+
+TEST_F(CommandLine, ReadsAndWritesStreams) {
+    const ProgramRun png =
+        folder.run({"convert", "-", "-o", "-", "-f", "png", "-p", "a.tlf"}, {.input = image()});
+    EXPECT_EQ(png.code, 0);
+    folder.write("b.png", png.out);
+    EXPECT_EQ(folder.run({"convert", "b.png", "-o", "-", "-f", "tmf"}).out, image());
+    EXPECT_THAT(folder.run({"info", "-"}, {.input = png.out}).out, StartsWith("-: PNG, 8 x 8, 4 bits"));
+}
+
+TEST_F(CommandLine, LeavesTheOldFileWhenTheDiskIsFull) {
+    folder.write("large.tmf", image(256));
+    folder.write("b.bmp", "before");
+    const ProgramRun run = folder.run({"convert", "large.tmf", "-o", "b.bmp"}, {.tinyFiles = true});
+    EXPECT_EQ(run.code, 3);
+    EXPECT_THAT(run.err, StartsWith("b.bmp: "));
+    EXPECT_EQ(folder.read("b.bmp"), "before");
+    EXPECT_EQ(folder.run({"info", "a.tmf"}, {.output = "/dev/full"}).code, 3);
+}
+
+TEST_F(CommandLine, GoesOnAfterAFileThatFails) {
+    const ProgramRun run = folder.run({"convert", "cut.tmf", "a.tmf", "-f", "png", "-o", "out"});
+    EXPECT_EQ(run.code, 3);
+    EXPECT_THAT(folder.read("out/a.png"), StartsWith("\x89PNG"));
+    EXPECT_EQ(folder.run({"build", "gone.tpf", "-o", "built", "-q"}).code, 3);
+    EXPECT_THAT(folder.read("built/Two.png"), StartsWith("\x89PNG"));
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "built/One.png"));
+}
+
+} // namespace
+} // namespace dyeworks
