@@ -1366,7 +1366,7 @@ Exit code: 0 done, 1 something found, 2 wrong arguments, 3 trouble with files.</
     </message>
     <message>
         <source>%1 pictures</source>
-        <translation>ピクチャ %1</translation>
+        <translation>ピクチャー %1</translation>
     </message>
     <message>
         <source>%1 bytes</source>
@@ -1545,7 +1545,7 @@ own, or the nearest colours of the one that is given. c writes the header beside
     </message>
     <message>
         <source>Write the pictures of a project for the console&apos;s build, as far as they have changed.</source>
-        <translation>プロジェクトのピクチャのうち変更されたものをビルド用に書き出します。</translation>
+        <translation>プロジェクトのピクチャーのうち変更されたものをビルド用に書き出します。</translation>
     </message>
     <message>
         <source>The project (.tpf)</source>
@@ -1557,11 +1557,11 @@ own, or the nearest colours of the one that is given. c writes the header beside
     </message>
     <message>
         <source>What each picture becomes: %1; png where nothing is said. tmf writes the palette beside it</source>
-        <translation>ピクチャの形式: %1。省略時は png。tmf ではパレットも並べて書く</translation>
+        <translation>ピクチャーの形式: %1。省略時は png。tmf ではパレットも並べて書く</translation>
     </message>
     <message>
         <source>How many pictures are made at a time; as many as there are processors where nothing is said</source>
-        <translation>同時に作るピクチャの数。省略時はプロセッサの数</translation>
+        <translation>同時に作るピクチャーの数。省略時はプロセッサの数</translation>
     </message>
     <message>
         <source>Only print the files that would be written</source>
@@ -1579,13 +1579,13 @@ own, or the nearest colours of the one that is given. c writes the header beside
         <source>index.json in the folder lists the pictures with their files, sizes and banks. A picture is made again when
 its image, its palette, its entry in the project or the options have changed, or its file is not what was
 written. Files of pictures that are gone from the project are removed.</source>
-        <translation>フォルダーの index.json に、ピクチャとそのファイル、大きさ、バンクの一覧を書きます。画像、パレット、
+        <translation>フォルダーの index.json に、ピクチャーとそのファイル、大きさ、バンクの一覧を書きます。画像、パレット、
 プロジェクトの項目、オプションのどれかが変わったとき、または出力ファイルが書いたときのままでないときに、
-ピクチャを作り直します。プロジェクトからなくなったピクチャのファイルは削除します。</translation>
+ピクチャーを作り直します。プロジェクトからなくなったピクチャーのファイルは削除します。</translation>
     </message>
     <message>
         <source>The picture would be written under the same name as &quot;%1&quot;.</source>
-        <translation>ピクチャの出力の名前が「%1」と同じになります。</translation>
+        <translation>ピクチャーの出力の名前が「%1」と同じになります。</translation>
     </message>
     <message>
         <source>The name of a file holds a line end, which a rule cannot.</source>
@@ -1717,7 +1717,7 @@ written. Files of pictures that are gone from the project are removed.</source>
     </message>
     <message>
         <source>Draw an image as the editor shows it, or the pictures of a project side by side.</source>
-        <translation>画像をエディターと同じ見た目で、またはプロジェクトのピクチャを並べて描画します。</translation>
+        <translation>画像をエディターと同じ見た目で、またはプロジェクトのピクチャーを並べて描画します。</translation>
     </message>
     <message>
         <source>An image (.tmf), a picture (PNG, BMP) or a project (.tpf)</source>
@@ -1749,11 +1749,19 @@ written. Files of pictures that are gone from the project are removed.</source>
     </message>
     <message>
         <source>Pictures in a row of the sheet</source>
-        <translation>1 行に並べるピクチャの数</translation>
+        <translation>1 行に並べるピクチャーの数</translation>
     </message>
     <message>
         <source>Side of a picture&apos;s square on the sheet in pixels</source>
-        <translation>ピクチャ 1 つの正方形の辺（ピクセル）</translation>
+        <translation>ピクチャー 1 つの正方形の辺（ピクセル）</translation>
+    </message>
+    <message>
+        <source>c=FOLDER</source>
+        <translation>c=フォルダー</translation>
+    </message>
+    <message>
+        <source>Let a drive that a project names stand for a folder</source>
+        <translation>プロジェクトにあるドライブ名の置き換え先のフォルダー</translation>
     </message>
 </context>
 <context>
@@ -3411,18 +3419,6 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <translation>残りの文書でやり直しますか?</translation>
     </message>
     <message>
-        <source>Rule Findings</source>
-        <translation>ルール違反</translation>
-    </message>
-    <message>
-        <source>Lists what in the open images breaks a rule, and where. A click, or Enter, goes there.</source>
-        <translation>開いている画像のうちルールに反するものと、その場所の一覧です。クリックするか Enter を押すと、そこへ移ります。</translation>
-    </message>
-    <message>
-        <source>Rule</source>
-        <translation>ルール</translation>
-    </message>
-    <message>
         <source>Place</source>
         <translation>場所</translation>
     </message>
@@ -3939,8 +3935,256 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <translation>空くエントリ: %1</translation>
     </message>
     <message>
-        <source>What the images of the project&apos;s pictures must keep to. Rule Findings in the View menu lists what does not.</source>
-        <translation>プロジェクトのピクチャーの画像が守るルールです。反するものは[表示]メニューの[ルール違反]に並びます。</translation>
+        <source>Findings</source>
+        <translation>検査結果</translation>
+    </message>
+    <message>
+        <source>Lists what in the open images breaks a rule, and what a check has found in the project. A click goes there; a double click, or Enter, opens the picture.</source>
+        <translation>開いている画像のうちルールに反するものと、プロジェクトの検査で見つかったものの一覧です。クリックするとそこへ移り、ダブルクリックするか Enter を押すとピクチャーを開きます。</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>検査項目</translation>
+    </message>
+    <message>
+        <source>Missing folder</source>
+        <translation>見つからないフォルダー</translation>
+    </message>
+    <message>
+        <source>Outside the project</source>
+        <translation>プロジェクトの外</translation>
+    </message>
+    <message>
+        <source>Missing file</source>
+        <translation>見つからないファイル</translation>
+    </message>
+    <message>
+        <source>Moved file</source>
+        <translation>移動したファイル</translation>
+    </message>
+    <message>
+        <source>Unreadable file</source>
+        <translation>読めないファイル</translation>
+    </message>
+    <message>
+        <source>Upper and lower case</source>
+        <translation>大文字と小文字</translation>
+    </message>
+    <message>
+        <source>Palette number</source>
+        <translation>パレット番号</translation>
+    </message>
+    <message>
+        <source>Depth and palette</source>
+        <translation>色数とパレット</translation>
+    </message>
+    <message>
+        <source>Doubled picture</source>
+        <translation>重複したピクチャー</translation>
+    </message>
+    <message>
+        <source>Doubled file</source>
+        <translation>重複したファイル</translation>
+    </message>
+    <message>
+        <source>Unused file</source>
+        <translation>使われていないファイル</translation>
+    </message>
+    <message>
+        <source>Picture %1</source>
+        <translation>ピクチャー %1</translation>
+    </message>
+    <message>
+        <source>There is no such folder</source>
+        <translation>このフォルダーがありません</translation>
+    </message>
+    <message>
+        <source>It lies outside the project&apos;s folder</source>
+        <translation>プロジェクトのフォルダーの外にあります</translation>
+    </message>
+    <message>
+        <source>%1 lies outside the project&apos;s folders</source>
+        <translation>%1 はプロジェクトのフォルダーの外にあります</translation>
+    </message>
+    <message>
+        <source>It names no image</source>
+        <translation>画像が指定されていません</translation>
+    </message>
+    <message>
+        <source>It names no palette</source>
+        <translation>パレットが指定されていません</translation>
+    </message>
+    <message>
+        <source>%1 is not there</source>
+        <translation>%1 がありません</translation>
+    </message>
+    <message>
+        <source>%1 is not there; %2 may be the one</source>
+        <translation>%1 がありません。%2 かもしれません</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 holds no image</source>
+        <translation>%1 は画像ではありません</translation>
+    </message>
+    <message>
+        <source>%1 holds no palette</source>
+        <translation>%1 はパレットではありません</translation>
+    </message>
+    <message>
+        <source>On the disk it is %1</source>
+        <translation>ディスク上では %1 です</translation>
+    </message>
+    <message>
+        <source>Its palette number is %1, the last is %2</source>
+        <translation>パレット番号は %1 ですが、最後は %2 です</translation>
+    </message>
+    <message>
+        <source>It has indexes up to %1, the palette has %2 entries</source>
+        <translation>インデックスは最大 %1 ですが、パレットの色数は %2 です</translation>
+    </message>
+    <message>
+        <source>The same files and palette number as %1</source>
+        <translation>ファイルとパレット番号が %1 と同じです</translation>
+    </message>
+    <message>
+        <source>%1 has the same contents as %2</source>
+        <translation>%1 と %2 は内容が同じです</translation>
+    </message>
+    <message>
+        <source>%1 and %2 differ only in case</source>
+        <translation>%1 と %2 は大文字と小文字だけが違います</translation>
+    </message>
+    <message>
+        <source>No picture names it</source>
+        <translation>どのピクチャーにも使われていません</translation>
+    </message>
+    <message>
+        <source>%1 (and %2 more)</source>
+        <translation>%1(ほか %2 件)</translation>
+    </message>
+    <message>
+        <source>Checking the project: %p%</source>
+        <translation>プロジェクトを検査中: %p%</translation>
+    </message>
+    <message>
+        <source>&amp;Check Project</source>
+        <translation>プロジェクトを検査(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Look for missing, moved, doubled and unused files and whatever does not fit</source>
+        <translation>見つからない、移動した、重複した、使われていないファイルや、合わない設定を調べます</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>中止(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Stop checking; the list stays as it is</source>
+        <translation>検査を中止します。一覧はそのまま残ります</translation>
+    </message>
+    <message>
+        <source>Re&amp;link...</source>
+        <translation>リンクし直す(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>Choose where the file is now; others that moved with it are offered</source>
+        <translation>ファイルの今の場所を選びます。一緒に移動したほかのファイルも提案します</translation>
+    </message>
+    <message>
+        <source>Re&amp;move from Project</source>
+        <translation>プロジェクトから外す(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Take the picture out of the project; no file is deleted</source>
+        <translation>ピクチャーをプロジェクトから外します。ファイルは削除しません</translation>
+    </message>
+    <message>
+        <source>&amp;Add to Project</source>
+        <translation>プロジェクトに追加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Add the file as a picture, with the palette or the image of its name</source>
+        <translation>ファイルを、同じ名前のパレットまたは画像と一緒にピクチャーとして追加します</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong with the project.</source>
+        <translation>プロジェクトに問題はありません。</translation>
+    </message>
+    <message>
+        <source>Nothing breaks a rule, and nothing is wrong with the project.</source>
+        <translation>ルール違反はなく、プロジェクトにも問題はありません。</translation>
+    </message>
+    <message>
+        <source>Relink</source>
+        <translation>リンクし直す</translation>
+    </message>
+    <message>
+        <source>The same move finds %1 missing files. Those with a check mark are relinked.</source>
+        <translation>同じ移動で、見つからないファイルが %1 個見つかりました。チェックのあるものをリンクし直します。</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>見つからない場所</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation>見つかった場所</translation>
+    </message>
+    <message>
+        <source>&amp;Relink</source>
+        <translation>リンクし直す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>The project cannot hold the name of %1.</source>
+        <translation>プロジェクトは %1 の名前を保存できません。</translation>
+    </message>
+    <message>
+        <source>Add Files in Folder</source>
+        <translation>フォルダーのファイルを追加</translation>
+    </message>
+    <message>
+        <source>%1 images in %2 have a palette of their name. Those with a check mark become pictures.</source>
+        <translation>%2 には、同じ名前のパレットがある画像が %1 個あります。チェックのあるものをピクチャーにします。</translation>
+    </message>
+    <message>
+        <source>%1 holds no image with a palette of its name that the project does not have yet.</source>
+        <translation>%1 には、同じ名前のパレットがあってまだプロジェクトにない画像がありません。</translation>
+    </message>
+    <message>
+        <source>Left out: %1 that the project has, %2 without a palette of their name, %3 with a name that a project cannot hold.</source>
+        <translation>除いたもの: プロジェクトにある %1 個、同じ名前のパレットがない %2 個、プロジェクトに保存できない名前の %3 個。</translation>
+    </message>
+    <message>
+        <source>There is no file of the same name that %1 could make a picture with.</source>
+        <translation>%1 と組になる同じ名前のファイルがありません。</translation>
+    </message>
+    <message>
+        <source>Check A&amp;ll</source>
+        <translation>すべてチェック(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Give every row a check mark</source>
+        <translation>すべての行にチェックを付けます</translation>
+    </message>
+    <message>
+        <source>Check &amp;None</source>
+        <translation>すべて外す(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Take every check mark away</source>
+        <translation>すべての行のチェックを外します</translation>
+    </message>
+    <message>
+        <source>Repea&amp;t Changes of Check</source>
+        <translation>検査後の変更をやり直す(&amp;T)</translation>
+    </message>
+    <message>
+        <source>What the images of the project&apos;s pictures must keep to. Findings in the View menu lists what does not.</source>
+        <translation>プロジェクトのピクチャーの画像が守るルールです。守られていないものは、表示メニューの検査結果に一覧されます。</translation>
     </message>
     <message>
         <source>The file ends too early.</source>

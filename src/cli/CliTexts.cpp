@@ -246,6 +246,9 @@ constexpr Row kRows[] = {
     Row{CliText::RenderColumns, QT_TRANSLATE_NOOP("CommandLine", "Pictures in a row of the sheet")},
     Row{CliText::RenderSide,
         QT_TRANSLATE_NOOP("CommandLine", "Side of a picture's square on the sheet in pixels")},
+    Row{CliText::TypeDrive, QT_TRANSLATE_NOOP("CommandLine", "c=FOLDER")},
+    Row{CliText::HelpDrive,
+        QT_TRANSLATE_NOOP("CommandLine", "Let a drive that a project names stand for a folder")},
 };
 
 constexpr bool areInOrder() {

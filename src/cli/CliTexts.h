@@ -140,6 +140,8 @@ enum class CliText : int {
     RenderCheckerboard,
     RenderColumns,
     RenderSide,
+    TypeDrive,
+    HelpDrive,
 };
 
 /// The text in the user's language.

@@ -130,6 +130,15 @@ public:
     throw WrongValue(say(CliText::WrongValue, {option, value}));
 }
 
+/// Takes what `take` says true to.
+std::function<void(const std::string&, const std::string&)>
+refusing(std::function<bool(const std::string&)> take) {
+    return [take = std::move(take)](const std::string& name, const std::string& text) {
+        if (!take(text))
+            refuse(name, text);
+    };
+}
+
 } // namespace
 
 struct Options::Parser {
@@ -150,7 +159,8 @@ struct Options::Parser {
         CLI::Option* const option = app.add_option(
             names,
             [name, take](const CLI::results_t& results) {
-                take(name, unmarked(results.back()));
+                for (const std::string& result : results)
+                    take(name, unmarked(result));
                 return true;
             },
             help);
@@ -223,11 +233,13 @@ void Options::choice(const char* names, std::optional<std::size_t>& value, std::
 
 void Options::value(const char* names, std::function<bool(const std::string&)> take, CliText placeholder,
                     CliText help) {
-    parser_->add(names, placeholder, say(help),
-                 [take = std::move(take)](const std::string& name, const std::string& text) {
-                     if (!take(text))
-                         refuse(name, text);
-                 });
+    parser_->add(names, placeholder, say(help), refusing(std::move(take)));
+}
+
+void Options::values(const char* names, std::function<bool(const std::string&)> take, CliText placeholder,
+                     CliText help) {
+    parser_->add(names, placeholder, say(help), refusing(std::move(take)))
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
 }
 
 void Options::file(const char* name, std::string& value, CliText help) {

@@ -35,6 +35,9 @@ public:
     /// Any text that `take` says true to.
     void value(const char* names, std::function<bool(const std::string&)> take, CliText placeholder,
                CliText help);
+    /// The same of an option that may stand more than once.
+    void values(const char* names, std::function<bool(const std::string&)> take, CliText placeholder,
+                CliText help);
     /// What is not an option's value: one file, or one and more.
     void file(const char* name, std::string& value, CliText help);
     void files(const char* name, std::vector<std::string>& values, CliText help, bool isRequired = true);

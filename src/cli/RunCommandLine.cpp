@@ -7,6 +7,8 @@
 #include "platform/Version.h"
 
 #include <algorithm>
+#include <cctype>
+#include <filesystem>
 #include <new>
 
 namespace dyeworks {
@@ -45,12 +47,25 @@ const CommandEntry* commandIn(const Arguments& arguments, std::size_t& words) {
     return found;
 }
 
-ExitCode run(const CommandEntry& entry, const Arguments& arguments) {
+/// "c=FOLDER".
+bool mapDrive(CommandLinePlatform& platform, const std::string& text) {
+    if (text.size() < 3 || std::isalpha(static_cast<unsigned char>(text.front())) == 0 || text[1] != '=')
+        return false;
+    std::error_code error;
+    const std::filesystem::path folder = std::filesystem::absolute(text.substr(2), error);
+    platform.mapDrive(text.front(), folder.string());
+    return !error;
+}
+
+ExitCode run(const CommandEntry& entry, const Arguments& arguments, CommandLinePlatform& platform) {
     Console console(nameOf(entry.name));
     bool quiet = false;
     const std::unique_ptr<Command> command = entry.make();
     Options options(nameOf(entry.name), entry.summary);
     command->declare(options);
+    options.values(
+        "--drive", [&platform](const std::string& text) { return mapDrive(platform, text); },
+        CliText::TypeDrive, CliText::HelpDrive);
     options.flag("-q,--quiet", quiet, CliText::HelpQuiet);
     const Options::Answer answer = options.parse(arguments);
     switch (answer.next) {
@@ -104,12 +119,12 @@ ExitCode runWithout(const std::string& group, const Arguments& arguments) {
 } // namespace
 
 int runCommandLine(const Arguments& arguments) {
-    const CommandLinePlatform platform(userLanguage());
+    CommandLinePlatform platform(userLanguage());
     std::size_t words = 0;
     try {
         if (const CommandEntry* const entry = commandIn(arguments, words))
-            return static_cast<int>(
-                run(*entry, {arguments.begin() + static_cast<std::ptrdiff_t>(words), arguments.end()}));
+            return static_cast<int>(run(
+                *entry, {arguments.begin() + static_cast<std::ptrdiff_t>(words), arguments.end()}, platform));
         const bool isGroup = !arguments.empty() && arguments.front() == "palette";
         return static_cast<int>(
             runWithout(isGroup ? "palette" : "", {arguments.begin() + (isGroup ? 1 : 0), arguments.end()}));

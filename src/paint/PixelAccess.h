@@ -9,6 +9,7 @@ namespace dyeworks {
 /// known here store nothing and read 0: PixelAccess<0>.
 template <int Bits>
 struct PixelAccess {
+    static constexpr int kBits = 0;
     static constexpr std::uint32_t kMask = 0;
     static std::uint32_t get(const std::uint8_t*, std::int64_t) noexcept { return 0; }
     static void set(std::uint8_t*, std::int64_t, std::uint32_t) noexcept {}
@@ -16,6 +17,7 @@ struct PixelAccess {
 
 template <>
 struct PixelAccess<1> {
+    static constexpr int kBits = 1;
     static constexpr std::uint32_t kMask = 1;
     static std::uint32_t get(const std::uint8_t* row, std::int64_t x) noexcept {
         return std::uint32_t{row[x / 8]} >> (7 - x % 8) & 1U;
@@ -28,6 +30,7 @@ struct PixelAccess<1> {
 
 template <>
 struct PixelAccess<4> {
+    static constexpr int kBits = 4;
     static constexpr std::uint32_t kMask = 15;
     static std::uint32_t get(const std::uint8_t* row, std::int64_t x) noexcept {
         const std::uint32_t pair = row[x / 2];
@@ -42,6 +45,7 @@ struct PixelAccess<4> {
 
 template <>
 struct PixelAccess<8> {
+    static constexpr int kBits = 8;
     static constexpr std::uint32_t kMask = 0xFF;
     static std::uint32_t get(const std::uint8_t* row, std::int64_t x) noexcept { return row[x]; }
     static void set(std::uint8_t* row, std::int64_t x, std::uint32_t value) noexcept {
@@ -51,6 +55,7 @@ struct PixelAccess<8> {
 
 template <>
 struct PixelAccess<16> {
+    static constexpr int kBits = 16;
     static constexpr std::uint32_t kMask = 0xFFFF;
     static std::uint32_t get(const std::uint8_t* row, std::int64_t x) noexcept {
         const std::uint8_t* at = row + 2 * x;
@@ -65,6 +70,7 @@ struct PixelAccess<16> {
 
 template <>
 struct PixelAccess<24> {
+    static constexpr int kBits = 24;
     static constexpr std::uint32_t kMask = 0xFFFFFF;
     static std::uint32_t get(const std::uint8_t* row, std::int64_t x) noexcept {
         const std::uint8_t* at = row + 3 * x;
@@ -80,6 +86,7 @@ struct PixelAccess<24> {
 
 template <>
 struct PixelAccess<32> {
+    static constexpr int kBits = 32;
     static constexpr std::uint32_t kMask = 0xFFFFFFFF;
     static std::uint32_t get(const std::uint8_t* row, std::int64_t x) noexcept {
         const std::uint8_t* at = row + 4 * x;

@@ -12,6 +12,9 @@
 /// saves
 ///   steps, and may call the pen for some of it all the same;
 /// - `bool point(x, y)`: one pixel; whether it was drawn;
+/// - `bool line(line, steps, isSteep)`, for a pen that knows a better way than points: the steps of a line,
+/// none of which
+///   lies outside; whether its end point was drawn;
 /// - `span(xs, y)`: a run in a row; `twoSpans(xs, y1, y2)`: the same run in two rows.
 ///
 /// Boxes have their right and bottom inside, left <= right and top <= bottom.
@@ -71,42 +74,70 @@ struct BresenhamLine {
         return steps;
     }
 
+    /// The minor coordinate at a step along the major axis.
+    [[nodiscard]] std::int64_t minorAt(std::uint64_t step) const {
+        return major.length == 0 ? minor.start : minor.at(sum(step) / major.length);
+    }
+
+    /// Whether the end point of the line is the last of the steps.
+    [[nodiscard]] bool endsWith(Range steps) const {
+        return !steps.empty() && steps.last == static_cast<std::int64_t>(major.length);
+    }
+
+    /// From where the first of the steps is, calls mark() for each of them, with advance(false) between two
+    /// of them that differ along the major axis alone, and advance(true) where they differ along both.
+    template <typename Mark, typename Advance>
+    void follow(Range steps, Mark&& mark, Advance&& advance) const {
+        if (steps.empty())
+            return;
+        mark();
+        if (major.length == 0)
+            return;
+        const auto gain = static_cast<std::int64_t>(minor.length);
+        const auto loss = static_cast<std::int64_t>(major.length - minor.length);
+        auto error = static_cast<std::int64_t>(sum(static_cast<std::uint64_t>(steps.first)) % major.length);
+        for (std::int64_t left = steps.last - steps.first; left > 0; --left) {
+            const bool both = error >= loss;
+            error += both ? -loss : gain;
+            advance(both);
+            mark();
+        }
+    }
+
     /// Calls plot(major coordinate, minor coordinate) for each of the steps; false unless the last call, for
     /// the end point of the line, gave true.
     template <typename Plot>
     bool walk(Range steps, Plot&& plot) const {
         if (steps.empty())
             return false;
-        if (major.length == 0)
-            return plot(major.start, minor.start);
-        std::uint64_t minorStep = sum(static_cast<std::uint64_t>(steps.first)) / major.length;
-        std::uint64_t error = sum(static_cast<std::uint64_t>(steps.first)) % major.length;
+        std::uint64_t step = static_cast<std::uint64_t>(steps.first);
+        std::int64_t minorCoordinate = minorAt(step);
         bool written = false;
-        for (std::int64_t step = steps.first; step <= steps.last; ++step) {
-            written = plot(major.at(static_cast<std::uint64_t>(step)), minor.at(minorStep));
-            error += minor.length;
-            if (error >= major.length) {
-                ++minorStep;
-                error -= major.length;
-            }
-        }
-        return written && steps.last == static_cast<std::int64_t>(major.length);
+        follow(
+            steps, [&] { written = plot(major.at(step), minorCoordinate); },
+            [&](bool both) {
+                ++step;
+                minorCoordinate += both ? minor.direction : 0;
+            });
+        return written && endsWith(steps);
     }
 };
 
-/// Calls the pen's `point` along a line; the result is that of the last pixel.
+/// Draws a line with the pen's `line`, if it has one, or else with its `point`; the result is that of the
+/// last pixel.
 template <typename Pen>
 bool drawLine(Pen pen, Point from, Point to) {
     const LineAxis x(from.x, to.x);
     const LineAxis y(from.y, to.y);
-    if (x.length >= y.length) {
-        const BresenhamLine line{x, y};
-        return line.walk(line.stepsInside(pen.columns(), pen.rows()),
-                         [&](std::int64_t atX, std::int64_t atY) { return pen.point(atX, atY); });
-    }
-    const BresenhamLine line{y, x};
-    return line.walk(line.stepsInside(pen.rows(), pen.columns()),
-                     [&](std::int64_t atY, std::int64_t atX) { return pen.point(atX, atY); });
+    const bool isSteep = y.length > x.length;
+    const BresenhamLine line = isSteep ? BresenhamLine{y, x} : BresenhamLine{x, y};
+    const Range steps =
+        isSteep ? line.stepsInside(pen.rows(), pen.columns()) : line.stepsInside(pen.columns(), pen.rows());
+    if constexpr (requires { pen.line(line, steps, isSteep); })
+        return pen.line(line, steps, isSteep);
+    return line.walk(steps, [&](std::int64_t major, std::int64_t minor) {
+        return isSteep ? pen.point(minor, major) : pen.point(major, minor);
+    });
 }
 
 /// The outline of a box, by `span` and `point`.

@@ -1,7 +1,10 @@
+#include "paint/MatchMask.h"
 #include "paint/PixelRuns.h"
 #include "paint/TextureCanvas.h"
 
+#include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 
 namespace dyeworks {
@@ -28,25 +31,57 @@ private:
     std::size_t count_ = 0;
 };
 
-/// The runs of one value in columns [begin, end) of a row, left to right. `next` is where the next one
-/// starts, or `end` when there is none left.
-template <typename Pixels>
+/// Where runs of one value begin in a row, met in pieces from left to right.
+template <int Bits>
 class RunStarts {
 public:
-    RunStarts(const std::uint8_t* row, std::int64_t begin, std::int64_t end, std::uint32_t value)
-        : row_(row)
-        , end_(end)
-        , value_(value)
-        , next_(row == nullptr ? end : Pixels::find(row, begin, end, value)) {}
+    static constexpr int kPixels = MatchMask<Bits>::kPixels;
+    static constexpr std::uint32_t kAll = (1U << kPixels) - 1;
 
-    [[nodiscard]] std::int64_t next() const { return next_; }
-    void skip() { next_ = Pixels::find(row_, Pixels::runEnd(row_, next_, end_, value_), end_, value_); }
+    /// A row that is not there (null) has no runs. `readable` pixels may be looked at, padding included.
+    RunStarts(const std::uint8_t* row, std::int64_t readable, std::uint32_t value)
+        : row_(row)
+        , readable_(row == nullptr ? 0 : readable)
+        , value_(value) {}
+
+    /// Of the pixels from `x` on those that begin a run, where only those in `counted` are looked at. Each
+    /// piece follows the one before.
+    [[nodiscard]] std::uint32_t in(std::int64_t x, std::uint32_t counted) {
+        matches_ = mask(x) & counted;
+        const std::uint32_t starts = matches_ & ~(matches_ << 1U | carried_);
+        carried_ = matches_ >> (kPixels - 1);
+        return starts;
+    }
+
+    /// The end of the pieces behind the last one, at `x`, that look just like it and hold nothing new: it was
+    /// one run, or none.
+    [[nodiscard]] std::int64_t sameUntil(std::int64_t x, std::int64_t end) const {
+        if (row_ == nullptr)
+            return end;
+        if ((matches_ != 0 && matches_ != kAll) || Bits > 8 || Bits < 4)
+            return x;
+        end = std::min(end, readable_);
+        const std::uint64_t first = loadWord(row_ + x * Bits / 8);
+        while (x + 2 * kPixels <= end && loadWord(row_ + (x + kPixels) * Bits / 8) == first)
+            x += kPixels;
+        return x;
+    }
 
 private:
+    [[nodiscard]] std::uint32_t mask(std::int64_t x) const {
+        if (x + kPixels <= readable_)
+            return MatchMask<Bits>::of(row_, x, value_);
+        std::uint32_t mask = 0;
+        for (std::int64_t i = 0; x + i < readable_; ++i)
+            mask |= (PixelAccess<Bits>::get(row_, x + i) == value_ ? 1U : 0U) << static_cast<unsigned>(i);
+        return mask;
+    }
+
     const std::uint8_t* row_;
-    std::int64_t end_;
+    std::int64_t readable_;
     std::uint32_t value_;
-    std::int64_t next_;
+    std::uint32_t matches_ = 0;
+    std::uint32_t carried_ = 0;
 };
 
 } // namespace
@@ -99,32 +134,67 @@ void TextureCanvas::floodFillByRuns(std::int32_t startX, std::int32_t startY, st
                                     std::uint32_t target) {
     visitDepth<PixelRuns>(bitsPerPixel_, [&](auto pixels) {
         using Pixels = decltype(pixels);
+        constexpr int kBits = Pixels::kBits;
+        // What is written might be any of this canvas's members, were they not held here.
+        const std::int32_t width = width_;
+        const std::int32_t height = height_;
+        const std::int64_t stride = stride_;
+        std::uint8_t* const top = row(0);
+        const auto readable = kBits == 0 ? 0 : stride * 8 / std::max(kBits, 1);
+        Rect filled{startX, startY, startX, startY};
         SeedStack seeds;
         seeds.push(startX, startY);
         while (!seeds.empty()) {
-            const Seed seed = seeds.pop();
-            const std::int32_t x = seed.x;
-            const std::int32_t y = seed.y;
-            std::uint8_t* middle = row(y);
+            const auto [x, y] = seeds.pop();
+            std::uint8_t* const middle = top - y * stride;
+            const std::uint8_t* const above = y > 0 ? middle + stride : nullptr;
+            const std::uint8_t* const below = y < height - 1 ? middle - stride : nullptr;
             // The seed itself may have been filled since it was pushed; it is written again all the same.
-            const std::int64_t begin = Pixels::runStart(middle, 0, x, target);
-            const std::int64_t end = begin < x && Pixels::get(middle, x) != target
-                                         ? x
-                                         : Pixels::runEnd(middle, std::int64_t{x} + 1, width_, target);
+            std::int64_t begin = x;
+            if (x > 0 && Pixels::get(middle, x - 1) == target)
+                begin = Pixels::runStart(middle, 0, x - 1, target);
+            std::int64_t end = x;
+            if (begin == x || Pixels::get(middle, x) == target) {
+                ++end;
+                if (end < width && Pixels::get(middle, end) == target)
+                    end = Pixels::runEnd(middle, end + 1, width, target);
+            }
             Pixels::fill(middle, begin, end, value);
-            extendChanged({begin, end - 1}, {y, y});
+            filled = {std::min(filled.left, static_cast<std::int32_t>(begin)), std::min(filled.top, y),
+                      std::max(filled.right, static_cast<std::int32_t>(end - 1)), std::max(filled.bottom, y)};
 
             // Pushed in the order in which a walk along the span meets them, so that the same ones are
             // dropped when the stack is full.
-            RunStarts<Pixels> above(y > 0 ? row(y - 1) : nullptr, begin, end, target);
-            RunStarts<Pixels> below(y < height_ - 1 ? row(y + 1) : nullptr, begin, end, target);
-            while (above.next() < end || below.next() < end) {
-                const bool upwards = above.next() <= below.next();
-                RunStarts<Pixels>& runs = upwards ? above : below;
-                seeds.push(static_cast<std::int32_t>(runs.next()), upwards ? y - 1 : y + 1);
-                runs.skip();
+            if (end - begin == 1) {
+                const auto at = static_cast<std::int32_t>(begin);
+                if (above != nullptr && Pixels::get(above, begin) == target)
+                    seeds.push(at, y - 1);
+                if (below != nullptr && Pixels::get(below, begin) == target)
+                    seeds.push(at, y + 1);
+                continue;
+            }
+            using Starts = RunStarts<kBits>;
+            Starts upper(above, readable, target);
+            Starts lower(below, readable, target);
+            for (std::int64_t from = begin - begin % 2; from < end; from += Starts::kPixels) {
+                const std::uint32_t behind = begin > from ? ~1U : ~0U;
+                const std::uint32_t inside =
+                    end - from < Starts::kPixels ? (1U << (end - from)) - 1 : Starts::kAll;
+                const std::uint32_t up = upper.in(from, inside & behind);
+                const std::uint32_t down = lower.in(from, inside & behind);
+                for (std::uint32_t left = up | down; left != 0; left &= left - 1) {
+                    const auto at = static_cast<std::int32_t>(from) + std::countr_zero(left);
+                    const std::uint32_t bit = left & ~(left - 1);
+                    if ((up & bit) != 0)
+                        seeds.push(at, y - 1);
+                    if ((down & bit) != 0)
+                        seeds.push(at, y + 1);
+                }
+                if (inside == Starts::kAll)
+                    from = std::min(upper.sameUntil(from, end), lower.sameUntil(from, end));
             }
         }
+        extendChanged({filled.left, filled.right}, {filled.top, filled.bottom});
     });
 }
 

@@ -2,6 +2,7 @@
 #include "paint/ShapeWalk.h"
 #include "paint/TextureCanvas.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace dyeworks {
@@ -61,6 +62,42 @@ public:
         return columns().contains(x) && rows().contains(y) &&
                canvas_.TextureCanvas::SetPixel(static_cast<std::int32_t>(x), static_cast<std::int32_t>(y),
                                                value_);
+    }
+
+    bool line(const shapes::BresenhamLine& line, Range steps, bool isSteep) {
+        if (steps.empty())
+            return false;
+        if (canvas_.bitsPerPixel_ == 24) // A row with its padding need not be whole pixels.
+            return line.walk(steps, [&](std::int64_t major, std::int64_t minor) {
+                return isSteep ? point(minor, major) : point(major, minor);
+            });
+        const auto placeAt = [&](std::int64_t step) {
+            const auto along = static_cast<std::uint64_t>(step);
+            const std::int64_t major = line.major.at(along);
+            const std::int64_t minor = line.minorAt(along);
+            return Point{static_cast<std::int32_t>(isSteep ? minor : major),
+                         static_cast<std::int32_t>(isSteep ? major : minor)};
+        };
+        const Point first = placeAt(steps.first);
+        const Point last = placeAt(steps.last);
+        visitDepth<PixelAccess>(canvas_.bitsPerPixel_, [&](auto pixels) {
+            // All pixels numbered through from the lowest row up; rows are whole pixels with their padding.
+            constexpr int kBits = std::max(decltype(pixels)::kBits, 1);
+            const std::int64_t perRow = std::int64_t{canvas_.stride_} * 8 / kBits;
+            std::uint8_t* const lowest = canvas_.row(canvas_.height_ - 1);
+            const std::int64_t down = -perRow;
+            const std::int64_t majorStep = line.major.direction * (isSteep ? down : 1);
+            const std::int64_t bothStep = majorStep + line.minor.direction * (isSteep ? 1 : down);
+            std::int64_t at = first.x + (canvas_.height_ - 1 - first.y) * perRow;
+            const std::uint32_t value = value_;
+            line.follow(
+                steps, [&] { pixels.set(lowest, at, value); },
+                [&](bool both) { at += both ? bothStep : majorStep; });
+        });
+        const auto columns = std::minmax(first.x, last.x);
+        const auto rows = std::minmax(first.y, last.y);
+        canvas_.extendChanged({columns.first, columns.second}, {rows.first, rows.second});
+        return line.endsWith(steps);
     }
 
     void span(Range xs, std::int64_t y) {

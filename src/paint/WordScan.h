@@ -76,20 +76,16 @@ inline void storeWord(std::uint8_t* bytes, std::uint64_t word) noexcept {
     return end - at;
 }
 
-/// Exchanges `count` bytes of two areas that do not overlap.
+/// Exchanges `count` bytes of two areas that do not overlap, in pieces that the nearest cache holds.
 inline void exchangeBytes(std::uint8_t* one, std::uint8_t* other, std::ptrdiff_t count) noexcept {
-    constexpr std::ptrdiff_t kPiece = 1024;
+    constexpr std::ptrdiff_t kPiece = 4096;
     std::uint8_t piece[kPiece];
-    for (; count >= kPiece; count -= kPiece, one += kPiece, other += kPiece) {
-        std::memcpy(piece, one, kPiece);
-        std::memcpy(one, other, kPiece);
-        std::memcpy(other, piece, kPiece);
-    }
-    if (count > 0) {
-        const auto rest = static_cast<std::size_t>(count);
-        std::memcpy(piece, one, rest);
-        std::memcpy(one, other, rest);
-        std::memcpy(other, piece, rest);
+    for (std::ptrdiff_t size = 0; count > 0; count -= size, one += size, other += size) {
+        size = std::min(count, kPiece);
+        const auto bytes = static_cast<std::size_t>(size);
+        std::memcpy(piece, one, bytes);
+        std::memcpy(one, other, bytes);
+        std::memcpy(other, piece, bytes);
     }
 }
 

@@ -303,6 +303,69 @@ enum class StringId : int {
     FindingMissingEntryOfOne, ///< %1 index, %2 entries; one texel alone
     FindingHalfTransparent,   ///< %1 alpha
     FindingMore,              ///< %1 how many are not listed
+    ProjectFolderMissing,     ///< What a check of a project looks for.
+    ProjectFolderOutside,
+    ProjectFileMissing,
+    ProjectFileMoved,
+    ProjectFileUnreadable,
+    ProjectCase,
+    ProjectPaletteNumber,
+    ProjectDepth,
+    ProjectSamePicture,
+    ProjectEqualFile,
+    ProjectUnused,
+    ProjectAtPicture, ///< %1 picture
+    ProjectNoFolder,  ///< Why it is listed.
+    ProjectLiesOutside,
+    ProjectFileLiesOutside, ///< %1 file
+    ProjectNoImage,
+    ProjectNoPalette,
+    ProjectNotThere,          ///< %1 file
+    ProjectFoundAt,           ///< %1 file, %2 where it may be
+    ProjectUnreadableBecause, ///< %1 file, %2 why
+    ProjectHoldsNoImage,      ///< %1 file
+    ProjectHoldsNoPalette,    ///< %1 file
+    ProjectSpelledOtherwise,  ///< %1 name on the disk
+    ProjectNumberBeyond,      ///< %1 number, %2 how many there are
+    ProjectTooFewEntries,     ///< %1 highest index, %2 entries
+    ProjectSameAs,            ///< %1 picture
+    ProjectEqualTo,           ///< %1 file, %2 its like
+    ProjectTwinOf,            ///< %1 name, %2 its like
+    ProjectNotNamed,
+    ProjectRuleAndMore, ///< %1 reason, %2 how many more places
+    ProjectChecking,    ///< Of the dock. Qt puts the per cent in.
+    ProjectCheckButton,
+    ProjectCheckButtonTip,
+    ProjectCheckStop,
+    ProjectCheckStopTip,
+    ProjectRelink,
+    ProjectRelinkTip,
+    ProjectRemove,
+    ProjectRemoveTip,
+    ProjectAdd,
+    ProjectAddTip,
+    ProjectFindingsNone,
+    ProjectAndRulesFindNone,
+    RelinkCaption,
+    RelinkQuestion, ///< %1 files
+    RelinkColumnOld,
+    RelinkColumnNew,
+    RelinkOk,
+    RelinkCannotHold, ///< %1 file
+    AddFolderCaption,
+    AddFolderQuestion, ///< %1 pairs, %2 folder
+    AddFolderNone,     ///< %1 folder
+    AddFolderLeft,     ///< %1 known, %2 without palette, %3 names that cannot be held
+    AddFolderColumnPicture,
+    AddFolderColumnImage,
+    AddFolderColumnPalette,
+    AddFolderOk,
+    AddNoPartner, ///< %1 file
+    CheckListAll,
+    CheckListAllTip,
+    CheckListNone,
+    CheckListNoneTip,
+    ProjectRepeatChanges, ///< In the place of the command, once it was used.
     BarBanks,
     BanksTab,
     PalettesTab,

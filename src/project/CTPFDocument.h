@@ -86,6 +86,17 @@ public:
     [[nodiscard]] TextureRules rules() const;
     /// Other rules than before count as unsaved.
     void SetRules(const TextureRules& rules);
+    // What a check repairs. The project before its first repair is kept, and only one of them.
+    /// The next repair is the first one.
+    void BeginCheck() noexcept { isFirstRepair_ = true; }
+    void Repair(const ProjectRepair& change);
+    /// Counts what has changed since `before` as a repair.
+    void KeepForRevert(ProjectState before);
+    [[nodiscard]] bool mayRevertCheck() const noexcept { return beforeCheck_.has_value(); }
+    /// The project is that from before its repairs; reverting again repeats them.
+    [[nodiscard]] bool isReverted() const noexcept { return isReverted_; }
+    /// Takes pictures and folders back to before the repairs, or forth again.
+    void RevertCheck();
     /// Whether the file, in full, is the image of a picture.
     [[nodiscard]] bool holdsImage(const std::string& path) const;
     /// Opens the picture's palette and image and attaches one to the other. False when that failed, which has
@@ -126,7 +137,6 @@ private:
     void updateTitle();
     [[nodiscard]] std::vector<std::string> pictureFiles() const;
     [[nodiscard]] std::string findFile(const std::string& directories, const std::string& name) const;
-    [[nodiscard]] std::string freeName(const std::string& proposed) const;
     bool askForPicture(PictureSettings& settings, const std::string& ownName);
     [[nodiscard]] PictureField check(const PictureSettings& settings, const std::string& ownName) const;
     void picturesChanged();
@@ -142,6 +152,9 @@ private:
     CTPFFile projectFile_;
     PlugInHandles plugInHandles_;
     bool asksToClose_ = false;
+    std::optional<ProjectState> beforeCheck_;
+    bool isFirstRepair_ = true;
+    bool isReverted_ = false;
 };
 
 } // namespace dyeworks

@@ -6,17 +6,16 @@
 #include "platform/TextCase.h"
 #include "project/CTPFDocument.h"
 #include "project/PathHelpers.h"
+#include "project/PictureName.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdlib>
+#include <utility>
 #include <vector>
 
 namespace dyeworks {
 
 namespace {
-
-constexpr const char* kFirstName = "Picture0";
 
 constexpr std::string_view kBelowProject = "\\Project\\";
 constexpr std::string_view kPictures = "\\Project\\Picture\\";
@@ -27,11 +26,6 @@ std::optional<std::string> pictureOf(const std::string& node) {
     if (!node.starts_with(kPictures))
         return std::nullopt;
     return node.substr(kPictures.size());
-}
-
-/// Whether a picture may be given the name: the file can hold it, and so can the paths of nodes.
-bool isPictureName(const std::string& name) {
-    return !name.empty() && name.find_first_of("=\\") == name.npos && CTPFFile::holdsPicture(name, {});
 }
 
 /// A project of another host may name drives that stand for nothing here.
@@ -54,24 +48,6 @@ bool canBeTarget(const std::string& target, const std::optional<std::string>& da
 
 } // namespace
 
-/// The proposed name, or the first one of the same stem with a number behind it that no picture has.
-std::string CTPFDocument::freeName(const std::string& proposed) const {
-    std::string name = proposed.empty() ? kFirstName : proposed;
-    std::string base = name;
-    std::uint64_t next = 0;
-    const std::size_t digits = name.find_last_not_of("0123456789") + 1;
-    std::uint64_t number = 0;
-    // A number beyond all counting is a part of the name.
-    if (digits < name.size() &&
-        std::from_chars(name.data() + digits, name.data() + name.size(), number).ec == std::errc()) {
-        base = name.substr(0, digits);
-        next = number + 1;
-    }
-    while (projectFile_.pictures.contains(name))
-        name = base + std::to_string(next++);
-    return name;
-}
-
 std::vector<std::string> CTPFDocument::PicturesOfOtherNumber(const std::string& imageFile,
                                                              std::int32_t paletteNumber) const {
     std::vector<std::string> names;
@@ -88,7 +64,8 @@ bool CTPFDocument::AddPicture(const std::optional<std::string>& name,
                               const std::optional<std::string>& imageFile,
                               const std::optional<std::string>& paletteFile, std::int32_t paletteNumber,
                               const std::optional<std::string>& after, bool silent) {
-    PictureSettings settings{freeName(name.value_or("")),
+    const auto isTaken = [this](const std::string& each) { return projectFile_.pictures.contains(each); };
+    PictureSettings settings{freePictureName(name.value_or(""), isTaken),
                              fileNameIn(projectFile_.tmfDir, imageFile.value_or("")),
                              fileNameIn(projectFile_.tlfDir, paletteFile.value_or("")),
                              paletteNumber,
@@ -166,6 +143,29 @@ void CTPFDocument::picturesChanged() {
     setModified(true);
     updateAllViews(nullptr, kHintPictures);
     host_.ProjectChanged();
+}
+
+void CTPFDocument::Repair(const ProjectRepair& change) {
+    ProjectState before = projectFile_.state();
+    projectFile_.repair(change);
+    KeepForRevert(std::move(before));
+    picturesChanged();
+}
+
+void CTPFDocument::KeepForRevert(ProjectState before) {
+    if (beforeCheck_ && !isFirstRepair_ && !isReverted_)
+        return;
+    beforeCheck_ = std::move(before);
+    isFirstRepair_ = false;
+    isReverted_ = false;
+}
+
+void CTPFDocument::RevertCheck() {
+    if (!beforeCheck_)
+        return;
+    projectFile_.exchange(*beforeCheck_);
+    isReverted_ = !isReverted_;
+    picturesChanged();
 }
 
 bool CTPFDocument::SetPicture(const std::string& name, PictureEntry entry) {

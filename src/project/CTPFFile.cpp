@@ -291,6 +291,51 @@ std::size_t CTPFFile::GetPictureNames(std::vector<std::string>& names) const {
     return names.size();
 }
 
+void CTPFFile::repair(const ProjectRepair& change) {
+    tmfDir = change.imageDirectories.value_or(tmfDir);
+    tlfDir = change.paletteDirectories.value_or(tlfDir);
+    for (const auto& [name, entry] : change.pictures) {
+        if (!entry) {
+            RemovePicture(name);
+        } else if (const auto found = pictures.find(name); found != pictures.end()) {
+            found->second = *entry;
+        } else {
+            pictures.emplace(name, *entry);
+            order.push_back(name);
+        }
+    }
+    modified = true;
+}
+
+ProjectState CTPFFile::state() const {
+    ProjectState now{pictures, order, tmfDir, tlfDir, {}};
+    if (store != nullptr) {
+        for (const auto& [key, value] : store->values()) {
+            if (indexOf(key))
+                now.keys.insert(key);
+        }
+    }
+    return now;
+}
+
+void CTPFFile::exchange(ProjectState& state) {
+    ProjectState now = this->state();
+    // Writing leaves the lines of pictures that are no more.
+    std::vector<std::string> gone;
+    for (const std::string& key : now.keys) {
+        if (!state.keys.contains(key))
+            gone.push_back(key);
+    }
+    if (store != nullptr)
+        store->TakeValues(gone, [](const std::string&) {});
+    pictures = std::move(state.pictures);
+    order = std::move(state.order);
+    tmfDir = std::move(state.tmfDir);
+    tlfDir = std::move(state.tlfDir);
+    state = std::move(now);
+    modified = true;
+}
+
 bool CTPFFile::holdsFolders(const std::string& tpfFolder, const std::string& directories) {
     return CKeyValueStore::holds(kTmfDir, relativeTo(tpfFolder, directories));
 }

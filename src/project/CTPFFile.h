@@ -2,6 +2,7 @@
 
 #include "project/CKeyValueStore.h"
 #include "project/PictureEntry.h"
+#include "project/ProjectRepair.h"
 
 #include <cstddef>
 #include <memory>
@@ -9,10 +10,20 @@
 #include <span>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
 namespace dyeworks {
+
+/// The pictures and folders of a project, to go back to.
+struct ProjectState {
+    std::unordered_map<std::string, PictureEntry> pictures;
+    std::vector<std::string> order;
+    std::string tmfDir;
+    std::string tlfDir;
+    std::unordered_set<std::string> keys; ///< Of lines that stand for pictures in the store.
+};
 
 /// A project in memory: its folders, its pictures in their order, and whatever else stands in its file.
 class CTPFFile {
@@ -48,6 +59,12 @@ public:
     [[nodiscard]] bool GetPicture(const std::string& name, PictureEntry& entry) const;
     /// In their order. The result is their number.
     std::size_t GetPictureNames(std::vector<std::string>& names) const;
+
+    /// Makes the change. Pictures that there were keep their places.
+    void repair(const ProjectRepair& change);
+    [[nodiscard]] ProjectState state() const;
+    /// Goes to the state, which becomes the one from before. Everything else in the file stays.
+    void exchange(ProjectState& state);
 
     [[nodiscard]] bool IsModified() const noexcept { return modified; }
     void SetModified(bool isModified) noexcept { modified = isModified; }

@@ -20,20 +20,35 @@ bool isPowerOfTwo(std::int32_t side) {
 }
 
 /// Of the texels.
-std::int64_t bytesInFile(const TextureCanvas& canvas) {
-    const std::int64_t row = (std::int64_t{canvas.width()} * canvas.bitsPerPixel() + 7) / 8;
-    return (row * canvas.height() + 3) / 4 * 4;
+std::int64_t bytesInFile(const ImageShape& shape) {
+    const std::int64_t row = (std::int64_t{shape.size.width} * shape.bits + 7) / 8;
+    return (row * shape.size.height + 3) / 4 * 4;
 }
 
 } // namespace
 
+bool RuleCheck::needsTexels(const TextureRules& rules, const ImageShape& shape, const TlutData* palette,
+                            std::int32_t firstEntry) {
+    return RuleCheck(rules, shape, palette, firstEntry).looksAtTexels_;
+}
+
+RuleCheck::RuleCheck(const TextureRules& rules, const ImageShape& shape, const TlutData* palette,
+                     std::int32_t firstEntry)
+    : RuleCheck(rules, shape, nullptr, palette, firstEntry) {}
+
 RuleCheck::RuleCheck(const TextureRules& rules, const TextureCanvas& canvas, const TlutData* palette,
                      std::int32_t firstEntry)
+    : RuleCheck(rules, {{canvas.width(), canvas.height()}, canvas.bitsPerPixel()}, &canvas, palette,
+                firstEntry) {}
+
+RuleCheck::RuleCheck(const TextureRules& rules, const ImageShape& shape, const TextureCanvas* canvas,
+                     const TlutData* palette, std::int32_t firstEntry)
     : rules_(rules)
+    , shape_(shape)
     , canvas_(canvas)
-    , firstEntry_(canvas.bitsPerPixel() == 4 ? firstEntry : 0)
+    , firstEntry_(shape.bits == 4 ? firstEntry : 0)
     , bandHeight_(rules.blockColours ? rules.blockColours->side : kRows) {
-    colours_ = canvas.bitsPerPixel() <= 8 ? 1 << canvas.bitsPerPixel() : 0;
+    colours_ = shape.bits <= 8 ? 1 << shape.bits : 0;
     checkSize();
     checkBytes(palette);
     bool maybeStray = false;
@@ -57,8 +72,8 @@ void RuleCheck::add(const RuleFinding& finding) {
 }
 
 void RuleCheck::checkSize() {
-    const std::int32_t width = canvas_.width();
-    const std::int32_t height = canvas_.height();
+    const std::int32_t width = shape_.size.width;
+    const std::int32_t height = shape_.size.height;
     if (const auto& most = rules_.largestSize; most && (width > most->width || height > most->height))
         add({Rule::LargestSize, {}, {}, {width, height, most->width, most->height}});
     if (rules_.powersOfTwo && !(isPowerOfTwo(width) && isPowerOfTwo(height)))
@@ -66,10 +81,10 @@ void RuleCheck::checkSize() {
 }
 
 void RuleCheck::checkBytes(const TlutData* palette) {
-    const std::int64_t texels = bytesInFile(canvas_);
+    const std::int64_t texels = bytesInFile(shape_);
     if (rules_.texelBytes && texels > *rules_.texelBytes)
         add({Rule::TexelBytes, {}, {}, {texels, *rules_.texelBytes}});
-    const bool inBank = canvas_.bitsPerPixel() == 4;
+    const bool inBank = shape_.bits == 4;
     if (!rules_.bytesWithColours || colours_ == 0 || (!inBank && palette == nullptr))
         return;
     const std::int64_t entries = inBank ? kBankSize : palette->count;
@@ -80,7 +95,7 @@ void RuleCheck::checkBytes(const TlutData* palette) {
 
 void RuleCheck::checkEntries(const TlutData& palette) {
     const std::int32_t end =
-        canvas_.bitsPerPixel() == 4 ? std::min(firstEntry_ + kBankSize, palette.count) : palette.count;
+        shape_.bits == 4 ? std::min(firstEntry_ + kBankSize, palette.count) : palette.count;
     if (rules_.firstEntryTransparent && firstEntry_ < end && palette.getAlpha(firstEntry_) != 0)
         add({Rule::FirstEntryTransparent, {}, firstEntry_, {palette.getAlpha(firstEntry_)}});
     if (!rules_.alphaZeroOrFull || palette.colourType != ColourType::Ia)
@@ -108,7 +123,7 @@ void RuleCheck::countColours(const Rect& block, const ValueAt& valueAt) {
 
 template <typename ValueAt>
 void RuleCheck::checkBand(std::int32_t top, std::int32_t bottom, const ValueAt& valueAt) {
-    const std::int32_t right = canvas_.width() - 1;
+    const std::int32_t right = shape_.size.width - 1;
     if (rules_.blockColours) {
         const std::int32_t side = rules_.blockColours->side;
         for (std::int32_t left = 0; left <= right; left += side)
@@ -130,25 +145,25 @@ void RuleCheck::checkBand(std::int32_t top, std::int32_t bottom, const ValueAt& 
 }
 
 bool RuleCheck::step() {
-    if (!looksAtTexels_)
+    if (!looksAtTexels_ || canvas_ == nullptr)
         return false;
     const std::int32_t top = nextRow_;
-    const std::int32_t bottom = std::min(top + bandHeight_, canvas_.height()) - 1;
+    const std::int32_t bottom = std::min(top + bandHeight_, shape_.size.height) - 1;
     if (top > bottom) {
         addStrays();
         looksAtTexels_ = false;
         return false;
     }
-    const ReadRows rows(canvas_);
-    if (canvas_.bitsPerPixel() == 8)
+    const ReadRows rows(*canvas_);
+    if (shape_.bits == 8)
         checkBand(top, bottom, [&](std::int32_t x, std::int32_t y) { return std::size_t{rows[y][x]}; });
-    else if (canvas_.bitsPerPixel() == 4)
+    else if (shape_.bits == 4)
         checkBand(top, bottom, [&](std::int32_t x, std::int32_t y) {
             return static_cast<std::size_t>(rows[y][x >> 1] >> (x % 2 == 0 ? 4 : 0)) & 15U;
         });
     else
         checkBand(top, bottom,
-                  [this](std::int32_t x, std::int32_t y) { return std::size_t{canvas_.GetPixel(x, y)}; });
+                  [this](std::int32_t x, std::int32_t y) { return std::size_t{canvas_->GetPixel(x, y)}; });
     nextRow_ = bottom + 1;
     return true;
 }

@@ -48,10 +48,23 @@ struct RuleFindings {
 /// By `Rule`.
 using RuleReport = std::array<RuleFindings, kRuleCount>;
 
+/// What an image is without its texels.
+struct ImageShape {
+    Size size;
+    std::int32_t bits = 0; ///< Per texel.
+};
+
 /// Checks an image against the rules, by and by, so that a large one need not be waited for. Without a
 /// palette the rules about its entries say nothing, and neither do those about indexes above 8 bits.
 class RuleCheck {
 public:
+    /// Whether the rules look at the texels of such an image, or its shape will do.
+    [[nodiscard]] static bool needsTexels(const TextureRules& rules, const ImageShape& shape,
+                                          const TlutData* palette, std::int32_t firstEntry);
+
+    /// Of an image that is not at hand, whose rules need no texels. The report is whole at once.
+    RuleCheck(const TextureRules& rules, const ImageShape& shape, const TlutData* palette,
+              std::int32_t firstEntry);
     /// The canvas must outlive the check, keep its size and depth, and hold what is to be checked during each
     /// `step`. `palette`, or null, is looked at here alone. `firstEntry` is that of index 0 at 4 bits.
     RuleCheck(const TextureRules& rules, const TextureCanvas& canvas, const TlutData* palette,
@@ -67,6 +80,8 @@ private:
         Rect around;
     };
 
+    RuleCheck(const TextureRules& rules, const ImageShape& shape, const TextureCanvas* canvas,
+              const TlutData* palette, std::int32_t firstEntry);
     void add(const RuleFinding& finding);
     void checkSize();
     void checkBytes(const TlutData* palette);
@@ -78,7 +93,8 @@ private:
     void countColours(const Rect& block, const ValueAt& valueAt);
 
     TextureRules rules_;
-    const TextureCanvas& canvas_;
+    ImageShape shape_;
+    const TextureCanvas* canvas_; ///< Null where it is not looked at.
     std::int32_t firstEntry_;
     RuleReport report_;
     bool looksAtTexels_ = false;

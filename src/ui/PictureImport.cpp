@@ -83,7 +83,8 @@ OpenedFile PictureImport::openIndexed(const PngPicture& png, const std::string& 
     TextureReport report;
     Result<Texture, InterchangeError> texture = textureOf(png, report);
     if (!texture) {
-        applicationMessage(describe(texture.error(), platform().texts()));
+        applicationMessage(
+            text(StringId::CannotOpenFile, {name, describe(texture.error(), platform().texts())}));
         return OpenedFile::failed();
     }
     Palette palette;
@@ -116,7 +117,8 @@ OpenedFile PictureImport::openReduced(const Picture& picture, const std::string&
     } else {
         Result<ReducedPicture, InterchangeError> result = reduceColours(picture, state.options());
         if (!result) {
-            applicationMessage(describe(result.error(), platform().texts()));
+            applicationMessage(
+                text(StringId::CannotOpenFile, {name, describe(result.error(), platform().texts())}));
             return OpenedFile::failed();
         }
         reduced = std::move(result).value();

@@ -7,10 +7,10 @@
 #include "paint/widgets/ImageView.h"
 #include "platform/StringId.h"
 #include "project/CTPFDocument.h"
+#include "project/RuleTexts.h"
 #include "ui/CMainFrame.h"
 #include "ui/CurrentProject.h"
 #include "ui/FindingsDock.h"
-#include "ui/RuleTexts.h"
 #include "ui/Workspace.h"
 #include "ui/palettebar/CPaletteBar.h"
 #include "ui/sheets/COptionPropertySheet.h"
@@ -30,6 +30,10 @@ namespace {
 // Milliseconds.
 constexpr int kWait = 200;
 constexpr int kSlice = 4;
+
+QString qt(const std::string& words) {
+    return QString::fromStdString(words);
+}
 
 } // namespace
 
@@ -150,11 +154,16 @@ void RuleWatch::publish() {
         const QString source = QString::fromUtf8(fileNameOf(each.state.name));
         for (const RuleFindings& ofRule : each.check->report()) {
             for (const RuleFinding& found : ofRule.first)
-                findings.push_back({source, ruleName(found.rule), placeText(found), reasonText(found),
+                findings.push_back({source, qt(ruleName(found.rule)), qt(placeText(found, localNumeral)),
+                                    qt(reasonText(found, localNumeral)),
                                     [this, image = each.state.image, found] { goTo(image, found); }});
             const std::int64_t more = ofRule.count - static_cast<std::int64_t>(ofRule.first.size());
             if (more > 0)
-                findings.push_back({source, ruleName(ofRule.first.front().rule), {}, moreText(more), {}});
+                findings.push_back({source,
+                                    qt(ruleName(ofRule.first.front().rule)),
+                                    {},
+                                    shown(StringId::FindingMore, {localNumeral(more)}),
+                                    {}});
         }
     }
     if (!findings.empty())

@@ -41,8 +41,12 @@ void addChoices(QFormLayout& form, StringId label, std::initializer_list<QRadioB
     form.setAlignment(name, Qt::AlignTop);
 }
 
+std::string localNumeral(std::int64_t value) {
+    return QLocale().toString(static_cast<qlonglong>(value)).toStdString();
+}
+
 QString byteCount(qlonglong bytes) {
-    return shown(StringId::NewImageBytes, {QLocale().toString(bytes).toStdString()});
+    return shown(StringId::NewImageBytes, {localNumeral(bytes)});
 }
 
 } // namespace dyeworks

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QWidget>
 
+#include <cstdint>
 #include <initializer_list>
 #include <string>
 
@@ -21,6 +22,8 @@ namespace dyeworks {
 /// Adds a row with the buttons below each other. Its label is also what screen readers call the group.
 void addChoices(QFormLayout& form, StringId label, std::initializer_list<QRadioButton*> buttons);
 
+/// "2,048", the way the user's country writes numbers.
+[[nodiscard]] std::string localNumeral(std::int64_t value);
 /// "2,048 bytes", the way the user's country writes numbers.
 [[nodiscard]] QString byteCount(qlonglong bytes);
 

@@ -1,9 +1,7 @@
-#include "ui/RuleTexts.h"
+#include "project/RuleTexts.h"
 
 #include "platform/StringId.h"
-#include "ui/sheets/SheetControls.h"
-
-#include <QLocale>
+#include "platform/Text.h"
 
 #include <array>
 #include <cstddef>
@@ -34,39 +32,30 @@ const Words& wordsOf(Rule rule) {
     return kWords.at(static_cast<std::size_t>(rule));
 }
 
-/// The way the user's country writes numbers.
-std::string numeral(std::int64_t value) {
-    return QLocale().toString(static_cast<qlonglong>(value)).toStdString();
-}
-
 } // namespace
 
-QString ruleName(Rule rule) {
-    return shown(wordsOf(rule).name);
+std::string ruleName(Rule rule) {
+    return text(wordsOf(rule).name);
 }
 
-QString placeText(const RuleFinding& finding) {
+std::string placeText(const RuleFinding& finding, const Numeral& numeral) {
     if (finding.entry)
-        return shown(StringId::FindingEntry, {numeral(*finding.entry)});
+        return text(StringId::FindingEntry, {numeral(*finding.entry)});
     if (!finding.texels)
-        return shown(StringId::FindingWholeImage);
+        return text(StringId::FindingWholeImage);
     const Rect& at = *finding.texels;
     if (at.left == at.right && at.top == at.bottom)
-        return shown(StringId::FindingTexel, {std::to_string(at.left), std::to_string(at.top)});
-    return shown(StringId::FindingTexels, {std::to_string(at.left), std::to_string(at.top),
-                                           std::to_string(at.right), std::to_string(at.bottom)});
+        return text(StringId::FindingTexel, {std::to_string(at.left), std::to_string(at.top)});
+    return text(StringId::FindingTexels, {std::to_string(at.left), std::to_string(at.top),
+                                          std::to_string(at.right), std::to_string(at.bottom)});
 }
 
-QString reasonText(const RuleFinding& finding) {
+std::string reasonText(const RuleFinding& finding, const Numeral& numeral) {
     const auto& [first, second, third, fourth] = finding.values;
     if (finding.rule == Rule::IndexesInPalette && second == 1)
-        return shown(StringId::FindingMissingEntryOfOne, {numeral(first), numeral(third)});
-    return shown(wordsOf(finding.rule).reason,
-                 {numeral(first), numeral(second), numeral(third), numeral(fourth)});
-}
-
-QString moreText(std::int64_t count) {
-    return shown(StringId::FindingMore, {numeral(count)});
+        return text(StringId::FindingMissingEntryOfOne, {numeral(first), numeral(third)});
+    return text(wordsOf(finding.rule).reason,
+                {numeral(first), numeral(second), numeral(third), numeral(fourth)});
 }
 
 } // namespace dyeworks
