@@ -1,10 +1,13 @@
 #include "core/TmfFormat.h"
 
 #include "core/ByteCursor.h"
+#include "core/Report.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 #include <cstring>
 #include <new>
 #include <utility>
@@ -25,10 +28,12 @@ struct Layout {
     std::size_t stride;  ///< Of one row in memory and in the padded form.
     std::size_t packedSize;
 
-    explicit Layout(const TmfImage& image)
+    /// Of what has `width`, `height` and `bits` of an image that `TmfImage::create` makes.
+    template <typename Image>
+    explicit Layout(const Image& image)
         : rows(static_cast<std::size_t>(image.height))
         , rowSize((static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.bits) + 7) / 8)
-        , stride(static_cast<std::size_t>(image.stride()))
+        , stride((rowSize + 3) / 4 * 4)
         , packedSize((rowSize * rows + 3) / 4 * 4) {}
 };
 
@@ -57,29 +62,60 @@ void spreadRows(std::span<std::byte> block, const Layout& layout) {
     }
 }
 
-/// The image behind the header. `read` fills a span with the next bytes of the body, which holds `bodySize`,
-/// and answers how many came.
+/// Reads the rows behind the header. `read` fills a span with the next bytes of the body, which holds
+/// `bodySize`, and answers how many came.
 template <typename Read>
-Result<TmfImage, TmfError> parseBody(const TmfHeader& header, std::uint64_t bodySize, Read read) {
-    TmfImage image;
+std::optional<TmfError> readBody(const TmfHeader& header, std::uint64_t bodySize, const TmfRoom& room,
+                                 Read read) {
     // A header may declare a whole gigabyte with next to nothing behind it, and zeroes cost nothing until
     // they are touched; a body that fills the block would only pay for them.
     const bool enough = bodySize >= packedRowsOf(header);
-    if (!(enough ? image.createUnfilled(header.width, header.height, header.bits)
-                 : image.create(header.width, header.height, header.bits)))
-        return TmfError{TmfError::Kind::NoImage};
-
-    const Layout layout(image);
-    const std::span<std::byte> block = image.block();
+    const Result<std::span<std::byte>, TmfError> made = room(header, enough);
+    if (!made)
+        return made.error();
+    const std::span<std::byte> block = made.value();
+    const Layout layout(header);
     const bool packed = bodySize == layout.packedSize && layout.rowSize != layout.stride;
-    const std::span<std::byte> room = packed ? block.first(layout.packedSize) : block;
-    const std::size_t came = read(room);
-    const std::span<std::byte> missing = packed ? room.subspan(came) : block.subspan(came);
+    const std::span<std::byte> part = packed ? block.first(layout.packedSize) : block;
+    const std::size_t came = read(part);
+    const std::span<std::byte> missing = packed ? part.subspan(came) : block.subspan(came);
     if (enough)
         std::fill(missing.begin(), missing.end(), std::byte{0});
     if (packed)
         spreadRows(block, layout);
-    return image;
+    return std::nullopt;
+}
+
+std::optional<TmfError> readFile(FileReader& file, const TmfRoom& room) {
+    std::array<std::byte, kHeaderSize> start;
+    const auto header = parseTmfHeader(std::span(start).first(file.read(start)));
+    if (!header)
+        return header.error();
+    const std::uint64_t bodySize = file.size() - std::min<std::uint64_t>(file.size(), kHeaderSize);
+    return readBody(header.value(), bodySize, room,
+                    [&file](std::span<std::byte> part) { return file.read(part); });
+}
+
+std::string hexadecimal(std::uint32_t value) {
+    char digits[9];
+    std::snprintf(digits, sizeof digits, "%x", static_cast<unsigned>(value));
+    return digits;
+}
+
+void report(const TmfError& error, const std::string& path) {
+    switch (error.kind) {
+    case TmfError::Kind::ShortHeader:
+        reportTmf(text(StringId::TmfReadFailed, {displayPath(path)}));
+        break;
+    case TmfError::Kind::ImproperTag:
+        reportTmf(text(StringId::TmfImproperTag, {hexadecimal(error.tag), std::to_string(error.bits)}));
+        break;
+    case TmfError::Kind::NoImage:
+        reportTmf(text(StringId::TmfNoMemory));
+        break;
+    case TmfError::Kind::Told:
+        break;
+    }
 }
 
 } // namespace
@@ -103,21 +139,44 @@ Result<TmfImage, TmfError> parseTmf(std::span<const std::byte> file) {
     if (!header)
         return header.error();
     ByteReader body(file.subspan(kHeaderSize));
-    return parseBody(header.value(), body.left(), [&body](std::span<std::byte> room) {
-        const auto taken = body.take(room.size());
-        std::copy(taken.begin(), taken.end(), room.begin());
-        return taken.size();
-    });
+    TmfImage image;
+    const auto error =
+        readBody(header.value(), body.left(), roomIn(image), [&body](std::span<std::byte> part) {
+            const auto taken = body.take(part.size());
+            std::copy(taken.begin(), taken.end(), part.begin());
+            return taken.size();
+        });
+    if (error)
+        return *error;
+    return image;
 }
 
 Result<TmfImage, TmfError> parseTmf(FileReader& file) {
-    std::array<std::byte, kHeaderSize> start;
-    const auto header = parseTmfHeader(std::span(start).first(file.read(start)));
-    if (!header)
-        return header.error();
-    const std::uint64_t bodySize = file.size() - std::min<std::uint64_t>(file.size(), kHeaderSize);
-    return parseBody(header.value(), bodySize,
-                     [&file](std::span<std::byte> room) { return file.read(room); });
+    TmfImage image;
+    if (const auto error = readFile(file, roomIn(image)))
+        return *error;
+    return image;
+}
+
+TmfRoom roomIn(TmfImage& image) {
+    return [&image](const TmfHeader& header, bool willBeFilled) -> Result<std::span<std::byte>, TmfError> {
+        if (!(willBeFilled ? image.createUnfilled(header.width, header.height, header.bits)
+                           : image.create(header.width, header.height, header.bits)))
+            return TmfError{TmfError::Kind::NoImage};
+        return image.block();
+    };
+}
+
+bool readTmfRows(const std::string& path, const TmfRoom& room) {
+    const auto file = platform().files().openForReading(path);
+    if (!file) {
+        reportTmf(text(StringId::FormatOpenFailed, {displayPath(path)}));
+        return false;
+    }
+    const std::optional<TmfError> error = readFile(*file.value(), room);
+    if (error)
+        report(*error, path);
+    return !error;
 }
 
 std::optional<TmfFile> layOutTmf(const TmfImage& image) {

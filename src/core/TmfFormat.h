@@ -8,6 +8,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -27,7 +28,8 @@ struct TmfError {
     enum class Kind {
         ShortHeader, ///< Fewer than 64 bytes.
         ImproperTag, ///< Unknown tag, or one of another depth than `bits`.
-        NoImage      ///< An image of these sides is refused, or there is no memory for it.
+        NoImage,     ///< An image of these sides is refused, or there is no memory for it.
+        Told         ///< Whoever was to make the room has told the user why there is none.
     };
     Kind kind = Kind::ShortHeader;
     std::uint32_t tag = 0;
@@ -42,6 +44,18 @@ Result<TmfHeader, TmfError> parseTmfHeader(std::span<const std::byte> file);
 Result<TmfImage, TmfError> parseTmf(std::span<const std::byte> file);
 /// The same from a file that is open at its start; the texels are read straight into the image.
 Result<TmfImage, TmfError> parseTmf(FileReader& file);
+
+/// Makes room for the rows of an image of the header's sides and depth, laid out as `TmfImage::block`; of
+/// zeroes, unless all of it will be filled.
+using TmfRoom =
+    std::function<Result<std::span<std::byte>, TmfError>(const TmfHeader& header, bool willBeFilled)>;
+
+/// The rows of `image`, which is made when the header is known. The image must outlive it.
+[[nodiscard]] TmfRoom roomIn(TmfImage& image);
+
+/// Reads the rows of the image in a TMF file to where `room` says. A failure is shown in a message box; false
+/// then.
+bool readTmfRows(const std::string& path, const TmfRoom& room);
 
 /// A TMF file laid out for writing: header, then the rows from the bottom up without what pads them in
 /// memory, then zeroes up to a multiple of 4 bytes.

@@ -1,12 +1,8 @@
 #include "core/TmfImage.h"
 
 #include "core/PlainArray.h"
-#include "core/Report.h"
 #include "core/TmfFormat.h"
-#include "platform/Platform.h"
-#include "platform/StringId.h"
 
-#include <cstdio>
 #include <optional>
 #include <type_traits>
 #include <utility>
@@ -62,12 +58,6 @@ std::uint8_t* rowOf(const TmfImage& image, std::int32_t y) {
     return image.texels + image.stride() * (std::int64_t{image.height} - 1 - y);
 }
 
-std::string hexadecimal(std::uint32_t value) {
-    char digits[9];
-    std::snprintf(digits, sizeof digits, "%x", static_cast<unsigned>(value));
-    return digits;
-}
-
 } // namespace
 
 TmfImage::TmfImage(TmfImage&& other) noexcept
@@ -112,6 +102,10 @@ bool TmfImage::createWith(Allocate allocate, std::int32_t newWidth, std::int32_t
     height = newHeight;
     bits = newBits;
     return true;
+}
+
+bool TmfImage::canBe(std::int32_t width, std::int32_t height, std::int32_t bits) {
+    return blockSizeOf(width, height, bits).has_value();
 }
 
 void TmfImage::clear() {
@@ -180,28 +174,9 @@ bool TmfImage::setTexel(std::int32_t x, std::int32_t y, std::uint32_t value) {
 
 bool TmfImage::readTmf(const std::string& path) {
     clear();
-    auto file = platform().files().openForReading(path);
-    if (!file) {
-        reportTmf(text(StringId::FormatOpenFailed, {displayPath(path)}));
-        return false;
-    }
-    auto parsed = parseTmf(*file.value());
-    if (parsed) {
-        *this = std::move(parsed).value();
+    if (readTmfRows(path, roomIn(*this)))
         return true;
-    }
-    const TmfError& error = parsed.error();
-    switch (error.kind) {
-    case TmfError::Kind::ShortHeader:
-        reportTmf(text(StringId::TmfReadFailed, {displayPath(path)}));
-        break;
-    case TmfError::Kind::ImproperTag:
-        reportTmf(text(StringId::TmfImproperTag, {hexadecimal(error.tag), std::to_string(error.bits)}));
-        break;
-    case TmfError::Kind::NoImage:
-        reportTmf(text(StringId::TmfNoMemory));
-        break;
-    }
+    clear();
     return false;
 }
 

@@ -27,6 +27,9 @@ struct TmfImage {
     bool createUnfilled(std::int32_t width, std::int32_t height, std::int32_t bits);
     void clear();
 
+    /// Whether `create` makes an image of these sides and depth, where there is memory for it.
+    [[nodiscard]] static bool canBe(std::int32_t width, std::int32_t height, std::int32_t bits);
+
     /// (0, 0) is the top-left texel. 0 outside the image.
     [[nodiscard]] std::uint32_t getTexel(std::int32_t x, std::int32_t y) const;
     /// Stores the low bits of `value`. False outside the image.

@@ -17,6 +17,10 @@ namespace {
 
 constexpr std::size_t kColourSize = 4;
 
+std::size_t pixelOffsetFor(std::uint16_t bitsPerPixel) {
+    return bmp::kHeadersSize + kColourSize * bmp::fullColourCount(bitsPerPixel);
+}
+
 } // namespace
 
 TextureCanvas::TextureCanvas(const TmfImage& image) {
@@ -53,28 +57,34 @@ bool TextureCanvas::Create(std::int32_t width, std::int32_t height, std::uint16_
 bool TextureCanvas::allocate(std::int32_t width, std::int32_t height, std::uint16_t planes,
                              std::uint16_t bitsPerPixel, BlockContents contents) {
     Destroy();
-    if (width < 0 || height < 0)
+    const std::optional<std::size_t> size = blockSizeFor(width, height, bitsPerPixel);
+    if (!size)
         return false;
-    const std::uint32_t colours = bmp::fullColourCount(bitsPerPixel);
-    const std::size_t pixelOffset = bmp::kHeadersSize + kColourSize * colours;
-    const std::int64_t stride = bmp::stride(width, bitsPerPixel);
-    const std::int64_t room = kMaxBlockSize - static_cast<std::int64_t>(pixelOffset);
-    if (height > 0 && stride > room / height)
-        return false;
-    const std::size_t size = pixelOffset + static_cast<std::size_t>(stride * height);
-    block_ = allocateCanvasBlock(size, contents);
+    block_ = allocateCanvasBlock(*size, contents);
     if (block_ == nullptr)
         return false;
-    blockSize_ = size;
-    pixelOffset_ = pixelOffset;
-    stride_ = static_cast<std::uint32_t>(stride);
+    blockSize_ = *size;
+    pixelOffset_ = pixelOffsetFor(bitsPerPixel);
+    stride_ = static_cast<std::uint32_t>(bmp::stride(width, bitsPerPixel));
     width_ = width;
     height_ = height;
     planes_ = planes;
     bitsPerPixel_ = bitsPerPixel;
     written_ = wholeRect();
-    writeHeaders(colours);
+    writeHeaders(bmp::fullColourCount(bitsPerPixel));
     return true;
+}
+
+std::optional<std::size_t> TextureCanvas::blockSizeFor(std::int32_t width, std::int32_t height,
+                                                       std::uint16_t bitsPerPixel) {
+    if (width < 0 || height < 0)
+        return std::nullopt;
+    const std::size_t pixelOffset = pixelOffsetFor(bitsPerPixel);
+    const std::int64_t stride = bmp::stride(width, bitsPerPixel);
+    const std::int64_t room = kMaxBlockSize - static_cast<std::int64_t>(pixelOffset);
+    if (height > 0 && stride > room / height)
+        return std::nullopt;
+    return pixelOffset + static_cast<std::size_t>(stride * height);
 }
 
 void TextureCanvas::writeHeaders(std::uint32_t colourCount) {

@@ -191,6 +191,10 @@ private:
 
     bool allocate(std::int32_t width, std::int32_t height, std::uint16_t planes, std::uint16_t bitsPerPixel,
                   BlockContents contents);
+    /// Of a canvas with headers and colour table; none when that is more than a canvas can have.
+    [[nodiscard]] static std::optional<std::size_t> blockSizeFor(std::int32_t width, std::int32_t height,
+                                                                 std::uint16_t bitsPerPixel);
+    void clearRowPadding();
     void writeHeaders(std::uint32_t colourCount);
     /// Bytes of all pixel rows.
     [[nodiscard]] std::size_t rowBytes() const noexcept;

@@ -1,3 +1,4 @@
+#include "core/TmfFormat.h"
 #include "paint/PixelRuns.h"
 #include "paint/TextureCanvas.h"
 #include "platform/Platform.h"
@@ -63,17 +64,48 @@ void TextureCanvas::FromImage(const TmfImage& image) {
 
 bool TextureCanvas::LoadTmf(const std::string& path) {
     Destroy();
-    TmfImage image;
-    if (!image.readTmf(path))
-        return false;
-    if (!Create(image.width, image.height, 1, static_cast<std::uint16_t>(image.bits))) {
-        // The file is as it should be, and its reader has had nothing to tell.
-        applicationMessage(
-            text(StringId::CannotOpenFile, {displayPath(path), describe(FileError::TooLarge)}));
+    if (!isPlain()) {
+        TmfImage image;
+        if (!image.readTmf(path) ||
+            !Create(image.width, image.height, 1, static_cast<std::uint16_t>(image.bits)))
+            return false;
+        FromImage(image);
+        return true;
+    }
+    // An image's rows lie as a canvas's do.
+    const bool read = readTmfRows(
+        path, [&](const TmfHeader& header, bool willBeFilled) -> Result<std::span<std::byte>, TmfError> {
+            const auto depth = static_cast<std::uint16_t>(header.bits);
+            if (!TmfImage::canBe(header.width, header.height, header.bits))
+                return TmfError{TmfError::Kind::NoImage};
+            if (!blockSizeFor(header.width, header.height, depth)) {
+                // The file is as it should be.
+                applicationMessage(
+                    text(StringId::CannotOpenFile, {displayPath(path), describe(FileError::TooLarge)}));
+                return TmfError{TmfError::Kind::Told};
+            }
+            if (!allocate(header.width, header.height, 1, depth,
+                          willBeFilled ? BlockContents::Undefined : BlockContents::Zeroed))
+                return TmfError{TmfError::Kind::NoImage};
+            return std::as_writable_bytes(pixelRows());
+        });
+    if (!read) {
+        Destroy();
         return false;
     }
-    FromImage(image);
+    clearRowPadding();
+    extendChanged(columns(), rows());
     return true;
+}
+
+void TextureCanvas::clearRowPadding() {
+    if (rowsHaveNoPadding())
+        return;
+    visitDepth<PixelRuns>(bitsPerPixel_, [&](auto pixels) {
+        const std::int64_t room = std::int64_t{stride_} * 8 / bitsPerPixel_;
+        for (std::int32_t y = 0; y < height_; ++y)
+            pixels.fill(row(y), width_, room, 0);
+    });
 }
 
 bool TextureCanvas::SaveTmf(const std::string& path) const {
