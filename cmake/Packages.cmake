@@ -62,5 +62,6 @@ of plug-ins of Orrery Dyeworks, an editor for colour-indexed console textures.")
 
 # What packages have besides, see there.
 set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/packaging/complete-packages.cmake")
+set(CPACK_POST_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/packaging/finish-packages.cmake")
 set(CPACK_DYEWORKS_SOURCE "${PROJECT_SOURCE_DIR}")
 include(CPack)
