@@ -39,6 +39,8 @@ install(DIRECTORY "${share}/icons" "${share}/mime" DESTINATION share COMPONENT e
 install(FILES data/orrery-dyeworks.metainfo.xml
   DESTINATION share/metainfo RENAME local.orrery.dyeworks.metainfo.xml COMPONENT editor)
 
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+
 # dyeworks_command_files(<program> <component> [FROM_HELP]): its manual pages in both languages and its completion for
 # two shells. FROM_HELP: a program of commands, which tells the build itself what they are.
 function(dyeworks_command_files program component)
