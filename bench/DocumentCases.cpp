@@ -106,12 +106,14 @@ public:
     PaletteSet palettes;
 };
 
-/// A palette is sorted, turn by turn the other way round, with four attached images of 1024x1024 texels.
-void addSort() {
+/// A palette is sorted, turn by turn the other way round, with four attached images of 1024x1024 texels;
+/// those of 4 bits show a bank each.
+void addSort(std::uint16_t bits) {
     constexpr std::int32_t kImageSide = 1024;
-    constexpr std::size_t kBytes = std::size_t{4} * kImageSide * kImageSide;
-    const std::string base = baseline(Baseline::Memcpy, kBytes);
-    benchmark::RegisterBenchmark("Sort-with-four-images/8bit/1024", [=](benchmark::State& state) {
+    const std::size_t bytes = std::size_t{4} * kImageSide * kImageSide * bits / 8;
+    const std::string base = baseline(Baseline::Memcpy, bytes);
+    const std::string name = "Sort-with-four-images/" + std::to_string(bits) + "bit/1024";
+    benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) {
         HostOfPalettes host;
         host.palettes.newPalette(256, ColourType::Rgba, 1);
         TextureLookupTable& palette = *host.palettes.lookup("");
@@ -122,15 +124,17 @@ void addSort() {
         std::vector<CDyeworksDoc*> images;
         for (int n = 0; n < 4; ++n) {
             CDyeworksDoc& image = *documents.emplace_back(std::make_unique<CDyeworksDoc>(host));
-            if (!image.canvas().Create(kImageSide, kImageSide, 1, 8))
+            if (!image.canvas().Create(kImageSide, kImageSide, 1, bits))
                 state.SkipWithError("no memory");
             for (std::uint8_t& texel : image.canvas().pixelRows())
                 texel = static_cast<std::uint8_t>(random());
             image.setAttachedName(host.palettes.currentKey);
+            image.setPaletteValue(bits == 4 ? 16 * n : 0);
             images.push_back(&image);
         }
         EntryOrder order;
         order.range = {0, 255};
+        order.insideBanks = bits == 4;
         for (auto _ : state) {
             order.reversed = !order.reversed;
             const auto map = mapOf(order, palette.table, {});
@@ -145,8 +149,8 @@ void addSort() {
 } // namespace
 
 void registerDocumentCases() {
-    addSort();
     for (const std::uint16_t bits : {std::uint16_t{4}, std::uint16_t{8}}) {
+        addSort(bits);
         const std::size_t bytes = kTexels * bits / 8;
         add("Edit-texel", bits, Baseline::Memcpy, bytes, [](CDyeworksDoc& document, std::uint32_t turn) {
             // Another value in each round along the row.

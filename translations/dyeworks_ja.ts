@@ -1857,6 +1857,10 @@ written. Files of pictures that are gone from the project are removed.</source>
         <source>Arrange En&amp;tries</source>
         <translation>整理(&amp;T)</translation>
     </message>
+    <message>
+        <source>C&amp;hange Entries</source>
+        <translation>エントリの変更(&amp;H)</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>

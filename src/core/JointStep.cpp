@@ -1,10 +1,12 @@
 #include "core/JointStep.h"
 
 #include "platform/Platform.h"
+#include "platform/ProgramPath.h"
 #include "platform/StringId.h"
 
 #include <algorithm>
 #include <new>
+#include <string_view>
 #include <utility>
 
 namespace dyeworks {
@@ -20,6 +22,19 @@ const UndoRecord* atHand(const JointDocument& document, StepWay way) {
 
 const UndoRecord* further(const UndoRecord& record, StepWay way) {
     return way == StepWay::Back ? record.previous : record.next;
+}
+
+std::string_view withoutFolders(std::string_view name) {
+    const auto folders = std::ranges::find_if(name.rbegin(), name.rend(), isSeparator);
+    return name.substr(static_cast<std::size_t>(name.rend() - folders));
+}
+
+/// Without its folders, unless another of all the names would be the same then.
+std::string shortName(const std::string& name, const std::vector<std::string>& all) {
+    const std::string_view itsShort = withoutFolders(name);
+    const bool isAmbiguous = std::ranges::any_of(
+        all, [&](const std::string& other) { return other != name && withoutFolders(other) == itsShort; });
+    return isAmbiguous ? name : std::string(itsShort);
 }
 
 std::string listed(const std::vector<std::string>& names) {
@@ -62,16 +77,24 @@ public:
 
     /// The others that have further steps before it.
     [[nodiscard]] std::vector<std::string> others() const {
-        std::vector<std::string> names;
+        const std::vector<std::string> all = names();
+        std::vector<std::string> others;
         for (const Leg& leg : legs_) {
             const int before = leg.steps - (isOf(*first_, *leg.document) ? 1 : 0);
             if (before > 0)
-                names.push_back(
-                    text(StringId::JointStepCount, {leg.document->jointName(), std::to_string(before)}));
+                others.push_back(text(StringId::JointStepCount,
+                                      {shortName(leg.document->jointName(), all), std::to_string(before)}));
         }
-        return names;
+        return others;
     }
-    [[nodiscard]] const std::vector<std::string>& gone() const noexcept { return gone_; }
+    /// The documents that are no longer part of it.
+    [[nodiscard]] std::vector<std::string> gone() const {
+        const std::vector<std::string> all = names();
+        std::vector<std::string> gone;
+        for (const std::string& name : gone_)
+            gone.push_back(shortName(name, all));
+        return gone;
+    }
     [[nodiscard]] std::vector<JointDocument*> documents() const {
         std::vector<JointDocument*> all;
         for (const Leg& leg : legs_)
@@ -96,6 +119,13 @@ private:
 
     [[nodiscard]] static bool isOf(const JointStep& step, const JointDocument& document) {
         return std::ranges::find(step.parts_, &document, &Part::document) != step.parts_.end();
+    }
+
+    [[nodiscard]] std::vector<std::string> names() const {
+        std::vector<std::string> all = gone_;
+        for (const Leg& leg : legs_)
+            all.push_back(leg.document->jointName());
+        return all;
     }
 
     [[nodiscard]] Leg& legOf(JointDocument& document) {
@@ -202,11 +232,12 @@ bool JointStep::move(JointDocument& document, StepWay way) {
     const std::weak_ptr<JointDocument*> self = document.handle();
 
     const std::vector<std::string> others = walk.others();
-    if (!others.empty() || !walk.gone().empty()) {
+    const std::vector<std::string> gone = walk.gone();
+    if (!others.empty() || !gone.empty()) {
         const bool back = way == StepWay::Back;
         std::string question = text(back ? StringId::JointUndo : StringId::JointRedo);
-        if (!walk.gone().empty())
-            question += "\n\n" + text(StringId::JointGone, {listed(walk.gone())});
+        if (!gone.empty())
+            question += "\n\n" + text(StringId::JointGone, {listed(gone)});
         if (!others.empty())
             question += "\n\n" + text(back ? StringId::JointLaterSteps : StringId::JointEarlierSteps,
                                       {listed(others)});

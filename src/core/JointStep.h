@@ -20,7 +20,7 @@ public:
     JointDocument(const JointDocument&) = delete;
     JointDocument& operator=(const JointDocument&) = delete;
 
-    /// What the user knows it by.
+    /// What the user knows it by: the path of its file, or what it is called while it has none.
     [[nodiscard]] virtual std::string jointName() const = 0;
     [[nodiscard]] virtual const EditHistory& jointHistory() const = 0;
     /// Ends what is under way and belongs to no step yet.

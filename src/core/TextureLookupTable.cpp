@@ -41,7 +41,9 @@ public:
         : palette_(palette) {}
 
     std::string jointName() const override {
-        return palette_.title.substr(0, palette_.title.find(kModifiedMark));
+        return palette_.path.empty() || isUnsavedName(palette_.path)
+                   ? palette_.title.substr(0, palette_.title.find(kModifiedMark))
+                   : displayPath(palette_.path);
     }
     const EditHistory& jointHistory() const override { return palette_.edits_; }
     void settle() override {}

@@ -109,7 +109,7 @@ std::int32_t CDyeworksDoc::firstEntryFor(const TextureLookupTable& palette) cons
 
 std::int32_t CDyeworksDoc::firstShownEntry() const {
     const TextureLookupTable* const palette = GetAttachedPalette();
-    return palette == nullptr || canvas_.bitsPerPixel() != 4 ? 0 : firstEntryFor(*palette);
+    return palette == nullptr || canvas_.bitsPerPixel() >= 8 ? 0 : firstEntryFor(*palette);
 }
 
 void CDyeworksDoc::UpdateTitle() {

@@ -148,7 +148,7 @@ public:
     /// this image.
     [[nodiscard]] std::int32_t paletteValue() const noexcept { return paletteValue_; }
     void setPaletteValue(std::int32_t value) noexcept { paletteValue_ = value; }
-    /// The entry of the attached palette that value 0 shows; 0 without one and at other depths than 4 bits.
+    /// The entry of the attached palette that value 0 shows; 0 without one and from 8 bits on.
     [[nodiscard]] std::int32_t firstShownEntry() const;
 
     /// Entry of `palette`, the attached one or a copy of it, that the value 0 shows.
@@ -209,6 +209,7 @@ private:
     bool moveAlone(StepWay way) override;
     void take(std::unique_ptr<UndoRecord> record) override;
     void showMoved() override;
+    void followMap(const UndoRecord& record, StepWay way);
     void showAlone() override;
     void showEverywhere(ImageViewer* viewer);
     [[nodiscard]] bool openEdit(ImageViewer* viewer);

@@ -1,5 +1,6 @@
 #include "paint/CDyeworksDoc.h"
 #include "paint/ImageUndoRecord.h"
+#include "paint/RenumberRecord.h"
 #include "paint/WholeImageRecord.h"
 
 #include <utility>
@@ -57,7 +58,7 @@ bool CDyeworksDoc::moveAlone(StepWay way) {
     if (texels)
         counts_.leave(canvas_, *texels);
     else
-        counts_.forget();
+        followMap(*record, way);
     if (back)
         edits_.undo(&canvas_);
     else
@@ -73,9 +74,21 @@ bool CDyeworksDoc::moveAlone(StepWay way) {
     return true;
 }
 
+/// The counts follow a step that gives all texels other values.
+void CDyeworksDoc::followMap(const UndoRecord& record, StepWay way) {
+    const auto* const renumbering = dynamic_cast<const RenumberRecord*>(&record);
+    const ByteTable* const map = renumbering == nullptr ? nullptr
+                                 : way == StepWay::Back ? renumbering->undoMap()
+                                                        : &renumbering->redoMap();
+    if (map == nullptr)
+        counts_.forget();
+    else
+        counts_.renumber(*map);
+}
+
 void CDyeworksDoc::take(std::unique_ptr<UndoRecord> record) {
     record->redo(&canvas_);
-    counts_.forget();
+    followMap(*record, StepWay::Forward);
     historyMoved_ = true;
     texelsChanged();
     static_cast<void>(edits_.add(std::move(record)));

@@ -1,5 +1,7 @@
 #include "paint/RenumberRecord.h"
 
+#include "paint/CanvasRenumber.h"
+
 #include <bitset>
 #include <new>
 
@@ -9,7 +11,7 @@ namespace {
 
 /// The map that leads back from the values for which `counts`; false when two of them come together.
 template <typename Counts>
-bool invert(const ValueMap& map, ValueMap& back, Counts counts) {
+bool invert(const ByteTable& map, ByteTable& back, Counts counts) {
     std::bitset<256> taken;
     for (std::size_t value = 0; value < map.size(); ++value) {
         if (!counts(value))
@@ -24,15 +26,14 @@ bool invert(const ValueMap& map, ValueMap& back, Counts counts) {
 
 } // namespace
 
-std::unique_ptr<RenumberRecord> RenumberRecord::make(const TextureCanvas& canvas, const ValueMap& map) {
+std::unique_ptr<RenumberRecord>
+RenumberRecord::make(const TextureCanvas& canvas, const TexelCounts::Values& counts, const ByteTable& map) {
     std::unique_ptr<RenumberRecord> record(new (std::nothrow) RenumberRecord);
     if (record == nullptr)
         return nullptr;
     record->forward_ = map;
-    // Mostly a permutation, for which no texel has to be looked at.
     if (invert(map, record->back_, [](std::size_t /*value*/) { return true; }))
         return record;
-    const auto counts = countValues(canvas);
     if (invert(map, record->back_, [&](std::size_t value) { return counts[value] > 0; }))
         return record;
     record->before_ = canvas.Clone();

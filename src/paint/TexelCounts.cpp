@@ -131,4 +131,11 @@ void TexelCounts::change(const TextureCanvas& before, const TextureCanvas& after
     });
 }
 
+void TexelCounts::renumber(const ByteTable& map) {
+    const Values before = values_;
+    values_.fill(0);
+    for (std::size_t value = 0; value < before.size(); ++value)
+        values_[map[value]] += before[value];
+}
+
 } // namespace dyeworks

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "paint/Rect.h"
+#include "platform/ByteLookUp.h"
 
 #include <array>
 #include <cstddef>
@@ -36,6 +37,8 @@ public:
     /// not touched is not looked at.
     void change(const TextureCanvas& before, const TextureCanvas& after, const Rect& texels,
                 const TouchedTiles& touched);
+    /// Every texel has the value now that the map has for its own.
+    void renumber(const ByteTable& map);
 
 private:
     void add(const TextureCanvas& canvas, const Rect& texels, std::uint64_t each);

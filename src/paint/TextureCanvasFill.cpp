@@ -53,18 +53,22 @@ public:
         return starts;
     }
 
-    /// The end of the pieces behind the last one, at `x`, that look just like it and hold nothing new: it was
-    /// one run, or none.
-    [[nodiscard]] std::int64_t sameUntil(std::int64_t x, std::int64_t end) const {
+    /// The last of the pieces from the one at `x` on, which came last, that look just like it and, since it
+    /// was one run or none, hold nothing new.
+    [[nodiscard]] std::int64_t sameUntil(std::int64_t x, std::int64_t end) {
         if (row_ == nullptr)
             return end;
+        // What was found is kept: the other row may ask again and again.
+        if (x < same_)
+            return same_;
         if ((matches_ != 0 && matches_ != kAll) || Bits > 8 || Bits < 4)
             return x;
-        end = std::min(end, readable_);
-        const std::uint64_t first = loadWord(row_ + x * Bits / 8);
-        while (x + 2 * kPixels <= end && loadWord(row_ + (x + kPixels) * Bits / 8) == first)
-            x += kPixels;
-        return x;
+        const std::uint8_t* const first = row_ + x * Bits / 8;
+        if (x + kPixels > readable_ || loadWord(first) != everyByte(*first))
+            return x;
+        const std::ptrdiff_t bytes = equalBytesAtStart(first, row_ + end * Bits / 8, *first);
+        same_ = x + std::max<std::int64_t>(bytes * 8 / kPixels / Bits - 1, 0) * kPixels;
+        return same_;
     }
 
 private:
@@ -82,6 +86,7 @@ private:
     std::uint32_t value_;
     std::uint32_t matches_ = 0;
     std::uint32_t carried_ = 0;
+    std::int64_t same_ = 0;
 };
 
 } // namespace

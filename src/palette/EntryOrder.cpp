@@ -33,7 +33,7 @@ std::vector<Entries> groupsOf(const EntryOrder& order) {
     return groups;
 }
 
-std::int64_t useOf(const EntryCounts& use, std::int32_t entry) {
+std::uint64_t useOf(const EntryCounts& use, std::int32_t entry) {
     return use[static_cast<std::size_t>(entry)];
 }
 

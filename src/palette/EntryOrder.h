@@ -31,7 +31,7 @@ enum class EntrySortKey {
 };
 
 /// How many texels have each entry.
-using EntryCounts = std::array<std::int64_t, EntryMap::kMostEntries>;
+using EntryCounts = std::array<std::uint64_t, EntryMap::kMostEntries>;
 /// Of the entries of a palette.
 using EntrySet = std::bitset<EntryMap::kMostEntries>;
 

@@ -1,5 +1,6 @@
 #include "palette/EntryUsage.h"
 
+#include "core/TlutData.h"
 #include "palette/EntryFormat.h"
 #include "platform/StringId.h"
 #include "platform/Text.h"
@@ -22,20 +23,10 @@ std::optional<std::int32_t> twinOf(const TlutData& table, std::int32_t index, st
 
 } // namespace
 
-std::vector<std::uint64_t> entryUsage(CountedImages& images, const std::string& key, std::int32_t entries) {
-    std::vector<std::uint64_t> usage(static_cast<std::size_t>(std::max(entries, 0)));
-    for (const CountedImages::Image& image : images.attachedTo(key)) {
-        const auto first = static_cast<std::size_t>(image.firstEntry);
-        for (std::size_t value = 0; value < image.texels.size() && first + value < usage.size(); ++value)
-            usage[first + value] += image.texels[value];
-    }
-    return usage;
-}
-
-std::vector<EntryRemark> entryRemarks(const TlutData& table, const std::vector<std::uint64_t>& usage,
-                                      std::int32_t group) {
-    std::vector<EntryRemark> remarks(usage.size());
-    for (std::int32_t i = 0; i < table.count && i < static_cast<std::int32_t>(usage.size()); ++i) {
+std::vector<EntryRemark> entryRemarks(const TlutData& table, const EntryCounts& usage, std::int32_t group) {
+    const std::int32_t entries = std::clamp(table.count, 0, EntryMap::kMostEntries);
+    std::vector<EntryRemark> remarks(static_cast<std::size_t>(entries));
+    for (std::int32_t i = 0; i < entries; ++i) {
         const auto at = static_cast<std::size_t>(i);
         const std::int32_t begin = i / group * group;
         const std::uint64_t texels = usage[at];

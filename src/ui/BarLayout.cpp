@@ -7,9 +7,11 @@
 #include <QByteArray>
 #include <QCryptographicHash>
 #include <QMainWindow>
+#include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -42,6 +44,15 @@ QByteArray readDocked() {
     return bytes.left(sealSize) == sealOf(state) ? state : QByteArray();
 }
 
+/// On a small screen, and on one whose windows are large, the bar would hide the main window: it begins as
+/// small as it can be there.
+void placeFirst(CPaletteBar& bar) {
+    const auto area = [](QSize size) { return std::int64_t{size.width()} * size.height(); };
+    if (2 * area(bar.size()) > area(bar.screen()->availableSize()))
+        bar.resize(bar.compactSize());
+    placeInsideScreen(bar, kFirstPlace);
+}
+
 } // namespace
 
 void saveBarLayout(QMainWindow& frame, CPaletteBar& paletteBar) {
@@ -69,7 +80,7 @@ void restoreBarLayout(QMainWindow& frame, CPaletteBar& paletteBar) {
     if (placement && placement->hasRectangle())
         setWindowPlacement(paletteBar, *placement);
     else
-        placeInsideScreen(paletteBar, kFirstPlace);
+        placeFirst(paletteBar);
     paletteBar.setShown(!placement || placement->showCommand != WindowPlacement::kHidden);
 }
 

@@ -213,6 +213,7 @@ bool CDyeworksApp::createPaletteSet() {
     setApplicationPaletteSet(palettes_.get());
     palettes_->setListener(&mainFrame_->paletteBar().state());
     usage_.start(mainFrame_->paletteBar());
+    entryOrder_.start(mainFrame_->paletteBar());
     // The first idle moment may be long in coming: files are opened before, and each may raise a message.
     mainFrame_->commandActions().refresh();
     return true;

@@ -9,15 +9,29 @@
 #include "ui/CMainFrame.h"
 #include "ui/CurrentProject.h"
 #include "ui/ImagesOfPalette.h"
+#include "ui/OpenImages.h"
 #include "ui/Workspace.h"
 #include "ui/palettebar/CPaletteBar.h"
 #include "ui/sheets/EntryOrderSheet.h"
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <utility>
 
 namespace dyeworks {
+
+namespace {
+
+/// Every open image follows with all its texels, and no picture is left behind.
+bool speaksForItself(const EntryOrder& order, const TlutData& table, const ImagesOfPalette& images) {
+    const EntryOrderPlan plan = planOf(order, table, images.openImages());
+    const bool leavesTexels = std::ranges::any_of(
+        plan.images, [](const EntryOrderPlan::Image& image) { return image.follows.beyond > 0; });
+    return plan.canBeDone() && !leavesTexels && images.closedPictures().empty();
+}
+
+} // namespace
 
 EntryOrderCommands::EntryOrderCommands(Workspace& workspace)
     : workspace_(workspace) {
@@ -25,13 +39,10 @@ EntryOrderCommands::EntryOrderCommands(Workspace& workspace)
             &EntryOrderCommands::OnUpdateOrder);
 }
 
-std::vector<CDyeworksDoc*> EntryOrderCommands::images() const {
-    std::vector<CDyeworksDoc*> all;
-    for (CDocument* document : workspace_.documents()) {
-        if (auto* const image = dynamic_cast<CDyeworksDoc*>(document))
-            all.push_back(image);
-    }
-    return all;
+void EntryOrderCommands::start(CPaletteBar& bar) {
+    QObject::connect(&bar, &CPaletteBar::entriesDropped, &bar, [this](int first, int last, int place) {
+        moveTo({first, last}, place);
+    });
 }
 
 /// One entry alone can be moved or swapped; anything else is done to the whole palette then.
@@ -63,35 +74,59 @@ void EntryOrderCommands::openPictures(const std::vector<std::string>& names) con
 }
 
 void EntryOrderCommands::OnOrder(CommandId id) {
+    carryOut(proposal(static_cast<EntryOperation>(id - ID_PALETTE_MOVE)), Sheet::Always);
+}
+
+void EntryOrderCommands::moveTo(EntryRange range, std::int32_t place) {
+    const TextureLookupTable* const palette = workspace_.paletteSet()->lookup("");
+    if (palette == nullptr || palette->table.count > EntryMap::kMostEntries)
+        return;
+    EntryOrder order;
+    order.operation = EntryOperation::Move;
+    // Cells behind the last entry may be dragged, too.
+    order.range = {range.first, std::min(range.last, palette->table.count - 1)};
+    const std::int32_t length = order.range.last - order.range.first + 1;
+    if (length <= 0)
+        return;
+    order.target = std::min(place, palette->table.count - length);
+    carryOut(order, Sheet::WhereNeeded);
+}
+
+void EntryOrderCommands::carryOut(EntryOrder order, Sheet sheet) {
     PaletteSet& set = *workspace_.paletteSet();
     const std::string key = set.currentKey;
     const auto find = [&] {
-        return ImagesOfPalette(*set.lookup(key), images(), workspace_.currentProject().document());
+        return ImagesOfPalette(*set.lookup(key), openImages(workspace_),
+                               workspace_.currentProject().document());
     };
     // What floats belongs to the images that the sheet tells of.
-    for (CDyeworksDoc* image : images()) {
+    for (CDyeworksDoc* image : openImages(workspace_)) {
         if (image->GetAttachedPalette() == set.lookup(key) && !image->settlePieces())
             return;
     }
-    EntryOrder order = proposal(static_cast<EntryOperation>(id - ID_PALETTE_MOVE));
     order.insideBanks = showBanks(find().openImages(), set.lookup(key)->table);
-    for (;;) {
+    for (;; sheet = Sheet::Always) {
         const ImagesOfPalette shown = find();
-        const TextureLookupTable& palette = *set.lookup(key);
-        const std::string title = palette.title.substr(0, palette.title.find(" * "));
-        EntryOrderSheet sheet(order, palette.table, title, shown, &workspace_.mainFrame());
-        if (sheet.exec() != QDialog::Accepted || !sheet.order())
-            return;
-        order = *sheet.order();
-        if (sheet.opensPictures())
-            openPictures(shown.closedPictures());
+        if (sheet == Sheet::Always || !speaksForItself(order, set.lookup(key)->table, shown)) {
+            const TextureLookupTable& palette = *set.lookup(key);
+            const std::string title = palette.title.substr(0, palette.title.find(" * "));
+            EntryOrderSheet dialog(order, palette.table, title, shown, &workspace_.mainFrame());
+            if (dialog.exec() != QDialog::Accepted || !dialog.order())
+                return;
+            order = *dialog.order();
+            if (dialog.opensPictures())
+                openPictures(shown.closedPictures());
+        }
         // The palette may have gone while the sheet was open, or images may have come.
         if (set.lookup(key) == nullptr)
             return;
         ImagesOfPalette now = find();
         const EntryOrderPlan plan = planOf(order, set.lookup(key)->table, now.openImages());
         if (plan.canBeDone()) {
-            now.rearrange(*plan.map);
+            const bool isDone = now.rearrange(*plan.map);
+            if (isDone && order.operation == EntryOperation::Move && set.currentKey == key)
+                workspace_.mainFrame().paletteBar().selectEntries(
+                    {order.target, order.target + order.range.last - order.range.first});
             return;
         }
         applicationMessage(text(plan.leavesBank() ? StringId::OrderRefused : StringId::OrderNothing));

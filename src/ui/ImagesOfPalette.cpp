@@ -13,31 +13,17 @@
 #include <algorithm>
 #include <memory>
 #include <new>
-#include <optional>
 #include <utility>
 
 namespace dyeworks {
 
 namespace {
 
-/// As it is told without looking at the texels.
-AttachedImage described(const CDyeworksDoc& image) {
-    AttachedImage description;
-    description.values = 1 << image.canvas().bitsPerPixel();
-    description.firstEntry = image.firstShownEntry();
-    return description;
-}
-
-std::optional<FollowPlan> planOf(const CDyeworksDoc& image, const EntryMap& map) {
-    AttachedImage description = described(image);
-    // Every value counts as one that the image has.
-    std::ranges::fill(description.texels, 1);
-    FollowPlan plan = planFollowing(description, map);
-    if (plan.leaving > 0) {
-        description.texels = countValues(image.canvas());
-        plan = planFollowing(description, map);
-    }
-    return plan.leaving > 0 ? std::nullopt : std::optional(plan);
+AttachedImage described(CDyeworksDoc& image) {
+    // Without its folder, as in the title.
+    const std::string name = image.pathName().empty() ? image.displayName() : image.pathName();
+    return {std::string(fileNameOf(name)), 1 << image.canvas().bitsPerPixel(), image.firstShownEntry(),
+            image.texelCounts()};
 }
 
 std::unique_ptr<UndoRecord> recordOf(const TlutData& table, const EntryMap& map) {
@@ -65,13 +51,8 @@ ImagesOfPalette::ImagesOfPalette(TextureLookupTable& palette, const std::vector<
 
 std::vector<AttachedImage> ImagesOfPalette::openImages() const {
     std::vector<AttachedImage> images;
-    for (const CDyeworksDoc* image : attached_) {
+    for (CDyeworksDoc* image : attached_)
         images.push_back(described(*image));
-        // Without its folder, as in the title.
-        const std::string name = image->pathName().empty() ? image->displayName() : image->pathName();
-        images.back().name = fileNameOf(name);
-        images.back().texels = countValues(image->canvas());
-    }
     return images;
 }
 
@@ -97,11 +78,12 @@ bool ImagesOfPalette::rearrange(const EntryMap& map) {
     std::vector<JointStep::Change> changes;
     changes.push_back({&palette_.jointSide(), recordOf(palette_.table, map)});
     for (CDyeworksDoc* image : attached_) {
-        const std::optional<FollowPlan> plan = planOf(*image, map);
-        if (!plan)
+        const FollowPlan plan = planFollowing(described(*image), map);
+        if (plan.leaving > 0)
             return false;
-        if (plan->affected)
-            changes.push_back({&image->jointSide(), RenumberRecord::make(image->canvas(), plan->values)});
+        if (plan.affected)
+            changes.push_back({&image->jointSide(),
+                               RenumberRecord::make(image->canvas(), image->texelCounts(), plan.values)});
     }
     const bool hasMemory =
         std::ranges::all_of(changes, [](const auto& change) { return change.record != nullptr; });

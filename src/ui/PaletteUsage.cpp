@@ -1,12 +1,13 @@
 #include "ui/PaletteUsage.h"
 
 #include "core/PaletteSet.h"
-#include "framework/DocumentTemplate.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/CDyeworksView.h"
 #include "platform/Platform.h"
 #include "platform/StringId.h"
 #include "ui/CMainFrame.h"
+#include "ui/ImagesOfPalette.h"
+#include "ui/OpenImages.h"
 #include "ui/Workspace.h"
 #include "ui/palettebar/CPaletteBar.h"
 
@@ -37,29 +38,21 @@ void PaletteUsage::start(CPaletteBar& bar) {
     QObject::connect(&bar, &CPaletteBar::shownAnew, &soon_, [this] { refreshSoon(); });
 }
 
-std::vector<std::uint64_t> PaletteUsage::usage(const std::string& key) {
-    const TextureLookupTable* const palette = workspace_.paletteSet()->lookup(key);
-    return palette == nullptr ? std::vector<std::uint64_t>() : entryUsage(*this, key, palette->table.count);
+EntryCounts PaletteUsage::usage(const std::string& key) const {
+    TextureLookupTable* const palette = workspace_.paletteSet()->lookup(key);
+    if (palette == nullptr)
+        return {};
+    const ImagesOfPalette images(*palette, openImages(workspace_), nullptr);
+    return useOfEntries(images.openImages(), palette->table.count);
 }
 
 std::vector<CDyeworksDoc*> PaletteUsage::imagesOf(const std::string& key) const {
-    std::vector<CDyeworksDoc*> images;
     const TextureLookupTable* const palette = workspace_.paletteSet()->lookup(key);
-    if (palette == nullptr)
-        return images;
-    for (CDocument* document : workspace_.imageTemplate().documents()) {
-        auto& image = static_cast<CDyeworksDoc&>(*document);
-        if (image.GetAttachedPalette() == palette)
-            images.push_back(&image);
-    }
+    std::vector<CDyeworksDoc*> images = openImages(workspace_);
+    std::erase_if(images, [&](const CDyeworksDoc* image) {
+        return palette == nullptr || image->GetAttachedPalette() != palette;
+    });
     return images;
-}
-
-std::vector<CountedImages::Image> PaletteUsage::attachedTo(const std::string& key) {
-    std::vector<Image> attached;
-    for (CDyeworksDoc* image : imagesOf(key))
-        attached.push_back({image->firstEntryFor(*image->GetAttachedPalette()), image->texelCounts()});
-    return attached;
 }
 
 void PaletteUsage::imageChanged(bool texels) {
@@ -88,7 +81,7 @@ void PaletteUsage::refresh() {
 
 void PaletteUsage::standOut(bool standsOut) {
     for (CDyeworksDoc* image : imagesOf(flashedKey_)) {
-        const std::int32_t value = flashedEntry_ - image->firstEntryFor(*image->GetAttachedPalette());
+        const std::int32_t value = flashedEntry_ - image->firstShownEntry();
         for (DocumentView* each : image->views()) {
             if (auto* const view = dynamic_cast<CDyeworksView*>(each))
                 view->StandOut(standsOut && value >= 0 ? std::optional(static_cast<std::uint32_t>(value))
@@ -117,8 +110,7 @@ void PaletteUsage::OnShowTexels() {
     flash_.end();
     flashedKey_ = workspace_.paletteSet()->currentKey;
     flashedEntry_ = currentEntry();
-    const std::vector<std::uint64_t> texels = usage(flashedKey_);
-    if (texels[static_cast<std::size_t>(flashedEntry_)] == 0) {
+    if (usage(flashedKey_)[static_cast<std::size_t>(flashedEntry_)] == 0) {
         workspace_.mainFrame().SetStatusText(text(StringId::ShowTexelsNone, {std::to_string(flashedEntry_)}),
                                              0);
         return;

@@ -18,7 +18,7 @@ class Workspace;
 
 /// How the open images use the entries of their palettes: counted for whoever asks, marked on the cells of
 /// the palette bar while that is wished, and flashed in the views.
-class PaletteUsage : public CommandTarget, private CountedImages {
+class PaletteUsage : public CommandTarget {
 public:
     /// `workspace` must outlive it.
     explicit PaletteUsage(Workspace& workspace);
@@ -26,15 +26,14 @@ public:
 
     /// The palette bar is there, and the palettes are.
     void start(CPaletteBar& bar);
-    /// How many texels of all attached open images show each entry of the palette of this key, as far as it
-    /// has entries; empty without such a palette.
-    [[nodiscard]] std::vector<std::uint64_t> usage(const std::string& key);
+    /// How many texels of all attached open images show each entry of the palette of this key; none without
+    /// such a palette.
+    [[nodiscard]] EntryCounts usage(const std::string& key) const;
 
     /// Texels of an image, or what else of it (`texels` false), have changed, or an image has gone.
     void imageChanged(bool texels);
 
 private:
-    [[nodiscard]] std::vector<Image> attachedTo(const std::string& key) override;
     [[nodiscard]] std::vector<CDyeworksDoc*> imagesOf(const std::string& key) const;
 
     void refreshSoon();

@@ -11,6 +11,7 @@
 #include "ui/CMainFrame.h"
 #include "ui/CurrentProject.h"
 #include "ui/FindingsDock.h"
+#include "ui/OpenImages.h"
 #include "ui/Workspace.h"
 #include "ui/palettebar/CPaletteBar.h"
 #include "ui/sheets/COptionPropertySheet.h"
@@ -54,25 +55,16 @@ RuleWatch::RuleWatch(Workspace& workspace, FindingsDock& dock)
     connect(&dock, &FindingsDock::rulesWanted, this, &RuleWatch::askForRules);
 }
 
-std::vector<CDyeworksDoc*> RuleWatch::images() const {
-    std::vector<CDyeworksDoc*> images;
-    for (CDocument* document : workspace_.documents()) {
-        if (auto* image = dynamic_cast<CDyeworksDoc*>(document))
-            images.push_back(image);
-    }
-    return images;
-}
-
 /// Null when it has been closed.
 CDyeworksDoc* RuleWatch::open(const CDyeworksDoc* image) const {
-    const std::vector<CDyeworksDoc*> all = images();
+    const std::vector<CDyeworksDoc*> all = openImages(workspace_);
     const auto found = std::ranges::find(all, image);
     return found == all.end() ? nullptr : *found;
 }
 
 RuleWatch::Situation RuleWatch::situation() const {
     Situation now;
-    for (const CDyeworksDoc* image : images()) {
+    for (const CDyeworksDoc* image : openImages(workspace_)) {
         const TextureLookupTable* const palette = image->GetAttachedPalette();
         now.images.push_back(
             {image, image->texelState(), image->pathName().empty() ? image->displayName() : image->pathName(),

@@ -60,7 +60,6 @@ private:
     void goTo(const CDyeworksDoc* image, const RuleFinding& finding);
     void askForRules();
     [[nodiscard]] Situation situation() const;
-    [[nodiscard]] std::vector<CDyeworksDoc*> images() const;
     [[nodiscard]] CDyeworksDoc* open(const CDyeworksDoc* image) const;
 
     Workspace& workspace_;

@@ -132,6 +132,46 @@ TEST_F(SwatchGridTest, DragAndShiftSelectRangesAroundTheCurrentCell) {
     EXPECT_THAT(range(), IsEmpty());
 }
 
+TEST_F(SwatchGridTest, ARunIsDraggedIntoAGapUntilEscapeAndAClickInItStaysOne) {
+    layOut(4, 4, 16);
+    set(3, shortValue(1));
+    set(112, true);
+    const struct {
+        int from, to;
+        bool behind;
+        Qt::KeyboardModifiers modifiers;
+        std::vector<std::string> told;
+    } cases[] = {
+        {5, 0, false, {}, {"112(5,9,0)"}},
+        {9, 15, true, {}, {"112(5,9,11)"}},
+        {6, 11, false, {}, {"112(5,9,6)"}},
+        {8, 5, false, {}, {}},
+        {5, 9, true, {}, {}},
+        {2, 12, true, Qt::ControlModifier, {"112(2,2,12)"}},
+        {12, 0, false, Qt::ControlModifier, {"112(12,12,0)"}},
+        {2, 12, true, {}, {"1(2,0,2,0)", "-600()", "1(0,0,2,3)"}},
+    };
+    for (const auto& [from, to, behind, modifiers, told] : cases) {
+        click(5);
+        click(9, Qt::ShiftModifier);
+        sink_.taken();
+        drag(from, at(to) + QPoint(behind ? 4 : -4, 0), modifiers);
+        EXPECT_EQ(sink_.taken(), told) << from << " to " << to;
+    }
+    callShort(113, {5, 9});
+    const QImage before = widget().grab().toImage();
+    QTest::mousePress(&widget(), Qt::LeftButton, {}, at(6));
+    QTest::mouseMove(&widget(), at(14));
+    EXPECT_NE(widget().grab().toImage(), before);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(widget().grab().toImage(), before);
+    QTest::mouseRelease(&widget(), Qt::LeftButton, {}, at(14));
+    EXPECT_THAT(selected(), ElementsAre(5, 5, 9));
+    sink_.taken();
+    click(8);
+    EXPECT_THAT(sink_.taken(), ElementsAre("1(0,2,0,2)", "-600()"));
+}
+
 TEST_F(SwatchGridTest, CellsAreOnlyClickedWhereNothingIsCurrent) {
     layOut(8, 1, 8);
     for (int slot = 0; slot < 4; ++slot)

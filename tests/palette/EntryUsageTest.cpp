@@ -1,5 +1,7 @@
 #include "palette/EntryUsage.h"
 
+#include "core/TlutData.h"
+#include "palette/AttachedImage.h"
 #include "platform/fake/FakePlatform.h"
 
 #include <gmock/gmock.h>
@@ -10,22 +12,15 @@ namespace {
 
 using testing::ElementsAre;
 
-class TwoImages : public CountedImages {
-public:
-    std::vector<Image> attachedTo(const std::string& key) override {
-        EXPECT_EQ(key, "*p");
-        return {{16, inBank}, {0, whole}};
-    }
-    std::vector<std::uint64_t> inBank{5, 0, 7};
-    std::vector<std::uint64_t> whole = std::vector<std::uint64_t>(256, 1);
-};
-
 TEST(EntryUsage, AddsUpImagesThroughTheirBanksAsFarAsThePaletteReaches) {
-    TwoImages images;
-    const std::vector<std::uint64_t> all = entryUsage(images, "*p", 256);
-    EXPECT_EQ(all.size(), 256U);
+    AttachedImage inBank{"bank", 16, 16, {5, 0, 7}};
+    AttachedImage whole{"whole", 256, 0, {}};
+    whole.texels.fill(1);
+    const EntryCounts all = useOfEntries({inBank, whole}, 256);
     EXPECT_THAT((std::vector(all.begin() + 15, all.begin() + 20)), ElementsAre(1, 6, 1, 8, 1));
-    EXPECT_THAT(entryUsage(images, "*p", 17), testing::Contains(6).Times(1));
+    const EntryCounts few = useOfEntries({inBank, whole}, 17);
+    EXPECT_EQ(few[16], 6U);
+    EXPECT_EQ(few[17], 0U);
 }
 
 TEST(EntryUsage, RemarksTwinsOfTheSameGroupAndClearEntriesInUse) {
@@ -38,7 +33,8 @@ TEST(EntryUsage, RemarksTwinsOfTheSameGroupAndClearEntriesInUse) {
     table.setEntry(9, table.getEntry(2));
     table.setEntry(4, 0x1230);
     table.setEntry(5, 0x1230);
-    std::vector<std::uint64_t> usage(32, 1);
+    EntryCounts usage{};
+    usage.fill(1);
     usage[5] = 0;
     usage[2] = 12;
     const auto said = [&](std::int32_t group, std::size_t entry) {

@@ -246,6 +246,11 @@ TEST_F(Rearranging, KeepsPicturesAndIsTakenBackEverywhereLikeThePlainModel) {
             for (std::size_t document = 0; document < models_.size(); ++document)
                 ASSERT_EQ(state(document), models_[document].now())
                     << "step " << n << " document " << document;
+            for (const auto& image : images_) {
+                TexelCounts counts;
+                counts.count(image->canvas());
+                ASSERT_EQ(image->texelCounts(), counts.values()) << "step " << n;
+            }
         }
     }
     EXPECT_GT(joint_, sequences);

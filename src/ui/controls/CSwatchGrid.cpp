@@ -108,6 +108,14 @@ CSwatchGrid::Selected CSwatchGrid::selectedCells() const {
     return selected;
 }
 
+void CSwatchGrid::setMovable(bool on) {
+    control().set(112, on);
+}
+
+void CSwatchGrid::selectRun(std::int16_t first, std::int16_t last) {
+    control().call(113, {first, last});
+}
+
 void CSwatchGrid::hearEvent(DispatchId event, DispatchArguments arguments) {
     switch (event) {
     case -600:
@@ -137,6 +145,9 @@ void CSwatchGrid::hearEvent(DispatchId event, DispatchArguments arguments) {
             if (std::string* const* text = std::get_if<std::string*>(&arguments[3]))
                 **text = selectionDescriber_({number(0), number(1), number(2)}).toStdString();
         }
+        break;
+    case 112:
+        Q_EMIT runDropped(shortOf(arguments, 0), shortOf(arguments, 1), shortOf(arguments, 2));
         break;
     default:
         break;

@@ -79,6 +79,10 @@ public:
         std::int16_t count = 0; ///< 0 without a selection; fewer than first to last in a rectangle.
     };
     [[nodiscard]] Selected selectedCells() const; // 111
+    /// Whether a selected run, and with Ctrl any cell, can be dragged to another place: see `runDropped`.
+    void setMovable(bool on); // 112
+    /// Selects a run of cells that there are.
+    void selectRun(std::int16_t first, std::int16_t last); // 113
     /// Says what is selected, for screen readers. Without one it is the first and the last number.
     void setSelectionDescriber(std::function<QString(const Selected&)> describer) {
         selectionDescriber_ = std::move(describer);
@@ -94,6 +98,9 @@ Q_SIGNALS:
     void doubleClicked();
     /// The user selects a range: its corners so far.
     void rangeSelected(int firstColumn, int firstRow, int lastColumn, int lastRow);
+    /// Cells `first` to `last` were dragged so that the first of them is to stand at `place`. The grid is as
+    /// it was.
+    void runDropped(int first, int last, int place);
     /// Cells from `first` to `last`, inclusive, were replaced by a paste; some between may be unchanged.
     void cellsPasted(int first, int last);
 

@@ -25,6 +25,7 @@ CPaletteBar::CPaletteBar(PaletteBarHost& host, CommandActions& actions, QWidget&
     setAttribute(Qt::WA_ShowWithoutActivating);
     fillMenu(*menu_, paletteBarMenu(), actions);
     connect(controls_, &CPaletteBarControls::shownAnew, this, &CPaletteBar::shownAnew);
+    connect(controls_, &CPaletteBarControls::entriesDropped, this, &CPaletteBar::entriesDropped);
 
     auto* layout = new QVBoxLayout(this);
     const int margin = fontMetrics().height() / 3;
@@ -34,6 +35,10 @@ CPaletteBar::CPaletteBar(PaletteBarHost& host, CommandActions& actions, QWidget&
     for (QWidget* each : controls_->findChildren<QWidget*>())
         each->installEventFilter(this);
     resize(sizeHint());
+}
+
+QSize CPaletteBar::compactSize() const {
+    return controls_->compactSize().grownBy(layout()->contentsMargins());
 }
 
 void CPaletteBar::setShown(bool shown) {

@@ -27,6 +27,9 @@ public:
     [[nodiscard]] PaletteBarState& state() noexcept { return controls_->state(); }
     /// As the controls do it.
     void showRemarks(std::vector<EntryRemark> remarks) { controls_->showRemarks(std::move(remarks)); }
+    void selectEntries(EntryRange range) { controls_->selectEntries(range); }
+    /// A small size that shows any palette with its fields beside the cells.
+    [[nodiscard]] QSize compactSize() const;
     /// The commands that act on the entries of the palette.
     [[nodiscard]] PaletteBarCommands& commands() noexcept { return controls_->commands(); }
     [[nodiscard]] RangeCommands& rangeCommands() noexcept { return controls_->rangeCommands(); }
@@ -34,6 +37,8 @@ public:
 Q_SIGNALS:
     /// The palettes, the current one's values or the bank were shown anew.
     void shownAnew();
+    /// The user dragged entries `first` to `last` so that the first of them is to become entry `place`.
+    void entriesDropped(int first, int last, int place);
 
 protected:
     bool event(QEvent* event) override;

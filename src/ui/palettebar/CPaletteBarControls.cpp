@@ -68,6 +68,10 @@ void CPaletteBarControls::showRemarks(std::vector<EntryRemark> remarks) {
     grid_->describeAgain();
 }
 
+void CPaletteBarControls::selectEntries(EntryRange range) {
+    grid_->selectRun(static_cast<std::int16_t>(range.first), static_cast<std::int16_t>(range.last));
+}
+
 void CPaletteBarControls::showGlyphs() {
     for (std::int16_t cell = 0; cell < grid_->cellCount(); ++cell) {
         const auto at = static_cast<std::size_t>(cell);

@@ -49,6 +49,11 @@ public:
     /// Shows on the cells, and says of them, what is remarked of the entries; none: nothing.
     void showRemarks(std::vector<EntryRemark> remarks);
 
+    /// Selects a range of entries in the grid.
+    void selectEntries(EntryRange range);
+
+    /// Little room for any palette, with the fields beside it.
+    [[nodiscard]] QSize compactSize() const { return compactSize_; }
     /// Room for a palette of 256 colours, with the fields beside it.
     [[nodiscard]] QSize sizeHint() const override { return preferredSize_; }
     /// The smallest width at all, and the smallest height at the present width.
@@ -59,6 +64,8 @@ public:
 Q_SIGNALS:
     /// The palettes, the current one's values or the bank were shown anew.
     void shownAnew();
+    /// The user dragged entries `first` to `last` so that the first of them is to become entry `place`.
+    void entriesDropped(int first, int last, int place);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -121,6 +128,7 @@ private:
     std::unique_ptr<PaletteGridControl> stripControl_;
     std::vector<EntryRemark> remarks_;
     QSize preferredSize_;
+    QSize compactSize_;
 };
 
 } // namespace dyeworks

@@ -64,6 +64,10 @@ CPaletteBarControls::CPaletteBarControls(PaletteBarHost& host, CommandActions& a
     preferredSize_ = {gridArea_->sizeHint().width() + gap + fields_->sizeHint().width(),
                       heightOfOthers() + 2 * fontMetrics().height() +
                           std::max(gridArea_->sizeHint().height(), fields_->sizeHint().height())};
+    // Cells that can still be told apart; the grid is empty now and asks for no room.
+    const int side = gridArea_->sizeHint().height() * 2 / 3;
+    const QSize fields = fields_->minimumSizeHint();
+    compactSize_ = {side + gap + fields.width(), heightOfOthers() + std::max(side, fields.height())};
     gridControl_ = std::make_unique<PaletteGridControl>(*grid_);
     stripControl_ = std::make_unique<PaletteGridControl>(*strip_);
     state_.Start(*gridControl_, *stripControl_);
@@ -113,6 +117,8 @@ QWidget* CPaletteBarControls::makeGrid() {
     });
     connect(grid_, &CSwatchGrid::clicked, this, [this] { state_.GridClicked(); });
     connect(grid_, &CSwatchGrid::doubleClicked, this, [this] { actions_.run(ID_PALETTE_EDIT); });
+    grid_->setMovable(true);
+    connect(grid_, &CSwatchGrid::runDropped, this, &CPaletteBarControls::entriesDropped);
     connect(grid_, &CSwatchGrid::cellsPasted, this, [this] { state_.GridChanged(); });
     return new PaletteGridArea(*grid_);
 }

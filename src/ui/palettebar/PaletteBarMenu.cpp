@@ -10,6 +10,11 @@ namespace dyeworks {
 
 namespace {
 
+constexpr std::array kChangeMenu{
+    MenuItem{ID_RANGE_RAMP},    MenuItem{ID_RANGE_ADJUST}, MenuItem{ID_RANGE_INVERT},
+    MenuItem{ID_RANGE_REVERSE}, MenuItem{ID_RANGE_FILL},
+};
+
 constexpr std::array kPaletteBarMenu{
     MenuItem{ID_PALETTE_NEW},
     MenuItem{ID_PALETTE_OPEN},
@@ -27,11 +32,7 @@ constexpr std::array kPaletteBarMenu{
     MenuItem{ID_PALETTE_COPY},
     MenuItem{ID_PALETTE_PASTE},
     kSeparator,
-    MenuItem{ID_RANGE_RAMP},
-    MenuItem{ID_RANGE_ADJUST},
-    MenuItem{ID_RANGE_INVERT},
-    MenuItem{ID_RANGE_REVERSE},
-    MenuItem{ID_RANGE_FILL},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "C&hange Entries"), kChangeMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Arrange En&tries"), kArrangeMenu},
     kSeparator,
     MenuItem{ID_VIEW_USAGE},

@@ -19,6 +19,8 @@ namespace dyeworks {
 
 namespace {
 
+constexpr int kListWidth = 56; // In letters.
+
 StringId captionOf(EntryOperation operation) {
     switch (operation) {
     case EntryOperation::Move:
@@ -106,6 +108,10 @@ EntryOrderSheet::EntryOrderSheet(const EntryOrder& proposed, const TlutData& tab
     list_ = named(new QListWidget, "IDC_ORDER_IMAGES", StringId::OrderImagesTip);
     heading->setBuddy(list_);
     list_->setSelectionMode(QAbstractItemView::NoSelection);
+    // Names of files may be long.
+    list_->setWordWrap(true);
+    list_->setResizeMode(QListView::Adjust);
+    list_->setMinimumWidth(kListWidth * list_->fontMetrics().averageCharWidth());
     layout->addWidget(heading);
     layout->addWidget(list_);
     if (!closed_.empty()) {

@@ -80,6 +80,12 @@ bool SwatchCells::isSelected(int cell) const {
            (place.y() < range->last.y() || place.x() <= range->last.x());
 }
 
+std::optional<std::pair<int, int>> SwatchCells::selectedRun() const {
+    if (!selection_ || selection_->shape != Shape::Run)
+        return std::nullopt;
+    return std::minmax(selection_->from, selection_->to);
+}
+
 std::vector<int> SwatchCells::selectedCells() const {
     std::vector<int> cells;
     for (int cell = 0; cell < count(); ++cell) {

@@ -73,6 +73,8 @@ public:
     [[nodiscard]] bool isSelected(int cell) const;
     /// The selected cells that exist, by number.
     [[nodiscard]] std::vector<int> selectedCells() const;
+    /// The first and the last cell of a selected run; nothing for a block.
+    [[nodiscard]] std::optional<std::pair<int, int>> selectedRun() const;
     /// The cell that the selection began at; kNone without one.
     [[nodiscard]] int selectionStart() const { return selection_ ? selection_->from : kNone; }
     [[nodiscard]] int selectionEnd() const { return selection_ ? selection_->to : kNone; }

@@ -75,6 +75,14 @@ int SwatchGeometry::nearestCell(const QPointF& point) const {
     return std::min(index, shown_ - 1);
 }
 
+SwatchGeometry::Gap SwatchGeometry::nearestGap(const QPointF& point) const {
+    const int nearest = nearestCell(point);
+    if (nearest == kNone)
+        return {};
+    const QRect area = cell(nearest);
+    return {nearest, point.x() * scale_ >= area.left() + area.width() / 2.0};
+}
+
 QSize SwatchGeometry::sizeFor(int pitch) const {
     const auto length = [&](int cells) {
         return qCeil((2 * margin_ + std::max(0, cells * pitch - line_)) / scale_);

@@ -12,6 +12,15 @@ class SwatchGeometry {
 public:
     static constexpr int kNone = -1;
 
+    /// A place between cells. At the end of a row it is the same by number as at the start of the next.
+    struct Gap {
+        int cell = kNone;
+        bool isBehind = false; ///< Behind the cell, not before it.
+
+        /// The number of the cell behind the gap.
+        [[nodiscard]] int number() const noexcept { return cell + (isBehind ? 1 : 0); }
+    };
+
     struct Cells {
         int columns = 0;
         int rows = 0;
@@ -46,6 +55,8 @@ public:
     [[nodiscard]] int cellAt(const QPointF& point) const;
     /// The cell closest to a point; kNone in an empty grid.
     [[nodiscard]] int nearestCell(const QPointF& point) const;
+    /// The gap beside that cell, kNone in an empty grid, which the point is closer to.
+    [[nodiscard]] Gap nearestGap(const QPointF& point) const;
 
     // Sizes in the window's pixels.
     [[nodiscard]] QSize preferredSize() const { return sizeFor(device(preferredPitch_)); }

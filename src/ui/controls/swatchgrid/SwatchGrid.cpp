@@ -49,6 +49,7 @@ void SwatchGrid::shapeChanged(const SwatchGeometry& before) {
     if (now.columns() == before.columns() && now.shownCells() == before.shownCells())
         return;
     isDragging_ = false;
+    endDrag();
     walked_ = 0;
     updateGeometry();
     update();
@@ -219,7 +220,8 @@ void SwatchGrid::selectTo(int cell, SwatchCells::Shape shape) {
 bool SwatchGrid::isOwnKey(const QKeyEvent& event) const {
     if (!canSelect())
         return false;
-    return event.matches(QKeySequence::SelectAll) || (event.key() == Qt::Key_Escape && hasSeveralSelected());
+    return event.matches(QKeySequence::SelectAll) ||
+           (event.key() == Qt::Key_Escape && (hasSeveralSelected() || drag_));
 }
 
 bool SwatchGrid::event(QEvent* event) {
@@ -249,14 +251,20 @@ void SwatchGrid::paintEvent(QPaintEvent*) {
                           .hasFocus = hasFocus(),
                           .activeCell = activeCell(),
                           .bankMode = bankMode_,
-                          .bankRow = bankRow_};
+                          .bankRow = bankRow_,
+                          .gap = drag_ ? drag_->gap() : std::nullopt};
     SwatchPainter(painter, look).paint();
 }
 
 void SwatchGrid::mousePressEvent(QMouseEvent* event) {
+    endDrag();
     if (event->button() != Qt::LeftButton)
         return QWidget::mousePressEvent(event);
     const int cell = cellAt(event->position());
+    if (const auto moved = movedFrom(cell, event->modifiers())) {
+        drag_.emplace(moved->first, moved->second, cell, event->position());
+        return;
+    }
     isDragging_ = cell != kNone;
     const bool extends = canSelect() && (event->modifiers() & Qt::ShiftModifier);
     dragged_ = extends ? SwatchCells::Shape::Run : SwatchCells::Shape::Block;
@@ -267,7 +275,19 @@ void SwatchGrid::mousePressEvent(QMouseEvent* event) {
 }
 
 void SwatchGrid::mouseMoveEvent(QMouseEvent* event) {
-    if (!isDragging_ || !(event->buttons() & Qt::LeftButton))
+    if (!(event->buttons() & Qt::LeftButton)) {
+        endDrag();
+        // Not with Ctrl, which would have the hand everywhere.
+        if (movedFrom(cellAt(event->position()), event->modifiers() & Qt::ShiftModifier))
+            setCursor(Qt::OpenHandCursor);
+        return;
+    }
+    if (drag_) {
+        drag_->moveTo(event->position(), geometryOfCells());
+        showDrag();
+        return;
+    }
+    if (!isDragging_)
         return;
     const int cell = geometryOfCells().nearestCell(event->position());
     if (cell == kNone)
@@ -279,8 +299,50 @@ void SwatchGrid::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void SwatchGrid::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton)
-        isDragging_ = false;
+    if (event->button() != Qt::LeftButton)
+        return;
+    isDragging_ = false;
+    const std::optional<SwatchDrag> drag = drag_;
+    endDrag();
+    if (drag && !drag->hasBegun())
+        choose(drag->grabbed());
+    else if (drag && drag->place())
+        listener_.dropped(drag->first(), drag->last(), *drag->place());
+}
+
+void SwatchGrid::setMovable(bool movable) {
+    movable_ = movable;
+    setMouseTracking(movable);
+    endDrag();
+}
+
+void SwatchGrid::selectRun(int first, int last) {
+    if (canSelect() && cells_.has(first) && cells_.has(last))
+        select(first, last, SwatchCells::Shape::Run);
+}
+
+std::optional<std::pair<int, int>> SwatchGrid::movedFrom(int cell, Qt::KeyboardModifiers keys) const {
+    if (!movable_ || !canSelect() || cell == kNone || (keys & Qt::ShiftModifier))
+        return std::nullopt;
+    const auto run = cells_.selectedRun();
+    if (run && run->first != run->second && cell >= run->first && cell <= run->second)
+        return run;
+    return keys & Qt::ControlModifier ? std::optional(std::pair(cell, cell)) : std::nullopt;
+}
+
+void SwatchGrid::showDrag() {
+    if (drag_->hasBegun())
+        setCursor(Qt::ClosedHandCursor);
+    update();
+}
+
+void SwatchGrid::endDrag() {
+    if (movable_)
+        unsetCursor();
+    if (!drag_)
+        return;
+    drag_.reset();
+    update();
 }
 
 void SwatchGrid::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -322,6 +384,12 @@ void SwatchGrid::keyPressEvent(QKeyEvent* event) {
     const int shown = geometryOfCells().shownCells();
     if (shown == 0)
         return QWidget::keyPressEvent(event);
+    // What is being dragged must not change under the hand.
+    if (drag_) {
+        if (event->key() == Qt::Key_Escape)
+            endDrag();
+        return;
+    }
     const bool extends = canSelect() && (event->modifiers() & Qt::ShiftModifier);
     const int active = std::min(activeCell(), shown - 1);
     const int end = extends ? cells_.selectionEnd() : kNone;
@@ -363,6 +431,11 @@ void SwatchGrid::keyPressEvent(QKeyEvent* event) {
 void SwatchGrid::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
     tellFocus();
+}
+
+void SwatchGrid::focusOutEvent(QFocusEvent* event) {
+    endDrag();
+    QWidget::focusOutEvent(event);
 }
 
 void SwatchGrid::changeEvent(QEvent* event) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/controls/swatchgrid/SwatchCells.h"
+#include "ui/controls/swatchgrid/SwatchDrag.h"
 #include "ui/controls/swatchgrid/SwatchGeometry.h"
 
 #include <QString>
@@ -23,6 +24,8 @@ public:
         virtual void doubleClicked() = 0;
         /// The user selected a range.
         virtual void selected(const SwatchCells::Corners& range) = 0;
+        /// The user dragged cells `first` to `last` so that the first of them is to stand at `place`.
+        virtual void dropped(int first, int last, int place) = 0;
         /// What a cell holds, for people.
         [[nodiscard]] virtual QString describe(int cell) const = 0;
         /// The selected cells, of which there are several, for people.
@@ -48,6 +51,11 @@ public:
     /// Whether the user can select ranges.
     void setSelectable(bool selectable) { selectable_ = selectable; }
     [[nodiscard]] bool isSelectable() const noexcept { return selectable_; }
+    /// Whether the user can drag a selected run, and with Ctrl any cell, to another place. The cells stay
+    /// where they are, the listener is told.
+    void setMovable(bool movable);
+    /// Selects a run of cells as the user does; nothing where that cannot be.
+    void selectRun(int first, int last);
     /// Frames a row of cells.
     void setBankMode(bool on);
     /// Which row; kNone: that of the current cell.
@@ -88,6 +96,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -98,6 +107,10 @@ private:
     /// Extends the selection, or one that begins at the active cell, to a cell.
     void selectTo(int cell, SwatchCells::Shape shape);
     void select(int from, int to, SwatchCells::Shape shape);
+    /// What a drag from a cell takes along; nothing where it selects.
+    [[nodiscard]] std::optional<std::pair<int, int>> movedFrom(int cell, Qt::KeyboardModifiers keys) const;
+    void showDrag();
+    void endDrag();
     [[nodiscard]] bool hasSeveralSelected() const;
     /// Keys that mean something here, whatever the program's menus use them for. False: not this one.
     [[nodiscard]] bool isOwnKey(const QKeyEvent& event) const;
@@ -114,6 +127,8 @@ private:
     int walked_ = 0; // Where the keyboard is while the current cell is switched off.
     bool isDragging_ = false;
     SwatchCells::Shape dragged_ = SwatchCells::Shape::Block;
+    bool movable_ = false;
+    std::optional<SwatchDrag> drag_;
 };
 
 } // namespace dyeworks

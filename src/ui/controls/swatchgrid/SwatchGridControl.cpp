@@ -91,6 +91,11 @@ void SwatchGridControl::addRangeMembers() {
         give(lastRow, range->last.y());
         return true;
     });
+    members_.set(112, [this](bool on) { grid_.setMovable(on); });
+    members_.method(113, [this](std::int16_t first, std::int16_t last) {
+        grid_.selectRun(first, last);
+        return std::monostate{};
+    });
     members_.method(15, [this] {
         const std::optional<CopiedCells> copied = grid_.cells().selected();
         if (copied)
@@ -136,6 +141,10 @@ void SwatchGridControl::doubleClicked() {
 void SwatchGridControl::selected(const SwatchCells::Corners& range) {
     raise(1, {asShort(range.first.x()), asShort(range.first.y()), asShort(range.last.x()),
               asShort(range.last.y())});
+}
+
+void SwatchGridControl::dropped(int first, int last, int place) {
+    raise(112, {asShort(first), asShort(last), asShort(place)});
 }
 
 QString SwatchGridControl::describe(int cell) const {

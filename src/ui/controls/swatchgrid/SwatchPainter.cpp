@@ -67,6 +67,8 @@ void SwatchPainter::paint() {
     paintCurrent();
     if (look_.hasFocus)
         paintFocus();
+    if (look_.gap)
+        paintGap();
 }
 
 void SwatchPainter::paintCells() {
@@ -232,6 +234,20 @@ void SwatchPainter::paintCurrent() {
     const QRect cell = geometry_.cell(look_.cells.current());
     if (!cell.isEmpty())
         paintRings(cell, 2, {Qt::black, Qt::white, Qt::white, Qt::black});
+}
+
+/// A bar with ends across, as of a text cursor, light in a dark one.
+void SwatchPainter::paintGap() {
+    const QRect cell = geometry_.cell(look_.gap->cell);
+    const int left = look_.gap->isBehind ? cell.right() + 1 : cell.left() - line_;
+    const QRect middle = QRect(left, cell.top(), line_, cell.height());
+    const QRect bar = middle.adjusted(-line_, -line_, line_, line_);
+    const QRect end(bar.left() - 2 * line_, bar.top(), bar.width() + 4 * line_, line_);
+    const std::array parts{bar, end, end.translated(0, bar.height() - line_)};
+    for (const QRect& part : parts)
+        painter_.fillRect(grown(part, line_), Qt::black);
+    for (const QRect& part : parts)
+        painter_.fillRect(part, Qt::white);
 }
 
 void SwatchPainter::paintFocus() {

@@ -9,6 +9,7 @@
 #include <QRegion>
 
 #include <initializer_list>
+#include <optional>
 
 namespace dyeworks {
 
@@ -20,9 +21,10 @@ struct SwatchLook {
     QSize size;       ///< The window's, in its pixels.
     bool isEnabled = true;
     bool hasFocus = false;
-    int activeCell = SwatchCells::kNone; ///< Where the keyboard is.
-    bool bankMode = false;               ///< A row of cells is framed:
-    int bankRow = SwatchCells::kNone;    ///< this one; kNone: that of the current cell.
+    int activeCell = SwatchCells::kNone;                   ///< Where the keyboard is.
+    bool bankMode = false;                                 ///< A row of cells is framed:
+    int bankRow = SwatchCells::kNone;                      ///< this one; kNone: that of the current cell.
+    std::optional<SwatchGeometry::Gap> gap = std::nullopt; ///< Where dragged cells would be put in.
 };
 
 /// Paints a grid. Works in whole device pixels, so that every edge is sharp at any scale.
@@ -42,6 +44,7 @@ private:
     void paintSelection();
     void paintCurrent();
     void paintFocus();
+    void paintGap();
     /// Rings of one line each around a rectangle, from the outside inwards; the first lies `outside` lines
     /// beyond it.
     void paintRings(const QRect& area, int outside, std::initializer_list<QColor> colours);
