@@ -104,6 +104,16 @@ install(CODE [[
     "${CMAKE_INSTALL_PREFIX}/bin/Dyeworks" "${CMAKE_INSTALL_PREFIX}/share/applications/orrery-dyeworks.desktop")
 ]] COMPONENT editor)
 
+# With DESTDIR, and not what cpack installs for its packages: CMake's own lists would have "uninstall" remove files of
+# the system that it has never put there.
+install(CODE "set(build \"${PROJECT_BINARY_DIR}\")" ALL_COMPONENTS)
+install(CODE [[
+  if(NOT "$ENV{DESTDIR}" MATCHES "/_CPack_Packages/")
+    list(TRANSFORM CMAKE_INSTALL_MANIFEST_FILES PREPEND "$ENV{DESTDIR}" OUTPUT_VARIABLE installed)
+    list(JOIN installed "\n" installed)
+    file(WRITE "${build}/installed-${CMAKE_INSTALL_COMPONENT}.txt" "${installed}\n")
+  endif()
+]] ALL_COMPONENTS)
 add_custom_target(uninstall
   COMMAND "${CMAKE_COMMAND}" "-DBUILD=${PROJECT_BINARY_DIR}" -P "${PROJECT_SOURCE_DIR}/cmake/Uninstall.cmake"
   VERBATIM)
