@@ -12,7 +12,6 @@ std::string describe(const TmfError& error) {
     case TmfError::Kind::ImproperTag:
         return say(CliText::NoImage);
     case TmfError::Kind::NoImage:
-    case TmfError::Kind::Told: // Nobody else makes room for the images here.
         break;
     }
     return say(CliText::ImageTooLarge);
