@@ -6,7 +6,7 @@
 #include "interchange/PaletteFile.h"
 #include "interchange/PictureFile.h"
 #include "paint/BmpFormat.h"
-#include "paint/CanvasRenumber.h"
+#include "paint/TexelCounts.h"
 #include "paint/TextureCanvas.h"
 #include "project/CTPFFile.h"
 
@@ -49,9 +49,9 @@ Inspected inspectImage(std::span<const std::byte> file, FileInfo info) {
         return describe(image.error());
     info.format = "tmf";
     const TmfImage& texels = image.value();
-    const auto counts = countValues(TextureCanvas(texels));
+    const auto counts = TexelCounts::of(TextureCanvas(texels));
     info.texels = {texels.width, texels.height, texels.bits,
-                   std::ranges::count_if(counts, [](std::int64_t count) { return count > 0; })};
+                   std::ranges::count_if(counts, [](std::uint64_t count) { return count > 0; })};
     return info;
 }
 

@@ -12,6 +12,7 @@ std::string describe(const TmfError& error) {
     case TmfError::Kind::ImproperTag:
         return say(CliText::NoImage);
     case TmfError::Kind::NoImage:
+    case TmfError::Kind::Told:
         break;
     }
     return say(CliText::ImageTooLarge);

@@ -9,6 +9,7 @@
 #include "cli/ProjectFile.h"
 #include "paint/CanvasDepth.h"
 #include "paint/CanvasRenumber.h"
+#include "paint/TexelCounts.h"
 #include "paint/TextureCanvas.h"
 
 #include <algorithm>
@@ -134,11 +135,11 @@ std::vector<AttachedImage> PaletteFiles::images() const {
     std::vector<AttachedImage> attached;
     for (const auto& image : images_)
         attached.push_back({image->name, 1 << image->bits, image->bits == 4 ? kBankEntries * image->bank : 0,
-                            countValues(image->canvas)});
+                            TexelCounts::of(image->canvas)});
     return attached;
 }
 
-void PaletteFiles::renumberImage(std::size_t index, const ValueMap& map) {
+void PaletteFiles::renumberImage(std::size_t index, const ByteTable& map) {
     renumber(images_[index]->canvas, map);
 }
 

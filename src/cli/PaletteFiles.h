@@ -31,7 +31,7 @@ public:
     [[nodiscard]] TlutData& palette() noexcept { return palette_; }
     [[nodiscard]] std::vector<AttachedImage> images() const;
     /// Gives the texels of image `index` the values that the map has for theirs.
-    void renumberImage(std::size_t index, const ValueMap& map);
+    void renumberImage(std::size_t index, const ByteTable& map);
 
     /// Writes what has changed, into the folder or, where that is empty, in place. When a file cannot be
     /// written, those before it get their old contents back. False: told.

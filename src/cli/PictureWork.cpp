@@ -5,7 +5,7 @@
 #include "interchange/EntryColour.h"
 #include "interchange/ReductionState.h"
 #include "paint/CanvasDepth.h"
-#include "paint/CanvasRenumber.h"
+#include "paint/TexelCounts.h"
 #include "paint/TextureCanvas.h"
 
 #include <algorithm>
@@ -82,8 +82,8 @@ Fault transform(LoadedPicture& picture, const PictureWork& work) {
     return std::nullopt;
 }
 
-std::array<std::int64_t, 256> countsOf(const TmfImage& image) {
-    return countValues(TextureCanvas(image));
+TexelCounts::Values countsOf(const TmfImage& image) {
+    return TexelCounts::of(TextureCanvas(image));
 }
 
 /// The image in its colours.
@@ -195,7 +195,7 @@ bool needsReduction(const LoadedPicture& picture, const PictureWork& work) {
     if (work.palette)
         return !showsSameIn(picture, *work.palette, kBankEntries * work.bank.value_or(0));
     const auto counts = countsOf(picture.image);
-    return work.colours && std::ranges::count_if(counts, [](std::int64_t count) { return count > 0; }) >
+    return work.colours && std::ranges::count_if(counts, [](std::uint64_t count) { return count > 0; }) >
                                std::int64_t{*work.colours};
 }
 

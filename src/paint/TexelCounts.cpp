@@ -87,6 +87,12 @@ constexpr bool kCounted = Bits == 1 || Bits == 4 || Bits == 8;
 
 } // namespace
 
+TexelCounts::Values TexelCounts::of(const TextureCanvas& canvas) {
+    TexelCounts counts;
+    counts.count(canvas);
+    return counts.values();
+}
+
 void TexelCounts::count(const TextureCanvas& canvas) {
     values_.fill(0);
     known_ = true;

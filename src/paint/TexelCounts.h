@@ -23,6 +23,9 @@ public:
     [[nodiscard]] bool known() const noexcept { return known_; }
     [[nodiscard]] const Values& values() const noexcept { return values_; }
 
+    /// Of the whole canvas, for whoever does not follow its changes.
+    [[nodiscard]] static Values of(const TextureCanvas& canvas);
+
     /// Counts the whole canvas.
     void count(const TextureCanvas& canvas);
     /// What was counted is not what the image is any more.
