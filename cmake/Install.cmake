@@ -3,9 +3,10 @@
 #   lib/orrery-dyeworks/bin/    the program and its companion controls, which it looks for beside itself
 #   lib/orrery-dyeworks/doc/    the guide, which the program opens as ../doc/index.html
 #   bin/Dyeworks                a link to the program
+#   bin/dyeworks-cli            its sister for scripts
 #   share/                      what the desktop reads (data/README.md), samples, manual pages, completion
 #
-# Components: editor, sdk. Everything finds its parts from where it is itself, so a tree that was installed may be
+# Components: editor, cli, sdk. Everything finds its parts from where it is itself, so a tree that was installed may be
 # moved; only the desktop entry names the prefix.
 
 file(GLOB_RECURSE guide_pages CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/docs/guide/*")
@@ -38,18 +39,48 @@ install(DIRECTORY "${share}/icons" "${share}/mime" DESTINATION share COMPONENT e
 install(FILES data/orrery-dyeworks.metainfo.xml
   DESTINATION share/metainfo RENAME local.orrery.dyeworks.metainfo.xml COMPONENT editor)
 
-# dyeworks_command_files(<program> <component>): its manual pages in both languages and its completion for two shells.
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+
+# dyeworks_command_files(<program> <component> [FROM_HELP]): its manual pages in both languages and its completion for
+# two shells. FROM_HELP: a program of commands, which tells the build itself what they are.
 function(dyeworks_command_files program component)
+  cmake_parse_arguments(PARSE_ARGV 2 arg "FROM_HELP" "" "")
+  set(made "${PROJECT_BINARY_DIR}/command-files/${program}")
+  # Languages of manual pages are told by their folder below one of this name.
+  set(pages "${made}/man")
+  set(templates "${pages}")
+  set(completions "${PROJECT_SOURCE_DIR}/data/completions")
+  if(arg_FROM_HELP)
+    set(templates "${made}/templates")
+    set(completions "${made}")
+  endif()
+  set(COMMANDS "@COMMANDS@")
   foreach(language . ja)
-    set(page "${CMAKE_CURRENT_BINARY_DIR}/man/${language}/man1/${program}.1")
-    configure_file("docs/man/${language}/${program}.1.in" "${page}" @ONLY)
-    install(FILES "${page}" DESTINATION share/man/${language}/man1 COMPONENT ${component})
+    configure_file("docs/man/${language}/${program}.1.in" "${templates}/${language}/man1/${program}.1" @ONLY)
+    install(FILES "${pages}/${language}/man1/${program}.1"
+      DESTINATION share/man/${language}/man1 COMPONENT ${component})
   endforeach()
-  install(FILES data/completions/${program}.bash
+  install(FILES "${completions}/${program}.bash"
     DESTINATION share/bash-completion/completions RENAME ${program} COMPONENT ${component})
-  install(FILES data/completions/_${program} DESTINATION share/zsh/site-functions COMPONENT ${component})
+  install(FILES "${completions}/_${program}" DESTINATION share/zsh/site-functions COMPONENT ${component})
+  if(NOT arg_FROM_HELP)
+    return()
+  endif()
+
+  set(files "${pages}/man1/${program}.1" "${pages}/ja/man1/${program}.1"
+    "${made}/${program}.bash" "${made}/_${program}")
+  set(maker "${PROJECT_SOURCE_DIR}/tools/make-command-files")
+  add_custom_command(OUTPUT ${files}
+    COMMAND Python3::Interpreter "${maker}" "$<TARGET_FILE:${program}>" "${templates}" "${made}"
+    DEPENDS ${program} "${maker}" "${templates}/man1/${program}.1" "${templates}/ja/man1/${program}.1"
+    COMMENT "Writing the manual of ${program}"
+    VERBATIM)
+  add_custom_target(dyeworks_command_files_${program} ALL DEPENDS ${files})
 endfunction()
 dyeworks_command_files(Dyeworks editor)
+
+install(TARGETS dyeworks-cli RUNTIME DESTINATION bin COMPONENT cli)
+dyeworks_command_files(dyeworks-cli cli FROM_HELP)
 
 # The prefix is known when installing only. In the entry it is a quoted argument, where "%" starts a field code and
 # some characters take a backslash that is written twice.
@@ -73,6 +104,16 @@ install(CODE [[
     "${CMAKE_INSTALL_PREFIX}/bin/Dyeworks" "${CMAKE_INSTALL_PREFIX}/share/applications/orrery-dyeworks.desktop")
 ]] COMPONENT editor)
 
+# With DESTDIR, and not what cpack installs for its packages: CMake's own lists would have "uninstall" remove files of
+# the system that it has never put there.
+install(CODE "set(build \"${PROJECT_BINARY_DIR}\")" ALL_COMPONENTS)
+install(CODE [[
+  if(NOT "$ENV{DESTDIR}" MATCHES "/_CPack_Packages/")
+    list(TRANSFORM CMAKE_INSTALL_MANIFEST_FILES PREPEND "$ENV{DESTDIR}" OUTPUT_VARIABLE installed)
+    list(JOIN installed "\n" installed)
+    file(WRITE "${build}/installed-${CMAKE_INSTALL_COMPONENT}.txt" "${installed}\n")
+  endif()
+]] ALL_COMPONENTS)
 add_custom_target(uninstall
   COMMAND "${CMAKE_COMMAND}" "-DBUILD=${PROJECT_BINARY_DIR}" -P "${PROJECT_SOURCE_DIR}/cmake/Uninstall.cmake"
   VERBATIM)

@@ -7,7 +7,7 @@ set(DYEWORKS_PACKAGE_CONTACT "The Orrery Dyeworks contributors <contributors@orr
   "Who answers for the packages")
 
 set(CPACK_GENERATOR DEB)
-set(CPACK_COMPONENTS_ALL editor sdk)
+set(CPACK_COMPONENTS_ALL editor cli sdk)
 set(CPACK_PACKAGE_NAME orrery-dyeworks)
 set(CPACK_PACKAGE_CONTACT "${DYEWORKS_PACKAGE_CONTACT}")
 set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
@@ -39,6 +39,17 @@ them: images of 16 or 256 colours whose texels are numbers, and palettes of
 Image and palette are files of their own, so one image can wear many palettes
 and one palette can dress many images. A user guide comes along, and the
 program speaks English and Japanese.")
+
+set(CPACK_DEBIAN_CLI_PACKAGE_NAME orrery-dyeworks-cli)
+set(CPACK_DEBIAN_CLI_PACKAGE_SECTION graphics)
+set(CPACK_DEBIAN_CLI_PACKAGE_SUGGESTS orrery-dyeworks)
+set(CPACK_COMPONENT_CLI_DESCRIPTION
+  "dyeworks-cli does what a build or a script asks of the textures of game
+consoles: tells what files hold, converts between TMF, PNG, BMP, C source and
+raw bytes, makes the pictures of a project as far as they have changed, and
+works on palettes with the images that show them.
+.
+It needs no display and speaks English and Japanese.")
 
 set(CPACK_DEBIAN_SDK_PACKAGE_NAME orrery-dyeworks-dev)
 set(CPACK_DEBIAN_SDK_PACKAGE_SECTION devel)

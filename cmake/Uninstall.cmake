@@ -2,10 +2,10 @@
 #
 #   cmake -DBUILD=<folder> -P Uninstall.cmake
 #
-# The environment's DESTDIR counts as it does for installing. Folders that bear our name go with what was in them;
+# The last time counts, of the whole and of each component. Folders that bear our name go with what was in them;
 # others belong to the prefix, which had or will have more in them.
 
-file(GLOB lists "${BUILD}/install_manifest*.txt")
+file(GLOB lists "${BUILD}/installed-*.txt")
 if(NOT lists)
   message(FATAL_ERROR "Nothing was installed from ${BUILD}")
 endif()
@@ -20,7 +20,7 @@ foreach(list IN LISTS lists)
     if(file STREQUAL "")
       continue()
     endif()
-    set(path "$ENV{DESTDIR}${file}")
+    set(path "${file}")
     if(EXISTS "${path}" OR IS_SYMLINK "${path}")
       message(STATUS "Removing: ${path}")
       file(REMOVE "${path}")

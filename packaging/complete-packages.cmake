@@ -22,7 +22,13 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
   set(doc "${share}/doc/${package}")
 
   file(MAKE_DIRECTORY "${doc}")
-  configure_file("${CPACK_DYEWORKS_SOURCE}/packaging/copyright" "${doc}/copyright" COPYONLY)
+  file(READ "${CPACK_DYEWORKS_SOURCE}/packaging/copyright" copyright)
+  # What others have written that is compiled in.
+  if(EXISTS "${CPACK_DYEWORKS_SOURCE}/packaging/copyright.${component}")
+    file(READ "${CPACK_DYEWORKS_SOURCE}/packaging/copyright.${component}" others)
+    string(APPEND copyright "\n${others}")
+  endif()
+  file(WRITE "${doc}/copyright" "${copyright}")
   configure_file("${CPACK_DYEWORKS_SOURCE}/CHANGELOG.md" "${doc}/changelog" COPYONLY)
   compressed("${doc}/changelog")
   file(WRITE "${doc}/changelog.Debian"
