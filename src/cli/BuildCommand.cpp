@@ -114,7 +114,7 @@ void BuildCommand::carryOut(BuildPlan& plan, const BuildState& before, Console& 
     const bool isNews = wanted > 0 || !plan.leftOver.empty() || before.project != projectStamp_ ||
                         before.options != state.options || before.index != stampOf(index);
     if (isNews && write(kIndexName, jsonOf(state), console)) {
-        state.index = stampOf(index).value_or(FileStamp{});
+        state.index = stampOf(index).value_or(BuildStamp{});
         (void)write(kStateName, serialise(state), console);
     }
     console.note(say(CliText::BuildDone, {std::to_string(static_cast<std::int64_t>(wanted) - failed),
@@ -130,7 +130,7 @@ ExitCode BuildCommand::run(Console& console) {
         console.refuse(say(CliText::WrongValue, {"--align", std::to_string(options_.alignment)}));
         return ExitCode::Usage;
     }
-    projectStamp_ = stampOf(project_).value_or(FileStamp{});
+    projectStamp_ = stampOf(project_).value_or(BuildStamp{});
     const Result<std::unique_ptr<CTPFFile>, FileError> project = readProject(project_);
     if (!project) {
         console.fail(project_, project.error());

@@ -29,7 +29,7 @@ private:
     std::optional<std::int32_t> alignment_;
     std::optional<std::int32_t> jobs_;
     std::optional<std::string> depfile_;
-    FileStamp projectStamp_;
+    BuildStamp projectStamp_;
     bool all_ = false;
     bool dryRun_ = false;
 };

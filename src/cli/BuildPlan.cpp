@@ -33,7 +33,7 @@ bool isSource(OutputFormat format) {
 }
 
 bool isThere(const BuiltPicture::Output& output, const std::string& folder) {
-    const std::optional<FileStamp> stamp = stampOf(inFolder(folder, output.name));
+    const std::optional<BuildStamp> stamp = stampOf(inFolder(folder, output.name));
     return stamp && *stamp == output.stamp;
 }
 
@@ -55,7 +55,7 @@ void fail(BuildJob& job, const std::string& file, const std::string& why) {
     job.why = why;
 }
 
-void take(BuildJob& job, const FoundFile& found, std::string& path, FileStamp& stamp) {
+void take(BuildJob& job, const FoundFile& found, std::string& path, BuildStamp& stamp) {
     path = found.path;
     if (found.stamp)
         stamp = *found.stamp;

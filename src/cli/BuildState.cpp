@@ -107,10 +107,10 @@ std::optional<BuildState> parseBuildState(std::span<const std::byte> bytes) {
     reader.get(state.options);
     reader.get(state.project);
     reader.get(state.index);
-    state.pictures.resize(reader.count(2 * sizeof(FileStamp)));
+    state.pictures.resize(reader.count(2 * sizeof(BuildStamp)));
     for (BuiltPicture& picture : state.pictures) {
         exchange([&reader](auto& value) { reader.get(value); }, picture);
-        picture.outputs.resize(reader.count(sizeof(FileStamp)));
+        picture.outputs.resize(reader.count(sizeof(BuildStamp)));
         for (BuiltPicture::Output& output : picture.outputs) {
             reader.get(output.name);
             reader.get(output.stamp);

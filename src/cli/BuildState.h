@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/FileStamp.h"
+#include "cli/BuildStamp.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -17,14 +17,14 @@ struct BuiltPicture {
     std::string image; ///< Host paths. The palette's is empty where there is none.
     std::string palette;
     std::int32_t bank = 0; ///< As the project says.
-    FileStamp imageStamp;
-    FileStamp paletteStamp;
+    BuildStamp imageStamp;
+    BuildStamp paletteStamp;
     std::int32_t width = 0;
     std::int32_t height = 0;
     std::int32_t bits = 0;
     struct Output {
         std::string name; ///< In the folder of the build.
-        FileStamp stamp;
+        BuildStamp stamp;
     };
     std::vector<Output> outputs;
 };
@@ -32,8 +32,8 @@ struct BuiltPicture {
 /// What the last run left in a folder.
 struct BuildState {
     std::uint64_t options = 0; ///< A hash of what else the outputs depend on.
-    FileStamp project;
-    FileStamp index;                    ///< Of the list that was written beside the outputs.
+    BuildStamp project;
+    BuildStamp index;                   ///< Of the list that was written beside the outputs.
     std::vector<BuiltPicture> pictures; ///< In the order of the project.
 };
 

@@ -97,7 +97,7 @@ private:
             const std::span<const std::byte> bytes = bytesOf(file.bytes);
             if (const auto error = writeHostFile(path, FilePieces(&bytes, 1), Flush::No))
                 return fail(job, path, describe(*error));
-            written.push_back({name, stampOf(path).value_or(FileStamp{})});
+            written.push_back({name, stampOf(path).value_or(BuildStamp{})});
         }
         job.picture.outputs = std::move(written);
         job.picture.width = image.width;

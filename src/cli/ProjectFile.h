@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/FileStamp.h"
+#include "cli/BuildStamp.h"
 #include "platform/Files.h"
 #include "platform/Result.h"
 #include "project/CTPFFile.h"
@@ -17,8 +17,8 @@ namespace dyeworks {
 
 /// A file that a project names.
 struct FoundFile {
-    std::string path;               ///< Of the host; where it would be when there is none.
-    std::optional<FileStamp> stamp; ///< Nothing when there is none.
+    std::string path;                ///< Of the host; where it would be when there is none.
+    std::optional<BuildStamp> stamp; ///< Nothing when there is none.
 };
 
 /// Finds the files of a project's pictures, as opening them does. Most stand where they are said to; only for

@@ -1,4 +1,4 @@
-#include "cli/FileStamp.h"
+#include "cli/BuildStamp.h"
 
 #include <ctime>
 #include <sys/stat.h>
@@ -17,19 +17,19 @@ std::int64_t inNanoseconds(const timespec& time) {
 
 } // namespace
 
-std::optional<FileStamp> stampOf(const std::string& path) {
+std::optional<BuildStamp> stampOf(const std::string& path) {
     struct stat status {};
     if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
         return std::nullopt;
-    return FileStamp{static_cast<std::uint64_t>(status.st_size), inNanoseconds(status.st_mtim),
-                     status.st_ino};
+    return BuildStamp{static_cast<std::uint64_t>(status.st_size), inNanoseconds(status.st_mtim),
+                      status.st_ino};
 }
 
-FileStamp settled(FileStamp stamp) {
+BuildStamp settled(BuildStamp stamp) {
     timespec now{};
     ::clock_gettime(CLOCK_REALTIME, &now);
     const std::int64_t age = inNanoseconds(now) - stamp.time;
-    return age < kTooClose && age > -kTooClose ? FileStamp{} : stamp;
+    return age < kTooClose && age > -kTooClose ? BuildStamp{} : stamp;
 }
 
 } // namespace dyeworks
