@@ -37,6 +37,12 @@ public:
     std::optional<std::string> save(const FileDialogRequest&) override { return std::nullopt; }
 };
 
+class NoWatcher final : public FileWatcher {
+public:
+    void watch(const std::vector<std::string>&) override {}
+    void setListener(std::function<void()>) override {}
+};
+
 class NoProfile final : public Profile {
 public:
     [[nodiscard]] std::optional<std::string> text(const std::string&, const std::string&) const override {
@@ -126,6 +132,7 @@ std::string knownLanguage(std::string_view locale) {
 struct CommandLinePlatform::Absent {
     StreamMessages messages;
     NoDialogs dialogs;
+    NoWatcher watcher;
     NoProfile profile;
     NoClipboard clipboard;
     BitmapReader pictures;
@@ -160,6 +167,9 @@ Messages& CommandLinePlatform::messages() {
 }
 FileDialogs& CommandLinePlatform::fileDialogs() {
     return absent_->dialogs;
+}
+FileWatcher& CommandLinePlatform::fileWatcher() {
+    return absent_->watcher;
 }
 Profile& CommandLinePlatform::profile() {
     return absent_->profile;

@@ -28,6 +28,7 @@ public:
     Messages& messages() override;
     FileDialogs& fileDialogs() override;
     Files& files() override { return files_; }
+    FileWatcher& fileWatcher() override;
     Profile& profile() override;
     Clipboard& clipboard() override;
     PictureReader& pictureReader() override;

@@ -146,6 +146,8 @@ bool CTPFDocument::reloadFile() {
     }
     EndPlugIns();
     projectFile_ = std::move(read);
+    beforeCheck_.reset();
+    isReverted_ = false;
     setFile(std::move(now));
     setModified(false);
     RestartPlugIns();
