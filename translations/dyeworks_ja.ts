@@ -1796,7 +1796,7 @@ written. Files of pictures that are gone from the project are removed.</source>
         <translation>ファイル全体</translation>
     </message>
     <message>
-        <source>%1 findings</source>
+        <source>Findings: %1</source>
         <translation>問題 %1 件</translation>
     </message>
 </context>

@@ -267,7 +267,7 @@ constexpr Row kRows[] = {
     Row{CliText::CheckTexelsMissing,
         QT_TRANSLATE_NOOP("CommandLine", "The file is cut off: %1 bytes of texels are missing.")},
     Row{CliText::CheckWholeFile, QT_TRANSLATE_NOOP("CommandLine", "whole file")},
-    Row{CliText::CheckDone, QT_TRANSLATE_NOOP("CommandLine", "%1 findings")},
+    Row{CliText::CheckDone, QT_TRANSLATE_NOOP("CommandLine", "Findings: %1")},
 };
 
 constexpr bool areInOrder() {

@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace dyeworks {
 namespace {
 
@@ -152,6 +154,23 @@ TEST_F(CommandLine, GoesOnAfterAFileThatFails) {
     EXPECT_EQ(folder.run({"build", "gone.tpf", "-o", "built", "-q"}).code, 3);
     EXPECT_THAT(folder.read("built/Two.png"), StartsWith("\x89PNG"));
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "built/One.png"));
+}
+
+TEST_F(CommandLine, CheckNamesTheFileThePlaceAndWhatIsWrong) {
+    folder.write("rules.tpf", "Rules.LargestSize=4 4\n");
+    const std::string here = folder.path().string() + '/';
+    EXPECT_EQ(folder.run({"check", "a.tmf", "a.tlf", "-p", "a.tlf"}).code, 0);
+    const ProgramRun project = folder.run({"check", "--least", "error", "gone.tpf"});
+    EXPECT_EQ(project.code, 1);
+    EXPECT_THAT(project.out, StartsWith(here + "none.tlf:Picture One: "));
+    EXPECT_EQ(std::ranges::count(project.out, '\n'), 1);
+    EXPECT_THAT(folder.run({"check", "--json", "--rules", "rules.tpf", "a.tmf"}).out,
+                HasSubstr("\"severity\": \"warning\""));
+    const ProgramRun bad = folder.run({"check", "none.tmf", "cut.tmf", "text"});
+    EXPECT_EQ(bad.code, 3);
+    EXPECT_THAT(bad.out, HasSubstr("cut.tmf:"));
+    EXPECT_THAT(bad.out, HasSubstr("\ntext:"));
+    EXPECT_THAT(bad.err, StartsWith("none.tmf: "));
 }
 
 } // namespace

@@ -1,8 +1,10 @@
 #include "platform/posix/TemporaryFile.h"
 
+#include <array>
 #include <atomic>
 #include <cerrno>
 #include <csignal>
+#include <cstdint>
 #include <cstdio>
 #include <ctime>
 #include <dirent.h>
@@ -71,13 +73,17 @@ void removeIfAbandoned(int folder, const std::string& name) noexcept {
 /// Whether the time has come to look through the folder.
 bool isDue(int folder) {
     static std::mutex mutex;
-    static std::map<std::pair<dev_t, ino_t>, time_t> looked;
-    struct stat status {};
-    if (::fstat(folder, &status) != 0)
+    // A folder that is made anew may have the number of one that was removed.
+    using Identity = std::array<std::uint64_t, 5>;
+    static std::map<Identity, time_t> looked;
+    struct statx status {};
+    if (::statx(folder, "", AT_EMPTY_PATH, STATX_INO | STATX_BTIME, &status) != 0)
         return false;
+    const Identity identity{status.stx_dev_major, status.stx_dev_minor, status.stx_ino,
+                            static_cast<std::uint64_t>(status.stx_btime.tv_sec), status.stx_btime.tv_nsec};
     const time_t now = secondsOf(CLOCK_MONOTONIC);
     const std::lock_guard lock(mutex);
-    const auto [known, isNew] = looked.try_emplace({status.st_dev, status.st_ino}, now);
+    const auto [known, isNew] = looked.try_emplace(identity, now);
     if (!isNew && now - known->second < kBetweenLooks)
         return false;
     known->second = now;
