@@ -343,7 +343,7 @@ enum class StringId : int {
     ProjectAdd,
     ProjectAddTip,
     ProjectFindingsNone,
-    ProjectAndRulesFindNone,
+    ProjectFindingsCount, ///< %1 findings
     RelinkCaption,
     RelinkQuestion, ///< %1 files
     RelinkColumnOld,
@@ -358,7 +358,6 @@ enum class StringId : int {
     AddFolderColumnImage,
     AddFolderColumnPalette,
     AddFolderOk,
-    AddNoPartner, ///< %1 file
     CheckListAll,
     CheckListAllTip,
     CheckListNone,

@@ -190,6 +190,7 @@ bool CDyeworksApp::createMainFrame() {
     if (mainFrame_ == nullptr)
         return false;
     new RuleWatch(*this, mainFrame_->findings());
+    projectChecking_.start(mainFrame_->findings());
     return true;
 }
 
