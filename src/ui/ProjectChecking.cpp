@@ -246,7 +246,8 @@ void ProjectChecking::OnCheck() {
 void ProjectChecking::OnAddFolder() {
     const std::unique_ptr<CFolderPick> pick = CFolderPick::create();
     if (pick == nullptr) {
-        applicationMessage(text(StringId::ControlMissing, {kFolderPick}));
+        const std::string control = kFolderPick;
+        applicationMessage(text(StringId::ControlMissing, {control}));
         return;
     }
     std::string folder = project()->imageDirectory();
