@@ -1072,10 +1072,6 @@ Rules</source>
 ルール</translation>
     </message>
     <message>
-        <source>Rule &amp;Findings</source>
-        <translation>ルール違反(&amp;F)</translation>
-    </message>
-    <message>
         <source>Usa&amp;ge</source>
         <translation>使用状況(&amp;G)</translation>
     </message>
@@ -1206,10 +1202,44 @@ Compact Entries</source>
 エントリを詰める</translation>
     </message>
     <message>
-        <source>Show or hide the list of what breaks a rule
-Toggle Rule Findings</source>
-        <translation>ルール違反の一覧の表示と非表示を切り替えます
-ルール違反の表示切り替え</translation>
+        <source>&amp;Findings</source>
+        <translation>検査結果(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Show or hide the list of what checks have found
+Toggle Findings</source>
+        <translation>検査で見つかったものの一覧の表示と非表示を切り替えます
+検査結果の表示切り替え</translation>
+    </message>
+    <message>
+        <source>Chec&amp;k</source>
+        <translation>検査(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Look for what is wrong with the project and its files
+Check Project</source>
+        <translation>プロジェクトとそのファイルの問題を調べます
+プロジェクトを検査</translation>
+    </message>
+    <message>
+        <source>Add &amp;Files in Folder...</source>
+        <translation>フォルダーのファイルを追加(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Add the images of a folder with the palettes of their names
+Add Files in Folder</source>
+        <translation>フォルダーの画像を、同じ名前のパレットと組にして追加します
+フォルダーのファイルを追加</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert to Before Check</source>
+        <translation>検査前に戻す(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Take back what was relinked, removed and added since the check, or repeat it
+Revert to Before Check</source>
+        <translation>検査後にリンクし直し、外し、追加したものを元に戻すか、やり直します
+検査前に戻す</translation>
     </message>
 </context>
 <context>
@@ -4111,10 +4141,6 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <translation>プロジェクトを検査中: %p%</translation>
     </message>
     <message>
-        <source>&amp;Check Project</source>
-        <translation>プロジェクトを検査(&amp;C)</translation>
-    </message>
-    <message>
         <source>Look for missing, moved, doubled and unused files and whatever does not fit</source>
         <translation>見つからない、移動した、重複した、使われていないファイルや、合わない設定を調べます</translation>
     </message>
@@ -4143,20 +4169,12 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <translation>ピクチャーをプロジェクトから外します。ファイルは削除しません</translation>
     </message>
     <message>
-        <source>&amp;Add to Project</source>
-        <translation>プロジェクトに追加(&amp;A)</translation>
-    </message>
-    <message>
         <source>Add the file as a picture, with the palette or the image of its name</source>
         <translation>ファイルを、同じ名前のパレットまたは画像と一緒にピクチャーとして追加します</translation>
     </message>
     <message>
         <source>Nothing is wrong with the project.</source>
         <translation>プロジェクトに問題はありません。</translation>
-    </message>
-    <message>
-        <source>Nothing breaks a rule, and nothing is wrong with the project.</source>
-        <translation>ルール違反はなく、プロジェクトにも問題はありません。</translation>
     </message>
     <message>
         <source>Relink</source>
@@ -4197,10 +4215,6 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     <message>
         <source>Left out: %1 that the project has, %2 without a palette of their name, %3 with a name that a project cannot hold.</source>
         <translation>除いたもの: プロジェクトにある %1 個、同じ名前のパレットがない %2 個、プロジェクトに保存できない名前の %3 個。</translation>
-    </message>
-    <message>
-        <source>There is no file of the same name that %1 could make a picture with.</source>
-        <translation>%1 と組になる同じ名前のファイルがありません。</translation>
     </message>
     <message>
         <source>Check A&amp;ll</source>
@@ -4337,6 +4351,16 @@ The file is no longer whole. Save under another name; until then what was to be 
         <translation>%1
 このフォルダではファイルを置き換えられないため直接書き込みましたが、途中で止まりました: %2
 ファイルは壊れています。別の名前で保存してください。それまで、保存するはずだった内容を控えておきます。</translation>
+        <source>Chec&amp;k Project</source>
+        <translation>プロジェクトを検査(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Add to Pr&amp;oject</source>
+        <translation>プロジェクトに追加(&amp;O)</translation>
+    </message>
+    <message>
+        <source>%1 findings in the project.</source>
+        <translation>プロジェクトに %1 件見つかりました。</translation>
     </message>
 </context>
 </TS>

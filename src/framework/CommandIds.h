@@ -165,6 +165,10 @@ inline constexpr CommandId ID_VIEW_BANKSBAR = 33202;
 
 inline constexpr CommandId ID_PROJECT_RULES = 33210;
 inline constexpr CommandId ID_VIEW_FINDINGS = 33211;
+
+inline constexpr CommandId ID_PROJECT_CHECK = 33230;
+inline constexpr CommandId ID_PROJECT_ADD_FOLDER = 33231;
+inline constexpr CommandId ID_PROJECT_REVERT_CHECK = 33232;
 // NOLINTEND(readability-identifier-naming)
 
 } // namespace dyeworks

@@ -290,9 +290,22 @@ constexpr CommandRow kRows[] = {
                QT_TRANSLATE_NOOP("Command", "Say what the images of the project must keep to\nRules"), "",
                ""},
     CommandRow{
-        ID_VIEW_FINDINGS, QT_TRANSLATE_NOOP("Command", "Rule &Findings"),
-        QT_TRANSLATE_NOOP("Command", "Show or hide the list of what breaks a rule\nToggle Rule Findings"), "",
+        ID_VIEW_FINDINGS, QT_TRANSLATE_NOOP("Command", "&Findings"),
+        QT_TRANSLATE_NOOP("Command", "Show or hide the list of what checks have found\nToggle Findings"), "",
         ""},
+    CommandRow{
+        ID_PROJECT_CHECK, QT_TRANSLATE_NOOP("Command", "Chec&k"),
+        QT_TRANSLATE_NOOP("Command", "Look for what is wrong with the project and its files\nCheck Project"),
+        "", ""},
+    CommandRow{
+        ID_PROJECT_ADD_FOLDER, QT_TRANSLATE_NOOP("Command", "Add &Files in Folder..."),
+        QT_TRANSLATE_NOOP("Command",
+                          "Add the images of a folder with the palettes of their names\nAdd Files in Folder"),
+        "", ""},
+    CommandRow{ID_PROJECT_REVERT_CHECK, QT_TRANSLATE_NOOP("Command", "Re&vert to Before Check"),
+               QT_TRANSLATE_NOOP("Command", "Take back what was relinked, removed and added since the check, "
+                                            "or repeat it\nRevert to Before Check"),
+               "", ""},
     CommandRow{ID_FILE_NEW, QT_TRANSLATE_NOOP("Command", "&New"),
                QT_TRANSLATE_NOOP("Command", "Create a new document\nNew"), "Ctrl+N", "new"},
     CommandRow{ID_FILE_OPEN, QT_TRANSLATE_NOOP("Command", "&Open..."),

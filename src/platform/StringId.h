@@ -368,7 +368,7 @@ enum class StringId : int {
     ProjectAdd,
     ProjectAddTip,
     ProjectFindingsNone,
-    ProjectAndRulesFindNone,
+    ProjectFindingsCount, ///< %1 findings
     RelinkCaption,
     RelinkQuestion, ///< %1 files
     RelinkColumnOld,
@@ -383,7 +383,6 @@ enum class StringId : int {
     AddFolderColumnImage,
     AddFolderColumnPalette,
     AddFolderOk,
-    AddNoPartner, ///< %1 file
     CheckListAll,
     CheckListAllTip,
     CheckListNone,

@@ -196,10 +196,11 @@ std::optional<std::string> CTPFTreeView::selectedPicture() const {
     return node->text;
 }
 
-/// False when there is no such picture.
 bool CTPFTreeView::selectPicture(const std::string& name) {
     if (selectedPicture() == name)
         return true;
+    if (pictureNode_ == nullptr)
+        return false;
     const auto& pictures = pictureNode_->children;
     const auto same = std::ranges::find(pictures, name, [](const auto& node) { return node->text; });
     if (same == pictures.end())

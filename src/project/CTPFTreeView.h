@@ -41,6 +41,8 @@ public:
     /// The window is about to close; it still stands where it stood.
     void Closing();
     void SelectionChanged(const ProjectNode* node);
+    /// Selects the node of the picture. False when there is none.
+    bool selectPicture(const std::string& name);
     void DoubleClicked();
 
     /// The text that a drag of the selected node carries; nothing when it cannot be dragged.
@@ -71,7 +73,6 @@ public:
 private:
     void fillPictures();
     void remakePlugInNodes();
-    bool selectPicture(const std::string& name);
     [[nodiscard]] std::optional<std::string> selectedPicture() const;
     void chooseSelectedPicture();
     void restoreWindow();

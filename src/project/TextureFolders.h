@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Files.h"
+
 #include <cstddef>
 #include <deque>
 #include <string>
@@ -26,7 +28,7 @@ public:
     /// Of all folders together. What lies beyond is not found.
     void setMostEntries(std::size_t entries) noexcept { mostEntries_ = entries; }
 
-    /// Looks into the next folder. False when there was none.
+    /// Looks into the next folder, or at some more of its entries. False when there was none.
     bool step();
     /// Folder by folder, in the order of their names.
     [[nodiscard]] const std::vector<File>& files() const noexcept { return files_; }
@@ -34,11 +36,18 @@ public:
 private:
     struct Folder {
         std::string path;
-        int depth;
+        int depth = 0;
         std::vector<std::size_t> above; ///< What the folders above it hold, as hashes.
     };
 
+    void open(Folder folder);
+    void look(const FileEntry& entry);
+
     std::deque<Folder> waiting_;
+    Folder folder_; ///< Whose entries are looked at.
+    std::vector<FileEntry> inFolder_;
+    std::size_t next_ = 0;                 ///< Of them.
+    std::vector<Folder> below_;            ///< Those that were among them.
     std::unordered_set<std::string> seen_; ///< Folders, in the host's form.
     std::vector<File> files_;
     std::size_t entries_ = 0;

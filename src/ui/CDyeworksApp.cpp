@@ -42,6 +42,7 @@ std::vector<CommandTarget*> CDyeworksApp::commandChain() {
         chain.push_back(&mainFrame_->printing());
     }
     chain.push_back(&projectCommands_);
+    chain.push_back(&projectChecking_);
     chain.push_back(&recentFiles_);
     chain.push_back(&pastePictures_);
     chain.push_back(&paletteFiles_);

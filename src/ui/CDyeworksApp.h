@@ -22,6 +22,7 @@
 #include "ui/PaletteUsage.h"
 #include "ui/PastePictureCommands.h"
 #include "ui/PictureImport.h"
+#include "ui/ProjectChecking.h"
 #include "ui/ProjectCommands.h"
 #include "ui/RecentFiles.h"
 #include "ui/StartUpParts.h"
@@ -187,6 +188,7 @@ private:
     std::unique_ptr<PaletteSet> palettes_;
     CurrentProject project_;
     ProjectCommands projectCommands_{*this};
+    ProjectChecking projectChecking_{*this};
     PictureImport pictures_{*this};
     PastePictureCommands pastePictures_{*this, pictures_};
     PaletteFileCommands paletteFiles_{*this};

@@ -195,6 +195,7 @@ bool CDyeworksApp::createMainFrame() {
     if (mainFrame_ == nullptr)
         return false;
     new RuleWatch(*this, mainFrame_->findings());
+    projectChecking_.start(mainFrame_->findings());
     return true;
 }
 

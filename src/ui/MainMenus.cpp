@@ -279,6 +279,10 @@ constexpr std::array kProjectMenu{
     kSeparator,
     MenuItem{ID_PROJECT_PROPERTY},
     MenuItem{ID_PROJECT_RULES},
+    kSeparator,
+    MenuItem{ID_PROJECT_CHECK},
+    MenuItem{ID_PROJECT_ADD_FOLDER},
+    MenuItem{ID_PROJECT_REVERT_CHECK},
 };
 
 constexpr std::array kTreeProjectMenu{
@@ -294,6 +298,10 @@ constexpr std::array kTreeProjectMenu{
     kSeparator,
     MenuItem{ID_PROJECT_PROPERTY},
     MenuItem{ID_PROJECT_RULES},
+    kSeparator,
+    MenuItem{ID_PROJECT_CHECK},
+    MenuItem{ID_PROJECT_ADD_FOLDER},
+    MenuItem{ID_PROJECT_REVERT_CHECK},
 };
 
 constexpr std::array kWindowMenu{

@@ -22,6 +22,7 @@
 #include <QElapsedTimer>
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace dyeworks {
@@ -158,11 +159,15 @@ void RuleWatch::publish() {
                                     {}});
         }
     }
+    std::set<std::string> images;
+    for (const Checked& each : checked_)
+        images.insert(each.state.name);
     if (!findings.empty())
-        dock_.showFindings(std::move(findings));
+        dock_.showFindings(std::move(findings), std::move(images));
     else
         dock_.showNotice(shown(seen_.defaults.any() || projectRules_.any() ? StringId::FindingsNone
-                                                                           : StringId::FindingsNoRule));
+                                                                           : StringId::FindingsNoRule),
+                         std::move(images));
 }
 
 void RuleWatch::goTo(const CDyeworksDoc* wanted, const RuleFinding& finding) {

@@ -25,9 +25,10 @@ const Ids kAlwaysEnabled{ID_PROJECT_NEW,      ID_PROJECT_OPEN,    ID_FILE_NEW,  
 
 /// Besides, with an unchanged project, in whose window the program is.
 const Ids kEnabledWithProject{
-    ID_PROJECT_CLOSE,    ID_PROJECT_SAVE,     ID_PROJECT_SAVE_AS,      ID_PROJECT_PROPERTY, ID_PICTURE_ADD,
-    ID_FILE_CLOSE,       ID_FILE_SAVE,        ID_FILE_SAVE_AS,         ID_WINDOW_NEW,       ID_WINDOW_CASCADE,
-    ID_WINDOW_TILE_HORZ, ID_WINDOW_TILE_VERT, ID_RECENT_PROJECT_FIRST, ID_PROJECT_RULES};
+    ID_PROJECT_CLOSE,        ID_PROJECT_SAVE,   ID_PROJECT_SAVE_AS,  ID_PROJECT_PROPERTY,
+    ID_PICTURE_ADD,          ID_FILE_CLOSE,     ID_FILE_SAVE,        ID_FILE_SAVE_AS,
+    ID_WINDOW_NEW,           ID_WINDOW_CASCADE, ID_WINDOW_TILE_HORZ, ID_WINDOW_TILE_VERT,
+    ID_RECENT_PROJECT_FIRST, ID_PROJECT_RULES,  ID_PROJECT_CHECK,    ID_PROJECT_ADD_FOLDER};
 
 /// Besides, with a palette that is unchanged.
 const Ids kEnabledWithPalette{

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "framework/CommandTarget.h"
+#include "project/ProjectCheck.h"
+
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace dyeworks {
+
+class CTPFDocument;
+class FindingsDock;
+class Workspace;
+struct Finding;
+
+/// Checks the open project, a little at a time, so that nobody waits for it; lists what it finds, and carries
+/// out what can be done about that. What was changed so is one step to take back.
+class ProjectChecking : public CommandTarget {
+public:
+    /// `workspace` must outlive it.
+    explicit ProjectChecking(Workspace& workspace);
+    ~ProjectChecking() override;
+
+    /// The dock is there.
+    void start(FindingsDock& dock);
+
+private:
+    void look();
+    void begin();
+    void end();
+    void work();
+    void publish();
+    [[nodiscard]] CTPFDocument* project() const;
+    [[nodiscard]] Finding listed(const ProjectFinding& finding);
+
+    void goTo(const std::string& picture);
+    void open(const ProjectFinding& finding);
+    void relinkFrom(const ProjectFinding& finding);
+    void removePicture(const std::string& name);
+    void addFile(const std::string& path);
+
+    void OnCheck();
+    void OnAddFolder();
+    void OnRevert();
+    void OnUpdateNeedsProject(CommandUi& ui);
+    void OnUpdateRevert(CommandUi& ui);
+
+    Workspace& workspace_;
+    FindingsDock* dock_ = nullptr;
+    const CTPFDocument* checked_ = nullptr; ///< The project whose findings are listed, or being looked for.
+    QTimer work_;
+    std::unique_ptr<ProjectCheck> check_;
+    std::optional<std::vector<ProjectFinding>> found_;
+};
+
+} // namespace dyeworks
