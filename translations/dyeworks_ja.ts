@@ -4345,12 +4345,6 @@ Save over it all the same?</source>
         <translation>オフのときは、文書のウィンドウのバーで尋ねます</translation>
     </message>
     <message>
-        <source>%1
-The folder lets no file be replaced, so this one was written in place, and that broke off: %2
-The file is no longer whole. Save under another name; until then what was to be saved is kept.</source>
-        <translation>%1
-このフォルダではファイルを置き換えられないため直接書き込みましたが、途中で止まりました: %2
-ファイルは壊れています。別の名前で保存してください。それまで、保存するはずだった内容を控えておきます。</translation>
         <source>Chec&amp;k Project</source>
         <translation>プロジェクトを検査(&amp;K)</translation>
     </message>
@@ -4361,6 +4355,14 @@ The file is no longer whole. Save under another name; until then what was to be 
     <message>
         <source>%1 findings in the project.</source>
         <translation>プロジェクトに %1 件見つかりました。</translation>
+    </message>
+    <message>
+        <source>%1
+The folder lets no file be replaced, so this one was written in place, and that broke off: %2
+The file is no longer whole. Save under another name; until then what was to be saved is kept.</source>
+        <translation>%1
+このフォルダではファイルを置き換えられないため直接書き込みましたが、途中で止まりました: %2
+ファイルは壊れています。別の名前で保存してください。それまで、保存するはずだった内容を控えておきます。</translation>
     </message>
 </context>
 </TS>
