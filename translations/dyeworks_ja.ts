@@ -1763,6 +1763,42 @@ written. Files of pictures that are gone from the project are removed.</source>
         <source>Let a drive that a project names stand for a folder</source>
         <translation>プロジェクトにあるドライブ名の置き換え先のフォルダー</translation>
     </message>
+    <message>
+        <source>Tell what is wrong with projects and files.</source>
+        <translation>プロジェクトとファイルの問題を調べます。</translation>
+    </message>
+    <message>
+        <source>Projects (.tpf), images (.tmf), palettes (.tlf), pictures and palette files</source>
+        <translation>プロジェクト（.tpf）、画像（.tmf）、パレット（.tlf）、画像ファイル、パレットファイル</translation>
+    </message>
+    <message>
+        <source>Leave out what weighs less: %1</source>
+        <translation>これより軽い問題を省く: %1</translation>
+    </message>
+    <message>
+        <source>Project (.tpf) whose rules the images must keep to</source>
+        <translation>画像が従うルールを持つプロジェクト（.tpf）</translation>
+    </message>
+    <message>
+        <source>Palette that the images are shown with, for the rules about entries</source>
+        <translation>エントリについてのルールを調べるためのパレット</translation>
+    </message>
+    <message>
+        <source>A line for each finding: FILE:PLACE: TEXT. A project is held against its own rules.</source>
+        <translation>問題ごとに 1 行（ファイル:場所: 内容）を出力します。プロジェクトはそれ自身のルールで調べます。</translation>
+    </message>
+    <message>
+        <source>The file is cut off: %1 bytes of texels are missing.</source>
+        <translation>ファイルが途中で切れています。テクセルが %1 バイト足りません。</translation>
+    </message>
+    <message>
+        <source>whole file</source>
+        <translation>ファイル全体</translation>
+    </message>
+    <message>
+        <source>%1 findings</source>
+        <translation>問題 %1 件</translation>
+    </message>
 </context>
 <context>
     <name>FolderPick</name>

@@ -249,6 +249,25 @@ constexpr Row kRows[] = {
     Row{CliText::TypeDrive, QT_TRANSLATE_NOOP("CommandLine", "c=FOLDER")},
     Row{CliText::HelpDrive,
         QT_TRANSLATE_NOOP("CommandLine", "Let a drive that a project names stand for a folder")},
+    Row{CliText::CheckSummary,
+        QT_TRANSLATE_NOOP("CommandLine", "Tell what is wrong with projects and files.")},
+    Row{CliText::CheckFiles,
+        QT_TRANSLATE_NOOP("CommandLine",
+                          "Projects (.tpf), images (.tmf), palettes (.tlf), pictures and palette files")},
+    Row{CliText::CheckLeast, QT_TRANSLATE_NOOP("CommandLine", "Leave out what weighs less: %1")},
+    Row{CliText::CheckRules,
+        QT_TRANSLATE_NOOP("CommandLine", "Project (.tpf) whose rules the images must keep to")},
+    Row{CliText::CheckPalette,
+        QT_TRANSLATE_NOOP("CommandLine",
+                          "Palette that the images are shown with, for the rules about entries")},
+    Row{CliText::CheckFooter,
+        QT_TRANSLATE_NOOP(
+            "CommandLine",
+            "A line for each finding: FILE:PLACE: TEXT. A project is held against its own rules.")},
+    Row{CliText::CheckTexelsMissing,
+        QT_TRANSLATE_NOOP("CommandLine", "The file is cut off: %1 bytes of texels are missing.")},
+    Row{CliText::CheckWholeFile, QT_TRANSLATE_NOOP("CommandLine", "whole file")},
+    Row{CliText::CheckDone, QT_TRANSLATE_NOOP("CommandLine", "%1 findings")},
 };
 
 constexpr bool areInOrder() {

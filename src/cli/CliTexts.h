@@ -142,6 +142,15 @@ enum class CliText : int {
     RenderSide,
     TypeDrive,
     HelpDrive,
+    CheckSummary,
+    CheckFiles,
+    CheckLeast, ///< %1 list
+    CheckRules,
+    CheckPalette,
+    CheckFooter,
+    CheckTexelsMissing, ///< %1 number
+    CheckWholeFile,
+    CheckDone, ///< %1 number
 };
 
 /// The text in the user's language.

@@ -1,6 +1,7 @@
 #include "cli/CommandList.h"
 
 #include "cli/BuildCommand.h"
+#include "cli/CheckCommand.h"
 #include "cli/ConvertCommand.h"
 #include "cli/InfoCommand.h"
 #include "cli/PaletteCommand.h"
@@ -21,6 +22,7 @@ constexpr std::array kEntries{
     CommandEntry{"info", CliText::InfoSummary, make<InfoCommand>},
     CommandEntry{"convert", CliText::ConvertSummary, make<ConvertCommand>},
     CommandEntry{"build", CliText::BuildSummary, make<BuildCommand>},
+    CommandEntry{"check", CliText::CheckSummary, make<CheckCommand>},
     CommandEntry{"render", CliText::RenderSummary, make<RenderCommand>},
     CommandEntry{"palette sort", CliText::PaletteSortSummary, make<SortCommand>},
     CommandEntry{"palette merge", CliText::PaletteMergeSummary, make<MergeCommand>},

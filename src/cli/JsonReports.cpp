@@ -1,5 +1,6 @@
 #include "cli/JsonReports.h"
 
+#include <array>
 #include <nlohmann/json.hpp>
 
 namespace dyeworks {
@@ -44,6 +45,18 @@ std::string jsonOf(const std::vector<NamedInfo>& files) {
         json.update(jsonOf(file.info));
         list.push_back(std::move(json));
     }
+    return textOf(list);
+}
+
+std::string jsonOf(const std::vector<Finding>& findings) {
+    constexpr std::array kSeverities{"error", "warning", "note"};
+    Json list = Json::array();
+    for (const Finding& finding : findings)
+        list.push_back({{"file", finding.file},
+                        {"severity", kSeverities.at(static_cast<std::size_t>(finding.severity))},
+                        {"place", finding.place},
+                        {"check", finding.check},
+                        {"reason", finding.reason}});
     return textOf(list);
 }
 

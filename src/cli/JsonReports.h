@@ -2,6 +2,7 @@
 
 #include "cli/BuildState.h"
 #include "cli/FileInfo.h"
+#include "cli/Finding.h"
 
 #include <string>
 #include <vector>
@@ -15,6 +16,8 @@ struct NamedInfo {
     FileInfo info;
 };
 [[nodiscard]] std::string jsonOf(const std::vector<NamedInfo>& files);
+
+[[nodiscard]] std::string jsonOf(const std::vector<Finding>& findings);
 
 /// The index of a build: its pictures with what they became.
 [[nodiscard]] std::string jsonOf(const BuildState& state);
