@@ -182,7 +182,8 @@ bool TmfImage::readTmf(const std::string& path) {
     clear();
     auto file = platform().files().openForReading(path);
     if (!file) {
-        reportTmf(text(StringId::FormatOpenFailed, {displayPath(path)}));
+        reportTmf(text(StringId::FormatOpenFailed, {displayPath(path)}),
+                  describe(file.error()) + ' ' + adviceOnOpening(file.error()));
         return false;
     }
     auto parsed = parseTmf(*file.value());
@@ -199,7 +200,7 @@ bool TmfImage::readTmf(const std::string& path) {
         reportTmf(text(StringId::TmfImproperTag, {hexadecimal(error.tag), std::to_string(error.bits)}));
         break;
     case TmfError::Kind::NoImage:
-        reportTmf(text(StringId::TmfNoMemory));
+        reportTmf(text(StringId::TmfNoMemory), adviceOnOpening(FileError::TooLarge));
         break;
     }
     return false;

@@ -1,5 +1,6 @@
 #include "paint/PixelRuns.h"
 #include "paint/TextureCanvas.h"
+#include "platform/FileMessages.h"
 #include "platform/Platform.h"
 #include "platform/StringId.h"
 
@@ -68,8 +69,7 @@ bool TextureCanvas::LoadTmf(const std::string& path) {
         return false;
     if (!Create(image.width, image.height, 1, static_cast<std::uint16_t>(image.bits))) {
         // The file is as it should be, and its reader has had nothing to tell.
-        applicationMessage(
-            text(StringId::CannotOpenFile, {displayPath(path), describe(FileError::TooLarge)}));
+        tellNotOpened(path, FileError::TooLarge);
         return false;
     }
     FromImage(image);

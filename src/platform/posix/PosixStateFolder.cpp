@@ -117,6 +117,12 @@ std::optional<FileError> PosixStateFolder::write(const std::string& name, FilePi
         if (const auto error = make())
             return error;
     }
+    const auto error = writeHostFile(folder_ + '/' + name, pieces);
+    if (error != FileError::NotFound)
+        return error;
+    // Somebody has cleared it away.
+    if (const auto notMade = make())
+        return notMade;
     return writeHostFile(folder_ + '/' + name, pieces);
 }
 

@@ -17,6 +17,7 @@ public:
     /// The user's own: "orrery-dyeworks/recovery" in $XDG_STATE_HOME or, without that, in "~/.local/state".
     [[nodiscard]] static std::string usersBase();
 
+    [[nodiscard]] std::string location() const override { return base_; }
     [[nodiscard]] std::optional<FileError> write(const std::string& name, FilePieces pieces) override;
     void remove(const std::string& name) override;
     void discard() override;
