@@ -11,8 +11,8 @@ TEST(Termination, IsServedOnAnotherThreadWhenTheEventLoopDoesNotTurn) {
     for (const bool hangs : {false, true}) {
         std::promise<int> hanging;
         int inLoop = 0;
-        const TerminationSignals signals([&](int signal) { inLoop = signal; },
-                                         [&](int signal) { hanging.set_value(signal); });
+        const TerminationSignals ending([&](int signal) { inLoop = signal; },
+                                        [&](int signal) { hanging.set_value(signal); });
         ASSERT_EQ(std::raise(SIGTERM), 0);
         if (hangs) {
             EXPECT_EQ(hanging.get_future().get(), SIGTERM);
