@@ -4364,5 +4364,137 @@ The file is no longer whole. Save under another name; until then what was to be 
 このフォルダではファイルを置き換えられないため直接書き込みましたが、途中で止まりました: %2
 ファイルは壊れています。別の名前で保存してください。それまで、保存するはずだった内容を控えておきます。</translation>
     </message>
+    <message>
+        <source>It is a device or a pipe, which holds no file.</source>
+        <translation>デバイスまたはパイプで、ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>It is a link to a file that does not exist.</source>
+        <translation>存在しないファイルへのリンクです。</translation>
+    </message>
+    <message>
+        <source>Make the folder again, or save under another name in a folder that exists.</source>
+        <translation>フォルダーを作り直すか、存在するフォルダーに別の名前で保存してください。</translation>
+    </message>
+    <message>
+        <source>Save under another name in a folder of your own, or have the file&apos;s rights changed.</source>
+        <translation>自分のフォルダーに別の名前で保存するか、ファイルの権限を変更してもらってください。</translation>
+    </message>
+    <message>
+        <source>Save under another name.</source>
+        <translation>別の名前で保存してください。</translation>
+    </message>
+    <message>
+        <source>Make room on the disk and save again, or save on another disk.</source>
+        <translation>ディスクの空きを増やしてもう一度保存するか、別のディスクに保存してください。</translation>
+    </message>
+    <message>
+        <source>Save on another disk.</source>
+        <translation>別のディスクに保存してください。</translation>
+    </message>
+    <message>
+        <source>Save under a shorter name.</source>
+        <translation>短い名前で保存してください。</translation>
+    </message>
+    <message>
+        <source>Close other images or programs and save again.</source>
+        <translation>ほかのイメージやプログラムを閉じて、もう一度保存してください。</translation>
+    </message>
+    <message>
+        <source>Save again, or save on another disk.</source>
+        <translation>もう一度保存するか、別のディスクに保存してください。</translation>
+    </message>
+    <message>
+        <source>It may have been moved or renamed, or its disk may not be connected.</source>
+        <translation>移動または名前が変更されたか、ディスクが接続されていない可能性があります。</translation>
+    </message>
+    <message>
+        <source>Have the file&apos;s rights changed, or open a copy that you may read.</source>
+        <translation>ファイルの権限を変更してもらうか、読み取れるコピーを開いてください。</translation>
+    </message>
+    <message>
+        <source>Open a file that lies in the folder.</source>
+        <translation>フォルダーの中のファイルを開いてください。</translation>
+    </message>
+    <message>
+        <source>Open an ordinary file.</source>
+        <translation>通常のファイルを開いてください。</translation>
+    </message>
+    <message>
+        <source>Open the file itself, or let the link lead to it again.</source>
+        <translation>ファイルそのものを開くか、リンクを正しいファイルに直してください。</translation>
+    </message>
+    <message>
+        <source>Close other images or programs and try again.</source>
+        <translation>ほかのイメージやプログラムを閉じて、もう一度試してください。</translation>
+    </message>
+    <message>
+        <source>Try again, or open a copy on another disk.</source>
+        <translation>もう一度試すか、別のディスクにあるコピーを開いてください。</translation>
+    </message>
+    <message>
+        <source>The file on the disk is as it was, and your work stays open.</source>
+        <translation>ディスク上のファイルは元のままで、作業中の内容は開いたままです。</translation>
+    </message>
+    <message>
+        <source>Nothing has been changed. Close other images or programs and try again.</source>
+        <translation>何も変更されていません。ほかのイメージやプログラムを閉じて、もう一度試してください。</translation>
+    </message>
+    <message>
+        <source>The program that it was copied in may have ended. Copy it there once more.</source>
+        <translation>コピー元のプログラムが終了した可能性があります。もう一度コピーしてください。</translation>
+    </message>
+    <message>
+        <source>It would be kept in &quot;%1&quot;. Make that folder writable, or make room on its disk; until then, save often.</source>
+        <translation>保管先は「%1」です。このフォルダーを書き込み可能にするか、ディスクの空きを増やしてください。それまではこまめに保存してください。</translation>
+    </message>
+    <message>
+        <source>The settings file &quot;%1&quot; is damaged.</source>
+        <translation>設定ファイル「%1」が壊れています。</translation>
+    </message>
+    <message>
+        <source>What can be read of it is used; everything else is as at the first start. The damaged file is kept as &quot;%1&quot;.</source>
+        <translation>読み取れる設定はそのまま使い、ほかは初回起動時と同じになります。壊れたファイルは「%1」として残してあります。</translation>
+    </message>
+    <message>
+        <source>The settings file &quot;%1&quot; cannot be read.</source>
+        <translation>設定ファイル「%1」を読み取れません。</translation>
+    </message>
+    <message>
+        <source>The settings cannot be kept in &quot;%1&quot;.</source>
+        <translation>設定を「%1」に保存できません。</translation>
+    </message>
+    <message>
+        <source>Make the file and its folder readable and writable, or make room on the disk. Until then, settings and the list of what is open last as long as the program runs.</source>
+        <translation>ファイルとそのフォルダーを読み書きできるようにするか、ディスクの空きを増やしてください。それまで、設定と開いているファイルの一覧はプログラムの実行中だけ有効です。</translation>
+    </message>
+    <message>
+        <source>Waiting for &quot;%1&quot;...</source>
+        <translation>「%1」を待っています...</translation>
+    </message>
+    <message>
+        <source>Reading &quot;%1&quot;... (%2 of %3 MB)</source>
+        <translation>「%1」を読み込んでいます... (%2 / %3 MB)</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>中止(&amp;S)</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 has not answered for %2 seconds.</source>
+        <translation>プラグイン %1 が %2 秒間応答していません。</translation>
+    </message>
+    <message>
+        <source>All unsaved work has been kept. You can wait for the plug-in, or end the program; what was not saved is offered at its next start.</source>
+        <translation>保存していない作業はすべて保管してあります。プラグインを待つか、プログラムを終了できます。保存していない内容は次の起動時に復元できます。</translation>
+    </message>
+    <message>
+        <source>&amp;Wait</source>
+        <translation>待つ(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;End the Program</source>
+        <translation>プログラムを終了(&amp;E)</translation>
+    </message>
 </context>
 </TS>

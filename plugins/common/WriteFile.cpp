@@ -29,6 +29,11 @@ QString reasonOf(FileError error) {
         return say("The name is too long.", "名前が長すぎます。");
     case FileError::TooLarge:
         return say("There is not enough memory.", "メモリが足りません。");
+    case FileError::NotRegular:
+        return say("It is a device or a pipe, which holds no file.",
+                   "デバイスまたはパイプで、ファイルではありません。");
+    case FileError::BrokenLink:
+        return say("It is a link to a file that does not exist.", "存在しないファイルへのリンクです。");
     case FileError::Other:
         break;
     }

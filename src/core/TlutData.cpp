@@ -206,7 +206,8 @@ std::int32_t TlutData::copyEntriesFrom(const TlutData* source) {
 bool TlutData::readTlf(const std::string& path) {
     auto file = platform().files().openForReading(path);
     if (!file) {
-        reportTlf(text(StringId::FormatOpenFailed, {displayPath(path)}));
+        reportTlf(text(StringId::FormatOpenFailed, {displayPath(path)}),
+                  describe(file.error()) + ' ' + adviceOnOpening(file.error()));
         return false;
     }
     std::array<std::byte, kLargestTlfSize> bytes;
@@ -239,15 +240,16 @@ bool TlutData::saveTlf(const std::string& path) const {
     try {
         file = serialiseTlf(*this);
     } catch (const std::bad_alloc&) {
-        reportTlf(text(StringId::FormatOpenFailed, {displayPath(path)}));
+        reportTlf(text(StringId::FormatOpenFailed, {displayPath(path)}), adviceOnSaving(FileError::TooLarge));
         return false;
     }
     if (!file) {
         reportTlf(text(StringId::TlfIllegalCount, {std::to_string(count)}));
         return false;
     }
-    if (platform().files().write(path, file->bytes())) {
-        reportTlf(text(StringId::FormatOpenFailed, {displayPath(path)}));
+    if (const auto error = platform().files().write(path, file->bytes())) {
+        reportTlf(text(StringId::FormatOpenFailed, {displayPath(path)}),
+                  describe(*error) + ' ' + adviceOnSaving(*error));
         return false;
     }
     return true;

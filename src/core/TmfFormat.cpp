@@ -111,7 +111,7 @@ void report(const TmfError& error, const std::string& path) {
         reportTmf(text(StringId::TmfImproperTag, {hexadecimal(error.tag), std::to_string(error.bits)}));
         break;
     case TmfError::Kind::NoImage:
-        reportTmf(text(StringId::TmfNoMemory));
+        reportTmf(text(StringId::TmfNoMemory), adviceOnOpening(FileError::TooLarge));
         break;
     case TmfError::Kind::Told:
         break;
@@ -170,7 +170,8 @@ TmfRoom roomIn(TmfImage& image) {
 bool readTmfRows(const std::string& path, const TmfRoom& room) {
     const auto file = platform().files().openForReading(path);
     if (!file) {
-        reportTmf(text(StringId::FormatOpenFailed, {displayPath(path)}));
+        reportTmf(text(StringId::FormatOpenFailed, {displayPath(path)}),
+                  describe(file.error()) + ' ' + adviceOnOpening(file.error()));
         return false;
     }
     const std::optional<TmfError> error = readFile(*file.value(), room);

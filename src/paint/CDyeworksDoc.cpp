@@ -157,6 +157,15 @@ std::string CDyeworksDoc::displayName() const {
     return pathName().empty() ? nameWithoutParts() : CDocument::displayName();
 }
 
+std::vector<FloatingPiece> CDyeworksDoc::floatingPieces() const {
+    std::vector<FloatingPiece> pieces;
+    forEachViewer([&](const ImageViewer& viewer) {
+        if (const auto piece = viewer.floatingPiece())
+            pieces.push_back(*piece);
+    });
+    return pieces;
+}
+
 bool CDyeworksDoc::hasUnsavedChanges() const {
     bool floats = false;
     forEachViewer([&](const ImageViewer& viewer) { floats = floats || viewer.hasFloatingPiece(); });

@@ -110,6 +110,8 @@ public:
     bool Redo();
     /// For steps that this image shares with others.
     [[nodiscard]] JointDocument& jointSide() noexcept { return *this; }
+    /// What its views show above it, in the order in which it would be placed.
+    [[nodiscard]] std::vector<FloatingPiece> floatingPieces() const;
     /// Ends drags and puts pieces that float into the image. False when one floats on.
     [[nodiscard]] bool settlePieces();
 

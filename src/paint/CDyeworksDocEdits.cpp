@@ -33,7 +33,7 @@ bool CDyeworksDoc::openEdit(ImageViewer* viewer) {
 
 ImageEdit* CDyeworksDoc::BeginEdit(ImageViewer* viewer) {
     if (!openEdit(viewer))
-        applicationMessage(text(StringId::NotEnoughMemory));
+        applicationWarning(text(StringId::NotEnoughMemory), text(StringId::MemoryAdvice));
     return openEdit_.get();
 }
 
@@ -163,7 +163,7 @@ bool CDyeworksDoc::ReplaceImage(const CanvasMaker& make, const Replacing& how) {
     if (made != nullptr)
         record.reset(new (std::nothrow) WholeImageRecord(std::move(made), entry, how.moved));
     if (record == nullptr) {
-        applicationMessage(text(StringId::NotEnoughMemory));
+        applicationWarning(text(StringId::NotEnoughMemory), text(StringId::MemoryAdvice));
         return false;
     }
     record->redo(&canvas_);

@@ -40,9 +40,12 @@ bool saveForProject(const std::string& folder, StringId request, Save save) {
 
 bool CDyeworksDoc::onNewDocument() {
     const std::optional<NewImage> wanted = host_.askNewImage();
-    if (!wanted || !CDocument::onNewDocument() ||
-        !canvas_.Create(wanted->width, wanted->height, 1, wanted->bitsPerPixel))
+    if (!wanted || !CDocument::onNewDocument())
         return false;
+    if (!canvas_.Create(wanted->width, wanted->height, 1, wanted->bitsPerPixel)) {
+        applicationWarning(text(StringId::NotEnoughMemory), text(StringId::MemoryAdvice));
+        return false;
+    }
     snapshot_.forget();
     contentsAreSaved();
     RefreshPalette();
@@ -132,8 +135,9 @@ bool CDyeworksDoc::writeCanvas(const std::string& path) const {
         applicationMessage(text(StringId::FileIsOpenElsewhere, {displayPath(path)}));
         return false;
     }
-    if (const std::optional<std::string> reason = saveCanvas(canvas_, path)) {
-        applicationMessage(text(StringId::CannotSaveFile, {displayPath(path), *reason}));
+    std::string advice;
+    if (const std::optional<std::string> reason = saveCanvas(canvas_, path, &advice)) {
+        applicationWarning(text(StringId::CannotSaveFile, {displayPath(path), *reason}), advice);
         return false;
     }
     return true;

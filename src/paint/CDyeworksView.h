@@ -138,6 +138,9 @@ private:
     bool InvalidateChanged() override;
     void SizeChanged(Point moved) override;
     [[nodiscard]] bool hasFloatingPiece() const override { return selection_.hasFloatingPiece(); }
+    [[nodiscard]] std::optional<FloatingPiece> floatingPiece() const override {
+        return selection_.floatingPiece();
+    }
     void SetFloatingPiece(std::unique_ptr<TextureCanvas> piece) override;
     void RecolourFloatingPiece() override { selection_.recolourFloatingPiece(); }
     bool CommitFloatingPiece(bool redraw) override { return selection_.commitFloatingPiece(redraw); }

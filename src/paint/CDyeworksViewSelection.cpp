@@ -169,7 +169,7 @@ void CDyeworksView::OnPaste() {
     CancelDrag();
     std::unique_ptr<TextureCanvas> piece = TextureCanvas::PasteFromClipboard();
     if (piece == nullptr && platform().clipboard().offers(ClipboardFormat::Bitmap))
-        applicationMessage(text(StringId::CannotPaste));
+        applicationWarning(text(StringId::CannotPaste), text(StringId::ClipboardAdvice));
     const bool differs = piece != nullptr && !keepsColours(*piece, document_.canvas());
     SetFloatingPiece(std::move(piece));
     document_.host().setStatusText(differs ? text(StringId::PastedColoursDiffer) : std::string(),

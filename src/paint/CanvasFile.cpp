@@ -2,6 +2,7 @@
 
 #include "core/TmfFormat.h"
 #include "paint/TextureCanvas.h"
+#include "platform/FileMessages.h"
 #include "platform/Platform.h"
 #include "platform/StringId.h"
 #include "platform/TextCase.h"
@@ -25,8 +26,12 @@ std::string reasonOf(const TextureCanvas::BmpFailure& failure) {
     }
 }
 
-std::optional<std::string> reasonOf(const std::optional<FileError>& error) {
-    return error ? std::optional(describe(*error)) : std::nullopt;
+std::optional<std::string> reasonOf(const std::optional<FileError>& error, std::string* advice) {
+    if (!error)
+        return std::nullopt;
+    if (advice != nullptr)
+        *advice = adviceOnSaving(*error);
+    return describe(*error);
 }
 
 } // namespace
@@ -42,20 +47,23 @@ bool loadCanvas(TextureCanvas& canvas, const std::string& path) {
     const std::optional<TextureCanvas::BmpFailure> failure = canvas.ReadBmp(path);
     if (!failure)
         return true;
-    if (*failure != TextureCanvas::BmpFailure(BmpError::Compressed))
+    if (const auto* const error = std::get_if<FileError>(&*failure))
+        tellNotOpened(path, *error);
+    else if (*failure != TextureCanvas::BmpFailure(BmpError::Compressed))
         applicationMessage(text(StringId::CannotOpenFile, {displayPath(path), reasonOf(*failure)}));
     return false;
 }
 
-std::optional<std::string> saveCanvas(const TextureCanvas& canvas, const std::string& path) {
+std::optional<std::string> saveCanvas(const TextureCanvas& canvas, const std::string& path,
+                                      std::string* advice) {
     if (canvas.block().empty())
         return describe(FileError::Other);
     if (isBmpName(path))
-        return reasonOf(platform().files().write(path, canvas.block()));
+        return reasonOf(platform().files().write(path, canvas.block()), advice);
     if (canvas.bitsPerPixel() != 4 && canvas.bitsPerPixel() != 8)
         return text(StringId::DepthTakesABitmap, {std::to_string(canvas.bitsPerPixel())});
     const std::unique_ptr<TmfImage> image = canvas.ToImage();
-    return reasonOf(image == nullptr ? FileError::TooLarge : writeTmf(*image, path));
+    return reasonOf(image == nullptr ? FileError::TooLarge : writeTmf(*image, path), advice);
 }
 
 } // namespace dyeworks

@@ -15,7 +15,8 @@ class TextureCanvas;
 [[nodiscard]] bool loadCanvas(TextureCanvas& canvas, const std::string& path);
 
 /// Writes the canvas as a BMP file or, by any other name, a TMF file. Nothing: written; otherwise why not, in
-/// a sentence for the user, the file being as it was.
-[[nodiscard]] std::optional<std::string> saveCanvas(const TextureCanvas& canvas, const std::string& path);
+/// a sentence for the user, the file being as it was; `advice` then is what can be done about it.
+[[nodiscard]] std::optional<std::string> saveCanvas(const TextureCanvas& canvas, const std::string& path,
+                                                    std::string* advice = nullptr);
 
 } // namespace dyeworks

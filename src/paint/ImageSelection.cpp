@@ -120,6 +120,12 @@ void ImageSelection::setFloatingPiece(std::unique_ptr<TextureCanvas> piece) {
     select(place, true);
 }
 
+std::optional<FloatingPiece> ImageSelection::floatingPiece() const {
+    if (floatingPiece_ == nullptr)
+        return std::nullopt;
+    return FloatingPiece{floatingPiece_.get(), texels_.value_or(Rect{})};
+}
+
 /// Whether it also shows elsewhere than at the selection.
 bool ImageSelection::floatingPieceWraps() const noexcept {
     return floatingPiece_ != nullptr && drawingOptions().wrap;
@@ -173,7 +179,7 @@ void ImageSelection::turn(Turn turn) {
     const TextureCanvas* const piece = floatingPiece_ != nullptr ? floatingPiece_.get() : lifted.get();
     std::unique_ptr<TextureCanvas> turnedPiece = piece == nullptr ? nullptr : turned(*piece, turn);
     if (turnedPiece == nullptr) {
-        applicationMessage(text(StringId::NotEnoughMemory));
+        applicationWarning(text(StringId::NotEnoughMemory), text(StringId::MemoryAdvice));
         return;
     }
     const auto erase = [&](TextureCanvas& canvas) {

@@ -17,6 +17,7 @@ namespace dyeworks {
 
 class CDyeworksDoc;
 class ImageViewer;
+struct FloatingPiece;
 class ViewWindow;
 
 /// What is selected in a view of an image: the texels with the frame around them and its marching border, and
@@ -62,6 +63,7 @@ public:
     void moveBy(Point step, bool edges);
 
     [[nodiscard]] bool hasFloatingPiece() const noexcept { return floatingPiece_ != nullptr; }
+    [[nodiscard]] std::optional<FloatingPiece> floatingPiece() const;
     /// As `ImageViewer::SetFloatingPiece`. Nothing when the piece before it floats on.
     void setFloatingPiece(std::unique_ptr<TextureCanvas> piece);
     /// As `ImageViewer::RecolourFloatingPiece`.

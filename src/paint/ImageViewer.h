@@ -4,10 +4,19 @@
 #include "paint/Rect.h"
 
 #include <memory>
+#include <optional>
 
 namespace dyeworks {
 
 class TextureCanvas;
+
+/// Texels that float above an image, and where they would be put into it (right and bottom inside).
+struct FloatingPiece {
+    const TextureCanvas* texels = nullptr;
+    Rect place;
+
+    bool operator==(const FloatingPiece&) const = default;
+};
 
 /// A view of an image, as the image's document knows it.
 class ImageViewer : public DocumentView {
@@ -23,6 +32,8 @@ public:
 
     /// Whether a piece floats above the image, which belongs to no image yet.
     [[nodiscard]] virtual bool hasFloatingPiece() const = 0;
+    /// That piece, as long as nothing happens to it.
+    [[nodiscard]] virtual std::optional<FloatingPiece> floatingPiece() const = 0;
     /// Lets the piece float from the anchor on, moved into the image as far as it fits, and selects it with
     /// the Select tool. One that floats already is committed. A null or empty piece changes nothing.
     virtual void SetFloatingPiece(std::unique_ptr<TextureCanvas> piece) = 0;

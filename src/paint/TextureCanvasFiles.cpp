@@ -1,6 +1,7 @@
 #include "core/TmfFormat.h"
 #include "paint/PixelRuns.h"
 #include "paint/TextureCanvas.h"
+#include "platform/FileMessages.h"
 #include "platform/Platform.h"
 #include "platform/StringId.h"
 
@@ -80,8 +81,7 @@ bool TextureCanvas::LoadTmf(const std::string& path) {
                 return TmfError{TmfError::Kind::NoImage};
             if (!blockSizeFor(header.width, header.height, depth)) {
                 // The file is as it should be.
-                applicationMessage(
-                    text(StringId::CannotOpenFile, {displayPath(path), describe(FileError::TooLarge)}));
+                tellNotOpened(path, FileError::TooLarge);
                 return TmfError{TmfError::Kind::Told};
             }
             if (!allocate(header.width, header.height, 1, depth,

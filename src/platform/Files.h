@@ -24,12 +24,18 @@ enum class FileError {
     NoSpace,      ///< The disk or the quota is full.
     ReadOnly,     ///< The file system is read-only.
     NameTooLong,
-    TooLarge, ///< More bytes than memory can take.
-    Other     ///< Also a device or a pipe that holds no file.
+    TooLarge,   ///< More bytes than memory can take.
+    NotRegular, ///< A device or a pipe, which holds no file.
+    BrokenLink, ///< A link to a file that does not exist.
+    Other
 };
 
 /// A short sentence for `error` in the user's language ("There is no space left on the disk.").
 std::string describe(FileError error);
+/// What can be done when a file could not be read, in a sentence or two.
+std::string adviceOnOpening(FileError error);
+/// The same of a file that could not be written, and that nothing is lost.
+std::string adviceOnSaving(FileError error);
 
 struct FileEntry {
     std::string name; ///< Without folder.

@@ -15,4 +15,11 @@ MessageAnswer applicationMessage(const std::string& message, MessageIcon icon, M
         {message, text(StringId::ApplicationTitle), buttons, icon, MessageOwner::MainWindow});
 }
 
+void applicationWarning(const std::string& message, const std::string& details) {
+    platform().messages().show({.text = message,
+                                .caption = text(StringId::ApplicationTitle),
+                                .icon = MessageIcon::Warning,
+                                .details = details});
+}
+
 } // namespace dyeworks

@@ -17,6 +17,7 @@ struct Message {
     MessageIcon icon = MessageIcon::None;
     MessageOwner owner = MessageOwner::MainWindow;
     bool cancelIsDefault = false; ///< The button that Enter presses; otherwise the first one.
+    std::string details{};        ///< Below the text: why, and what can be done about it. May be empty.
 };
 
 class Messages {
@@ -31,6 +32,8 @@ public:
 /// The application's own message box: its title as caption, owned by the main window.
 MessageAnswer applicationMessage(const std::string& text, MessageIcon icon,
                                  MessageButtons buttons = MessageButtons::Ok);
+/// A warning with what stands below its text.
+void applicationWarning(const std::string& text, const std::string& details);
 /// The icon is the question mark when there is something to answer, the exclamation mark otherwise.
 MessageAnswer applicationMessage(const std::string& text, MessageButtons buttons = MessageButtons::Ok);
 

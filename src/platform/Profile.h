@@ -6,6 +6,14 @@
 
 namespace dyeworks {
 
+/// What is wrong with the file that keeps the settings.
+struct ProfileTrouble {
+    enum class Kind { Damaged, NotReadable, NotWritable };
+    Kind kind = Kind::Damaged;
+    std::string file; ///< As people write it, as below.
+    std::string copy; ///< Of the damaged file, as it was.
+};
+
 /// The user's settings: entries in sections, sections nested at "\" ("Settings\Images"). Section and entry
 /// names may hold any text, paths included; they are told apart by case. Whatever cannot be read counts as
 /// missing.
@@ -20,6 +28,9 @@ public:
 
     /// Puts what has changed on the disk before it returns.
     virtual void sync() = 0;
+
+    /// Each trouble is told once.
+    [[nodiscard]] virtual std::optional<ProfileTrouble> takeTrouble() { return std::nullopt; }
 
     /// Names of the entries directly in `section`, in byte order.
     [[nodiscard]] virtual std::vector<std::string> entries(const std::string& section) const = 0;

@@ -30,6 +30,8 @@ class StateFolder {
 public:
     virtual ~StateFolder() = default;
 
+    /// The folder in which runs of the program have theirs, as people write it.
+    [[nodiscard]] virtual std::string location() const = 0;
     /// Replaces the file `name`, a plain name, in one step. May be called on any thread, as `remove`.
     [[nodiscard]] virtual std::optional<FileError> write(const std::string& name, FilePieces pieces) = 0;
     /// Nothing when there is no such file.

@@ -91,6 +91,40 @@ enum class StringId : int {
     OptionsReloadUnchanged,
     OptionsReloadUnchangedTip,
     WrittenInPlaceBroke, ///< %1 file, %2 why
+    // Why a file cannot be read or written, further reasons; what can be done about it.
+    FileErrorNotRegular,
+    FileErrorBrokenLink,
+    SaveAdviceNotFound,
+    SaveAdviceAccessDenied,
+    SaveAdviceNotAFile,
+    SaveAdviceNoSpace,
+    SaveAdviceReadOnly,
+    SaveAdviceNameTooLong,
+    SaveAdviceMemory,
+    SaveAdviceOther,
+    OpenAdviceNotFound,
+    OpenAdviceAccessDenied,
+    OpenAdviceNotAFile,
+    OpenAdviceNotRegular,
+    OpenAdviceBrokenLink,
+    OpenAdviceMemory,
+    OpenAdviceOther,
+    WorkStaysOpen,
+    MemoryAdvice,
+    ClipboardAdvice,
+    RecoveryFolderAdvice,  ///< %1 folder
+    SettingsDamaged,       ///< %1 file
+    SettingsDamagedAdvice, ///< %1 the copy
+    SettingsNotReadable,   ///< %1 file
+    SettingsNotWritable,   ///< %1 file
+    SettingsAdvice,
+    WaitingForFile,     ///< %1 file
+    WaitingForFileRead, ///< %1 file, %2 and %3 megabytes
+    WaitingStop,
+    PlugInHangs, ///< %1 file, %2 seconds
+    PlugInHangsAdvice,
+    PlugInHangsWait,
+    PlugInHangsEnd,
     ReadingPicture,
     MatchingColours,
     PictureOpened, ///< %1 name, %2 and %3 numbers

@@ -40,11 +40,13 @@ public:
     template <typename Answer, typename... Parameters, typename... Arguments>
     Answer answer(Answer (*entryPoint)(Parameters...), Arguments&&... arguments) noexcept {
         Answer result{};
+        failures_.plugInCallBegins(plugIn_.fileName);
         try {
             result = entryPoint(std::forward<Arguments>(arguments)...);
         } catch (...) {
             fail();
         }
+        failures_.plugInCallEnds();
         restore();
         return result;
     }

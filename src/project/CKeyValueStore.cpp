@@ -95,9 +95,12 @@ void CKeyValueStore::LoadBytes(std::span<const std::byte> bytes) {
     }
 }
 
-bool CKeyValueStore::SaveFile(const std::string& path) const {
+bool CKeyValueStore::SaveFile(const std::string& path, std::optional<FileError>* why) const {
     const std::string text = FileText();
-    return !platform().files().write(path, std::as_bytes(std::span(text))).has_value();
+    const std::optional<FileError> error = platform().files().write(path, std::as_bytes(std::span(text)));
+    if (why != nullptr)
+        *why = error;
+    return !error.has_value();
 }
 
 std::string CKeyValueStore::FileText() const {

@@ -51,8 +51,9 @@ public:
     /// The same of a file's bytes.
     void LoadBytes(std::span<const std::byte> bytes);
     /// Writes all lines in the encoding of the file that was loaded last, in UTF-8 when there was none or
-    /// that cannot hold them. False when the file cannot be written; it then is as it was.
-    bool SaveFile(const std::string& path) const;
+    /// that cannot hold them. False when the file cannot be written, the reason then in `why`; it then is as
+    /// it was.
+    bool SaveFile(const std::string& path, std::optional<FileError>* why = nullptr) const;
     /// The bytes of that file.
     [[nodiscard]] std::string FileText() const;
 

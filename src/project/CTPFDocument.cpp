@@ -3,6 +3,7 @@
 #include "framework/DocumentTemplate.h"
 #include "framework/PathText.h"
 #include "platform/AskForFile.h"
+#include "platform/FileMessages.h"
 #include "platform/Platform.h"
 #include "platform/StringId.h"
 #include "platform/TextCase.h"
@@ -111,8 +112,10 @@ bool CTPFDocument::onOpenDocument(const std::string& path) {
         return false;
     std::optional<FileError> why;
     if (!CDocument::onOpenDocument(path) || !projectFile_.Read(path, &why)) {
-        applicationMessage(why ? text(StringId::CannotOpenFile, {displayPath(path), describe(*why)})
-                               : text(StringId::CannotReadFile, {displayPath(path)}));
+        if (why)
+            tellNotOpened(path, *why);
+        else
+            applicationMessage(text(StringId::CannotReadFile, {displayPath(path)}));
         return false;
     }
     setPathName(path);
@@ -166,8 +169,10 @@ bool CTPFDocument::onSaveDocument(const std::string& path) {
     }
     if (!file().mayBeReplaced(target))
         return false;
-    if (!write(target)) {
-        applicationMessage(text(StringId::CannotSaveProject, {displayPath(target)}));
+    std::optional<FileError> why;
+    if (!write(target, &why)) {
+        applicationWarning(text(StringId::CannotSaveProject, {displayPath(target)}),
+                           why ? describe(*why) + ' ' + adviceOnSaving(*why) : text(StringId::WorkStaysOpen));
         return false;
     }
     if (path.empty())
@@ -175,8 +180,8 @@ bool CTPFDocument::onSaveDocument(const std::string& path) {
     return true;
 }
 
-bool CTPFDocument::write(const std::string& path) {
-    if (!projectFile_.Write(path))
+bool CTPFDocument::write(const std::string& path, std::optional<FileError>* why) {
+    if (!projectFile_.Write(path, why))
         return false;
     setFile(KnownFile(path));
     setModified(false);

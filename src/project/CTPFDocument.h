@@ -135,7 +135,7 @@ private:
     [[nodiscard]] bool closeOther();
     void becomeOpen();
     [[nodiscard]] bool create(const ProjectSettings& settings);
-    [[nodiscard]] bool write(const std::string& path);
+    [[nodiscard]] bool write(const std::string& path, std::optional<FileError>* why = nullptr);
     void updateTitle();
     [[nodiscard]] std::vector<std::string> pictureFiles() const;
     [[nodiscard]] std::string findFile(const std::string& directories, const std::string& name) const;

@@ -226,7 +226,7 @@ std::optional<CTPFFile::Values> CTPFFile::valuesIn(const std::string& folder) co
     return std::ranges::all_of(values, isHeld) ? std::optional(values) : std::nullopt;
 }
 
-bool CTPFFile::Write(const std::string& path) {
+bool CTPFFile::Write(const std::string& path, std::optional<FileError>* why) {
     if (store == nullptr)
         return false;
     std::string folder;
@@ -239,7 +239,7 @@ bool CTPFFile::Write(const std::string& path) {
     auto written = std::make_unique<CKeyValueStore>(*store);
     for (const auto& [key, value] : *assignments)
         written->SetValue(key, value);
-    if (!written->SaveFile(path))
+    if (!written->SaveFile(path, why))
         return false;
     store = std::move(written);
     pathName = path;

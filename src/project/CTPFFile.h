@@ -38,8 +38,8 @@ public:
     /// cannot be read, the reason then in `why`.
     bool Read(const std::string& path, std::optional<FileError>* why = nullptr);
     /// Writes the project, which is then that file's. False when it has nothing to write, when an entry is
-    /// too long to be read again, or when the file cannot be written.
-    bool Write(const std::string& path);
+    /// too long to be read again, or when the file cannot be written, the reason then in `why`.
+    bool Write(const std::string& path, std::optional<FileError>* why = nullptr);
 
     /// What `Write` to its own path would put into the file; nothing where that would fail.
     [[nodiscard]] std::optional<std::string> fileText() const;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/TlutData.h"
+#include "paint/ImageViewer.h"
 #include "paint/Rect.h"
 #include "recovery/RecoveryItem.h"
 #include "recovery/RecoveryWriter.h"
@@ -12,6 +13,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace dyeworks {
@@ -47,11 +49,24 @@ public:
     void imageChanged(const CDyeworksDoc& image, const std::optional<Rect>& texels);
     /// Keeps everything that is unsaved, and returns once it is kept or could not be.
     void keepNow();
+
+    // While something runs that may never come back, as a plug-in.
+    static constexpr std::chrono::seconds kHangs{10};
+    /// It is about to run: what is unsaved is kept after `kHangs`, and `then` called on another thread,
+    /// unless it has come back by then or the program goes on in another way. May be nested; the outermost
+    /// counts.
+    void mayHang(std::function<void()> then);
+    void cameBack();
+    /// Called on another thread while it has not come back: keeps what is unsaved and returns then.
+    void keepWhileHanging();
+
     /// The program ends in order: nothing is kept any more.
     void discard();
 
     /// Why the last of them could not be written; nothing when it was.
-    [[nodiscard]] std::optional<FileError> failure() const { return writer_.failure(); }
+    [[nodiscard]] std::optional<FileError> failure() const {
+        return memoryIsShort_ ? FileError::TooLarge : writer_.failure();
+    }
 
 private:
     /// What tells whether a document is what was kept.
@@ -59,12 +74,14 @@ private:
         RecoveryItem item; ///< Without its time.
         std::uint64_t changes = 0;
         std::int32_t position = 0; ///< Of an image's history: undoing is no change.
+        std::vector<FloatingPiece> pieces;
         bool operator==(const Stamp&) const = default;
     };
     struct Kept {
         std::string name; ///< Of the file.
         std::optional<Stamp> seen;
         std::optional<Stamp> written;
+        bool inFolder = false;     ///< Maybe an older one.
         Clock::time_point changed; ///< When `seen` was last another.
         Clock::time_point first;   ///< When it first was since it was written.
         std::uint64_t look = 0;
@@ -81,13 +98,20 @@ private:
     };
 
     [[nodiscard]] std::vector<Subject> subjects() const;
-    void forget(const Kept& kept);
+    [[nodiscard]] Kept& keptOf(Subject& subject);
+    void forget(Kept& kept);
     [[nodiscard]] bool isDue(Kept& kept, const Stamp& stamp, Clock::time_point now) const;
-    /// False: there is more to copy.
-    bool write(Kept& kept, const Subject& subject, std::size_t most);
-    void writeFile(const Kept& kept, std::string header, std::span<const std::byte> contents,
-                   std::shared_ptr<const void> keeper);
-    bool writeImage(Kept& kept, const CDyeworksDoc& image, std::string header, std::size_t most);
+    static void tryLater(Kept& kept, Clock::time_point now);
+    void takeFailed(Clock::time_point now);
+    void holdUnsaved();
+    void settleHeld();
+    bool lookAt(Subject& subject, Clock::time_point now);
+    /// What is to be written. Nothing in `File::keeper`: there is nothing to keep. Nothing at all: there is
+    /// more to copy. Throws std::bad_alloc.
+    [[nodiscard]] std::optional<RecoveryWriter::File> fileOf(Kept& kept, const Subject& subject,
+                                                             std::size_t most);
+    [[nodiscard]] std::shared_ptr<ShadowCopy> shadowOf(Kept& kept, const CDyeworksDoc& image,
+                                                       std::size_t most);
 
     Open open_;
     StateFolder& folder_;
@@ -97,6 +121,10 @@ private:
     std::uint64_t names_ = 0;
     std::uint64_t writes_ = 0;
     bool hurried_ = false; ///< Nothing waits for the user to stop.
+    bool memoryIsShort_ = false;
+    std::function<void()> whenItHangs_;
+    int hanging_ = 0;                                 ///< Calls that have not come back.
+    std::vector<std::pair<std::string, Stamp>> held_; ///< By key; written if none of them comes back.
     RecoveryWriter writer_;
 };
 

@@ -26,6 +26,15 @@ void ShadowCopy::mark(const TextureCanvas& canvas, const Rect& texels) {
               rows + (last - static_cast<std::size_t>(texels.top) + 1) * stride - 1);
 }
 
+void ShadowCopy::cover(const TextureCanvas& canvas, const TextureCanvas& rows, std::int32_t top) {
+    const Rect covered{0, top, canvas.width() - 1, top + rows.height() - 1};
+    mark(canvas, covered);
+    const auto source = rows.pixelRows();
+    const auto below = static_cast<std::size_t>(canvas.height() - 1 - covered.bottom);
+    const std::size_t start = bytes_.size() - canvas.pixelRows().size() + below * canvas.stride();
+    std::memcpy(bytes_.data() + start, source.data(), source.size());
+}
+
 void ShadowCopy::markBytes(std::size_t first, std::size_t last) {
     for (std::size_t piece = first / kPiece; piece <= last / kPiece; ++piece)
         marked_[piece] = true;

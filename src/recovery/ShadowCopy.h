@@ -3,6 +3,7 @@
 #include "paint/Rect.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <vector>
 
@@ -21,6 +22,10 @@ public:
     /// Copies about that many bytes of what was marked. True: the copy is now what the canvas is. Throws
     /// std::bad_alloc without memory for the copy.
     [[nodiscard]] bool bringUp(const TextureCanvas& canvas, std::size_t bytes);
+
+    /// Shows, in a copy that is what the canvas is, `rows` instead of those from `top` on, until it is
+    /// brought up the next time.
+    void cover(const TextureCanvas& canvas, const TextureCanvas& rows, std::int32_t top);
 
     /// A bitmap file once `bringUp` was true, until something is marked.
     [[nodiscard]] std::span<const std::byte> bytes() const noexcept { return bytes_; }

@@ -34,6 +34,14 @@ void ApplicationPlugInHost::showAbout() {
     workspace_.router().run(ID_APP_ABOUT);
 }
 
+void ApplicationPlugInHost::plugInCallBegins(const std::string& fileName) {
+    workspace_.plugInCallBegins(fileName);
+}
+
+void ApplicationPlugInHost::plugInCallEnds() {
+    workspace_.plugInCallEnds();
+}
+
 void ApplicationPlugInHost::tellPlugInFailed(const std::string& fileName) {
     if (workspace_.hasMainFrame())
         workspace_.mainFrame().statusBar()->showMessage(

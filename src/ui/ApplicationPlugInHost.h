@@ -18,6 +18,8 @@ public:
     [[nodiscard]] PaletteSet* paletteSet() const override;
     void refreshPaletteBar() override;
     void showAbout() override;
+    void plugInCallBegins(const std::string& fileName) override;
+    void plugInCallEnds() override;
     void tellPlugInFailed(const std::string& fileName) override;
 
 private:

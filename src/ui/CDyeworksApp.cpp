@@ -9,6 +9,7 @@
 #include "project/CTPFDocument.h"
 #include "ui/CMainFrame.h"
 #include "ui/ClosingQuestions.h"
+#include "ui/FileWait.h"
 #include "ui/palettebar/CPaletteBar.h"
 
 #include <algorithm>
@@ -94,6 +95,8 @@ void CDyeworksApp::AddToRecentFileList(const std::string& path) {
 
 OpenedFile CDyeworksApp::OpenDocumentFile(const std::string& path) {
     const std::string fullPath = platform().files().fullPath(path);
+    if (waitsForFiles_ && !waitForFile(fullPath, mainFrame_.get()))
+        return OpenedFile::failed();
     if (equalIgnoringCase(extensionOf(fullPath), ".tlf"))
         return openPalette(fullPath);
     if (templates_.empty())
@@ -181,6 +184,21 @@ void CDyeworksApp::keepAttachments(const std::function<bool()>& save) {
 }
 
 bool CDyeworksApp::SaveAllModified() {
+    // From now on what is open becomes less.
+    const bool keeps = progress_.isActive();
+    progress_.stop();
+    const bool agreed = askToSaveAll();
+    if (agreed && !openRequests_.anyWaiting())
+        return true;
+    // Files that were handed over while questions were up are to be opened; the program stays for them.
+    if (agreed && projectDocument() != nullptr)
+        projectDocument()->RestartPlugIns();
+    if (keeps)
+        progress_.start();
+    return false;
+}
+
+bool CDyeworksApp::askToSaveAll() {
     ClosingQuestions questions(*this);
     if (!questions.ask())
         return false;

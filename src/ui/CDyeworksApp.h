@@ -30,6 +30,7 @@
 #include "ui/Workspace.h"
 
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -84,6 +85,8 @@ public:
     [[nodiscard]] std::vector<CDocument*> documents() const override;
     void imageChanged(const CDyeworksDoc& image, const std::optional<Rect>& texels) override;
     void imageClosed() override { usage_.imageChanged(false); }
+    void plugInCallBegins(const std::string& fileName) override { recovery_.plugInCallBegins(fileName); }
+    void plugInCallEnds() override { recovery_.plugInCallEnds(); }
     void keepAttachments(const std::function<bool()>& save) override;
     [[nodiscard]] std::optional<std::string> savePaletteAs(const std::string& key) override;
     OpenedFile OpenDocumentFile(const std::string& path) override;
@@ -150,6 +153,9 @@ private:
     [[nodiscard]] bool printFiles(const CommandLine& commandLine);
     void showMainFrame();
 
+    [[nodiscard]] bool askToSaveAll();
+    void keepProgress();
+    void tellProfileTrouble() const;
     void keepSettings() const;
     void keepUnsavedWork();
     [[noreturn]] void endAtOnce(int signal);
@@ -201,6 +207,8 @@ private:
     std::unique_ptr<CMainFrame> mainFrame_;
     QPointer<QWidget> splash_;
     OpenRequestQueue openRequests_;
+    QTimer progress_;
+    bool waitsForFiles_ = false; ///< There is somebody who can stop it.
     bool keepsSettings_ = false; ///< Not before they have been read.
     int exitCode_ = 0;
 };

@@ -20,11 +20,15 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstdlib>
 
 namespace dyeworks {
 
 namespace {
+
+/// How often settings, layout and the list of what is open are looked through.
+constexpr std::chrono::milliseconds kBetweenKeeping{1500};
 
 constexpr const char* kAppSection = "App section";
 constexpr const char* kDirectoryEntry = "Current Directory";
@@ -62,6 +66,7 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
     // Nor is a window that nobody saw to decide where the image's next one stands.
     imageHost_.setKeepsImageSettings(commandLine.isInteractive());
     pictures_.setAsks(commandLine.isInteractive());
+    waitsForFiles_ = commandLine.isInteractive();
     if (!registerControls())
         return false;
     createTemplates();
@@ -82,12 +87,16 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
     if (commandLine.task == CommandLine::Task::Serve || !processCommandLine(commandLine))
         return false;
     showMainFrame();
+    tellProfileTrouble();
     if (commandLine.task == CommandLine::Task::Nothing && !commandLine.renders() && !ResumeDocuments())
         applicationMessage(text(StringId::ResumeFailed), MessageIcon::Information);
     // As if handed over: a sheet waits for an answer, for which the program has to be up.
     if (const std::vector<std::string> sheets = commandLine.newFiles(); !sheets.empty())
         openRequests_.add(sheets);
     openRequests_.start();
+    QObject::connect(&progress_, &QTimer::timeout, &progress_, [this] { keepProgress(); });
+    if (commandLine.isInteractive())
+        progress_.start(kBetweenKeeping);
     return true;
 }
 
@@ -95,7 +104,12 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
 void CDyeworksApp::keepUnsavedWork() {
     recovery_.start();
     outside_.start();
-    signals_ = std::make_unique<TerminationSignals>([this](int signal) { endAtOnce(signal); });
+    recovery_.setProgram(parts_.program);
+    signals_ = std::make_unique<TerminationSignals>([this](int signal) { endAtOnce(signal); },
+                                                    [this](int signal) {
+                                                        recovery_.keepWhileHanging();
+                                                        std::_Exit(128 + signal);
+                                                    });
     // Whoever logs out is not kept waiting by questions; the work is there again at the next start.
     QObject::connect(
         qApp, &QGuiApplication::commitDataRequest, &recovery_,
@@ -112,6 +126,33 @@ void CDyeworksApp::endAtOnce(int signal) {
     keepSettings();
     platform().profile().sync();
     std::_Exit(128 + signal); // As a shell tells of it. Nothing of what is open is asked about or closed.
+}
+
+/// What is kept at the end is kept all along, so that nothing of it is missing after another end.
+void CDyeworksApp::keepProgress() {
+    if (!mainFrame_->isVisible() || QApplication::activeModalWidget() != nullptr)
+        return;
+    // Another program that runs may have changed it, with which it is compared.
+    platform().profile().sync();
+    mainFrame_->keepLayout();
+    keepSettings();
+    platform().profile().sync();
+    tellProfileTrouble();
+}
+
+void CDyeworksApp::tellProfileTrouble() const {
+    using Kind = ProfileTrouble::Kind;
+    const auto trouble = platform().profile().takeTrouble();
+    if (!trouble)
+        return;
+    if (trouble->kind == Kind::Damaged)
+        applicationWarning(text(StringId::SettingsDamaged, {trouble->file}),
+                           text(StringId::SettingsDamagedAdvice, {trouble->copy}));
+    else
+        applicationWarning(text(trouble->kind == Kind::NotReadable ? StringId::SettingsNotReadable
+                                                                   : StringId::SettingsNotWritable,
+                                {trouble->file}),
+                           text(StringId::SettingsAdvice));
 }
 
 void CDyeworksApp::keepSettings() const {

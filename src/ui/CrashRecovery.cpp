@@ -17,6 +17,7 @@
 #include "ui/Workspace.h"
 #include "ui/sheets/RecoverySheet.h"
 
+#include <QApplication>
 #include <QImage>
 #include <QPainter>
 #include <QPixmap>
@@ -97,11 +98,37 @@ void CrashRecovery::start() {
 void CrashRecovery::look() {
     const bool more = keeper_->look(RecoveryKeeper::Clock::now());
     timer_.setInterval(more ? 0 : kBetweenLooks);
+    tellFailure();
+}
+
+/// Once, when the user is not in the middle of something.
+void CrashRecovery::tellFailure() {
     const auto failure = keeper_->failure();
-    if (!failure || failureTold_ || !workspace_.hasMainFrame())
+    if (!failure || failureTold_ || !workspace_.hasMainFrame() ||
+        QGuiApplication::mouseButtons() != Qt::NoButton || QApplication::activeModalWidget() != nullptr ||
+        QApplication::activePopupWidget() != nullptr)
         return;
     failureTold_ = true;
-    workspace_.mainFrame().SetStatusText(text(StringId::RecoveryFailed, {describe(*failure)}), 0);
+    applicationWarning(text(StringId::RecoveryFailed, {describe(*failure)}),
+                       *failure == FileError::TooLarge
+                           ? adviceOnOpening(*failure)
+                           : text(StringId::RecoveryFolderAdvice, {platform().stateFolder().location()}));
+}
+
+void CrashRecovery::plugInCallBegins(const std::string& fileName) {
+    if (keeper_)
+        keeper_->mayHang([this, fileName] { hangNotice_.show(fileName, RecoveryKeeper::kHangs); });
+}
+
+void CrashRecovery::plugInCallEnds() {
+    if (keeper_)
+        keeper_->cameBack();
+    hangNotice_.close();
+}
+
+void CrashRecovery::keepWhileHanging() {
+    if (keeper_)
+        keeper_->keepWhileHanging();
 }
 
 void CrashRecovery::imageChanged(const CDyeworksDoc& image, const std::optional<Rect>& texels) {

@@ -5,6 +5,7 @@
 #include "recovery/InPlaceCopies.h"
 #include "recovery/RecoveryItem.h"
 #include "recovery/RecoveryKeeper.h"
+#include "ui/HangNotice.h"
 
 #include <QObject>
 #include <QTimer>
@@ -15,6 +16,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace dyeworks {
@@ -37,6 +39,14 @@ public:
     void imageChanged(const CDyeworksDoc& image, const std::optional<Rect>& texels);
     /// Keeps all that is unsaved, before it returns.
     void keepNow();
+    /// As `PlugInFailures` hears of it. A plug-in that does not come back finds everything kept after a
+    /// while, and the user is asked what is to become of the program.
+    void plugInCallBegins(const std::string& fileName);
+    void plugInCallEnds();
+    /// As `RecoveryKeeper`.
+    void keepWhileHanging();
+    /// The program's file, which `HangNotice` starts; empty: nobody is asked.
+    void setProgram(std::string file) { hangNotice_.setProgram(std::move(file)); }
     /// The program ends in order.
     void end();
 
@@ -58,6 +68,7 @@ private:
     };
 
     void look();
+    void tellFailure();
     void find();
     void recover(const std::vector<std::size_t>& rows);
     [[nodiscard]] bool open(const RecoveryItem& item, std::span<const std::byte> contents,
@@ -73,6 +84,7 @@ private:
     void forget(const std::vector<std::size_t>& rows);
 
     Workspace& workspace_;
+    HangNotice hangNotice_;
     std::optional<RecoveryKeeper> keeper_;
     std::optional<InPlaceCopies> copies_;
     QTimer timer_;

@@ -88,7 +88,7 @@ bool ImagesOfPalette::rearrange(const EntryMap& map) {
     const bool hasMemory =
         std::ranges::all_of(changes, [](const auto& change) { return change.record != nullptr; });
     if (!hasMemory || !JointStep::carryOut(std::move(changes))) {
-        applicationMessage(text(StringId::NotEnoughMemory));
+        applicationWarning(text(StringId::NotEnoughMemory), text(StringId::MemoryAdvice));
         return false;
     }
     return true;

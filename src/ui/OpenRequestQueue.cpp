@@ -28,8 +28,12 @@ void OpenRequestQueue::openWaiting() {
     Paths paths = std::move(waiting_.front());
     waiting_.pop_front();
     // Later, because opening may raise a dialog, which must not run inside the loop's own preparations.
-    QMetaObject::invokeMethod(
-        this, [this, paths = std::move(paths)] { open_(paths); }, Qt::QueuedConnection);
+    ++opening_;
+    const auto open = [this, paths = std::move(paths)] {
+        --opening_;
+        open_(paths);
+    };
+    QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
 }
 
 } // namespace dyeworks

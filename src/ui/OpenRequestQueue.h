@@ -22,6 +22,8 @@ public:
     explicit OpenRequestQueue(Open open);
 
     void add(Paths paths);
+    /// Whether some have not been opened yet.
+    [[nodiscard]] bool anyWaiting() const noexcept { return !waiting_.empty() || opening_ > 0; }
     /// The program is up.
     void start();
 
@@ -30,6 +32,7 @@ private:
 
     Open open_;
     std::deque<Paths> waiting_;
+    int opening_ = 0; ///< That are about to be opened.
     bool started_ = false;
 };
 

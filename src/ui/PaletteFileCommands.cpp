@@ -5,6 +5,7 @@
 #include "interchange/EntryColour.h"
 #include "interchange/Texture.h"
 #include "platform/AskForFile.h"
+#include "platform/FileMessages.h"
 #include "platform/Platform.h"
 #include "platform/StringId.h"
 #include "ui/CMainFrame.h"
@@ -30,17 +31,15 @@ std::string stemOf(std::string_view path) {
 /// Nothing when the file gave none, which the user has been told.
 std::optional<PaletteColours> coloursOf(const std::string& path) {
     const Result<ByteBuffer, FileError> file = platform().files().read(path);
-    std::string why;
-    if (file) {
-        Result<PaletteColours, InterchangeError> read =
-            readPaletteFile(file.value().bytes(), fileNameOf(path));
-        if (read)
-            return std::move(read).value();
-        why = describe(read.error(), platform().texts());
-    } else {
-        why = describe(file.error());
+    if (!file) {
+        tellNotOpened(path, file.error());
+        return std::nullopt;
     }
-    applicationMessage(text(StringId::CannotOpenFile, {displayPath(path), why}));
+    Result<PaletteColours, InterchangeError> read = readPaletteFile(file.value().bytes(), fileNameOf(path));
+    if (read)
+        return std::move(read).value();
+    applicationMessage(
+        text(StringId::CannotOpenFile, {displayPath(path), describe(read.error(), platform().texts())}));
     return std::nullopt;
 }
 
@@ -126,18 +125,15 @@ void PaletteFileCommands::OnExportPalette() {
     const PaletteFormat format = paletteFormatFor(fileNameOf(*path)).value_or(dialog.format());
     const Result<std::vector<std::byte>, InterchangeError> file =
         writePaletteFile(format, table, dialog.firstEntry(), dialog.entryCount(), name);
-    std::string why;
     if (!file)
-        why = describe(file.error(), platform().texts());
+        applicationMessage(
+            text(StringId::CannotSaveFile, {displayPath(*path), describe(file.error(), platform().texts())}));
     else if (const auto error = platform().files().write(*path, file.value()))
-        why = describe(*error);
-    if (!why.empty()) {
-        applicationMessage(text(StringId::CannotSaveFile, {displayPath(*path), why}));
-        return;
-    }
-    window.SetStatusText(text(StringId::PaletteExported,
-                              {std::string(fileNameOf(*path)), std::to_string(dialog.entryCount())}),
-                         0);
+        tellNotSaved(*path, *error);
+    else
+        window.SetStatusText(text(StringId::PaletteExported,
+                                  {std::string(fileNameOf(*path)), std::to_string(dialog.entryCount())}),
+                             0);
 }
 
 void PaletteFileCommands::OnUpdateExportPalette(CommandUi& ui) {

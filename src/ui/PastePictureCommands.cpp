@@ -62,7 +62,7 @@ std::optional<PngPicture> PastePictureCommands::picture() const {
     const std::string why = error.kind == InterchangeError::Kind::UnknownFormat
                                 ? std::string()
                                 : "\n" + describe(error, platform().texts());
-    applicationMessage(text(StringId::CannotPaste) + why);
+    applicationWarning(text(StringId::CannotPaste) + why, text(StringId::ClipboardAdvice));
     return std::nullopt;
 }
 
@@ -99,7 +99,7 @@ void PastePictureCommands::OnPasteMatching() {
     auto piece = std::make_unique<TextureCanvas>(
         imageOf(picture.width, picture.height, bits, matched->value().indices.data()));
     if (piece->width() == 0) {
-        applicationMessage(text(StringId::NotEnoughMemory));
+        applicationWarning(text(StringId::NotEnoughMemory), text(StringId::MemoryAdvice));
         return;
     }
     piece->ApplyPalette(into->palette, into->firstEntry);

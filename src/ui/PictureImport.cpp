@@ -147,7 +147,7 @@ OpenedFile PictureImport::show(const TmfImage& image, const Palette& palette, co
             return true;
         }));
     if (!opened)
-        applicationMessage(text(StringId::NotEnoughMemory));
+        applicationWarning(text(StringId::NotEnoughMemory), text(StringId::MemoryAdvice));
     return opened;
 }
 

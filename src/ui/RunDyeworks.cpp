@@ -1,5 +1,7 @@
 #include "ui/RunDyeworks.h"
 
+#include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "platform/Version.h"
 #include "platform/posix/HostFile.h"
 #include "platform/qt/DesktopEntries.h"
@@ -8,6 +10,7 @@
 #include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"
 #include "ui/CommandLine.h"
+#include "ui/HangNotice.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -18,6 +21,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <new>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -38,6 +42,21 @@ bool mayNeedNoDisplay(std::span<char*> arguments) {
                argument == "--unregister";
     });
 }
+
+/// Memory that is refused in the middle of something takes back that, and not the program.
+class Application : public QApplication {
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override {
+        try {
+            return QApplication::notify(receiver, event);
+        } catch (const std::bad_alloc&) {
+            applicationWarning(text(StringId::NotEnoughMemory), text(StringId::MemoryAdvice));
+            return true;
+        }
+    }
+};
 
 /// Keeps a platform installed while it lives.
 class InstalledPlatform {
@@ -105,6 +124,8 @@ bool handToRunningProgram(const CommandLine& commandLine) {
 }
 
 int runDyeworks(int argc, char** argv) {
+    if (isHangNotice(argc, argv))
+        return runHangNotice(argc, argv);
     if (mayNeedNoDisplay(std::span(argv, static_cast<std::size_t>(argc)))) {
         const QCoreApplication application(argc, argv);
         if (const auto exitCode = doneWithoutWindow(parseCommandLine(QCoreApplication::arguments())))
@@ -113,7 +134,7 @@ int runDyeworks(int argc, char** argv) {
 
     // A maximized image window puts its buttons into the menu bar, which is therefore the main window's own.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
-    QApplication application(argc, argv);
+    Application application(argc, argv);
     QApplication::setApplicationVersion(QString::fromLatin1(kVersionText));
     QGuiApplication::setDesktopFileName(QStringLiteral("orrery-dyeworks"));
     QApplication::setWindowIcon(programIcon(qCeil(kLargestWindowIcon * application.devicePixelRatio())));
@@ -129,6 +150,7 @@ int runDyeworks(int argc, char** argv) {
         return 0;
 
     StartUpParts parts;
+    parts.program = QFile::encodeName(QCoreApplication::applicationFilePath()).toStdString();
     parts.makeMainFrame = [&, make = parts.makeMainFrame](MainFrameHost& host) {
         std::unique_ptr<CMainFrame> frame = make(host);
         desktop.setMainWindow(frame.get());

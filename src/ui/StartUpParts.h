@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
 namespace dyeworks {
 
@@ -18,6 +19,8 @@ struct StartUpParts {
     /// Null when there is not enough memory, here and below. The window is not shown yet.
     std::function<std::unique_ptr<CMainFrame>(MainFrameHost&)> makeMainFrame;
     std::function<std::unique_ptr<PaletteSet>()> makePaletteSet;
+    /// The program's own file, for `HangNotice`; empty: nobody is asked.
+    std::string program;
 };
 
 } // namespace dyeworks

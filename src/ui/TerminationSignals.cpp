@@ -1,6 +1,7 @@
 #include "ui/TerminationSignals.h"
 
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
@@ -11,6 +12,7 @@ namespace dyeworks {
 namespace {
 
 constexpr std::array kSignals{SIGTERM, SIGINT, SIGHUP};
+constexpr std::chrono::seconds kPatience{3};
 volatile sig_atomic_t writeEnd = -1;
 
 void onSignal(int number) {
@@ -33,29 +35,50 @@ void handleWith(void (*handler)(int), int flags) {
 
 } // namespace
 
-TerminationSignals::TerminationSignals(std::function<void(int)> end)
-    : end_(std::move(end)) {
-    if (::pipe2(pipe_.data(), O_CLOEXEC | O_NONBLOCK) != 0)
+TerminationSignals::TerminationSignals(End end, End endHanging)
+    : end_(std::move(end))
+    , endHanging_(std::move(endHanging)) {
+    if (::pipe2(pipe_.data(), O_CLOEXEC) != 0)
         return;
-    notifier_ = new QSocketNotifier(pipe_[0], QSocketNotifier::Read, this);
-    connect(notifier_, &QSocketNotifier::activated, this, &TerminationSignals::read);
+    (void)::fcntl(pipe_[1], F_SETFL, O_NONBLOCK);
+    thread_ = std::thread([this] { wait(); });
     writeEnd = pipe_[1];
     handleWith(onSignal, static_cast<int>(SA_RESETHAND) | SA_RESTART);
 }
 
 TerminationSignals::~TerminationSignals() {
-    if (notifier_ == nullptr)
+    if (!thread_.joinable())
         return;
     handleWith(SIG_DFL, 0);
     writeEnd = -1;
-    for (const int end : pipe_)
-        ::close(end);
+    static_cast<void>(take());
+    ::close(pipe_[1]);
+    thread_.join();
+    ::close(pipe_[0]);
 }
 
-void TerminationSignals::read() {
+void TerminationSignals::wait() {
     unsigned char number = 0;
-    if (::read(pipe_[0], &number, 1) == 1)
-        end_(number);
+    if (::read(pipe_[0], &number, 1) != 1)
+        return;
+    const auto inLoop = [this, number] {
+        if (take())
+            end_(number);
+    };
+    QMetaObject::invokeMethod(this, inLoop, Qt::QueuedConnection);
+    {
+        std::unique_lock lock(mutex_);
+        if (changed_.wait_for(lock, kPatience, [this] { return taken_; }))
+            return;
+    }
+    if (take())
+        endHanging_(number);
+}
+
+bool TerminationSignals::take() {
+    const std::lock_guard lock(mutex_);
+    changed_.notify_all();
+    return !std::exchange(taken_, true);
 }
 
 } // namespace dyeworks

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QObject>
-#include <QSocketNotifier>
 
 #include <array>
+#include <condition_variable>
 #include <functional>
+#include <mutex>
+#include <thread>
 
 namespace dyeworks {
 
@@ -13,19 +15,26 @@ class TerminationSignals : public QObject {
     Q_OBJECT
 
 public:
-    /// `end` is called from the event loop with the signal's number. A second signal ends the program at
-    /// once.
-    explicit TerminationSignals(std::function<void(int)> end);
+    using End = std::function<void(int signal)>;
+
+    /// `end` is called from the event loop with the signal's number. When that does not turn for three
+    /// seconds, `endHanging` is called instead, on another thread. A second signal ends the program at once.
+    TerminationSignals(End end, End endHanging);
     ~TerminationSignals() override;
     TerminationSignals(const TerminationSignals&) = delete;
     TerminationSignals& operator=(const TerminationSignals&) = delete;
 
 private:
-    void read();
+    void wait();
+    [[nodiscard]] bool take();
 
-    std::function<void(int)> end_;
+    End end_;
+    End endHanging_;
     std::array<int, 2> pipe_{-1, -1};
-    QSocketNotifier* notifier_ = nullptr;
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    bool taken_ = false; ///< By one of the two.
+    std::thread thread_;
 };
 
 } // namespace dyeworks

@@ -48,6 +48,9 @@ public:
     // As images tell it: see `ImageHost`.
     virtual void imageChanged(const CDyeworksDoc& image, const std::optional<Rect>& texels) = 0;
     virtual void imageClosed() = 0;
+    // As calls to plug-ins tell it: see `PlugInFailures`.
+    virtual void plugInCallBegins(const std::string& fileName) = 0;
+    virtual void plugInCallEnds() = 0;
     /// Saving may give palettes new keys; images stay attached to theirs. `save` answers whether they are to
     /// be shown anew.
     virtual void keepAttachments(const std::function<bool()>& save) = 0;

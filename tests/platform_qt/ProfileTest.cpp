@@ -59,6 +59,12 @@ TEST_F(ProfileTest, ReadsWhatIsWholeInADamagedFileAndWritesItAnew) {
     const std::string file = host("damaged.ini").toStdString();
     {
         QtProfile profile(file);
+        const auto trouble = profile.takeTrouble();
+        ASSERT_TRUE(trouble && trouble->kind == ProfileTrouble::Kind::Damaged);
+        EXPECT_FALSE(profile.takeTrouble());
+        QFile copy(QString::fromStdString(trouble->copy));
+        ASSERT_TRUE(copy.open(QIODevice::ReadOnly));
+        EXPECT_EQ(copy.readAll().size(), 68) << "as it was";
         EXPECT_EQ(profile.integer("Settings", "kept", 0), 7);
         EXPECT_EQ(profile.text("Settings", "list"), "a, b");
         EXPECT_EQ(profile.text("Settings", "odd"), std::nullopt);

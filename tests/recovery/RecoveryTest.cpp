@@ -1,11 +1,11 @@
-#include "../paint/DocTestHost.h"
+#include "../paint/ViewTestWindow.h"
 #include "paint/BmpFormat.h"
+#include "paint/DrawingOptions.h"
 #include "platform/posix/PosixStateFolder.h"
 #include "project/CTPFFile.h"
 #include "recovery/PackedPalette.h"
 #include "recovery/RecoveryItem.h"
 #include "recovery/RecoveryKeeper.h"
-#include "recovery/ShadowCopy.h"
 
 #include <gmock/gmock.h>
 
@@ -198,12 +198,87 @@ TEST_F(Recovery, AnOrderlyEndAndASaveLeaveNothing) {
     EXPECT_THAT(fake_.files.enumerate(fake_.files.fromHostPath(base_) + "\\*"), IsEmpty());
 }
 
-TEST_F(Recovery, FoldersThatCannotBeWrittenAreToldAndOtherFilesPassedOver) {
+TEST_F(Recovery, WhatFloatsIsKeptAsItWouldBePlaced) {
+    for (const bool wrap : {false, true}) {
+        for (const Point at : {Point{0, 0}, Point{-3, 7}, Point{12, -4}, Point{13, 9}}) {
+            images_.clear();
+            images_.push_back(std::make_unique<CDyeworksDoc>(host_));
+            CDyeworksDoc& image = *images_.front();
+            ASSERT_TRUE(image.canvas().Create(16, 12, 1, 8));
+            FakeViewWindow window;
+            CDyeworksView view(image, window);
+            view.InitialUpdate();
+            auto piece = std::make_unique<TextureCanvas>();
+            ASSERT_TRUE(piece->Create(7, 5, 1, 8));
+            piece->FillBox(0, 0, 6, 4, 200);
+            piece->PutPixel(3, 2, 100);
+            ImageViewer& viewer = view;
+            viewer.SetFloatingPiece(std::move(piece));
+            ASSERT_THAT(image.floatingPieces(), SizeIs(1));
+            DrawingOptions options;
+            options.wrap = wrap;
+            setDrawingOptions(options);
+            keeper_->keepNow();
+            for (Point place; place.x != at.x || place.y != at.y;) {
+                const Key key = place.x < at.x   ? Key::Right
+                                : place.x > at.x ? Key::Left
+                                : place.y < at.y ? Key::Down
+                                                 : Key::Up;
+                (void)view.KeyPressed({.key = key});
+                place.x += key == Key::Right ? 1 : key == Key::Left ? -1 : 0;
+                place.y += key == Key::Down ? 1 : key == Key::Up ? -1 : 0;
+            }
+            keeper_->keepNow();
+            crash();
+            const std::multiset<std::string> kept = offered();
+            ASSERT_TRUE(viewer.CommitFloatingPiece(false));
+            image.setTitle(""); // Which has got its mark.
+            EXPECT_EQ(kept, unsaved()) << wrap << " " << at.x;
+            for (const auto& state : PosixStateFolder(base_).left())
+                state->discard();
+            start();
+            setDrawingOptions({});
+        }
+    }
+}
+
+TEST_F(Recovery, WhatHangsIsKeptAsItWasWhenItWasCalled) {
+    open();
+    CDyeworksDoc& image = *images_.front();
+    const auto edit = [&](std::uint32_t value) {
+        image.Edit(nullptr, [=](TextureCanvas& canvas) { canvas.PutPixel(0, 0, value); });
+        changed(image);
+    };
+    edit(3);
+    keeper_->mayHang(nullptr);
+    keeper_->mayHang(nullptr);
+    keeper_->cameBack();
+    EXPECT_FALSE(std::filesystem::exists(base_)) << "nothing has hung yet";
+    keeper_->keepWhileHanging();
+    keeper_->cameBack();
+    EXPECT_TRUE(std::filesystem::exists(base_));
+    (void)keeper_->look(RecoveryKeeper::Clock::now());
+    edit(4);
+    keeper_->mayHang(nullptr);
+    keeper_->keepWhileHanging();
+    crash();
+    EXPECT_EQ(offered(), unsaved());
+}
+
+TEST_F(Recovery, FoldersThatCannotBeWrittenAreToldAndTriedAgainAndOtherFilesPassedOver) {
     std::ofstream(base_) << "a file where the folder should be";
     open();
     images_.front()->Edit(nullptr, [](TextureCanvas& canvas) { canvas.PutPixel(0, 0, 3); });
     keeper_->keepNow();
     EXPECT_TRUE(keeper_->failure());
+    std::filesystem::remove(base_);
+    auto now = RecoveryKeeper::Clock::now();
+    (void)keeper_->look(now);
+    (void)keeper_->look(now + std::chrono::seconds(16));
+    keeper_->keepNow();
+    EXPECT_FALSE(keeper_->failure());
+    crash();
+    EXPECT_EQ(offered(), unsaved());
 
     for (const std::string_view text : {"", "Orrery Dyeworks recovery 1\n", "Orrery Dyeworks recovery 2\n\n",
                                         "Orrery Dyeworks recovery 1\nkind=image\ntime=x\nentry=0\n\n",

@@ -63,6 +63,20 @@ TEST_F(OneProgram, ShowsTheSheetsThatASecondStartAsksFor) {
     EXPECT_THAT(openImages(), ElementsAre("c:\\a.tmf"));
 }
 
+TEST_F(OneProgram, StaysForFilesThatComeWhileItAsksWhetherToSave) {
+    ASSERT_TRUE(app_->OpenDocumentFile("c:\\b.tmf"));
+    frame().activeImageView()->view().document().Edit(
+        nullptr, [](TextureCanvas& canvas) { canvas.PutPixel(0, 0, 3); });
+    fake_.messages.onShow = [this] { EXPECT_TRUE(fake_.shell.deliverOpenRequest({"c:\\a.tmf"})); };
+    fake_.messages.answerWith(MessageAnswer::Yes);
+    QSignalSpy shown(&frame(), &MdiFrame::activeChildChanged);
+    frame().close();
+    EXPECT_TRUE(frame().isVisible());
+    EXPECT_TRUE(shown.wait());
+    EXPECT_THAT(openImages(), ElementsAre("c:\\b.tmf", "c:\\a.tmf"));
+    EXPECT_TRUE(frame().close()) << "the next time it goes";
+}
+
 TEST(HandingOver, IsTriedByOrdinaryStartsOnly) {
     FakePlatform fake;
     CommandLine commandLine;

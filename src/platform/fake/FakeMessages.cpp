@@ -25,6 +25,8 @@ void FakeMessages::answerWith(std::initializer_list<MessageAnswer> answers) {
 
 MessageAnswer FakeMessages::show(const Message& message) {
     shown.push_back(message);
+    if (onShow)
+        onShow();
     if (answers_.empty())
         return harmlessAnswer(message.buttons);
     const MessageAnswer answer = answers_.front();

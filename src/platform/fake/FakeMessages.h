@@ -3,6 +3,7 @@
 #include "platform/Messages.h"
 
 #include <deque>
+#include <functional>
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -24,6 +25,9 @@ public:
 
     /// Text of the newest box; empty when there was none.
     [[nodiscard]] std::string lastText() const { return shown.empty() ? std::string() : shown.back().text; }
+
+    /// What happens while a box waits for its answer.
+    std::function<void()> onShow;
 
     MessageAnswer show(const Message& message) override;
 

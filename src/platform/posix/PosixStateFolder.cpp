@@ -119,7 +119,21 @@ std::optional<FileError> PosixStateFolder::make() {
 std::optional<FileError> PosixStateFolder::write(const std::string& name, FilePieces pieces) {
     if (const auto error = make())
         return error;
+    const std::string into = folder();
+    const auto error = writeHostFile(into + '/' + name, pieces);
+    if (error != FileError::NotFound)
+        return error;
+    // Somebody has cleared it away.
+    forget(into);
+    if (const auto notMade = make())
+        return notMade;
     return writeHostFile(folder() + '/' + name, pieces);
+}
+
+void PosixStateFolder::forget(const std::string& lost) {
+    const std::lock_guard lock(mutex_);
+    if (folder_ == lost)
+        folder_.clear();
 }
 
 std::string PosixStateFolder::folder() const {

@@ -18,6 +18,7 @@ public:
     /// The user's own: "orrery-dyeworks/recovery" in $XDG_STATE_HOME or, without that, in "~/.local/state".
     [[nodiscard]] static std::string usersBase();
 
+    [[nodiscard]] std::string location() const override { return base_; }
     [[nodiscard]] std::optional<FileError> write(const std::string& name, FilePieces pieces) override;
     void remove(const std::string& name) override;
     void discard() override;
@@ -28,6 +29,8 @@ private:
     [[nodiscard]] std::string folder() const;
 
     std::string base_;
+    void forget(const std::string& lost);
+
     mutable std::mutex mutex_; ///< For what follows.
     std::string folder_;       ///< Empty as long as it has not been made.
     Descriptor lock_;

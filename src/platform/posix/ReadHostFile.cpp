@@ -75,11 +75,23 @@ struct RegularFile {
     std::size_t size = 0;
 };
 
+/// By the error number that opening has left.
+FileError whyNotOpened(const std::string& path) {
+    const int error = errno;
+    struct stat named {};
+    const bool leadsNowhere =
+        error == ELOOP || (error == ENOENT && ::lstat(path.c_str(), &named) == 0 && S_ISLNK(named.st_mode));
+    // A socket or a device without a driver.
+    if (error == ENXIO || error == ENODEV)
+        return FileError::NotRegular;
+    return leadsNowhere ? FileError::BrokenLink : fileErrorFrom(error);
+}
+
 Result<RegularFile, FileError> openRegularFile(const std::string& path) {
     // Without O_NONBLOCK a pipe that nobody writes to would keep the program waiting in open.
     Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     if (!file.valid())
-        return fileErrorFrom(errno);
+        return whyNotOpened(path);
     struct stat status {};
     if (::fstat(file.get(), &status) != 0)
         return fileErrorFrom(errno);
@@ -87,7 +99,7 @@ Result<RegularFile, FileError> openRegularFile(const std::string& path) {
         return FileError::NotAFile;
     // Devices and pipes have no whole that could be read.
     if (!S_ISREG(status.st_mode))
-        return FileError::Other;
+        return FileError::NotRegular;
     if (static_cast<std::uintmax_t>(status.st_size) > PTRDIFF_MAX)
         return FileError::TooLarge;
     return RegularFile{std::move(file), static_cast<std::size_t>(status.st_size)};

@@ -70,7 +70,10 @@ MessageAnswer QtMessages::show(const Message& message) {
     const std::string caption =
         message.caption.empty() ? dyeworks::text(StringId::ApplicationTitle) : message.caption;
     if (!windows_.canAsk()) {
-        std::cerr << caption << ": " << message.text << std::endl;
+        std::cerr << caption << ": " << message.text;
+        if (!message.details.empty())
+            std::cerr << '\n' << message.details;
+        std::cerr << std::endl;
         return answerOf(buttons.onClose);
     }
 
@@ -81,7 +84,9 @@ MessageAnswer QtMessages::show(const Message& message) {
     box.setAccessibleName(QString::fromStdString(caption));
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(message.text));
-    box.setAccessibleDescription(box.text());
+    if (!message.details.empty())
+        box.setInformativeText(QString::fromStdString(message.details));
+    box.setAccessibleDescription(box.text() + u'\n' + box.informativeText());
     box.setTextInteractionFlags(box.textInteractionFlags() | Qt::TextSelectableByMouse);
     box.setIcon(iconOf(message.icon));
     box.setStandardButtons(buttons.shown);

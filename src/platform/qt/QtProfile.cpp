@@ -2,7 +2,11 @@
 
 #include "platform/qt/ProfileKeys.h"
 
+#include <QFile>
+#include <QFileInfo>
+
 #include <algorithm>
+#include <utility>
 
 namespace dyeworks {
 
@@ -38,6 +42,26 @@ QtProfile::QtProfile(const std::string& hostPath)
                  : std::make_unique<QSettings>(QString::fromStdString(hostPath), QSettings::IniFormat)) {
     // Without this, settings of the whole host would show through.
     store_->setFallbacksEnabled(false);
+    const QString file = store_->fileName();
+    // Sections are read when they are first asked for, and only then is it known.
+    static_cast<void>(store_->allKeys());
+    if (store_->status() == QSettings::FormatError) {
+        const QString copy = file + QStringLiteral(".damaged");
+        QFile::remove(copy);
+        QFile::copy(file, copy);
+        trouble_ = {ProfileTrouble::Kind::Damaged, file.toStdString(), copy.toStdString()};
+    } else if (QFileInfo::exists(file) && !QFileInfo(file).isReadable()) {
+        trouble_ = {ProfileTrouble::Kind::NotReadable, file.toStdString(), {}};
+        notWritableTold_ = true;
+    }
+}
+
+std::optional<ProfileTrouble> QtProfile::takeTrouble() {
+    if (trouble_)
+        return std::exchange(trouble_, std::nullopt);
+    if (store_->status() != QSettings::AccessError || std::exchange(notWritableTold_, true))
+        return std::nullopt;
+    return ProfileTrouble{ProfileTrouble::Kind::NotWritable, store_->fileName().toStdString(), {}};
 }
 
 std::optional<std::string> QtProfile::text(const std::string& section, const std::string& entry) const {
@@ -45,7 +69,9 @@ std::optional<std::string> QtProfile::text(const std::string& section, const std
 }
 
 void QtProfile::setText(const std::string& section, const std::string& entry, const std::string& value) {
-    store_->setValue(profileKey(section, entry), stored(value));
+    // What stays the same need not be written again, though something that is not text gives way.
+    if (text(section, entry) != value)
+        store_->setValue(profileKey(section, entry), stored(value));
 }
 
 void QtProfile::remove(const std::string& section, const std::string& entry) {

@@ -9,8 +9,9 @@
 namespace dyeworks {
 
 /// Settings in an INI file of the user. A file that is damaged gives what can be read of it, and is whole
-/// again after the next change. Changes are written when the event loop is idle, by `sync` and on
-/// destruction; a file that cannot be written keeps the changes in memory only.
+/// again after the next change; as it was, it is kept beside, with ".damaged" at the end. Changes are written
+/// when the event loop is idle, by `sync` and on destruction; a file that cannot be written keeps the changes
+/// in memory only.
 class QtProfile : public Profile {
 public:
     /// Settings in the file `hostPath`, or in the user's own one when that is empty.
@@ -25,11 +26,15 @@ public:
     /// Writes what has changed to the file.
     void sync() override;
 
+    [[nodiscard]] std::optional<ProfileTrouble> takeTrouble() override;
+
     /// The settings file, in host form.
     [[nodiscard]] std::string fileName() const;
 
 private:
     std::unique_ptr<QSettings> store_;
+    std::optional<ProfileTrouble> trouble_;
+    bool notWritableTold_ = false;
 };
 
 } // namespace dyeworks

@@ -3,6 +3,7 @@
 #include "core/TextureLookupTable.h"
 #include "core/TmfFormat.h"
 #include "framework/widgets/IntegerField.h"
+#include "platform/FileMessages.h"
 #include "platform/Platform.h"
 #include "platform/StringId.h"
 #include "project/PictureImage.h"
@@ -50,7 +51,7 @@ constexpr PictureFileRow::Kind kPalettes{".tlf",
 /// Whether the file was written; if not, the user is told.
 bool wasWritten(const std::string& path, const std::optional<FileError>& error) {
     if (error)
-        applicationMessage(text(StringId::CannotSaveFile, {displayPath(path), describe(*error)}));
+        tellNotSaved(path, *error);
     return !error.has_value();
 }
 

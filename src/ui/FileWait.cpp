@@ -1,0 +1,114 @@
+#include "ui/FileWait.h"
+
+#include "framework/PathText.h"
+#include "platform/Platform.h"
+#include "platform/StringId.h"
+#include "platform/posix/HostFile.h"
+#include "platform/qt/QtPlatform.h"
+#include "platform/qt/QtWaitCursor.h"
+
+#include <QProgressDialog>
+#include <QTimer>
+
+#include <atomic>
+#include <chrono>
+#include <future>
+#include <thread>
+#include <vector>
+
+namespace dyeworks {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// What answers sooner needs no dialog.
+constexpr auto kPatience = 400ms;
+constexpr auto kLook = 50ms;
+/// A piece that takes longer is one of a slow file.
+constexpr auto kSlow = 40ms;
+constexpr std::size_t kPiece = std::size_t{1} << 20U;
+constexpr int kWhole = 1000;
+
+/// Outlives the waiting: a thread that hangs in the file system cannot be ended.
+struct Reading {
+    std::promise<void> done;
+    std::atomic<std::uint64_t> read = 0;
+    std::atomic<std::uint64_t> size = 0;
+    std::atomic<bool> stopped = false;
+
+    void run(const std::string& path) {
+        const auto file = openHostFile(platform().files().hostPath(path));
+        std::vector<std::byte> piece(kPiece);
+        bool slow = false;
+        if (file) {
+            size = file.value()->size();
+            do {
+                const auto start = std::chrono::steady_clock::now();
+                const std::size_t count = file.value()->read(piece);
+                read += count;
+                slow = count == kPiece && (slow || std::chrono::steady_clock::now() - start > kSlow);
+            } while (slow && !stopped);
+        }
+        done.set_value();
+    }
+};
+
+/// The path without a drive, which only the thread of the settings may look up.
+std::string withoutDrive(const std::string& path) {
+    if (path.size() < 2 || path[1] != ':')
+        return path;
+    const std::optional<std::string> folder = mappedDrive(platform().profile(), path.front());
+    return folder ? platform().files().fromHostPath(*folder) + path.substr(2) : std::string();
+}
+
+QString wordsFor(const Reading& reading, const std::string& path) {
+    constexpr std::uint64_t kMegabyte = std::uint64_t{1} << 20U;
+    // The host's form of the path would be asked of the very file system that does not answer.
+    const std::string name(fileNameOf(path));
+    if (reading.read == 0)
+        return QString::fromStdString(text(StringId::WaitingForFile, {name}));
+    return QString::fromStdString(
+        text(StringId::WaitingForFileRead,
+             {name, std::to_string(reading.read / kMegabyte), std::to_string(reading.size / kMegabyte)}));
+}
+
+} // namespace
+
+bool waitForFile(const std::string& path, QWidget* owner) {
+    const auto reading = std::make_shared<Reading>();
+    const std::future<void> done = reading->done.get_future();
+    std::thread([reading, where = withoutDrive(path)] { reading->run(where); }).detach();
+    if (done.wait_for(kPatience) == std::future_status::ready)
+        return true;
+    const OrdinaryPointerScope pointer;
+    if (owner != nullptr)
+        owner->show();
+    QProgressDialog dialog(owner);
+    dialog.setObjectName(QStringLiteral("fileWait"));
+    dialog.setLabelText(wordsFor(*reading, path));
+    dialog.setCancelButtonText(QString::fromStdString(text(StringId::WaitingStop)));
+    dialog.setRange(0, 0);
+    dialog.setWindowModality(Qt::ApplicationModal);
+    dialog.setMinimumDuration(0);
+    dialog.setAutoClose(false);
+    dialog.setAutoReset(false);
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &dialog, [&] {
+        if (done.wait_for(0s) == std::future_status::ready) {
+            dialog.done(0);
+        } else if (const std::uint64_t size = reading->size; size > 0 && reading->read > 0) {
+            dialog.setLabelText(wordsFor(*reading, path));
+            dialog.setRange(0, kWhole);
+            dialog.setValue(static_cast<int>(std::min(size, reading->read.load()) * kWhole / size));
+        }
+    });
+    look.start(kLook);
+    dialog.exec();
+    if (done.wait_for(0s) == std::future_status::ready)
+        return true;
+    reading->stopped = true;
+    return false;
+}
+
+} // namespace dyeworks
