@@ -4477,10 +4477,6 @@ The file is no longer whole. Save under another name; until then what was to be 
         <translation>「%1」を読み込んでいます... (%2 / %3 MB)</translation>
     </message>
     <message>
-        <source>&amp;Stop</source>
-        <translation>中止(&amp;S)</translation>
-    </message>
-    <message>
         <source>The plug-in %1 has not answered for %2 seconds.</source>
         <translation>プラグイン %1 が %2 秒間応答していません。</translation>
     </message>

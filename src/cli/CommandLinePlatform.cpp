@@ -92,6 +92,7 @@ public:
 
 class NoState final : public StateFolder {
 public:
+    [[nodiscard]] std::string location() const override { return {}; }
     [[nodiscard]] std::optional<FileError> write(const std::string&, FilePieces) override {
         return FileError::AccessDenied;
     }

@@ -28,9 +28,9 @@ private:
     [[nodiscard]] std::optional<FileError> make();
     [[nodiscard]] std::string folder() const;
 
-    std::string base_;
     void forget(const std::string& lost);
 
+    std::string base_;
     mutable std::mutex mutex_; ///< For what follows.
     std::string folder_;       ///< Empty as long as it has not been made.
     Descriptor lock_;
