@@ -43,6 +43,7 @@ public:
     MemoryFiles& files() override { return files_; }
     Messages& messages() override { std::abort(); }
     FileDialogs& fileDialogs() override { std::abort(); }
+    FileWatcher& fileWatcher() override { std::abort(); }
     Profile& profile() override { std::abort(); }
     Clipboard& clipboard() override { std::abort(); }
     PictureReader& pictureReader() override { std::abort(); }

@@ -67,7 +67,7 @@ void take(BuildJob& job, const FoundFile& found, std::string& path, BuildStamp& 
 
 std::uint64_t BuildOptions::hash() const {
     const std::string text = std::string(kVersionText) + " " + std::to_string(static_cast<int>(format)) +
-                             " " + std::to_string(alignment) + " " + std::to_string(wholePalette);
+                             " " + std::to_string(alignment) + (wholePalette ? " 1" : " 0");
     std::uint64_t hash = 14695981039346656037U; // FNV-1a.
     for (const char c : text)
         hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;

@@ -7,7 +7,9 @@
 #include "cli/LoadedPicture.h"
 #include "cli/NamedFile.h"
 #include "cli/Options.h"
+#include "cli/PaletteOption.h"
 #include "cli/ProjectFile.h"
+#include "core/TmfFormat.h"
 #include "paint/CanvasDepth.h"
 #include "platform/Platform.h"
 #include "platform/StringId.h"
@@ -24,15 +26,6 @@ namespace {
 /// Without marks between the thousands, as programs read numbers.
 std::string plainNumber(std::int64_t number) {
     return std::to_string(number);
-}
-
-/// How many bytes of texels a file lacks; whoever opens it sees index 0 in their place.
-std::int64_t missingBytes(const TmfImage& image, std::int64_t fileSize) {
-    constexpr std::int64_t kHeader = 64;
-    const std::int64_t row = (std::int64_t{image.width} * image.bits + 7) / 8;
-    const std::int64_t packed = (row * image.height + 3) / 4 * 4;
-    const std::int64_t body = fileSize - kHeader;
-    return body == packed ? 0 : std::max(std::int64_t{0}, image.blockSize() - body);
 }
 
 Finding findingOf(const ProjectFinding& found, const CTPFFile& project, const std::string& projectName) {
@@ -63,17 +56,9 @@ bool CheckCommand::readRulesAndPalette(Console& console) {
         rules_ = readRules(*project.value()->store);
     }
     if (palette_) {
-        const Result<ByteBuffer, FileError> file = readNamed(*palette_);
-        if (!file) {
-            console.fail(*palette_, file.error());
+        table_ = readPaletteOption(*palette_, bank_.value_or(0), console);
+        if (!table_)
             return false;
-        }
-        Result<TlutData, std::string> table = loadPalette(file.value().bytes(), *palette_);
-        if (!table) {
-            console.fail(*palette_, table.error());
-            return false;
-        }
-        table_ = std::move(table).value();
     }
     return true;
 }
@@ -106,8 +91,8 @@ void CheckCommand::checkImage(const std::string& name, std::span<const std::byte
         add({Severity::Error, name, text(StringId::FindingWholeImage), {}, describe(image.error())});
         return;
     }
-    if (const std::int64_t missing = missingBytes(image.value(), static_cast<std::int64_t>(file.size()));
-        missing > 0)
+    const TmfHeader header{0, image.value().width, image.value().height, image.value().bits};
+    if (const std::uint64_t missing = missingTexelBytes(header, file.size()); missing > 0)
         add({Severity::Error,
              name,
              text(StringId::FindingWholeImage),

@@ -203,7 +203,7 @@ std::string userLanguage() {
     // As gettext has it: a user without a locale is spoken to as the program is written.
     while (!wished.empty() && locale != "C" && locale != "POSIX") {
         const std::size_t end = std::min(wished.find(':'), wished.size());
-        if (const std::string known = knownLanguage(wished.substr(0, end)); !known.empty())
+        if (std::string known = knownLanguage(wished.substr(0, end)); !known.empty())
             return known;
         wished.remove_prefix(std::min(end + 1, wished.size()));
     }

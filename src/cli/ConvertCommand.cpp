@@ -4,6 +4,7 @@
 #include "cli/FileKind.h"
 #include "cli/NamedFile.h"
 #include "cli/Options.h"
+#include "cli/PaletteOption.h"
 #include "interchange/TextureSource.h"
 #include "paint/CanvasDepth.h"
 
@@ -52,22 +53,8 @@ bool ConvertCommand::settleWork(Console& console) {
     }
     if (!palette_)
         return true;
-    const Result<ByteBuffer, FileError> file = readNamed(*palette_);
-    if (!file) {
-        console.fail(*palette_, file.error());
-        return false;
-    }
-    Result<TlutData, std::string> palette = loadPalette(file.value().bytes(), *palette_);
-    if (!palette) {
-        console.fail(*palette_, palette.error());
-        return false;
-    }
-    work_.palette = std::move(palette).value();
-    if (work_.bank && *work_.bank >= work_.palette->count / kBankEntries) {
-        console.fail(*palette_, say(CliText::NoSuchBank, {std::to_string(*work_.bank)}));
-        return false;
-    }
-    return true;
+    work_.palette = readPaletteOption(*palette_, work_.bank.value_or(0), console);
+    return work_.palette.has_value();
 }
 
 bool ConvertCommand::goesIntoFolder() const {

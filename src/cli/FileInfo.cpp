@@ -24,7 +24,7 @@ using Inspected = Result<FileInfo, std::string>;
 template <typename Number>
 std::int64_t countDifferent(std::vector<Number> numbers) {
     std::ranges::sort(numbers);
-    return std::ranges::unique(numbers).begin() - numbers.begin();
+    return std::unique(numbers.begin(), numbers.end()) - numbers.begin();
 }
 
 FileInfo::Entries entriesOf(const TlutData& table) {
@@ -37,6 +37,7 @@ FileInfo::Entries entriesOf(const TlutData& table) {
 /// Colours of another program's palette or picture.
 FileInfo::Entries entriesOf(const std::vector<Colour>& colours) {
     std::vector<std::uint32_t> values;
+    values.reserve(colours.size());
     for (const Colour& colour : colours)
         values.push_back(std::bit_cast<std::uint32_t>(colour));
     return {static_cast<std::int32_t>(colours.size()), static_cast<std::int32_t>(countDifferent(values)),

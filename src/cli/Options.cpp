@@ -154,7 +154,7 @@ struct Options::Parser {
     }
 
     CLI::Option* add(const std::string& names, CliText placeholder, const std::string& help,
-                     std::function<void(const std::string& name, const std::string& value)> take) {
+                     const std::function<void(const std::string& name, const std::string& value)>& take) {
         const std::string name = names.substr(names.rfind(',') + 1);
         CLI::Option* const option = app.add_option(
             names,

@@ -18,6 +18,8 @@ class PaletteFiles {
 public:
     PaletteFiles();
     ~PaletteFiles();
+    PaletteFiles(const PaletteFiles&) = delete;
+    PaletteFiles& operator=(const PaletteFiles&) = delete;
 
     /// Reads the palette. False: told.
     [[nodiscard]] bool readPalette(const std::string& name, Console& console);

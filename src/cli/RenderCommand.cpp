@@ -4,6 +4,7 @@
 #include "cli/FileKind.h"
 #include "cli/NamedFile.h"
 #include "cli/Options.h"
+#include "cli/PaletteOption.h"
 #include "cli/PictureWork.h"
 #include "cli/ProjectFile.h"
 #include "cli/TrueColourPng.h"
@@ -31,21 +32,9 @@ void RenderCommand::declare(Options& options) {
 bool RenderCommand::attach(LoadedPicture& picture, Console& console) const {
     if (!palette_)
         return true;
-    const Result<ByteBuffer, FileError> file = readNamed(*palette_);
-    if (!file) {
-        console.fail(*palette_, file.error());
+    picture.palette = readPaletteOption(*palette_, bank_.value_or(0), console);
+    if (!picture.palette)
         return false;
-    }
-    Result<TlutData, std::string> palette = loadPalette(file.value().bytes(), *palette_);
-    if (!palette) {
-        console.fail(*palette_, palette.error());
-        return false;
-    }
-    if (bank_.value_or(0) >= palette.value().count / kBankEntries) {
-        console.fail(*palette_, say(CliText::NoSuchBank, {std::to_string(*bank_)}));
-        return false;
-    }
-    picture.palette = std::move(palette).value();
     picture.firstEntry = kBankEntries * bank_.value_or(0);
     return true;
 }

@@ -87,8 +87,7 @@ std::optional<TmfError> readBody(const TmfHeader& header, std::uint64_t bodySize
 }
 
 std::optional<TmfError> readFile(FileReader& file, const TmfRoom& room) {
-    std::array<std::byte, kHeaderSize> start;
-    const auto header = parseTmfHeader(std::span(start).first(file.read(start)));
+    const auto header = readTmfHeader(file);
     if (!header)
         return header.error();
     const std::uint64_t bodySize = file.size() - std::min<std::uint64_t>(file.size(), kHeaderSize);
@@ -132,6 +131,18 @@ Result<TmfHeader, TmfError> parseTmfHeader(std::span<const std::byte> file) {
     if (!(header.tag == kTag4Bit && header.bits == 4) && !(header.tag == kTag8Bit && header.bits == 8))
         return TmfError{TmfError::Kind::ImproperTag, header.tag, header.bits};
     return header;
+}
+
+Result<TmfHeader, TmfError> readTmfHeader(FileReader& file) {
+    std::array<std::byte, kHeaderSize> start;
+    return parseTmfHeader(std::span(start).first(file.read(start)));
+}
+
+std::uint64_t missingTexelBytes(const TmfHeader& header, std::uint64_t fileSize) {
+    const Layout layout(header);
+    const std::uint64_t body = fileSize - std::min<std::uint64_t>(fileSize, kHeaderSize);
+    const std::uint64_t whole = body == layout.packedSize ? body : layout.stride * layout.rows;
+    return whole - std::min(whole, body);
 }
 
 Result<TmfImage, TmfError> parseTmf(std::span<const std::byte> file) {

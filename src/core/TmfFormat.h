@@ -39,6 +39,13 @@ struct TmfError {
 /// The header of a 4-bit or 8-bit image; its sides are not checked.
 Result<TmfHeader, TmfError> parseTmfHeader(std::span<const std::byte> file);
 
+/// The same from a file that is open at its start.
+Result<TmfHeader, TmfError> readTmfHeader(FileReader& file);
+
+/// How many bytes of texels a file of `fileSize` bytes with this header lacks; whoever reads it sees 0 in
+/// their place. The image is one that `TmfImage::canBe`.
+[[nodiscard]] std::uint64_t missingTexelBytes(const TmfHeader& header, std::uint64_t fileSize);
+
 /// The image in a TMF file. A body of exactly the packed size holds rows without padding; any other body
 /// holds rows padded as in memory, where texels that the file lacks are 0 and excess bytes are ignored.
 Result<TmfImage, TmfError> parseTmf(std::span<const std::byte> file);

@@ -30,7 +30,7 @@ void byBytes(std::span<std::uint8_t> bytes, const ByteTable& table) {
 /// until it is negative the differences add up, and what they make is what its own row has.
 [[gnu::target("avx2")]] void byRowsOf16(std::span<std::uint8_t> bytes, const ByteTable& table) {
     __m256i rows[16];
-    for (int row = 0; row < 16; ++row) {
+    for (std::ptrdiff_t row = 0; row < 16; ++row) {
         rows[row] = _mm256_broadcastsi128_si256(
             _mm_loadu_si128(reinterpret_cast<const __m128i*>(table.data() + 16 * row)));
     }

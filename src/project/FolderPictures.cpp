@@ -18,17 +18,13 @@ namespace {
 constexpr const char* kImage = ".tmf";
 constexpr const char* kPalette = ".tlf";
 
-bool isFile(const std::string& path) {
-    return platform().files().exists(path) && !platform().files().isDirectory(path);
-}
-
 /// The file of the same name and another extension: beside it, or in the folders of the list.
 std::optional<std::string> partnerOf(const std::string& file, const char* extension,
                                      const std::string& directories) {
     const std::size_t stem = file.size() - extensionOf(file).size();
     const std::string beside = file.substr(0, stem) + extension;
     std::string found = beside;
-    if (!isFile(beside) && !PathSearch(found, directories, std::string(fileNameOf(beside)), true))
+    if (!PathIsFile(beside) && !PathSearch(found, directories, std::string(fileNameOf(beside)), true))
         return std::nullopt;
     return otherSpelling(found, found).value_or(found);
 }

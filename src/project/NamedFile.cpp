@@ -32,7 +32,7 @@ std::vector<std::string> placesOf(const std::string& directories, const std::str
     std::vector<std::string> places;
     SplitFields(directories, ";", places);
     for (std::string& place : places)
-        place = files.fullPath(place + "\\" + name);
+        place = files.fullPath(place.append("\\").append(name));
     return places;
 }
 

@@ -26,11 +26,6 @@ bool isDirectory(const std::string& normalForm) {
     return platform().files().isDirectory(normalForm + "\\.");
 }
 
-bool isFile(const std::string& path) {
-    const Files& files = platform().files();
-    return files.exists(path) && !files.isDirectory(path);
-}
-
 /// The character at the front of a text that is not empty, as it compares: the separators are one.
 struct Front {
     std::u32string folded;
@@ -71,6 +66,11 @@ bool isSamePlace(const std::string& a, const std::string& b) {
 }
 
 } // namespace
+
+bool PathIsFile(const std::string& path) {
+    const Files& files = platform().files();
+    return files.exists(path) && !files.isDirectory(path);
+}
 
 std::string firstFolder(const std::string& directories) {
     std::vector<std::string> folders;
@@ -173,7 +173,7 @@ bool PathSearch(std::string& fullPath, const std::string& directories, const std
                 bool mustExist) {
     const Files& files = platform().files();
     if (isRooted(name)) {
-        if (!isFile(name) && (mustExist || files.exists(name)))
+        if (!PathIsFile(name) && (mustExist || files.exists(name)))
             return false;
         fullPath = files.fullPath(name);
         return true;

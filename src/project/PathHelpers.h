@@ -32,6 +32,9 @@ void PathSplitRoot(const std::string& path, std::string& server, std::string& dr
 /// current directory. False when that cannot be done.
 bool PathAbsolute(std::string& path, const std::string& base = {});
 
+/// Whether the path names something that is no directory.
+[[nodiscard]] bool PathIsFile(const std::string& path);
+
 /// Looks for the file in the folders of the list, a name with a root where that says. Without `mustExist` the
 /// first folder that exists and has no folder of that name will do. False, leaving `fullPath` alone, when
 /// there is no such place.

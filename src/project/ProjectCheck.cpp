@@ -8,7 +8,6 @@
 #include "project/NamedFile.h"
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 namespace dyeworks {
@@ -40,8 +39,8 @@ std::string folderAbove(const std::string& path) {
 std::size_t commonEnd(std::string_view a, std::string_view b) {
     const std::u32string foldedA = foldedCase(a);
     const std::u32string foldedB = foldedCase(b);
-    const auto differ = std::ranges::mismatch(foldedA | std::views::reverse, foldedB | std::views::reverse);
-    return static_cast<std::size_t>(differ.in1 - (foldedA | std::views::reverse).begin());
+    const auto differ = std::mismatch(foldedA.rbegin(), foldedA.rend(), foldedB.rbegin(), foldedB.rend());
+    return static_cast<std::size_t>(differ.first - foldedA.rbegin());
 }
 
 } // namespace

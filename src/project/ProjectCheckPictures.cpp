@@ -19,7 +19,6 @@ namespace {
 constexpr std::int32_t kBankSize = 16;
 constexpr std::int32_t kMostBanks = 16;
 constexpr std::int32_t kMostEntries = 256;
-constexpr std::size_t kTmfHeaderSize = 64;
 
 /// Of an 8-bit image.
 std::int32_t highestIndex(const TmfImage& image) {
@@ -65,8 +64,7 @@ std::optional<ImageShape> ProjectCheck::readShape(std::size_t index, const std::
     ProjectFinding unreadable{.problem = ProjectProblem::UnreadableFile, .file = path};
     const auto file = platform().files().openForReading(path);
     if (file) {
-        std::array<std::byte, kTmfHeaderSize> start;
-        const auto header = parseTmfHeader(std::span(start).first(file.value()->read(start)));
+        const auto header = readTmfHeader(*file.value());
         TmfImage image;
         if (header) {
             image.width = header.value().width;

@@ -23,10 +23,6 @@ struct Move {
     std::string to;
 };
 
-bool isFile(const std::string& path) {
-    return platform().files().exists(path) && !platform().files().isDirectory(path);
-}
-
 const std::string& directoriesOf(const CTPFFile& project, bool palette) {
     return palette ? project.tlfDir : project.tmfDir;
 }
@@ -120,7 +116,7 @@ std::vector<RelinkedFile> filesOfMove(const CTPFFile& project, const std::string
         for (const std::string& place : missingPlaces(project, entry, ofPalette)) {
             for (const Move& move : moves) {
                 const auto to = moved(place, move);
-                if (!to || !isFile(*to))
+                if (!to || !PathIsFile(*to))
                     continue;
                 files.push_back({name, ofPalette, place, otherSpelling(*to, *to).value_or(*to)});
                 return;

@@ -60,9 +60,9 @@ bool holdsWholeImage(const std::string& path) {
     const auto file = files.openForReading(path);
     if (!file)
         return false;
-    const auto image = parseTmf(*file.value());
-    const auto whole = image ? layOutTmf(image.value()) : std::nullopt;
-    return whole && file.value()->size() >= whole->header.size() + whole->body.size();
+    const auto header = readTmfHeader(*file.value());
+    return header && TmfImage::canBe(header.value().width, header.value().height, header.value().bits) &&
+           missingTexelBytes(header.value(), file.value()->size()) == 0;
 }
 
 bool holdsWholePalette(const std::string& path) {

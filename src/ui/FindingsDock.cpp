@@ -75,7 +75,6 @@ void FindingsDock::makeList() {
     list_->setUniformRowHeights(true);
     list_->setAllColumnsShowFocus(true);
     list_->setContextMenuPolicy(Qt::CustomContextMenu);
-    widenColumns();
     connect(list_, &QTreeWidget::itemClicked, this, [this](auto* row) { run(&Finding::go, row); });
     connect(list_, &QTreeWidget::itemActivated, this, [this](auto* row) {
         const int index = list_->indexOfTopLevelItem(row);
@@ -98,11 +97,19 @@ QPushButton* FindingsDock::button(const char* name, StringId caption, StringId t
 void FindingsDock::widenColumns() {
     for (std::size_t i = 0; i < kColumnLetters.size(); ++i) {
         const auto column = static_cast<int>(i);
-        const int before = list_->topLevelItemCount() == 0 ? 0 : list_->columnWidth(column);
+        const int before = areWidened_ && list_->topLevelItemCount() > 0 ? list_->columnWidth(column) : 0;
         list_->resizeColumnToContents(column);
         const int most = kColumnLetters.at(i) * fontMetrics().averageCharWidth();
         list_->setColumnWidth(column, std::max(before, std::min(list_->columnWidth(column), most)));
     }
+    areWidened_ = true;
+}
+
+/// Most starts of the program do without the dock, and without what its columns cost.
+void FindingsDock::showEvent(QShowEvent* event) {
+    if (!areWidened_)
+        widenColumns();
+    QDockWidget::showEvent(event);
 }
 
 QWidget* FindingsDock::makeNotice() {

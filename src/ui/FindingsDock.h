@@ -69,6 +69,9 @@ Q_SIGNALS:
     void checkWanted();
     void stopWanted();
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void makeList();
     void widenColumns();
@@ -88,6 +91,7 @@ private:
     QProgressBar* progress_ = nullptr;
     QLabel* state_ = nullptr;
     std::vector<QPushButton*> actions_; ///< Relink, remove, add.
+    bool areWidened_ = false;           ///< The columns.
     std::vector<Finding> ofImages_;
     std::set<std::string> images_;
     std::optional<std::vector<Finding>> ofProject_;

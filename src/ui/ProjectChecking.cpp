@@ -3,6 +3,7 @@
 #include "platform/AskForFile.h"
 #include "platform/Platform.h"
 #include "platform/StringId.h"
+#include "platform/TextCase.h"
 #include "project/CTPFDocument.h"
 #include "project/CTPFTreeView.h"
 #include "project/FindingTexts.h"
@@ -224,7 +225,7 @@ void ProjectChecking::addFile(const std::string& path) {
         project()->Repair(additionOf(file, {*pair}));
     } else {
         ProjectState before = file.state();
-        const bool palette = path.ends_with(".tlf");
+        const bool palette = endsIgnoringCase(path, ".tlf");
         const auto last = file.order.empty() ? std::nullopt : std::optional(file.order.back());
         if (!project()->AddPicture(std::nullopt, palette ? std::nullopt : std::optional(path),
                                    palette ? std::optional(path) : std::nullopt, 0, last, false))

@@ -56,7 +56,6 @@ CheckListSheet::CheckListSheet(const Words& words, const std::vector<QStringList
     buttons->addButton(ok_, QDialogButtonBox::AcceptRole);
     buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("IDCANCEL"));
     ok_->setObjectName(QStringLiteral("IDOK"));
-    ok_->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &CheckListSheet::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &CheckListSheet::reject);
     const auto addChoice = [&](const char* name, StringId caption, StringId tip, bool checked) {
@@ -74,6 +73,8 @@ CheckListSheet::CheckListSheet(const Words& words, const std::vector<QStringList
     if (!words.note.isEmpty())
         layout->addWidget(wrapped(words.note));
     layout->addWidget(buttons);
+    // Before the buttons were in the window one of them would have become it by itself.
+    ok_->setDefault(true);
     list_->setFocus();
     resize(kWidth * fontMetrics().averageCharWidth(), kHeight * fontMetrics().height());
 }
