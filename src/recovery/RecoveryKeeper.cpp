@@ -284,11 +284,11 @@ void RecoveryKeeper::holdUnsaved() {
             auto file = fileOf(kept, subject, std::numeric_limits<std::size_t>::max());
             if (!file || file->keeper == nullptr)
                 continue;
-            held_.emplace_back(subject.key, subject.stamp);
+            held_.push_back({subject.key, subject.stamp});
             files.push_back(std::move(*file));
         }
     } catch (const std::bad_alloc&) {
-        held_.resize(files.size());
+        held_.erase(held_.begin() + static_cast<std::ptrdiff_t>(files.size()), held_.end());
     }
     writer_.hold(std::move(files), kHangs, whenItHangs_);
 }

@@ -13,7 +13,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace dyeworks {
@@ -89,6 +88,10 @@ private:
         std::optional<TlutData> table;      ///< Of a palette, as it was last seen.
         std::uint64_t tableChanges = 0;
     };
+    struct Held {
+        std::string key;
+        Stamp stamp;
+    };
     struct Subject {
         std::string key; ///< As long as it is open, no other document has it.
         Stamp stamp;
@@ -123,8 +126,8 @@ private:
     bool hurried_ = false; ///< Nothing waits for the user to stop.
     bool memoryIsShort_ = false;
     std::function<void()> whenItHangs_;
-    int hanging_ = 0;                                 ///< Calls that have not come back.
-    std::vector<std::pair<std::string, Stamp>> held_; ///< By key; written if none of them comes back.
+    int hanging_ = 0;        ///< Calls that have not come back.
+    std::vector<Held> held_; ///< Written if none of them comes back.
     RecoveryWriter writer_;
 };
 
