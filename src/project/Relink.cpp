@@ -98,6 +98,44 @@ std::string nameFor(const std::string& directories, const std::string& path) {
     return PathSearch(found, directories, name, true) ? name : path;
 }
 
+void addMovedFiles(const CTPFFile& project, const std::vector<Move>& moves,
+                   std::vector<RelinkedFile>& files) {
+    const std::optional<RelinkedFile> known = files.empty() ? std::nullopt : std::optional(files.front());
+    PictureEntry entry;
+    const auto look = [&](const std::string& name, bool ofPalette) {
+        if (known && known->picture == name && known->palette == ofPalette)
+            return;
+        for (const std::string& place : missingPlaces(project, entry, ofPalette)) {
+            for (const Move& move : moves) {
+                const auto to = moved(place, move);
+                if (!to || !PathIsFile(*to))
+                    continue;
+                files.push_back({name, ofPalette, place, otherSpelling(*to, *to).value_or(*to)});
+                return;
+            }
+        }
+    };
+    for (const std::string& name : project.order) {
+        if (!project.GetPicture(name, entry))
+            continue;
+        look(name, false);
+        look(name, true);
+    }
+}
+
+/// The folder list with the one in the place of the other.
+std::string withFolder(const CTPFFile& project, bool palette, const std::string& folder,
+                       const std::string& chosen) {
+    std::vector<std::string> folders;
+    SplitFields(directoriesOf(project, palette), ";", folders);
+    std::string list;
+    for (const std::string& each : folders) {
+        const bool isIt = equalIgnoringCase(platform().files().fullPath(each), folder);
+        list += (list.empty() ? "" : ";") + (isIt ? chosen : each);
+    }
+    return CTPFFile::holdsFolders(project.tpfDir, list) ? list : directoriesOf(project, palette);
+}
+
 } // namespace
 
 std::vector<RelinkedFile> filesOfMove(const CTPFFile& project, const std::string& picture, bool palette,
@@ -112,25 +150,14 @@ std::vector<RelinkedFile> filesOfMove(const CTPFFile& project, const std::string
         if (files.empty())
             files.push_back({picture, palette, place, chosen});
     }
-    const auto look = [&](const std::string& name, bool ofPalette) {
-        for (const std::string& place : missingPlaces(project, entry, ofPalette)) {
-            for (const Move& move : moves) {
-                const auto to = moved(place, move);
-                if (!to || !PathIsFile(*to))
-                    continue;
-                files.push_back({name, ofPalette, place, otherSpelling(*to, *to).value_or(*to)});
-                return;
-            }
-        }
-    };
-    for (const std::string& name : project.order) {
-        if (!project.GetPicture(name, entry))
-            continue;
-        if (name != picture || palette)
-            look(name, false);
-        if (name != picture || !palette)
-            look(name, true);
-    }
+    addMovedFiles(project, moves, files);
+    return files;
+}
+
+std::vector<RelinkedFile> filesOfFolder(const CTPFFile& project, const std::string& folder,
+                                        const std::string& chosen) {
+    std::vector<RelinkedFile> files;
+    addMovedFiles(project, {{folder, chosen}}, files);
     return files;
 }
 
@@ -165,6 +192,15 @@ RelinkRepair relink(const CTPFFile& project, const std::vector<RelinkedFile>& fi
         }
     }
     return result;
+}
+
+ProjectRepair relinkFolder(const CTPFFile& project, const std::string& folder, const std::string& chosen) {
+    ProjectRepair repair;
+    if (const std::string images = withFolder(project, false, folder, chosen); images != project.tmfDir)
+        repair.imageDirectories = images;
+    if (const std::string palettes = withFolder(project, true, folder, chosen); palettes != project.tlfDir)
+        repair.paletteDirectories = palettes;
+    return repair;
 }
 
 } // namespace dyeworks

@@ -20,6 +20,7 @@
 #include <QAbstractEventDispatcher>
 #include <QElapsedTimer>
 
+#include <chrono>
 #include <utility>
 
 namespace dyeworks {
@@ -27,6 +28,7 @@ namespace dyeworks {
 namespace {
 
 constexpr int kSlice = 8; // Milliseconds.
+constexpr std::chrono::seconds kQuiet{1};
 constexpr const char* kFolderPick = "FolderPick.ocx";
 constexpr const char* kImageFilter = "TMF Files (*.tmf)|*.tmf|All Files (*.*)|*.*||";
 constexpr const char* kPaletteFilter = "TLF Files (*.tlf)|*.tlf|All Files (*.*)|*.*||";
@@ -37,6 +39,20 @@ QString displayed(const std::string& path) {
 
 std::string counted(std::size_t count) {
     return localNumeral(static_cast<std::int64_t>(count));
+}
+
+/// Nothing when the user cancels, and, said so, when the control is missing.
+std::optional<std::string> chooseFolder(std::string folder) {
+    const std::unique_ptr<CFolderPick> pick = CFolderPick::create();
+    if (pick == nullptr) {
+        const std::string control = kFolderPick;
+        applicationMessage(text(StringId::ControlMissing, {control}));
+        return std::nullopt;
+    }
+    pick->setFolder(folder);
+    if (!pick->choose(folder))
+        return std::nullopt;
+    return folder;
 }
 
 /// Of rows that have a flag `accepted`. False when the user cancels.
@@ -61,6 +77,12 @@ ProjectChecking::ProjectChecking(Workspace& workspace)
     : workspace_(workspace) {
     work_.setSingleShot(true);
     QObject::connect(&work_, &QTimer::timeout, &work_, [this] { work(); });
+    again_.setSingleShot(true);
+    again_.setInterval(kQuiet);
+    QObject::connect(&again_, &QTimer::timeout, &again_, [this] {
+        if (found_ && project() != nullptr && checked_ == project()->number())
+            begin();
+    });
     on(ID_PROJECT_CHECK, &ProjectChecking::OnCheck, &ProjectChecking::OnUpdateNeedsProject);
     on(ID_PROJECT_ADD_FOLDER, &ProjectChecking::OnAddFolder, &ProjectChecking::OnUpdateNeedsProject);
     on(ID_PROJECT_REVERT_CHECK, &ProjectChecking::OnRevert, &ProjectChecking::OnUpdateRevert);
@@ -84,22 +106,29 @@ CTPFDocument* ProjectChecking::project() const {
     return workspace_.currentProject().document();
 }
 
-/// What was found in a project that has been closed goes.
+/// What was found in a project that has been closed goes; one that has been changed is checked again.
 void ProjectChecking::look() {
     if (dock_ == nullptr)
         return;
     dock_->setProjectOpen(project() != nullptr);
-    if (checked_ == nullptr || checked_ == project())
+    if (checked_ == 0)
         return;
+    if (project() != nullptr && checked_ == project()->number()) {
+        if (std::exchange(changes_, project()->changes()) != project()->changes())
+            again_.start();
+        return;
+    }
     end();
-    checked_ = nullptr;
+    checked_ = 0;
     found_.reset();
     dock_->showProjectFindings(std::nullopt);
 }
 
 void ProjectChecking::begin() {
-    checked_ = project();
-    check_ = std::make_unique<ProjectCheck>(checked_->projectFile(), checked_->rules());
+    again_.stop();
+    checked_ = project()->number();
+    changes_ = project()->changes();
+    check_ = std::make_unique<ProjectCheck>(project()->projectFile(), project()->rules());
     dock_->showProgress(0);
     work_.start(0);
 }
@@ -137,7 +166,7 @@ void ProjectChecking::publish() {
 }
 
 Finding ProjectChecking::listed(const ProjectFinding& finding) {
-    const FindingWords words = wordsOf(finding, checked_->projectFile(), localNumeral);
+    const FindingWords words = wordsOf(finding, project()->projectFile(), localNumeral);
     Finding row{QString::fromStdString(words.source), QString::fromStdString(words.check),
                 QString::fromStdString(words.place), QString::fromStdString(words.reason)};
     const ProjectProblem problem = finding.problem;
@@ -152,6 +181,8 @@ Finding ProjectChecking::listed(const ProjectFinding& finding) {
         row.open = [this, finding] { open(finding); };
     if (problem == ProjectProblem::MissingFile || problem == ProjectProblem::MovedFile)
         row.relink = [this, finding] { relinkFrom(finding); };
+    if (problem == ProjectProblem::FolderMissing)
+        row.relink = [this, finding] { relinkFolderOf(finding); };
     if (problem == ProjectProblem::UnusedFile)
         row.add = [this, file = finding.file] { addFile(file); };
     return row;
@@ -188,6 +219,27 @@ void ProjectChecking::relinkFrom(const ProjectFinding& finding) {
         const WaitCursorScope wait;
         files = filesOfMove(project()->projectFile(), finding.picture, finding.ofPalette, *chosen);
     }
+    offer(std::move(files));
+}
+
+/// Where none of the project's missing files is in the new folder, it takes the place of the old one all the
+/// same.
+void ProjectChecking::relinkFolderOf(const ProjectFinding& finding) {
+    const auto chosen = chooseFolder(finding.file);
+    if (!chosen || project() == nullptr)
+        return;
+    std::vector<RelinkedFile> files;
+    {
+        const WaitCursorScope wait;
+        files = filesOfFolder(project()->projectFile(), finding.file, *chosen);
+    }
+    if (!files.empty())
+        return offer(std::move(files));
+    project()->Repair(relinkFolder(project()->projectFile(), finding.file, *chosen));
+    begin();
+}
+
+void ProjectChecking::offer(std::vector<RelinkedFile> files) {
     const std::function<QStringList(const RelinkedFile&)> cells = [](const RelinkedFile& file) {
         return QStringList{QString::fromStdString(file.picture), displayed(file.from), displayed(file.to)};
     };
@@ -245,25 +297,18 @@ void ProjectChecking::OnCheck() {
 }
 
 void ProjectChecking::OnAddFolder() {
-    const std::unique_ptr<CFolderPick> pick = CFolderPick::create();
-    if (pick == nullptr) {
-        const std::string control = kFolderPick;
-        applicationMessage(text(StringId::ControlMissing, {control}));
-        return;
-    }
-    std::string folder = project()->imageDirectory();
-    pick->setFolder(folder);
-    if (!pick->choose(folder) || project() == nullptr)
+    const auto folder = chooseFolder(project()->imageDirectory());
+    if (!folder || project() == nullptr)
         return;
     FolderPictures found;
     {
         const WaitCursorScope wait;
-        found = picturesOfFolder(project()->projectFile(), folder);
+        found = picturesOfFolder(project()->projectFile(), *folder);
     }
     const QString left = shown(StringId::AddFolderLeft,
                                {counted(found.known), counted(found.withoutPalette), counted(found.notHeld)});
     if (found.pairs.empty()) {
-        const std::string none = text(StringId::AddFolderNone, {displayPath(folder)});
+        const std::string none = text(StringId::AddFolderNone, {displayPath(*folder)});
         applicationMessage(none + '\n' + left.toStdString(), MessageIcon::Information);
         return;
     }
@@ -274,7 +319,7 @@ void ProjectChecking::OnAddFolder() {
     const CheckListSheet::Words words{
         "IDD_ADD_FOLDER",
         shown(StringId::AddFolderCaption),
-        shown(StringId::AddFolderQuestion, {counted(found.pairs.size()), displayPath(folder)}),
+        shown(StringId::AddFolderQuestion, {counted(found.pairs.size()), displayPath(*folder)}),
         found.known + found.withoutPalette + found.notHeld > 0 ? left : QString(),
         {shown(StringId::AddFolderColumnPicture), shown(StringId::AddFolderColumnImage),
          shown(StringId::AddFolderColumnPalette)},

@@ -5,6 +5,7 @@
 
 #include <QTimer>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -17,6 +18,7 @@ class CTPFDocument;
 class FindingsDock;
 class Workspace;
 struct Finding;
+struct RelinkedFile;
 
 /// Checks the open project, a little at a time, so that nobody waits for it; lists what it finds, and carries
 /// out what can be done about that. What was changed so is one step to take back.
@@ -41,6 +43,8 @@ private:
     void goTo(const std::string& picture);
     void open(const ProjectFinding& finding);
     void relinkFrom(const ProjectFinding& finding);
+    void relinkFolderOf(const ProjectFinding& finding);
+    void offer(std::vector<RelinkedFile> files);
     void removePicture(const std::string& name);
     void addFile(const std::string& path);
 
@@ -52,8 +56,11 @@ private:
 
     Workspace& workspace_;
     FindingsDock* dock_ = nullptr;
-    const CTPFDocument* checked_ = nullptr; ///< The project whose findings are listed, or being looked for.
+    /// The number of the project whose findings are listed, or being looked for; 0: of none.
+    std::uint64_t checked_ = 0;
+    std::uint64_t changes_ = 0; ///< Of it, when it was last looked at.
     QTimer work_;
+    QTimer again_; ///< Runs once the project has been left alone for a while after a change.
     std::unique_ptr<ProjectCheck> check_;
     std::optional<std::vector<ProjectFinding>> found_;
 };

@@ -105,6 +105,19 @@ TEST_F(Repairs, LeaveTheFolderWhereNotAllOfItsFilesAreAccepted) {
     EXPECT_EQ(document_.projectFile().tmfDir, "c:\\p\\tex");
 }
 
+TEST_F(Repairs, PutAFolderInThePlaceOfAMissingOne) {
+    openRandom(3);
+    rename("c:\\p\\pal", "c:\\q");
+    const auto files = filesOfFolder(document_.projectFile(), "c:\\p\\pal", "c:\\q");
+    EXPECT_EQ(files.size(), 40U);
+    document_.Repair(relink(document_.projectFile(), files).repair);
+    EXPECT_EQ(missing(), std::vector<std::string>());
+    // With nothing in it that is missed.
+    document_.Repair(relinkFolder(document_.projectFile(), "c:\\q", "c:\\r"));
+    EXPECT_EQ(document_.projectFile().tlfDir, "c:\\r");
+    EXPECT_EQ(document_.projectFile().tmfDir, "c:\\p\\tex");
+}
+
 TEST_F(Repairs, AddTheImagesOfAFolderThatHaveAPaletteOfTheirNameAndAreNew) {
     openPictures({"sky"});
     for (const char* file : {"sky.tmf", "sky.tlf", "tex\\SEA.tmf", "tex\\sea.TLF", "tex\\Sky.tmf",
