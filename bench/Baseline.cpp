@@ -4,6 +4,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
@@ -86,17 +87,29 @@ void measureWrite(benchmark::State& state, std::size_t bytes) {
     }
 }
 
+void measureReplace(benchmark::State& state, std::size_t bytes) {
+    const ScratchFolder scratch;
+    const std::vector<char> from(bytes, 1);
+    const std::string beside = scratch.path() + "/beside";
+    const std::string place = scratch.path() + "/plain";
+    for (auto _ : state) {
+        const int folder = ::open(scratch.path().c_str(), O_RDONLY | O_DIRECTORY);
+        if (!writeFlushed(beside, from) || std::rename(beside.c_str(), place.c_str()) != 0 ||
+            ::fsync(folder) != 0)
+            state.SkipWithError("the file could not be replaced");
+        ::close(folder);
+    }
+}
+
 } // namespace
 
 std::string baseline(Baseline kind, std::size_t bytes) {
     const struct {
         const char* name;
         void (*measure)(benchmark::State&, std::size_t);
-    } kinds[] = {{"memset", measureMemset},
-                 {"memcpy", measureMemcpy},
-                 {"memcpy-fresh", measureMemcpyFresh},
-                 {"read", measureRead},
-                 {"write-flushed", measureWrite}};
+    } kinds[] = {
+        {"memset", measureMemset}, {"memcpy", measureMemcpy},       {"memcpy-fresh", measureMemcpyFresh},
+        {"read", measureRead},     {"write-flushed", measureWrite}, {"replace-flushed", measureReplace}};
     static std::set<std::string> registered;
     const auto& chosen = kinds[static_cast<std::size_t>(kind)];
     const std::string name = std::string("base/") + chosen.name + "/" + std::to_string(bytes);
@@ -105,7 +118,7 @@ std::string baseline(Baseline kind, std::size_t bytes) {
     auto* measured = benchmark::RegisterBenchmark(name.c_str(), chosen.measure, bytes);
     measured->Unit(benchmark::kMicrosecond);
     // Files are waited for; all else is work of the processor, whatever else it has to do meanwhile.
-    if (kind == Baseline::Read || kind == Baseline::Write)
+    if (kind == Baseline::Read || kind == Baseline::Write || kind == Baseline::Replace)
         measured->UseRealTime();
     return name;
 }

@@ -11,7 +11,8 @@ enum class Baseline {
     Memcpy,      ///< Between areas that were touched before.
     MemcpyFresh, ///< Into memory that is allocated and freed each time.
     Read,        ///< A file, with one call, into memory that is allocated and freed each time.
-    Write        ///< A file, with one call, flushed to the disk.
+    Write,       ///< A file, with one call, flushed to the disk.
+    Replace      ///< The same under another name, which then takes the place of the old one for good.
 };
 
 /// The baseline's name in the output; it is registered when it is asked for first. A case carries the name as

@@ -88,7 +88,7 @@ void registerFileCases() {
         TlutData table;
         return table.readTlf("c:\\bench.tlf");
     });
-    add("saveTlf/256", Baseline::Write, kTlfBytes, save, save);
+    add("saveTlf/256", Baseline::Replace, kTlfBytes, save, save);
 }
 
 } // namespace dyeworks
