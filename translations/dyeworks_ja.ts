@@ -1829,6 +1829,38 @@ written. Files of pictures that are gone from the project are removed.</source>
         <source>Findings: %1</source>
         <translation>問題 %1 件</translation>
     </message>
+    <message>
+        <source>Make a small picture of a file, as file managers show it.</source>
+        <translation>ファイルマネージャーが表示するような、ファイルの小さな画像を作ります。</translation>
+    </message>
+    <message>
+        <source>Image (.tmf), palette (.tlf) or project (.tpf), as a path or a file: address</source>
+        <translation>画像 (.tmf)、パレット (.tlf)、プロジェクト (.tpf) のパスまたは file: アドレス</translation>
+    </message>
+    <message>
+        <source>PNG file to write</source>
+        <translation>書き込む PNG ファイル</translation>
+    </message>
+    <message>
+        <source>Pixels that neither side of the picture exceeds</source>
+        <translation>画像の縦横が超えないピクセル数</translation>
+    </message>
+    <message>
+        <source>Exit code: 0 done, 2 wrong arguments, 3 the file cannot be shown or the picture cannot be written.</source>
+        <translation>終了コード: 0 完了、2 引数の誤り、3 ファイルを表示できないか、画像を書き込めない。</translation>
+    </message>
+    <message>
+        <source>Only files of this computer can be read.</source>
+        <translation>このコンピューターのファイルだけを読み込めます。</translation>
+    </message>
+    <message>
+        <source>The project has no picture that can be read.</source>
+        <translation>読み込めるピクチャーがプロジェクトにありません。</translation>
+    </message>
+    <message>
+        <source>Reading it takes too much time or memory.</source>
+        <translation>読み込みに時間またはメモリがかかりすぎます。</translation>
+    </message>
 </context>
 <context>
     <name>FolderPick</name>

@@ -268,6 +268,24 @@ constexpr Row kRows[] = {
         QT_TRANSLATE_NOOP("CommandLine", "The file is cut off: %1 bytes of texels are missing.")},
     Row{CliText::CheckWholeFile, QT_TRANSLATE_NOOP("CommandLine", "whole file")},
     Row{CliText::CheckDone, QT_TRANSLATE_NOOP("CommandLine", "Findings: %1")},
+    Row{CliText::ThumbnailSummary,
+        QT_TRANSLATE_NOOP("CommandLine", "Make a small picture of a file, as file managers show it.")},
+    Row{CliText::ThumbnailInput,
+        QT_TRANSLATE_NOOP("CommandLine",
+                          "Image (.tmf), palette (.tlf) or project (.tpf), as a path or a file: address")},
+    Row{CliText::ThumbnailOutput, QT_TRANSLATE_NOOP("CommandLine", "PNG file to write")},
+    Row{CliText::ThumbnailSize,
+        QT_TRANSLATE_NOOP("CommandLine", "Pixels that neither side of the picture exceeds")},
+    Row{CliText::ThumbnailFooter,
+        QT_TRANSLATE_NOOP("CommandLine",
+                          "Exit code: 0 done, 2 wrong arguments, 3 the file cannot be shown or the picture "
+                          "cannot be written.")},
+    Row{CliText::ThumbnailNotHere,
+        QT_TRANSLATE_NOOP("CommandLine", "Only files of this computer can be read.")},
+    Row{CliText::ThumbnailNoPictures,
+        QT_TRANSLATE_NOOP("CommandLine", "The project has no picture that can be read.")},
+    Row{CliText::ThumbnailTooLong,
+        QT_TRANSLATE_NOOP("CommandLine", "Reading it takes too much time or memory.")},
 };
 
 constexpr bool areInOrder() {
