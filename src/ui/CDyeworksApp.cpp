@@ -10,6 +10,7 @@
 #include "ui/CMainFrame.h"
 #include "ui/ClosingQuestions.h"
 #include "ui/FileWait.h"
+#include "ui/OpenImages.h"
 #include "ui/palettebar/CPaletteBar.h"
 
 #include <algorithm>
@@ -210,6 +211,11 @@ bool CDyeworksApp::askToSaveAll() {
         return true;
     project->RestartPlugIns();
     return false;
+}
+
+void CDyeworksApp::giveUpDrags() {
+    for (CDyeworksDoc* const image : openImages(*this))
+        image->jointSide().settle();
 }
 
 std::vector<CDocument*> CDyeworksApp::documents() const {

@@ -62,6 +62,8 @@ public:
     [[nodiscard]] bool InitInstance(const CommandLine& commandLine);
     /// Keeps the settings and lets go of the window and the palettes. The result is the process's exit code.
     int ExitInstance();
+    /// Takes back what drags have done in images so far.
+    void giveUpDrags();
 
     [[nodiscard]] CMainFrame& mainFrame() noexcept override { return *mainFrame_; }
     [[nodiscard]] bool hasMainFrame() const noexcept override { return mainFrame_ != nullptr; }
