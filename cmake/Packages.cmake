@@ -55,10 +55,13 @@ set(CPACK_DEBIAN_SDK_PACKAGE_NAME orrery-dyeworks-dev)
 set(CPACK_DEBIAN_SDK_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_SDK_PACKAGE_ARCHITECTURE all)
 set(CPACK_DEBIAN_SDK_PACKAGE_SHLIBDEPS OFF)
-set(CPACK_DEBIAN_SDK_PACKAGE_RECOMMENDS "cmake, orrery-dyeworks")
+set(CPACK_DEBIAN_SDK_PACKAGE_RECOMMENDS "cmake, orrery-dyeworks, orrery-dyeworks-cli")
 set(CPACK_COMPONENT_SDK_DESCRIPTION
   "Headers, a package for CMake, a plug-in to start from and a guide for authors
-of plug-ins of Orrery Dyeworks, an editor for colour-indexed console textures.")
+of plug-ins of Orrery Dyeworks, an editor for colour-indexed console textures.
+.
+The package for CMake also takes the textures of a project into a build, which
+dyeworks-cli writes.")
 
 # What packages have besides, see there.
 set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/packaging/complete-packages.cmake")
