@@ -46,7 +46,7 @@ set(CPACK_DEBIAN_CLI_PACKAGE_SUGGESTS orrery-dyeworks)
 set(CPACK_COMPONENT_CLI_DESCRIPTION
   "dyeworks-cli does what a build or a script asks of the textures of game
 consoles: tells what files hold, converts between TMF, PNG, BMP, C source and
-raw bytes, makes the pictures of a project as far as they have changed, and
+raw bytes, reads JPEG, makes the pictures of a project as far as they have changed, and
 works on palettes with the images that show them.
 .
 It needs no display and speaks English and Japanese.")

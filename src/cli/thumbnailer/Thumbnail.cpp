@@ -77,6 +77,7 @@ Result<Picture, std::string> thumbnail(HostFileReader& file, const std::string& 
         return ofProject(start, file, path, side);
     case FileKind::Png:
     case FileKind::Bitmap:
+    case FileKind::Jpeg:
     case FileKind::PaletteFile:
     case FileKind::Unknown:
         break;
