@@ -1,7 +1,8 @@
 # Textures of a project file as part of a build.
 
 cmake_policy(PUSH)
-cmake_policy(VERSION 3.25)
+# What a plug-in needs, too: the package is one. Both generators know depfiles from there on.
+cmake_policy(VERSION 3.20)
 
 # dyeworks_textures(TARGET <target> PROJECT <file.tpf> [FORMAT c|h|raw|png|bmp|tmf] [OUTPUT_DIR <folder>]
 #                   [ALIGN <bytes>] [WHOLE_PALETTE] [DRIVES <letter=folder>...])
