@@ -1363,8 +1363,8 @@ Exit code: 0 done, 1 something found, 2 wrong arguments, 3 trouble with files.</
         <translation>ファイルの内容を表示します。</translation>
     </message>
     <message>
-        <source>Images, palettes, projects, pictures (PNG, BMP) and palette files of other programs</source>
-        <translation>画像、パレット、プロジェクト、画像ファイル（PNG、BMP）、他のプログラムのパレットファイル</translation>
+        <source>Images, palettes, projects, pictures (PNG, BMP, JPEG) and palette files of other programs</source>
+        <translation>画像、パレット、プロジェクト、画像ファイル（PNG、BMP、JPEG）、他のプログラムのパレットファイル</translation>
     </message>
     <message>
         <source>Tell it as JSON</source>
@@ -1439,8 +1439,8 @@ Exit code: 0 done, 1 something found, 2 wrong arguments, 3 trouble with files.</
         <translation>名前</translation>
     </message>
     <message>
-        <source>The file is neither an image nor a picture that can be read (PNG, BMP).</source>
-        <translation>画像ファイルでも、読み込める画像（PNG、BMP）でもありません。</translation>
+        <source>The file is neither an image nor a picture that can be read (PNG, BMP, JPEG).</source>
+        <translation>画像ファイルでも、読み込める画像（PNG、BMP、JPEG）でもありません。</translation>
     </message>
     <message>
         <source>The file brings no palette.</source>
@@ -1495,8 +1495,8 @@ Exit code: 0 done, 1 something found, 2 wrong arguments, 3 trouble with files.</
         <translation>画像、画像ファイル、パレットを他の形式に変換します。</translation>
     </message>
     <message>
-        <source>Images (.tmf), pictures (PNG, BMP), palettes (.tlf) and palette files (.gpl, .pal, .act, .hex)</source>
-        <translation>画像（.tmf）、画像ファイル（PNG、BMP）、パレット（.tlf）、パレットファイル（.gpl、.pal、.act、.hex）</translation>
+        <source>Images (.tmf), pictures (PNG, BMP, JPEG), palettes (.tlf) and palette files (.gpl, .pal, .act, .hex)</source>
+        <translation>画像（.tmf）、画像ファイル（PNG、BMP、JPEG）、パレット（.tlf）、パレットファイル（.gpl、.pal、.act、.hex）</translation>
     </message>
     <message>
         <source>Where the result goes; for several files a folder</source>
@@ -1750,8 +1750,8 @@ written. Files of pictures that are gone from the project are removed.</source>
         <translation>画像をエディターと同じ見た目で、またはプロジェクトのピクチャーを並べて描画します。</translation>
     </message>
     <message>
-        <source>An image (.tmf), a picture (PNG, BMP) or a project (.tpf)</source>
-        <translation>画像（.tmf）、画像ファイル（PNG、BMP）、またはプロジェクト（.tpf）</translation>
+        <source>An image (.tmf), a picture (PNG, BMP, JPEG) or a project (.tpf)</source>
+        <translation>画像（.tmf）、画像ファイル（PNG、BMP、JPEG）、またはプロジェクト（.tpf）</translation>
     </message>
     <message>
         <source>The PNG file to write</source>

@@ -62,7 +62,7 @@ constexpr Row kRows[] = {
     Row{CliText::InfoFiles,
         QT_TRANSLATE_NOOP(
             "CommandLine",
-            "Images, palettes, projects, pictures (PNG, BMP) and palette files of other programs")},
+            "Images, palettes, projects, pictures (PNG, BMP, JPEG) and palette files of other programs")},
     Row{CliText::InfoJson, QT_TRANSLATE_NOOP("CommandLine", "Tell it as JSON")},
     Row{CliText::InfoBetween, QT_TRANSLATE_NOOP("CommandLine", ", ")},
     Row{CliText::InfoSize, QT_TRANSLATE_NOOP("CommandLine", "%1 x %2")},
@@ -82,7 +82,7 @@ constexpr Row kRows[] = {
     Row{CliText::TypeName, QT_TRANSLATE_NOOP("CommandLine", "NAME")},
     Row{CliText::NoPicture,
         QT_TRANSLATE_NOOP("CommandLine",
-                          "The file is neither an image nor a picture that can be read (PNG, BMP).")},
+                          "The file is neither an image nor a picture that can be read (PNG, BMP, JPEG).")},
     Row{CliText::BringsNoPalette, QT_TRANSLATE_NOOP("CommandLine", "The file brings no palette.")},
     Row{CliText::PaletteIsNoPicture,
         QT_TRANSLATE_NOOP("CommandLine", "A palette alone cannot be written in this format.")},
@@ -109,8 +109,9 @@ constexpr Row kRows[] = {
     Row{CliText::ConvertSummary,
         QT_TRANSLATE_NOOP("CommandLine", "Convert images, pictures and palettes into other formats.")},
     Row{CliText::ConvertInputs,
-        QT_TRANSLATE_NOOP("CommandLine", "Images (.tmf), pictures (PNG, BMP), palettes (.tlf) and palette "
-                                         "files (.gpl, .pal, .act, .hex)")},
+        QT_TRANSLATE_NOOP("CommandLine",
+                          "Images (.tmf), pictures (PNG, BMP, JPEG), palettes (.tlf) and palette "
+                          "files (.gpl, .pal, .act, .hex)")},
     Row{CliText::ConvertOutput,
         QT_TRANSLATE_NOOP("CommandLine", "Where the result goes; for several files a folder")},
     Row{CliText::ConvertFormat,
@@ -234,7 +235,7 @@ constexpr Row kRows[] = {
             "CommandLine",
             "Draw an image as the editor shows it, or the pictures of a project side by side.")},
     Row{CliText::RenderInput,
-        QT_TRANSLATE_NOOP("CommandLine", "An image (.tmf), a picture (PNG, BMP) or a project (.tpf)")},
+        QT_TRANSLATE_NOOP("CommandLine", "An image (.tmf), a picture (PNG, BMP, JPEG) or a project (.tpf)")},
     Row{CliText::RenderOutput, QT_TRANSLATE_NOOP("CommandLine", "The PNG file to write")},
     Row{CliText::RenderPalette,
         QT_TRANSLATE_NOOP("CommandLine", "Palette that the image is shown with; greys without one")},

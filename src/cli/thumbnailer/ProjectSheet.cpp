@@ -20,6 +20,8 @@ namespace {
 constexpr std::size_t kHeaderSize = 64;
 constexpr std::int32_t kLeastSide = 24; ///< Of a picture that can be told from others.
 constexpr std::int32_t kMostColumns = 8;
+/// To look for a file that is not there takes its whole folder.
+constexpr std::size_t kMostMissing = 500;
 
 /// Where a picture's files are.
 struct Place {
@@ -31,14 +33,17 @@ struct Place {
 std::vector<Place> placesOf(const CTPFFile& project, std::size_t most) {
     PictureFiles files(project);
     std::vector<Place> places;
+    std::size_t missing = 0;
     for (const std::string& name : project.order) {
-        if (places.size() == most)
+        if (places.size() == most || missing == kMostMissing)
             break;
         const PictureEntry& entry = project.pictures.at(name);
         const FoundFile image = files.image(entry.tmfFile);
         if (image.stamp)
             places.push_back({image.path, entry.tlfFile.empty() ? "" : files.palette(entry.tlfFile).path,
                               entry.paletteNo});
+        else
+            ++missing;
     }
     return places;
 }

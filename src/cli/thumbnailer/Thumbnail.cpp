@@ -23,7 +23,7 @@ namespace {
 using Made = Result<Picture, std::string>;
 
 constexpr std::size_t kHeaderSize = 64;
-constexpr std::uint64_t kMostProjectBytes = 16U << 20U;
+constexpr std::uint64_t kMostProjectBytes = 4U << 20U;
 
 /// The header, which was read already, and what follows it up to `most` bytes in all.
 std::vector<std::byte> wholeOf(std::span<const std::byte> start, HostFileReader& file, std::size_t most) {
@@ -77,6 +77,7 @@ Result<Picture, std::string> thumbnail(HostFileReader& file, const std::string& 
         return ofProject(start, file, path, side);
     case FileKind::Png:
     case FileKind::Bitmap:
+    case FileKind::Jpeg:
     case FileKind::PaletteFile:
     case FileKind::Unknown:
         break;
