@@ -1241,6 +1241,56 @@ Revert to Before Check</source>
         <translation>検査後にリンクし直し、外し、追加したものを元に戻すか、やり直します
 検査前に戻す</translation>
     </message>
+    <message>
+        <source>Take the palette entry before the current one
+Previous Entry</source>
+        <translation>現在のパレット エントリーの 1 つ前を選びます
+前のエントリー</translation>
+    </message>
+    <message>
+        <source>Take the palette entry after the current one
+Next Entry</source>
+        <translation>現在のパレット エントリーの 1 つ後を選びます
+次のエントリー</translation>
+    </message>
+    <message>
+        <source>Take the palette entry above the current one
+Entry Above</source>
+        <translation>現在のパレット エントリーの 1 段上を選びます
+上のエントリー</translation>
+    </message>
+    <message>
+        <source>Take the palette entry below the current one
+Entry Below</source>
+        <translation>現在のパレット エントリーの 1 段下を選びます
+下のエントリー</translation>
+    </message>
+    <message>
+        <source>Take the entry of the texel at the texel cursor, or at the pointer
+Pick Entry of Texel</source>
+        <translation>テクセル カーソル、またはポインタの位置のテクセルのエントリーを選びます
+テクセルのエントリーを選ぶ</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Entry</source>
+        <translation>前のエントリー(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Next Entry</source>
+        <translation>次のエントリー(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Entry &amp;Above</source>
+        <translation>上のエントリー(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Entry &amp;Below</source>
+        <translation>下のエントリー(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Entry of &amp;Texel</source>
+        <translation>テクセルのエントリー(&amp;T)</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -1926,6 +1976,10 @@ written. Files of pictures that are gone from the project are removed.</source>
     <message>
         <source>C&amp;hange Entries</source>
         <translation>エントリの変更(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Entry</source>
+        <translation>エントリー(&amp;E)</translation>
     </message>
 </context>
 <context>
@@ -4491,6 +4545,30 @@ The file is no longer whole. Save under another name; until then what was to be 
     <message>
         <source>&amp;End the Program</source>
         <translation>プログラムを終了(&amp;E)</translation>
+    </message>
+    <message>
+        <source>red %1, green %2, blue %3, alpha %4</source>
+        <translation>赤 %1、緑 %2、青 %3、アルファ %4</translation>
+    </message>
+    <message>
+        <source>intensity %1, alpha %2</source>
+        <translation>輝度 %1、アルファ %2</translation>
+    </message>
+    <message>
+        <source>not in the palette</source>
+        <translation>パレットにありません</translation>
+    </message>
+    <message>
+        <source>Entry %1: %2</source>
+        <translation>エントリー %1: %2</translation>
+    </message>
+    <message>
+        <source>%1, %2: value %3</source>
+        <translation>%1, %2: 値 %3</translation>
+    </message>
+    <message>
+        <source>%1, %2: entry %3, %4</source>
+        <translation>%1, %2: エントリー %3、%4</translation>
     </message>
 </context>
 </TS>
