@@ -1291,6 +1291,26 @@ Pick Entry of Texel</source>
         <source>Entry of &amp;Texel</source>
         <translation>テクセルのエントリー(&amp;T)</translation>
     </message>
+    <message>
+        <source>Next &amp;Pane</source>
+        <translation>次のペイン(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Go on to the next of document, bars, lists and palette bar
+Next Pane</source>
+        <translation>文書、バー、一覧、パレット バーのうち次のものへ移ります
+次のペイン</translation>
+    </message>
+    <message>
+        <source>P&amp;revious Pane</source>
+        <translation>前のペイン(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Go back to the previous of document, bars, lists and palette bar
+Previous Pane</source>
+        <translation>文書、バー、一覧、パレット バーのうち前のものへ戻ります
+前のペイン</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -4207,8 +4227,8 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <translation>検査を中止します。一覧はそのまま残ります</translation>
     </message>
     <message>
-        <source>Re&amp;link...</source>
-        <translation>リンクし直す(&amp;L)...</translation>
+        <source>Reli&amp;nk...</source>
+        <translation>リンクし直す(&amp;N)...</translation>
     </message>
     <message>
         <source>Choose where the file is now; others that moved with it are offered</source>
@@ -4339,16 +4359,16 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <translation>ファイルの今の内容でプロジェクトを開き直します。未保存の変更があれば確認します</translation>
     </message>
     <message>
-        <source>Keep &amp;Mine</source>
-        <translation>このまま(&amp;M)</translation>
+        <source>Keep M&amp;y Version</source>
+        <translation>このまま(&amp;Y)</translation>
     </message>
     <message>
         <source>Leave what is here as it is; the next save replaces the file</source>
         <translation>ここにある内容をそのままにします。次に保存するとファイルを置き換えます</translation>
     </message>
     <message>
-        <source>&amp;Compare</source>
-        <translation>比較(&amp;C)</translation>
+        <source>C&amp;ompare</source>
+        <translation>比較(&amp;O)</translation>
     </message>
     <message>
         <source>Show the image of the file and this one in turn</source>
@@ -4403,8 +4423,8 @@ Save over it all the same?</source>
         <translation>プロジェクトを検査(&amp;K)</translation>
     </message>
     <message>
-        <source>Add to Pr&amp;oject</source>
-        <translation>プロジェクトに追加(&amp;O)</translation>
+        <source>Add to Projec&amp;t</source>
+        <translation>プロジェクトに追加(&amp;T)</translation>
     </message>
     <message>
         <source>%1 findings in the project.</source>
@@ -4569,6 +4589,10 @@ The file is no longer whole. Save under another name; until then what was to be 
     <message>
         <source>%1, %2: entry %3, %4</source>
         <translation>%1, %2: エントリー %3、%4</translation>
+    </message>
+    <message>
+        <source>More of the bar %1</source>
+        <translation>%1 バーの続き</translation>
     </message>
 </context>
 </TS>

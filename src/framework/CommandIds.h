@@ -175,6 +175,8 @@ inline constexpr CommandId ID_ENTRY_NEXT = 33251;
 inline constexpr CommandId ID_ENTRY_ROW_UP = 33252;
 inline constexpr CommandId ID_ENTRY_ROW_DOWN = 33253;
 inline constexpr CommandId ID_ENTRY_PICK = 33254;
+inline constexpr CommandId ID_PANE_NEXT = 33255;
+inline constexpr CommandId ID_PANE_PREVIOUS = 33256;
 // NOLINTEND(readability-identifier-naming)
 
 } // namespace dyeworks

@@ -322,6 +322,15 @@ constexpr CommandRow kRows[] = {
                QT_TRANSLATE_NOOP("Command", "Take the entry of the texel at the texel cursor, or at the "
                                             "pointer\nPick Entry of Texel"),
                "D", ""},
+    CommandRow{
+        ID_PANE_NEXT, QT_TRANSLATE_NOOP("Command", "Next &Pane"),
+        QT_TRANSLATE_NOOP("Command", "Go on to the next of document, bars, lists and palette bar\nNext Pane"),
+        "F6", ""},
+    CommandRow{
+        ID_PANE_PREVIOUS, QT_TRANSLATE_NOOP("Command", "P&revious Pane"),
+        QT_TRANSLATE_NOOP("Command",
+                          "Go back to the previous of document, bars, lists and palette bar\nPrevious Pane"),
+        "Shift+F6", ""},
     CommandRow{ID_FILE_NEW, QT_TRANSLATE_NOOP("Command", "&New"),
                QT_TRANSLATE_NOOP("Command", "Create a new document\nNew"), "Ctrl+N", "new"},
     CommandRow{ID_FILE_OPEN, QT_TRANSLATE_NOOP("Command", "&Open..."),

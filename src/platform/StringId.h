@@ -445,6 +445,7 @@ enum class StringId : int {
     EntryTold,      ///< %1 entry, %2 its colour
     TexelTold,      ///< %1, %2 place, %3 value
     TexelToldEntry, ///< %1, %2 place, %3 entry, %4 its colour
+    MoreOfBar,      ///< Button of a tool bar that is too narrow; %1 title of the bar
     ProjectBarAdd,
     ProjectBarChange,
     ProjectBarRemove,

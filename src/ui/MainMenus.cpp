@@ -316,7 +316,8 @@ constexpr std::array kTreeProjectMenu{
 
 constexpr std::array kWindowMenu{
     MenuItem{ID_WINDOW_NEW},       MenuItem{ID_WINDOW_CASCADE}, MenuItem{ID_WINDOW_TILE_HORZ},
-    MenuItem{ID_WINDOW_TILE_VERT}, MenuItem{ID_WINDOW_ARRANGE}, kWindowList,
+    MenuItem{ID_WINDOW_TILE_VERT}, MenuItem{ID_WINDOW_ARRANGE}, kSeparator,
+    MenuItem{ID_PANE_NEXT},        MenuItem{ID_PANE_PREVIOUS},  kWindowList,
 };
 
 constexpr std::array kHelpMenu{

@@ -21,7 +21,7 @@ const Ids kAlwaysEnabled{ID_PROJECT_NEW,      ID_PROJECT_OPEN,    ID_FILE_NEW,  
                          ID_CONTEXT_HELP,     ID_VIEW_PALETTEBAR, ID_VIEW_TOOLBAR,  ID_VIEW_DRAWBAR,
                          ID_VIEW_PROJECTBAR,  ID_VIEW_STATUS_BAR, ID_VIEW_VIEWBAR,  ID_FILE_IMPORT_BMP,
                          ID_PALETTE_IMPORT,   ID_VIEW_BRUSHBAR,   ID_VIEW_FINDINGS, ID_VIEW_USAGE,
-                         ID_VIEW_BANKSBAR};
+                         ID_VIEW_BANKSBAR,    ID_PANE_NEXT,       ID_PANE_PREVIOUS};
 
 /// Besides, with an unchanged project, in whose window the program is.
 const Ids kEnabledWithProject{
