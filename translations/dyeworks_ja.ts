@@ -1241,6 +1241,76 @@ Revert to Before Check</source>
         <translation>検査後にリンクし直し、外し、追加したものを元に戻すか、やり直します
 検査前に戻す</translation>
     </message>
+    <message>
+        <source>Take the palette entry before the current one
+Previous Entry</source>
+        <translation>現在のパレット エントリーの 1 つ前を選びます
+前のエントリー</translation>
+    </message>
+    <message>
+        <source>Take the palette entry after the current one
+Next Entry</source>
+        <translation>現在のパレット エントリーの 1 つ後を選びます
+次のエントリー</translation>
+    </message>
+    <message>
+        <source>Take the palette entry above the current one
+Entry Above</source>
+        <translation>現在のパレット エントリーの 1 段上を選びます
+上のエントリー</translation>
+    </message>
+    <message>
+        <source>Take the palette entry below the current one
+Entry Below</source>
+        <translation>現在のパレット エントリーの 1 段下を選びます
+下のエントリー</translation>
+    </message>
+    <message>
+        <source>Take the entry of the texel at the texel cursor, or at the pointer
+Pick Entry of Texel</source>
+        <translation>テクセル カーソル、またはポインタの位置のテクセルのエントリーを選びます
+テクセルのエントリーを選ぶ</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Entry</source>
+        <translation>前のエントリー(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Next Entry</source>
+        <translation>次のエントリー(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Entry &amp;Above</source>
+        <translation>上のエントリー(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Entry &amp;Below</source>
+        <translation>下のエントリー(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Entry of &amp;Texel</source>
+        <translation>テクセルのエントリー(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Next &amp;Pane</source>
+        <translation>次のペイン(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Go on to the next of document, bars, lists and palette bar
+Next Pane</source>
+        <translation>文書、バー、一覧、パレット バーのうち次のものへ移ります
+次のペイン</translation>
+    </message>
+    <message>
+        <source>P&amp;revious Pane</source>
+        <translation>前のペイン(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Go back to the previous of document, bars, lists and palette bar
+Previous Pane</source>
+        <translation>文書、バー、一覧、パレット バーのうち前のものへ戻ります
+前のペイン</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -1958,6 +2028,10 @@ written. Files of pictures that are gone from the project are removed.</source>
     <message>
         <source>C&amp;hange Entries</source>
         <translation>エントリの変更(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Entry</source>
+        <translation>エントリー(&amp;E)</translation>
     </message>
 </context>
 <context>
@@ -4185,8 +4259,8 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <translation>検査を中止します。一覧はそのまま残ります</translation>
     </message>
     <message>
-        <source>Re&amp;link...</source>
-        <translation>リンクし直す(&amp;L)...</translation>
+        <source>Reli&amp;nk...</source>
+        <translation>リンクし直す(&amp;N)...</translation>
     </message>
     <message>
         <source>Choose where the file is now; others that moved with it are offered</source>
@@ -4317,16 +4391,16 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <translation>ファイルの今の内容でプロジェクトを開き直します。未保存の変更があれば確認します</translation>
     </message>
     <message>
-        <source>Keep &amp;Mine</source>
-        <translation>このまま(&amp;M)</translation>
+        <source>Keep M&amp;y Version</source>
+        <translation>このまま(&amp;Y)</translation>
     </message>
     <message>
         <source>Leave what is here as it is; the next save replaces the file</source>
         <translation>ここにある内容をそのままにします。次に保存するとファイルを置き換えます</translation>
     </message>
     <message>
-        <source>&amp;Compare</source>
-        <translation>比較(&amp;C)</translation>
+        <source>C&amp;ompare</source>
+        <translation>比較(&amp;O)</translation>
     </message>
     <message>
         <source>Show the image of the file and this one in turn</source>
@@ -4381,8 +4455,8 @@ Save over it all the same?</source>
         <translation>プロジェクトを検査(&amp;K)</translation>
     </message>
     <message>
-        <source>Add to Pr&amp;oject</source>
-        <translation>プロジェクトに追加(&amp;O)</translation>
+        <source>Add to Projec&amp;t</source>
+        <translation>プロジェクトに追加(&amp;T)</translation>
     </message>
     <message>
         <source>%1 findings in the project.</source>
@@ -4523,6 +4597,34 @@ The file is no longer whole. Save under another name; until then what was to be 
     <message>
         <source>&amp;End the Program</source>
         <translation>プログラムを終了(&amp;E)</translation>
+    </message>
+    <message>
+        <source>red %1, green %2, blue %3, alpha %4</source>
+        <translation>赤 %1、緑 %2、青 %3、アルファ %4</translation>
+    </message>
+    <message>
+        <source>intensity %1, alpha %2</source>
+        <translation>輝度 %1、アルファ %2</translation>
+    </message>
+    <message>
+        <source>not in the palette</source>
+        <translation>パレットにありません</translation>
+    </message>
+    <message>
+        <source>Entry %1: %2</source>
+        <translation>エントリー %1: %2</translation>
+    </message>
+    <message>
+        <source>%1, %2: value %3</source>
+        <translation>%1, %2: 値 %3</translation>
+    </message>
+    <message>
+        <source>%1, %2: entry %3, %4</source>
+        <translation>%1, %2: エントリー %3、%4</translation>
+    </message>
+    <message>
+        <source>More of the bar %1</source>
+        <translation>%1 バーの続き</translation>
     </message>
 </context>
 </TS>

@@ -169,6 +169,14 @@ inline constexpr CommandId ID_VIEW_FINDINGS = 33211;
 inline constexpr CommandId ID_PROJECT_CHECK = 33230;
 inline constexpr CommandId ID_PROJECT_ADD_FOLDER = 33231;
 inline constexpr CommandId ID_PROJECT_REVERT_CHECK = 33232;
+
+inline constexpr CommandId ID_ENTRY_PREVIOUS = 33250;
+inline constexpr CommandId ID_ENTRY_NEXT = 33251;
+inline constexpr CommandId ID_ENTRY_ROW_UP = 33252;
+inline constexpr CommandId ID_ENTRY_ROW_DOWN = 33253;
+inline constexpr CommandId ID_ENTRY_PICK = 33254;
+inline constexpr CommandId ID_PANE_NEXT = 33255;
+inline constexpr CommandId ID_PANE_PREVIOUS = 33256;
 // NOLINTEND(readability-identifier-naming)
 
 } // namespace dyeworks

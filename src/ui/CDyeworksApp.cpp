@@ -155,6 +155,12 @@ void CDyeworksApp::RefreshAllImages() {
         image->RefreshOwnPalette();
 }
 
+void CDyeworksApp::showMessage(const std::string& text) {
+    constexpr int kMessagePane = 0;
+    if (mainFrame_ != nullptr)
+        mainFrame_->SetStatusText(text, kMessagePane);
+}
+
 void CDyeworksApp::BroadcastPaletteChange(const std::string& key, const TextureLookupTable& palette) {
     for (CDyeworksDoc* image : imageDocuments())
         image->PaletteChanged(key, &palette);

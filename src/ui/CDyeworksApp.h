@@ -111,6 +111,7 @@ public:
     void RefreshImagePalettes() override;
     /// The same, of images of other palettes than the current one, too.
     void RefreshAllImages() override;
+    void showMessage(const std::string& text) override;
     /// Shows the colours of `palette`, which may be a passing copy, in every image attached to that key.
     void BroadcastPaletteChange(const std::string& key, const TextureLookupTable& palette) override;
     bool ClosePictureDocuments(const std::vector<std::string>& paths,
