@@ -24,6 +24,12 @@ KnownFile::KnownFile(const std::string& path)
     , known_(platform().files().stamp(path_))
     , seen_(known_) {}
 
+KnownFile::KnownFile(const std::string& path, const FileStamp& known)
+    : path_(platform().files().fullPath(path))
+    , known_(known)
+    , contentsTried_(true) // It may be another version by now.
+    , seen_(known) {}
+
 bool KnownFile::isAt(const std::string& path) const {
     const Files& files = platform().files();
     return !path_.empty() && (files.fullPath(path) == path_ || files.hostPath(path) == files.hostPath(path_));

@@ -27,10 +27,15 @@ public:
     /// Of an owner that has just written the file or is about to read it: then what it reads is the version
     /// that is known, or a later one, which will be found to be a change.
     explicit KnownFile(const std::string& path);
+    /// Of an owner that has known this version for some time: what has become of the file since is found by
+    /// the next looks.
+    KnownFile(const std::string& path, const FileStamp& known);
 
     /// As a full path; empty without a file.
     [[nodiscard]] const std::string& path() const noexcept { return path_; }
     [[nodiscard]] bool isAt(const std::string& path) const;
+    /// The version that is known; nothing where there was no file.
+    [[nodiscard]] const std::optional<FileStamp>& known() const noexcept { return known_; }
 
     /// Looks at the file. Something new is told once it has been the same at two looks in a row.
     State look();

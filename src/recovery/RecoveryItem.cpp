@@ -68,6 +68,12 @@ std::string recoveryHeader(const RecoveryItem& item) {
     add("time", std::to_string(item.time));
     add("palette", item.attachedName);
     add("entry", std::to_string(item.firstEntry));
+    if (item.file) {
+        add("device", std::to_string(item.file->device));
+        add("identity", std::to_string(item.file->identity));
+        add("size", std::to_string(item.file->size));
+        add("changed", std::to_string(item.file->time));
+    }
     return header + '\n';
 }
 
@@ -100,6 +106,10 @@ std::optional<ReadRecoveryItem> parseRecoveryItem(std::span<const std::byte> fil
     result.item.path = unescaped(values["path"]);
     result.item.title = unescaped(values["title"]);
     result.item.attachedName = unescaped(values["palette"]);
+    FileStamp stamp;
+    if (take(values, "device", stamp.device) && take(values, "identity", stamp.identity) &&
+        take(values, "size", stamp.size) && take(values, "changed", stamp.time))
+        result.item.file = stamp;
     result.contents = file.last(rest.size());
     return result;
 }

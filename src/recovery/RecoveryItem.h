@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Files.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -24,6 +26,8 @@ struct RecoveryItem {
     std::int64_t time = 0;       ///< When it was kept, in seconds since 1970 (UTC).
     std::string attachedName;    ///< Of an image: the key of its palette, or empty.
     std::int32_t firstEntry = 0; ///< Of an image.
+    /// The version of its file that it knew; nothing without a file, and in what older versions have kept.
+    std::optional<FileStamp> file{};
 
     bool operator==(const RecoveryItem&) const = default;
 };

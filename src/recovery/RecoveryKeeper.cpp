@@ -89,7 +89,8 @@ std::vector<RecoveryKeeper::Subject> RecoveryKeeper::subjects() const {
         for (const auto& [key, palette] : set->palettes) {
             Subject subject;
             subject.key = "palette " + key;
-            subject.stamp.item = {RecoveryItem::Kind::Palette, key, palette->title, 0, {}, 0};
+            subject.stamp.item = {RecoveryItem::Kind::Palette, key, palette->title, 0, {}, 0,
+                                  palette->file().known()};
             // One that was never saved is in no file, changed or not.
             subject.unsaved = palette->hasUnsavedChanges() || key.starts_with('*');
             subject.table = &palette->table;
@@ -106,7 +107,8 @@ std::vector<RecoveryKeeper::Subject> RecoveryKeeper::subjects() const {
                               nameOf(*document),
                               0,
                               {},
-                              0};
+                              0,
+                              document->file().known()};
         if (image != nullptr) {
             subject.stamp.item.attachedName = image->attachedName();
             subject.stamp.item.firstEntry = image->paletteValue();

@@ -76,6 +76,12 @@ QIcon iconOf(const RecoveryItem& item, std::span<const std::byte> contents) {
     return iconOf(QImage());
 }
 
+/// What is recovered knows of its file what it did, so that what others have made of that is told.
+void takeFile(KnownFile& file, const RecoveryItem& item) {
+    if (item.file)
+        file = KnownFile(item.path, *item.file);
+}
+
 } // namespace
 
 CrashRecovery::CrashRecovery(Workspace& workspace)
@@ -267,6 +273,7 @@ bool CrashRecovery::openPalette(const RecoveryItem& item, const TlutData& table,
     palette->path = item.path;
     palette->titleFromPath();
     palette->markUnsaved();
+    takeFile(palette->file(), item);
     PaletteSet& set = *workspace_.paletteSet();
     if (!set.add(std::move(palette)))
         return false;
@@ -288,8 +295,10 @@ bool CrashRecovery::openImage(const RecoveryItem& item, const std::function<bool
         auto& image = static_cast<CDyeworksDoc&>(document);
         if (!fill(image))
             return false;
-        if (isFree)
+        if (isFree) {
             image.setPathName(item.path);
+            takeFile(image.file(), item);
+        }
         image.setAttachedName(key);
         image.setPaletteValue(item.firstEntry);
         image.RefreshOwnPalette();
@@ -299,7 +308,10 @@ bool CrashRecovery::openImage(const RecoveryItem& item, const std::function<bool
 
 bool CrashRecovery::openProject(const RecoveryItem& item, std::span<const std::byte> contents) {
     return workspace_.projectTemplate().newDocument(item.title, [&](CDocument& document) {
-        return static_cast<CTPFDocument&>(document).Recover(item.path, contents);
+        if (!static_cast<CTPFDocument&>(document).Recover(item.path, contents))
+            return false;
+        takeFile(document.file(), item);
+        return true;
     }) != nullptr;
 }
 

@@ -105,12 +105,13 @@ protected:
         for (const auto& image : images_) {
             if (image->hasUnsavedChanges())
                 all.insert(lineOf({RecoveryItem::Kind::Image, image->pathName(), image->title(), 0,
-                                   image->attachedName(), image->paletteValue()},
+                                   image->attachedName(), image->paletteValue(), image->file().known()},
                                   image->canvas().block()));
         }
         for (const auto& [key, palette] : host_.palettes.palettes)
-            all.insert(lineOf({RecoveryItem::Kind::Palette, key, palette->title, 0, {}, 0},
-                              packPalette(palette->table)));
+            all.insert(
+                lineOf({RecoveryItem::Kind::Palette, key, palette->title, 0, {}, 0, palette->file().known()},
+                       packPalette(palette->table)));
         return all;
     }
 
@@ -161,6 +162,22 @@ TEST_F(Recovery, RandomWorkIsOfferedAsItWasAndNothingElse) {
             state->discard();
         start();
     }
+}
+
+TEST_F(Recovery, AFileThatWasChangedSinceTheCrashIsNotSavedOverUnasked) {
+    const std::string path = "c:\\a.tmf";
+    fake_.files.putFile(path, "one");
+    const auto known = fake_.files.stamp(path);
+    ASSERT_TRUE(known);
+    KnownFile same(path, *known);
+    EXPECT_EQ(same.look(), KnownFile::State::Same);
+    EXPECT_TRUE(same.mayBeReplaced(path));
+    fake_.files.putFile(path, "another");
+    KnownFile file(path, *known);
+    EXPECT_EQ(file.look(), KnownFile::State::Unsettled);
+    EXPECT_EQ(file.look(), KnownFile::State::Changed);
+    fake_.messages.answerWith(MessageAnswer::Cancel);
+    EXPECT_FALSE(file.mayBeReplaced(path));
 }
 
 TEST_F(Recovery, WaitsForAPauseButNotForEver) {

@@ -417,10 +417,11 @@ void ImageView::keyReleaseEvent(QKeyEvent* event) {
 }
 
 void ImageView::timerEvent(QTimerEvent* event) {
-    if (event->timerId() == ticks_.timerId())
+    if (event->timerId() != ticks_.timerId())
+        return ScrollView::timerEvent(event);
+    // The desktop may have asked for less since.
+    if (motionIsWelcome())
         view_.Tick();
-    else
-        ScrollView::timerEvent(event);
 }
 
 void ImageView::loseCapture() {
