@@ -78,8 +78,9 @@ void put(Picture& sheet, Point corner, std::int32_t side, const Picture& picture
 
 std::optional<Picture> projectSheet(const CTPFFile& project, std::int32_t side) {
     const std::int32_t gap = side >= 64 ? 2 : 0;
-    const std::int32_t most = std::clamp((side + gap) / (kLeastSide + gap), 1, kMostColumns);
-    const std::vector<Place> places = placesOf(project, static_cast<std::size_t>(most * most));
+    const auto most =
+        static_cast<std::size_t>(std::clamp((side + gap) / (kLeastSide + gap), 1, kMostColumns));
+    const std::vector<Place> places = placesOf(project, most * most);
     if (places.empty())
         return std::nullopt;
     const auto count = static_cast<std::int32_t>(places.size());
