@@ -316,8 +316,7 @@ ImageView* CMainFrame::activeImageView() const {
 }
 
 void CMainFrame::OnWalkPanes(CommandId id) {
-    const ChildFrame* const child = activeChild();
-    std::vector<QWidget*> panes{child == nullptr ? nullptr : child->widget()};
+    std::vector<QWidget*> panes{activeChild()};
     for (QToolBar* bar : findChildren<QToolBar*>(Qt::FindDirectChildrenOnly))
         panes.push_back(bar);
     panes.insert(panes.end(), {findings_, banksBar_, paletteBar_});

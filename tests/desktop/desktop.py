@@ -84,7 +84,10 @@ class Desktop:
                                 XDG_RUNTIME_DIR=str(self.scratch / "runtime"))
         for name in ("XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"):
             self.environment.pop(name, None)
-        self.processes.append(subprocess.Popen(["openbox"], env=self.environment, stderr=subprocess.DEVNULL))
+        ready = self.scratch / "ready"
+        self.processes.append(subprocess.Popen(["openbox", "--startup", f"touch '{ready}'"], env=self.environment,
+                                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
+        wait("the window manager", ready.exists)
         Atspi.init()
         self.running = None
 

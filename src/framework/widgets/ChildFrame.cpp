@@ -21,6 +21,8 @@ ChildFrame::ChildFrame(CDocument& document, std::unique_ptr<QWidget> widget, Fra
     , view_(&view) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWidget(widget.release());
+    // Tab would stop at it, where no key does anything.
+    setFocusPolicy(Qt::ClickFocus);
     // Its keys are those of commands, and a key that stands for two things does neither.
     for (QAction* action : systemMenu()->actions())
         action->setShortcuts(QList<QKeySequence>());
