@@ -4,6 +4,7 @@
 #include "interchange/PaletteFile.h"
 #include "platform/FileMessages.h"
 #include "platform/posix/PosixStateFolder.h"
+#include "platform/qt/QtProfile.h"
 #include "recovery/RecoveryKeeper.h"
 
 #include <gmock/gmock.h>
@@ -174,6 +175,28 @@ private:
                              [this] { return &host_.palettes; }}};
 };
 
+class SettingsPath : public SavePath {
+public:
+    SettingsPath() {
+        fake.files.putFile("c:\\work\\settings.conf", "[Settings]\nold=1\n");
+        profile_.emplace((onDisk() / "settings.conf").string());
+    }
+    fs::path folder() override { return onDisk(); }
+    bool save() override {
+        profile_->setText("Settings\\Images", "new", "2, 3");
+        profile_->remove("Settings", "old");
+        profile_->sync();
+        const bool failed = profile_->takeTrouble().has_value();
+        told_ = told_ || failed;
+        return !failed;
+    }
+    bool told() override { return told_; }
+
+private:
+    std::optional<QtProfile> profile_;
+    bool told_ = false;
+};
+
 struct Row {
     const char* name;
     std::function<std::unique_ptr<SavePath>()> make;
@@ -190,6 +213,7 @@ TEST(SavePaths, KeepTheOldFileTellAndSaveAgainWhateverFails) {
         {"project", [] { return std::make_unique<ProjectPath>(); }},
         {"palette export", [] { return std::make_unique<ExportPath>(); }},
         {"plug-in export", [] { return std::make_unique<PlugInPath>(); }},
+        {"settings", [] { return std::make_unique<SettingsPath>(); }},
         {"recovery", [] { return std::make_unique<RecoveryPath>(); }},
     };
     std::cout << "path            call    calls failed-and-told saved-all-the-same\n";

@@ -95,6 +95,28 @@ TEST_F(ProfileTest, ReadsWhatIsWholeInADamagedFileAndWritesItAnew) {
     EXPECT_EQ(again.integer("Settings", "new", 0), 8);
 }
 
+TEST_F(ProfileTest, TwoProgramsAtOnceLoseNothingOfEachOther) {
+    const std::string file = host("shared.ini").toStdString();
+    QtProfile one(file);
+    QtProfile other(file);
+    for (const char* const value : {"1", "2", "3"}) {
+        one.setText("One", "a", value);
+        one.setText("One\\a", "nested", value);
+        other.setText("Other", "b", value);
+        one.sync();
+        other.sync();
+        one.remove("One", "a");
+        one.sync();
+        const QtProfile later(file);
+        EXPECT_EQ(later.text("One", "a"), std::nullopt);
+        EXPECT_EQ(later.text("One\\a", "nested"), value);
+        EXPECT_EQ(later.text("Other", "b"), value);
+        EXPECT_EQ(one.text("One\\a", "nested"), value) << "however little time has passed";
+        EXPECT_THAT(one.entries("One"), testing::IsEmpty());
+    }
+    EXPECT_EQ(QDir(scratch_.path()).entryList({"shared*"}), QStringList("shared.ini"));
+}
+
 TEST_F(ProfileTest, MapsADriveInEitherCase) {
     QDir(scratch_.path()).mkdir(QStringLiteral("tex"));
     write("tex/sky.tlf", "x");
