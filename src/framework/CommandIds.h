@@ -169,6 +169,13 @@ inline constexpr CommandId ID_VIEW_FINDINGS = 33211;
 inline constexpr CommandId ID_PROJECT_CHECK = 33230;
 inline constexpr CommandId ID_PROJECT_ADD_FOLDER = 33231;
 inline constexpr CommandId ID_PROJECT_REVERT_CHECK = 33232;
+
+inline constexpr CommandId ID_TEXTURE_NEW = 33260;
+inline constexpr CommandId ID_IMAGE_NEW_PALETTE = 33261;
+inline constexpr CommandId ID_VIEW_FULL_SCREEN = 33262;
+inline constexpr CommandId ID_VIEW_RESET_LAYOUT = 33263;
+inline constexpr CommandId ID_VIEW_START_PAGE = 33264;
+inline constexpr CommandId ID_VIEW_CELLS_ONLY = 33265;
 // NOLINTEND(readability-identifier-naming)
 
 } // namespace dyeworks
