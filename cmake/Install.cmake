@@ -12,13 +12,20 @@
 
 file(GLOB_RECURSE guide_pages CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/docs/guide/*")
 set(guide_pictures "${PROJECT_SOURCE_DIR}/docs/window.png" "${PROJECT_SOURCE_DIR}/data/icons/orrery-dyeworks.svg")
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+# The page of commands and keys is made of the program's own tables.
+set(guide_commands "${PROJECT_SOURCE_DIR}/tools/guide-commands")
+set(guide_tables src/framework/CommandTable.cpp src/ui/MainMenus.cpp src/ui/palettebar/PaletteBarMenu.h
+  translations/dyeworks_ja.ts)
+list(TRANSFORM guide_tables PREPEND "${PROJECT_SOURCE_DIR}/")
 set(guide_stamp "${CMAKE_CURRENT_BINARY_DIR}/guide.stamp")
 add_custom_command(OUTPUT "${guide_stamp}"
   COMMAND "${CMAKE_COMMAND}" -E rm -rf "${PROJECT_BINARY_DIR}/doc"
   COMMAND "${CMAKE_COMMAND}" -E copy_directory "${PROJECT_SOURCE_DIR}/docs/guide" "${PROJECT_BINARY_DIR}/doc"
   COMMAND "${CMAKE_COMMAND}" -E copy ${guide_pictures} "${PROJECT_BINARY_DIR}/doc"
+  COMMAND Python3::Interpreter "${guide_commands}" "${PROJECT_SOURCE_DIR}" "${PROJECT_BINARY_DIR}/doc"
   COMMAND "${CMAKE_COMMAND}" -E touch "${guide_stamp}"
-  DEPENDS ${guide_pages} ${guide_pictures}
+  DEPENDS ${guide_pages} ${guide_pictures} "${guide_commands}" ${guide_tables}
   COMMENT "Copying the guide"
   VERBATIM)
 add_custom_target(dyeworks_guide DEPENDS "${guide_stamp}")

@@ -616,8 +616,8 @@ Flip Y</source>
     <message>
         <source>Edit the current palette entry
 Edit Entry</source>
-        <translation>現在のパレット エントリーを編集します
-エントリーの編集</translation>
+        <translation>現在のパレット エントリを編集します
+エントリの編集</translation>
     </message>
     <message>
         <source>New Project file.</source>
@@ -666,8 +666,8 @@ Zoom Lens</source>
     <message>
         <source>Copy the selected palette entries
 Copy Entries</source>
-        <translation>選択したパレット エントリーをコピーします
-エントリーのコピー</translation>
+        <translation>選択したパレット エントリをコピーします
+エントリのコピー</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
@@ -676,8 +676,8 @@ Copy Entries</source>
     <message>
         <source>Paste the copied palette entries
 Paste Entries</source>
-        <translation>コピーしたパレット エントリーを貼り付けます
-エントリーの貼り付け</translation>
+        <translation>コピーしたパレット エントリを貼り付けます
+エントリの貼り付け</translation>
     </message>
     <message>
         <source>Undo the last change of the palette
@@ -1102,7 +1102,7 @@ Show Texels</source>
     <message>
         <source>Lay even steps between the first and the last of the selected entries, or of all
 Ramp</source>
-        <translation>選択したエントリー(なければ全体)の最初と最後の間を等間隔の段階で埋めます
+        <translation>選択したエントリ(なければ全体)の最初と最後の間を等間隔の段階で埋めます
 グラデーション</translation>
     </message>
     <message>
@@ -1112,8 +1112,8 @@ Ramp</source>
     <message>
         <source>Change hue, saturation, brightness, a channel or alpha of the selected entries, or of all
 Adjust Entries</source>
-        <translation>選択したエントリー(なければ全体)の色相、彩度、明るさ、チャンネル、アルファを変えます
-エントリーの調整</translation>
+        <translation>選択したエントリ(なければ全体)の色相、彩度、明るさ、チャンネル、アルファを変えます
+エントリの調整</translation>
     </message>
     <message>
         <source>&amp;Invert</source>
@@ -1122,8 +1122,8 @@ Adjust Entries</source>
     <message>
         <source>Invert the colours of the selected entries, or of all
 Invert Entries</source>
-        <translation>選択したエントリー(なければ全体)の色を反転します
-エントリーの色を反転</translation>
+        <translation>選択したエントリ(なければ全体)の色を反転します
+エントリの色を反転</translation>
     </message>
     <message>
         <source>Re&amp;verse</source>
@@ -1132,8 +1132,8 @@ Invert Entries</source>
     <message>
         <source>Put the selected entries, or all, in the opposite order
 Reverse Entries</source>
-        <translation>選択したエントリー(なければ全体)を逆の順に並べます
-エントリーを逆順に</translation>
+        <translation>選択したエントリ(なければ全体)を逆の順に並べます
+エントリを逆順に</translation>
     </message>
     <message>
         <source>&amp;Fill</source>
@@ -1142,8 +1142,8 @@ Reverse Entries</source>
     <message>
         <source>Give the selected entries, or all, the value of the entry that is being edited
 Fill Entries</source>
-        <translation>選択したエントリー(なければ全体)を編集中のエントリーの値にします
-エントリーの塗りつぶし</translation>
+        <translation>選択したエントリ(なければ全体)を編集中のエントリの値にします
+エントリの塗りつぶし</translation>
     </message>
     <message>
         <source>Show or hide the image through all banks.
@@ -1310,6 +1310,64 @@ Next Pane</source>
 Previous Pane</source>
         <translation>文書、バー、一覧、パレット バーのうち前のものへ戻ります
 前のペイン</translation>
+        <source>Ne&amp;w Texture...</source>
+        <translation>テクスチャの新規作成(&amp;W)...</translation>
+    </message>
+    <message>
+        <source>Create an image together with its palette
+New Texture</source>
+        <translation>画像とパレットを一緒に作成します
+テクスチャの新規作成</translation>
+    </message>
+    <message>
+        <source>New Palette for &amp;Image...</source>
+        <translation>画像の新しいパレット(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>Create a palette and attach the image to it
+New Palette for Image</source>
+        <translation>パレットを作成し、画像に割り当てます
+画像の新しいパレット</translation>
+    </message>
+    <message>
+        <source>F&amp;ull Screen</source>
+        <translation>全画面表示(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Give the documents the whole screen, without any bar
+Full Screen</source>
+        <translation>バーを隠し、画面全体を文書に使います
+全画面表示</translation>
+    </message>
+    <message>
+        <source>Reset &amp;Layout</source>
+        <translation>配置を元に戻す(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Put all bars where they are at first
+Reset Layout</source>
+        <translation>すべてのバーを最初の位置に戻します
+配置を元に戻す</translation>
+    </message>
+    <message>
+        <source>St&amp;art Page</source>
+        <translation>スタートページ(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Show the start page while no document is open, or leave it out
+Toggle Start Page</source>
+        <translation>文書が開いていないときのスタートページの表示を切り替えます
+スタートページの切り替え</translation>
+    </message>
+    <message>
+        <source>Palette Cells Onl&amp;y</source>
+        <translation>パレットのセルだけ(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Show the cells of the palette bar without its fields, or with them
+Toggle Palette Cells Only</source>
+        <translation>パレット バーをセルだけにするか、すべてを表示するかを切り替えます
+パレットのセルだけの切り替え</translation>
     </message>
 </context>
 <context>
@@ -2015,7 +2073,7 @@ written. Files of pictures that are gone from the project are removed.</source>
     </message>
     <message>
         <source>&amp;Entries</source>
-        <translation>エントリー(&amp;E)</translation>
+        <translation>エントリ(&amp;E)</translation>
     </message>
     <message>
         <source>Brus&amp;h</source>
@@ -2032,6 +2090,8 @@ written. Files of pictures that are gone from the project are removed.</source>
     <message>
         <source>&amp;Entry</source>
         <translation>エントリー(&amp;E)</translation>
+        <source>&amp;Give a Palette</source>
+        <translation>パレットを付ける(&amp;G)</translation>
     </message>
 </context>
 <context>
@@ -2377,7 +2437,7 @@ The changes to &quot;%1&quot; will be lost.</source>
     </message>
     <message>
         <source>Colour of the entry</source>
-        <translation>エントリーの色</translation>
+        <translation>エントリの色</translation>
     </message>
     <message>
         <source>Take this colour as the left end of the gradient</source>
@@ -2571,7 +2631,7 @@ Do you use project?</source>
     </message>
     <message>
         <source>The open palettes and the colours of the current one. Click the colour to draw with; change it with the bars, the numbers or the entry in hexadecimal, then press Apply.</source>
-        <translation>開いているパレットと、現在のパレットの色です。描画に使う色をクリックします。色はバー、数値または16進のエントリーで変更し、[適用] を押します。</translation>
+        <translation>開いているパレットと、現在のパレットの色です。描画に使う色をクリックします。色はバー、数値または16進のエントリで変更し、[適用] を押します。</translation>
     </message>
     <message>
         <source>&amp;RGB</source>
@@ -2595,7 +2655,7 @@ Do you use project?</source>
     </message>
     <message>
         <source>Show the entry in the images while it is edited</source>
-        <translation>編集中のエントリーを画像に表示します</translation>
+        <translation>編集中のエントリを画像に表示します</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -2603,19 +2663,19 @@ Do you use project?</source>
     </message>
     <message>
         <source>Write the edited entry into the palette</source>
-        <translation>編集したエントリーをパレットに書き込みます</translation>
+        <translation>編集したエントリをパレットに書き込みます</translation>
     </message>
     <message>
         <source>Number of the current entry</source>
-        <translation>現在のエントリーの番号</translation>
+        <translation>現在のエントリの番号</translation>
     </message>
     <message>
         <source>Entry</source>
-        <translation>エントリー</translation>
+        <translation>エントリ</translation>
     </message>
     <message>
         <source>The edited entry in hexadecimal</source>
-        <translation>編集中のエントリー (16進)</translation>
+        <translation>編集中のエントリ (16進)</translation>
     </message>
     <message>
         <source>Please enter one to four hexadecimal digits.</source>
@@ -3106,7 +3166,7 @@ You must open or create a palette.
     </message>
     <message>
         <source>&quot;%1&quot; is open as a new image. Colours rounded: %2, entries changed by other programs: %3.</source>
-        <translation>&quot;%1&quot; を新しい画像として開きました。丸めた色: %2、ほかのプログラムが変えたエントリー: %3</translation>
+        <translation>&quot;%1&quot; を新しい画像として開きました。丸めた色: %2、ほかのプログラムが変えたエントリ: %3</translation>
     </message>
     <message>
         <source>Pasted</source>
@@ -3130,19 +3190,19 @@ You must open or create a palette.
     </message>
     <message>
         <source>A palette of 16 or 256 entries, whichever holds the colours</source>
-        <translation>色が収まる 16 または 256 エントリーのパレット</translation>
+        <translation>色が収まる 16 または 256 エントリのパレット</translation>
     </message>
     <message>
         <source>&amp;Into the current palette from entry</source>
-        <translation>現在のパレットに入れる、最初のエントリー(&amp;I)</translation>
+        <translation>現在のパレットに入れる、最初のエントリ(&amp;I)</translation>
     </message>
     <message>
         <source>Replace entries of the current palette; Undo takes it back in one step</source>
-        <translation>現在のパレットのエントリーを置き換えます。一度の操作で元に戻せます</translation>
+        <translation>現在のパレットのエントリを置き換えます。一度の操作で元に戻せます</translation>
     </message>
     <message>
         <source>Entry of the current palette that takes the first colour</source>
-        <translation>最初の色を入れる現在のパレットのエントリー</translation>
+        <translation>最初の色を入れる現在のパレットのエントリ</translation>
     </message>
     <message>
         <source>Export Palette</source>
@@ -3158,11 +3218,11 @@ You must open or create a palette.
     </message>
     <message>
         <source>Entries</source>
-        <translation>エントリー</translation>
+        <translation>エントリ</translation>
     </message>
     <message>
         <source>&amp;All %1 entries</source>
-        <translation>%1 エントリーすべて(&amp;A)</translation>
+        <translation>%1 エントリすべて(&amp;A)</translation>
     </message>
     <message>
         <source>Write the whole palette</source>
@@ -3170,7 +3230,7 @@ You must open or create a palette.
     </message>
     <message>
         <source>Only &amp;bank %1, entries %2 to %3</source>
-        <translation>バンク %1 だけ、エントリー %2～%3(&amp;B)</translation>
+        <translation>バンク %1 だけ、エントリ %2～%3(&amp;B)</translation>
     </message>
     <message>
         <source>Write the bank that the palette bar shows</source>
@@ -3254,7 +3314,7 @@ You must open or create a palette.
     </message>
     <message>
         <source>The 16 entries of the current palette that the image is made of, 0 to 15</source>
-        <translation>画像に使う現在のパレットの 16 エントリー、0～15</translation>
+        <translation>画像に使う現在のパレットの 16 エントリ、0～15</translation>
     </message>
     <message>
         <source>&amp;Colours</source>
@@ -3286,7 +3346,7 @@ You must open or create a palette.
     </message>
     <message>
         <source>Entries of the current palette that the new one has at the same place, as in 0, 4-7</source>
-        <translation>新しいパレットの同じ番号に残す、現在のパレットのエントリー。例: 0, 4-7</translation>
+        <translation>新しいパレットの同じ番号に残す、現在のパレットのエントリ。例: 0, 4-7</translation>
     </message>
     <message>
         <source>none</source>
@@ -3640,7 +3700,7 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     </message>
     <message>
         <source>First entry transparent</source>
-        <translation>先頭のエントリーが透明</translation>
+        <translation>先頭のエントリが透明</translation>
     </message>
     <message>
         <source>Indexes inside the palette</source>
@@ -3656,7 +3716,7 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     </message>
     <message>
         <source>Entry %1</source>
-        <translation>エントリー %1</translation>
+        <translation>エントリ %1</translation>
     </message>
     <message>
         <source>Texel %1, %2</source>
@@ -3688,11 +3748,11 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     </message>
     <message>
         <source>%2 texels have index %1, the palette has %3 entries</source>
-        <translation>%2 テクセルのインデックスが %1 ですが、パレットは %3 エントリーです</translation>
+        <translation>%2 テクセルのインデックスが %1 ですが、パレットは %3 エントリです</translation>
     </message>
     <message>
         <source>Has index %1, the palette has %2 entries</source>
-        <translation>インデックスが %1 ですが、パレットは %2 エントリーです</translation>
+        <translation>インデックスが %1 ですが、パレットは %2 エントリです</translation>
     </message>
     <message>
         <source>Its alpha is %1, neither 0 nor 255</source>
@@ -3744,7 +3804,7 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     </message>
     <message>
         <source>The same and two bytes an entry: the 16 of the bank, or, at 8 bits, the whole palette.</source>
-        <translation>上に、エントリーごとの 2 バイトを加えます。バンクの 16 個、8 ビットではパレット全体です。</translation>
+        <translation>上に、エントリごとの 2 バイトを加えます。バンクの 16 個、8 ビットではパレット全体です。</translation>
     </message>
     <message>
         <source>&amp;Colours of a block</source>
@@ -3756,11 +3816,11 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     </message>
     <message>
         <source>First entry &amp;transparent</source>
-        <translation>先頭のエントリーが透明(&amp;T)</translation>
+        <translation>先頭のエントリが透明(&amp;T)</translation>
     </message>
     <message>
         <source>The entry of index 0, at 4 bits the first of the bank, has alpha 0.</source>
-        <translation>インデックス 0 のエントリー (4 ビットではバンクの先頭) のアルファが 0 です。</translation>
+        <translation>インデックス 0 のエントリ (4 ビットではバンクの先頭) のアルファが 0 です。</translation>
     </message>
     <message>
         <source>&amp;Indexes inside the palette</source>
@@ -3768,7 +3828,7 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     </message>
     <message>
         <source>Every texel&apos;s entry exists; at 4 bits it is counted from the first of the bank.</source>
-        <translation>どのテクセルのエントリーも存在します。4 ビットではバンクの先頭から数えます。</translation>
+        <translation>どのテクセルのエントリも存在します。4 ビットではバンクの先頭から数えます。</translation>
     </message>
     <message>
         <source>&amp;Alpha only 0 or full</source>
@@ -3776,7 +3836,7 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     </message>
     <message>
         <source>No entry of an IA palette is half transparent: its alpha is 0 or 255.</source>
-        <translation>IA パレットのエントリーに半透明のものはありません。アルファは 0 か 255 です。</translation>
+        <translation>IA パレットのエントリに半透明のものはありません。アルファは 0 か 255 です。</translation>
     </message>
     <message>
         <source>Largest width in texels, 1 to %1</source>
@@ -3876,19 +3936,19 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     </message>
     <message>
         <source>entries %1 to %2 are selected</source>
-        <translation>エントリー %1～%2 を選択</translation>
+        <translation>エントリ %1～%2 を選択</translation>
     </message>
     <message>
         <source>%1 entries are selected</source>
-        <translation>%1 個のエントリーを選択</translation>
+        <translation>%1 個のエントリを選択</translation>
     </message>
     <message>
         <source>Adjust Entries</source>
-        <translation>エントリーの調整</translation>
+        <translation>エントリの調整</translation>
     </message>
     <message>
         <source>Entries %1 to %2</source>
-        <translation>エントリー %1～%2</translation>
+        <translation>エントリ %1～%2</translation>
     </message>
     <message>
         <source>&amp;Hue</source>
@@ -3952,7 +4012,7 @@ They can take the nearest of its colours, or the image stays as it is.</source>
     </message>
     <message>
         <source>Back to the entries as they are</source>
-        <translation>元のエントリーに戻します</translation>
+        <translation>元のエントリに戻します</translation>
     </message>
     <message>
         <source>Move Entries</source>
@@ -4625,6 +4685,64 @@ The file is no longer whole. Save under another name; until then what was to be 
     <message>
         <source>More of the bar %1</source>
         <translation>%1 バーの続き</translation>
+        <source>Start page</source>
+        <translation>スタートページ</translation>
+    </message>
+    <message>
+        <source>What to begin with: a new texture, a file that was open before, a sample. The page shows while no document is open.</source>
+        <translation>新しいテクスチャ、以前に開いたファイル、サンプルから始められます。このページは文書が一つも開いていない間に表示されます。</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>最近使ったファイル</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>サンプル</translation>
+    </message>
+    <message>
+        <source>&amp;First Steps</source>
+        <translation>はじめの一歩(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Open the page of the guide that leads through a first texture</source>
+        <translation>最初のテクスチャを作る手順のガイドを開きます</translation>
+    </message>
+    <message>
+        <source>&amp;Show this page while nothing is open</source>
+        <translation>何も開いていないときにこのページを表示する(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Start Page in the View menu brings the page back</source>
+        <translation>「表示」メニューの「スタートページ」で再び表示できます</translation>
+    </message>
+    <message>
+        <source>New Texture</source>
+        <translation>テクスチャの新規作成</translation>
+    </message>
+    <message>
+        <source>&amp;Palette:</source>
+        <translation>パレット(&amp;P):</translation>
+    </message>
+    <message>
+        <source>The palette that the image is attached to: a new one of as many entries as the image has colours, or an open one</source>
+        <translation>画像に割り当てるパレット。画像の色数と同じエントリ数の新しいパレット、または開いているパレットです</translation>
+    </message>
+    <message>
+        <source>New, 16bit RGBA</source>
+        <translation>新規、16bit RGBA</translation>
+    </message>
+    <message>
+        <source>New, 16bit IA</source>
+        <translation>新規、16bit IA</translation>
+    </message>
+    <message>
+        <source>Esc or F11 brings the bars back.</source>
+        <translation>Esc キーまたは F11 キーでバーが戻ります。</translation>
+    </message>
+    <message>
+        <source>The image has no palette yet: choose Give a Palette in its context menu.</source>
+        <translation>画像にまだパレットがありません。右クリックのメニューで「パレットを付ける」を選んでください。</translation>
     </message>
 </context>
 </TS>

@@ -177,6 +177,12 @@ inline constexpr CommandId ID_ENTRY_ROW_DOWN = 33253;
 inline constexpr CommandId ID_ENTRY_PICK = 33254;
 inline constexpr CommandId ID_PANE_NEXT = 33255;
 inline constexpr CommandId ID_PANE_PREVIOUS = 33256;
+inline constexpr CommandId ID_TEXTURE_NEW = 33260;
+inline constexpr CommandId ID_IMAGE_NEW_PALETTE = 33261;
+inline constexpr CommandId ID_VIEW_FULL_SCREEN = 33262;
+inline constexpr CommandId ID_VIEW_RESET_LAYOUT = 33263;
+inline constexpr CommandId ID_VIEW_START_PAGE = 33264;
+inline constexpr CommandId ID_VIEW_CELLS_ONLY = 33265;
 // NOLINTEND(readability-identifier-naming)
 
 } // namespace dyeworks

@@ -331,6 +331,30 @@ constexpr CommandRow kRows[] = {
         QT_TRANSLATE_NOOP("Command",
                           "Go back to the previous of document, bars, lists and palette bar\nPrevious Pane"),
         "Shift+F6", ""},
+    CommandRow{ID_TEXTURE_NEW, QT_TRANSLATE_NOOP("Command", "Ne&w Texture..."),
+               QT_TRANSLATE_NOOP("Command", "Create an image together with its palette\nNew Texture"),
+               "Ctrl+Shift+N", "new"},
+    CommandRow{
+        ID_IMAGE_NEW_PALETTE, QT_TRANSLATE_NOOP("Command", "New Palette for &Image..."),
+        QT_TRANSLATE_NOOP("Command", "Create a palette and attach the image to it\nNew Palette for Image"),
+        "", "new-palette"},
+    CommandRow{
+        ID_VIEW_FULL_SCREEN, QT_TRANSLATE_NOOP("Command", "F&ull Screen"),
+        QT_TRANSLATE_NOOP("Command", "Give the documents the whole screen, without any bar\nFull Screen"),
+        "F11", ""},
+    CommandRow{ID_VIEW_RESET_LAYOUT, QT_TRANSLATE_NOOP("Command", "Reset &Layout"),
+               QT_TRANSLATE_NOOP("Command", "Put all bars where they are at first\nReset Layout"), "", ""},
+    CommandRow{
+        ID_VIEW_START_PAGE, QT_TRANSLATE_NOOP("Command", "St&art Page"),
+        QT_TRANSLATE_NOOP(
+            "Command", "Show the start page while no document is open, or leave it out\nToggle Start Page"),
+        "", ""},
+    CommandRow{
+        ID_VIEW_CELLS_ONLY, QT_TRANSLATE_NOOP("Command", "Palette Cells Onl&y"),
+        QT_TRANSLATE_NOOP(
+            "Command",
+            "Show the cells of the palette bar without its fields, or with them\nToggle Palette Cells Only"),
+        "", ""},
     CommandRow{ID_FILE_NEW, QT_TRANSLATE_NOOP("Command", "&New"),
                QT_TRANSLATE_NOOP("Command", "Create a new document\nNew"), "Ctrl+N", "new"},
     CommandRow{ID_FILE_OPEN, QT_TRANSLATE_NOOP("Command", "&Open..."),

@@ -2,6 +2,7 @@
 #include "paint/CDyeworksDoc.h"
 #include "paint/CDyeworksView.h"
 #include "paint/DrawTool.h"
+#include "paint/RememberedPalette.h"
 #include "paint/ViewWindow.h"
 #include "platform/Platform.h"
 
@@ -21,6 +22,10 @@ std::string sectionOf(const std::string& path) {
 }
 
 } // namespace
+
+std::string rememberedPalette(const std::string& imagePath) {
+    return platform().profile().textOr(sectionOf(imagePath), kAttachEntry, "");
+}
 
 void CDyeworksView::restoreSettings() {
     const std::string& path = document_.pathName();

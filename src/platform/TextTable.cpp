@@ -640,6 +640,31 @@ constexpr Row kRows[] = {
         QT_TRANSLATE_NOOP("Text", "The image. The chosen tool draws where you press and drag; the wheel with "
                                   "Ctrl changes the zoom.")},
 
+    Row{StringId::StartPageName, QT_TRANSLATE_NOOP("Text", "Start page")},
+    Row{StringId::HelpStartPage,
+        QT_TRANSLATE_NOOP("Text", "What to begin with: a new texture, a file that was open before, a sample. "
+                                  "The page shows while no document is open.")},
+    Row{StringId::StartRecent, QT_TRANSLATE_NOOP("Text", "Recent files")},
+    Row{StringId::StartSamples, QT_TRANSLATE_NOOP("Text", "Samples")},
+    Row{StringId::StartFirstSteps, QT_TRANSLATE_NOOP("Text", "&First Steps")},
+    Row{StringId::StartFirstStepsTip,
+        QT_TRANSLATE_NOOP("Text", "Open the page of the guide that leads through a first texture")},
+    Row{StringId::StartAtEmpty, QT_TRANSLATE_NOOP("Text", "&Show this page while nothing is open")},
+    Row{StringId::StartAtEmptyTip,
+        QT_TRANSLATE_NOOP("Text", "Start Page in the View menu brings the page back")},
+    Row{StringId::NewTextureCaption, QT_TRANSLATE_NOOP("Text", "New Texture")},
+    Row{StringId::NewTexturePalette, QT_TRANSLATE_NOOP("Text", "&Palette:")},
+    Row{StringId::NewTexturePaletteTip,
+        QT_TRANSLATE_NOOP("Text",
+                          "The palette that the image is attached to: a new one of as many entries as "
+                          "the image has colours, or an open one")},
+    Row{StringId::NewTextureRgba, QT_TRANSLATE_NOOP("Text", "New, 16bit RGBA")},
+    Row{StringId::NewTextureIa, QT_TRANSLATE_NOOP("Text", "New, 16bit IA")},
+    Row{StringId::ImageHasNoPalette,
+        QT_TRANSLATE_NOOP("Text",
+                          "The image has no palette yet: choose Give a Palette in its context menu.")},
+    Row{StringId::FullScreenHint, QT_TRANSLATE_NOOP("Text", "Esc or F11 brings the bars back.")},
+
     Row{StringId::ObjectServicesFailed,
         QT_TRANSLATE_NOOP("Text", "OLE initialization failed.  Make sure that the OLE libraries are the "
                                   "correct version.")},

@@ -23,6 +23,7 @@ constexpr const char* kSection = "BarState";
 constexpr const char* kDockedEntry = "Docked";
 constexpr const char* kStatusBarEntry = "StatusBar"; // Which the state of the docked bars leaves out.
 constexpr const char* kPaletteBarEntry = "PaletteBar";
+constexpr const char* kCellsOnlyEntry = "PaletteCellsOnly";
 constexpr const char* kBrushBarEntry = "BrushBar"; // Whether the state tells of it; older ones do not.
 
 /// Of the state of the docked bars: it grows with each change of the bars that makes older states useless.
@@ -45,10 +46,12 @@ QByteArray readDocked() {
 }
 
 /// On a small screen, and on one whose windows are large, the bar would hide the main window: it begins as
-/// small as it can be there.
+/// small as it can be there, if need be without the fields.
 void placeFirst(CPaletteBar& bar) {
     const auto area = [](QSize size) { return std::int64_t{size.width()} * size.height(); };
-    if (2 * area(bar.size()) > area(bar.screen()->availableSize()))
+    const std::int64_t screen = area(bar.screen()->availableSize());
+    bar.setCellsOnly(3 * area(bar.compactSize()) > screen);
+    if (!bar.cellsOnly() && 2 * area(bar.size()) > screen)
         bar.resize(bar.compactSize());
     placeInsideScreen(bar, kFirstPlace);
 }
@@ -60,6 +63,7 @@ void saveBarLayout(QMainWindow& frame, CPaletteBar& paletteBar) {
     const QByteArray state = frame.saveState(kVersion);
     settings.setText(kSection, kDockedEntry, (sealOf(state) + state).toBase64().toStdString());
     settings.setInteger(kSection, kBrushBarEntry, 1);
+    settings.setInteger(kSection, kCellsOnlyEntry, paletteBar.cellsOnly() ? 1 : 0);
     settings.setInteger(kSection, kStatusBarEntry, frame.statusBar()->isHidden() ? 0 : 1);
     WindowPlacement placement = windowPlacement(paletteBar);
     if (!paletteBar.isShown())
@@ -77,11 +81,21 @@ void restoreBarLayout(QMainWindow& frame, CPaletteBar& paletteBar) {
     frame.statusBar()->setVisible(settings.integer(kSection, kStatusBarEntry, 1) != 0);
     const std::optional<WindowPlacement> placement =
         parseWindowPlacement(settings.textOr(kSection, kPaletteBarEntry, ""));
-    if (placement && placement->hasRectangle())
+    if (placement && placement->hasRectangle()) {
+        paletteBar.setCellsOnly(settings.integer(kSection, kCellsOnlyEntry, 0) != 0);
         setWindowPlacement(paletteBar, *placement);
-    else
+    } else
         placeFirst(paletteBar);
     paletteBar.setShown(!placement || placement->showCommand != WindowPlacement::kHidden);
+}
+
+void resetBarLayout(QMainWindow& frame, CPaletteBar& paletteBar, const QByteArray& docked) {
+    frame.restoreState(docked);
+    frame.statusBar()->show();
+    paletteBar.setCellsOnly(false);
+    paletteBar.resize(paletteBar.sizeHint());
+    placeFirst(paletteBar);
+    paletteBar.setShown(true);
 }
 
 } // namespace dyeworks

@@ -50,6 +50,8 @@ std::vector<CommandTarget*> CDyeworksApp::commandChain() {
     chain.push_back(&paletteFiles_);
     chain.push_back(&usage_);
     chain.push_back(&entryOrder_);
+    chain.push_back(&newTexture_);
+    chain.push_back(&startPlace_);
     chain.push_back(this);
     return chain;
 }

@@ -16,6 +16,7 @@
 #include "ui/CurrentProject.h"
 #include "ui/EntryOrderCommands.h"
 #include "ui/MainFrameHost.h"
+#include "ui/NewTextureCommands.h"
 #include "ui/OpenRequestQueue.h"
 #include "ui/OutsideChanges.h"
 #include "ui/PaletteFileCommands.h"
@@ -25,6 +26,7 @@
 #include "ui/ProjectChecking.h"
 #include "ui/ProjectCommands.h"
 #include "ui/RecentFiles.h"
+#include "ui/StartPlace.h"
 #include "ui/StartUpParts.h"
 #include "ui/TerminationSignals.h"
 #include "ui/Workspace.h"
@@ -206,6 +208,11 @@ private:
     OutsideChanges outside_{*this};
     std::unique_ptr<TerminationSignals> signals_;
     EntryOrderCommands entryOrder_{*this};
+    NewTextureCommands newTexture_{*this};
+    StartPlace startPlace_{
+        recentFiles_,
+        {[this](const std::vector<std::string>& paths, bool attach) { OpenFiles(paths, attach); },
+         [this](const std::string& page) { ShowHelp(page); }}};
     std::vector<std::unique_ptr<DocumentTemplate>> templates_;
     std::unique_ptr<CMainFrame> mainFrame_;
     QPointer<QWidget> splash_;

@@ -95,8 +95,10 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
         openRequests_.add(sheets);
     openRequests_.start();
     QObject::connect(&progress_, &QTimer::timeout, &progress_, [this] { keepProgress(); });
-    if (commandLine.isInteractive())
+    if (commandLine.isInteractive()) {
         progress_.start(kBetweenKeeping);
+        startPlace_.start(*mainFrame_, commandLine.files.isEmpty());
+    }
     return true;
 }
 
@@ -163,6 +165,7 @@ void CDyeworksApp::keepSettings() const {
 }
 
 int CDyeworksApp::ExitInstance() {
+    startPlace_.end();
     outside_.end();
     recovery_.end();
     keepSettings();

@@ -3,6 +3,7 @@
 #include "core/PaletteSet.h"
 #include "framework/widgets/ChildFrame.h"
 #include "framework/widgets/ContextMenuKey.h"
+#include "framework/widgets/ControlHelp.h"
 #include "framework/widgets/MenuBuilder.h"
 #include "framework/widgets/WidgetPlacement.h"
 #include "paint/BackgroundPicture.h"
@@ -20,8 +21,10 @@
 #include "ui/CProjectBar.h"
 #include "ui/CurrentProject.h"
 #include "ui/FindingsDock.h"
+#include "ui/FullScreen.h"
 #include "ui/MainFrameHost.h"
 #include "ui/MainMenus.h"
+#include "ui/NoPaletteHint.h"
 #include "ui/PaneWalk.h"
 #include "ui/StatusPanes.h"
 #include "ui/palettebar/CPaletteBar.h"
@@ -84,6 +87,7 @@ CMainFrame::CMainFrame(MainFrameHost& host)
     setObjectName(QStringLiteral("IDR_MAINFRAME"));
     setAcceptDrops(true);
     new ContextMenuKey(this);
+    new ControlHelp(this);
     new BackgroundPainter(area(), BackgroundPicture::read(BackgroundPicture::kFileName));
     area().setWhatsThis(shown(StringId::HelpDocumentArea));
     describeCommands();
@@ -110,6 +114,13 @@ CMainFrame::CMainFrame(MainFrameHost& host)
     on(ID_CONTEXT_HELP, &CMainFrame::OnContextHelp);
     onRange(ID_PANE_NEXT, ID_PANE_PREVIOUS, &CMainFrame::OnWalkPanes);
     nameWhatQtMakes();
+    fullScreen_ = new FullScreen(*this, *paletteBar_);
+    on(ID_VIEW_FULL_SCREEN, &CMainFrame::OnFullScreen, &CMainFrame::OnUpdateFullScreen);
+    on(ID_VIEW_RESET_LAYOUT, &CMainFrame::OnResetLayout);
+    on(ID_VIEW_CELLS_ONLY, &CMainFrame::OnCellsOnly, &CMainFrame::OnUpdateCellsOnly);
+    fitBarsToScreen();
+    new NoPaletteHint(*this, *panes_);
+    firstLayout_ = saveState();
     restoreBarLayout(*this, *paletteBar_);
     CMainFrame::OnUpdateFrameTitle();
     restorePlacement();
@@ -242,6 +253,45 @@ void CMainFrame::OnUpdatePaletteBar(CommandUi& ui) {
     ui.checked = paletteBar_->isShown();
 }
 
+void CMainFrame::OnFullScreen() {
+    if (fullScreen_->isOn()) {
+        fullScreen_->leave();
+        return;
+    }
+    // Until it is left again, what the settings say is how it was before.
+    keepLayout();
+    fullScreen_->enter();
+}
+
+void CMainFrame::OnUpdateFullScreen(CommandUi& ui) {
+    ui.checked = fullScreen_->isOn();
+}
+
+void CMainFrame::OnResetLayout() {
+    fullScreen_->leave();
+    resetBarLayout(*this, *paletteBar_, firstLayout_);
+}
+
+void CMainFrame::OnCellsOnly() {
+    paletteBar_->setCellsOnly(!paletteBar_->cellsOnly());
+}
+
+void CMainFrame::OnUpdateCellsOnly(CommandUi& ui) {
+    ui.checked = paletteBar_->cellsOnly();
+}
+
+/// Buttons that a bar has no room for hide behind its end, where nobody looks for them.
+void CMainFrame::fitBarsToScreen() {
+    int together = 0;
+    for (const char* const name : {"ID_VIEW_DRAWBAR", "ID_VIEW_PROJECTBAR"})
+        together += findChild<QToolBar*>(QString::fromLatin1(name))->sizeHint().width();
+    if (together <= screen()->availableSize().width())
+        return;
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    setIconSize({side, side});
+    insertToolBarBreak(projectBar_);
+}
+
 void CMainFrame::OnUpdatePictureButton(CommandUi& ui) {
     ui.enabled = !host_.currentProject().picture().empty();
 }
@@ -278,8 +328,14 @@ void CMainFrame::openImageWindow(CDyeworksDoc& document) {
     auto child = std::make_unique<CChildFrame>(document, std::move(view), image);
     child->setMenus(imageMenu());
     connect(&image, &ImageView::contextMenuRequested, this,
-            [this](CDyeworksView::ContextMenu which, const QPoint& global) {
-                popUpMenu(imageContextMenu(which), global);
+            [this, &document](CDyeworksView::ContextMenu which, const QPoint& global) {
+                std::vector<MenuItem> items;
+                if (!document.IsAttached()) {
+                    items.assign(noPaletteMenu().begin(), noPaletteMenu().end());
+                    items.push_back(kSeparator);
+                }
+                items.insert(items.end(), imageContextMenu(which).begin(), imageContextMenu(which).end());
+                popUpMenu(items, global);
             });
     // The palette that an image is attached to is part of its title, and its bank is what the bar shows.
     connect(child.get(), &QWidget::windowTitleChanged, paletteBar_,
@@ -388,8 +444,10 @@ bool CMainFrame::OnClose() {
 }
 
 void CMainFrame::keepLayout() {
-    savePlacement();
-    saveBarLayout(*this, *paletteBar_);
+    if (!fullScreen_->isOn()) {
+        savePlacement();
+        saveBarLayout(*this, *paletteBar_);
+    }
     host_.SaveOpenDocuments();
 }
 

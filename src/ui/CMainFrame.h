@@ -22,6 +22,7 @@ class CTPFDocument;
 class CPaletteBar;
 class CProjectBar;
 class FindingsDock;
+class FullScreen;
 class ImageView;
 class MainFrameHost;
 class StatusPanes;
@@ -125,6 +126,12 @@ private:
     void OnUpdateBar(CommandUi& ui);
     void OnTogglePaletteBar();
     void OnUpdatePaletteBar(CommandUi& ui);
+    void OnFullScreen();
+    void OnUpdateFullScreen(CommandUi& ui);
+    void OnResetLayout();
+    void OnCellsOnly();
+    void OnUpdateCellsOnly(CommandUi& ui);
+    void fitBarsToScreen();
     void OnPictureButton() {}
     void OnUpdatePictureButton(CommandUi& ui);
     void OnHelpIndex();
@@ -141,6 +148,8 @@ private:
     CPaletteBar* paletteBar_ = nullptr;
     FindingsDock* findings_ = nullptr;
     BanksBar* banksBar_ = nullptr;
+    FullScreen* fullScreen_ = nullptr;
+    QByteArray firstLayout_;             ///< Of the docked bars.
     std::map<CommandId, QWidget*> bars_; ///< By the commands that show and hide them.
 };
 

@@ -1,4 +1,5 @@
 #include "framework/CommandTable.h"
+#include "framework/widgets/ControlHelp.h"
 #include "ui/CMainFrame.h"
 #include "ui/MainFrameHost.h"
 
@@ -16,14 +17,14 @@ namespace {
 constexpr const char* kHelpPage = "..\\doc\\index.html";
 
 /// "Zoom In (Ctrl++)" in bold, and what it does below.
-QString helpOf(const QAction& action) {
+QString commandHelp(const QAction& action) {
     return QStringLiteral("<p><b>%1</b></p><p>%2</p>")
         .arg(action.toolTip().toHtmlEscaped(), action.statusTip().toHtmlEscaped());
 }
 
 /// The innermost widget around `inner` that has something to say about itself; null when none has.
 QWidget* describedAround(QWidget* inner) {
-    while (inner != nullptr && inner->whatsThis().isEmpty())
+    while (inner != nullptr && helpOf(*inner).isEmpty())
         inner = inner->parentWidget();
     return inner;
 }
@@ -34,7 +35,7 @@ void CMainFrame::describeCommands() {
     for (const CommandRow& row : commandTable()) {
         for (CommandId id = row.id; id <= std::max(row.id, row.last); ++id) {
             if (QAction* action = actions_.action(id))
-                action->setWhatsThis(helpOf(*action));
+                action->setWhatsThis(commandHelp(*action));
         }
     }
 }
@@ -50,7 +51,7 @@ void CMainFrame::OnHelp() {
     if (described == nullptr)
         OnHelpIndex();
     else
-        QWhatsThis::showText(focus->mapToGlobal(focus->rect().center()), described->whatsThis(), focus);
+        QWhatsThis::showText(focus->mapToGlobal(focus->rect().center()), helpOf(*described), focus);
 }
 
 void CMainFrame::OnContextHelp() {

@@ -54,14 +54,6 @@ struct Reading {
     }
 };
 
-/// The path without a drive, which only the thread of the settings may look up.
-std::string withoutDrive(const std::string& path) {
-    if (path.size() < 2 || path[1] != ':')
-        return path;
-    const std::optional<std::string> folder = mappedDrive(platform().profile(), path.front());
-    return folder ? platform().files().fromHostPath(*folder) + path.substr(2) : std::string();
-}
-
 QString wordsFor(const Reading& reading, const std::string& path) {
     constexpr std::uint64_t kMegabyte = std::uint64_t{1} << 20U;
     // The host's form of the path would be asked of the very file system that does not answer.
@@ -75,10 +67,17 @@ QString wordsFor(const Reading& reading, const std::string& path) {
 
 } // namespace
 
+std::string pathWithoutDrive(const std::string& path) {
+    if (path.size() < 2 || path[1] != ':')
+        return path;
+    const std::optional<std::string> folder = mappedDrive(platform().profile(), path.front());
+    return folder ? platform().files().fromHostPath(*folder) + path.substr(2) : std::string();
+}
+
 bool waitForFile(const std::string& path, QWidget* owner) {
     const auto reading = std::make_shared<Reading>();
     const std::future<void> done = reading->done.get_future();
-    std::thread([reading, where = withoutDrive(path)] { reading->run(where); }).detach();
+    std::thread([reading, where = pathWithoutDrive(path)] { reading->run(where); }).detach();
     if (done.wait_for(kPatience) == std::future_status::ready)
         return true;
     const OrdinaryPointerScope pointer;

@@ -27,6 +27,7 @@ constexpr std::array kFileMenu{
     MenuItem{ID_FILE_NEW},
     MenuItem{ID_FILE_OPEN},
     MenuItem{ID_FILE_IMPORT_BMP},
+    MenuItem{ID_TEXTURE_NEW},
     kSeparator,
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Recent Pro&ject Files"), kRecentProjects},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Recent I&mage Files"), kRecentImages},
@@ -50,6 +51,7 @@ constexpr std::array kImageFileMenu{
     MenuItem{ID_FILE_OPEN},
     MenuItem{ID_FILE_CLOSE},
     MenuItem{ID_FILE_IMPORT_BMP},
+    MenuItem{ID_TEXTURE_NEW},
     kSeparator,
     MenuItem{ID_FILE_SAVE},
     MenuItem{ID_FILE_SAVE_AS},
@@ -76,6 +78,7 @@ constexpr std::array kProjectFileMenu{
     MenuItem{ID_FILE_OPEN},
     MenuItem{ID_FILE_CLOSE},
     MenuItem{ID_FILE_IMPORT_BMP},
+    MenuItem{ID_TEXTURE_NEW},
     kSeparator,
     MenuItem{ID_FILE_SAVE},
     MenuItem{ID_FILE_SAVE_AS},
@@ -136,6 +139,16 @@ constexpr std::array kBarsMenu{
     MenuItem{ID_VIEW_BRUSHBAR},   MenuItem{ID_VIEW_FINDINGS},   MenuItem{ID_VIEW_BANKSBAR},
 };
 
+constexpr std::array kViewMenu{
+    MenuItem{ID_VIEW_PALETTEBAR},  MenuItem{ID_VIEW_PROJECTBAR},
+    MenuItem{ID_VIEW_TOOLBAR},     MenuItem{ID_VIEW_DRAWBAR},
+    MenuItem{ID_VIEW_VIEWBAR},     MenuItem{ID_VIEW_STATUS_BAR},
+    MenuItem{ID_VIEW_BRUSHBAR},    MenuItem{ID_VIEW_FINDINGS},
+    MenuItem{ID_VIEW_BANKSBAR},    kSeparator,
+    MenuItem{ID_VIEW_FULL_SCREEN}, MenuItem{ID_VIEW_RESET_LAYOUT},
+    MenuItem{ID_VIEW_START_PAGE},  MenuItem{ID_VIEW_CELLS_ONLY},
+};
+
 constexpr std::array kImageViewMenu{
     MenuItem{ID_ZOOM_IN},
     MenuItem{ID_ZOOM_OUT},
@@ -149,6 +162,11 @@ constexpr std::array kImageViewMenu{
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Bars"), kBarsMenu},
     kSeparator,
     MenuItem{ID_VIEW_REPEAT},
+    kSeparator,
+    MenuItem{ID_VIEW_FULL_SCREEN},
+    MenuItem{ID_VIEW_RESET_LAYOUT},
+    MenuItem{ID_VIEW_START_PAGE},
+    MenuItem{ID_VIEW_CELLS_ONLY},
 };
 
 constexpr std::array kImageMenu{
@@ -168,6 +186,8 @@ constexpr std::array kImageMenu{
     kSeparator,
     MenuItem{ID_IMAGE_TO_4_BITS},
     MenuItem{ID_IMAGE_TO_8_BITS},
+    kSeparator,
+    MenuItem{ID_IMAGE_NEW_PALETTE},
 };
 
 constexpr std::array kBrushMenu{
@@ -266,6 +286,16 @@ constexpr std::array kToolsMenu{
     MenuItem{ID_TOOL_CIRCLE_FILL}, MenuItem{ID_TOOL_PAINT},     MenuItem{ID_TOOL_REPLACER},
 };
 
+constexpr std::array kGivePaletteMenu{
+    MenuItem{ID_IMAGE_ATTACH},
+    MenuItem{ID_IMAGE_NEW_PALETTE},
+};
+
+// In front of the context menus of an image without a palette; apart, because their letters are taken there.
+constexpr std::array kNoPaletteMenu{
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Give a Palette"), kGivePaletteMenu},
+};
+
 constexpr std::array kPictureMenu{
     MenuItem{ID_PICTURE_ADD},
     MenuItem{ID_PICTURE_CHANGE},
@@ -327,7 +357,7 @@ constexpr std::array kHelpMenu{
 constexpr std::array kMainMenu{
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&File"), kFileMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Edit"), kEditMenu},
-    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&View"), kBarsMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&View"), kViewMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Palette"), kPaletteMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Pro&ject"), kProjectMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Help"), kHelpMenu},
@@ -348,7 +378,7 @@ constexpr std::array kImageMainMenu{
 constexpr std::array kProjectMainMenu{
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&File"), kProjectFileMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Edit"), kEditMenu},
-    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&View"), kBarsMenu},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&View"), kViewMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Palette"), kPaletteMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Pro&ject"), kTreeProjectMenu},
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Window"), kWindowMenu},
@@ -423,6 +453,9 @@ std::span<const MenuItem> imageContextMenu(CDyeworksView::ContextMenu menu) {
         break;
     }
     return {};
+}
+std::span<const MenuItem> noPaletteMenu() {
+    return kNoPaletteMenu;
 }
 std::span<const MenuItem> nodeMenu() {
     return kNodeMenu;

@@ -20,6 +20,8 @@ std::span<const MenuItem> barsMenu();
 
 /// The context menus of an image.
 std::span<const MenuItem> imageContextMenu(CDyeworksView::ContextMenu menu);
+/// What stands in front of them while the image has no palette.
+std::span<const MenuItem> noPaletteMenu();
 /// The context menu of a project's tree.
 std::span<const MenuItem> nodeMenu();
 

@@ -1,5 +1,6 @@
 #include "ui/RunDyeworks.h"
 
+#include "framework/widgets/ContrastStyle.h"
 #include "platform/Platform.h"
 #include "platform/StringId.h"
 #include "platform/Version.h"
@@ -143,6 +144,8 @@ int runDyeworks(int argc, char** argv) {
     // A maximized image window puts its buttons into the menu bar, which is therefore the main window's own.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     Application application(argc, argv);
+    if (ContrastStyle::isWanted(QGuiApplication::palette()))
+        QApplication::setStyle(new ContrastStyle);
     QApplication::setApplicationVersion(QString::fromLatin1(kVersionText));
     QGuiApplication::setDesktopFileName(QStringLiteral("orrery-dyeworks"));
     QApplication::setWindowIcon(programIcon(qCeil(kLargestWindowIcon * application.devicePixelRatio())));

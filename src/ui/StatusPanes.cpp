@@ -61,6 +61,10 @@ void StatusPanes::setText(const std::string& text, int pane, unsigned flags) {
     label.setLayoutDirection((flags & kRightToLeft) != 0 ? Qt::RightToLeft : Qt::LeftToRight);
 }
 
+std::string StatusPanes::message() const {
+    return panes_.front()->text().toStdString();
+}
+
 bool StatusPanes::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
         fitWidths();

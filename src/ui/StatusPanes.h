@@ -26,6 +26,8 @@ public:
 
     /// `pane` is 0 to 2. The flags are for pane 0; without any of them it has a sunken border.
     void setText(const std::string& text, int pane, unsigned flags);
+    /// What pane 0 says.
+    [[nodiscard]] std::string message() const;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -3,6 +3,7 @@
 #include <QDebug>
 #include <QDockWidget>
 #include <QMenu>
+#include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
@@ -122,6 +123,58 @@ TEST_F(BarLayout, DamagedSettingsGiveTheFirstLayout) {
         start();
         EXPECT_EQ(layout(), first) << docked << " " << paletteBar;
     }
+}
+
+TEST_F(BarLayout, FullScreenHidesAllBarsAndBringsThemBackEvenAfterAnEndThere) {
+    ASSERT_TRUE(run(ID_VIEW_VIEWBAR));
+    ASSERT_TRUE(run(ID_VIEW_FINDINGS));
+    const QStringList before = layout();
+    const auto anyShown = [this] {
+        bool any =
+            palette().isVisible() || frame().statusBar()->isVisible() || frame().menuBar()->isVisible();
+        for (const QToolBar* each : frame().findChildren<QToolBar*>())
+            any = any || each->isVisible();
+        for (const QDockWidget* each : frame().findChildren<QDockWidget*>())
+            any = any || each->isVisible();
+        return any;
+    };
+    for (const bool byKey : {false, true}) {
+        ASSERT_TRUE(run(ID_VIEW_FULL_SCREEN));
+        EXPECT_TRUE(frame().isFullScreen());
+        EXPECT_FALSE(anyShown());
+        if (byKey)
+            QTest::keyClick(&frame(), Qt::Key_Escape);
+        else
+            ASSERT_TRUE(run(ID_VIEW_FULL_SCREEN));
+        EXPECT_FALSE(frame().isFullScreen());
+        EXPECT_TRUE(frame().menuBar()->isVisible());
+        QCoreApplication::processEvents();
+        EXPECT_EQ(layout(), before);
+    }
+    ASSERT_TRUE(run(ID_VIEW_FULL_SCREEN));
+    leaveAndStart();
+    EXPECT_FALSE(frame().isFullScreen());
+    EXPECT_EQ(layout(), before);
+}
+
+TEST_F(BarLayout, ResetBringsBackTheFirstLayout) {
+    QStringList first = layout();
+    const QPoint place = palette().pos();
+    frame().addToolBar(Qt::LeftToolBarArea, &bar("ID_VIEW_DRAWBAR"));
+    ASSERT_TRUE(run(ID_VIEW_STATUS_BAR));
+    ASSERT_TRUE(run(ID_VIEW_BANKSBAR));
+    palette().setGeometry(40, 60, 360, 600);
+    leaveAndStart();
+    ASSERT_TRUE(run(ID_VIEW_PALETTEBAR));
+    ASSERT_TRUE(run(ID_VIEW_RESET_LAYOUT));
+    QCoreApplication::processEvents();
+    QStringList now = layout();
+    // Polished since, the palette bar is a little larger by itself.
+    first.removeAt(first.size() - 2);
+    now.removeAt(now.size() - 2);
+    EXPECT_EQ(now, first);
+    EXPECT_TRUE(palette().isVisible());
+    EXPECT_LT((palette().pos() - place).manhattanLength(), 20);
 }
 
 } // namespace

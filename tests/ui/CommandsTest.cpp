@@ -15,13 +15,14 @@ namespace {
 
 using Ids = std::set<CommandId>;
 
-const Ids kAlwaysEnabled{ID_PROJECT_NEW,      ID_PROJECT_OPEN,    ID_FILE_NEW,      ID_FILE_OPEN,
-                         ID_FILE_PRINT_SETUP, ID_PALETTE_NEW,     ID_PALETTE_OPEN,  ID_OPTIONS,
-                         ID_APP_ABOUT,        ID_APP_EXIT,        ID_HELP_INDEX,    ID_HELP,
-                         ID_CONTEXT_HELP,     ID_VIEW_PALETTEBAR, ID_VIEW_TOOLBAR,  ID_VIEW_DRAWBAR,
-                         ID_VIEW_PROJECTBAR,  ID_VIEW_STATUS_BAR, ID_VIEW_VIEWBAR,  ID_FILE_IMPORT_BMP,
-                         ID_PALETTE_IMPORT,   ID_VIEW_BRUSHBAR,   ID_VIEW_FINDINGS, ID_VIEW_USAGE,
-                         ID_VIEW_BANKSBAR,    ID_PANE_NEXT,       ID_PANE_PREVIOUS};
+const Ids kAlwaysEnabled{ID_PROJECT_NEW,      ID_PROJECT_OPEN,    ID_FILE_NEW,         ID_FILE_OPEN,
+                         ID_FILE_PRINT_SETUP, ID_PALETTE_NEW,     ID_PALETTE_OPEN,     ID_OPTIONS,
+                         ID_APP_ABOUT,        ID_APP_EXIT,        ID_HELP_INDEX,       ID_HELP,
+                         ID_CONTEXT_HELP,     ID_VIEW_PALETTEBAR, ID_VIEW_TOOLBAR,     ID_VIEW_DRAWBAR,
+                         ID_VIEW_PROJECTBAR,  ID_VIEW_STATUS_BAR, ID_VIEW_VIEWBAR,     ID_FILE_IMPORT_BMP,
+                         ID_PALETTE_IMPORT,   ID_VIEW_BRUSHBAR,   ID_VIEW_FINDINGS,    ID_VIEW_USAGE,
+                         ID_VIEW_BANKSBAR,    ID_TEXTURE_NEW,     ID_VIEW_FULL_SCREEN, ID_VIEW_RESET_LAYOUT,
+                         ID_VIEW_START_PAGE,  ID_VIEW_CELLS_ONLY, ID_PANE_NEXT,        ID_PANE_PREVIOUS};
 
 /// Besides, with an unchanged project, in whose window the program is.
 const Ids kEnabledWithProject{
@@ -146,10 +147,11 @@ TEST_F(Commands, AreEnabledWhereTheyCanDoSomething) {
     ASSERT_TRUE(app_.OpenDocumentFile("c:\\p.tlf"));
     alsoExpect(kEnabledWithPalette);
     ASSERT_TRUE(app_.OpenDocumentFile("c:\\a.tmf"));
-    expected.insert(ID_IMAGE_ATTACH);
+    expected.merge(Ids{ID_IMAGE_ATTACH, ID_IMAGE_NEW_PALETTE});
     alsoExpect(kEnabledWithImage);
     ASSERT_TRUE(run(ID_IMAGE_ATTACH));
     expected.erase(ID_IMAGE_ATTACH);
+    expected.erase(ID_IMAGE_NEW_PALETTE);
     alsoExpect({ID_PALETTE_SHOW_TEXELS});
 }
 

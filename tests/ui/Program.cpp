@@ -53,6 +53,10 @@ void defineControls(FakePlatform& fake) {
         fake.library.defineFile(control, std::string(DYEWORKS_CONTROL_FOLDER "/") + control);
 }
 
+void leaveOutStartPage(FakePlatform& fake) {
+    fake.profile.sections["Start Page"]["Shown"] = "0";
+}
+
 void putImages(FakePlatform& fake, std::initializer_list<const char*> paths) {
     for (const char* path : paths)
         fake.files.putFile(path, imageFile(texels(4, 4, [](int, int) { return 1U; }), 4));
@@ -79,6 +83,7 @@ void withNextDialog(std::function<void(QDialog&)> use) {
 
 Program::Program(const char* missingControl) {
     defineControls(fake_);
+    leaveOutStartPage(fake_);
     fake_.library.forget(missingControl);
     CommandLine commandLine;
     commandLine.noSplash = true;

@@ -39,6 +39,8 @@ std::string paletteFile(int count, const std::function<unsigned(int entry)>& ent
 void defineControls(FakePlatform& fake);
 /// Puts images of 4 by 4 texels of value 1 there.
 void putImages(FakePlatform& fake, std::initializer_list<const char*> paths);
+/// Most tests begin in an empty window.
+void leaveOutStartPage(FakePlatform& fake);
 /// What the message boxes said, oldest first.
 std::vector<std::string> texts(const FakePlatform& fake);
 /// A path as the desktop has it.
@@ -88,6 +90,7 @@ class Launch : public testing::Test {
 protected:
     Launch() {
         defineControls(fake_);
+        leaveOutStartPage(fake_);
         commandLine_.noSplash = true;
     }
 

@@ -189,6 +189,7 @@ TEST_F(Start, ToRenderLeavesNoTrace) {
     putImages(fake_, {"c:\\a.tmf"});
     ask({"c:\\a.tmf"});
     commandLine_.renderTo = "picture.png";
+    fake_.profile.sections.clear();
     ASSERT_TRUE(launch());
     EXPECT_EQ(app_->ExitInstance(), 0);
     EXPECT_THAT(fake_.shell.registered, IsEmpty());

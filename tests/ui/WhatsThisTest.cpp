@@ -1,12 +1,17 @@
 #include "Program.h"
 #include "framework/CommandTable.h"
+#include "framework/widgets/ControlHelp.h"
 
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QToolBar>
 #include <QToolButton>
 #include <QWhatsThis>
@@ -69,6 +74,62 @@ TEST_F(WhatsThis, HelpCommandsAskOrOpenThePages) {
     EXPECT_THAT(
         texts(fake_),
         ElementsAre("can not open help. Please, check exist help file, and check browser installed."));
+}
+
+/// Those that the Tab key reaches and that say nothing about themselves, nor does what they are a part of.
+QStringList silentControls(QWidget& window) {
+    QStringList silent;
+    for (QWidget* control : window.findChildren<QWidget*>()) {
+        // OK and Cancel, and the pages of a tab, have their text.
+        const bool speaksForItself = qobject_cast<QDialogButtonBox*>(control->parentWidget()) != nullptr ||
+                                     qobject_cast<QTabBar*>(control) != nullptr ||
+                                     qobject_cast<QTabWidget*>(control) != nullptr;
+        if (!control->isVisibleTo(&window) || (control->focusPolicy() & Qt::TabFocus) == 0 || speaksForItself)
+            continue;
+        bool told = false;
+        for (QWidget* each = control; each != nullptr && !told;
+             each = each == &window ? nullptr : each->parentWidget())
+            told = !helpOf(*each).isEmpty();
+        if (!told)
+            silent << QString::fromLatin1(control->metaObject()->className()) + ' ' + control->objectName();
+    }
+    return silent;
+}
+
+TEST_F(WhatsThis, EveryControlOfEverySheetAndBarSaysWhatItIs) {
+    openBlank();
+    openProject({"Sky"});
+    frame().activateWindowOf(*app_.imageTemplate().documents().front());
+    for (const CommandId id :
+         {ID_FILE_NEW, ID_TEXTURE_NEW, ID_PALETTE_NEW, ID_OPTIONS, ID_APP_ABOUT, ID_IMAGE_RESIZE,
+          ID_IMAGE_SCALE, ID_IMAGE_SHIFT, ID_PALETTE_EDIT, ID_RANGE_ADJUST, ID_PALETTE_MOVE, ID_PALETTE_SWAP,
+          ID_PALETTE_SORT, ID_PICTURE_ADD, ID_PROJECT_PROPERTY, ID_PROJECT_RULES, ID_PALETTE_EXPORT}) {
+        bool came = false;
+        withNextDialog([&](QDialog& sheet) {
+            came = true;
+            EXPECT_EQ(silentControls(sheet), QStringList()) << sheet.objectName().toStdString();
+            sheet.reject();
+        });
+        app_.router().run(id);
+        EXPECT_TRUE(came) << id;
+    }
+    EXPECT_EQ(silentControls(frame().paletteBar()), QStringList());
+    for (QWidget* bar : frame().findChildren<QToolBar*>())
+        EXPECT_EQ(silentControls(*bar), QStringList());
+}
+
+TEST_F(WhatsThis, KeysAskInDialogsAndATipAnswers) {
+    openBlank();
+    withNextDialog([](QDialog& sheet) {
+        auto* const width = sheet.findChild<QLineEdit*>("IDC_TEXTURE_WIDTH");
+        EXPECT_TRUE(answers(*width->parentWidget()));
+        width->setFocus();
+        QTest::keyClick(width, Qt::Key_F1, Qt::ShiftModifier);
+        EXPECT_TRUE(QWhatsThis::inWhatsThisMode());
+        QWhatsThis::leaveWhatsThisMode();
+        sheet.reject();
+    });
+    run(ID_FILE_NEW);
 }
 
 TEST_F(WhatsThis, PromptsShowWhileAMenuIsWalkedAndLeaveTheMessageBehind) {

@@ -32,7 +32,7 @@ constexpr std::array kAccents{Accent{"#2a7de1", "#64a9ff"}, Accent{"#d98a1f", "#
                               Accent{"#d1495b", "#f27c8a"}};
 
 constexpr qreal kDisabledOpacity = 0.38;
-constexpr float kPlateOpacity = 0.25F;
+constexpr float kPlateOpacity = 0.4F;
 
 class SvgIconEngine : public QIconEngine {
 public:
@@ -42,14 +42,14 @@ public:
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
         const QColor text = textColour(mode);
-        QSvgRenderer renderer(inColours(text));
+        QSvgRenderer renderer(inColours(text, mode == QIcon::Selected));
         if (!renderer.isValid())
             return;
         const int side = std::min(rect.width(), rect.height());
         const QRectF square(rect.x() + (rect.width() - side) / 2, rect.y() + (rect.height() - side) / 2, side,
                             side);
-        if (isButton_ && state == QIcon::On && isLight(text))
-            drawPlate(*painter, square, text);
+        if (isButton_ && state == QIcon::On && mode != QIcon::Selected && isLight(text))
+            drawPlate(*painter, square);
         if (mode != QIcon::Disabled) {
             renderer.render(painter, square);
             return;
@@ -98,13 +98,16 @@ public:
 private:
     /// Styles shade a button that is switched on by some part of its brightness, which shows little on a dark
     /// bar.
-    static void drawPlate(QPainter& painter, const QRectF& square, QColor colour) {
-        colour.setAlphaF(kPlateOpacity);
+    static void drawPlate(QPainter& painter, const QRectF& square) {
+        QColor colour = QGuiApplication::palette().color(QPalette::Active, QPalette::Highlight);
+        const qreal line = square.width() / 16;
         painter.save();
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
+        painter.setPen(QPen(colour, line));
+        colour.setAlphaF(kPlateOpacity);
         painter.setBrush(colour);
-        painter.drawRoundedRect(square, square.width() / 8, square.width() / 8);
+        const qreal inset = line / 2;
+        painter.drawRoundedRect(square.adjusted(inset, inset, -inset, -inset), 2 * line, 2 * line);
         painter.restore();
     }
 
@@ -119,13 +122,16 @@ private:
 
     [[nodiscard]] QString fileName() const { return QStringLiteral(":/icons/%1.svg").arg(name_); }
 
-    [[nodiscard]] QByteArray inColours(const QColor& text) const {
+    /// `plain`: in the one colour, which alone is sure to be seen on a selection.
+    [[nodiscard]] QByteArray inColours(const QColor& text, bool plain) const {
         // Read when it is drawn first, since most icons stand in menus that may never open.
         QFile file(fileName());
         QByteArray drawing = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
         drawing.replace("currentColor", text.name().toLatin1());
-        if (isLight(text)) {
-            for (const Accent& accent : kAccents)
+        for (const Accent& accent : kAccents) {
+            if (plain)
+                drawing.replace(accent.onLight, text.name().toLatin1());
+            else if (isLight(text))
                 drawing.replace(accent.onLight, accent.onDark);
         }
         return drawing;

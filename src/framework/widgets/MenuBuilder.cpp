@@ -5,9 +5,14 @@
 #include "platform/Platform.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
+#include <QPointer>
+#include <QProxyStyle>
+#include <QStyleOption>
 #include <QToolBar>
 
 #include <algorithm>
@@ -54,6 +59,39 @@ void fill(Bar& bar, std::span<const MenuItem> items, const CommandActions& actio
     }
 }
 
+/// Draws the icon of the chosen line in the colours of the selection. Styles take the one that it has on the
+/// menu's own ground, whose blue is lost on the blue of most selections.
+class MenuStyle : public QProxyStyle {
+public:
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        const auto* const line = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+        const bool chosen = element == CE_MenuItem && line != nullptr &&
+                            (line->state & State_Selected) != 0 && (line->state & State_Enabled) != 0 &&
+                            !line->icon.isNull();
+        if (!chosen) {
+            QProxyStyle::drawControl(element, option, painter, widget);
+            return;
+        }
+        QStyleOptionMenuItem copy(*line);
+        const int side = pixelMetric(PM_SmallIconSize, option, widget);
+        const qreal ratio = painter->device()->devicePixelRatioF();
+        copy.icon = QIcon(line->icon.pixmap(QSize(side, side), ratio, QIcon::Selected,
+                                            line->checked ? QIcon::On : QIcon::Off));
+        QProxyStyle::drawControl(element, &copy, painter, widget);
+    }
+};
+
+/// One for all menus; it ends with the program.
+QStyle* menuStyle() {
+    static QPointer<MenuStyle> style;
+    if (style == nullptr) {
+        style = new MenuStyle;
+        style->setParent(qApp);
+    }
+    return style;
+}
+
 /// For a menu that is about to show.
 void bringUpToDate(QMenu& menu, CommandActions& actions) {
     actions.refresh();
@@ -67,6 +105,7 @@ void bringUpToDate(QMenu& menu, CommandActions& actions) {
 } // namespace
 
 void fillMenu(QMenu& menu, std::span<const MenuItem> items, CommandActions& actions) {
+    menu.setStyle(menuStyle());
     fill(menu, items, actions,
          [&](const MenuItem& item) { fillMenu(*menu.addMenu(titleOf(item)), item.items, actions); });
     QObject::connect(&menu, &QMenu::aboutToShow, &actions,

@@ -37,6 +37,15 @@ CPaletteBar::CPaletteBar(PaletteBarHost& host, CommandActions& actions, QWidget&
     resize(sizeHint());
 }
 
+void CPaletteBar::setCellsOnly(bool only) {
+    if (only == cellsOnly())
+        return;
+    controls_->setCellsOnly(only);
+    const QSize least = controls_->minimumSizeHint().grownBy(layout()->contentsMargins());
+    layout()->activate();
+    resize(only ? least : compactSize());
+}
+
 QSize CPaletteBar::compactSize() const {
     return controls_->compactSize().grownBy(layout()->contentsMargins());
 }

@@ -31,6 +31,9 @@ public:
     /// As the controls do it.
     void showRemarks(std::vector<EntryRemark> remarks) { controls_->showRemarks(std::move(remarks)); }
     void selectEntries(EntryRange range) { controls_->selectEntries(range); }
+    /// As the controls do it; the bar takes a size that goes with it.
+    void setCellsOnly(bool only);
+    [[nodiscard]] bool cellsOnly() const noexcept { return controls_->cellsOnly(); }
     /// A small size that shows any palette with its fields beside the cells.
     [[nodiscard]] QSize compactSize() const;
     /// The commands that act on the entries of the palette.

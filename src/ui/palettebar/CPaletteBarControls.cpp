@@ -130,8 +130,8 @@ void CPaletteBarControls::layoutChanged() {
     // Though it shows nothing then, it would take its share of the height.
     static_cast<QBoxLayout*>(layout())->setStretchFactor(body_, any ? 1 : 0);
     gridArea_->setVisible(any);
-    fields_->setVisible(any);
-    stripRow_->setVisible(state_.strip().isVisible());
+    fields_->setVisible(any && !cellsOnly_);
+    stripRow_->setVisible(state_.strip().isVisible() && !cellsOnly_);
     for (const auto& channel : channels_)
         channel->showLayout(state_.palette().colourType());
     // Where no control has a tip of its own.
@@ -178,6 +178,17 @@ bool CPaletteBarControls::askAdjustment(RangeAdjustment& adjustment) {
     return sheet.exec() == QDialog::Accepted;
 }
 
+void CPaletteBarControls::setCellsOnly(bool only) {
+    cellsOnly_ = only;
+    layoutChanged();
+}
+
+QSize CPaletteBarControls::smallestCells() const {
+    // As small as they are beside the fields.
+    const int side = compactSize_.width() - body_->spacing() - fields_->minimumSizeHint().width();
+    return {side, heightOfOthers() + side};
+}
+
 void CPaletteBarControls::resizeEvent(QResizeEvent*) {
     arrange();
 }
@@ -208,6 +219,8 @@ QSize CPaletteBarControls::smallestAbove() const {
 }
 
 QSize CPaletteBarControls::minimumSizeHint() const {
+    if (cellsOnly_)
+        return smallestCells();
     const QSize beside = smallestBeside();
     const QSize above = smallestAbove();
     return {std::min(beside.width(), above.width()),
@@ -215,6 +228,11 @@ QSize CPaletteBarControls::minimumSizeHint() const {
 }
 
 void CPaletteBarControls::arrange() {
+    if (cellsOnly_) {
+        gridArea_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        updateGeometry();
+        return;
+    }
     const QSize fields = fields_->minimumSizeHint();
     const int room = height() - heightOfOthers();
     const int sideBeside = std::min(width() - fields.width() - body_->spacing(), room);

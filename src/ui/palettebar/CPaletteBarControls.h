@@ -53,6 +53,9 @@ public:
     /// Selects a range of entries in the grid.
     void selectEntries(EntryRange range);
 
+    /// Shows nothing but the palettes' tabs and the cells, which takes little of a small screen.
+    void setCellsOnly(bool only);
+    [[nodiscard]] bool cellsOnly() const noexcept { return cellsOnly_; }
     /// Little room for any palette, with the fields beside it.
     [[nodiscard]] QSize compactSize() const { return compactSize_; }
     /// Room for a palette of 256 colours, with the fields beside it.
@@ -94,6 +97,7 @@ private:
     /// The window that a dialog is for: the bar's commands also come from a menu, while the bar is hidden.
     [[nodiscard]] QWidget* dialogOwner() const;
     void arrange();
+    [[nodiscard]] QSize smallestCells() const;
     [[nodiscard]] QSize smallestBeside() const;
     [[nodiscard]] QSize smallestAbove() const;
     [[nodiscard]] int heightOfOthers() const;
@@ -131,6 +135,7 @@ private:
     std::vector<EntryRemark> remarks_;
     QSize preferredSize_;
     QSize compactSize_;
+    bool cellsOnly_ = false;
 };
 
 } // namespace dyeworks

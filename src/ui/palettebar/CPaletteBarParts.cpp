@@ -94,14 +94,17 @@ QWidget* CPaletteBarControls::makeEmptyNotice() {
     auto* notice = new QLabel(shown(StringId::NoPaletteOpen));
     notice->setWordWrap(true);
     notice->setAlignment(Qt::AlignCenter);
-    // Not a button with the command's own tip: the one that no palette is open is to show here too.
-    const QAction* const command = actions_.action(ID_PALETTE_OPEN);
-    auto* open = new QPushButton(command->icon(), command->text());
-    connect(open, &QPushButton::clicked, this, [this] { actions_.run(ID_PALETTE_OPEN); });
     auto* layout = new QVBoxLayout(page);
     layout->addStretch();
     layout->addWidget(notice);
-    layout->addWidget(open, 0, Qt::AlignHCenter);
+    // Below each other, which fits into the smallest bar.
+    for (const CommandId id : {ID_PALETTE_NEW, ID_PALETTE_OPEN}) {
+        // Not a button with the command's own tip: the one that no palette is open is to show here too.
+        const QAction* const command = actions_.action(id);
+        auto* button = new QPushButton(command->icon(), command->text());
+        connect(button, &QPushButton::clicked, this, [this, id] { actions_.run(id); });
+        layout->addWidget(button, 0, Qt::AlignHCenter);
+    }
     layout->addStretch();
     return page;
 }

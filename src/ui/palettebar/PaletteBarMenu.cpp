@@ -37,6 +37,8 @@ constexpr std::array kPaletteBarMenu{
     kSeparator,
     MenuItem{ID_VIEW_USAGE},
     MenuItem{ID_PALETTE_SHOW_TEXELS},
+    kSeparator,
+    MenuItem{ID_VIEW_CELLS_ONLY},
 };
 
 } // namespace

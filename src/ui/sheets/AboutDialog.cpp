@@ -15,6 +15,7 @@
 #include <QStyle>
 #include <QTreeWidget>
 
+#include <algorithm>
 #include <utility>
 
 namespace dyeworks {
@@ -51,7 +52,8 @@ void setColumns(QTreeWidget& list, const std::vector<Column>& columns) {
     for (int i = 0; i < list.columnCount(); ++i) {
         const auto& [heading, width] = columns[static_cast<std::size_t>(i)];
         list.headerItem()->setText(i, heading);
-        list.setColumnWidth(i, width);
+        // Some languages need more for the heading itself.
+        list.setColumnWidth(i, std::max(width, list.header()->sectionSizeHint(i)));
     }
 }
 
@@ -92,6 +94,7 @@ AboutDialog::AboutDialog(const PlugInCatalogue& plugIns, QWidget* parent)
 
     list_->setObjectName(QStringLiteral("IDC_ABOUT_LIST"));
     list_->setAccessibleName(shown(StringId::AboutPlugInList));
+    list_->setWhatsThis(shown(StringId::AboutPlugInList));
     list_->setRootIsDecorated(false);
     list_->setAllColumnsShowFocus(true);
     list_->header()->setStretchLastSection(false);

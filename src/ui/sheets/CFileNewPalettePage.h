@@ -24,6 +24,8 @@ public:
     [[nodiscard]] bool takeOver() override;
 
     // As they were last taken over.
+    /// 16 or 256; shown when the sheet opens.
+    void setEntryCount(std::int32_t count) noexcept { entryCount_ = count; }
     [[nodiscard]] std::int32_t entryCount() const noexcept { return entryCount_; } ///< 16 or 256
     [[nodiscard]] ColourType colourType() const noexcept { return colourType_; }
     /// RGBA: 0 or 1. IA: 0 to 255.
