@@ -47,8 +47,6 @@ install(DIRECTORY "${share}/icons" "${share}/mime" DESTINATION share COMPONENT e
 install(FILES data/orrery-dyeworks.metainfo.xml
   DESTINATION share/metainfo RENAME local.orrery.dyeworks.metainfo.xml COMPONENT editor)
 
-find_package(Python3 REQUIRED COMPONENTS Interpreter)
-
 # dyeworks_command_files(<program> <component> [FROM_HELP | MANUAL_ONLY]): its manual pages in both languages and its
 # completion for two shells. FROM_HELP: a program of commands, which tells the build itself what they are.
 # MANUAL_ONLY: one that nobody types.

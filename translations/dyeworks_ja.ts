@@ -1306,10 +1306,6 @@ Next Pane</source>
         <translation>前のペイン(&amp;R)</translation>
     </message>
     <message>
-        <source>Go back to the previous of document, bars, lists and palette bar
-Previous Pane</source>
-        <translation>文書、バー、一覧、パレット バーのうち前のものへ戻ります
-前のペイン</translation>
         <source>Ne&amp;w Texture...</source>
         <translation>テクスチャの新規作成(&amp;W)...</translation>
     </message>
@@ -1368,6 +1364,12 @@ Toggle Start Page</source>
 Toggle Palette Cells Only</source>
         <translation>パレット バーをセルだけにするか、すべてを表示するかを切り替えます
 パレットのセルだけの切り替え</translation>
+    </message>
+    <message>
+        <source>Go back to the previous of document, bars, lists and palette bar
+Previous Pane</source>
+        <translation>文書、バー、一覧、パレットバーのうち前のものに戻ります
+前の区画</translation>
     </message>
 </context>
 <context>
@@ -2088,10 +2090,12 @@ written. Files of pictures that are gone from the project are removed.</source>
         <translation>エントリの変更(&amp;H)</translation>
     </message>
     <message>
-        <source>&amp;Entry</source>
-        <translation>エントリー(&amp;E)</translation>
         <source>&amp;Give a Palette</source>
         <translation>パレットを付ける(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Entry</source>
+        <translation>エントリー(&amp;E)</translation>
     </message>
 </context>
 <context>
@@ -4683,8 +4687,6 @@ The file is no longer whole. Save under another name; until then what was to be 
         <translation>%1, %2: エントリー %3、%4</translation>
     </message>
     <message>
-        <source>More of the bar %1</source>
-        <translation>%1 バーの続き</translation>
         <source>Start page</source>
         <translation>スタートページ</translation>
     </message>
@@ -4743,6 +4745,10 @@ The file is no longer whole. Save under another name; until then what was to be 
     <message>
         <source>The image has no palette yet: choose Give a Palette in its context menu.</source>
         <translation>画像にまだパレットがありません。右クリックのメニューで「パレットを付ける」を選んでください。</translation>
+    </message>
+    <message>
+        <source>More of the bar %1</source>
+        <translation>バー「%1」の続き</translation>
     </message>
 </context>
 </TS>
