@@ -1244,52 +1244,52 @@ Revert to Before Check</source>
     <message>
         <source>Take the palette entry before the current one
 Previous Entry</source>
-        <translation>現在のパレット エントリーの 1 つ前を選びます
-前のエントリー</translation>
+        <translation>現在のパレット エントリの 1 つ前を選びます
+前のエントリ</translation>
     </message>
     <message>
         <source>Take the palette entry after the current one
 Next Entry</source>
-        <translation>現在のパレット エントリーの 1 つ後を選びます
-次のエントリー</translation>
+        <translation>現在のパレット エントリの 1 つ後を選びます
+次のエントリ</translation>
     </message>
     <message>
         <source>Take the palette entry above the current one
 Entry Above</source>
-        <translation>現在のパレット エントリーの 1 段上を選びます
-上のエントリー</translation>
+        <translation>現在のパレット エントリの 1 段上を選びます
+上のエントリ</translation>
     </message>
     <message>
         <source>Take the palette entry below the current one
 Entry Below</source>
-        <translation>現在のパレット エントリーの 1 段下を選びます
-下のエントリー</translation>
+        <translation>現在のパレット エントリの 1 段下を選びます
+下のエントリ</translation>
     </message>
     <message>
         <source>Take the entry of the texel at the texel cursor, or at the pointer
 Pick Entry of Texel</source>
-        <translation>テクセル カーソル、またはポインタの位置のテクセルのエントリーを選びます
-テクセルのエントリーを選ぶ</translation>
+        <translation>テクセル カーソル、またはポインタの位置のテクセルのエントリを選びます
+テクセルのエントリを選ぶ</translation>
     </message>
     <message>
         <source>&amp;Previous Entry</source>
-        <translation>前のエントリー(&amp;P)</translation>
+        <translation>前のエントリ(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Next Entry</source>
-        <translation>次のエントリー(&amp;N)</translation>
+        <translation>次のエントリ(&amp;N)</translation>
     </message>
     <message>
         <source>Entry &amp;Above</source>
-        <translation>上のエントリー(&amp;A)</translation>
+        <translation>上のエントリ(&amp;A)</translation>
     </message>
     <message>
         <source>Entry &amp;Below</source>
-        <translation>下のエントリー(&amp;B)</translation>
+        <translation>下のエントリ(&amp;B)</translation>
     </message>
     <message>
         <source>Entry of &amp;Texel</source>
-        <translation>テクセルのエントリー(&amp;T)</translation>
+        <translation>テクセルのエントリ(&amp;T)</translation>
     </message>
     <message>
         <source>Next &amp;Pane</source>
@@ -1368,8 +1368,8 @@ Toggle Palette Cells Only</source>
     <message>
         <source>Go back to the previous of document, bars, lists and palette bar
 Previous Pane</source>
-        <translation>文書、バー、一覧、パレットバーのうち前のものに戻ります
-前の区画</translation>
+        <translation>文書、バー、一覧、パレット バーのうち前のものへ戻ります
+前のペイン</translation>
     </message>
 </context>
 <context>
@@ -2095,7 +2095,7 @@ written. Files of pictures that are gone from the project are removed.</source>
     </message>
     <message>
         <source>&amp;Entry</source>
-        <translation>エントリー(&amp;E)</translation>
+        <translation>エントリ(&amp;E)</translation>
     </message>
 </context>
 <context>
@@ -4676,7 +4676,7 @@ The file is no longer whole. Save under another name; until then what was to be 
     </message>
     <message>
         <source>Entry %1: %2</source>
-        <translation>エントリー %1: %2</translation>
+        <translation>エントリ %1: %2</translation>
     </message>
     <message>
         <source>%1, %2: value %3</source>
@@ -4684,7 +4684,7 @@ The file is no longer whole. Save under another name; until then what was to be 
     </message>
     <message>
         <source>%1, %2: entry %3, %4</source>
-        <translation>%1, %2: エントリー %3、%4</translation>
+        <translation>%1, %2: エントリ %3、%4</translation>
     </message>
     <message>
         <source>Start page</source>
