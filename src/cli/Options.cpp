@@ -8,17 +8,23 @@ namespace dyeworks {
 
 namespace {
 
-/// Behind every argument that ends in "]": CLI11 takes "[a,b]" for a list, and it may be a file's name.
+/// Behind every argument that ends in "]": CLI11 takes "[a,b]" for a list, and it may be a file's name. So may
+/// one that ends in marks already, which gets one more.
 constexpr char kMark = '\x01';
 
+bool needsMark(const std::string& argument) {
+    const std::size_t last = argument.find_last_not_of(kMark);
+    return last != argument.npos && argument[last] == ']';
+}
+
 std::string marked(std::string argument) {
-    if (!argument.empty() && argument.back() == ']')
+    if (needsMark(argument))
         argument += kMark;
     return argument;
 }
 
 std::string unmarked(std::string argument) {
-    if (argument.size() >= 2 && argument.back() == kMark && argument[argument.size() - 2] == ']')
+    if (needsMark(argument) && argument.back() == kMark)
         argument.pop_back();
     return argument;
 }

@@ -18,6 +18,7 @@ namespace dyeworks {
 class FilePictures : public QObject {
 public:
     explicit FilePictures(QObject* parent);
+    ~FilePictures() override;
 
     /// Calls `done`, in this thread, once there is a picture of the file that fits into `room`, in pixels;
     /// not at all when there is none, or when the file does not answer within ten seconds. An image wears the

@@ -13,6 +13,8 @@
 #include <atomic>
 #include <chrono>
 #include <future>
+#include <new>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -37,7 +39,17 @@ struct Reading {
     std::atomic<std::uint64_t> size = 0;
     std::atomic<bool> stopped = false;
 
-    void run(const std::string& path) {
+    void run(const std::string& path) noexcept {
+        try {
+            readWhole(path);
+        } catch (const std::bad_alloc&) {
+            // Whoever reads it next is told of that.
+        }
+        done.set_value();
+    }
+
+private:
+    void readWhole(const std::string& path) {
         const auto file = openHostFile(platform().files().hostPath(path));
         std::vector<std::byte> piece(kPiece);
         bool slow = false;
@@ -50,7 +62,6 @@ struct Reading {
                 slow = count == kPiece && (slow || std::chrono::steady_clock::now() - start > kSlow);
             } while (slow && !stopped);
         }
-        done.set_value();
     }
 };
 
@@ -77,7 +88,11 @@ std::string pathWithoutDrive(const std::string& path) {
 bool waitForFile(const std::string& path, QWidget* owner) {
     const auto reading = std::make_shared<Reading>();
     const std::future<void> done = reading->done.get_future();
-    std::thread([reading, where = pathWithoutDrive(path)] { reading->run(where); }).detach();
+    try {
+        std::thread([reading, where = pathWithoutDrive(path)] { reading->run(where); }).detach();
+    } catch (const std::system_error&) {
+        return true; // There are too many threads. The file is read without waiting for it first.
+    }
     if (done.wait_for(kPatience) == std::future_status::ready)
         return true;
     const OrdinaryPointerScope pointer;
