@@ -131,9 +131,9 @@ class Desktop:
         return [child for child in children if child is not None and has(child, SHOWING)]
 
     def main_window(self):
-        application = self.application()
-        found = application and application.get_child_at_index(0)
-        return found if found and has(found, SHOWING) else None
+        if self.application() is None:
+            return None
+        return next((window for window in self.windows() if window.get_role_name() == "frame"), None)
 
     def window(self, name):
         """The window of that title, as soon as it is there."""

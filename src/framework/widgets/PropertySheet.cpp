@@ -26,6 +26,7 @@ PropertySheet::PropertySheet(const QString& caption, QWidget* parent)
 void PropertySheet::addPage(std::unique_ptr<PropertyPage> page) {
     const QString title = page->windowTitle();
     page->setAccessibleName(title);
+    tabs_->setAccessibleName(windowTitle());
     connect(page.get(), &PropertyPage::edited, this, &PropertySheet::followPages);
     tabs_->addTab(page.release(), title);
 }

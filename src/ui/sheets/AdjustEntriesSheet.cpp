@@ -149,7 +149,8 @@ void AdjustEntriesSheet::addButtons() {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     ok_ = buttons->button(QDialogButtonBox::Ok);
     ok_->setObjectName(QStringLiteral("IDOK"));
-    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("IDCANCEL"));
+    QPushButton* const cancel = buttons->button(QDialogButtonBox::Cancel);
+    cancel->setObjectName(QStringLiteral("IDCANCEL"));
     QPushButton* const again = buttons->addButton(shown(StringId::AdjustReset), QDialogButtonBox::ResetRole);
     again->setObjectName(QStringLiteral("IDC_ADJUST_RESET"));
     again->setToolTip(shown(StringId::AdjustResetTip));
@@ -158,6 +159,9 @@ void AdjustEntriesSheet::addButtons() {
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout()->addWidget(buttons);
+    // A box that gets another button later leaves its first ones out of the order.
+    QWidget::setTabOrder(again, ok_);
+    QWidget::setTabOrder(ok_, cancel);
 }
 
 void AdjustEntriesSheet::follow() {

@@ -107,6 +107,7 @@ EntryOrderSheet::EntryOrderSheet(const EntryOrder& proposed, const TlutData& tab
     auto* heading = new QLabel(shown(StringId::OrderImages));
     list_ = named(new QListWidget, "IDC_ORDER_IMAGES", StringId::OrderImagesTip);
     heading->setBuddy(list_);
+    list_->setAccessibleName(shown(StringId::OrderImagesTip));
     list_->setSelectionMode(QAbstractItemView::NoSelection);
     // Names of files may be long.
     list_->setWordWrap(true);
