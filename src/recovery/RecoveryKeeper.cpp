@@ -33,6 +33,12 @@ std::string nameOf(const CDocument& document) {
     return document.pathName().empty() ? document.displayName() : document.title();
 }
 
+void tellFile(RecoveryItem& item, const KnownFile& file) {
+    item.tellsFile = !item.path.empty() && file.path() == item.path;
+    if (item.tellsFile)
+        item.file = file.known();
+}
+
 const char* fileStem(RecoveryItem::Kind kind) {
     switch (kind) {
     case RecoveryItem::Kind::Palette:
@@ -93,6 +99,7 @@ std::vector<RecoveryKeeper::Subject> RecoveryKeeper::subjects() const {
             // One that was never saved is in no file, changed or not.
             subject.unsaved = palette->hasUnsavedChanges() || key.starts_with('*');
             subject.table = &palette->table;
+            tellFile(subject.stamp.item, palette->file());
             found.push_back(std::move(subject));
         }
     }
@@ -113,6 +120,7 @@ std::vector<RecoveryKeeper::Subject> RecoveryKeeper::subjects() const {
             subject.stamp.position = image->edits().position();
             subject.stamp.pieces = image->floatingPieces();
         }
+        tellFile(subject.stamp.item, document->file());
         subject.unsaved = document->hasUnsavedChanges();
         subject.document = document;
         found.push_back(std::move(subject));

@@ -76,6 +76,12 @@ QIcon iconOf(const RecoveryItem& item, std::span<const std::byte> contents) {
     return iconOf(QImage());
 }
 
+/// A file that others have changed since is not to be saved over unasked.
+void knowFile(KnownFile& file, const RecoveryItem& item) {
+    if (item.tellsFile)
+        file = KnownFile(item.path, item.file);
+}
+
 } // namespace
 
 CrashRecovery::CrashRecovery(Workspace& workspace)
@@ -270,6 +276,8 @@ bool CrashRecovery::openPalette(const RecoveryItem& item, const TlutData& table,
     PaletteSet& set = *workspace_.paletteSet();
     if (!set.add(std::move(palette)))
         return false;
+    if (KnownFile& file = set.lookup("")->file(); file.isAt(item.path))
+        knowFile(file, item);
     palettes.push_back({item.path, set.currentKey});
     return true;
 }
@@ -290,6 +298,8 @@ bool CrashRecovery::openImage(const RecoveryItem& item, const std::function<bool
             return false;
         if (isFree)
             image.setPathName(item.path);
+        if (isFree)
+            knowFile(image.file(), item);
         image.setAttachedName(key);
         image.setPaletteValue(item.firstEntry);
         image.RefreshOwnPalette();
@@ -299,7 +309,10 @@ bool CrashRecovery::openImage(const RecoveryItem& item, const std::function<bool
 
 bool CrashRecovery::openProject(const RecoveryItem& item, std::span<const std::byte> contents) {
     return workspace_.projectTemplate().newDocument(item.title, [&](CDocument& document) {
-        return static_cast<CTPFDocument&>(document).Recover(item.path, contents);
+        if (!static_cast<CTPFDocument&>(document).Recover(item.path, contents))
+            return false;
+        knowFile(document.file(), item);
+        return true;
     }) != nullptr;
 }
 

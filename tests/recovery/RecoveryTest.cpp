@@ -103,10 +103,13 @@ protected:
     std::multiset<std::string> unsaved() const {
         std::multiset<std::string> all;
         for (const auto& image : images_) {
-            if (image->hasUnsavedChanges())
-                all.insert(lineOf({RecoveryItem::Kind::Image, image->pathName(), image->title(), 0,
-                                   image->attachedName(), image->paletteValue()},
-                                  image->canvas().block()));
+            if (!image->hasUnsavedChanges())
+                continue;
+            const bool hasFile = !image->pathName().empty();
+            all.insert(lineOf({RecoveryItem::Kind::Image, image->pathName(),
+                               hasFile ? image->title() : image->displayName(), 0, image->attachedName(),
+                               image->paletteValue(), hasFile, image->file().known()},
+                              image->canvas().block()));
         }
         for (const auto& [key, palette] : host_.palettes.palettes)
             all.insert(lineOf({RecoveryItem::Kind::Palette, key, palette->title, 0, {}, 0},
@@ -232,7 +235,6 @@ TEST_F(Recovery, WhatFloatsIsKeptAsItWouldBePlaced) {
             crash();
             const std::multiset<std::string> kept = offered();
             ASSERT_TRUE(viewer.CommitFloatingPiece(false));
-            image.setTitle(""); // Which has got its mark.
             EXPECT_EQ(kept, unsaved()) << wrap << " " << at.x;
             for (const auto& state : PosixStateFolder(base_).left())
                 state->discard();
