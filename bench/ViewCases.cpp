@@ -1,4 +1,5 @@
 #include "bench/Baseline.h"
+#include "bench/BufferWindow.h"
 #include "bench/Cases.h"
 #include "core/PaletteSet.h"
 #include "paint/CDyeworksDoc.h"
@@ -22,54 +23,6 @@
 namespace dyeworks {
 
 namespace {
-
-constexpr std::uint32_t kButtonFace = 0xFFEFEFEF;
-
-/// A window that paints into memory what it is asked to.
-class BufferWindow : public ViewWindow {
-public:
-    explicit BufferWindow(Size client)
-        : client_(client)
-        , pixels_(static_cast<std::size_t>(client.width) * static_cast<std::size_t>(client.height)) {}
-
-    void show(CDyeworksView& view) { view_ = &view; }
-
-    Size clientSize() const override { return client_; }
-    Point scrollPosition() const override { return {}; }
-    void scrollTo(Point /*position*/) override {}
-    void setContentSize(Size /*size*/) override {}
-    void invalidate(const Rect& area) override {
-        const Rect inside = intersection(area, {0, 0, client_.width, client_.height});
-        if (inside.left < inside.right && inside.top < inside.bottom)
-            stale_.push_back(inside);
-    }
-    void invalidateAll() override { invalidate({0, 0, client_.width, client_.height}); }
-    void repaintNow() override {
-        const ImageSelection::RedrawRequest request = view_->BeginPaint();
-        Surface surface{pixels_.data(), client_.width, client_.height, client_.width, 0, 0};
-        const std::uint32_t bits = request.bits == 0 ? 0 : request.bits | ImageSelection::kRedrawImage;
-        for (const Rect& area : std::exchange(stale_, {}))
-            view_->Paint(surface, area, kButtonFace, bits);
-        benchmark::ClobberMemory();
-    }
-    void capturePointer() override {}
-    void releasePointer() override {}
-    void setCursor(CursorShape /*shape*/) override {}
-    void fitFrame() override {}
-    std::optional<WindowPlacement> placement() const override { return std::nullopt; }
-    void setPlacement(const WindowPlacement& /*placement*/) override {}
-    void setDisplayPalette(const DisplayPalette* /*palette*/) override {}
-    void startTicking(int /*milliseconds*/) override {}
-    void stopTicking() override {}
-    Point pointerPosition() const override { return {}; }
-    bool shiftHeld() const override { return false; }
-
-private:
-    Size client_;
-    std::vector<std::uint32_t> pixels_;
-    std::vector<Rect> stale_;
-    CDyeworksView* view_ = nullptr;
-};
 
 /// An application with palettes and one window, which is active.
 class OneViewHost : public ImageHost {

@@ -24,11 +24,14 @@ KnownFile::KnownFile(const std::string& path)
     , known_(platform().files().stamp(path_))
     , seen_(known_) {}
 
-KnownFile::KnownFile(const std::string& path, const FileStamp& known)
-    : path_(platform().files().fullPath(path))
-    , known_(known)
-    , contentsTried_(true) // It may be another version by now.
-    , seen_(known) {}
+KnownFile::KnownFile(const std::string& path, const std::optional<FileStamp>& known)
+    : KnownFile(path) {
+    known_ = known;
+    // Devices may be numbered anew when the machine starts.
+    if (known_ && seen_)
+        known_->device = seen_->device;
+    judged_ = known_ == seen_;
+}
 
 bool KnownFile::isAt(const std::string& path) const {
     const Files& files = platform().files();

@@ -27,14 +27,14 @@ public:
     /// Of an owner that has just written the file or is about to read it: then what it reads is the version
     /// that is known, or a later one, which will be found to be a change.
     explicit KnownFile(const std::string& path);
-    /// Of an owner that has known this version for some time: what has become of the file since is found by
-    /// the next looks.
-    KnownFile(const std::string& path, const FileStamp& known);
+    /// Of an owner that an earlier run has left, and which knows the version `known`; nothing: there was no
+    /// file. What has become of it since is found by `look`.
+    KnownFile(const std::string& path, const std::optional<FileStamp>& known);
 
     /// As a full path; empty without a file.
     [[nodiscard]] const std::string& path() const noexcept { return path_; }
     [[nodiscard]] bool isAt(const std::string& path) const;
-    /// The version that is known; nothing where there was no file.
+    /// The version that is known; nothing: there was no file.
     [[nodiscard]] const std::optional<FileStamp>& known() const noexcept { return known_; }
 
     /// Looks at the file. Something new is told once it has been the same at two looks in a row.

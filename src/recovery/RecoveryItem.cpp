@@ -52,6 +52,30 @@ bool take(const std::map<std::string_view, std::string_view>& values, std::strin
     return error == std::errc{} && end == text.data() + text.size();
 }
 
+std::string stampText(const FileStamp& stamp) {
+    return std::to_string(stamp.device) + ' ' + std::to_string(stamp.identity) + ' ' +
+           std::to_string(stamp.size) + ' ' + std::to_string(stamp.time);
+}
+
+bool takeStamp(std::string_view text, std::optional<FileStamp>& stamp) {
+    FileStamp read;
+    const auto next = [&text](auto& number) {
+        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+        text.remove_prefix(static_cast<std::size_t>(end - text.data()));
+        return error == std::errc{} && (text.empty() || text.starts_with(' '));
+    };
+    const auto blank = [&text] {
+        const bool there = text.starts_with(' ');
+        text.remove_prefix(there ? 1 : 0);
+        return there;
+    };
+    const bool whole = next(read.device) && blank() && next(read.identity) && blank() && next(read.size) &&
+                       blank() && next(read.time) && text.empty();
+    if (whole)
+        stamp = read;
+    return whole;
+}
+
 } // namespace
 
 std::string recoveryHeader(const RecoveryItem& item) {
@@ -68,12 +92,8 @@ std::string recoveryHeader(const RecoveryItem& item) {
     add("time", std::to_string(item.time));
     add("palette", item.attachedName);
     add("entry", std::to_string(item.firstEntry));
-    if (item.file) {
-        add("device", std::to_string(item.file->device));
-        add("identity", std::to_string(item.file->identity));
-        add("size", std::to_string(item.file->size));
-        add("changed", std::to_string(item.file->time));
-    }
+    if (item.tellsFile)
+        add("file", item.file ? stampText(*item.file) : std::string());
     return header + '\n';
 }
 
@@ -106,10 +126,11 @@ std::optional<ReadRecoveryItem> parseRecoveryItem(std::span<const std::byte> fil
     result.item.path = unescaped(values["path"]);
     result.item.title = unescaped(values["title"]);
     result.item.attachedName = unescaped(values["palette"]);
-    FileStamp stamp;
-    if (take(values, "device", stamp.device) && take(values, "identity", stamp.identity) &&
-        take(values, "size", stamp.size) && take(values, "changed", stamp.time))
-        result.item.file = stamp;
+    if (const auto version = values.find("file"); version != values.end()) {
+        result.item.tellsFile = true;
+        if (!version->second.empty() && !takeStamp(version->second, result.item.file))
+            return std::nullopt;
+    }
     result.contents = file.last(rest.size());
     return result;
 }

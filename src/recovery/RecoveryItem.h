@@ -26,7 +26,9 @@ struct RecoveryItem {
     std::int64_t time = 0;       ///< When it was kept, in seconds since 1970 (UTC).
     std::string attachedName;    ///< Of an image: the key of its palette, or empty.
     std::int32_t firstEntry = 0; ///< Of an image.
-    /// The version of its file that it knew; nothing without a file, and in what older versions have kept.
+    /// The version of its file that the document knew, or that there was none; nothing of that when it is
+    /// not told.
+    bool tellsFile = false;
     std::optional<FileStamp> file{};
 
     bool operator==(const RecoveryItem&) const = default;

@@ -33,6 +33,12 @@ std::string nameOf(const CDocument& document) {
     return document.pathName().empty() ? document.displayName() : document.title();
 }
 
+void tellFile(RecoveryItem& item, const KnownFile& file) {
+    item.tellsFile = !item.path.empty() && file.path() == item.path;
+    if (item.tellsFile)
+        item.file = file.known();
+}
+
 const char* fileStem(RecoveryItem::Kind kind) {
     switch (kind) {
     case RecoveryItem::Kind::Palette:
@@ -89,11 +95,11 @@ std::vector<RecoveryKeeper::Subject> RecoveryKeeper::subjects() const {
         for (const auto& [key, palette] : set->palettes) {
             Subject subject;
             subject.key = "palette " + key;
-            subject.stamp.item = {RecoveryItem::Kind::Palette, key, palette->title, 0, {}, 0,
-                                  palette->file().known()};
+            subject.stamp.item = {RecoveryItem::Kind::Palette, key, palette->title, 0, {}, 0};
             // One that was never saved is in no file, changed or not.
             subject.unsaved = palette->hasUnsavedChanges() || key.starts_with('*');
             subject.table = &palette->table;
+            tellFile(subject.stamp.item, palette->file());
             found.push_back(std::move(subject));
         }
     }
@@ -107,14 +113,14 @@ std::vector<RecoveryKeeper::Subject> RecoveryKeeper::subjects() const {
                               nameOf(*document),
                               0,
                               {},
-                              0,
-                              document->file().known()};
+                              0};
         if (image != nullptr) {
             subject.stamp.item.attachedName = image->attachedName();
             subject.stamp.item.firstEntry = image->paletteValue();
             subject.stamp.position = image->edits().position();
             subject.stamp.pieces = image->floatingPieces();
         }
+        tellFile(subject.stamp.item, document->file());
         subject.unsaved = document->hasUnsavedChanges();
         subject.document = document;
         found.push_back(std::move(subject));

@@ -76,10 +76,10 @@ QIcon iconOf(const RecoveryItem& item, std::span<const std::byte> contents) {
     return iconOf(QImage());
 }
 
-/// What is recovered knows of its file what it did, so that what others have made of that is told.
-void takeFile(KnownFile& file, const RecoveryItem& item) {
-    if (item.file)
-        file = KnownFile(item.path, *item.file);
+/// A file that others have changed since is not to be saved over unasked.
+void knowFile(KnownFile& file, const RecoveryItem& item) {
+    if (item.tellsFile)
+        file = KnownFile(item.path, item.file);
 }
 
 } // namespace
@@ -273,10 +273,11 @@ bool CrashRecovery::openPalette(const RecoveryItem& item, const TlutData& table,
     palette->path = item.path;
     palette->titleFromPath();
     palette->markUnsaved();
-    takeFile(palette->file(), item);
     PaletteSet& set = *workspace_.paletteSet();
     if (!set.add(std::move(palette)))
         return false;
+    if (KnownFile& file = set.lookup("")->file(); file.isAt(item.path))
+        knowFile(file, item);
     palettes.push_back({item.path, set.currentKey});
     return true;
 }
@@ -295,10 +296,10 @@ bool CrashRecovery::openImage(const RecoveryItem& item, const std::function<bool
         auto& image = static_cast<CDyeworksDoc&>(document);
         if (!fill(image))
             return false;
-        if (isFree) {
+        if (isFree)
             image.setPathName(item.path);
-            takeFile(image.file(), item);
-        }
+        if (isFree)
+            knowFile(image.file(), item);
         image.setAttachedName(key);
         image.setPaletteValue(item.firstEntry);
         image.RefreshOwnPalette();
@@ -310,7 +311,7 @@ bool CrashRecovery::openProject(const RecoveryItem& item, std::span<const std::b
     return workspace_.projectTemplate().newDocument(item.title, [&](CDocument& document) {
         if (!static_cast<CTPFDocument&>(document).Recover(item.path, contents))
             return false;
-        takeFile(document.file(), item);
+        knowFile(document.file(), item);
         return true;
     }) != nullptr;
 }

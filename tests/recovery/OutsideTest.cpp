@@ -292,6 +292,18 @@ TEST_F(Outside, RandomWorkOfSeveralNeitherLosesNorReportsWhatItShouldNot) {
     }
 }
 
+TEST_F(Outside, WhatAnEarlierRunKnewIsNotSavedOverUnasked) {
+    const std::optional<FileStamp> known = image_.file().known();
+    fake_.messages.shown.clear();
+    EXPECT_TRUE(KnownFile("c:\\a.tmf", known).mayBeReplaced("c:\\a.tmf"));
+    fake_.files.putFile("c:\\a.tmf", imageOf(20));
+    KnownFile changed("c:\\a.tmf", known);
+    EXPECT_EQ(changed.look(), State::Changed);
+    EXPECT_THAT(fake_.messages.shown, IsEmpty());
+    (void)changed.mayBeReplaced("c:\\a.tmf");
+    EXPECT_EQ(fake_.messages.shown.size(), 1U);
+}
+
 TEST_F(Outside, WhatIsUnchangedFollowsItsFileByItselfOnceThatIsWhole) {
     remember();
     subjects_[1].edit(5);

@@ -103,15 +103,17 @@ protected:
     std::multiset<std::string> unsaved() const {
         std::multiset<std::string> all;
         for (const auto& image : images_) {
-            if (image->hasUnsavedChanges())
-                all.insert(lineOf({RecoveryItem::Kind::Image, image->pathName(), image->title(), 0,
-                                   image->attachedName(), image->paletteValue(), image->file().known()},
-                                  image->canvas().block()));
+            if (!image->hasUnsavedChanges())
+                continue;
+            const bool hasFile = !image->pathName().empty();
+            all.insert(lineOf({RecoveryItem::Kind::Image, image->pathName(),
+                               hasFile ? image->title() : image->displayName(), 0, image->attachedName(),
+                               image->paletteValue(), hasFile, image->file().known()},
+                              image->canvas().block()));
         }
         for (const auto& [key, palette] : host_.palettes.palettes)
-            all.insert(
-                lineOf({RecoveryItem::Kind::Palette, key, palette->title, 0, {}, 0, palette->file().known()},
-                       packPalette(palette->table)));
+            all.insert(lineOf({RecoveryItem::Kind::Palette, key, palette->title, 0, {}, 0},
+                              packPalette(palette->table)));
         return all;
     }
 
@@ -162,22 +164,6 @@ TEST_F(Recovery, RandomWorkIsOfferedAsItWasAndNothingElse) {
             state->discard();
         start();
     }
-}
-
-TEST_F(Recovery, AFileThatWasChangedSinceTheCrashIsNotSavedOverUnasked) {
-    const std::string path = "c:\\a.tmf";
-    fake_.files.putFile(path, "one");
-    const auto known = fake_.files.stamp(path);
-    ASSERT_TRUE(known);
-    KnownFile same(path, *known);
-    EXPECT_EQ(same.look(), KnownFile::State::Same);
-    EXPECT_TRUE(same.mayBeReplaced(path));
-    fake_.files.putFile(path, "another");
-    KnownFile file(path, *known);
-    EXPECT_EQ(file.look(), KnownFile::State::Unsettled);
-    EXPECT_EQ(file.look(), KnownFile::State::Changed);
-    fake_.messages.answerWith(MessageAnswer::Cancel);
-    EXPECT_FALSE(file.mayBeReplaced(path));
 }
 
 TEST_F(Recovery, WaitsForAPauseButNotForEver) {
@@ -249,7 +235,6 @@ TEST_F(Recovery, WhatFloatsIsKeptAsItWouldBePlaced) {
             crash();
             const std::multiset<std::string> kept = offered();
             ASSERT_TRUE(viewer.CommitFloatingPiece(false));
-            image.setTitle(""); // Which has got its mark.
             EXPECT_EQ(kept, unsaved()) << wrap << " " << at.x;
             for (const auto& state : PosixStateFolder(base_).left())
                 state->discard();
