@@ -118,8 +118,7 @@ void StartPage::addFiles(QVBoxLayout& page, const QString& title, const std::vec
         const int number = static_cast<int>(cards.size());
         grid->addWidget(card, number / kColumns, number % kColumns);
         connect(
-            card, &ThumbnailButton::clicked, this, [this, file, chosen] { Q_EMIT(this->*chosen)
-                                                                          (file); },
+            card, &ThumbnailButton::clicked, this, [this, file, chosen] { (this->*chosen)(file); },
             Qt::QueuedConnection);
         cards.push_back(card);
     }
