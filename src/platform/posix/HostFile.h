@@ -2,6 +2,7 @@
 
 #include "platform/Files.h"
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -33,8 +34,10 @@ enum class Flush { Yes, No };
 
 /// Replaces the file in one step or leaves it as it was. `path` is a host path; symbolic links are followed
 /// and stay. Devices and pipes are written into, since there is nothing beside them to put in their place.
+/// Once another thread makes `stopped` true, which must outlive the call, the file is no longer replaced.
 [[nodiscard]] std::optional<FileError> writeHostFile(const std::string& path, FilePieces pieces,
-                                                     Flush flush = Flush::Yes);
+                                                     Flush flush = Flush::Yes,
+                                                     const std::atomic<bool>* stopped = nullptr);
 
 /// Whether a file that could not be replaced for this reason may still be written: it is a regular one, and
 /// it is its folder that takes no other.

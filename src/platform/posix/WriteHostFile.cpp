@@ -25,6 +25,13 @@ constexpr mode_t kNewFileMode = 0666; // Less what the user's mask takes.
 constexpr mode_t kPermissions = 0777;
 constexpr int kMaxLinks = 40;
 
+struct Manner {
+    Flush flush;
+    const std::atomic<bool>* stopped;
+
+    [[nodiscard]] bool isStopped() const { return stopped != nullptr && *stopped; }
+};
+
 std::string folderOf(const std::string& path) {
     return path.substr(0, path.rfind('/') + 1);
 }
@@ -121,26 +128,31 @@ Descriptor openFolder(const std::string& path) {
 
 /// `old` is null for a file that does not exist. `nameRefused` tells that the file could not be given one.
 ErrorNumber replaceThrough(TemporaryFile& file, const std::string& path, const struct stat* old,
-                           FilePieces pieces, Flush flushes, bool& nameRefused) {
+                           FilePieces pieces, const Manner& manner, bool& nameRefused) {
     ErrorNumber error = file.error();
     if (error == 0 && old != nullptr)
         error = keepPermissions(file.get(), path, *old);
     if (error == 0)
         error = writeAll(file.get(), pieces);
-    if (error == 0 && flushes == Flush::Yes)
+    if (error == 0 && manner.flush == Flush::Yes)
         error = flush(file.get());
+    if (error == 0 && manner.isStopped())
+        return ECANCELED;
     if (error == 0) {
         error = file.makeNamed();
         nameRefused = error != 0;
     }
     if (error == 0)
         error = file.close();
+    if (error == 0 && manner.isStopped())
+        return ECANCELED;
     if (error == 0)
         error = file.place(nameOf(path));
     return error;
 }
 
-ErrorNumber replaceFile(const std::string& path, const struct stat* old, FilePieces pieces, Flush flushes) {
+ErrorNumber replaceFile(const std::string& path, const struct stat* old, FilePieces pieces,
+                        const Manner& manner) {
     const std::string folderName = folderOf(path);
     const Descriptor folder = openFolder(folderName.empty() ? "." : folderName);
     if (!folder.valid())
@@ -152,11 +164,11 @@ ErrorNumber replaceFile(const std::string& path, const struct stat* old, FilePie
         nameRefused = false;
         // Nobody else may look into a copy of a file whose rights are not set yet.
         TemporaryFile file(folder.get(), old != nullptr ? S_IRUSR | S_IWUSR : kNewFileMode, name);
-        error = replaceThrough(file, path, old, pieces, flushes, nameRefused);
+        error = replaceThrough(file, path, old, pieces, manner, nameRefused);
         if (!nameRefused)
             break;
     }
-    if (error == 0 && flushes == Flush::Yes) {
+    if (error == 0 && manner.flush == Flush::Yes) {
         // The file is in its place. A folder that cannot be flushed only makes that less lasting.
         (void)flush(folder.get());
     }
@@ -178,7 +190,7 @@ bool isDevice(const std::string& path) {
     return ::stat(path.c_str(), &named) == 0 && !S_ISREG(named.st_mode) && !S_ISDIR(named.st_mode);
 }
 
-ErrorNumber writeResolved(std::string path, FilePieces pieces, Flush flushes) {
+ErrorNumber writeResolved(std::string path, FilePieces pieces, const Manner& manner) {
     // Before the links are followed: what "/dev/stdout" leads to may be a pipe, which has no name to follow.
     if (isDevice(path))
         return writeInto(path, pieces);
@@ -186,13 +198,13 @@ ErrorNumber writeResolved(std::string path, FilePieces pieces, Flush flushes) {
         return error;
     struct stat old {};
     if (::stat(path.c_str(), &old) != 0)
-        return errno == ENOENT ? replaceFile(path, nullptr, pieces, flushes) : errno;
+        return errno == ENOENT ? replaceFile(path, nullptr, pieces, manner) : errno;
     if (S_ISDIR(old.st_mode))
         return EISDIR;
     // Replacing asks for rights to the folder only; a file that is protected itself is left alone.
     if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0)
         return errno;
-    return replaceFile(path, &old, pieces, flushes);
+    return replaceFile(path, &old, pieces, manner);
 }
 
 /// Nothing is overwritten before there is room for all of it.
@@ -244,9 +256,10 @@ std::optional<FileError> writeIntoHostFile(const std::string& path, FilePieces p
     return fileErrorFrom(error);
 }
 
-std::optional<FileError> writeHostFile(const std::string& path, FilePieces pieces, Flush flush) {
+std::optional<FileError> writeHostFile(const std::string& path, FilePieces pieces, Flush flush,
+                                       const std::atomic<bool>* stopped) {
     const SignalShield shield;
-    const ErrorNumber error = writeResolved(path, pieces, flush);
+    const ErrorNumber error = writeResolved(path, pieces, {flush, stopped});
     if (error == 0)
         return std::nullopt;
     return fileErrorFrom(error);

@@ -20,8 +20,9 @@ std::optional<std::string> mappedDrive(const Profile& profile, char letter) {
 
 QtPlatform::QtPlatform(const std::string& settingsFile)
     : profile_(settingsFile)
-    , files_([this](char letter) { return mappedDrive(profile_, letter); },
-             QCoreApplication::applicationDirPath().toStdString())
+    , files_(
+          windows_, [this](char letter) { return mappedDrive(profile_, letter); },
+          QCoreApplication::applicationDirPath().toStdString())
     , messages_(windows_)
     , fileDialogs_(windows_, files_, messages_)
     , library_(files_)

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "platform/Platform.h"
-#include "platform/posix/PosixFiles.h"
 #include "platform/posix/PosixLibrary.h"
 #include "platform/posix/PosixLocale.h"
 #include "platform/posix/PosixStateFolder.h"
 #include "platform/posix/PosixVersionInfo.h"
+#include "platform/qt/PatientFiles.h"
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFileDialogs.h"
 #include "platform/qt/QtFileWatcher.h"
@@ -51,7 +51,7 @@ public:
 private:
     WindowContext windows_;
     QtProfile profile_;
-    PosixFiles files_;
+    PatientFiles files_;
     QtFileWatcher fileWatcher_{files_};
     QtMessages messages_;
     QtFileDialogs fileDialogs_;
