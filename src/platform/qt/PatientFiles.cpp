@@ -37,9 +37,15 @@ struct Writing {
     std::promise<std::optional<FileError>> done;
     std::atomic<bool> stopped = false;
 
-    void run() {
-        const std::span<const std::byte> piece = bytes;
-        done.set_value(writeHostFile(file, FilePieces(&piece, 1), Flush::Yes, &stopped));
+    void run() noexcept {
+        std::optional<FileError> error;
+        try {
+            const std::span<const std::byte> piece = bytes;
+            error = writeHostFile(file, FilePieces(&piece, 1), Flush::Yes, &stopped);
+        } catch (const std::bad_alloc&) {
+            error = FileError::TooLarge;
+        }
+        done.set_value(error);
     }
 };
 
