@@ -274,6 +274,7 @@ public:
     }
     void RefreshImagePalettes() override { image_.document.RefreshPalette(); }
     void RefreshAllImages() override { image_.document.RefreshOwnPalette(); }
+    void showMessage(const std::string& /*text*/) override {}
 
 private:
     void valuesChanged() override {}

@@ -4,10 +4,11 @@
 #   lib/orrery-dyeworks/doc/    the guide, which the program opens as ../doc/index.html
 #   bin/Dyeworks                a link to the program
 #   bin/dyeworks-cli            its sister for scripts
+#   bin/dyeworks-thumbnailer    its sister for file managers
 #   share/                      what the desktop reads (data/README.md), samples, manual pages, completion
 #
 # Components: editor, cli, sdk. Everything finds its parts from where it is itself, so a tree that was installed may be
-# moved; only the desktop entry names the prefix.
+# moved; only the entries for the desktop name the prefix.
 
 file(GLOB_RECURSE guide_pages CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/docs/guide/*")
 set(guide_pictures "${PROJECT_SOURCE_DIR}/docs/window.png" "${PROJECT_SOURCE_DIR}/data/icons/orrery-dyeworks.svg")
@@ -46,10 +47,11 @@ install(DIRECTORY "${share}/icons" "${share}/mime" DESTINATION share COMPONENT e
 install(FILES data/orrery-dyeworks.metainfo.xml
   DESTINATION share/metainfo RENAME local.orrery.dyeworks.metainfo.xml COMPONENT editor)
 
-# dyeworks_command_files(<program> <component> [FROM_HELP]): its manual pages in both languages and its completion for
-# two shells. FROM_HELP: a program of commands, which tells the build itself what they are.
+# dyeworks_command_files(<program> <component> [FROM_HELP | MANUAL_ONLY]): its manual pages in both languages and its
+# completion for two shells. FROM_HELP: a program of commands, which tells the build itself what they are.
+# MANUAL_ONLY: one that nobody types.
 function(dyeworks_command_files program component)
-  cmake_parse_arguments(PARSE_ARGV 2 arg "FROM_HELP" "" "")
+  cmake_parse_arguments(PARSE_ARGV 2 arg "FROM_HELP;MANUAL_ONLY" "" "")
   set(made "${PROJECT_BINARY_DIR}/command-files/${program}")
   # Languages of manual pages are told by their folder below one of this name.
   set(pages "${made}/man")
@@ -65,6 +67,9 @@ function(dyeworks_command_files program component)
     install(FILES "${pages}/${language}/man1/${program}.1"
       DESTINATION share/man/${language}/man1 COMPONENT ${component})
   endforeach()
+  if(arg_MANUAL_ONLY)
+    return()
+  endif()
   install(FILES "${completions}/${program}.bash"
     DESTINATION share/bash-completion/completions RENAME ${program} COMPONENT ${component})
   install(FILES "${completions}/_${program}" DESTINATION share/zsh/site-functions COMPONENT ${component})
@@ -84,29 +89,43 @@ function(dyeworks_command_files program component)
 endfunction()
 dyeworks_command_files(Dyeworks editor)
 
+# With the editor: whoever has the files on a desktop has the program, and the command line's package need not be there.
+install(TARGETS dyeworks-thumbnailer RUNTIME DESTINATION bin COMPONENT editor)
+dyeworks_command_files(dyeworks-thumbnailer editor MANUAL_ONLY)
+
 install(TARGETS dyeworks-cli RUNTIME DESTINATION bin COMPONENT cli)
 dyeworks_command_files(dyeworks-cli cli FROM_HELP)
 
-# The prefix is known when installing only. In the entry it is a quoted argument, where "%" starts a field code and
+# The prefix is known when installing only. In an entry it is a quoted argument, where "%" starts a field code and
 # some characters take a backslash that is written twice.
-install(CODE "set(entry \"${share}/applications/orrery-dyeworks.desktop\")\nset(version ${PROJECT_VERSION})"
+install(CODE "set(entry \"${share}/applications/orrery-dyeworks.desktop\")
+set(thumbnailer \"${PROJECT_SOURCE_DIR}/data/orrery-dyeworks.thumbnailer.in\")
+set(version ${PROJECT_VERSION})"
   COMPONENT editor)
 install(CODE [[
   set(root "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
   file(MAKE_DIRECTORY "${root}/bin")
   file(CREATE_LINK ../lib/orrery-dyeworks/bin/Dyeworks "${root}/bin/Dyeworks" SYMBOLIC)
 
-  string(REPLACE "%" "%%" EXEC "${CMAKE_INSTALL_PREFIX}/bin/Dyeworks")
-  string(REGEX REPLACE "([\"`$])" "\\\\\\\\\\1" EXEC "${EXEC}")
-  set(EXEC "\"${EXEC}\"")
+  function(quoted_in_entry variable path)
+    string(REPLACE "%" "%%" path "${path}")
+    string(REGEX REPLACE "([\"`$])" "\\\\\\\\\\1" path "${path}")
+    set(${variable} "\"${path}\"" PARENT_SCOPE)
+  endfunction()
+  quoted_in_entry(EXEC "${CMAKE_INSTALL_PREFIX}/bin/Dyeworks")
+  set(THUMBNAILER "${CMAKE_INSTALL_PREFIX}/bin/dyeworks-thumbnailer")
+  quoted_in_entry(THUMBNAILER_EXEC "${THUMBNAILER}")
   set(VERSION "${version}")
   set(MIME_TYPES "image/x-orrery-tmf;text/x-orrery-tpf;application/x-orrery-tlf;")
   message(STATUS "Installing: ${root}/share/applications/orrery-dyeworks.desktop")
   configure_file("${entry}" "${root}/share/applications/orrery-dyeworks.desktop" @ONLY)
+  message(STATUS "Installing: ${root}/share/thumbnailers/orrery-dyeworks.thumbnailer")
+  configure_file("${thumbnailer}" "${root}/share/thumbnailers/orrery-dyeworks.thumbnailer" @ONLY)
 
   # In the list of what was installed, from which all of it can be removed.
   list(APPEND CMAKE_INSTALL_MANIFEST_FILES
-    "${CMAKE_INSTALL_PREFIX}/bin/Dyeworks" "${CMAKE_INSTALL_PREFIX}/share/applications/orrery-dyeworks.desktop")
+    "${CMAKE_INSTALL_PREFIX}/bin/Dyeworks" "${CMAKE_INSTALL_PREFIX}/share/applications/orrery-dyeworks.desktop"
+    "${CMAKE_INSTALL_PREFIX}/share/thumbnailers/orrery-dyeworks.thumbnailer")
 ]] COMPONENT editor)
 
 # With DESTDIR, and not what cpack installs for its packages: CMake's own lists would have "uninstall" remove files of

@@ -46,7 +46,7 @@ set(CPACK_DEBIAN_CLI_PACKAGE_SUGGESTS orrery-dyeworks)
 set(CPACK_COMPONENT_CLI_DESCRIPTION
   "dyeworks-cli does what a build or a script asks of the textures of game
 consoles: tells what files hold, converts between TMF, PNG, BMP, C source and
-raw bytes, makes the pictures of a project as far as they have changed, and
+raw bytes, reads JPEG, makes the pictures of a project as far as they have changed, and
 works on palettes with the images that show them.
 .
 It needs no display and speaks English and Japanese.")
@@ -55,10 +55,13 @@ set(CPACK_DEBIAN_SDK_PACKAGE_NAME orrery-dyeworks-dev)
 set(CPACK_DEBIAN_SDK_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_SDK_PACKAGE_ARCHITECTURE all)
 set(CPACK_DEBIAN_SDK_PACKAGE_SHLIBDEPS OFF)
-set(CPACK_DEBIAN_SDK_PACKAGE_RECOMMENDS "cmake, orrery-dyeworks")
+set(CPACK_DEBIAN_SDK_PACKAGE_RECOMMENDS "cmake, orrery-dyeworks, orrery-dyeworks-cli")
 set(CPACK_COMPONENT_SDK_DESCRIPTION
   "Headers, a package for CMake, a plug-in to start from and a guide for authors
-of plug-ins of Orrery Dyeworks, an editor for colour-indexed console textures.")
+of plug-ins of Orrery Dyeworks, an editor for colour-indexed console textures.
+.
+The package for CMake also takes the textures of a project into a build, which
+dyeworks-cli writes.")
 
 # What packages have besides, see there.
 set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/packaging/complete-packages.cmake")

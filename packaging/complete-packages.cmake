@@ -14,6 +14,10 @@ function(compressed file)
   execute_process(COMMAND gzip --best --no-name --force "${file}" COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
 
+# What others have written that is compiled in: into the thumbnailer, and into the command line.
+set(others_in_editor options)
+set(others_in_cli options json)
+
 foreach(component IN LISTS CPACK_COMPONENTS_ALL)
   string(TOUPPER "${component}" upper)
   set(package "${CPACK_DEBIAN_${upper}_PACKAGE_NAME}")
@@ -23,11 +27,10 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
 
   file(MAKE_DIRECTORY "${doc}")
   file(READ "${CPACK_DYEWORKS_SOURCE}/packaging/copyright" copyright)
-  # What others have written that is compiled in.
-  if(EXISTS "${CPACK_DYEWORKS_SOURCE}/packaging/copyright.${component}")
-    file(READ "${CPACK_DYEWORKS_SOURCE}/packaging/copyright.${component}" others)
+  foreach(part IN LISTS others_in_${component})
+    file(READ "${CPACK_DYEWORKS_SOURCE}/packaging/copyright.${part}" others)
     string(APPEND copyright "\n${others}")
-  endif()
+  endforeach()
   file(WRITE "${doc}/copyright" "${copyright}")
   configure_file("${CPACK_DYEWORKS_SOURCE}/CHANGELOG.md" "${doc}/changelog" COPYONLY)
   compressed("${doc}/changelog")

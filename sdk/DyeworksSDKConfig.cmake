@@ -1,4 +1,5 @@
 include("${CMAKE_CURRENT_LIST_DIR}/DyeworksSDKTargets.cmake")
+include("${CMAKE_CURRENT_LIST_DIR}/DyeworksTextures.cmake")
 
 # dyeworks_add_plugin(NAME SOURCE...): the plug-in NAME.so, a target that further libraries can be linked to. It exports
 # its entry points and its version information, and nothing else: inline variables of C++ that a library exports would

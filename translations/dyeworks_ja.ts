@@ -1296,6 +1296,76 @@ Toggle Start Page</source>
         <translation>パレットのセルだけ(&amp;Y)</translation>
     </message>
     <message>
+        <source>Take the palette entry before the current one
+Previous Entry</source>
+        <translation>現在のパレット エントリの 1 つ前を選びます
+前のエントリ</translation>
+    </message>
+    <message>
+        <source>Take the palette entry after the current one
+Next Entry</source>
+        <translation>現在のパレット エントリの 1 つ後を選びます
+次のエントリ</translation>
+    </message>
+    <message>
+        <source>Take the palette entry above the current one
+Entry Above</source>
+        <translation>現在のパレット エントリの 1 段上を選びます
+上のエントリ</translation>
+    </message>
+    <message>
+        <source>Take the palette entry below the current one
+Entry Below</source>
+        <translation>現在のパレット エントリの 1 段下を選びます
+下のエントリ</translation>
+    </message>
+    <message>
+        <source>Take the entry of the texel at the texel cursor, or at the pointer
+Pick Entry of Texel</source>
+        <translation>テクセル カーソル、またはポインタの位置のテクセルのエントリを選びます
+テクセルのエントリを選ぶ</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Entry</source>
+        <translation>前のエントリ(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Next Entry</source>
+        <translation>次のエントリ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Entry &amp;Above</source>
+        <translation>上のエントリ(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Entry &amp;Below</source>
+        <translation>下のエントリ(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Entry of &amp;Texel</source>
+        <translation>テクセルのエントリ(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Next &amp;Pane</source>
+        <translation>次のペイン(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Go on to the next of document, bars, lists and palette bar
+Next Pane</source>
+        <translation>文書、バー、一覧、パレット バーのうち次のものへ移ります
+次のペイン</translation>
+    </message>
+    <message>
+        <source>P&amp;revious Pane</source>
+        <translation>前のペイン(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Go back to the previous of document, bars, lists and palette bar
+Previous Pane</source>
+        <translation>文書、バー、一覧、パレット バーのうち前のものへ戻ります
+前のペイン</translation>
+    </message>
+    <message>
         <source>Show the cells of the palette bar without its fields, or with them
 Toggle Palette Cells Only</source>
         <translation>パレット バーをセルだけにするか、すべてを表示するかを切り替えます
@@ -1423,8 +1493,8 @@ Exit code: 0 done, 1 something found, 2 wrong arguments, 3 trouble with files.</
         <translation>ファイルの内容を表示します。</translation>
     </message>
     <message>
-        <source>Images, palettes, projects, pictures (PNG, BMP) and palette files of other programs</source>
-        <translation>画像、パレット、プロジェクト、画像ファイル（PNG、BMP）、他のプログラムのパレットファイル</translation>
+        <source>Images, palettes, projects, pictures (PNG, BMP, JPEG) and palette files of other programs</source>
+        <translation>画像、パレット、プロジェクト、画像ファイル（PNG、BMP、JPEG）、他のプログラムのパレットファイル</translation>
     </message>
     <message>
         <source>Tell it as JSON</source>
@@ -1499,8 +1569,8 @@ Exit code: 0 done, 1 something found, 2 wrong arguments, 3 trouble with files.</
         <translation>名前</translation>
     </message>
     <message>
-        <source>The file is neither an image nor a picture that can be read (PNG, BMP).</source>
-        <translation>画像ファイルでも、読み込める画像（PNG、BMP）でもありません。</translation>
+        <source>The file is neither an image nor a picture that can be read (PNG, BMP, JPEG).</source>
+        <translation>画像ファイルでも、読み込める画像（PNG、BMP、JPEG）でもありません。</translation>
     </message>
     <message>
         <source>The file brings no palette.</source>
@@ -1555,8 +1625,8 @@ Exit code: 0 done, 1 something found, 2 wrong arguments, 3 trouble with files.</
         <translation>画像、画像ファイル、パレットを他の形式に変換します。</translation>
     </message>
     <message>
-        <source>Images (.tmf), pictures (PNG, BMP), palettes (.tlf) and palette files (.gpl, .pal, .act, .hex)</source>
-        <translation>画像（.tmf）、画像ファイル（PNG、BMP）、パレット（.tlf）、パレットファイル（.gpl、.pal、.act、.hex）</translation>
+        <source>Images (.tmf), pictures (PNG, BMP, JPEG), palettes (.tlf) and palette files (.gpl, .pal, .act, .hex)</source>
+        <translation>画像（.tmf）、画像ファイル（PNG、BMP、JPEG）、パレット（.tlf）、パレットファイル（.gpl、.pal、.act、.hex）</translation>
     </message>
     <message>
         <source>Where the result goes; for several files a folder</source>
@@ -1810,8 +1880,8 @@ written. Files of pictures that are gone from the project are removed.</source>
         <translation>画像をエディターと同じ見た目で、またはプロジェクトのピクチャーを並べて描画します。</translation>
     </message>
     <message>
-        <source>An image (.tmf), a picture (PNG, BMP) or a project (.tpf)</source>
-        <translation>画像（.tmf）、画像ファイル（PNG、BMP）、またはプロジェクト（.tpf）</translation>
+        <source>An image (.tmf), a picture (PNG, BMP, JPEG) or a project (.tpf)</source>
+        <translation>画像（.tmf）、画像ファイル（PNG、BMP、JPEG）、またはプロジェクト（.tpf）</translation>
     </message>
     <message>
         <source>The PNG file to write</source>
@@ -1888,6 +1958,38 @@ written. Files of pictures that are gone from the project are removed.</source>
     <message>
         <source>Findings: %1</source>
         <translation>問題 %1 件</translation>
+    </message>
+    <message>
+        <source>Make a small picture of a file, as file managers show it.</source>
+        <translation>ファイルマネージャーが表示するような、ファイルの小さな画像を作ります。</translation>
+    </message>
+    <message>
+        <source>Image (.tmf), palette (.tlf) or project (.tpf), as a path or a file: address</source>
+        <translation>画像 (.tmf)、パレット (.tlf)、プロジェクト (.tpf) のパスまたは file: アドレス</translation>
+    </message>
+    <message>
+        <source>PNG file to write</source>
+        <translation>書き込む PNG ファイル</translation>
+    </message>
+    <message>
+        <source>Pixels that neither side of the picture exceeds</source>
+        <translation>画像の縦横が超えないピクセル数</translation>
+    </message>
+    <message>
+        <source>Exit code: 0 done, 2 wrong arguments, 3 the file cannot be shown or the picture cannot be written.</source>
+        <translation>終了コード: 0 完了、2 引数の誤り、3 ファイルを表示できないか、画像を書き込めない。</translation>
+    </message>
+    <message>
+        <source>Only files of this computer can be read.</source>
+        <translation>このコンピューターのファイルだけを読み込めます。</translation>
+    </message>
+    <message>
+        <source>The project has no picture that can be read.</source>
+        <translation>読み込めるピクチャーがプロジェクトにありません。</translation>
+    </message>
+    <message>
+        <source>Reading it takes too much time or memory.</source>
+        <translation>読み込みに時間またはメモリがかかりすぎます。</translation>
     </message>
 </context>
 <context>
@@ -1986,6 +2088,10 @@ written. Files of pictures that are gone from the project are removed.</source>
     <message>
         <source>C&amp;hange Entries</source>
         <translation>エントリの変更(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Entry</source>
+        <translation>エントリ(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Give a Palette</source>
@@ -4217,8 +4323,8 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <translation>検査を中止します。一覧はそのまま残ります</translation>
     </message>
     <message>
-        <source>Re&amp;link...</source>
-        <translation>リンクし直す(&amp;L)...</translation>
+        <source>Reli&amp;nk...</source>
+        <translation>リンクし直す(&amp;N)...</translation>
     </message>
     <message>
         <source>Choose where the file is now; others that moved with it are offered</source>
@@ -4349,16 +4455,16 @@ They can take the nearest of its colours, or the image stays as it is.</source>
         <translation>ファイルの今の内容でプロジェクトを開き直します。未保存の変更があれば確認します</translation>
     </message>
     <message>
-        <source>Keep &amp;Mine</source>
-        <translation>このまま(&amp;M)</translation>
+        <source>Keep M&amp;y Version</source>
+        <translation>このまま(&amp;Y)</translation>
     </message>
     <message>
         <source>Leave what is here as it is; the next save replaces the file</source>
         <translation>ここにある内容をそのままにします。次に保存するとファイルを置き換えます</translation>
     </message>
     <message>
-        <source>&amp;Compare</source>
-        <translation>比較(&amp;C)</translation>
+        <source>C&amp;ompare</source>
+        <translation>比較(&amp;O)</translation>
     </message>
     <message>
         <source>Show the image of the file and this one in turn</source>
@@ -4413,8 +4519,8 @@ Save over it all the same?</source>
         <translation>プロジェクトを検査(&amp;K)</translation>
     </message>
     <message>
-        <source>Add to Pr&amp;oject</source>
-        <translation>プロジェクトに追加(&amp;O)</translation>
+        <source>Add to Projec&amp;t</source>
+        <translation>プロジェクトに追加(&amp;T)</translation>
     </message>
     <message>
         <source>%1 findings in the project.</source>
@@ -4611,6 +4717,34 @@ The file is no longer whole. Save under another name; until then what was to be 
     <message>
         <source>Esc or F11 brings the bars back.</source>
         <translation>Esc キーまたは F11 キーでバーが戻ります。</translation>
+    </message>
+    <message>
+        <source>red %1, green %2, blue %3, alpha %4</source>
+        <translation>赤 %1、緑 %2、青 %3、アルファ %4</translation>
+    </message>
+    <message>
+        <source>intensity %1, alpha %2</source>
+        <translation>輝度 %1、アルファ %2</translation>
+    </message>
+    <message>
+        <source>not in the palette</source>
+        <translation>パレットにありません</translation>
+    </message>
+    <message>
+        <source>Entry %1: %2</source>
+        <translation>エントリ %1: %2</translation>
+    </message>
+    <message>
+        <source>%1, %2: value %3</source>
+        <translation>%1, %2: 値 %3</translation>
+    </message>
+    <message>
+        <source>%1, %2: entry %3, %4</source>
+        <translation>%1, %2: エントリ %3、%4</translation>
+    </message>
+    <message>
+        <source>More of the bar %1</source>
+        <translation>%1 バーの続き</translation>
     </message>
     <message>
         <source>The image has no palette yet: choose Give a Palette in its context menu.</source>

@@ -49,6 +49,8 @@ BuildState BuildCommand::readState() const {
 
 void BuildCommand::tellPlan(const BuildPlan& plan, Console& console) const {
     for (const BuildJob& job : plan.jobs) {
+        if (job.hasFailed)
+            console.fail(job.file, job.why);
         if (job.isCurrent || job.hasFailed)
             continue;
         for (const std::string& name : outputNames(options_.format, job.stem))
@@ -109,14 +111,15 @@ void BuildCommand::carryOut(BuildPlan& plan, const BuildState& before, Console& 
         if (!job.picture.outputs.empty())
             state.pictures.push_back(job.picture);
     }
-    // Whoever watches the index by its time sees that something was made.
+    // Whoever watches the index by its time sees that something was made, and that something is still to be
+    // made as long as a picture fails.
     const std::string index = inFolder(folder_, kIndexName);
     const bool isNews = wanted > 0 || !plan.leftOver.empty() || before.project != projectStamp_ ||
                         before.options != state.options || before.index != stampOf(index);
-    if (isNews && write(kIndexName, jsonOf(state), console)) {
-        state.index = stampOf(index).value_or(BuildStamp{});
+    const bool isWritten = isNews && failed == 0 && write(kIndexName, jsonOf(state), console);
+    state.index = isWritten ? stampOf(index).value_or(BuildStamp{}) : before.index;
+    if (isWritten || failed > 0)
         (void)write(kStateName, serialise(state), console);
-    }
     console.note(say(CliText::BuildDone, {std::to_string(static_cast<std::int64_t>(wanted) - failed),
                                           std::to_string(plan.jobs.size() - wanted),
                                           std::to_string(plan.leftOver.size()), std::to_string(failed)}));

@@ -62,7 +62,7 @@ constexpr Row kRows[] = {
     Row{CliText::InfoFiles,
         QT_TRANSLATE_NOOP(
             "CommandLine",
-            "Images, palettes, projects, pictures (PNG, BMP) and palette files of other programs")},
+            "Images, palettes, projects, pictures (PNG, BMP, JPEG) and palette files of other programs")},
     Row{CliText::InfoJson, QT_TRANSLATE_NOOP("CommandLine", "Tell it as JSON")},
     Row{CliText::InfoBetween, QT_TRANSLATE_NOOP("CommandLine", ", ")},
     Row{CliText::InfoSize, QT_TRANSLATE_NOOP("CommandLine", "%1 x %2")},
@@ -82,7 +82,7 @@ constexpr Row kRows[] = {
     Row{CliText::TypeName, QT_TRANSLATE_NOOP("CommandLine", "NAME")},
     Row{CliText::NoPicture,
         QT_TRANSLATE_NOOP("CommandLine",
-                          "The file is neither an image nor a picture that can be read (PNG, BMP).")},
+                          "The file is neither an image nor a picture that can be read (PNG, BMP, JPEG).")},
     Row{CliText::BringsNoPalette, QT_TRANSLATE_NOOP("CommandLine", "The file brings no palette.")},
     Row{CliText::PaletteIsNoPicture,
         QT_TRANSLATE_NOOP("CommandLine", "A palette alone cannot be written in this format.")},
@@ -109,8 +109,9 @@ constexpr Row kRows[] = {
     Row{CliText::ConvertSummary,
         QT_TRANSLATE_NOOP("CommandLine", "Convert images, pictures and palettes into other formats.")},
     Row{CliText::ConvertInputs,
-        QT_TRANSLATE_NOOP("CommandLine", "Images (.tmf), pictures (PNG, BMP), palettes (.tlf) and palette "
-                                         "files (.gpl, .pal, .act, .hex)")},
+        QT_TRANSLATE_NOOP("CommandLine",
+                          "Images (.tmf), pictures (PNG, BMP, JPEG), palettes (.tlf) and palette "
+                          "files (.gpl, .pal, .act, .hex)")},
     Row{CliText::ConvertOutput,
         QT_TRANSLATE_NOOP("CommandLine", "Where the result goes; for several files a folder")},
     Row{CliText::ConvertFormat,
@@ -234,7 +235,7 @@ constexpr Row kRows[] = {
             "CommandLine",
             "Draw an image as the editor shows it, or the pictures of a project side by side.")},
     Row{CliText::RenderInput,
-        QT_TRANSLATE_NOOP("CommandLine", "An image (.tmf), a picture (PNG, BMP) or a project (.tpf)")},
+        QT_TRANSLATE_NOOP("CommandLine", "An image (.tmf), a picture (PNG, BMP, JPEG) or a project (.tpf)")},
     Row{CliText::RenderOutput, QT_TRANSLATE_NOOP("CommandLine", "The PNG file to write")},
     Row{CliText::RenderPalette,
         QT_TRANSLATE_NOOP("CommandLine", "Palette that the image is shown with; greys without one")},
@@ -268,6 +269,24 @@ constexpr Row kRows[] = {
         QT_TRANSLATE_NOOP("CommandLine", "The file is cut off: %1 bytes of texels are missing.")},
     Row{CliText::CheckWholeFile, QT_TRANSLATE_NOOP("CommandLine", "whole file")},
     Row{CliText::CheckDone, QT_TRANSLATE_NOOP("CommandLine", "Findings: %1")},
+    Row{CliText::ThumbnailSummary,
+        QT_TRANSLATE_NOOP("CommandLine", "Make a small picture of a file, as file managers show it.")},
+    Row{CliText::ThumbnailInput,
+        QT_TRANSLATE_NOOP("CommandLine",
+                          "Image (.tmf), palette (.tlf) or project (.tpf), as a path or a file: address")},
+    Row{CliText::ThumbnailOutput, QT_TRANSLATE_NOOP("CommandLine", "PNG file to write")},
+    Row{CliText::ThumbnailSize,
+        QT_TRANSLATE_NOOP("CommandLine", "Pixels that neither side of the picture exceeds")},
+    Row{CliText::ThumbnailFooter,
+        QT_TRANSLATE_NOOP("CommandLine",
+                          "Exit code: 0 done, 2 wrong arguments, 3 the file cannot be shown or the picture "
+                          "cannot be written.")},
+    Row{CliText::ThumbnailNotHere,
+        QT_TRANSLATE_NOOP("CommandLine", "Only files of this computer can be read.")},
+    Row{CliText::ThumbnailNoPictures,
+        QT_TRANSLATE_NOOP("CommandLine", "The project has no picture that can be read.")},
+    Row{CliText::ThumbnailTooLong,
+        QT_TRANSLATE_NOOP("CommandLine", "Reading it takes too much time or memory.")},
 };
 
 constexpr bool areInOrder() {

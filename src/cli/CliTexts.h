@@ -151,6 +151,14 @@ enum class CliText : int {
     CheckTexelsMissing, ///< %1 number
     CheckWholeFile,
     CheckDone, ///< %1 number
+    ThumbnailSummary,
+    ThumbnailInput,
+    ThumbnailOutput,
+    ThumbnailSize,
+    ThumbnailFooter,
+    ThumbnailNotHere,
+    ThumbnailNoPictures,
+    ThumbnailTooLong,
 };
 
 /// The text in the user's language.

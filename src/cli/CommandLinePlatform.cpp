@@ -1,6 +1,7 @@
 #include "cli/CommandLinePlatform.h"
 
 #include "cli/BitmapReader.h"
+#include "interchange/JpegFile.h"
 
 #include <cctype>
 #include <cstdio>
@@ -63,6 +64,13 @@ public:
     [[nodiscard]] std::optional<Picture> picture() const override { return std::nullopt; }
     bool setText(const std::string&) override { return false; }
     [[nodiscard]] std::optional<std::string> text() const override { return std::nullopt; }
+};
+
+class KnownPictures final : public PictureReader {
+public:
+    [[nodiscard]] Result<Picture, PictureError> read(std::span<const std::byte> file) const override {
+        return isJpeg(file) ? readJpeg(file) : BitmapReader().read(file);
+    }
 };
 
 class NoLibraries final : public Library {
@@ -136,7 +144,7 @@ struct CommandLinePlatform::Absent {
     NoWatcher watcher;
     NoProfile profile;
     NoClipboard clipboard;
-    BitmapReader pictures;
+    KnownPictures pictures;
     NoLibraries libraries;
     NoVersions versions;
     NoShell shell;

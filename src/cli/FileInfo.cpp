@@ -79,7 +79,7 @@ Inspected inspectPicture(std::span<const std::byte> file, FileInfo info) {
         return describe(read.error());
     const PngPicture& png = read.value();
     const Picture& picture = png.picture;
-    info.format = info.kind == FileKind::Png ? "png" : "bmp";
+    info.format = info.kind == FileKind::Png ? "png" : info.kind == FileKind::Jpeg ? "jpeg" : "bmp";
     info.texels = {picture.width, picture.height, 0, 0};
     if (!picture.isIndexed()) {
         std::vector<std::uint32_t> values;
@@ -130,6 +130,7 @@ Result<FileInfo, std::string> inspect(std::span<const std::byte> file, const std
         return inspectProject(file, std::move(info));
     case FileKind::Png:
     case FileKind::Bitmap:
+    case FileKind::Jpeg:
         return inspectPicture(file, std::move(info));
     case FileKind::PaletteFile:
         return inspectPaletteFile(file, name, std::move(info));

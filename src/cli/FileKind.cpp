@@ -2,6 +2,7 @@
 
 #include "cli/NamedFile.h"
 #include "core/TmfFormat.h"
+#include "interchange/JpegFile.h"
 #include "interchange/PaletteFile.h"
 #include "interchange/PngFile.h"
 
@@ -40,6 +41,8 @@ FileKind kindOf(std::span<const std::byte> file, const std::string& name) {
         return FileKind::Png;
     if (begins(file, "BM"))
         return FileKind::Bitmap;
+    if (isJpeg(file))
+        return FileKind::Jpeg;
     const std::string ending = endingOf(name);
     if (ending == "tpf")
         return FileKind::Project;

@@ -14,6 +14,7 @@ enum class FileKind {
     Project, ///< TPF
     Png,
     Bitmap,
+    Jpeg,
     PaletteFile ///< Of another program; not a PNG.
 };
 

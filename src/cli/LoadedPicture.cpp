@@ -17,7 +17,20 @@ namespace {
 constexpr std::int32_t kSmallPalette = 16;
 constexpr std::int32_t kLargePalette = 256;
 
-Result<LoadedPicture, std::string> loadOther(std::span<const std::byte> file) {
+/// The five bits that the editor takes of each channel when it opens a BMP file: the upper ones, not the
+/// nearest.
+void cutToFiveBits(TlutData& palette, const std::vector<Colour>& colours) {
+    if (palette.colourType != ColourType::Rgba)
+        return;
+    for (std::size_t i = 0; i < colours.size(); ++i) {
+        const auto at = static_cast<std::int32_t>(i);
+        palette.setRed(at, colours[i].red >> 3);
+        palette.setGreen(at, colours[i].green >> 3);
+        palette.setBlue(at, colours[i].blue >> 3);
+    }
+}
+
+Result<LoadedPicture, std::string> loadOther(std::span<const std::byte> file, bool isBitmap) {
     Result<PngPicture, InterchangeError> read = readPictureFile(file);
     if (!read)
         return describe(read.error());
@@ -29,6 +42,8 @@ Result<LoadedPicture, std::string> loadOther(std::span<const std::byte> file) {
     Result<Texture, InterchangeError> texture = textureOf(read.value(), loaded.report);
     if (!texture)
         return describe(texture.error());
+    if (isBitmap)
+        cutToFiveBits(texture.value().palette, read.value().picture.colours);
     loaded.image = std::move(texture.value().image);
     loaded.palette = std::move(texture.value().palette);
     loaded.firstEntry = texture.value().firstEntry;
@@ -68,8 +83,10 @@ Result<LoadedPicture, std::string> loadPicture(std::span<const std::byte> file, 
         return loaded;
     }
     case FileKind::Png:
+    case FileKind::Jpeg:
+        return loadOther(file, false);
     case FileKind::Bitmap:
-        return loadOther(file);
+        return loadOther(file, true);
     case FileKind::Palette:
     case FileKind::Project:
     case FileKind::PaletteFile:
@@ -90,6 +107,7 @@ Result<TlutData, std::string> loadPalette(std::span<const std::byte> file, const
     case FileKind::PaletteFile:
         return loadPaletteFile(file, name);
     case FileKind::Png:
+    case FileKind::Jpeg:
     case FileKind::Bitmap: {
         Result<LoadedPicture, std::string> picture = loadPicture(file, name);
         if (!picture)

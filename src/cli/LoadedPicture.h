@@ -28,8 +28,8 @@ struct LoadedPicture {
     [[nodiscard]] std::int32_t height() const noexcept { return isDirect() ? direct.height : image.height; }
 };
 
-/// Reads an image (TMF) or a picture (PNG, BMP); otherwise a sentence for the user that does not name the
-/// file.
+/// Reads an image (TMF) or a picture (PNG, BMP, JPEG); otherwise a sentence for the user that does not name
+/// the file.
 [[nodiscard]] Result<LoadedPicture, std::string> loadPicture(std::span<const std::byte> file,
                                                              const std::string& name);
 

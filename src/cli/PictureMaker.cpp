@@ -9,6 +9,7 @@
 #include "paint/CanvasDepth.h"
 #include "platform/posix/HostFile.h"
 
+#include <algorithm>
 #include <atomic>
 #include <new>
 #include <thread>
@@ -89,13 +90,25 @@ private:
         return true;
     }
 
+    /// A header stays the same when a texel changes; written again, it would have all compiled that includes
+    /// it.
+    static bool holds(const std::string& path, std::span<const std::byte> bytes) {
+        const std::optional<BuildStamp> stamp = stampOf(path);
+        if (!stamp || stamp->size != bytes.size())
+            return false;
+        const Result<ByteBuffer, FileError> file = readHostFile(path);
+        return file && std::ranges::equal(file.value().bytes(), bytes);
+    }
+
     void write(BuildJob& job, const TmfImage& image, const OutputFiles& files) const {
         std::vector<BuiltPicture::Output> written;
         for (const OutputFile& file : files) {
             const std::string name = job.stem + "." + file.ending;
             const std::string path = inFolder(folder_, name);
             const std::span<const std::byte> bytes = bytesOf(file.bytes);
-            if (const auto error = writeHostFile(path, FilePieces(&bytes, 1), Flush::No))
+            const auto error =
+                holds(path, bytes) ? std::nullopt : writeHostFile(path, FilePieces(&bytes, 1), Flush::No);
+            if (error)
                 return fail(job, path, describe(*error));
             written.push_back({name, stampOf(path).value_or(BuildStamp{})});
         }

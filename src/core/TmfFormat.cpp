@@ -52,6 +52,10 @@ std::uint64_t packedRowsOf(const TmfHeader& header) {
            static_cast<std::uint64_t>(header.height);
 }
 
+std::uint64_t bodySizeOf(std::uint64_t fileSize) {
+    return fileSize - std::min<std::uint64_t>(fileSize, kHeaderSize);
+}
+
 /// Packed rows stand at the start of the block: moves each to its place, from the last one on, and clears
 /// what pads it.
 void spreadRows(std::span<std::byte> block, const Layout& layout) {
@@ -90,8 +94,7 @@ std::optional<TmfError> readFile(FileReader& file, const TmfRoom& room) {
     const auto header = readTmfHeader(file);
     if (!header)
         return header.error();
-    const std::uint64_t bodySize = file.size() - std::min<std::uint64_t>(file.size(), kHeaderSize);
-    return readBody(header.value(), bodySize, room,
+    return readBody(header.value(), bodySizeOf(file.size()), room,
                     [&file](std::span<std::byte> part) { return file.read(part); });
 }
 
@@ -140,9 +143,14 @@ Result<TmfHeader, TmfError> readTmfHeader(FileReader& file) {
 
 std::uint64_t missingTexelBytes(const TmfHeader& header, std::uint64_t fileSize) {
     const Layout layout(header);
-    const std::uint64_t body = fileSize - std::min<std::uint64_t>(fileSize, kHeaderSize);
+    const std::uint64_t body = bodySizeOf(fileSize);
     const std::uint64_t whole = body == layout.packedSize ? body : layout.stride * layout.rows;
     return whole - std::min(whole, body);
+}
+
+TmfRowLayout rowLayout(const TmfHeader& header, std::uint64_t fileSize) {
+    const Layout layout(header);
+    return {bodySizeOf(fileSize) == layout.packedSize ? layout.rowSize : layout.stride, layout.rowSize};
 }
 
 Result<TmfImage, TmfError> parseTmf(std::span<const std::byte> file) {

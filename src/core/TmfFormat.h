@@ -46,6 +46,16 @@ Result<TmfHeader, TmfError> readTmfHeader(FileReader& file);
 /// their place. The image is one that `TmfImage::canBe`.
 [[nodiscard]] std::uint64_t missingTexelBytes(const TmfHeader& header, std::uint64_t fileSize);
 
+/// How the rows of an image lie in a file, from the bottom one up: bytes from one to the next, and how many
+/// of them hold texels, two of 4 bits to a byte and the first in the high nibble.
+struct TmfRowLayout {
+    std::size_t step = 0;
+    std::size_t used = 0;
+};
+
+/// Of a file of `fileSize` bytes with this header. The image is one that `TmfImage::canBe`.
+[[nodiscard]] TmfRowLayout rowLayout(const TmfHeader& header, std::uint64_t fileSize);
+
 /// The image in a TMF file. A body of exactly the packed size holds rows without padding; any other body
 /// holds rows padded as in memory, where texels that the file lacks are 0 and excess bytes are ignored.
 Result<TmfImage, TmfError> parseTmf(std::span<const std::byte> file);

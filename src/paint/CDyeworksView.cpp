@@ -18,6 +18,11 @@ std::string pair(std::int32_t first, std::int32_t second) {
     return "(" + std::to_string(first) + ", " + std::to_string(second) + ") ";
 }
 
+bool isIn(Point texel, const Rect& texels) {
+    return texel.x >= texels.left && texel.x <= texels.right && texel.y >= texels.top &&
+           texel.y <= texels.bottom;
+}
+
 } // namespace
 
 CDyeworksView::CDyeworksView(CDyeworksDoc& document, ViewWindow& window)
@@ -103,16 +108,21 @@ bool CDyeworksView::showsNoPalette() const {
 void CDyeworksView::update(DocumentView* sender, int hint) {
     if (sender == this || !initialised_)
         return;
-    if (hint != 0)
-        window_.invalidateAll();
-    else
+    if (hint == 0) {
         InvalidateChanged();
+        return;
+    }
+    window_.invalidateAll();
+    if (cursor_.isShown())
+        window_.texelCursorChanged();
 }
 
 bool CDyeworksView::InvalidateChanged() {
     const auto changed = document_.canvas().changedRect();
     if (!changed)
         return false;
+    if (cursor_.isShown() && isIn(*cursor_.texel(), *changed))
+        window_.texelCursorChanged();
     const Rect area = geometry().clientArea(*changed);
     const Point step = geometry().origin();
     const std::int32_t copies = repeated_ ? 1 : 0;
@@ -185,6 +195,7 @@ void CDyeworksView::ToggleGrid() {
 void CDyeworksView::applyZoom(bool redraw) {
     window_.setContentSize(contentSize());
     scrollTo(window_.scrollPosition());
+    followCursor();
     if (!redraw)
         return;
     if (!window_.shiftHeld())

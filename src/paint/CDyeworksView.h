@@ -10,6 +10,7 @@
 #include "paint/PointerEvent.h"
 #include "paint/Rect.h"
 #include "paint/Surface.h"
+#include "paint/TexelCursor.h"
 #include "paint/ToolHost.h"
 #include "paint/ViewGeometry.h"
 
@@ -72,6 +73,8 @@ public:
     /// Draws what of the brush's outline under the pointer lies on the surface, whose origin is in content
     /// coordinates, over what a paint has left there.
     void PaintBrush(const Surface& surface) const;
+    /// Draws what of the texel cursor lies on the surface, likewise.
+    void PaintTexelCursor(const Surface& surface) const;
     /// No palette is attached to give the pixels colours: there is no image to see, and the window writes so
     /// over the button face.
     [[nodiscard]] bool showsNoPalette() const;
@@ -89,6 +92,15 @@ public:
     /// True when the key was of use.
     bool KeyPressed(const KeyEvent& event);
     void KeyReleased(const KeyEvent& event);
+
+    /// Keys come to the view from now on, or come to something else, and not to a menu for a while.
+    void FocusChanged(bool gained);
+    /// Whether the keys hold a tool down, to which the pointer then does nothing.
+    [[nodiscard]] bool dragsByKeys() const noexcept { return cursor_.holdsTool(); }
+    /// The key for a context menu does at the texel cursor what a right press does before its menu opens.
+    void ContextMenuKeyPressed();
+    /// The texel that the texel cursor stands on and what that shows, to be read out; "" without a cursor.
+    [[nodiscard]] std::string toldTexel() const;
 
     /// What a context menu offers, which depends on the tool that is chosen.
     enum class ContextMenu {
@@ -158,6 +170,23 @@ private:
     void showBrush(Point client);
     void drawingOptionsChanged() override;
     void pickColour(Point client);
+    void pickTexel(Point texel);
+    void pressed(const PointerEvent& event);
+    void moved(const PointerEvent& event);
+    void released(const PointerEvent& event);
+    bool pointerTakesOver(Point client);
+    bool cursorKey(const KeyEvent& event);
+    void moveCursor(Point texel);
+    void hideCursor();
+    void holdTool(const KeyEvent& event);
+    void letToolGo();
+    [[nodiscard]] Point cursorStart() const;
+    [[nodiscard]] Rect cursorArea(bool holdsTool) const;
+    [[nodiscard]] PointerEvent cursorEvent(PointerButton button) const;
+    void invalidateCursor();
+    void bringCursorIntoSight();
+    void followCursor();
+    void tellPicked();
     void takeDrawingValue();
     [[nodiscard]] std::uint32_t depthMask() const;
     void scrollDrag(Point client);
@@ -209,6 +238,7 @@ private:
     void OnUpdateRedo(CommandUi& ui);
     void OnSpuit();
     void OnUpdateSpuit(CommandUi& ui);
+    void OnPickEntry();
     void OnSelectAll();
     void OnUpdateSelectAll(CommandUi& ui);
     void OnCancelSelection();
@@ -259,7 +289,10 @@ private:
     };
     std::optional<PointedBrush> brushShown_; ///< Around which the window shows an outline.
     bool pointerInside_ = false;
-    bool spuit_ = false; ///< A right press picks the colour under it.
+    TexelCursor cursor_;
+    bool keysHere_ = false;   ///< The view has the focus, as far as it knows.
+    Point pointerBeforeKeys_; ///< Client point that the pointer had when the cursor was shown.
+    bool spuit_ = false;      ///< A right press picks the colour under it.
     bool scrollDragging_ = false;
     Point scrollDragPoint_; ///< Client point up to which the scroll drag has been followed.
     Point scrollDragStart_; ///< Scroll position at its press.

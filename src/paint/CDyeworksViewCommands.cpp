@@ -40,6 +40,7 @@ void CDyeworksView::addCommands() {
     on(ID_EDIT_UNDO, &CDyeworksView::OnUndo, &CDyeworksView::OnUpdateUndo);
     on(ID_EDIT_REDO, &CDyeworksView::OnRedo, &CDyeworksView::OnUpdateRedo);
     on(ID_TOOL_SPUIT, &CDyeworksView::OnSpuit, &CDyeworksView::OnUpdateSpuit);
+    on(ID_ENTRY_PICK, &CDyeworksView::OnPickEntry);
     on(ID_EDIT_SELECT_ALL, &CDyeworksView::OnSelectAll, &CDyeworksView::OnUpdateSelectAll);
     on(ID_CANCEL_SELECTION, &CDyeworksView::OnCancelSelection, &CDyeworksView::OnUpdateSelected);
     onRange(ID_FLIP_X, ID_FLIP_Y, &CDyeworksView::OnFlip, &CDyeworksView::OnUpdateSelected);

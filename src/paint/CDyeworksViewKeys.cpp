@@ -30,6 +30,10 @@ bool CDyeworksView::KeyPressed(const KeyEvent& event) {
         CancelDrag();
         return true;
     }
+    if (cursor_.holdsTool() && event.key == Key::Enter) {
+        letToolGo();
+        return true;
+    }
     const bool ends = event.key == Key::Escape || event.key == Key::Enter;
     if (ends && (selection_.exists() || selection_.hasFloatingPiece())) {
         // What is placed is not dragged any further.
@@ -46,26 +50,32 @@ bool CDyeworksView::KeyPressed(const KeyEvent& event) {
         updateCursor(window_.pointerPosition(), event.shift, event.control);
         return true;
     }
-    return zoomByKey(event.key) || moveSelection(event);
+    return zoomByKey(event.key) || moveSelection(event) || cursorKey(event);
 }
 
 void CDyeworksView::KeyReleased(const KeyEvent& event) {
     if (event.repeatCount == 1 && (event.key == Key::Shift || event.key == Key::Control))
         updateCursor(window_.pointerPosition(), event.shift, event.control);
+    // Pressed and let go on the spot, the tool stays down until the next press: not every hand can hold one
+    // key and press others.
+    if (event.key == Key::Space && !event.repeated && cursor_.hasDragged())
+        letToolGo();
 }
 
 bool CDyeworksView::zoomByKey(Key key) {
     const bool in = key == Key::I || key == Key::Numpad9;
     const bool out = key == Key::O || key == Key::NumpadDivide;
     if (in || out)
-        ZoomAt(window_.pointerPosition(), out);
+        ZoomAt(cursor_.isShown() ? cursorEvent(PointerButton::None).position : window_.pointerPosition(),
+               out);
     return in || out;
 }
 
-/// With Shift its right or its bottom edge moves alone.
+/// With Shift its right or its bottom edge moves alone. With Alt, and while they hold a tool down, the arrows
+/// are the cursor's.
 bool CDyeworksView::moveSelection(const KeyEvent& event) {
     const Point step = stepOf(event.key);
-    if (step == Point{} || !selection_.exists())
+    if (step == Point{} || !selection_.exists() || event.alt || cursor_.holdsTool())
         return false;
     selection_.moveBy(step, event.shift);
     return true;

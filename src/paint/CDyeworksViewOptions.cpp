@@ -110,14 +110,15 @@ void CDyeworksView::PointerLeft() {
     showBrush({});
 }
 
-/// Moves the outline of the brush to the texel under the pointer, or takes it away. A brush of a single texel
-/// has none.
+/// Moves the outline of the brush to the texel cursor or under the pointer, or takes it away. A brush of a
+/// single texel has none.
 void CDyeworksView::showBrush(Point client) {
     const Brush& brush = drawingOptions().brush;
+    const bool atPointer = pointerInside_ && !scrollDragging_ && !cursor_.isShown() && isInSight(client);
     std::optional<PointedBrush> wanted;
-    if (pointerInside_ && !scrollDragging_ && isInSight(client) && !showsNoPalette() && brush.size > 1 &&
+    if ((atPointer || cursor_.isShown()) && !showsNoPalette() && brush.size > 1 &&
         drawsWithBrush(currentTool()))
-        wanted = {geometry().texelAt(client), brush};
+        wanted = {cursor_.isShown() ? *cursor_.texel() : geometry().texelAt(client), brush};
     if (wanted == brushShown_)
         return;
     for (const std::optional<PointedBrush>& shown : {brushShown_, wanted}) {

@@ -17,6 +17,34 @@ constexpr int kPositionPane = 1;
 } // namespace
 
 void CDyeworksView::PointerPressed(const PointerEvent& event) {
+    // What the keys have drawn so far stays.
+    letToolGo();
+    hideCursor();
+    pressed(event);
+}
+
+void CDyeworksView::PointerMoved(const PointerEvent& event) {
+    if (pointerTakesOver(event.position))
+        moved(event);
+}
+
+void CDyeworksView::PointerReleased(const PointerEvent& event) {
+    if (!cursor_.holdsTool())
+        released(event);
+}
+
+/// Windows that come and go report moves of a pointer that rests. And to a tool that the keys hold down it
+/// does nothing.
+bool CDyeworksView::pointerTakesOver(Point client) {
+    if (!cursor_.isShown())
+        return true;
+    if (cursor_.holdsTool() || client == pointerBeforeKeys_)
+        return false;
+    hideCursor();
+    return true;
+}
+
+void CDyeworksView::pressed(const PointerEvent& event) {
     if (dragging())
         return;
     if (event.button == PointerButton::Right && spuit_ && currentTool() != Tool::Select &&
@@ -57,7 +85,7 @@ void CDyeworksView::PointerPressed(const PointerEvent& event) {
     }
 }
 
-void CDyeworksView::PointerMoved(const PointerEvent& event) {
+void CDyeworksView::moved(const PointerEvent& event) {
     // While it is captured, the pointer runs ahead of the handle that it drags.
     if (!dragging())
         updateCursor(event.position, event.shift, event.control);
@@ -75,7 +103,7 @@ void CDyeworksView::PointerMoved(const PointerEvent& event) {
     }
 }
 
-void CDyeworksView::PointerReleased(const PointerEvent& event) {
+void CDyeworksView::released(const PointerEvent& event) {
     if (event.button != PointerButton::Left)
         return;
     released_ = event;
@@ -109,6 +137,10 @@ std::shared_ptr<DrawTool> CDyeworksView::endDrag() {
     std::shared_ptr<DrawTool> tool = std::move(tool_);
     selection_.setDragged(false);
     scrollDragging_ = false;
+    if (cursor_.holdsTool()) {
+        invalidateCursor();
+        cursor_.release();
+    }
     window_.releasePointer();
     return tool;
 }
@@ -135,7 +167,10 @@ Point CDyeworksView::texelOfDrag(Point client) const {
 }
 
 void CDyeworksView::pickColour(Point client) {
-    const Point texel = texelInImage(client);
+    pickTexel(texelInImage(client));
+}
+
+void CDyeworksView::pickTexel(Point texel) {
     const TextureCanvas& canvas = document_.canvas();
     if (texel.x < 0 || texel.y < 0 || texel.x >= canvas.width() || texel.y >= canvas.height())
         return;
@@ -161,7 +196,9 @@ std::uint32_t CDyeworksView::depthMask() const {
 
 /// The pointer may be elsewhere, in a menu for one; the texel that it was last seen at then stays.
 void CDyeworksView::followPointer(Point client) {
-    if (isInSight(client))
+    if (cursor_.isShown())
+        pointed_ = *cursor_.texel();
+    else if (isInSight(client))
         pointed_ = texelInImage(client);
     showPosition();
     showBrush(client);

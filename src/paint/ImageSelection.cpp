@@ -10,6 +10,7 @@
 #include "platform/StringId.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 namespace dyeworks {
@@ -154,7 +155,17 @@ bool ImageSelection::commitFloatingPiece(bool redraw) {
         const auto paste = [&](TextureCanvas& canvas) {
             CanvasDrawing(canvas, drawingOptions(), 0).paste(*piece, place);
         };
-        if (!document_.Edit(&viewer_, paste)) {
+        const std::uint64_t before = document_.texelState();
+        bool placed = false;
+        try {
+            placed = document_.Edit(&viewer_, paste);
+        } catch (const std::bad_alloc&) {
+            // It would be nowhere then, unless only showing it has failed.
+            if (document_.texelState() == before)
+                floatingPiece_ = std::move(piece);
+            throw;
+        }
+        if (!placed) {
             floatingPiece_ = std::move(piece);
             return false;
         }

@@ -13,6 +13,11 @@ enum class Key {
     Up,
     Right,
     Down,
+    Home,
+    End,
+    PageUp,
+    PageDown,
+    Space,
     I,
     O,
     Numpad9,
@@ -25,6 +30,8 @@ struct KeyEvent {
     int repeatCount = 1; ///< Presses that this event stands for.
     bool shift = false;  ///< After the event: true for the press of Shift itself.
     bool control = false;
+    bool alt = false;
+    bool repeated = false; ///< The key is held, and has told so before.
 };
 
 } // namespace dyeworks

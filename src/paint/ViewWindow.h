@@ -59,9 +59,13 @@ public:
     /// Realises the palette (null: none) while the frame is there. It belongs to the document.
     virtual void setDisplayPalette(const DisplayPalette* palette) = 0;
 
-    /// Until `stopTicking`, the window calls the view's `Tick` in every such interval.
+    /// Until `stopTicking`, the window calls the view's `Tick` in every such interval, unless the desktop
+    /// asks for less motion.
     virtual void startTicking(int milliseconds) = 0;
     virtual void stopTicking() = 0;
+
+    /// What is told of the texel cursor has changed: it was moved, or what it stands on looks otherwise.
+    virtual void texelCursorChanged() {}
 
     /// Where the pointer is, in client pixels.
     [[nodiscard]] virtual Point pointerPosition() const = 0;

@@ -1,5 +1,6 @@
 #include "palette/PaletteBarCommands.h"
 
+#include "core/EntryText.h"
 #include "core/PaletteSet.h"
 #include "palette/PaletteBarState.h"
 
@@ -15,6 +16,20 @@ PaletteBarCommands::PaletteBarCommands(PaletteBarState& state, PaletteBarHost& h
     on(ID_PALETTE_PASTE, &Self::OnPastePalette, &Self::OnUpdatePastePalette);
     on(ID_PALETTE_UNDO, &Self::OnUndo, &Self::OnUpdateUndo);
     on(ID_PALETTE_REDO, &Self::OnRedo, &Self::OnUpdateRedo);
+    onRange(ID_ENTRY_PREVIOUS, ID_ENTRY_ROW_DOWN, &Self::OnStep, &Self::OnUpdateStep);
+}
+
+void PaletteBarCommands::OnStep(CommandId id) {
+    using Step = PaletteCells::Step;
+    state_.StepCell(id == ID_ENTRY_PREVIOUS ? Step::Back
+                    : id == ID_ENTRY_NEXT   ? Step::On
+                    : id == ID_ENTRY_ROW_UP ? Step::Up
+                                            : Step::Down);
+    host_.showMessage(toldEntry(state_.palette().get()->table, state_.cells().current()));
+}
+
+void PaletteBarCommands::OnUpdateStep(CommandUi& ui) {
+    ui.enabled = state_.cells().current() >= 0;
 }
 
 void PaletteBarCommands::OnEditPalette() {

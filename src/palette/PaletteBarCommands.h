@@ -22,6 +22,8 @@ private:
     void OnUpdatePastePalette(CommandUi& ui);
     void OnUndo();
     void OnUpdateUndo(CommandUi& ui);
+    void OnStep(CommandId id);
+    void OnUpdateStep(CommandUi& ui);
     void OnRedo();
     void OnUpdateRedo(CommandUi& ui);
 

@@ -33,6 +33,8 @@ public:
     virtual void RefreshImagePalettes() = 0;
     /// Lets every image take the stored colours of its palette: the view mode is that of all of them.
     virtual void RefreshAllImages() = 0;
+    /// Says something in the pane for messages.
+    virtual void showMessage(const std::string& text) = 0;
 };
 
 /// Shows what `PaletteBarState` says. It is told once per action what to read anew.

@@ -119,6 +119,13 @@ void PaletteBarState::GridClicked() {
     cells_.chooseBankOfCurrent();
 }
 
+void PaletteBarState::StepCell(PaletteCells::Step step) {
+    if (cells_.current() < 0)
+        return;
+    cells_.select(cells_.besideCurrent(step));
+    GridClicked();
+}
+
 void PaletteBarState::GridChanged() {
     if (cells_.started() && palette_.exists())
         edit(*palette_.get(), [this](TextureLookupTable& palette) { cells_.writeTo(palette); });

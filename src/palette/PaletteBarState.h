@@ -54,6 +54,8 @@ public:
     /// A paste changed cells of the grid: all are written to the palette as one undoable edit.
     void GridChanged();
     void PasteCells();
+    /// Selects the cell beside the current one and shows the bank that it is in.
+    void StepCell(PaletteCells::Step step);
     void StripClicked(std::int32_t cell);
     void TakeLeftEnd();
     void TakeRightEnd();

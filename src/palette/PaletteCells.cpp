@@ -122,6 +122,14 @@ bool PaletteCells::select(std::int32_t cell) {
     return true;
 }
 
+std::int32_t PaletteCells::besideCurrent(Step step) const {
+    const bool along = step == Step::Back || step == Step::On;
+    const std::int32_t way = (step == Step::Back || step == Step::Up ? -1 : 1) * (along ? 1 : columns_);
+    const std::int32_t cell = current() + way;
+    const bool leavesBank = along && inBankMode() && cell / columns_ != current() / columns_;
+    return cell < 0 || cell >= columns_ * rows_ || leavesBank ? current() : cell;
+}
+
 void PaletteCells::correctCurrent() {
     const std::int32_t last = grid_->cellCount() - 1;
     const std::int32_t cell = current();

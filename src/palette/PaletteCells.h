@@ -56,6 +56,10 @@ public:
     [[nodiscard]] std::optional<std::int32_t> currentEntry() const;
     /// A cell beyond the grid selects the last. False: there are no cells, and it is selected when there are.
     bool select(std::int32_t cell);
+    enum class Step { Back, On, Up, Down };
+    /// The cell beside the current one, of which there must be one; that itself where a step would lead out
+    /// of the grid or, with a bank of it that is shown, along the row out of that.
+    [[nodiscard]] std::int32_t besideCurrent(Step step) const;
     /// Brings the current cell into the grid.
     void correctCurrent();
 

@@ -438,6 +438,14 @@ enum class StringId : int {
     UsageTwin,      ///< %1 entry; follows another text
     UsageClear,     ///< Follows another text.
     ShowTexelsNone, ///< %1 entry
+    // Read out, and shown in the status line, where keys walk over texels and entries.
+    ColourToldRgba, ///< %1 red, %2 green, %3 blue, %4 alpha
+    ColourToldIa,   ///< %1 intensity, %2 alpha
+    ColourToldNone,
+    EntryTold,      ///< %1 entry, %2 its colour
+    TexelTold,      ///< %1, %2 place, %3 value
+    TexelToldEntry, ///< %1, %2 place, %3 entry, %4 its colour
+    MoreOfBar,      ///< Button of a tool bar that is too narrow; %1 title of the bar
     ProjectBarAdd,
     ProjectBarChange,
     ProjectBarRemove,

@@ -144,10 +144,19 @@ bool RecoveryKeeper::look(Clock::time_point now) {
     try {
         for (Subject& subject : subjects())
             more = lookAt(subject, now) || more;
+        dropClosed();
     } catch (const std::bad_alloc&) {
         memoryIsShort_ = true;
         return false;
     }
+    // It may yet hang.
+    if (hanging_ > 0)
+        holdUnsaved();
+    return more;
+}
+
+/// What this look has not met is no longer open.
+void RecoveryKeeper::dropClosed() {
     for (auto entry = kept_.begin(); entry != kept_.end();) {
         if (entry->second.look == looks_) {
             ++entry;
@@ -157,10 +166,6 @@ bool RecoveryKeeper::look(Clock::time_point now) {
         std::erase_if(shadows_, [&](const auto& shadow) { return shadow.second == entry->second.shadow; });
         entry = kept_.erase(entry);
     }
-    // It may yet hang.
-    if (hanging_ > 0)
-        holdUnsaved();
-    return more;
 }
 
 /// Whether there is more to do at once.
@@ -180,9 +185,9 @@ bool RecoveryKeeper::lookAt(Subject& subject, Clock::time_point now) {
         if (!file)
             return true;
         if (file->keeper != nullptr) {
-            ++writes_;
             kept.inFolder = true;
             writer_.write(std::move(*file));
+            ++writes_;
         }
         kept.written = std::move(subject.stamp);
     } catch (const std::bad_alloc&) {
@@ -193,8 +198,10 @@ bool RecoveryKeeper::lookAt(Subject& subject, Clock::time_point now) {
 }
 
 void RecoveryKeeper::forget(Kept& kept) {
-    if (std::exchange(kept.inFolder, false))
-        writer_.remove(kept.name);
+    if (!kept.inFolder)
+        return;
+    writer_.remove(kept.name);
+    kept.inFolder = false;
 }
 
 bool RecoveryKeeper::isDue(Kept& kept, const Stamp& stamp, Clock::time_point now) const {

@@ -103,6 +103,7 @@ private:
     [[nodiscard]] std::vector<Subject> subjects() const;
     [[nodiscard]] Kept& keptOf(Subject& subject);
     void forget(Kept& kept);
+    void dropClosed();
     [[nodiscard]] bool isDue(Kept& kept, const Stamp& stamp, Clock::time_point now) const;
     static void tryLater(Kept& kept, Clock::time_point now);
     void takeFailed(Clock::time_point now);

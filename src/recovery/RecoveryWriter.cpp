@@ -3,7 +3,10 @@
 #include "platform/StateFolder.h"
 
 #include <array>
+#include <new>
 #include <span>
+#include <system_error>
+#include <utility>
 
 namespace dyeworks {
 
@@ -22,47 +25,74 @@ RecoveryWriter::~RecoveryWriter() {
 }
 
 void RecoveryWriter::write(File file) {
-    add([this, file = std::move(file)] { writeNow(file); });
+    add({writing(std::move(file))});
 }
 
-void RecoveryWriter::writeNow(const File& file) {
-    const std::array pieces{std::as_bytes(std::span(file.header)), file.contents};
-    const auto failure = folder_.write(file.name, pieces);
+std::function<void()> RecoveryWriter::writing(File file) {
+    return [this, file = std::move(file)] { writeNow(file); };
+}
+
+void RecoveryWriter::writeNow(const File& file) noexcept {
+    std::optional<FileError> failure;
+    try {
+        const std::array pieces{std::as_bytes(std::span(file.header)), file.contents};
+        failure = folder_.write(file.name, pieces);
+    } catch (const std::bad_alloc&) {
+        failure = FileError::TooLarge;
+    }
     const std::lock_guard lock(mutex_);
     failure_ = failure;
+    // There is room for it, and a name of this length takes no memory of its own.
     if (failure)
         failed_.push_back(file.name);
 }
 
 void RecoveryWriter::remove(const std::string& name) {
-    add([this, name] { folder_.remove(name); });
+    add({[this, name] {
+        try {
+            folder_.remove(name);
+        } catch (const std::bad_alloc&) {
+            // It stays until the folder goes as a whole.
+        }
+    }});
 }
 
-void RecoveryWriter::add(std::function<void()> job) {
+void RecoveryWriter::add(Jobs job) {
     const std::lock_guard lock(mutex_);
-    jobs_.push_back(std::move(job));
+    failed_.reserve(failed_.size() + jobs_.size() + 1);
     start();
+    jobs_.splice(jobs_.end(), job);
 }
 
 /// The mutex is held.
 void RecoveryWriter::start() {
-    if (!thread_.joinable())
-        thread_ = std::thread([this] { work(); });
+    try {
+        if (!thread_.joinable())
+            thread_ = std::thread([this] { work(); });
+    } catch (const std::system_error&) {
+        throw std::bad_alloc();
+    }
     changed_.notify_all();
 }
 
 void RecoveryWriter::hold(std::vector<File> files, std::chrono::milliseconds after,
                           std::function<void()> then) {
+    Held held{{}, Clock::now() + after, {}};
+    for (File& file : files)
+        held.writes.push_back(writing(std::move(file)));
+    if (then != nullptr)
+        held.then.push_back(std::move(then));
     const std::lock_guard lock(mutex_);
-    held_ = Held{std::move(files), Clock::now() + after, std::move(then)};
+    failed_.reserve(failed_.size() + jobs_.size() + held.writes.size());
     start();
+    held_ = std::move(held);
 }
 
 void RecoveryWriter::release() {
     const std::lock_guard lock(mutex_);
     if (!held_)
         return;
-    held_->then = nullptr;
+    held_->then.clear();
     queueHeld();
     changed_.notify_all();
 }
@@ -74,11 +104,9 @@ bool RecoveryWriter::drop() {
 
 /// The mutex is held, and so is something else.
 void RecoveryWriter::queueHeld() {
-    Held held = *std::exchange(held_, std::nullopt);
-    for (File& file : held.files)
-        jobs_.emplace_back([this, file = std::move(file)] { writeNow(file); });
-    if (held.then != nullptr)
-        jobs_.push_back(std::move(held.then));
+    jobs_.splice(jobs_.end(), held_->writes);
+    jobs_.splice(jobs_.end(), held_->then);
+    held_.reset();
 }
 
 void RecoveryWriter::work() {
@@ -96,12 +124,10 @@ void RecoveryWriter::work() {
         }
         if (jobs_.empty())
             return;
-        {
-            const std::function<void()> job = jobs_.front();
-            lock.unlock();
-            job();
-            lock.lock();
-        }
+        const std::function<void()>& job = jobs_.front();
+        lock.unlock();
+        job();
+        lock.lock();
         jobs_.pop_front();
         changed_.notify_all();
     }
@@ -129,7 +155,9 @@ std::optional<FileError> RecoveryWriter::failure() const {
 
 std::vector<std::string> RecoveryWriter::takeFailed() {
     const std::lock_guard lock(mutex_);
-    return std::exchange(failed_, {});
+    std::vector<std::string> taken = failed_;
+    failed_.clear(); // Keeps its room.
+    return taken;
 }
 
 } // namespace dyeworks

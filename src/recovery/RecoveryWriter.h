@@ -4,8 +4,8 @@
 
 #include <chrono>
 #include <condition_variable>
-#include <deque>
 #include <functional>
+#include <list>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -37,6 +37,8 @@ public:
     RecoveryWriter(const RecoveryWriter&) = delete;
     RecoveryWriter& operator=(const RecoveryWriter&) = delete;
 
+    /// These throw std::bad_alloc, having done nothing, without memory or a thread for it. What runs short of
+    /// memory later counts as failed.
     void write(File file);
     void remove(const std::string& name);
 
@@ -59,25 +61,28 @@ public:
 
 private:
     using Clock = std::chrono::steady_clock;
+    /// Of nodes that are made where memory may be refused, and then only handed on.
+    using Jobs = std::list<std::function<void()>>;
     struct Held {
-        std::vector<File> files;
+        Jobs writes;
         Clock::time_point due;
-        std::function<void()> then;
+        Jobs then; ///< At most one.
     };
 
-    void add(std::function<void()> job);
+    [[nodiscard]] std::function<void()> writing(File file);
+    void add(Jobs job);
     void start();
     void work();
-    void writeNow(const File& file);
+    void writeNow(const File& file) noexcept;
     void queueHeld();
 
     StateFolder& folder_;
     mutable std::mutex mutex_;
     std::condition_variable changed_;
-    std::deque<std::function<void()>> jobs_; ///< The first one is being done.
+    Jobs jobs_; ///< The first one is being done.
     std::optional<Held> held_;
     std::optional<FileError> failure_;
-    std::vector<std::string> failed_;
+    std::vector<std::string> failed_; ///< Has room for all that is to be written.
     bool ends_ = false;
     std::thread thread_; ///< Begins with the first job.
 };

@@ -38,6 +38,7 @@ BanksBar::BanksBar(BanksBarHost& host)
     scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidget(palettes_);
     pages_->setDocumentMode(true);
+    pages_->setAccessibleName(shown(StringId::BarBanks));
     pages_->addTab(makePage(*banks_, noBanks_), shown(StringId::BanksTab));
     pages_->addTab(makePage(*scroll, noPalettes_), shown(StringId::PalettesTab));
     setWidget(pages_);

@@ -10,6 +10,7 @@
 #include "ui/CMainFrame.h"
 #include "ui/ClosingQuestions.h"
 #include "ui/FileWait.h"
+#include "ui/OpenImages.h"
 #include "ui/palettebar/CPaletteBar.h"
 
 #include <algorithm>
@@ -156,6 +157,12 @@ void CDyeworksApp::RefreshAllImages() {
         image->RefreshOwnPalette();
 }
 
+void CDyeworksApp::showMessage(const std::string& text) {
+    constexpr int kMessagePane = 0;
+    if (mainFrame_ != nullptr)
+        mainFrame_->SetStatusText(text, kMessagePane);
+}
+
 void CDyeworksApp::BroadcastPaletteChange(const std::string& key, const TextureLookupTable& palette) {
     for (CDyeworksDoc* image : imageDocuments())
         image->PaletteChanged(key, &palette);
@@ -212,6 +219,11 @@ bool CDyeworksApp::askToSaveAll() {
         return true;
     project->RestartPlugIns();
     return false;
+}
+
+void CDyeworksApp::giveUpDrags() {
+    for (CDyeworksDoc* const image : openImages(*this))
+        image->jointSide().settle();
 }
 
 std::vector<CDocument*> CDyeworksApp::documents() const {

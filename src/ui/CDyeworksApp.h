@@ -64,6 +64,8 @@ public:
     [[nodiscard]] bool InitInstance(const CommandLine& commandLine);
     /// Keeps the settings and lets go of the window and the palettes. The result is the process's exit code.
     int ExitInstance();
+    /// Takes back what drags have done in images so far.
+    void giveUpDrags();
 
     [[nodiscard]] CMainFrame& mainFrame() noexcept override { return *mainFrame_; }
     [[nodiscard]] bool hasMainFrame() const noexcept override { return mainFrame_ != nullptr; }
@@ -111,6 +113,7 @@ public:
     void RefreshImagePalettes() override;
     /// The same, of images of other palettes than the current one, too.
     void RefreshAllImages() override;
+    void showMessage(const std::string& text) override;
     /// Shows the colours of `palette`, which may be a passing copy, in every image attached to that key.
     void BroadcastPaletteChange(const std::string& key, const TextureLookupTable& palette) override;
     bool ClosePictureDocuments(const std::vector<std::string>& paths,

@@ -25,6 +25,7 @@
 #include "ui/MainFrameHost.h"
 #include "ui/MainMenus.h"
 #include "ui/NoPaletteHint.h"
+#include "ui/PaneWalk.h"
 #include "ui/StatusPanes.h"
 #include "ui/palettebar/CPaletteBar.h"
 
@@ -40,6 +41,7 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QToolButton>
 #include <QUrl>
 
 #include <memory>
@@ -110,6 +112,8 @@ CMainFrame::CMainFrame(MainFrameHost& host)
     on(ID_DEFAULT_HELP, &CMainFrame::OnHelpIndex);
     on(ID_HELP, &CMainFrame::OnHelp);
     on(ID_CONTEXT_HELP, &CMainFrame::OnContextHelp);
+    onRange(ID_PANE_NEXT, ID_PANE_PREVIOUS, &CMainFrame::OnWalkPanes);
+    nameWhatQtMakes();
     fullScreen_ = new FullScreen(*this, *paletteBar_);
     on(ID_VIEW_FULL_SCREEN, &CMainFrame::OnFullScreen, &CMainFrame::OnUpdateFullScreen);
     on(ID_VIEW_RESET_LAYOUT, &CMainFrame::OnResetLayout);
@@ -131,6 +135,15 @@ void CMainFrame::makeToolBar(const char* name, CommandId id, StringId title, Str
     bar->setWhatsThis(shown(help));
     fillToolBar(*bar, items, actions_);
     addBar(id, *bar);
+}
+
+/// The button that opens what a narrow tool bar has no room for.
+void CMainFrame::nameWhatQtMakes() {
+    for (const QToolBar* bar : findChildren<QToolBar*>()) {
+        if (auto* more = bar->findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button")))
+            more->setAccessibleName(
+                QString::fromStdString(text(StringId::MoreOfBar, {bar->windowTitle().toStdString()})));
+    }
 }
 
 void CMainFrame::makePaletteBar() {
@@ -356,6 +369,15 @@ void CMainFrame::activateWindowOf(const CDocument& document) {
 ImageView* CMainFrame::activeImageView() const {
     const ChildFrame* child = activeChild();
     return child == nullptr ? nullptr : qobject_cast<ImageView*>(child->widget());
+}
+
+void CMainFrame::OnWalkPanes(CommandId id) {
+    const ChildFrame* const child = activeChild();
+    std::vector<QWidget*> panes{child == nullptr ? nullptr : child->widget()};
+    for (QToolBar* bar : findChildren<QToolBar*>(Qt::FindDirectChildrenOnly))
+        panes.push_back(bar);
+    panes.insert(panes.end(), {findings_, banksBar_, paletteBar_});
+    walkPanes(panes, id == ID_PANE_PREVIOUS);
 }
 
 void CMainFrame::SetStatusText(const std::string& text, int pane, unsigned flags) {

@@ -103,6 +103,7 @@ private:
     void describeCommands();
     void makeToolBar(const char* name, CommandId id, StringId title, StringId help,
                      std::span<const MenuItem> items);
+    void nameWhatQtMakes();
     void makePaletteBar();
     void makeProjectBar();
     void makeBrushBar();
@@ -136,6 +137,7 @@ private:
     void OnHelpIndex();
     void OnHelp();
     void OnContextHelp();
+    void OnWalkPanes(CommandId id);
 
     MainFrameHost& host_;
     CommandActions actions_;

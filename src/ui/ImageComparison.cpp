@@ -1,13 +1,12 @@
 #include "ui/ImageComparison.h"
 
+#include "framework/widgets/DesktopMotion.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/CanvasFile.h"
 #include "paint/widgets/ImageView.h"
 #include "platform/StringId.h"
 #include "ui/sheets/SheetControls.h"
 
-#include <QApplication>
-#include <QStyle>
 #include <QTimerEvent>
 
 #include <algorithm>
@@ -19,10 +18,6 @@ namespace dyeworks {
 namespace {
 
 constexpr int kTurnMilliseconds = 700;
-
-bool motionIsWelcome() {
-    return QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
-}
 
 std::array<std::int32_t, 3> shapeOf(const TextureCanvas& canvas) {
     return {canvas.width(), canvas.height(), canvas.bitsPerPixel()};
@@ -89,7 +84,9 @@ void ImageComparison::show(bool file) {
 void ImageComparison::timerEvent(QTimerEvent* event) {
     if (event->timerId() != timer_.timerId())
         return QObject::timerEvent(event);
-    show(!showsFile_);
+    if (!motionIsWelcome())
+        timer_.stop();
+    show(!showsFile_ || !timer_.isActive());
     Q_EMIT turned();
 }
 

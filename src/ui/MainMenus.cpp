@@ -196,6 +196,15 @@ constexpr std::array kBrushMenu{
     MenuItem{ID_MIRROR_ACROSS}, MenuItem{ID_MIRROR_DOWN},
 };
 
+constexpr std::array kEntryMenu{
+    MenuItem{ID_ENTRY_PREVIOUS},
+    MenuItem{ID_ENTRY_NEXT},
+    MenuItem{ID_ENTRY_ROW_UP},
+    MenuItem{ID_ENTRY_ROW_DOWN},
+    kSeparator,
+    MenuItem{ID_ENTRY_PICK},
+};
+
 constexpr std::array kDrawMenu{
     MenuItem{ID_TOOL_SELECT},
     MenuItem{ID_TOOL_ZOOM_LENS},
@@ -217,6 +226,7 @@ constexpr std::array kDrawMenu{
     kSeparator,
     MenuItem{0, QT_TRANSLATE_NOOP("Menu", "Brus&h"), kBrushMenu},
     MenuItem{ID_DRAW_WRAP},
+    MenuItem{0, QT_TRANSLATE_NOOP("Menu", "&Entry"), kEntryMenu},
 };
 
 // Apart, because "Copy" and "Open" of a palette have the same letter.
@@ -336,7 +346,8 @@ constexpr std::array kTreeProjectMenu{
 
 constexpr std::array kWindowMenu{
     MenuItem{ID_WINDOW_NEW},       MenuItem{ID_WINDOW_CASCADE}, MenuItem{ID_WINDOW_TILE_HORZ},
-    MenuItem{ID_WINDOW_TILE_VERT}, MenuItem{ID_WINDOW_ARRANGE}, kWindowList,
+    MenuItem{ID_WINDOW_TILE_VERT}, MenuItem{ID_WINDOW_ARRANGE}, kSeparator,
+    MenuItem{ID_PANE_NEXT},        MenuItem{ID_PANE_PREVIOUS},  kWindowList,
 };
 
 constexpr std::array kHelpMenu{

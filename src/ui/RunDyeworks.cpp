@@ -49,14 +49,22 @@ class Application : public QApplication {
 public:
     using QApplication::QApplication;
 
+    /// What is to be given up then. It must live until the application ends or another takes its place.
+    void setProgram(CDyeworksApp* program) { program_ = program; }
+
     bool notify(QObject* receiver, QEvent* event) override {
         try {
             return QApplication::notify(receiver, event);
         } catch (const std::bad_alloc&) {
+            if (program_ != nullptr)
+                program_->giveUpDrags();
             applicationWarning(text(StringId::NotEnoughMemory), text(StringId::MemoryAdvice));
             return true;
         }
     }
+
+private:
+    CDyeworksApp* program_ = nullptr;
 };
 
 /// Keeps a platform installed while it lives.
@@ -163,11 +171,13 @@ int runDyeworks(int argc, char** argv) {
         return frame;
     };
     CDyeworksApp program(std::move(parts));
+    application.setProgram(&program);
     const bool started = program.InitInstance(commandLine);
     const bool rendered =
         !started || !commandLine.renders() || renderWindow(program.mainFrame(), commandLine.renderTo);
     if (started && !commandLine.renders())
         QApplication::exec();
+    application.setProgram(nullptr);
     const int exitCode = program.ExitInstance();
     return rendered ? exitCode : 1;
 }

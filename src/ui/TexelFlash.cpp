@@ -1,7 +1,7 @@
 #include "ui/TexelFlash.h"
 
-#include <QApplication>
-#include <QStyle>
+#include "framework/widgets/DesktopMotion.h"
+
 #include <QTimerEvent>
 
 namespace dyeworks {
@@ -11,10 +11,6 @@ namespace {
 constexpr int kTurns = 5; // The first and the last stand out.
 constexpr int kTurnMilliseconds = 200;
 constexpr int kWholeMilliseconds = kTurns * kTurnMilliseconds;
-
-bool motionIsWelcome() {
-    return QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
-}
 
 } // namespace
 

@@ -111,6 +111,42 @@ TEST(Pictures, OfColoursComeIntoFewAndIntoGivenOnes) {
     }
 }
 
+TEST(Pictures, OfBitmapsHaveTheColoursThatTheEditorGivesThem) {
+    const TestFolder folder;
+    const auto bitmap = [](const std::vector<std::string>& colours) {
+        std::string file = "BM";
+        const auto number = [&file](unsigned value, int bytes) {
+            for (; bytes > 0; --bytes, value >>= 8U)
+                file += static_cast<char>(value & 255U);
+        };
+        const unsigned start = 54 + 4 * 16;
+        for (const unsigned value : {start + 4, 0U, start, 40U, 8U, 1U})
+            number(value, 4);
+        for (const unsigned value : {1U, 4U})
+            number(value, 2);
+        for (const unsigned value : {0U, 4U, 0U, 0U, 0U, 0U})
+            number(value, 4);
+        for (const std::string& colour : colours)
+            file += colour;
+        return file + std::string(4 * (16 - colours.size()), '\0') + "\x01\x23\x45\x67";
+    };
+    // Blue, green, red, and the byte with alpha in bit 3.
+    const std::string zero(1, '\0');
+    folder.write("usual.bmp", bitmap({"\x07\x0f\xff" + zero, "\xfe\x84\x7c" + zero}));
+    folder.write("alpha.bmp", bitmap({"\x07\x0f\xff\x08", "\xfe\x84\x7c\xf7"}));
+    for (const auto& [name, first, second, rest] :
+         {std::tuple{"usual", 0xf841U, 0x7c3fU, 1U}, std::tuple{"alpha", 0xf841U, 0x7c3eU, 0U}}) {
+        std::vector<unsigned> entries(16, rest);
+        entries[0] = first;
+        entries[1] = second;
+        const std::string palette = std::string(name) + ".tlf";
+        ASSERT_EQ(
+            folder.run({"convert", std::string(name) + ".bmp", "-o", "x.tmf", "--palette-out", palette}).code,
+            0);
+        EXPECT_EQ(folder.read(palette), tlfFile(entries, false)) << name;
+    }
+}
+
 TEST(Pictures, LookTheSameWhenTheirPaletteIsArranged) {
     Random random(3);
     const TestFolder folder;

@@ -101,7 +101,10 @@ protected:
             view.PointerReleased(event);
             followZoom(model.release(event), event.control);
         } else if (dice < 84) {
-            const KeyEvent key{oneOf(kKeys), below(6) == 0 ? 2 : 1, below(2) == 0, false};
+            KeyEvent key{oneOf(kKeys), below(6) == 0 ? 2 : 1, below(2) == 0, false};
+            // Without a selection the arrows walk the texel cursor, of which the model has none.
+            if (key.key >= Key::Left && key.key <= Key::Down && !model.exists())
+                key.key = Key::Other;
             log_ << "key " << static_cast<int>(key.key) << " x" << key.repeatCount << ' ' << key.shift;
             const bool taken = model.keyDown(key);
             EXPECT_EQ(view.KeyPressed(key), taken) << lastEvent();

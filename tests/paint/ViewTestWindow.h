@@ -101,6 +101,7 @@ public:
         return drawn([&](Surface& surface, const Rect& area) {
             view->Paint(surface, area, kOutside, request);
             view->PaintBrush(surface);
+            view->PaintTexelCursor(surface);
         });
     }
     /// The window's pixels after `draw`, which is given its logical area.

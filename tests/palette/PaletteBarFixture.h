@@ -102,6 +102,7 @@ protected:
         for (const auto& [key, palette] : set_.palettes)
             BroadcastPaletteChange(key, *palette);
     }
+    void showMessage(const std::string& text) override { message_ = text; }
 
     // PaletteBarView
     void valuesChanged() override { ++read_[0]; }
@@ -117,6 +118,7 @@ protected:
     std::optional<Image> image_;
     std::map<std::string, std::vector<std::uint16_t>> images_;
     int bankRedraws_ = 0;
+    std::string message_;
     std::array<int, 3> read_{}; ///< How often values, layout and tabs were.
     std::optional<std::uint16_t> answer_;
     std::function<void()> whileAsking_ = [] {};

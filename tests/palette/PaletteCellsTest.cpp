@@ -75,6 +75,31 @@ TEST_F(Cells, BanksFollowCellsAndNumbers) {
     }
 }
 
+TEST_F(Cells, StepsEndAtTheGridAndAlongTheRowAtTheBankThatIsShown) {
+    EXPECT_FALSE(enabled(ID_ENTRY_NEXT));
+    open(256, ColourType::Ia);
+    const struct {
+        std::int32_t from;
+        CommandId step;
+        std::int32_t to;
+        std::int32_t toInBank;
+    } cases[] = {{0, ID_ENTRY_PREVIOUS, 0, 0},       {15, ID_ENTRY_NEXT, 16, 15},
+                 {16, ID_ENTRY_PREVIOUS, 15, 16},    {9, ID_ENTRY_ROW_UP, 9, 9},
+                 {25, ID_ENTRY_ROW_UP, 9, 9},        {9, ID_ENTRY_ROW_DOWN, 25, 25},
+                 {250, ID_ENTRY_ROW_DOWN, 250, 250}, {255, ID_ENTRY_NEXT, 255, 255}};
+    for (const std::int32_t bits : {8, 4}) {
+        image_ = Image{bits, 0};
+        bar_.ImageChanged();
+        for (const auto& [from, step, to, toInBank] : cases) {
+            click(from);
+            ASSERT_TRUE(run(step));
+            EXPECT_EQ(cells_.current(), bits == 4 ? toInBank : to) << from << ' ' << step;
+            EXPECT_EQ(image_->paletteValue, bits == 4 ? toInBank / 16 * 16 : 0);
+        }
+    }
+    EXPECT_EQ(message_, "Entry 255: intensity 255, alpha 0");
+}
+
 TEST_F(Cells, TheImageIsTakenUpBeforeItsBankIsSet) {
     open(256, ColourType::Rgba);
     click(35);

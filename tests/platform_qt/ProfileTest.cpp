@@ -1,4 +1,5 @@
 #include "Desktop.h"
+#include "cli/thumbnailer/EditorSettings.h"
 
 #include <QDir>
 #include <gmock/gmock.h>
@@ -51,6 +52,24 @@ TEST_F(ProfileTest, KeepsEveryNameApartAndEveryValueAcrossTwoRuns) {
         EXPECT_EQ(profile.text(section, entry), value) << section << " | " << entry;
     for (const auto& [section, entries] : entriesOf)
         EXPECT_EQ(profile.entries(section), std::vector(entries.begin(), entries.end())) << section;
+}
+
+TEST_F(ProfileTest, TellsTheThumbnailerWhichPaletteAnImageHas) {
+    const std::vector<std::string> paths{"\\home\\kei\\sky.tmf", "\\tex 100%~\\a_b-c.d\\[1]=;,+\"q\".tmf",
+                                         "c:\\空の色\\é \xF0\x9F\x8E\xA8.tmf", "\\not UTF-8 \xFF\xFE\\s.tmf",
+                                         "*palette"};
+    const std::string file = host("attached.ini").toStdString();
+    {
+        QtProfile profile(file);
+        profile.setText(kDriveSection, "c:", "/mnt/old, disk");
+        for (std::size_t i = 0; i < paths.size(); ++i)
+            profile.setText("Settings\\Images\\" + paths[i], "Attach", paths[paths.size() - 1 - i]);
+    }
+    const EditorSettings settings(read(host("attached.ini")).toStdString());
+    for (std::size_t i = 0; i < paths.size(); ++i)
+        EXPECT_EQ(settings.attachedPalette(paths[i]), paths[paths.size() - 1 - i]) << paths[i];
+    EXPECT_EQ(settings.attachedPalette("\\home\\kei\\SKY.tmf"), std::nullopt);
+    EXPECT_EQ(settings.drives(), (std::map<char, std::string>{{'c', "/mnt/old, disk"}}));
 }
 
 TEST_F(ProfileTest, ReadsWhatIsWholeInADamagedFileAndWritesItAnew) {

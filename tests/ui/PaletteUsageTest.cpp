@@ -1,4 +1,5 @@
 #include "Program.h"
+#include "core/EntryText.h"
 #include "core/PaletteSet.h"
 #include "ui/controls/CSwatchGrid.h"
 
@@ -10,14 +11,15 @@ namespace {
 class Usage : public Program {
 protected:
     static void settle() { QCoreApplication::processEvents(); }
-    /// What a screen reader says of a cell.
+    /// What a screen reader says of a cell, without its colour.
     [[nodiscard]] std::string said(int cell) {
         QWidget* const grid =
             frame().paletteBar().findChild<CSwatchGrid*>("IDC_PALETTE_GRID")->controlWindow();
-        return QAccessible::queryAccessibleInterface(grid)
-            ->child(cell)
-            ->text(QAccessible::Name)
-            .toStdString();
+        const std::string name =
+            QAccessible::queryAccessibleInterface(grid)->child(cell)->text(QAccessible::Name).toStdString();
+        const std::string told = toldEntry(app_.paletteSet()->lookup("")->table, cell);
+        EXPECT_TRUE(name.starts_with(told)) << name;
+        return std::to_string(cell) + name.substr(std::min(told.size(), name.size()));
     }
     [[nodiscard]] QImage seen() { return view().viewport()->grab().toImage(); }
 };

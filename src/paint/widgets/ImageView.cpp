@@ -1,12 +1,15 @@
 #include "paint/widgets/ImageView.h"
 
 #include "framework/widgets/MenuBuilder.h"
+#include "framework/widgets/DesktopMotion.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/widgets/CChildFrame.h"
+#include "paint/widgets/ImageViewAccessible.h"
 #include "paint/widgets/LensCursor.h"
 #include "platform/StringId.h"
 #include "platform/Text.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QImage>
@@ -96,6 +99,16 @@ Key keyOf(const QKeyEvent& event) {
         return Key::Right;
     case Qt::Key_Down:
         return Key::Down;
+    case Qt::Key_Home:
+        return Key::Home;
+    case Qt::Key_End:
+        return Key::End;
+    case Qt::Key_PageUp:
+        return Key::PageUp;
+    case Qt::Key_PageDown:
+        return Key::PageDown;
+    case Qt::Key_Space:
+        return Key::Space;
     case Qt::Key_Shift:
         return Key::Shift;
     case Qt::Key_Control:
@@ -121,6 +134,8 @@ KeyEvent keyEvent(const QKeyEvent& event, bool pressed) {
     result.shift = event.key() == Qt::Key_Shift ? pressed : event.modifiers().testFlag(Qt::ShiftModifier);
     result.control =
         event.key() == Qt::Key_Control ? pressed : event.modifiers().testFlag(Qt::ControlModifier);
+    result.alt = event.modifiers().testFlag(Qt::AltModifier);
+    result.repeated = event.isAutoRepeat();
     return result;
 }
 
@@ -129,6 +144,7 @@ KeyEvent keyEvent(const QKeyEvent& event, bool pressed) {
 ImageView::ImageView(CDyeworksDoc& document, QWidget* parent)
     : ScrollView(parent)
     , view_(document, *this) {
+    installImageViewAccessible();
     viewport()->setMouseTracking(true);
     nameAfterDocument();
 }
@@ -226,6 +242,21 @@ Point ImageView::pointerPosition() const {
     return {position.x(), position.y()};
 }
 
+void ImageView::startTicking(int milliseconds) {
+    if (motionIsWelcome())
+        ticks_.start(milliseconds, this);
+}
+
+/// As a description it is read out by readers that do so when it changes, and as a value by the others.
+void ImageView::texelCursorChanged() {
+    const QString told = QString::fromStdString(view_.toldTexel());
+    if (told == accessibleDescription())
+        return;
+    setAccessibleDescription(told);
+    QAccessibleValueChangeEvent changed(this, told);
+    QAccessible::updateAccessibility(&changed);
+}
+
 bool ImageView::shiftHeld() const {
     // Where "+" is typed with Shift, Ctrl and "+" is the shortcut and not a wish of its own.
     const Qt::KeyboardModifiers held = QApplication::keyboardModifiers();
@@ -278,6 +309,7 @@ void ImageView::paintPart(QPainter& painter, const QRect& part, std::uint32_t re
     view_.Paint(surface, {origin.x(), origin.y(), origin.x() + part.width(), origin.y() + part.height()},
                 palette().color(QPalette::Button).rgb(), redrawRequest);
     view_.PaintBrush(surface);
+    view_.PaintTexelCursor(surface);
     // Enlarged by the scale factor, texels keep their edges.
     painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
     painter.drawImage(part.topLeft(), picture);
@@ -336,7 +368,7 @@ void ImageView::mousePressEvent(QMouseEvent* event) {
 
 void ImageView::mouseMoveEvent(QMouseEvent* event) {
     // A screen lock, for one, can keep the release to itself.
-    if (!event->buttons().testFlag(Qt::LeftButton))
+    if (!event->buttons().testFlag(Qt::LeftButton) && !view_.dragsByKeys())
         loseCapture();
     if (isPanning())
         ScrollView::mouseMoveEvent(event);
@@ -365,6 +397,8 @@ bool ImageView::viewportEvent(QEvent* event) {
 }
 
 void ImageView::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        view_.ContextMenuKeyPressed();
     const CDyeworksView::ContextMenu menu = view_.contextMenu();
     if (menu == CDyeworksView::ContextMenu::None)
         return;
@@ -402,8 +436,15 @@ bool ImageView::event(QEvent* event) {
     return ScrollView::event(event);
 }
 
+void ImageView::focusInEvent(QFocusEvent* event) {
+    view_.FocusChanged(true);
+    ScrollView::focusInEvent(event);
+}
+
 void ImageView::focusOutEvent(QFocusEvent* event) {
     loseCapture();
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::MenuBarFocusReason)
+        view_.FocusChanged(false);
     ScrollView::focusOutEvent(event);
 }
 

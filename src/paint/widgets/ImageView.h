@@ -48,6 +48,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
@@ -67,8 +68,9 @@ private:
     [[nodiscard]] std::optional<WindowPlacement> placement() const override;
     void setPlacement(const WindowPlacement& placement) override;
     void setDisplayPalette(const DisplayPalette* palette) override;
-    void startTicking(int milliseconds) override { ticks_.start(milliseconds, this); }
+    void startTicking(int milliseconds) override;
     void stopTicking() override { ticks_.stop(); }
+    void texelCursorChanged() override;
     [[nodiscard]] Point pointerPosition() const override;
     [[nodiscard]] bool shiftHeld() const override;
 

@@ -3,6 +3,7 @@
 #include "platform/Files.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <span>
@@ -16,8 +17,15 @@ FileError fileErrorFrom(int errorNumber);
 /// The whole of a regular file. `path` is a host path.
 Result<ByteBuffer, FileError> readHostFile(const std::string& path);
 
+/// A file of which not every byte needs to be read.
+class HostFileReader : public FileReader {
+public:
+    /// Reading goes on so many bytes further, be it behind the end. False: the file cannot do that.
+    [[nodiscard]] virtual bool skip(std::uint64_t size) = 0;
+};
+
 /// A regular file, open at its start. `path` is a host path.
-Result<std::unique_ptr<FileReader>, FileError> openHostFile(const std::string& path);
+Result<std::unique_ptr<HostFileReader>, FileError> openHostFile(const std::string& path);
 
 /// Whether a file that was written outlives a crash of the whole machine: waiting for the disk costs more
 /// than making a file that can be made again.

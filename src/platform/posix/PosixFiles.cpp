@@ -177,7 +177,10 @@ Result<std::unique_ptr<FileReader>, FileError> PosixFiles::openForReading(const 
     const std::string host = hostPath(path);
     if (host.empty())
         return FileError::NotFound;
-    return openHostFile(host);
+    auto file = openHostFile(host);
+    if (!file)
+        return file.error();
+    return std::unique_ptr<FileReader>(std::move(file).value());
 }
 
 std::optional<FileError> PosixFiles::writePieces(const std::string& path, FilePieces pieces) {

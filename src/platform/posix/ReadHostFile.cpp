@@ -105,7 +105,7 @@ Result<RegularFile, FileError> openRegularFile(const std::string& path) {
     return RegularFile{std::move(file), static_cast<std::size_t>(status.st_size)};
 }
 
-class PosixFileReader final : public FileReader {
+class PosixFileReader final : public HostFileReader {
 public:
     explicit PosixFileReader(RegularFile file) noexcept
         : file_(std::move(file)) {}
@@ -113,6 +113,10 @@ public:
     [[nodiscard]] std::uint64_t size() const override { return file_.size; }
     [[nodiscard]] std::size_t read(std::span<std::byte> room) override {
         return static_cast<std::size_t>(std::max<ssize_t>(readInto(file_.descriptor.get(), room), 0));
+    }
+    [[nodiscard]] bool skip(std::uint64_t size) override {
+        return std::in_range<off_t>(size) &&
+               ::lseek(file_.descriptor.get(), static_cast<off_t>(size), SEEK_CUR) != -1;
     }
 
 private:
@@ -132,11 +136,11 @@ Result<ByteBuffer, FileError> readHostFile(const std::string& path) {
     }
 }
 
-Result<std::unique_ptr<FileReader>, FileError> openHostFile(const std::string& path) {
+Result<std::unique_ptr<HostFileReader>, FileError> openHostFile(const std::string& path) {
     Result<RegularFile, FileError> file = openRegularFile(path);
     if (!file)
         return file.error();
-    return std::unique_ptr<FileReader>(std::make_unique<PosixFileReader>(std::move(file).value()));
+    return std::unique_ptr<HostFileReader>(std::make_unique<PosixFileReader>(std::move(file).value()));
 }
 
 } // namespace dyeworks

@@ -132,9 +132,10 @@ void CSwatchGrid::hearEvent(DispatchId event, DispatchArguments arguments) {
         Q_EMIT cellsPasted(shortOf(arguments, 0), shortOf(arguments, 1));
         break;
     case 101:
-        if (arguments.size() == 2 && describer_) {
+    case 114:
+        if (const auto& describe = event == 101 ? describer_ : namer_; arguments.size() == 2 && describe) {
             if (std::string* const* text = std::get_if<std::string*>(&arguments[1]))
-                **text = describer_(shortOf(arguments, 0)).toStdString();
+                **text = describe(shortOf(arguments, 0)).toStdString();
         }
         break;
     case 111:

@@ -89,6 +89,9 @@ public:
     }
     /// Says what a cell holds, for its tool tip and for screen readers. Without one it is the cell's value.
     void setDescriber(std::function<QString(int cell)> describer) { describer_ = std::move(describer); }
+    /// Says what a cell holds to screen readers, who do not see its colour. Without one it is the
+    /// description.
+    void setNamer(std::function<QString(int cell)> namer) { namer_ = std::move(namer); }
     /// The description of some cell is another one now, though its value is the same.
     void describeAgain(); // 103
 
@@ -108,6 +111,7 @@ private:
     void hearEvent(DispatchId event, DispatchArguments arguments) override;
 
     std::function<QString(int)> describer_;
+    std::function<QString(int)> namer_;
     std::function<QString(const Selected&)> selectionDescriber_;
 };
 

@@ -86,11 +86,13 @@ void CPaletteBarControls::showGlyphs() {
 }
 
 QString CPaletteBarControls::cellTip(int cell) const {
-    std::string tip = state_.tips().ofCell(cell);
+    return QString::fromStdString(state_.tips().ofCell(cell) + remarkOf(cell));
+}
+
+/// What is remarked of an entry, to follow another text.
+std::string CPaletteBarControls::remarkOf(int cell) const {
     const auto at = static_cast<std::size_t>(cell);
-    if (at < remarks_.size())
-        tip += ": " + describe(remarks_[at]);
-    return QString::fromStdString(tip);
+    return at < remarks_.size() ? ": " + describe(remarks_[at]) : std::string();
 }
 
 void CPaletteBarControls::showEntry() {

@@ -11,6 +11,7 @@
 
 #include <array>
 #include <memory>
+#include <string>
 #include <vector>
 
 class QAction;
@@ -104,6 +105,7 @@ private:
     void showBank();
     void showGlyphs();
     [[nodiscard]] QString cellTip(int cell) const;
+    [[nodiscard]] std::string remarkOf(int cell) const;
 
     CommandActions& actions_;
     PaletteBarState state_;

@@ -1,3 +1,5 @@
+#include "core/EntryText.h"
+#include "core/TextureLookupTable.h"
 #include "framework/widgets/CommandActions.h"
 #include "framework/widgets/IntegerField.h"
 #include "platform/StringId.h"
@@ -112,6 +114,12 @@ QWidget* CPaletteBarControls::makeGrid() {
     identify(*grid_, IDC_PALETTE_GRID);
     grid_->setAccessibleName(shown(StringId::PaletteColours));
     grid_->setDescriber([this](int cell) { return cellTip(cell); });
+    grid_->setNamer([this](int cell) {
+        const auto& palette = state_.palette();
+        return palette.exists()
+                   ? QString::fromStdString(toldEntry(palette.get()->table, cell) + remarkOf(cell))
+                   : cellTip(cell);
+    });
     grid_->setSelectionDescriber([](const CSwatchGrid::Selected& selected) {
         const bool isRun = selected.count == selected.last - selected.first + 1;
         return isRun ? shown(StringId::RangeSelected,
@@ -207,6 +215,7 @@ QBoxLayout* CPaletteBarControls::makeEntryRow() {
     entry_->setAccessibleName(shown(StringId::PaletteEntryName));
     entry_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000")) + 2 * letter);
     mark_ = entry_->addAction(QIcon(), QLineEdit::TrailingPosition);
+    mark_->setText(shown(StringId::PaletteEntryWrong));
     connect(entry_, &QLineEdit::textEdited, this,
             [this](const QString& typed) { state_.editor().EntryTyped(typed.toStdString()); });
 

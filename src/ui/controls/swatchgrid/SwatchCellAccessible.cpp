@@ -32,7 +32,7 @@ QAccessibleInterface* SwatchCellAccessible::parent() const {
 
 QString SwatchCellAccessible::text(QAccessible::Text kind) const {
     if (isValid() && kind == QAccessible::Name)
-        return grid_->description(cell_);
+        return grid_->nameOf(cell_);
     return isSelected() && kind == QAccessible::Description ? grid_->selectionDescription() : QString();
 }
 

@@ -28,6 +28,8 @@ public:
         virtual void dropped(int first, int last, int place) = 0;
         /// What a cell holds, for people.
         [[nodiscard]] virtual QString describe(int cell) const = 0;
+        /// The same for who does not see its colour.
+        [[nodiscard]] virtual QString nameOf(int cell) const = 0;
         /// The selected cells, of which there are several, for people.
         [[nodiscard]] virtual QString describeSelection() const = 0;
 
@@ -69,6 +71,7 @@ public:
     /// kNone when there is no such cell.
     [[nodiscard]] int activeCell() const;
     [[nodiscard]] QString description(int cell) const { return listener_.describe(cell); }
+    [[nodiscard]] QString nameOf(int cell) const { return listener_.nameOf(cell); }
     /// What is selected besides the cell that the keyboard is at; empty when nothing is.
     [[nodiscard]] QString selectionDescription() const;
     /// Chooses a cell as a click does.

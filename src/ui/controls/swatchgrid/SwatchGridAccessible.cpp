@@ -49,8 +49,8 @@ QString SwatchGridAccessible::text(QAccessible::Text kind) const {
     if (cell == SwatchGrid::kNone)
         return {};
     const QString selected = grid_.selectionDescription();
-    return selected.isEmpty() ? grid_.description(cell)
-                              : QString::fromLatin1("%1, %2").arg(grid_.description(cell), selected);
+    return selected.isEmpty() ? grid_.nameOf(cell)
+                              : QString::fromLatin1("%1, %2").arg(grid_.nameOf(cell), selected);
 }
 
 QAccessibleInterface* SwatchGridAccessible::focusChild() const {

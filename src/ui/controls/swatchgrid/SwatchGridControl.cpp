@@ -158,6 +158,12 @@ QString SwatchGridControl::describe(int cell) const {
         .toUpper();
 }
 
+QString SwatchGridControl::nameOf(int cell) const {
+    std::string text;
+    raise(114, {asShort(cell), &text});
+    return text.empty() ? describe(cell) : QString::fromStdString(text);
+}
+
 QString SwatchGridControl::describeSelection() const {
     const std::vector<int> cells = grid_.cells().selectedCells();
     const int count = static_cast<int>(cells.size());

@@ -62,6 +62,7 @@ private:
     void selected(const SwatchCells::Corners& range) override;
     void dropped(int first, int last, int place) override;
     [[nodiscard]] QString describe(int cell) const override;
+    [[nodiscard]] QString nameOf(int cell) const override;
     [[nodiscard]] QString describeSelection() const override;
 
     void addLayoutMembers();
