@@ -177,6 +177,7 @@ inline constexpr CommandId ID_ENTRY_ROW_DOWN = 33253;
 inline constexpr CommandId ID_ENTRY_PICK = 33254;
 inline constexpr CommandId ID_PANE_NEXT = 33255;
 inline constexpr CommandId ID_PANE_PREVIOUS = 33256;
+
 inline constexpr CommandId ID_TEXTURE_NEW = 33260;
 inline constexpr CommandId ID_IMAGE_NEW_PALETTE = 33261;
 inline constexpr CommandId ID_VIEW_FULL_SCREEN = 33262;

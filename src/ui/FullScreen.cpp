@@ -59,6 +59,7 @@ void FullScreen::leave() {
 void FullScreen::bringBarsBack() {
     if (!std::exchange(on_, false))
         return;
+    delete frame_.findChild<QLabel*>(QStringLiteral("fullScreenHint"));
     frame_.menuBar()->show();
     frame_.restoreState(docked_);
     frame_.statusBar()->setVisible(statusBarShown_);
