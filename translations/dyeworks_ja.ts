@@ -1360,70 +1360,6 @@ Toggle Start Page</source>
         <translation>パレットのセルだけ(&amp;Y)</translation>
     </message>
     <message>
-        <source>Take the palette entry before the current one
-Previous Entry</source>
-        <translation>現在のパレット エントリの 1 つ前を選びます
-前のエントリ</translation>
-    </message>
-    <message>
-        <source>Take the palette entry after the current one
-Next Entry</source>
-        <translation>現在のパレット エントリの 1 つ後を選びます
-次のエントリ</translation>
-    </message>
-    <message>
-        <source>Take the palette entry above the current one
-Entry Above</source>
-        <translation>現在のパレット エントリの 1 段上を選びます
-上のエントリ</translation>
-    </message>
-    <message>
-        <source>Take the palette entry below the current one
-Entry Below</source>
-        <translation>現在のパレット エントリの 1 段下を選びます
-下のエントリ</translation>
-    </message>
-    <message>
-        <source>Take the entry of the texel at the texel cursor, or at the pointer
-Pick Entry of Texel</source>
-        <translation>テクセル カーソル、またはポインタの位置のテクセルのエントリを選びます
-テクセルのエントリを選ぶ</translation>
-    </message>
-    <message>
-        <source>&amp;Previous Entry</source>
-        <translation>前のエントリ(&amp;P)</translation>
-    </message>
-    <message>
-        <source>&amp;Next Entry</source>
-        <translation>次のエントリ(&amp;N)</translation>
-    </message>
-    <message>
-        <source>Entry &amp;Above</source>
-        <translation>上のエントリ(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Entry &amp;Below</source>
-        <translation>下のエントリ(&amp;B)</translation>
-    </message>
-    <message>
-        <source>Entry of &amp;Texel</source>
-        <translation>テクセルのエントリ(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Next &amp;Pane</source>
-        <translation>次のペイン(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Go on to the next of document, bars, lists and palette bar
-Next Pane</source>
-        <translation>文書、バー、一覧、パレット バーのうち次のものへ移ります
-次のペイン</translation>
-    </message>
-    <message>
-        <source>P&amp;revious Pane</source>
-        <translation>前のペイン(&amp;R)</translation>
-    </message>
-    <message>
         <source>Go back to the previous of document, bars, lists and palette bar
 Previous Pane</source>
         <translation>文書、バー、一覧、パレット バーのうち前のものへ戻ります
@@ -1434,12 +1370,6 @@ Previous Pane</source>
 Toggle Palette Cells Only</source>
         <translation>パレット バーをセルだけにするか、すべてを表示するかを切り替えます
 パレットのセルだけの切り替え</translation>
-    </message>
-    <message>
-        <source>Go back to the previous of document, bars, lists and palette bar
-Previous Pane</source>
-        <translation>文書、バー、一覧、パレット バーのうち前のものへ戻ります
-前のペイン</translation>
     </message>
 </context>
 <context>
@@ -2166,10 +2096,6 @@ written. Files of pictures that are gone from the project are removed.</source>
     <message>
         <source>&amp;Give a Palette</source>
         <translation>パレットを付ける(&amp;G)</translation>
-    </message>
-    <message>
-        <source>&amp;Entry</source>
-        <translation>エントリ(&amp;E)</translation>
     </message>
 </context>
 <context>
@@ -4817,40 +4743,12 @@ The file is no longer whole. Save under another name; until then what was to be 
         <translation>Esc キーまたは F11 キーでバーが戻ります。</translation>
     </message>
     <message>
-        <source>red %1, green %2, blue %3, alpha %4</source>
-        <translation>赤 %1、緑 %2、青 %3、アルファ %4</translation>
-    </message>
-    <message>
-        <source>intensity %1, alpha %2</source>
-        <translation>輝度 %1、アルファ %2</translation>
-    </message>
-    <message>
-        <source>not in the palette</source>
-        <translation>パレットにありません</translation>
-    </message>
-    <message>
-        <source>Entry %1: %2</source>
-        <translation>エントリ %1: %2</translation>
-    </message>
-    <message>
-        <source>%1, %2: value %3</source>
-        <translation>%1, %2: 値 %3</translation>
-    </message>
-    <message>
-        <source>%1, %2: entry %3, %4</source>
-        <translation>%1, %2: エントリ %3、%4</translation>
-    </message>
-    <message>
         <source>More of the bar %1</source>
         <translation>%1 バーの続き</translation>
     </message>
     <message>
         <source>The image has no palette yet: choose Give a Palette in its context menu.</source>
         <translation>画像にまだパレットがありません。右クリックのメニューで「パレットを付ける」を選んでください。</translation>
-    </message>
-    <message>
-        <source>More of the bar %1</source>
-        <translation>バー「%1」の続き</translation>
     </message>
 </context>
 </TS>
