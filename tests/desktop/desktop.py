@@ -7,6 +7,7 @@ import os
 import shutil
 import subprocess
 import sys
+import tempfile
 import time
 from pathlib import Path
 
@@ -27,8 +28,11 @@ def ensure_tools():
         print("not here:", ", ".join(missing))
         sys.exit(SKIPPED)
     if "DYEWORKS_TEST_BUS" not in os.environ:
-        os.environ["DYEWORKS_TEST_BUS"] = "own"
-        os.execvp("dbus-run-session", ["dbus-run-session", "--", sys.executable, *sys.argv])
+        # The bus of screen readers has its socket in there, and there is one for all who share the folder.
+        with tempfile.TemporaryDirectory(prefix="dyeworks-") as folder:
+            environment = {**os.environ, "DYEWORKS_TEST_BUS": "own", "XDG_RUNTIME_DIR": folder}
+            sys.exit(subprocess.run(["dbus-run-session", "--", sys.executable, *sys.argv], env=environment,
+                                    check=False).returncode)
 
 
 ensure_tools()

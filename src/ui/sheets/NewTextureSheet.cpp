@@ -29,8 +29,6 @@ NewTexturePage::NewTexturePage(const std::vector<OpenPaletteName>& openPalettes)
     palettes_->setMinimumContentsLength(kMostLetters);
     palettes_->insertItem(kNewRgba, shown(StringId::NewTextureRgba));
     palettes_->insertItem(kNewIa, shown(StringId::NewTextureIa));
-    if (!openPalettes.empty())
-        palettes_->insertSeparator(palettes_->count());
     for (const auto& [key, title] : openPalettes)
         palettes_->addItem(QString::fromStdString(title), QString::fromStdString(key));
     auto* name = new QLabel(shown(StringId::NewTexturePalette));
