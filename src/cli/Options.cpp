@@ -8,8 +8,8 @@ namespace dyeworks {
 
 namespace {
 
-/// Behind every argument that ends in "]": CLI11 takes "[a,b]" for a list, and it may be a file's name. So may
-/// one that ends in marks already, which gets one more.
+/// Behind every argument that ends in "]": CLI11 takes "[a,b]" for a list, and it may be a file's name. So
+/// may one that ends in marks already, which gets one more.
 constexpr char kMark = '\x01';
 
 bool needsMark(const std::string& argument) {
