@@ -1,7 +1,7 @@
 #include "paint/widgets/ImageView.h"
 
-#include "framework/widgets/MenuBuilder.h"
 #include "framework/widgets/DesktopMotion.h"
+#include "framework/widgets/MenuBuilder.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/widgets/CChildFrame.h"
 #include "paint/widgets/ImageViewAccessible.h"
