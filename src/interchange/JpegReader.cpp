@@ -61,6 +61,7 @@ public:
         return jpeg_read_header(&state_, TRUE) == JPEG_HEADER_OK;
     }
 
+    /// While the header is there, which goes with the last pixel.
     [[nodiscard]] int turn() const noexcept {
         for (const jpeg_marker_struct* marker = state_.marker_list; marker != nullptr;
              marker = marker->next) {
@@ -133,6 +134,7 @@ Result<Picture, PictureError> read(std::span<const std::byte> file) {
         return errorOf(reader);
     if (!isPictureSize(reader.width(), reader.height()))
         return PictureError{PictureError::Kind::TooLarge, {}, reader.width(), reader.height()};
+    const int turn = reader.turn();
     Picture picture;
     picture.width = static_cast<std::int32_t>(reader.width());
     picture.height = static_cast<std::int32_t>(reader.height());
@@ -141,7 +143,7 @@ Result<Picture, PictureError> read(std::span<const std::byte> file) {
         return errorOf(reader);
     if (reader.hasInks())
         std::ranges::for_each(picture.pixels, mixInks);
-    return turned(std::move(picture), reader.turn());
+    return turned(std::move(picture), turn);
 }
 
 } // namespace

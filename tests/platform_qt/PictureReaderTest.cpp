@@ -103,7 +103,7 @@ TEST(PictureReader, AgreesWithTheReaderOfProgramsWithoutADesktop) {
             QByteArray turned = file;
             turned.insert(2, QByteArray("\xFF\xE1\x00\x22"
                                         "Exif\0\0II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0",
-                                        32)
+                                        28)
                                  .append(turn)
                                  .append(7, '\0'));
             const auto here = plain(turned);

@@ -107,8 +107,8 @@ TEST_F(NewTexture, MakesImagePaletteAndAttachmentAtOnceAndFitsTheZoom) {
     const int zoom = view().view().zoom();
     EXPECT_GT(zoom, 1);
     EXPECT_LE(64 * zoom, std::min(room.width(), room.height()));
-    make(3);
-    EXPECT_EQ(image().GetAttachedPalette(), made) << "behind the separator come the open ones";
+    make(2);
+    EXPECT_EQ(image().GetAttachedPalette(), made) << "then come the open ones";
     EXPECT_EQ(app_.paletteSet()->palettes.size(), 1U);
     EXPECT_EQ(image().displayName().substr(0, 8), "Texture2");
 }
