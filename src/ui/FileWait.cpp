@@ -5,10 +5,9 @@
 #include "platform/StringId.h"
 #include "platform/posix/HostFile.h"
 #include "platform/qt/QtPlatform.h"
-#include "platform/qt/QtWaitCursor.h"
+#include "platform/qt/WaitDialog.h"
 
 #include <QProgressDialog>
-#include <QTimer>
 
 #include <atomic>
 #include <chrono>
@@ -24,9 +23,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// What answers sooner needs no dialog.
-constexpr auto kPatience = 400ms;
-constexpr auto kLook = 50ms;
 /// A piece that takes longer is one of a slow file.
 constexpr auto kSlow = 40ms;
 constexpr std::size_t kPiece = std::size_t{1} << 20U;
@@ -65,15 +61,14 @@ private:
     }
 };
 
-QString wordsFor(const Reading& reading, const std::string& path) {
+std::string wordsFor(const Reading& reading, const std::string& path) {
     constexpr std::uint64_t kMegabyte = std::uint64_t{1} << 20U;
     // The host's form of the path would be asked of the very file system that does not answer.
     const std::string name(fileNameOf(path));
     if (reading.read == 0)
-        return QString::fromStdString(text(StringId::WaitingForFile, {name}));
-    return QString::fromStdString(
-        text(StringId::WaitingForFileRead,
-             {name, std::to_string(reading.read / kMegabyte), std::to_string(reading.size / kMegabyte)}));
+        return text(StringId::WaitingForFile, {name});
+    return text(StringId::WaitingForFileRead,
+                {name, std::to_string(reading.read / kMegabyte), std::to_string(reading.size / kMegabyte)});
 }
 
 } // namespace
@@ -93,33 +88,20 @@ bool waitForFile(const std::string& path, QWidget* owner) {
     } catch (const std::system_error&) {
         return true; // There are too many threads. The file is read without waiting for it first.
     }
-    if (done.wait_for(kPatience) == std::future_status::ready)
+    if (done.wait_for(kWaitPatience) == std::future_status::ready)
         return true;
-    const OrdinaryPointerScope pointer;
     if (owner != nullptr)
         owner->show();
-    QProgressDialog dialog(owner);
-    dialog.setObjectName(QStringLiteral("fileWait"));
-    dialog.setLabelText(wordsFor(*reading, path));
-    dialog.setCancelButtonText(QString::fromStdString(text(StringId::WaitingStop)));
-    dialog.setRange(0, 0);
-    dialog.setWindowModality(Qt::ApplicationModal);
-    dialog.setMinimumDuration(0);
-    dialog.setAutoClose(false);
-    dialog.setAutoReset(false);
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &dialog, [&] {
-        if (done.wait_for(0s) == std::future_status::ready) {
-            dialog.done(0);
-        } else if (const std::uint64_t size = reading->size; size > 0 && reading->read > 0) {
-            dialog.setLabelText(wordsFor(*reading, path));
-            dialog.setRange(0, kWhole);
-            dialog.setValue(static_cast<int>(std::min(size, reading->read.load()) * kWhole / size));
-        }
-    });
-    look.start(kLook);
-    dialog.exec();
-    if (done.wait_for(0s) == std::future_status::ready)
+    const auto isDone = [&done] { return done.wait_for(0s) == std::future_status::ready; };
+    const auto tell = [&](QProgressDialog& dialog) {
+        const std::uint64_t size = reading->size;
+        if (size == 0 || reading->read == 0)
+            return;
+        dialog.setLabelText(QString::fromStdString(wordsFor(*reading, path)));
+        dialog.setRange(0, kWhole);
+        dialog.setValue(static_cast<int>(std::min(size, reading->read.load()) * kWhole / size));
+    };
+    if (waitInDialog(wordsFor(*reading, path), owner, isDone, tell))
         return true;
     reading->stopped = true;
     return false;

@@ -3,12 +3,10 @@
 #include "platform/StringId.h"
 #include "platform/Text.h"
 #include "platform/posix/HostFile.h"
-#include "platform/qt/QtWaitCursor.h"
+#include "platform/qt/WaitDialog.h"
 
 #include <QCoreApplication>
-#include <QProgressDialog>
 #include <QThread>
-#include <QTimer>
 
 #include <atomic>
 #include <chrono>
@@ -25,10 +23,6 @@ namespace dyeworks {
 namespace {
 
 using namespace std::chrono_literals;
-
-/// What answers sooner needs no dialog.
-constexpr auto kPatience = 400ms;
-constexpr auto kLook = 50ms;
 
 /// Outlives the waiting: a thread that hangs in the file system cannot be ended.
 struct Writing {
@@ -69,34 +63,6 @@ std::shared_ptr<Writing> start(const std::string& file, FilePieces pieces) {
     }
 }
 
-template <typename Result>
-bool isReady(const std::future<Result>& result) {
-    return result.wait_for(0s) == std::future_status::ready;
-}
-
-/// Returns when the result is there or the user has stopped waiting for it.
-template <typename Result>
-void waitInDialog(const std::future<Result>& result, const std::string& file, QWidget* owner) {
-    const OrdinaryPointerScope pointer;
-    QProgressDialog dialog(owner);
-    dialog.setObjectName(QStringLiteral("fileWait"));
-    dialog.setLabelText(
-        QString::fromStdString(text(StringId::WaitingForFile, {file.substr(file.rfind('/') + 1)})));
-    dialog.setCancelButtonText(QString::fromStdString(text(StringId::WaitingStop)));
-    dialog.setRange(0, 0);
-    dialog.setWindowModality(Qt::ApplicationModal);
-    dialog.setMinimumDuration(0);
-    dialog.setAutoClose(false);
-    dialog.setAutoReset(false);
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &dialog, [&] {
-        if (isReady(result))
-            dialog.done(0);
-    });
-    look.start(kLook);
-    dialog.exec();
-}
-
 } // namespace
 
 PatientFiles::PatientFiles(const WindowContext& windows, DriveLookup drives, std::string programFolder)
@@ -112,9 +78,10 @@ std::optional<FileError> PatientFiles::writePieces(const std::string& path, File
     if (writing == nullptr)
         return PosixFiles::writePieces(path, pieces);
     std::future<std::optional<FileError>> done = writing->done.get_future();
-    if (done.wait_for(kPatience) != std::future_status::ready)
-        waitInDialog(done, file, windows_.owner());
-    if (!isReady(done)) {
+    const auto isDone = [&done] { return done.wait_for(0s) == std::future_status::ready; };
+    const bool isQuick = done.wait_for(kWaitPatience) == std::future_status::ready;
+    if (!isQuick && !waitInDialog(text(StringId::WaitingForFile, {file.substr(file.rfind('/') + 1)}),
+                                  windows_.owner(), isDone)) {
         writing->stopped = true;
         return FileError::Other;
     }
