@@ -11,6 +11,7 @@
 #include <QListView>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QPainter>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -54,17 +55,12 @@ CommandSearchBox::CommandSearchBox(QWidget& owner)
     none_->setWordWrap(true);
     none_->hide();
 
-    auto* frame = new QFrame;
-    frame->setFrameStyle(QFrame::Box | QFrame::Plain);
-    auto* inside = new QVBoxLayout(frame);
-    const int margin = fontMetrics().height() / 2;
-    inside->setContentsMargins(margin, margin, margin, margin);
-    inside->addWidget(field_);
-    inside->addWidget(list_, 1);
-    inside->addWidget(none_, 1);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins({});
-    layout->addWidget(frame);
+    const int margin = fontMetrics().height() / 2;
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->addWidget(field_);
+    layout->addWidget(list_, 1);
+    layout->addWidget(none_, 1);
     connect(field_, &QLineEdit::textChanged, this, &CommandSearchBox::showFound);
     connect(list_, &QListView::clicked, this, [this](const QModelIndex& index) { choose(index.row()); });
 }
@@ -170,6 +166,14 @@ bool CommandSearchBox::eventFilter(QObject* watched, QEvent* event) {
         return QDialog::eventFilter(watched, event);
     const auto& key = *static_cast<QKeyEvent*>(event);
     return leaving_ || pressKey(key.key(), key.modifiers());
+}
+
+/// Nobody else draws a line around it.
+void CommandSearchBox::paintEvent(QPaintEvent* event) {
+    QDialog::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 bool CommandSearchBox::event(QEvent* event) {

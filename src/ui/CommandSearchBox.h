@@ -33,6 +33,7 @@ Q_SIGNALS:
     void givenUp();
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
