@@ -1371,6 +1371,16 @@ Toggle Palette Cells Only</source>
         <translation>パレット バーをセルだけにするか、すべてを表示するかを切り替えます
 パレットのセルだけの切り替え</translation>
     </message>
+    <message>
+        <source>&amp;Search Commands...</source>
+        <translation>コマンドの検索(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Find a command by its name and run it
+Search Commands</source>
+        <translation>名前でコマンドを検索して実行します
+コマンドの検索</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -4749,6 +4759,182 @@ The file is no longer whole. Save under another name; until then what was to be 
     <message>
         <source>The image has no palette yet: choose Give a Palette in its context menu.</source>
         <translation>画像にまだパレットがありません。右クリックのメニューで「パレットを付ける」を選んでください。</translation>
+    </message>
+    <message>
+        <source>Search Commands</source>
+        <translation>コマンドの検索</translation>
+    </message>
+    <message>
+        <source>Command to search for</source>
+        <translation>検索するコマンド</translation>
+    </message>
+    <message>
+        <source>Name of a command</source>
+        <translation>コマンドの名前</translation>
+    </message>
+    <message>
+        <source>Commands found</source>
+        <translation>見つかったコマンド</translation>
+    </message>
+    <message>
+        <source>No command has such a name.</source>
+        <translation>その名前のコマンドはありません。</translation>
+    </message>
+    <message>
+        <source>Type some of a command&apos;s name, beginnings of its words or their first letters. Up and Down choose among what is found, Enter runs it and Esc goes back. A command that cannot be used now says why.</source>
+        <translation>コマンドの名前の一部、単語の先頭、または頭文字を入力します。上下の矢印キーで候補を選び、Enter で実行し、Esc で戻ります。今使用できないコマンドには理由が表示されます。</translation>
+    </message>
+    <message>
+        <source>%1 &gt; %2</source>
+        <translation>%1 &gt; %2</translation>
+    </message>
+    <message>
+        <source>disabled: %1</source>
+        <translation>使用できません: %1</translation>
+    </message>
+    <message>
+        <source>no image is open</source>
+        <translation>画像が開かれていません</translation>
+    </message>
+    <message>
+        <source>the active window is not an image</source>
+        <translation>アクティブなウィンドウが画像ではありません</translation>
+    </message>
+    <message>
+        <source>no document is open</source>
+        <translation>ドキュメントが開かれていません</translation>
+    </message>
+    <message>
+        <source>the active window is not the tree of the project</source>
+        <translation>アクティブなウィンドウがプロジェクトのツリーではありません</translation>
+    </message>
+    <message>
+        <source>no project is open</source>
+        <translation>プロジェクトが開かれていません</translation>
+    </message>
+    <message>
+        <source>no picture of the project is chosen</source>
+        <translation>プロジェクトのピクチャーが選択されていません</translation>
+    </message>
+    <message>
+        <source>no palette is open</source>
+        <translation>パレットが開かれていません</translation>
+    </message>
+    <message>
+        <source>no palette entry is selected</source>
+        <translation>パレットのエントリが選択されていません</translation>
+    </message>
+    <message>
+        <source>nothing is selected</source>
+        <translation>何も選択されていません</translation>
+    </message>
+    <message>
+        <source>the tool in use selects nothing; choose Select first</source>
+        <translation>使用中のツールでは選択できません。先に「選択」を選んでください</translation>
+    </message>
+    <message>
+        <source>there is nothing to undo</source>
+        <translation>元に戻す操作がありません</translation>
+    </message>
+    <message>
+        <source>there is nothing to redo</source>
+        <translation>やり直す操作がありません</translation>
+    </message>
+    <message>
+        <source>there is no picture on the clipboard</source>
+        <translation>クリップボードに画像がありません</translation>
+    </message>
+    <message>
+        <source>no palette entries have been copied</source>
+        <translation>パレットのエントリがコピーされていません</translation>
+    </message>
+    <message>
+        <source>the image is shown at its largest already</source>
+        <translation>画像はすでに最大の倍率で表示されています</translation>
+    </message>
+    <message>
+        <source>the image is shown at its smallest already</source>
+        <translation>画像はすでに最小の倍率で表示されています</translation>
+    </message>
+    <message>
+        <source>there are no zooms but those in the menu</source>
+        <translation>メニューにある倍率だけが使用できます</translation>
+    </message>
+    <message>
+        <source>the image does not have 8 bits</source>
+        <translation>画像が 8 ビットではありません</translation>
+    </message>
+    <message>
+        <source>the image does not have 4 bits</source>
+        <translation>画像が 4 ビットではありません</translation>
+    </message>
+    <message>
+        <source>the image has no texels</source>
+        <translation>画像にテクセルがありません</translation>
+    </message>
+    <message>
+        <source>the image is attached to the current palette already</source>
+        <translation>画像はすでに現在のパレットに割り当てられています</translation>
+    </message>
+    <message>
+        <source>the image has a palette already</source>
+        <translation>画像にはすでにパレットがあります</translation>
+    </message>
+    <message>
+        <source>it has never been saved</source>
+        <translation>まだ一度も保存されていません</translation>
+    </message>
+    <message>
+        <source>there are no unsaved changes</source>
+        <translation>保存されていない変更がありません</translation>
+    </message>
+    <message>
+        <source>the brush has its largest size already</source>
+        <translation>ブラシはすでに最大です</translation>
+    </message>
+    <message>
+        <source>the brush has its smallest size already</source>
+        <translation>ブラシはすでに最小です</translation>
+    </message>
+    <message>
+        <source>a block of cells is selected, not one run of entries</source>
+        <translation>続いたエントリではなく、セルのブロックが選択されています</translation>
+    </message>
+    <message>
+        <source>fewer than three entries are selected</source>
+        <translation>選択されているエントリが 3 個未満です</translation>
+    </message>
+    <message>
+        <source>the text of the entry is not understood</source>
+        <translation>エントリの文字列を解釈できません</translation>
+    </message>
+    <message>
+        <source>the palette has no entries, or more than 256</source>
+        <translation>パレットにエントリがないか、256 個を超えています</translation>
+    </message>
+    <message>
+        <source>no open image shows this palette</source>
+        <translation>このパレットを表示している画像が開かれていません</translation>
+    </message>
+    <message>
+        <source>no window is minimized</source>
+        <translation>最小化されたウィンドウがありません</translation>
+    </message>
+    <message>
+        <source>nothing was relinked, removed or added since a check</source>
+        <translation>検査の後で関連付け、削除、追加されたものがありません</translation>
+    </message>
+    <message>
+        <source>no such file has been opened yet</source>
+        <translation>まだこの種類のファイルを開いていません</translation>
+    </message>
+    <message>
+        <source>no node is selected</source>
+        <translation>ノードが選択されていません</translation>
+    </message>
+    <message>
+        <source>the selected node does not offer this</source>
+        <translation>選択されているノードでは使用できません</translation>
     </message>
 </context>
 </TS>

@@ -306,6 +306,9 @@ constexpr CommandRow kRows[] = {
                QT_TRANSLATE_NOOP("Command", "Take back what was relinked, removed and added since the check, "
                                             "or repeat it\nRevert to Before Check"),
                "", ""},
+    CommandRow{ID_COMMAND_SEARCH, QT_TRANSLATE_NOOP("Command", "&Search Commands..."),
+               QT_TRANSLATE_NOOP("Command", "Find a command by its name and run it\nSearch Commands"),
+               "Ctrl+Shift+P", ""},
     CommandRow{ID_ENTRY_PREVIOUS, QT_TRANSLATE_NOOP("Command", "&Previous Entry"),
                QT_TRANSLATE_NOOP("Command", "Take the palette entry before the current one\nPrevious Entry"),
                ",", ""},
@@ -372,7 +375,7 @@ constexpr CommandRow kRows[] = {
                QT_TRANSLATE_NOOP("Command", "Print the active document\nPrint"), "Ctrl+P", "print"},
     CommandRow{ID_FILE_PRINT_DIRECT, QT_TRANSLATE_NOOP("Command", "Print &Directly"),
                QT_TRANSLATE_NOOP("Command", "Print the active document without asking\nPrint Directly"),
-               "Ctrl+Shift+P", ""},
+               "Ctrl+Alt+P", ""},
     CommandRow{ID_FILE_PRINT_PREVIEW, QT_TRANSLATE_NOOP("Command", "Print Pre&view"),
                QT_TRANSLATE_NOOP("Command", "Display full pages\nPrint Preview"), "", "print-preview"},
     CommandRow{ID_EDIT_COPY, QT_TRANSLATE_NOOP("Command", "&Copy"),
@@ -459,6 +462,20 @@ std::string toolTipText(const CommandRow& row) {
     const std::string prompt = platform().texts().translate(kCommandContext, row.prompt);
     // Without a line break the whole prompt serves as tip: npos + 1 is 0.
     return prompt.substr(prompt.find('\n') + 1);
+}
+
+std::string withoutMnemonic(std::string_view menuText) {
+    std::string bare;
+    for (std::size_t i = 0; i < menuText.size(); ++i) {
+        // Where no letter of the text serves, one stands behind it: "(&A)".
+        if (menuText.substr(i, 2) == "(&" && i + 3 < menuText.size() && menuText[i + 3] == ')')
+            i += 3;
+        else if (menuText[i] != '&')
+            bare += menuText[i];
+        else if (menuText.substr(i, 2) == "&&")
+            bare += menuText[++i];
+    }
+    return bare;
 }
 
 } // namespace dyeworks

@@ -4,6 +4,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 
 namespace dyeworks {
 
@@ -28,6 +29,10 @@ const CommandRow* findCommand(CommandId id);
 std::string menuText(const CommandRow& row);
 std::string statusText(const CommandRow& row);
 std::string toolTipText(const CommandRow& row);
+
+/// A text of a menu without the mark of its letter: "Zoom In", and "開く..." of "開く(&O)...". Two marks are
+/// a "&" that is shown.
+std::string withoutMnemonic(std::string_view menuText);
 
 inline constexpr const char* kCommandContext = "Command";
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/CommandIds.h"
+#include "platform/Text.h"
 
 #include <functional>
 #include <map>
@@ -17,6 +18,16 @@ struct CommandUi {
     bool visible = true;         ///< False takes the command out of its menus, for entries of short lists.
     std::optional<bool> checked; ///< Set for commands that show a check mark.
     std::optional<std::string> text; ///< Replaces the menu text.
+    std::optional<StringId> reason;  ///< Why it is disabled, as words that follow "disabled:".
+
+    /// Disables the command unless what it needs is there, giving that as the reason. The first need that is
+    /// not met counts.
+    void require(bool isThere, StringId otherwise) {
+        if (isThere || !enabled)
+            return;
+        enabled = false;
+        reason = otherwise;
+    }
 };
 
 /// Shows the entry of a list of plug-ins that the command stands for, numbered from `first` on; a command

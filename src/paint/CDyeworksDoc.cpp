@@ -1,6 +1,7 @@
 #include "paint/CDyeworksDoc.h"
 
 #include "core/PaletteSet.h"
+#include "platform/StringId.h"
 #include "platform/TextCase.h"
 
 #include <algorithm>
@@ -174,7 +175,8 @@ bool CDyeworksDoc::hasUnsavedChanges() const {
 
 void CDyeworksDoc::OnUpdateAttach(CommandUi& ui) {
     PaletteSet* const set = host_.paletteSet();
-    ui.enabled = set != nullptr && !set->palettes.empty() && attachedName_ != set->currentKey;
+    ui.require(set != nullptr && !set->palettes.empty(), StringId::WhyNoPalette);
+    ui.require(set != nullptr && attachedName_ != set->currentKey, StringId::WhyAttachedAlready);
 }
 
 } // namespace dyeworks

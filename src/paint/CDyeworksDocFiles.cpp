@@ -217,7 +217,8 @@ void CDyeworksDoc::takeContents(TextureCanvas& contents) {
 }
 
 void CDyeworksDoc::OnUpdateRevert(CommandUi& ui) {
-    ui.enabled = !pathName().empty() && hasUnsavedChanges();
+    ui.require(!pathName().empty(), StringId::WhyNeverSaved);
+    ui.require(hasUnsavedChanges(), StringId::WhyUnchanged);
 }
 
 void CDyeworksDoc::AddToProject() {
@@ -255,7 +256,7 @@ void CDyeworksDoc::AddToProject() {
 }
 
 void CDyeworksDoc::OnUpdateAddToProject(CommandUi& ui) {
-    ui.enabled = host_.openProject() != nullptr;
+    ui.require(host_.openProject() != nullptr, StringId::WhyNoProject);
 }
 
 } // namespace dyeworks

@@ -1,6 +1,7 @@
 #include "paint/CDyeworksDoc.h"
 #include "paint/CDyeworksView.h"
 #include "paint/ViewWindow.h"
+#include "platform/StringId.h"
 
 namespace dyeworks {
 
@@ -82,7 +83,7 @@ void CDyeworksView::OnZoomIn() {
 }
 
 void CDyeworksView::OnUpdateZoomIn(CommandUi& ui) {
-    ui.enabled = zoom_ < ViewGeometry::kMaxZoom;
+    ui.require(zoom_ < ViewGeometry::kMaxZoom, StringId::WhyZoomLargest);
 }
 
 void CDyeworksView::OnZoomOut() {
@@ -90,7 +91,7 @@ void CDyeworksView::OnZoomOut() {
 }
 
 void CDyeworksView::OnUpdateZoomOut(CommandUi& ui) {
-    ui.enabled = zoom_ > ViewGeometry::kMinZoom;
+    ui.require(zoom_ > ViewGeometry::kMinZoom, StringId::WhyZoomSmallest);
 }
 
 void CDyeworksView::OnZoom(CommandId id) {
@@ -110,7 +111,7 @@ void CDyeworksView::OnUndo() {
 }
 
 void CDyeworksView::OnUpdateUndo(CommandUi& ui) {
-    ui.enabled = document_.CanUndo();
+    ui.require(document_.CanUndo(), StringId::WhyNothingToUndo);
 }
 
 void CDyeworksView::OnRedo() {
@@ -118,7 +119,7 @@ void CDyeworksView::OnRedo() {
 }
 
 void CDyeworksView::OnUpdateRedo(CommandUi& ui) {
-    ui.enabled = document_.edits().canRedo();
+    ui.require(document_.edits().canRedo(), StringId::WhyNothingToRedo);
 }
 
 } // namespace dyeworks

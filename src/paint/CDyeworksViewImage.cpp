@@ -157,11 +157,13 @@ void CDyeworksView::OnToEightBits() {
 }
 
 void CDyeworksView::OnUpdateDepth(CommandUi& ui) {
-    ui.enabled = document_.canvas().bitsPerPixel() == (ui.id == ID_IMAGE_TO_4_BITS ? 8 : 4);
+    const bool fromEight = ui.id == ID_IMAGE_TO_4_BITS;
+    ui.require(document_.canvas().bitsPerPixel() == (fromEight ? 8 : 4),
+               fromEight ? StringId::WhyNotEightBits : StringId::WhyNotFourBits);
 }
 
 void CDyeworksView::OnUpdateImageWork(CommandUi& ui) {
-    ui.enabled = document_.canvas().width() > 0 && document_.canvas().height() > 0;
+    ui.require(document_.canvas().width() > 0 && document_.canvas().height() > 0, StringId::WhyNoTexels);
 }
 
 } // namespace dyeworks

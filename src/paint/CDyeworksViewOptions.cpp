@@ -4,6 +4,7 @@
 #include "paint/DrawTool.h"
 #include "paint/SurfaceDrawing.h"
 #include "paint/ViewWindow.h"
+#include "platform/StringId.h"
 
 namespace dyeworks {
 
@@ -71,7 +72,10 @@ void CDyeworksView::OnBrushSize(CommandId id) {
 
 void CDyeworksView::OnUpdateBrushSize(CommandUi& ui) {
     const std::int32_t size = drawingOptions().brush.size;
-    ui.enabled = ui.id == ID_BRUSH_LARGER ? size < Brush::kMaxSize : size > 1;
+    if (ui.id == ID_BRUSH_LARGER)
+        ui.require(size < Brush::kMaxSize, StringId::WhyBrushLargest);
+    else
+        ui.require(size > 1, StringId::WhyBrushSmallest);
 }
 
 void CDyeworksView::OnBrushShape(CommandId id) {

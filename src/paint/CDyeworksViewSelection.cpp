@@ -118,7 +118,7 @@ void CDyeworksView::SelectTexels(const Rect& texels) {
 }
 
 void CDyeworksView::OnUpdateSelectAll(CommandUi& ui) {
-    ui.enabled = keepsSelection(selection_.toolAtPress());
+    ui.require(keepsSelection(selection_.toolAtPress()), StringId::WhyToolSelectsNothing);
 }
 
 void CDyeworksView::OnCancelSelection() {
@@ -162,7 +162,7 @@ void CDyeworksView::OnCut() {
 }
 
 void CDyeworksView::OnUpdateSelected(CommandUi& ui) {
-    ui.enabled = selection_.exists();
+    ui.require(selection_.exists(), StringId::WhyNothingSelected);
 }
 
 void CDyeworksView::OnPaste() {
@@ -177,7 +177,7 @@ void CDyeworksView::OnPaste() {
 }
 
 void CDyeworksView::OnUpdatePaste(CommandUi& ui) {
-    ui.enabled = platform().clipboard().offers(ClipboardFormat::Bitmap);
+    ui.require(platform().clipboard().offers(ClipboardFormat::Bitmap), StringId::WhyNoBitmap);
 }
 
 } // namespace dyeworks

@@ -3,6 +3,7 @@
 #include "core/EntryText.h"
 #include "core/PaletteSet.h"
 #include "palette/PaletteBarState.h"
+#include "platform/StringId.h"
 
 namespace dyeworks {
 
@@ -28,8 +29,13 @@ void PaletteBarCommands::OnStep(CommandId id) {
     host_.showMessage(toldEntry(state_.palette().get()->table, state_.cells().current()));
 }
 
+/// What a command lacks that cannot be carried out: a palette first of all, or else this.
+StringId PaletteBarCommands::without(StringId need) const {
+    return state_.palette().exists() ? need : StringId::WhyNoPalette;
+}
+
 void PaletteBarCommands::OnUpdateStep(CommandUi& ui) {
-    ui.enabled = state_.cells().current() >= 0;
+    ui.require(state_.cells().current() >= 0, without(StringId::WhyNoEntry));
 }
 
 void PaletteBarCommands::OnEditPalette() {
@@ -55,7 +61,7 @@ void PaletteBarCommands::OnEditPalette() {
 }
 
 void PaletteBarCommands::OnUpdateEditPalette(CommandUi& ui) {
-    ui.enabled = state_.editor().canAsk();
+    ui.require(state_.editor().canAsk(), without(StringId::WhyNoEntry));
 }
 
 void PaletteBarCommands::OnCopyPalette() {
@@ -63,7 +69,7 @@ void PaletteBarCommands::OnCopyPalette() {
 }
 
 void PaletteBarCommands::OnUpdateCopyPalette(CommandUi& ui) {
-    ui.enabled = state_.cells().canCopy();
+    ui.require(state_.cells().canCopy(), without(StringId::WhyNoEntry));
 }
 
 void PaletteBarCommands::OnPastePalette() {
@@ -71,7 +77,8 @@ void PaletteBarCommands::OnPastePalette() {
 }
 
 void PaletteBarCommands::OnUpdatePastePalette(CommandUi& ui) {
-    ui.enabled = state_.cells().canPaste();
+    ui.require(state_.cells().canPaste(),
+               without(state_.cells().current() < 0 ? StringId::WhyNoEntry : StringId::WhyNothingCopied));
 }
 
 void PaletteBarCommands::OnUndo() {
@@ -81,7 +88,7 @@ void PaletteBarCommands::OnUndo() {
 
 void PaletteBarCommands::OnUpdateUndo(CommandUi& ui) {
     const TextureLookupTable* const palette = state_.palette().get();
-    ui.enabled = palette != nullptr && palette->canUndo();
+    ui.require(palette != nullptr && palette->canUndo(), without(StringId::WhyNothingToUndo));
 }
 
 void PaletteBarCommands::OnRedo() {
@@ -91,7 +98,7 @@ void PaletteBarCommands::OnRedo() {
 
 void PaletteBarCommands::OnUpdateRedo(CommandUi& ui) {
     const TextureLookupTable* const palette = state_.palette().get();
-    ui.enabled = palette != nullptr && palette->canRedo();
+    ui.require(palette != nullptr && palette->canRedo(), without(StringId::WhyNothingToRedo));
 }
 
 } // namespace dyeworks

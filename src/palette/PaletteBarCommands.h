@@ -24,6 +24,7 @@ private:
     void OnUpdateUndo(CommandUi& ui);
     void OnStep(CommandId id);
     void OnUpdateStep(CommandUi& ui);
+    [[nodiscard]] StringId without(StringId need) const;
     void OnRedo();
     void OnUpdateRedo(CommandUi& ui);
 

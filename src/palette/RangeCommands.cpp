@@ -4,6 +4,7 @@
 #include "palette/EntryOperations.h"
 #include "palette/PaletteBarState.h"
 #include "palette/RangeAdjustment.h"
+#include "platform/StringId.h"
 
 namespace dyeworks {
 
@@ -46,7 +47,10 @@ void RangeCommands::change(const std::function<void(TlutData&, EntryRange)>& ope
 }
 
 void RangeCommands::OnUpdateRange(CommandUi& ui) {
-    ui.enabled = target().has_value();
+    const TextureLookupTable* const palette = state_.palette().get();
+    ui.require(palette != nullptr, StringId::WhyNoPalette);
+    ui.require(palette != nullptr && palette->table.count > 0, StringId::WhyPaletteSize);
+    ui.require(target().has_value(), StringId::WhyBlockSelected);
 }
 
 void RangeCommands::OnRamp() {
@@ -55,7 +59,8 @@ void RangeCommands::OnRamp() {
 
 void RangeCommands::OnUpdateRamp(CommandUi& ui) {
     const auto range = target();
-    ui.enabled = range && range->last - range->first > 1;
+    OnUpdateRange(ui);
+    ui.require(range && range->last - range->first > 1, StringId::WhyFewEntries);
 }
 
 void RangeCommands::OnInvert() {
@@ -73,7 +78,9 @@ void RangeCommands::OnFill() {
 }
 
 void RangeCommands::OnUpdateFill(CommandUi& ui) {
-    ui.enabled = target() && state_.cells().currentEntry() && !state_.editor().textIsWrong();
+    OnUpdateRange(ui);
+    ui.require(state_.cells().currentEntry().has_value(), StringId::WhyNoEntry);
+    ui.require(!state_.editor().textIsWrong(), StringId::WhyEntryTextWrong);
 }
 
 void RangeCommands::OnAdjust() {

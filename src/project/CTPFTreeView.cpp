@@ -1,6 +1,7 @@
 #include "project/CTPFTreeView.h"
 
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "platform/TextCase.h"
 #include "project/CTPFDocument.h"
 
@@ -322,12 +323,13 @@ void CTPFTreeView::OnUpdateNodeCommand(CommandUi& ui) {
     std::string path;
     ClassifyNode(isProject, isPicture, path);
     if (isProject)
-        ui.enabled = projectCommand(kCommand) != 0;
+        ui.require(projectCommand(kCommand) != 0, StringId::WhyNodeCannot);
     else if (isPicture)
-        ui.enabled = pictureCommand(kCommand) != 0;
+        ui.require(pictureCommand(kCommand) != 0, StringId::WhyNodeCannot);
     else
-        ui.enabled = tree_.selected() != nullptr && document_.host().projectPlugIns().TPF_QueryCommand(
-                                                        document_.plugInHandles(), path, kCommand);
+        ui.require(tree_.selected() != nullptr && document_.host().projectPlugIns().TPF_QueryCommand(
+                                                      document_.plugInHandles(), path, kCommand),
+                   tree_.selected() == nullptr ? StringId::WhyNoNode : StringId::WhyNodeCannot);
 }
 
 } // namespace dyeworks

@@ -52,6 +52,7 @@ std::vector<CommandTarget*> CDyeworksApp::commandChain() {
         chain.push_back(&mainFrame_->paletteBar().commands());
         chain.push_back(&mainFrame_->paletteBar().rangeCommands());
         chain.push_back(&mainFrame_->printing());
+        chain.push_back(&mainFrame_->searching());
     }
     chain.push_back(&projectCommands_);
     chain.push_back(&projectChecking_);

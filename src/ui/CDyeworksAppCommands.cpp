@@ -49,7 +49,7 @@ void CDyeworksApp::openWithDialog(FileDialogRequest request) {
 }
 
 void CDyeworksApp::updateNeedsPalette(CommandUi& ui) {
-    ui.enabled = paletteSet()->lookup("") != nullptr;
+    ui.require(paletteSet()->lookup("") != nullptr, StringId::WhyNoPalette);
 }
 
 void CDyeworksApp::OnFileNew() {

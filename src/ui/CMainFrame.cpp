@@ -83,7 +83,9 @@ void takeAsCopy(QDropEvent& event) {
 CMainFrame::CMainFrame(MainFrameHost& host)
     : host_(host)
     , actions_(host.router())
-    , printing_(*this, [this] { return activeImageView(); }) {
+    , printing_(*this, [this] { return activeImageView(); })
+    , searching_(*this, actions_, host.router(),
+                 [this] { return host_.currentProject().document() != nullptr; }) {
     setObjectName(QStringLiteral("IDR_MAINFRAME"));
     setAcceptDrops(true);
     new ContextMenuKey(this);

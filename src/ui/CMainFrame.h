@@ -5,6 +5,7 @@
 #include "framework/widgets/MdiFrame.h"
 #include "platform/Text.h"
 #include "ui/BanksBar.h"
+#include "ui/CommandSearching.h"
 #include "ui/PrintCommands.h"
 
 #include <cstdint>
@@ -43,6 +44,7 @@ public:
     [[nodiscard]] CommandActions& commandActions() noexcept { return actions_; }
     [[nodiscard]] CPaletteBar& paletteBar() noexcept { return *paletteBar_; }
     [[nodiscard]] PrintCommands& printing() noexcept { return printing_; }
+    [[nodiscard]] CommandSearching& searching() noexcept { return searching_; }
     [[nodiscard]] FindingsDock& findings() noexcept { return *findings_; }
 
     // Each opens a window with a view of the document and makes it the active one.
@@ -142,6 +144,7 @@ private:
     MainFrameHost& host_;
     CommandActions actions_;
     PrintCommands printing_;
+    CommandSearching searching_;
     bool closing_ = false; ///< While questions are asked and what is open is recorded.
     StatusPanes* panes_ = nullptr;
     CProjectBar* projectBar_ = nullptr;

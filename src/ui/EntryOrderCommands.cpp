@@ -135,8 +135,10 @@ void EntryOrderCommands::carryOut(EntryOrder order, Sheet sheet) {
 
 void EntryOrderCommands::OnUpdateOrder(CommandUi& ui) {
     const TextureLookupTable* const palette = workspace_.paletteSet()->lookup("");
-    ui.enabled =
-        palette != nullptr && palette->table.count > 0 && palette->table.count <= EntryMap::kMostEntries;
+    ui.require(palette != nullptr, StringId::WhyNoPalette);
+    ui.require(palette != nullptr && palette->table.count > 0 &&
+                   palette->table.count <= EntryMap::kMostEntries,
+               StringId::WhyPaletteSize);
 }
 
 } // namespace dyeworks

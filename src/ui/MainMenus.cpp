@@ -351,7 +351,8 @@ constexpr std::array kWindowMenu{
 };
 
 constexpr std::array kHelpMenu{
-    MenuItem{ID_HELP_INDEX}, MenuItem{ID_HELP}, MenuItem{ID_CONTEXT_HELP}, kSeparator, MenuItem{ID_APP_ABOUT},
+    MenuItem{ID_HELP_INDEX}, MenuItem{ID_HELP}, MenuItem{ID_CONTEXT_HELP},   kSeparator,
+    MenuItem{ID_APP_ABOUT},  kSeparator,        MenuItem{ID_COMMAND_SEARCH},
 };
 
 constexpr std::array kMainMenu{

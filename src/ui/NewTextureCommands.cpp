@@ -124,7 +124,8 @@ void NewTextureCommands::OnNewPaletteForImage() {
 
 void NewTextureCommands::OnUpdateNewPaletteForImage(CommandUi& ui) {
     const CDyeworksDoc* const image = activeImage();
-    ui.enabled = image != nullptr && !image->IsAttached();
+    ui.require(image != nullptr, StringId::WhyNoImage);
+    ui.require(image != nullptr && !image->IsAttached(), StringId::WhyHasPalette);
 }
 
 } // namespace dyeworks

@@ -137,7 +137,7 @@ void PaletteFileCommands::OnExportPalette() {
 }
 
 void PaletteFileCommands::OnUpdateExportPalette(CommandUi& ui) {
-    ui.enabled = workspace_.paletteSet()->lookup("") != nullptr;
+    ui.require(workspace_.paletteSet()->lookup("") != nullptr, StringId::WhyNoPalette);
 }
 
 } // namespace dyeworks

@@ -119,7 +119,10 @@ void PaletteUsage::OnShowTexels() {
 }
 
 void PaletteUsage::OnUpdateShowTexels(CommandUi& ui) {
-    ui.enabled = currentEntry() >= 0 && !imagesOf(workspace_.paletteSet()->currentKey).empty();
+    const bool paletteIsOpen = workspace_.paletteSet()->lookup("") != nullptr;
+    ui.require(currentEntry() >= 0, paletteIsOpen ? StringId::WhyNoEntry : StringId::WhyNoPalette);
+    if (ui.enabled)
+        ui.require(!imagesOf(workspace_.paletteSet()->currentKey).empty(), StringId::WhyNoImageShows);
 }
 
 } // namespace dyeworks

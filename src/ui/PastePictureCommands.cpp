@@ -72,7 +72,7 @@ void PastePictureCommands::OnPasteNewImage() {
 }
 
 void PastePictureCommands::OnUpdatePasteNewImage(CommandUi& ui) {
-    ui.enabled = platform().clipboard().offers(ClipboardFormat::Bitmap);
+    ui.require(platform().clipboard().offers(ClipboardFormat::Bitmap), StringId::WhyNoBitmap);
 }
 
 void PastePictureCommands::OnPasteMatching() {
@@ -110,7 +110,11 @@ void PastePictureCommands::OnPasteMatching() {
 }
 
 void PastePictureCommands::OnUpdatePasteMatching(CommandUi& ui) {
-    ui.enabled = platform().clipboard().offers(ClipboardFormat::Bitmap) && target().has_value();
+    ui.require(workspace_.hasMainFrame() && workspace_.mainFrame().activeImageView() != nullptr,
+               StringId::WhyNoImage);
+    ui.require(platform().clipboard().offers(ClipboardFormat::Bitmap), StringId::WhyNoBitmap);
+    // An image has what it takes, so that nothing else can be missing.
+    ui.require(target().has_value(), StringId::WhyNoPalette);
 }
 
 } // namespace dyeworks

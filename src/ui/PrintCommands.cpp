@@ -121,7 +121,7 @@ void PrintCommands::printActive() {
 }
 
 void PrintCommands::updateNeedsImage(CommandUi& ui) {
-    ui.enabled = activeView_() != nullptr;
+    ui.require(activeView_() != nullptr, StringId::WhyNoImage);
 }
 
 void PrintCommands::OnFilePrint() {

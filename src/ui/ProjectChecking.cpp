@@ -333,11 +333,12 @@ void ProjectChecking::OnRevert() {
 }
 
 void ProjectChecking::OnUpdateNeedsProject(CommandUi& ui) {
-    ui.enabled = project() != nullptr;
+    ui.require(project() != nullptr, StringId::WhyNoProject);
 }
 
 void ProjectChecking::OnUpdateRevert(CommandUi& ui) {
-    ui.enabled = project() != nullptr && project()->mayRevertCheck();
+    ui.require(project() != nullptr, StringId::WhyNoProject);
+    ui.require(project() != nullptr && project()->mayRevertCheck(), StringId::WhyNothingRepaired);
     if (ui.enabled && project()->isReverted())
         ui.text = text(StringId::ProjectRepeatChanges);
 }

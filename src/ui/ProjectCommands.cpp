@@ -1,5 +1,6 @@
 #include "ui/ProjectCommands.h"
 
+#include "platform/StringId.h"
 #include "project/CTPFDocument.h"
 #include "ui/CMainFrame.h"
 #include "ui/CurrentProject.h"
@@ -24,12 +25,13 @@ ProjectCommands::ProjectCommands(Workspace& workspace)
 }
 
 void ProjectCommands::updateNeedsProject(CommandUi& ui) {
-    ui.enabled = workspace_.currentProject().document() != nullptr;
+    ui.require(workspace_.currentProject().document() != nullptr, StringId::WhyNoProject);
 }
 
 void ProjectCommands::updateNeedsPicture(CommandUi& ui) {
     const CurrentProject& project = workspace_.currentProject();
-    ui.enabled = project.document() != nullptr && !project.picture().empty();
+    ui.require(project.document() != nullptr, StringId::WhyNoProject);
+    ui.require(!project.picture().empty(), StringId::WhyNoPicture);
 }
 
 void ProjectCommands::OnProjectClose() {

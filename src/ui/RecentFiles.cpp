@@ -1,5 +1,6 @@
 #include "ui/RecentFiles.h"
 
+#include "platform/StringId.h"
 #include "platform/TextCase.h"
 
 #include <utility>
@@ -13,7 +14,7 @@ void showEntry(const RecentFileList& list, std::size_t index, CommandUi& ui) {
     if (index < list.paths().size())
         ui.text = list.menuLabel(index);
     else
-        ui.enabled = false;
+        ui.require(false, StringId::WhyNothingRecent);
     ui.visible = index == 0 || ui.enabled;
 }
 

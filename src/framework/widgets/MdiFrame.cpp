@@ -4,6 +4,7 @@
 #include "framework/widgets/ChildFrame.h"
 #include "framework/widgets/MenuBuilder.h"
 #include "framework/widgets/WindowListMenu.h"
+#include "platform/StringId.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -129,7 +130,7 @@ void MdiFrame::OnWindowNew() {
 void MdiFrame::OnUpdateWindowNew(CommandUi& ui) {
     const ChildFrame* child = activeChild();
     const CDocument* document = child == nullptr ? nullptr : child->document();
-    ui.enabled = document != nullptr && document->documentTemplate() != nullptr;
+    ui.require(document != nullptr && document->documentTemplate() != nullptr, StringId::WhyNoDocument);
 }
 
 void MdiFrame::OnWindowCascade() {
@@ -153,11 +154,12 @@ void MdiFrame::OnWindowArrange() {
 }
 
 void MdiFrame::OnUpdateWindow(CommandUi& ui) {
-    ui.enabled = !childFrames().empty();
+    ui.require(!childFrames().empty(), StringId::WhyNoDocument);
 }
 
 void MdiFrame::OnUpdateWindowArrange(CommandUi& ui) {
-    ui.enabled = std::ranges::any_of(childFrames(), &QWidget::isMinimized);
+    ui.require(!childFrames().empty(), StringId::WhyNoDocument);
+    ui.require(std::ranges::any_of(childFrames(), &QWidget::isMinimized), StringId::WhyNoMinimized);
 }
 
 void MdiFrame::childActivated() {
