@@ -11,6 +11,7 @@ void registerPngCases();
 void registerPreviewCases();
 void registerProjectCases();
 void registerRuleCases();
+void registerSearchCases();
 void registerViewCases();
 
 } // namespace dyeworks

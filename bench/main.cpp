@@ -24,6 +24,7 @@ int main(int argc, char** argv) {
     dyeworks::registerPreviewCases();
     dyeworks::registerProjectCases();
     dyeworks::registerRuleCases();
+    dyeworks::registerSearchCases();
     dyeworks::registerViewCases();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))

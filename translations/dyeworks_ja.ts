@@ -4790,7 +4790,7 @@ The file is no longer whole. Save under another name; until then what was to be 
     </message>
     <message>
         <source>disabled: %1</source>
-        <translation>使用できません: %1</translation>
+        <translation>使用不可: %1</translation>
     </message>
     <message>
         <source>no image is open</source>
@@ -4798,7 +4798,7 @@ The file is no longer whole. Save under another name; until then what was to be 
     </message>
     <message>
         <source>the active window is not an image</source>
-        <translation>アクティブなウィンドウが画像ではありません</translation>
+        <translation>作業中のウィンドウが画像ではありません</translation>
     </message>
     <message>
         <source>no document is open</source>
@@ -4806,7 +4806,7 @@ The file is no longer whole. Save under another name; until then what was to be 
     </message>
     <message>
         <source>the active window is not the tree of the project</source>
-        <translation>アクティブなウィンドウがプロジェクトのツリーではありません</translation>
+        <translation>作業中のウィンドウがプロジェクトのツリーではありません</translation>
     </message>
     <message>
         <source>no project is open</source>

@@ -52,7 +52,7 @@ void CommandRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& opt
     painter->save();
     painter->setFont(row.font);
     painter->setPen(ink);
-    const bool faint = !reason.isEmpty() && !ContrastStyle::isWanted(row.palette);
+    const bool faint = !reason.isEmpty() && !chosen && !ContrastStyle::isWanted(row.palette);
     painter->setOpacity(faint ? kFaint : 1);
     painter->drawText(first, Qt::AlignTrailing | Qt::AlignVCenter | Qt::TextSingleLine, keys);
     first.setWidth(room.width() - row.fontMetrics.horizontalAdvance(keys) - (keys.isEmpty() ? 0 : gap));

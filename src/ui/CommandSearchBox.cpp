@@ -20,7 +20,7 @@ namespace dyeworks {
 
 namespace {
 
-constexpr int kWidth = 64; // Letters.
+constexpr int kWidth = 80; // Letters.
 constexpr int kRows = 9;
 constexpr double kShareOfOwner = 0.9;
 
@@ -55,7 +55,7 @@ CommandSearchBox::CommandSearchBox(QWidget& owner)
     none_->hide();
 
     auto* frame = new QFrame;
-    frame->setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
+    frame->setFrameStyle(QFrame::Box | QFrame::Plain);
     auto* inside = new QVBoxLayout(frame);
     const int margin = fontMetrics().height() / 2;
     inside->setContentsMargins(margin, margin, margin, margin);
@@ -70,6 +70,7 @@ CommandSearchBox::CommandSearchBox(QWidget& owner)
 }
 
 void CommandSearchBox::open(std::vector<ListedCommand> commands) {
+    leaving_ = false;
     model_.setCommands(std::move(commands));
     field_->clear();
     showFound();
@@ -121,11 +122,10 @@ void CommandSearchBox::goTo(int row) {
 }
 
 void CommandSearchBox::choose(int row) {
-    if (row < 0 || row >= model_.rowCount() || !model_.command(row).reason.empty())
+    if (leaving_ || row < 0 || row >= model_.rowCount() || !model_.command(row).reason.empty())
         return;
-    const ListedCommand command = model_.command(row);
-    hide();
-    Q_EMIT chosen(command);
+    leaving_ = true;
+    Q_EMIT chosen(model_.command(row));
 }
 
 bool CommandSearchBox::pressKey(int key, Qt::KeyboardModifiers modifiers) {
@@ -157,7 +157,7 @@ bool CommandSearchBox::pressKey(int key, Qt::KeyboardModifiers modifiers) {
         choose(row);
         return true;
     case Qt::Key_Escape:
-        hide();
+        leaving_ = true;
         Q_EMIT givenUp();
         return true;
     default:
@@ -169,7 +169,7 @@ bool CommandSearchBox::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress)
         return QDialog::eventFilter(watched, event);
     const auto& key = *static_cast<QKeyEvent*>(event);
-    return pressKey(key.key(), key.modifiers());
+    return leaving_ || pressKey(key.key(), key.modifiers());
 }
 
 bool CommandSearchBox::event(QEvent* event) {

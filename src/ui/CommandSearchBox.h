@@ -20,13 +20,16 @@ class CommandSearchBox : public QDialog {
 public:
     explicit CommandSearchBox(QWidget& owner);
 
-    /// Shows the box at the top of its owner, in the middle, with all commands.
+    /// Shows the box at the top of its owner, in the middle, with all commands. It goes when another window
+    /// gets the keys.
     void open(std::vector<ListedCommand> commands);
 
 Q_SIGNALS:
-    /// Enter or a click: the box has gone. Not for a command that cannot be used.
+    // The box takes no more keys, and whoever hears this gives them to another window. To hide before would
+    // have window managers give them to one of their choice.
+    /// Enter or a click on a command that can be used.
     void chosen(const ListedCommand& command);
-    /// Gone by Esc.
+    /// Esc.
     void givenUp();
 
 protected:
@@ -46,6 +49,7 @@ private:
     QLineEdit* field_;
     QListView* list_;
     QLabel* none_;
+    bool leaving_ = false; ///< It was told so, and stays until it loses the keys.
 };
 
 } // namespace dyeworks

@@ -35,6 +35,7 @@ QVariant CommandSearchModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
         return QString::fromStdString(row.name);
     case Qt::AccessibleTextRole:
+    case Qt::ToolTipRole:
         return QString::fromStdString(spoken(row));
     case Place:
         return QString::fromStdString(row.place);

@@ -37,7 +37,7 @@ CommandSearching::CommandSearching(MdiFrame& frame, CommandActions& actions, Com
     connect(&patience_, &QTimer::timeout, this, &CommandSearching::runWaiting);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* now) {
         // Not in the midst of the change.
-        if (waiting_ && before_ != nullptr && now == before_->window()->windowHandle())
+        if (patience_.isActive() && before_ != nullptr && now == before_->window()->windowHandle())
             patience_.start(0);
     });
 }
@@ -68,7 +68,6 @@ void CommandSearching::OnSearch() {
         connect(box_, &CommandSearchBox::givenUp, this, &CommandSearching::giveKeysBack);
     }
     if (box_->isVisible()) {
-        box_->hide();
         giveKeysBack();
         return;
     }
@@ -79,6 +78,7 @@ void CommandSearching::OnSearch() {
 void CommandSearching::giveKeysBack() {
     if (before_ == nullptr || !before_->isVisible())
         before_ = &frame_;
+    patience_.start(kPatience);
     before_->window()->activateWindow();
     if (before_ != &frame_)
         before_->setFocus(Qt::PopupFocusReason);
@@ -93,12 +93,12 @@ void CommandSearching::run(const ListedCommand& command) {
             frame_.activateChild(*window);
         }
     };
-    patience_.start(kPatience);
     giveKeysBack();
 }
 
 void CommandSearching::runWaiting() {
     patience_.stop();
+    box_->hide();
     if (waiting_)
         std::exchange(waiting_, {})();
 }

@@ -32,7 +32,7 @@ private:
     void OnSearch();
     void run(const ListedCommand& command);
     void giveKeysBack();
-    /// Runs what waits for the keys.
+    /// Runs what waits for the keys, if anything does.
     void runWaiting();
 
     MdiFrame& frame_;
