@@ -1,6 +1,7 @@
 #include "Desk.h"
 
 #include "core/PaletteSet.h"
+#include "project/CTPFDocument.h"
 #include "ui/CMainFrame.h"
 #include "ui/CommandLine.h"
 #include "ui/palettebar/CPaletteBar.h"
@@ -85,6 +86,31 @@ void compareView(Differences& differences, const std::string& name, const CDyewo
         differences.compareImage(name + " piece", plain(*piece->texels), *model.piece);
 }
 
+void compareProject(Differences& differences, const CTPFDocument& program, const ProjectModel& model) {
+    differences.compare("project path", program.pathName(), model.path);
+    differences.compare("project title", program.title(), model.title());
+    differences.compare("project modified", program.isModified(), model.modified);
+    std::string names;
+    std::string expected;
+    for (const std::string& name : program.pictureNames()) {
+        PictureEntry entry;
+        static_cast<void>(program.GetPicture(name, entry));
+        names +=
+            name + ',' + entry.tmfFile + ',' + entry.tlfFile + ',' + std::to_string(entry.paletteNo) + ' ';
+    }
+    for (const std::string& name : model.order) {
+        const ProjectModel::Picture& picture = model.pictures.at(name);
+        expected +=
+            name + ',' + picture.image + ',' + picture.palette + ',' + std::to_string(picture.number) + ' ';
+    }
+    differences.compare("pictures", names, expected);
+    for (const ProjectModel::Line& line : model.lines) {
+        std::string value;
+        if (!line.name.empty() && (!program.GetValue(line.name, value) || value != line.text))
+            differences.compare("value of " + line.name, value, line.text);
+    }
+}
+
 } // namespace
 
 std::string Desk::imagePath(int number) {
@@ -93,6 +119,10 @@ std::string Desk::imagePath(int number) {
 
 std::string Desk::palettePath(int number) {
     return "c:\\tex\\palette" + std::to_string(number) + ".tlf";
+}
+
+std::string Desk::projectPath(int number) {
+    return "c:\\tex\\project" + std::to_string(number) + ".tpf";
 }
 
 Desk::Desk() {
@@ -126,6 +156,9 @@ void Desk::putFiles() {
             table.entries[entry] = static_cast<std::uint16_t>(entry * 193 + static_cast<unsigned>(i) * 7);
         model.files[palettePath(i)] = paletteFile(table);
     }
+    model.files[projectPath(0)] = "# Textures of the sea\r\n\r\nNote = 7\nwhatever\r\n";
+    model.files[projectPath(1)] = "PICT_NUM = 2\nPICT.0 = Sea,image0.tmf,palette0.tlf,0\n; rest\n"
+                                  "PICT.1=Sky1,image2.tmf,palette1.tlf,3\nPICT.4 = Old,a.tmf,a.tlf,1\n";
     for (const auto& [path, bytes] : model.files)
         fake.files.putFile(path, bytes);
 }
@@ -165,8 +198,11 @@ void Desk::readBar() {
 
 void Desk::readActive() {
     ImageView* const shown = view();
-    if (shown == nullptr)
+    if (shown == nullptr) {
+        model.active = nullptr;
+        model.projectInFront = frame().activeChild() != nullptr;
         return;
+    }
     const CDyeworksDoc& document = shown->view().document();
     const auto documents = app.imageTemplate().documents();
     const auto at =
@@ -239,6 +275,10 @@ std::string Desk::differences(bool all) {
         found.compare(key + " can undo", palette->canUndo(), !expected.states.undone.empty());
         found.compare(key + " can redo", palette->canRedo(), !expected.states.redone.empty());
     }
+    const CTPFDocument* const project = app.projectDocument();
+    found.compare("a project is open", project != nullptr, model.project.has_value());
+    if (project != nullptr && model.project)
+        compareProject(found, *project, *model.project);
     for (const CommandId id : kCompared) {
         if (const std::optional<bool> enabled = model.enabled(id))
             found.compare("enabled " + std::to_string(id), app.router().state(id).enabled, *enabled);
@@ -254,7 +294,7 @@ std::string Desk::differences(bool all) {
 
 std::vector<const Verb*> allVerbs() {
     std::vector<const Verb*> all;
-    for (const auto* const verbs : {&imageVerbs(), &fileVerbs(), &paletteVerbs()}) {
+    for (const auto* const verbs : {&imageVerbs(), &fileVerbs(), &paletteVerbs(), &projectVerbs()}) {
         for (const Verb& verb : *verbs)
             all.push_back(&verb);
     }

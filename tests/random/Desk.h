@@ -50,8 +50,11 @@ public:
 
     static constexpr int kImages = 6;
     static constexpr int kPalettes = 5;
+    static constexpr int kProjects = 2;
+    static constexpr std::size_t kMostImages = 4; ///< That are open at a time.
     [[nodiscard]] static std::string imagePath(int number);
     [[nodiscard]] static std::string palettePath(int number);
+    [[nodiscard]] static std::string projectPath(int number);
 
 private:
     void putFiles();
@@ -69,6 +72,7 @@ struct Verb {
 [[nodiscard]] const std::vector<Verb>& imageVerbs();
 [[nodiscard]] const std::vector<Verb>& fileVerbs();
 [[nodiscard]] const std::vector<Verb>& paletteVerbs();
+[[nodiscard]] const std::vector<Verb>& projectVerbs();
 [[nodiscard]] std::vector<const Verb*> allVerbs();
 
 } // namespace dyeworks

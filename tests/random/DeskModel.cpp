@@ -26,9 +26,13 @@ std::string paletteTitle(const std::string& path) {
 
 /// An entry that is set marks the palette, but not its title; the title follows the history alone.
 void PaletteModel::edit(PlainTable table) {
+    setEntries(std::move(table));
+    followHistory();
+}
+
+void PaletteModel::setEntries(PlainTable table) {
     states.keep(std::exchange(states.now, std::move(table)));
     modified = true;
-    followHistory();
 }
 
 bool PaletteModel::undo() {
@@ -102,7 +106,12 @@ std::optional<bool> DeskModel::enabled(CommandId id) {
     case ID_FILE_SAVE:
     case ID_FILE_SAVE_AS:
     case ID_FILE_CLOSE:
-        return active != nullptr;
+        return active != nullptr || projectInFront;
+    case ID_PROJECT_SAVE:
+    case ID_PROJECT_CLOSE:
+    case ID_PICTURE_REMOVE:
+        return project.has_value();
+    case ID_PROJECT_OPEN:
     case ID_FILE_NEW:
     case ID_FILE_OPEN:
     case ID_PALETTE_NEW:
@@ -215,6 +224,7 @@ ViewModel& DeskModel::newImage(std::int32_t width, std::int32_t height, int bits
 
 void DeskModel::activated(ViewModel& image) {
     active = &image;
+    projectInFront = false;
     if (std::exchange(lastActivated, &image) != &image && paletteOf(image) != nullptr)
         currentPalette = image.document.attached;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PlainFiles.h"
+#include "ProjectModel.h"
 #include "ViewModel.h"
 
 #include <map>
@@ -25,6 +26,8 @@ struct PaletteModel {
         return modified || states.number != states.saved || (inFile && *inFile != states.now);
     }
     void edit(PlainTable table);
+    /// As a plug-in does it, which leaves the title as it is.
+    void setEntries(PlainTable table);
     bool undo();
     bool redo();
     /// The file holds it now.
@@ -54,6 +57,8 @@ struct DeskModel {
     ViewModel* lastActivated = nullptr;
     std::map<std::string, PaletteModel> palettes;
     std::string currentPalette;
+    std::optional<ProjectModel> project;
+    bool projectInFront = false;
     std::map<std::string, std::string> files;
     std::map<std::string, Remembered> remembered; ///< By the image's file.
     std::size_t messages = 0;                     ///< Shown so far.

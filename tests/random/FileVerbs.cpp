@@ -11,8 +11,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::size_t kMostImages = 4;
-
 /// While something is dragged the pointer does nothing else.
 bool busy(Desk& desk) {
     return desk.model.active != nullptr && desk.model.active->dragging();
@@ -20,7 +18,7 @@ bool busy(Desk& desk) {
 
 void openImage(Desk& desk, const std::vector<int>& n) {
     const std::string path = Desk::imagePath(n[0]);
-    if (busy(desk) || (desk.model.images.size() >= kMostImages && desk.model.imageOf(path) == nullptr))
+    if (busy(desk) || (desk.model.images.size() >= Desk::kMostImages && desk.model.imageOf(path) == nullptr))
         return;
     desk.fake.dialogs.answerWith(path);
     desk.run(ID_FILE_OPEN);
@@ -28,7 +26,7 @@ void openImage(Desk& desk, const std::vector<int>& n) {
 }
 
 void newImage(Desk& desk, const std::vector<int>& n) {
-    if (busy(desk) || desk.model.images.size() >= kMostImages)
+    if (busy(desk) || desk.model.images.size() >= Desk::kMostImages)
         return;
     desk.withNextDialog([&](QDialog& sheet) {
         sheet.findChild<QLineEdit*>(QStringLiteral("IDC_TEXTURE_WIDTH"))->setText(QString::number(n[0] + 1));
