@@ -168,7 +168,10 @@ ImageView* Desk::view() {
 }
 
 bool Desk::run(CommandId id) {
-    const bool expected = model.enabled(id).value_or(true);
+    return expectRun(id, model.enabled(id).value_or(true));
+}
+
+bool Desk::expectRun(CommandId id, bool expected) {
     const bool ran = app.router().run(id);
     if (ran != expected)
         wonder("command " + std::to_string(id) + (ran ? " runs" : " does not run"));

@@ -39,6 +39,8 @@ public:
     [[nodiscard]] ImageView* view();
     /// The state of the command is expected to be that of the model, and it is run.
     bool run(CommandId id);
+    /// The same where the model has gone ahead.
+    bool expectRun(CommandId id, bool expected);
     void answerNext(int answer);
     void withNextDialog(std::function<void(QDialog&)> use);
     /// Where the palette bar stands is the bar's affair.

@@ -35,6 +35,11 @@ void PaletteModel::setEntries(PlainTable table) {
     modified = true;
 }
 
+void PaletteModel::move(PlainTable table, long joint) {
+    states.keep(std::exchange(states.now, std::move(table)), joint);
+    followHistory();
+}
+
 bool PaletteModel::undo() {
     if (!states.undo())
         return false;
@@ -275,6 +280,135 @@ void DeskModel::revert(ViewModel& image, int answer) {
 
 void DeskModel::attach(ViewModel& image) {
     image.document.attached = currentPalette;
+}
+
+std::size_t DeskModel::Leg::wayThrough(long joint, bool back) const {
+    return image != nullptr ? image->document.states.wayThrough(joint, back)
+                            : palette->states.wayThrough(joint, back);
+}
+
+long DeskModel::Leg::jointAt(std::size_t n, bool back) const {
+    return image != nullptr ? image->document.states.jointAt(n, back) : palette->states.jointAt(n, back);
+}
+
+void DeskModel::Leg::go(bool back) {
+    for (; steps > 0; --steps) {
+        if (image == nullptr)
+            static_cast<void>(back ? palette->undo() : palette->redo());
+        else if (back)
+            image->document.undo();
+        else
+            image->document.redo();
+    }
+}
+
+void DeskModel::undoImage(ViewModel& image, bool back, int answer) {
+    // What is being drawn is the newest edit.
+    const bool tookBack = image.cancel();
+    const auto& steps = back ? image.document.states.undone : image.document.states.redone;
+    if ((!back || !tookBack) && !steps.empty())
+        move(&image, back, answer);
+}
+
+void DeskModel::undoPalette(bool back, int answer) {
+    PaletteModel* const palette = current();
+    if (palette == nullptr || (back ? palette->states.undone : palette->states.redone).empty())
+        return;
+    move(palette, back, answer);
+    refreshImages();
+}
+
+/// Goes on until everything that has a part in a joint step on somebody's way goes through it, too.
+void DeskModel::move(const void* first, bool back, int answer) {
+    std::vector<Leg> legs;
+    for (const auto& image : images)
+        legs.push_back({image.get(), nullptr});
+    for (auto& [key, palette] : palettes)
+        legs.push_back({nullptr, &palette});
+    const auto isFirst = [&](const Leg& leg) { return leg.image == first || leg.palette == first; };
+    Leg& own = *std::ranges::find_if(legs, isFirst);
+    own.steps = 1;
+    const long step = own.jointAt(1, back);
+    bool gone = false;
+    for (bool farther = true; farther;) {
+        farther = false;
+        for (const Leg& leg : legs) {
+            for (std::size_t n = 1; n <= leg.steps; ++n) {
+                const long passed = leg.jointAt(n, back);
+                std::size_t parts = 0;
+                for (Leg& other : legs) {
+                    const std::size_t way = passed == 0 ? 0 : other.wayThrough(passed, back);
+                    parts += way > 0 ? 1 : 0;
+                    farther = farther || way > other.steps;
+                    other.steps = std::max(other.steps, way);
+                }
+                gone = gone || (passed != 0 && parts < joint.at(passed));
+            }
+        }
+    }
+    bool others = false;
+    for (const Leg& leg : legs) {
+        const std::size_t way = step == 0 ? leg.steps : leg.wayThrough(step, back);
+        others = others || (step != 0 && leg.steps > (way > 0 ? 1U : 0U));
+        if (step != 0 && leg.image != nullptr && leg.steps > 0)
+            leg.image->cancel();
+    }
+    if (gone || others) {
+        ++messages;
+        if (answer != 0)
+            return;
+    }
+    for (Leg& leg : legs)
+        leg.go(back);
+    if (step != 0)
+        refreshImages();
+}
+
+bool DeskModel::movesSilently() {
+    const std::size_t count = current()->table().entries.size();
+    return !project && std::ranges::all_of(images, [&](const auto& image) {
+        if (image->document.attached != currentPalette)
+            return true;
+        const PlainImage& shown = image->document.image();
+        const bool banked = shown.bits == 4 && count > 16;
+        return !banked && std::ranges::all_of(shown.texels, [&](unsigned value) { return value < count; }) &&
+               (!image->piece ||
+                std::ranges::all_of(image->piece->texels, [&](unsigned value) { return value < count; }));
+    });
+}
+
+void DeskModel::moveEntry(std::size_t entry, std::size_t place) {
+    PaletteModel& palette = *current();
+    std::vector<std::uint8_t> now(palette.table().entries.size());
+    for (std::size_t i = 0; i < now.size(); ++i)
+        now[i] = static_cast<std::uint8_t>(i);
+    const std::uint8_t moved = now[entry];
+    now.erase(now.begin() + static_cast<std::ptrdiff_t>(entry));
+    now.insert(now.begin() + static_cast<std::ptrdiff_t>(place), moved);
+    // By the old entry, the new one.
+    std::vector<std::uint8_t> to(now.size());
+    PlainTable table = palette.table();
+    for (std::size_t i = 0; i < now.size(); ++i) {
+        to[now[i]] = static_cast<std::uint8_t>(i);
+        table.entries[i] = palette.table().entries[now[i]];
+    }
+    const long step = static_cast<long>(joint.size()) + 1;
+    std::size_t& parts = joint[step];
+    palette.move(std::move(table), step);
+    ++parts;
+    for (const auto& image : images) {
+        if (image->document.attached != currentPalette)
+            continue;
+        image->settle();
+        // Part of the step also with no texel that shows it, because of what is drawn later.
+        PlainImage renumbered = image->document.image();
+        for (std::uint8_t& texel : renumbered.texels)
+            texel = to[texel];
+        image->document.states.keep(std::exchange(image->document.image(), std::move(renumbered)), step);
+        image->document.modified = true;
+        ++parts;
+    }
+    refreshImages();
 }
 
 } // namespace dyeworks

@@ -28,6 +28,8 @@ struct PaletteModel {
     void edit(PlainTable table);
     /// As a plug-in does it, which leaves the title as it is.
     void setEntries(PlainTable table);
+    /// In a joint step.
+    void move(PlainTable table, long joint);
     bool undo();
     bool redo();
     /// The file holds it now.
@@ -62,6 +64,7 @@ struct DeskModel {
     std::map<std::string, std::string> files;
     std::map<std::string, Remembered> remembered; ///< By the image's file.
     std::size_t messages = 0;                     ///< Shown so far.
+    std::map<long, std::size_t> joint;            ///< Steps that are one, and of how many things.
     int untitled = 0;
     static inline int palettesMade = 0; ///< In the whole run of the program.
 
@@ -89,7 +92,28 @@ struct DeskModel {
     void revert(ViewModel& image, int answer);
     void attach(ViewModel& image);
 
+    /// Undo and Redo of an image. `answer`, 0 for yes, is for the question that comes where others have to go
+    /// along, or are no longer there to go along.
+    void undoImage(ViewModel& image, bool back, int answer);
+    void undoPalette(bool back, int answer);
+    /// Whether the entries of the current palette can be moved without a word: every image has a texel's
+    /// entry.
+    [[nodiscard]] bool movesSilently();
+    /// Moves an entry to another place; the texels of all images of the palette follow.
+    void moveEntry(std::size_t entry, std::size_t place);
+
 private:
+    /// What has a history, and how far it has to go.
+    struct Leg {
+        ViewModel* image;
+        PaletteModel* palette;
+        std::size_t steps = 0;
+
+        [[nodiscard]] std::size_t wayThrough(long joint, bool back) const;
+        [[nodiscard]] long jointAt(std::size_t n, bool back) const;
+        void go(bool back);
+    };
+    void move(const void* first, bool back, int answer);
     void rename(const std::string& key, const std::string& file);
 };
 

@@ -13,9 +13,11 @@ template <typename State>
 struct WholeStates {
     static constexpr std::size_t kCapacity = 100;
 
+    /// An edit, by what there is on its other side.
     struct Kept {
         State state;
         long number;
+        long joint = 0; ///< Of a step that is one with steps of other things; 0 for no such step.
     };
 
     State now{};
@@ -24,8 +26,8 @@ struct WholeStates {
     std::vector<Kept> undone, redone;
 
     /// What it was before the edit that has just been made.
-    void keep(State before) {
-        undone.push_back({std::move(before), number});
+    void keep(State before, long joint = 0) {
+        undone.push_back({std::move(before), number, joint});
         if (undone.size() > kCapacity)
             undone.erase(undone.begin());
         redone.clear();
@@ -33,6 +35,20 @@ struct WholeStates {
     }
     bool undo() { return go(undone, redone); }
     bool redo() { return go(redone, undone); }
+    /// How many steps lie on the way to that joint step and through it; 0 when it is not on that way.
+    [[nodiscard]] std::size_t wayThrough(long joint, bool back) const {
+        const std::vector<Kept>& steps = back ? undone : redone;
+        for (std::size_t n = 1; n <= steps.size(); ++n) {
+            if (steps[steps.size() - n].joint == joint)
+                return n;
+        }
+        return 0;
+    }
+    /// Of the n-th step on that way, from 1 on.
+    [[nodiscard]] long jointAt(std::size_t n, bool back) const {
+        const std::vector<Kept>& steps = back ? undone : redone;
+        return steps[steps.size() - n].joint;
+    }
     /// Without a way back.
     void restart(State state) {
         now = std::move(state);
@@ -45,8 +61,8 @@ private:
     bool go(std::vector<Kept>& from, std::vector<Kept>& to) {
         if (from.empty())
             return false;
-        to.push_back(
-            {std::exchange(now, std::move(from.back().state)), std::exchange(number, from.back().number)});
+        to.push_back({std::exchange(now, std::move(from.back().state)),
+                      std::exchange(number, from.back().number), from.back().joint});
         from.pop_back();
         return true;
     }

@@ -11,13 +11,13 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::array kCommands{
-    ID_EDIT_UNDO,      ID_EDIT_UNDO,        ID_EDIT_REDO,        ID_EDIT_SELECT_ALL, ID_TOOL_SPUIT,
-    ID_FLIP_X,         ID_FLIP_Y,           ID_CANCEL_SELECTION, ID_EDIT_COPY,       ID_EDIT_CUT,
-    ID_EDIT_PASTE,     ID_EDIT_PASTE,       ID_ZOOM_IN,          ID_ZOOM_OUT,        ID_ZOOM_X1,
-    ID_ZOOM_X4,        ID_ZOOM_X6,          ID_VIEW_GRID,        ID_TOOL_SELECT,     ID_TOOL_PIXEL,
-    ID_TOOL_PEN,       ID_TOOL_LINE,        ID_TOOL_BOX,         ID_TOOL_BOX_FILL,   ID_TOOL_CIRCLE,
-    ID_TOOL_ZOOM_LENS, ID_TOOL_CIRCLE_FILL, ID_TOOL_PAINT,       ID_TOOL_REPLACER,   ID_TOOL_SELECT};
+constexpr std::array kCommands{ID_EDIT_SELECT_ALL,  ID_TOOL_SPUIT,    ID_FLIP_X,         ID_FLIP_Y,
+                               ID_CANCEL_SELECTION, ID_EDIT_COPY,     ID_EDIT_CUT,       ID_EDIT_PASTE,
+                               ID_EDIT_PASTE,       ID_ZOOM_IN,       ID_ZOOM_OUT,       ID_ZOOM_X1,
+                               ID_ZOOM_X4,          ID_ZOOM_X6,       ID_VIEW_GRID,      ID_TOOL_SELECT,
+                               ID_TOOL_PIXEL,       ID_TOOL_PEN,      ID_TOOL_LINE,      ID_TOOL_BOX,
+                               ID_TOOL_BOX_FILL,    ID_TOOL_CIRCLE,   ID_TOOL_ZOOM_LENS, ID_TOOL_CIRCLE_FILL,
+                               ID_TOOL_PAINT,       ID_TOOL_REPLACER, ID_TOOL_SELECT};
 
 constexpr std::array<std::pair<Qt::Key, Key>, 8> kKeys{{{Qt::Key_Escape, Key::Escape},
                                                         {Qt::Key_Return, Key::Enter},
@@ -121,6 +121,21 @@ void key(Desk& desk, const std::vector<int>& n) {
     }
 }
 
+void undo(Desk& desk, const std::vector<int>& n) {
+    if (desk.model.active == nullptr)
+        return;
+    const bool back = n[0] > 0;
+    const bool enabled = desk.model.enabled(back ? ID_EDIT_UNDO : ID_EDIT_REDO).value_or(false);
+    const std::size_t asked = desk.model.messages;
+    ViewModel& image = *desk.model.active;
+    DeskModel& model = desk.model;
+    if (enabled)
+        model.undoImage(image, back, n[1]);
+    if (model.messages > asked)
+        desk.answerNext(n[1]);
+    desk.expectRun(back ? ID_EDIT_UNDO : ID_EDIT_REDO, enabled);
+}
+
 void command(Desk& desk, const std::vector<int>& n) {
     const CommandId id = kCommands[static_cast<std::size_t>(n[0]) % kCommands.size()];
     const bool enabled = desk.model.enabled(id).value_or(false);
@@ -146,7 +161,8 @@ const std::vector<Verb>& imageVerbs() {
                                          {"right-press", 10, kPointer, rightPress},
                                          {"drag", 150, {48, 48, 16, 16, 48, 48, 48, 48}, drag},
                                          {"key", 80, {8, 3}, key},
-                                         {"command", 150, {30}, command},
+                                         {"command", 135, {27}, command},
+                                         {"undo", 20, {3, 2}, undo},
                                          {"cell", 30, {256}, cell},
                                          {"repaint", 2, {}, repaint}};
     return verbs;

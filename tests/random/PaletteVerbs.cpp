@@ -84,11 +84,26 @@ void entry(Desk& desk, const std::vector<int>& n) {
 }
 
 void undo(Desk& desk, const std::vector<int>& n) {
-    const CommandId id = n[0] == 0 ? ID_PALETTE_UNDO : ID_PALETTE_REDO;
-    desk.run(id);
-    PaletteModel* const palette = desk.model.current();
-    if (palette != nullptr && (n[0] == 0 ? palette->undo() : palette->redo()))
-        desk.model.refreshImages();
+    const bool back = n[0] == 0;
+    const CommandId id = back ? ID_PALETTE_UNDO : ID_PALETTE_REDO;
+    const bool enabled = desk.model.enabled(id).value_or(false);
+    const std::size_t asked = desk.model.messages;
+    desk.model.undoPalette(back, n[1]);
+    if (desk.model.messages > asked)
+        desk.answerNext(n[1]);
+    desk.expectRun(id, enabled);
+}
+
+void moveEntry(Desk& desk, const std::vector<int>& n) {
+    if (desk.model.current() == nullptr || !desk.model.movesSilently())
+        return;
+    const int count = static_cast<int>(desk.model.current()->table().entries.size());
+    const int entry = n[0] % count;
+    const int place = n[1] % count;
+    if (entry == place)
+        return;
+    desk.model.moveEntry(static_cast<std::size_t>(entry), static_cast<std::size_t>(place));
+    Q_EMIT desk.frame().paletteBar().entriesDropped(entry, entry, place);
 }
 
 } // namespace
@@ -100,7 +115,8 @@ const std::vector<Verb>& paletteVerbs() {
                                          {"save-palette", 10, {3, Desk::kPalettes}, save},
                                          {"tab", 10, {8}, tab},
                                          {"entry", 40, {256, 65536}, entry},
-                                         {"undo-entry", 25, {2}, undo}};
+                                         {"undo-entry", 25, {2, 2}, undo},
+                                         {"move-entry", 15, {256, 256}, moveEntry}};
     return verbs;
 }
 

@@ -307,9 +307,8 @@ void ViewModel::run(CommandId id) {
     const bool draws = tool && !keepsSelection(*tool);
     const bool ofSelected =
         id == ID_CANCEL_SELECTION || id == ID_FLIP_X || id == ID_FLIP_Y || id == ID_EDIT_CUT;
-    bool tookBack = false;
-    if (id == ID_EDIT_SELECT_ALL || id == ID_EDIT_PASTE || id == ID_EDIT_UNDO || id == ID_EDIT_REDO)
-        tookBack = cancel();
+    if (id == ID_EDIT_SELECT_ALL || id == ID_EDIT_PASTE)
+        cancel();
     if (tool) {
         shared_.tool = *tool;
         if (keepsSelection(*tool) && !dragging_)
@@ -341,10 +340,6 @@ void ViewModel::run(CommandId id) {
     }
     if (id == ID_EDIT_PASTE)
         letFloat(*shared_.clipboard);
-    if (id == ID_EDIT_UNDO && !tookBack)
-        document.undo();
-    if (id == ID_EDIT_REDO)
-        document.redo();
 }
 
 } // namespace dyeworks

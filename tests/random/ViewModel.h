@@ -53,7 +53,7 @@ public:
     bool cancel();
     /// Only keys that are to do something.
     void key(Key key, bool shift);
-    /// An enabled command of the view.
+    /// An enabled command of the view but Undo and Redo, which may concern others.
     void run(CommandId id);
     /// Nothing for a command that is not the view's.
     [[nodiscard]] std::optional<bool> enabled(CommandId id) const;
