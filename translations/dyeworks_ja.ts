@@ -4936,5 +4936,173 @@ The file is no longer whole. Save under another name; until then what was to be 
         <source>the selected node does not offer this</source>
         <translation>選択されているノードでは使用できません</translation>
     </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>ショートカット</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>検索(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Shows the commands whose name, menu or keys fit</source>
+        <translation>名前、メニュー、キーが合うコマンドを表示します</translation>
+    </message>
+    <message>
+        <source>&amp;Preset:</source>
+        <translation>プリセット(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Gives all commands the keys of this choice</source>
+        <translation>すべてのコマンドにこの選択のキーを割り当てます</translation>
+    </message>
+    <message>
+        <source>As in other pixel editors</source>
+        <translation>ほかのドット絵エディターと同じ</translation>
+    </message>
+    <message>
+        <source>Your own</source>
+        <translation>独自</translation>
+    </message>
+    <message>
+        <source>Commands and their keys</source>
+        <translation>コマンドとそのキー</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>変更</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>あり</translation>
+    </message>
+    <message>
+        <source>New &amp;keys:</source>
+        <translation>新しいキー(&amp;K):</translation>
+    </message>
+    <message>
+        <source>Press the keys here that the chosen command is to have. Backspace takes them out again, Enter sets them, Escape goes back to the list.</source>
+        <translation>選んだコマンドに割り当てるキーをここで押します。Backspace で消し、Enter で割り当て、Esc で一覧に戻ります。</translation>
+    </message>
+    <message>
+        <source>press keys</source>
+        <translation>キーを押してください</translation>
+    </message>
+    <message>
+        <source>&amp;Set</source>
+        <translation>割り当て(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Gives the command the new keys in place of those that it has</source>
+        <translation>今のキーの代わりに新しいキーをコマンドに割り当てます</translation>
+    </message>
+    <message>
+        <source>Gives the command the new keys beside those that it has</source>
+        <translation>今のキーに加えて新しいキーをコマンドに割り当てます</translation>
+    </message>
+    <message>
+        <source>No Ke&amp;ys</source>
+        <translation>キーなし(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Takes all keys from the command</source>
+        <translation>コマンドからすべてのキーを外します</translation>
+    </message>
+    <message>
+        <source>Gives the command the keys again that it came with</source>
+        <translation>コマンドのキーを最初のものに戻します</translation>
+    </message>
+    <message>
+        <source>Reset A&amp;ll</source>
+        <translation>すべてリセット(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Gives all commands the keys again that they came with</source>
+        <translation>すべてのコマンドのキーを最初のものに戻します</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>取り込み(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>Takes the keys of all commands from a file</source>
+        <translation>すべてのコマンドのキーをファイルから取り込みます</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>書き出し(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Writes the keys of all commands into a file</source>
+        <translation>すべてのコマンドのキーをファイルに書き出します</translation>
+    </message>
+    <message>
+        <source>Shortcut Files (*.shortcuts)|*.shortcuts|All Files (*.*)|*.*||</source>
+        <translation>ショートカット ファイル (*.shortcuts)|*.shortcuts|すべてのファイル (*.*)|*.*||</translation>
+    </message>
+    <message>
+        <source>%1 belongs to %2, which will lose it.</source>
+        <translation>%1 は「%2」のキーです。割り当てると「%2」から外れます。</translation>
+    </message>
+    <message>
+        <source>%2 has %1 already.</source>
+        <translation>「%2」にはすでに %1 が割り当てられています。</translation>
+    </message>
+    <message>
+        <source>%1 is free.</source>
+        <translation>%1 は使われていません。</translation>
+    </message>
+    <message>
+        <source>The file names %1 commands that this program does not have. They have been passed over.</source>
+        <translation>このファイルには、このプログラムにないコマンドが %1 個あります。それらは無視しました。</translation>
+    </message>
+    <message>
+        <source>%1 is needed to move about in windows and images, and cannot be given to a command.</source>
+        <translation>%1 はウィンドウや画像の中の移動に必要なため、コマンドに割り当てられません。</translation>
+    </message>
+    <message>
+        <source>%1 opens menus or belongs to the desktop, and cannot be given to a command.</source>
+        <translation>%1 はメニューを開くキーかデスクトップのキーなので、コマンドに割り当てられません。</translation>
+    </message>
+    <message>
+        <source>As long as no command has it, %1 zooms images.</source>
+        <translation>%1 は、コマンドに割り当てるまでは画像の拡大と縮小に使われます。</translation>
+    </message>
+    <message>
+        <source>This is no file of shortcuts.</source>
+        <translation>ショートカットのファイルではありません。</translation>
+    </message>
+    <message>
+        <source>These shortcuts are from a newer version of the program.</source>
+        <translation>新しいバージョンのプログラムのショートカットです。</translation>
+    </message>
+    <message>
+        <source>Line %1 names no command.</source>
+        <translation>%1 行目にコマンドがありません。</translation>
+    </message>
+    <message>
+        <source>Line %1: &quot;%2&quot; are no keys.</source>
+        <translation>%1 行目: 「%2」はキーではありません。</translation>
+    </message>
+    <message>
+        <source>Line %1: &quot;%2&quot; cannot be given to a command.</source>
+        <translation>%1 行目: 「%2」はコマンドに割り当てられません。</translation>
+    </message>
+    <message>
+        <source>Line %1: the command or its keys &quot;%2&quot; have come before.</source>
+        <translation>%1 行目: コマンドかそのキー「%2」がすでに前の行にあります。</translation>
+    </message>
 </context>
 </TS>

@@ -65,8 +65,8 @@ void CDyeworksView::restoreAttachment(const std::string& name) {
 void CDyeworksView::saveSettings() const {
     const std::string& path = document_.pathName();
     const Files& files = platform().files();
-    if (!document_.host().keepsImageSettings() || path.empty() || !files.exists(path) ||
-        files.isDirectory(path))
+    if (!document_.host().keepsImageSettings() || path.empty() || !files.answers(path) ||
+        !files.exists(path) || files.isDirectory(path))
         return;
     const std::optional<WindowPlacement> placement = window_.placement();
     if (!placement)

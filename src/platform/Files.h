@@ -68,10 +68,14 @@ public:
     [[nodiscard]] virtual std::size_t read(std::span<std::byte> room) = 0;
 };
 
-/// Keeps what is about to be written over a file that cannot be replaced in one step.
+/// Keeps what is about to be written over a file that cannot be replaced in one step. Called on the thread
+/// that writes.
 class SafetyCopies {
 public:
     virtual ~SafetyCopies() = default;
+
+    /// A file has just been written, in whichever way.
+    virtual void written() {}
 
     /// The file at `path` is going to hold these pieces. False: they could not be kept, and the file is left
     /// alone.
@@ -97,6 +101,10 @@ public:
     [[nodiscard]] virtual std::string currentDirectory() const = 0;
     /// False, changing nothing, when `path` is not an existing directory.
     virtual bool setCurrentDirectory(const std::string& path) = 0;
+
+    /// Waits until the file system answers for `path`, whether there is something or not. False: the user has
+    /// stopped waiting.
+    [[nodiscard]] virtual bool answers(const std::string& /*path*/) const { return true; }
 
     /// True for files and directories alike.
     [[nodiscard]] virtual bool exists(const std::string& path) const = 0;

@@ -108,6 +108,8 @@ void KnownFile::judge() {
 }
 
 bool KnownFile::mayBeReplaced(const std::string& path) {
+    if (!platform().files().answers(path))
+        return false;
     if (!isAt(path))
         return true;
     const std::optional<FileStamp> now = platform().files().stamp(path_);

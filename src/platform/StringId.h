@@ -615,6 +615,51 @@ enum class StringId : int {
     OptionsAskUseProject,
     OptionsAskUseProjectTip,
     OptionsRulesTab,
+    ShortcutsTab,
+    ShortcutsFind,
+    ShortcutsFindTip,
+    ShortcutsPreset,
+    ShortcutsPresetTip,
+    ShortcutsPresetOwn,
+    ShortcutsPresetCommon,
+    ShortcutsPresetOther,
+    ShortcutsList,
+    ShortcutsColumnCommand,
+    ShortcutsColumnKeys,
+    ShortcutsColumnChanged,
+    ShortcutsOtherGroup,
+    ShortcutsChanged,
+    ShortcutsNewKeys,
+    ShortcutsNewKeysTip,
+    ShortcutsPress,
+    ShortcutsSet,
+    ShortcutsSetTip,
+    ShortcutsAdd,
+    ShortcutsAddTip,
+    ShortcutsRemove,
+    ShortcutsRemoveTip,
+    ShortcutsReset,
+    ShortcutsResetTip,
+    ShortcutsResetAll,
+    ShortcutsResetAllTip,
+    ShortcutsImport,
+    ShortcutsImportTip,
+    ShortcutsExport,
+    ShortcutsExportTip,
+    ShortcutsFilter,
+    ShortcutsTakenFrom, ///< %1 keys, %2 command
+    ShortcutsHasThem,   ///< %1 keys, %2 command
+    ShortcutsFree,      ///< %1 keys
+    ShortcutsUnknown,   ///< %1 how many
+    KeysMoveAbout,      ///< %1 keys
+    KeysOpenMenus,      ///< %1 keys
+    KeysZoomImages,     ///< %1 keys
+    ShortcutFileNone,
+    ShortcutFileNewer,
+    ShortcutFileLine,     ///< %1 line
+    ShortcutFileKeys,     ///< %1 line, %2 keys
+    ShortcutFileReserved, ///< %1 line, %2 keys
+    ShortcutFileTwice,    ///< %1 line, %2 keys or nothing
     RulesCaption,
     RulesForPictures,
     RulesForOthers,

@@ -13,9 +13,10 @@
 
 namespace dyeworks {
 
-InPlaceCopies::InPlaceCopies(StateFolder& folder, Broken broken)
+InPlaceCopies::InPlaceCopies(StateFolder& folder, Broken broken, std::function<void()> written)
     : folder_(folder)
-    , broken_(std::move(broken)) {
+    , broken_(std::move(broken))
+    , written_(std::move(written)) {
     platform().files().setSafetyCopies(this);
 }
 
@@ -46,6 +47,10 @@ void InPlaceCopies::release(const std::string& path) {
 
 void InPlaceCopies::broken(const std::string& path, FileError why) {
     broken_(path, why);
+}
+
+void InPlaceCopies::written() {
+    written_();
 }
 
 } // namespace dyeworks

@@ -19,8 +19,9 @@ public:
     /// or the program ends in order.
     using Broken = std::function<void(const std::string& path, FileError why)>;
 
-    /// `folder` must outlive it. It is the one of the installed files while it lives.
-    InPlaceCopies(StateFolder& folder, Broken broken);
+    /// `folder` must outlive it. It is the one of the installed files while it lives. `written` is called
+    /// after every file that they have written.
+    InPlaceCopies(StateFolder& folder, Broken broken, std::function<void()> written);
     ~InPlaceCopies() override;
     InPlaceCopies(const InPlaceCopies&) = delete;
     InPlaceCopies& operator=(const InPlaceCopies&) = delete;
@@ -28,10 +29,12 @@ public:
     [[nodiscard]] bool keep(const std::string& path, FilePieces pieces) override;
     void release(const std::string& path) override;
     void broken(const std::string& path, FileError why) override;
+    void written() override;
 
 private:
     StateFolder& folder_;
     Broken broken_;
+    std::function<void()> written_;
     std::map<std::string, std::string> names_; ///< Of what is kept, by paths.
     std::uint64_t latest_ = 0;
 };

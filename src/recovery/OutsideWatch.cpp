@@ -118,23 +118,30 @@ std::vector<OutsideWatch::Subject> OutsideWatch::subjects() const {
     return found;
 }
 
-void OutsideWatch::follow() {
+std::vector<std::string> OutsideWatch::paths() const {
     std::vector<std::string> paths;
     for (const Subject& subject : subjects())
         paths.push_back(subject.file().path());
     std::ranges::sort(paths);
-    if (paths != watched_)
-        watcher_.watch(watched_ = std::move(paths));
+    return paths;
+}
+
+void OutsideWatch::follow() {
+    if (std::vector<std::string> now = paths(); now != watched_)
+        watcher_.watch(watched_ = std::move(now));
     for (const Subject& subject : subjects()) {
         if (subject.file().rememberContents())
             break;
     }
 }
 
-bool OutsideWatch::look(bool reloadsUnchanged) {
+bool OutsideWatch::look(bool reloadsUnchanged, const std::set<std::string>* answering) {
     bool goesOn = false;
-    for (const Subject& subject : subjects())
-        goesOn = subject.file().look() == State::Unsettled || goesOn;
+    for (const Subject& subject : subjects()) {
+        KnownFile& file = subject.file();
+        if (answering == nullptr || answering->contains(file.path()))
+            goesOn = file.look() == State::Unsettled || goesOn;
+    }
     takeNotice();
     if (!reloadsUnchanged)
         return goesOn;

@@ -3,6 +3,7 @@
 #include "platform/KnownFile.h"
 
 #include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -45,9 +46,12 @@ public:
     /// Watches the files of what is open now, and remembers the contents of one of them at most. To be called
     /// about once a second.
     void follow();
-    /// Looks at the files. True: something goes on, and they are to be looked at again in a moment. With
-    /// `reloadsUnchanged` what has no unsaved changes takes over by itself what can be read.
-    bool look(bool reloadsUnchanged);
+    /// Of all files that would be looked at.
+    [[nodiscard]] std::vector<std::string> paths() const;
+    /// Looks at the files, at those in `answering` alone where it is given. True: something goes on, and they
+    /// are to be looked at again in a moment. With `reloadsUnchanged` what has no unsaved changes takes over
+    /// by itself what can be read.
+    bool look(bool reloadsUnchanged, const std::set<std::string>* answering = nullptr);
 
     [[nodiscard]] const std::vector<Notice>& notices() const noexcept { return notices_; }
     /// Paths of what was reloaded by itself since this was last asked.

@@ -13,6 +13,7 @@
 #include <ctime>
 #include <limits>
 #include <new>
+#include <tuple>
 #include <utility>
 
 namespace dyeworks {
@@ -186,6 +187,7 @@ bool RecoveryKeeper::lookAt(Subject& subject, Clock::time_point now) {
         kept.written.reset();
         return false;
     }
+    forgetOlderThanFile(kept, subject.stamp, now);
     if (!isDue(kept, subject.stamp, now) || !writer_.isIdle())
         return false;
     try {
@@ -193,7 +195,7 @@ bool RecoveryKeeper::lookAt(Subject& subject, Clock::time_point now) {
         if (!file)
             return true;
         if (file->keeper != nullptr) {
-            kept.inFolder = true;
+            kept.inFolder = subject.stamp.item;
             writer_.write(std::move(*file));
             ++writes_;
         }
@@ -209,7 +211,22 @@ void RecoveryKeeper::forget(Kept& kept) {
     if (!kept.inFolder)
         return;
     writer_.remove(kept.name);
-    kept.inFolder = false;
+    kept.inFolder.reset();
+}
+
+/// Once a document has been saved, the file holds more than what was kept of it before, also when it has been
+/// changed again since.
+void RecoveryKeeper::forgetOlderThanFile(Kept& kept, const Stamp& stamp, Clock::time_point now) {
+    const auto fileOf = [](const RecoveryItem& item) {
+        return std::tie(item.path, item.tellsFile, item.file);
+    };
+    if (!kept.inFolder || fileOf(*kept.inFolder) == fileOf(stamp.item))
+        return;
+    forget(kept);
+    kept.written.reset();
+    kept.seen = stamp;
+    kept.changed = now;
+    kept.first = now - kAtLatest;
 }
 
 bool RecoveryKeeper::isDue(Kept& kept, const Stamp& stamp, Clock::time_point now) const {
@@ -320,7 +337,7 @@ void RecoveryKeeper::settleHeld() {
     }
     for (auto& [key, stamp] : std::exchange(held_, {})) {
         if (const auto kept = kept_.find(key); kept != kept_.end()) {
-            kept->second.inFolder = true;
+            kept->second.inFolder = stamp.item;
             kept->second.written = std::move(stamp);
         }
     }

@@ -80,9 +80,9 @@ private:
         std::string name; ///< Of the file.
         std::optional<Stamp> seen;
         std::optional<Stamp> written;
-        bool inFolder = false;     ///< Maybe an older one.
-        Clock::time_point changed; ///< When `seen` was last another.
-        Clock::time_point first;   ///< When it first was since it was written.
+        std::optional<RecoveryItem> inFolder; ///< As it stands there, maybe an older one.
+        Clock::time_point changed;            ///< When `seen` was last another.
+        Clock::time_point first;              ///< When it first was since it was written.
         std::uint64_t look = 0;
         std::shared_ptr<ShadowCopy> shadow; ///< Of an image.
         std::optional<TlutData> table;      ///< Of a palette, as it was last seen.
@@ -103,6 +103,7 @@ private:
     [[nodiscard]] std::vector<Subject> subjects() const;
     [[nodiscard]] Kept& keptOf(Subject& subject);
     void forget(Kept& kept);
+    void forgetOlderThanFile(Kept& kept, const Stamp& stamp, Clock::time_point now);
     void dropClosed();
     [[nodiscard]] bool isDue(Kept& kept, const Stamp& stamp, Clock::time_point now) const;
     static void tryLater(Kept& kept, Clock::time_point now);

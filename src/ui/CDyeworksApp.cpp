@@ -3,6 +3,7 @@
 #include "framework/PathText.h"
 #include "framework/widgets/ChildFrame.h"
 #include "paint/widgets/ImageView.h"
+#include "platform/LooseThread.h"
 #include "platform/Platform.h"
 #include "platform/StringId.h"
 #include "platform/TextCase.h"
@@ -14,11 +15,18 @@
 #include "ui/palettebar/CPaletteBar.h"
 
 #include <algorithm>
+#include <chrono>
 #include <map>
 #include <optional>
 #include <set>
 
 namespace dyeworks {
+
+namespace {
+
+constexpr std::chrono::milliseconds kLastPatience{500};
+
+} // namespace
 
 CDyeworksApp::CDyeworksApp(StartUpParts parts)
     : parts_(std::move(parts))
@@ -32,6 +40,8 @@ CDyeworksApp::~CDyeworksApp() {
     if (palettes_ != nullptr)
         palettes_->setListener(nullptr);
     mainFrame_.reset();
+    // What goes on would otherwise look for the file system of a program that has ended meanwhile.
+    awaitLooseThreads(kLastPatience);
 }
 
 std::vector<CommandTarget*> CDyeworksApp::commandChain() {

@@ -4,10 +4,12 @@
 #include "platform/qt/QtWaitCursor.h"
 #include "ui/CDyeworksApp.h"
 #include "ui/CMainFrame.h"
+#include "ui/ShortcutOptions.h"
 #include "ui/sheets/AboutDialog.h"
 #include "ui/sheets/CFileNewPalettePage.h"
 #include "ui/sheets/CFileNewSheet.h"
 #include "ui/sheets/COptionPropertySheet.h"
+#include "ui/sheets/CShortcutsPage.h"
 
 namespace dyeworks {
 
@@ -101,7 +103,7 @@ void CDyeworksApp::OnPaletteNew() {
 }
 
 void CDyeworksApp::OnOptions() {
-    OptionsCommand(mainFrame_.get());
+    OptionsCommand(mainFrame_.get(), shortcutOptions(mainFrame_->commandActions()));
 }
 
 void CDyeworksApp::OnAppAbout() {

@@ -7,6 +7,7 @@
 #include "ui/BanksBar.h"
 #include "ui/CommandSearching.h"
 #include "ui/PrintCommands.h"
+#include "ui/ShortcutOptions.h"
 
 #include <cstdint>
 #include <map>
@@ -143,6 +144,7 @@ private:
 
     MainFrameHost& host_;
     CommandActions actions_;
+    EntryFieldKeys entryFieldKeys_{actions_};
     PrintCommands printing_;
     CommandSearching searching_;
     bool closing_ = false; ///< While questions are asked and what is open is recorded.

@@ -95,9 +95,12 @@ void CrashRecovery::start() {
     keeper_.emplace(platform().stateFolder(),
                     RecoveryKeeper::Open{[this] { return workspace_.documents(); },
                                          [this] { return workspace_.paletteSet(); }});
-    copies_.emplace(platform().stateFolder(), [](const std::string& path, FileError why) {
-        applicationMessage(text(StringId::WrittenInPlaceBroke, {displayPath(path), describe(why)}));
-    });
+    copies_.emplace(
+        platform().stateFolder(),
+        [](const std::string& path, FileError why) {
+            applicationMessage(text(StringId::WrittenInPlaceBroke, {displayPath(path), describe(why)}));
+        },
+        [this] { timer_.setInterval(0); });
     timer_.start(kBetweenLooks);
 }
 

@@ -6,18 +6,16 @@
 #include "interchange/EntryColour.h"
 #include "paint/IndexThumbnail.h"
 #include "paint/TextureCanvas.h"
+#include "platform/LooseThread.h"
 #include "platform/Platform.h"
 #include "platform/TextCase.h"
 #include "platform/posix/HostFile.h"
-#include "ui/FileWait.h"
 
 #include <algorithm>
 #include <atomic>
 #include <cmath>
 #include <new>
 #include <optional>
-#include <system_error>
-#include <thread>
 #include <utility>
 
 namespace dyeworks {
@@ -28,7 +26,6 @@ using namespace std::chrono_literals;
 
 constexpr auto kLook = 40ms;
 constexpr auto kPatience = 10s;
-constexpr auto kLastPatience = 500ms;
 /// Larger ones would cost more memory and time than a small picture is worth.
 constexpr std::uint64_t kLargestFile = std::uint64_t{32} << 20U;
 constexpr std::uint32_t kOpaque = 0xff000000;
@@ -121,26 +118,13 @@ FilePictures::FilePictures(QObject* parent)
     connect(&timer_, &QTimer::timeout, this, [this] { look(); });
 }
 
-/// What goes on would otherwise look for the file system of a program that has ended meanwhile. Whoever hangs
-/// is in the host's, and ends with the process.
-FilePictures::~FilePictures() {
-    const auto until = std::chrono::steady_clock::now() + kLastPatience;
-    for (const Asked& each : asked_) {
-        while (!each.work->done && std::chrono::steady_clock::now() < until)
-            std::this_thread::sleep_for(1ms);
-    }
-}
+FilePictures::~FilePictures() = default;
 
 void FilePictures::ask(const std::string& path, const std::string& palettePath, QSize room,
                        std::function<void(const QImage&)> done) {
     const auto work = std::make_shared<Work>();
-    try {
-        std::thread([work, room, file = pathWithoutDrive(path), palette = pathWithoutDrive(palettePath)] {
-            work->make(file, palette, room);
-        }).detach();
-    } catch (const std::system_error&) {
+    if (!runLoosely([work, room, path, palettePath] { work->make(path, palettePath, room); }))
         return; // There are too many threads; it goes without a picture.
-    }
     asked_.push_back({work, std::move(done), std::chrono::steady_clock::now() + kPatience});
     timer_.start();
 }

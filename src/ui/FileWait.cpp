@@ -1,6 +1,7 @@
 #include "ui/FileWait.h"
 
 #include "framework/PathText.h"
+#include "platform/LooseThread.h"
 #include "platform/Platform.h"
 #include "platform/StringId.h"
 #include "platform/posix/HostFile.h"
@@ -13,8 +14,6 @@
 #include <chrono>
 #include <future>
 #include <new>
-#include <system_error>
-#include <thread>
 #include <vector>
 
 namespace dyeworks {
@@ -83,11 +82,8 @@ std::string pathWithoutDrive(const std::string& path) {
 bool waitForFile(const std::string& path, QWidget* owner) {
     const auto reading = std::make_shared<Reading>();
     const std::future<void> done = reading->done.get_future();
-    try {
-        std::thread([reading, where = pathWithoutDrive(path)] { reading->run(where); }).detach();
-    } catch (const std::system_error&) {
+    if (!runLoosely([reading, path] { reading->run(path); }))
         return true; // There are too many threads. The file is read without waiting for it first.
-    }
     if (done.wait_for(kWaitPatience) == std::future_status::ready)
         return true;
     if (owner != nullptr)

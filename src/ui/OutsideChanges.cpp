@@ -22,6 +22,9 @@ namespace {
 constexpr int kFollowMilliseconds = 700;
 /// Between two looks; a change is told once it has been the same in two.
 constexpr int kSoonMilliseconds = 250;
+constexpr int kAnswerMilliseconds = 10;
+/// After so many times that long, those are looked at that have answered.
+constexpr int kMostAnswers = 50;
 
 } // namespace
 
@@ -29,7 +32,8 @@ OutsideChanges::OutsideChanges(Workspace& workspace)
     : workspace_(workspace) {
     soon_.setSingleShot(true);
     connect(&follow_, &QTimer::timeout, this, &OutsideChanges::follow);
-    connect(&soon_, &QTimer::timeout, this, &OutsideChanges::look);
+    connect(&soon_, &QTimer::timeout, this, &OutsideChanges::ask);
+    connect(&answer_, &QTimer::timeout, this, &OutsideChanges::look);
 }
 
 OutsideChanges::~OutsideChanges() {
@@ -56,6 +60,7 @@ void OutsideChanges::end() {
         return;
     follow_.stop();
     soon_.stop();
+    answer_.stop();
     platform().fileWatcher().setListener(nullptr);
     qApp->disconnect(this);
     watch_.reset();
@@ -71,13 +76,24 @@ void OutsideChanges::lookSoon() {
         soon_.start(kSoonMilliseconds);
 }
 
+/// Before they are looked at, so that nobody waits for those that do not answer.
+void OutsideChanges::ask() {
+    answering_.ask(watch_->paths());
+    asked_ = 0;
+    answer_.start(kAnswerMilliseconds);
+}
+
 void OutsideChanges::look() {
+    if (!answering_.isDone() && ++asked_ < kMostAnswers)
+        return;
+    answer_.stop();
     // Whoever answers a question means the document as it then was.
     if (QApplication::activeModalWidget() != nullptr) {
         lookSoon();
         return;
     }
-    if (watch_->look(reloadsUnchanged()))
+    const std::set<std::string> answered = answering_.answered();
+    if (watch_->look(reloadsUnchanged(), &answered))
         lookSoon();
     for (const std::string& path : watch_->takeReloaded())
         workspace_.mainFrame().SetStatusText(text(StringId::OutsideReloaded, {displayPath(path)}), 0);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "paint/Rect.h"
+#include "recovery/AnsweringFiles.h"
 #include "recovery/OutsideWatch.h"
 
 #include <QObject>
@@ -36,6 +37,7 @@ public:
 private:
     void follow();
     void lookSoon();
+    void ask();
     void look();
     void show();
     void showForPalettes();
@@ -47,6 +49,9 @@ private:
     std::optional<OutsideWatch> watch_;
     QTimer follow_;
     QTimer soon_;
+    AnsweringFiles answering_;
+    QTimer answer_;
+    int asked_ = 0; ///< How often, of this time.
     std::vector<QPointer<OutsideBar>> bars_;
 };
 

@@ -18,7 +18,6 @@
 #include "ui/sheets/SheetControls.h"
 
 #include <QAbstractEventDispatcher>
-#include <QElapsedTimer>
 
 #include <chrono>
 #include <utility>
@@ -27,7 +26,7 @@ namespace dyeworks {
 
 namespace {
 
-constexpr int kSlice = 8; // Milliseconds.
+constexpr std::chrono::milliseconds kLook{20};
 constexpr std::chrono::seconds kQuiet{1};
 constexpr const char* kFolderPick = "FolderPick.ocx";
 constexpr const char* kImageFilter = "TMF Files (*.tmf)|*.tmf|All Files (*.*)|*.*||";
@@ -75,8 +74,8 @@ bool askWhich(const CheckListSheet::Words& words, std::vector<Row>& rows,
 
 ProjectChecking::ProjectChecking(Workspace& workspace)
     : workspace_(workspace) {
-    work_.setSingleShot(true);
-    QObject::connect(&work_, &QTimer::timeout, &work_, [this] { work(); });
+    wait_.setInterval(kLook);
+    QObject::connect(&wait_, &QTimer::timeout, &wait_, [this] { wait(); });
     again_.setSingleShot(true);
     again_.setInterval(kQuiet);
     QObject::connect(&again_, &QTimer::timeout, &again_, [this] {
@@ -92,13 +91,13 @@ ProjectChecking::~ProjectChecking() = default;
 
 void ProjectChecking::start(FindingsDock& dock) {
     dock_ = &dock;
-    QObject::connect(&dock, &FindingsDock::checkWanted, &work_, [this] { OnCheck(); });
-    QObject::connect(&dock, &FindingsDock::stopWanted, &work_, [this] { end(); });
-    QObject::connect(&dock, &QObject::destroyed, &work_, [this] {
+    QObject::connect(&dock, &FindingsDock::checkWanted, &wait_, [this] { OnCheck(); });
+    QObject::connect(&dock, &FindingsDock::stopWanted, &wait_, [this] { end(); });
+    QObject::connect(&dock, &QObject::destroyed, &wait_, [this] {
         dock_ = nullptr;
         end();
     });
-    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &work_,
+    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &wait_,
                      [this] { look(); });
 }
 
@@ -128,33 +127,29 @@ void ProjectChecking::begin() {
     again_.stop();
     checked_ = project()->number();
     changes_ = project()->changes();
-    check_ = std::make_unique<ProjectCheck>(project()->projectFile(), project()->rules());
+    check_ = std::make_unique<ProjectCheckRun>(project()->projectFile(), project()->rules());
     dock_->showProgress(0);
-    work_.start(0);
+    wait_.start();
 }
 
 void ProjectChecking::end() {
-    work_.stop();
+    wait_.stop();
     check_.reset();
     if (dock_ != nullptr)
         dock_->endProgress();
 }
 
-void ProjectChecking::work() {
+void ProjectChecking::wait() {
     look();
     if (check_ == nullptr || dock_ == nullptr)
         return;
-    QElapsedTimer clock;
-    clock.start();
-    while (check_->step()) {
-        if (clock.elapsed() < kSlice)
-            continue;
+    if (!check_->isDone()) {
         dock_->showProgress(check_->thousandths());
-        work_.start(0);
         return;
     }
-    found_ = check_->findings();
+    const std::unique_ptr<ProjectCheckRun> check = std::move(check_);
     end();
+    found_ = check->takeFindings();
     publish();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/CommandTarget.h"
-#include "project/ProjectCheck.h"
+#include "project/ProjectCheckRun.h"
 
 #include <QTimer>
 
@@ -20,8 +20,8 @@ class Workspace;
 struct Finding;
 struct RelinkedFile;
 
-/// Checks the open project, a little at a time, so that nobody waits for it; lists what it finds, and carries
-/// out what can be done about that. What was changed so is one step to take back.
+/// Checks the open project beside everything else, so that nobody waits for it; lists what it finds, and
+/// carries out what can be done about that. What was changed so is one step to take back.
 class ProjectChecking : public CommandTarget {
 public:
     /// `workspace` must outlive it.
@@ -35,7 +35,7 @@ private:
     void look();
     void begin();
     void end();
-    void work();
+    void wait();
     void publish();
     [[nodiscard]] CTPFDocument* project() const;
     [[nodiscard]] Finding listed(const ProjectFinding& finding);
@@ -59,9 +59,9 @@ private:
     /// The number of the project whose findings are listed, or being looked for; 0: of none.
     std::uint64_t checked_ = 0;
     std::uint64_t changes_ = 0; ///< Of it, when it was last looked at.
-    QTimer work_;
+    QTimer wait_;
     QTimer again_; ///< Runs once the project has been left alone for a while after a change.
-    std::unique_ptr<ProjectCheck> check_;
+    std::unique_ptr<ProjectCheckRun> check_;
     std::optional<std::vector<ProjectFinding>> found_;
 };
 

@@ -12,9 +12,11 @@
 #include "ui/CurrentProject.h"
 #include "ui/FindingsDock.h"
 #include "ui/OpenImages.h"
+#include "ui/ShortcutOptions.h"
 #include "ui/Workspace.h"
 #include "ui/palettebar/CPaletteBar.h"
 #include "ui/sheets/COptionPropertySheet.h"
+#include "ui/sheets/CShortcutsPage.h"
 #include "ui/sheets/SheetControls.h"
 
 #include <QAbstractEventDispatcher>
@@ -194,7 +196,8 @@ void RuleWatch::askForRules() {
     if (workspace_.currentProject().document() != nullptr)
         workspace_.router().run(ID_PROJECT_RULES);
     else
-        OptionsCommand(&workspace_.mainFrame(), OptionsPage::Rules);
+        OptionsCommand(&workspace_.mainFrame(), shortcutOptions(workspace_.mainFrame().commandActions()),
+                       OptionsPage::Rules);
 }
 
 } // namespace dyeworks

@@ -1,6 +1,7 @@
 #include "Program.h"
 #include "ui/sheets/AskUseProject.h"
 #include "ui/sheets/COptionPropertySheet.h"
+#include "ui/sheets/CShortcutsPage.h"
 #include "ui/sheets/CUseProjectDlg.h"
 
 #include <QAbstractButton>
@@ -90,7 +91,7 @@ TEST_F(UseProject, TheOptionsShowTheSettingAndKeepWhatOkTakesOver) {
             box.click();
             button(sheet, press).click();
         });
-        OptionsCommand(nullptr);
+        OptionsCommand(nullptr, {});
         EXPECT_EQ(setting(), after) << press;
     }
 }

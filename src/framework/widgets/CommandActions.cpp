@@ -16,18 +16,19 @@ namespace dyeworks {
 
 namespace {
 
-QList<QKeySequence> shortcutsOf(const CommandRow& row) {
-    QList<QKeySequence> shortcuts;
-    for (const QString& keys : QString::fromUtf8(row.shortcut).split(QLatin1Char(' '), Qt::SkipEmptyParts))
-        shortcuts.append(QKeySequence(keys, QKeySequence::PortableText));
-    return shortcuts;
+QList<QKeySequence> sequences(const Shortcuts::Keys& keys) {
+    QList<QKeySequence> all;
+    for (const std::string& each : keys)
+        all.append(QKeySequence(QString::fromStdString(each), QKeySequence::PortableText));
+    return all;
 }
 
 } // namespace
 
 CommandActions::CommandActions(CommandRouter& router, QObject* parent)
     : QObject(parent)
-    , router_(router) {
+    , router_(router)
+    , shortcuts_(Shortcuts::load()) {
     for (const CommandRow& row : commandTable()) {
         for (CommandId id = row.id; id <= std::max(row.id, row.last); ++id)
             create(row, id);
@@ -79,12 +80,22 @@ void CommandActions::create(const CommandRow& row, CommandId id) {
     action->setIcon(commandIcon(QString::fromUtf8(row.icon)));
     // Roles would let a desktop move commands out of the menus that name them.
     action->setMenuRole(QAction::NoRole);
-    action->setShortcuts(shortcutsOf(row));
-    const QString tip = QString::fromStdString(toolTipText(row));
-    const QString keys = action->shortcut().toString(QKeySequence::NativeText);
-    action->setToolTip(keys.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, keys));
+    showKeys(id, *action);
     connect(action, &QAction::triggered, this, [this, id] { run(id); });
     entries_[id] = {action, text};
+}
+
+void CommandActions::showKeys(CommandId id, QAction& action) const {
+    action.setShortcuts(sequences(shortcuts_.of(id)));
+    const QString tip = QString::fromStdString(toolTipText(*findCommand(id)));
+    const QString keys = action.shortcut().toString(QKeySequence::NativeText);
+    action.setToolTip(keys.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, keys));
+}
+
+void CommandActions::setShortcuts(const Shortcuts& shortcuts) {
+    shortcuts_ = shortcuts;
+    for (const auto& [id, entry] : entries_)
+        showKeys(id, *entry.action);
 }
 
 void CommandActions::refreshWhenIdle() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/CommandIds.h"
+#include "framework/Shortcuts.h"
 
 #include <QObject>
 #include <QString>
@@ -29,6 +30,11 @@ public:
     /// Null for a number that is not in the table.
     [[nodiscard]] QAction* action(CommandId id) const;
 
+    /// As they were last set; at first those of the user's settings.
+    [[nodiscard]] const Shortcuts& shortcuts() const noexcept { return shortcuts_; }
+    /// Gives the commands these keys at once.
+    void setShortcuts(const Shortcuts& shortcuts);
+
     /// Makes the shortcuts work in `window`, also those of commands that are in none of its menus.
     void addTo(QWidget& window);
 
@@ -45,10 +51,12 @@ private:
     };
 
     void create(const CommandRow& row, CommandId id);
+    void showKeys(CommandId id, QAction& action) const;
     void refreshWhenIdle();
 
     CommandRouter& router_;
     std::map<CommandId, Entry> entries_;
+    Shortcuts shortcuts_;
 };
 
 } // namespace dyeworks

@@ -2,6 +2,7 @@
 
 #include <QDialogButtonBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QShowEvent>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -55,6 +56,11 @@ void PropertySheet::fitToPages() {
     for (int i = 0; i < tabs_->count(); ++i)
         grows = grows || (page(i)->sizePolicy().horizontalPolicy() & QSizePolicy::ExpandFlag) != 0;
     layout()->setSizeConstraint(grows ? QLayout::SetMinimumSize : QLayout::SetFixedSize);
+    if (!grows)
+        return;
+    // With room for a title bar that is not there yet.
+    const QSize room = screen()->availableSize() - QSize(0, 2 * fontMetrics().height());
+    resize(sizeHint().boundedTo(room).expandedTo(minimumSizeHint()));
 }
 
 void PropertySheet::followPages() {

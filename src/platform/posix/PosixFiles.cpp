@@ -106,10 +106,11 @@ PosixFiles::PosixFiles(DriveLookup drives, std::string programFolder)
 }
 
 std::string PosixFiles::fullPath(const std::string& path) const {
-    return path.empty() ? path : parseProgramPath(path, currentDirectory_).text();
+    return path.empty() ? path : parseProgramPath(path, currentDirectory()).text();
 }
 
 std::string PosixFiles::currentDirectory() const {
+    const std::lock_guard lock(directoryMutex_);
     return currentDirectory_;
 }
 
@@ -117,7 +118,9 @@ bool PosixFiles::setCurrentDirectory(const std::string& path) {
     const std::string host = hostPath(path);
     if (host.empty() || ::chdir(host.c_str()) != 0)
         return false;
-    currentDirectory_ = fullPath(path);
+    std::string full = fullPath(path);
+    const std::lock_guard lock(directoryMutex_);
+    currentDirectory_ = std::move(full);
     return true;
 }
 
@@ -146,12 +149,12 @@ std::vector<FileEntry> PosixFiles::enumerate(const std::string& pattern) const {
     std::vector<FileEntry> entries;
     if (pattern.empty() || isSeparator(pattern.back()) || isDotName(pattern))
         return entries;
-    ProgramPath folder = parseProgramPath(pattern, currentDirectory_);
+    ProgramPath folder = parseProgramPath(pattern, currentDirectory());
     if (folder.parts.empty())
         return entries;
     const std::string wanted = std::move(folder.parts.back());
     folder.parts.pop_back();
-    const std::string host = hostPathOf(folder);
+    const std::string host = hostPathOf(folder, Spelling::AsOnDisk);
     const OpenDirectory directory(host.empty() ? nullptr : ::opendir(host.c_str()));
     if (!directory)
         return entries;
@@ -188,7 +191,20 @@ std::optional<FileError> PosixFiles::writePieces(const std::string& path, FilePi
     if (host.empty())
         return FileError::NotFound;
     const std::optional<FileError> error = writeHostFile(host, pieces);
-    if (!error || safetyCopies_ == nullptr || !takesNothingButContents(host, *error))
+    if (!error)
+        tellWritten();
+    return error ? writeInPlace(path, host, pieces, *error) : error;
+}
+
+void PosixFiles::tellWritten() const {
+    if (safetyCopies_ != nullptr)
+        safetyCopies_->written();
+}
+
+/// Of a file that could not be replaced because of `error`.
+std::optional<FileError> PosixFiles::writeInPlace(const std::string& path, const std::string& host,
+                                                  FilePieces pieces, FileError error) {
+    if (safetyCopies_ == nullptr || !takesNothingButContents(host, error))
         return error;
     if (!safetyCopies_->keep(path, pieces))
         return error;
@@ -198,6 +214,8 @@ std::optional<FileError> PosixFiles::writePieces(const std::string& path, FilePi
         safetyCopies_->broken(path, *failure);
     else
         safetyCopies_->release(path);
+    if (!failure)
+        tellWritten();
     return failure;
 }
 
@@ -213,20 +231,28 @@ std::string PosixFiles::shortPath(const std::string& path) const {
 }
 
 std::string PosixFiles::hostPath(const std::string& path) const {
-    return path.empty() ? path : hostPathOf(parseProgramPath(path, currentDirectory_));
+    return path.empty() ? path : hostPathOf(parseProgramPath(path, currentDirectory()), Spelling::AsOnDisk);
 }
 
 std::string PosixFiles::fromHostPath(const std::string& hostPath) const {
-    return programForm(hostPath, currentDirectory_);
+    return programForm(hostPath, currentDirectory());
 }
 
 std::string PosixFiles::displayPath(const std::string& path) const {
+    return displayPath(path, Spelling::AsOnDisk);
+}
+
+std::string PosixFiles::unaskedDisplayPath(const std::string& path) const {
+    return displayPath(path, Spelling::AsGiven);
+}
+
+std::string PosixFiles::displayPath(const std::string& path, Spelling spelling) const {
     if (!isRooted(path)) {
         std::string shown = path;
         std::ranges::replace(shown, '\\', '/');
         return shown;
     }
-    std::string shown = hostPath(path);
+    std::string shown = hostPathOf(parseProgramPath(path, currentDirectory()), spelling);
     if (shown.empty())
         return path;
     if (isSeparator(path.back()) && shown.back() != '/')
@@ -234,13 +260,13 @@ std::string PosixFiles::displayPath(const std::string& path) const {
     return shown;
 }
 
-std::string PosixFiles::hostPathOf(const ProgramPath& path) const {
+std::string PosixFiles::hostPathOf(const ProgramPath& path, Spelling spelling) const {
     const std::optional<std::string> root = hostRootOf(path);
     // A text that goes on behind a NUL would name something else to the host.
     const auto endsEarly = [](const std::string& part) { return part.find('\0') != std::string::npos; };
     if (!root || std::ranges::any_of(path.parts, endsEarly))
         return {};
-    return resolved(*root, path.parts);
+    return spelling == Spelling::AsOnDisk ? resolved(*root, path.parts) : joined(*root, path.parts);
 }
 
 /// Host folder of the path's root without a trailing "/", thus empty for the host's own root.

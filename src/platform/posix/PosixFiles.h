@@ -4,13 +4,15 @@
 #include "platform/ProgramPath.h"
 
 #include <functional>
+#include <mutex>
 #include <optional>
 #include <string>
 
 namespace dyeworks {
 
 /// The file system of a POSIX host. "\home\kei\sky.tlf" is the host's "/home/kei/sky.tlf"; a drive is the
-/// host folder that the look-up names; a server ("\\server\share") holds nothing.
+/// host folder that the look-up names; a server ("\\server\share") holds nothing. What only asks and reads
+/// may be called on any thread, if the look-up may be.
 class PosixFiles : public Files {
 public:
     /// The absolute host folder that a drive stands for, or nothing when it is not mapped. Asked at every
@@ -42,13 +44,26 @@ public:
     /// they are but for the separators of a relative one.
     [[nodiscard]] std::string displayPath(const std::string& path) const override;
 
+protected:
+    /// A file has been written.
+    void tellWritten() const;
+    /// As `displayPath`, but no file system is asked: a name that exists may be spelt otherwise.
+    [[nodiscard]] std::string unaskedDisplayPath(const std::string& path) const;
+    /// Writes over the file at `host`, `path` in the host's form, where `error` says that it is its folder
+    /// that takes no other; else nothing is done but to return `error`.
+    [[nodiscard]] std::optional<FileError> writeInPlace(const std::string& path, const std::string& host,
+                                                        FilePieces pieces, FileError error);
+
 private:
-    [[nodiscard]] std::string hostPathOf(const ProgramPath& path) const;
+    enum class Spelling { AsGiven, AsOnDisk };
+    [[nodiscard]] std::string hostPathOf(const ProgramPath& path, Spelling spelling) const;
+    [[nodiscard]] std::string displayPath(const std::string& path, Spelling spelling) const;
     [[nodiscard]] std::optional<std::string> hostRootOf(const ProgramPath& path) const;
 
     DriveLookup drives_;
     SafetyCopies* safetyCopies_ = nullptr;
     std::string programFolder_;
+    mutable std::mutex directoryMutex_;
     // In the program's form, because it may lie on a drive, which the host's own one does not remember.
     std::string currentDirectory_ = "\\";
 };

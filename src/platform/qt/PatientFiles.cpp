@@ -1,5 +1,6 @@
 #include "platform/qt/PatientFiles.h"
 
+#include "platform/LooseThread.h"
 #include "platform/StringId.h"
 #include "platform/Text.h"
 #include "platform/posix/HostFile.h"
@@ -10,11 +11,10 @@
 
 #include <atomic>
 #include <chrono>
+#include <functional>
 #include <future>
 #include <memory>
 #include <new>
-#include <system_error>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -24,8 +24,19 @@ namespace {
 
 using namespace std::chrono_literals;
 
+constexpr auto kSpellingPatience = 100ms;
+constexpr auto kBelieved = 2s;
+constexpr std::size_t kMostSpelt = 500;
+
+bool isOnThreadOfWindows() {
+    const QCoreApplication* const application = QCoreApplication::instance();
+    return application != nullptr && application->thread() == QThread::currentThread();
+}
+
 /// Outlives the waiting: a thread that hangs in the file system cannot be ended.
 struct Writing {
+    /// Its form for the host; empty: there is none. Looking for it may hang, too.
+    std::function<std::string()> find;
     std::string file;
     std::vector<std::byte> bytes;
     std::promise<std::optional<FileError>> done;
@@ -34,8 +45,10 @@ struct Writing {
     void run() noexcept {
         std::optional<FileError> error;
         try {
+            file = find();
             const std::span<const std::byte> piece = bytes;
-            error = writeHostFile(file, FilePieces(&piece, 1), Flush::Yes, &stopped);
+            error = file.empty() ? FileError::NotFound
+                                 : writeHostFile(file, FilePieces(&piece, 1), Flush::Yes, &stopped);
         } catch (const std::bad_alloc&) {
             error = FileError::TooLarge;
         }
@@ -43,22 +56,23 @@ struct Writing {
     }
 };
 
+std::string nameIn(const std::string& path) {
+    return path.substr(path.find_last_of("/\\") + 1);
+}
+
 /// Null without memory, or without a thread.
-std::shared_ptr<Writing> start(const std::string& file, FilePieces pieces) {
+std::shared_ptr<Writing> start(std::function<std::string()> find, FilePieces pieces) {
     try {
         auto writing = std::make_shared<Writing>();
-        writing->file = file;
+        writing->find = std::move(find);
         std::size_t size = 0;
         for (const std::span<const std::byte> piece : pieces)
             size += piece.size();
         writing->bytes.reserve(size);
         for (const std::span<const std::byte> piece : pieces)
             writing->bytes.insert(writing->bytes.end(), piece.begin(), piece.end());
-        std::thread([writing] { writing->run(); }).detach();
-        return writing;
+        return runLoosely([writing] { writing->run(); }) ? writing : nullptr;
     } catch (const std::bad_alloc&) {
-        return nullptr;
-    } catch (const std::system_error&) {
         return nullptr;
     }
 }
@@ -69,25 +83,72 @@ PatientFiles::PatientFiles(const WindowContext& windows, DriveLookup drives, std
     : PosixFiles(std::move(drives), std::move(programFolder))
     , windows_(windows) {}
 
+bool PatientFiles::mayWait() const {
+    return isOnThreadOfWindows() && windows_.canAsk();
+}
+
+std::string PatientFiles::displayPath(const std::string& path) const {
+    if (!isOnThreadOfWindows() || path.empty())
+        return PosixFiles::displayPath(path);
+    if (spelt_.size() > kMostSpelt)
+        std::erase_if(spelt_, [](const auto& each) { return !each.second.answer.valid(); });
+    Spelt& spelt = spelt_[path];
+    if (!spelt.answer.valid()) {
+        if (!spelt.latest.empty() && Clock::now() - spelt.asked < kBelieved)
+            return spelt.latest;
+        const auto answer = std::make_shared<std::promise<std::string>>();
+        const auto ask = [this, path, answer]() noexcept {
+            std::string shown;
+            try {
+                shown = PosixFiles::displayPath(path);
+            } catch (const std::bad_alloc&) {
+                shown.clear();
+            }
+            answer->set_value(std::move(shown));
+        };
+        if (!runLoosely(ask))
+            return PosixFiles::displayPath(path);
+        spelt.answer = answer->get_future();
+        spelt.asked = Clock::now();
+        spelt.answer.wait_for(kSpellingPatience);
+    }
+    if (spelt.answer.wait_for(0s) == std::future_status::ready)
+        spelt.latest = spelt.answer.get();
+    return spelt.latest.empty() ? unaskedDisplayPath(path) : spelt.latest;
+}
+
+bool PatientFiles::wait(const std::string& path, const std::function<bool()>& isDone) const {
+    return waitInDialog(text(StringId::WaitingForFile, {nameIn(path)}), windows_.owner(), isDone);
+}
+
+bool PatientFiles::answers(const std::string& path) const {
+    const auto answered = std::make_shared<std::promise<void>>();
+    const std::future<void> answer = answered->get_future();
+    const auto ask = [this, path, answered] {
+        static_cast<void>(exists(path));
+        answered->set_value();
+    };
+    if (!mayWait() || !runLoosely(ask))
+        return true;
+    const auto isDone = [&answer] { return answer.wait_for(0s) == std::future_status::ready; };
+    return answer.wait_for(kWaitPatience) == std::future_status::ready || wait(path, isDone);
+}
+
 std::optional<FileError> PatientFiles::writePieces(const std::string& path, FilePieces pieces) {
-    const QCoreApplication* const application = QCoreApplication::instance();
-    const std::string file = hostPath(path);
-    const bool asks = application != nullptr && application->thread() == QThread::currentThread() &&
-                      windows_.canAsk() && !file.empty();
-    const std::shared_ptr<Writing> writing = asks ? start(file, pieces) : nullptr;
+    const std::shared_ptr<Writing> writing =
+        mayWait() && !path.empty() ? start([this, path] { return hostPath(path); }, pieces) : nullptr;
     if (writing == nullptr)
         return PosixFiles::writePieces(path, pieces);
     std::future<std::optional<FileError>> done = writing->done.get_future();
     const auto isDone = [&done] { return done.wait_for(0s) == std::future_status::ready; };
-    const bool isQuick = done.wait_for(kWaitPatience) == std::future_status::ready;
-    if (!isQuick && !waitInDialog(text(StringId::WaitingForFile, {file.substr(file.rfind('/') + 1)}),
-                                  windows_.owner(), isDone)) {
+    if (done.wait_for(kWaitPatience) != std::future_status::ready && !wait(path, isDone)) {
         writing->stopped = true;
         return FileError::Other;
     }
-    const std::optional<FileError> error = done.get();
-    // In place, with safety copies, is a way of the base.
-    return error && takesNothingButContents(file, *error) ? PosixFiles::writePieces(path, pieces) : error;
+    if (const std::optional<FileError> error = done.get())
+        return writeInPlace(path, writing->file, pieces, *error);
+    tellWritten();
+    return std::nullopt;
 }
 
 } // namespace dyeworks

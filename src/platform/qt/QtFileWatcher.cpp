@@ -5,10 +5,16 @@
 #include <QFileInfo>
 #include <QFileSystemWatcher>
 #include <QSet>
+#include <QThread>
+
+#include <memory>
+#include <utility>
 
 namespace dyeworks {
 
 namespace {
+
+constexpr int kLastPatience = 500; // Milliseconds.
 
 /// The folder of the file or, as long as that is not there, the nearest one above it that is.
 QString folderOf(const QString& path) {
@@ -30,32 +36,41 @@ void add(QSet<QString>& watched, const QString& path) {
 
 } // namespace
 
-QtFileWatcher::QtFileWatcher(const Files& files)
-    : files_(files) {}
+/// Of the thread.
+class QtFileWatcher::Watched : public QObject {
+public:
+    /// `happened` is called on this thread.
+    Watched(const Files& files, std::function<void()> happened)
+        : files_(files)
+        , happened_(std::move(happened)) {}
 
-QtFileWatcher::~QtFileWatcher() = default;
-
-void QtFileWatcher::watch(const std::vector<std::string>& paths) {
-    paths_ = paths;
-    if (watcher_ == nullptr) {
-        if (paths_.empty())
-            return;
-        watcher_ = std::make_unique<QFileSystemWatcher>();
-        connect(watcher_.get(), &QFileSystemWatcher::fileChanged, this, &QtFileWatcher::happened);
-        connect(watcher_.get(), &QFileSystemWatcher::directoryChanged, this, &QtFileWatcher::happened);
+    void watch(const std::vector<std::string>& paths) {
+        paths_ = paths;
+        if (watcher_ == nullptr) {
+            watcher_ = std::make_unique<QFileSystemWatcher>();
+            connect(watcher_.get(), &QFileSystemWatcher::fileChanged, this, &Watched::happened);
+            connect(watcher_.get(), &QFileSystemWatcher::directoryChanged, this, &Watched::happened);
+        }
+        follow();
     }
-    follow();
-}
 
-void QtFileWatcher::happened() {
-    // A file that was replaced is no longer watched, and a link may lead elsewhere now.
-    follow();
-    if (listener_)
-        listener_();
-}
+private:
+    void happened() {
+        // A file that was replaced is no longer watched, and a link may lead elsewhere now.
+        follow();
+        happened_();
+    }
+
+    void follow();
+
+    const Files& files_;
+    std::function<void()> happened_;
+    std::vector<std::string> paths_;
+    std::unique_ptr<QFileSystemWatcher> watcher_;
+};
 
 /// Where the host has no watches left, the rest is not watched.
-void QtFileWatcher::follow() {
+void QtFileWatcher::Watched::follow() {
     QSet<QString> wanted;
     for (const std::string& path : paths_) {
         const QString host = QString::fromStdString(files_.hostPath(path));
@@ -73,6 +88,36 @@ void QtFileWatcher::follow() {
         watcher_->removePaths(gone.values());
     if (const QSet<QString> come = wanted - watched; !come.isEmpty())
         static_cast<void>(watcher_->addPaths(come.values()));
+}
+
+QtFileWatcher::QtFileWatcher(const Files& files)
+    : files_(files) {}
+
+/// What hangs in the host ends with the process.
+QtFileWatcher::~QtFileWatcher() {
+    if (thread_ == nullptr)
+        return;
+    thread_->quit();
+    if (thread_->wait(kLastPatience))
+        delete thread_;
+}
+
+void QtFileWatcher::watch(const std::vector<std::string>& paths) {
+    if (thread_ == nullptr) {
+        if (paths.empty())
+            return;
+        thread_ = new QThread;
+        const auto tell = [this] {
+            if (listener_)
+                listener_();
+        };
+        watched_ = new Watched(files_,
+                               [this, tell] { QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection); });
+        watched_->moveToThread(thread_);
+        connect(thread_, &QThread::finished, watched_, &QObject::deleteLater);
+        thread_->start();
+    }
+    QMetaObject::invokeMethod(watched_, [watched = watched_, paths] { watched->watch(paths); });
 }
 
 } // namespace dyeworks

@@ -3,23 +3,21 @@
 #include "platform/FileWatcher.h"
 
 #include <QObject>
-#include <QStringList>
 
-#include <memory>
-
-class QFileSystemWatcher;
+class QThread;
 
 namespace dyeworks {
 
 class Files;
 
 /// Watches files and the folders that they stand in: a file that is put in another one's place, or comes
-/// back, is seen by its folder alone. Links are watched where they stand and where they lead.
+/// back, is seen by its folder alone. Links are watched where they stand and where they lead. All of that
+/// happens on a thread of its own, since file systems may not answer.
 class QtFileWatcher : public QObject, public FileWatcher {
     Q_OBJECT
 
 public:
-    /// `files` must outlive the watcher.
+    /// `files`, which any thread may ask, must outlive the watcher.
     explicit QtFileWatcher(const Files& files);
     ~QtFileWatcher() override;
 
@@ -27,13 +25,12 @@ public:
     void setListener(std::function<void()> listener) override { listener_ = std::move(listener); }
 
 private:
-    void happened();
-    void follow();
+    class Watched;
 
     const Files& files_;
-    std::vector<std::string> paths_;
     std::function<void()> listener_;
-    std::unique_ptr<QFileSystemWatcher> watcher_; ///< Made with the first file.
+    QThread* thread_ = nullptr;  ///< Begins with the first file.
+    Watched* watched_ = nullptr; ///< Lives on that.
 };
 
 } // namespace dyeworks

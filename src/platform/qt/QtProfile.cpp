@@ -123,11 +123,13 @@ std::optional<ProfileTrouble> QtProfile::takeTrouble() {
 }
 
 QVariant QtProfile::value(const QString& key) const {
+    const std::lock_guard lock(mutex_);
     const auto changed = changes_.find(key);
     return changed != changes_.end() ? changed->second : store_->value(key);
 }
 
 void QtProfile::change(const QString& key, const QVariant& value) {
+    const std::lock_guard lock(mutex_);
     changes_[key] = value;
     written_ = false;
     // Without an event loop, `sync` and the destruction are what is left.
@@ -152,6 +154,7 @@ void QtProfile::remove(const std::string& section, const std::string& entry) {
 }
 
 std::vector<std::string> QtProfile::entries(const std::string& section) const {
+    const std::lock_guard lock(mutex_);
     const QString group = sectionKey(section);
     store_->beginGroup(group);
     const QStringList keys = store_->childKeys();
@@ -178,6 +181,7 @@ std::vector<std::string> QtProfile::entries(const std::string& section) const {
 }
 
 void QtProfile::sync() {
+    const std::lock_guard lock(mutex_);
     idle_.stop();
     if (!written_) {
         written_ = writeChanges();

@@ -8,6 +8,7 @@
 
 #include <map>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,7 +21,8 @@ namespace dyeworks {
 /// in memory only, and is tried again with the next one.
 ///
 /// The file is replaced as documents are: on a full disk it stays as it was. What several programs change at
-/// once comes together in it, as long as it is not the same entry.
+/// once comes together in it, as long as it is not the same entry. Reading is for any thread, all else for
+/// the one that made it.
 class QtProfile : public Profile {
 public:
     /// Settings in the file `hostPath`, or in the user's own one when that is empty.
@@ -51,6 +53,7 @@ private:
     void change(const QString& key, const QVariant& value);
     [[nodiscard]] bool writeChanges();
 
+    mutable std::recursive_mutex mutex_;
     std::unique_ptr<QSettings> store_; ///< Is only read from.
     Changes changes_;                  ///< That the store does not tell.
     bool written_ = true;              ///< All of them are in the file.

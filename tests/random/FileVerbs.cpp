@@ -1,0 +1,113 @@
+#include "Desk.h"
+#include "ui/CMainFrame.h"
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QLineEdit>
+
+#include <array>
+
+namespace dyeworks {
+
+namespace {
+
+/// While something is dragged the pointer does nothing else.
+bool busy(Desk& desk) {
+    return desk.model.active != nullptr && desk.model.active->dragging();
+}
+
+void openImage(Desk& desk, const std::vector<int>& n) {
+    const std::string path = Desk::imagePath(n[0]);
+    if (busy(desk) || (desk.model.images.size() >= Desk::kMostImages && desk.model.imageOf(path) == nullptr))
+        return;
+    desk.fake.dialogs.answerWith(path);
+    desk.run(ID_FILE_OPEN);
+    desk.model.openImage(path);
+}
+
+void newImage(Desk& desk, const std::vector<int>& n) {
+    if (busy(desk) || desk.model.images.size() >= Desk::kMostImages)
+        return;
+    desk.withNextDialog([&](QDialog& sheet) {
+        sheet.findChild<QLineEdit*>(QStringLiteral("IDC_TEXTURE_WIDTH"))->setText(QString::number(n[0] + 1));
+        sheet.findChild<QLineEdit*>(QStringLiteral("IDC_TEXTURE_HEIGHT"))->setText(QString::number(n[1] + 1));
+        sheet
+            .findChild<QAbstractButton*>(n[2] == 0 ? QStringLiteral("IDC_BITMODE_4BIT")
+                                                   : QStringLiteral("IDC_BITMODE_8BIT"))
+            ->click();
+        sheet.findChild<QAbstractButton*>(QStringLiteral("IDOK"))->click();
+    });
+    desk.run(ID_FILE_NEW);
+    desk.model.newImage(n[0] + 1, n[1] + 1, n[2] == 0 ? 4 : 8);
+}
+
+void activate(Desk& desk, const std::vector<int>& n) {
+    if (busy(desk) || desk.model.images.empty())
+        return;
+    const std::size_t at = static_cast<std::size_t>(n[0]) % desk.model.images.size();
+    desk.model.activated(*desk.model.images[at]);
+    desk.frame().activateWindowOf(*desk.app.imageTemplate().documents()[at]);
+}
+
+void saveImage(Desk& desk, const std::vector<int>& n) {
+    if (desk.model.active == nullptr)
+        return;
+    ViewModel& image = *desk.model.active;
+    const bool as = n[0] == 0;
+    const std::string path = Desk::imagePath(n[1]);
+    if (as || image.document.path.empty())
+        desk.fake.dialogs.answerWith(path);
+    desk.run(as ? ID_FILE_SAVE_AS : ID_FILE_SAVE);
+    desk.model.saveImage(image, as, path);
+}
+
+void closeImage(Desk& desk, const std::vector<int>& n) {
+    if (busy(desk) || desk.model.active == nullptr)
+        return;
+    ViewModel& image = *desk.model.active;
+    const Answers answers{n[0], Desk::imagePath(n[1])};
+    if (image.hasUnsavedChanges()) {
+        desk.answerNext(answers.answer);
+        if (answers.answer == 0 && image.document.path.empty())
+            desk.fake.dialogs.answerWith(answers.file);
+    }
+    desk.run(ID_FILE_CLOSE);
+    if (desk.model.closeImage(image, answers))
+        desk.readActive();
+}
+
+void revert(Desk& desk, const std::vector<int>& n) {
+    if (!desk.model.enabled(ID_FILE_REVERT).value_or(false))
+        return;
+    ViewModel& image = *desk.model.active;
+    // A drag is taken back first, with what it alone has changed.
+    image.cancel();
+    const bool asks = image.hasUnsavedChanges();
+    if (asks)
+        desk.answerNext(n[0]);
+    if (!desk.app.router().run(ID_FILE_REVERT))
+        desk.wonder("an image does not go back to its file");
+    desk.model.revert(image, n[0]);
+}
+
+void attach(Desk& desk, const std::vector<int>& /*n*/) {
+    const bool enabled = desk.model.enabled(ID_IMAGE_ATTACH).value_or(false);
+    desk.run(ID_IMAGE_ATTACH);
+    if (enabled)
+        desk.model.attach(*desk.model.active);
+}
+
+} // namespace
+
+const std::vector<Verb>& fileVerbs() {
+    static const std::vector<Verb> verbs{{"open", 25, {Desk::kImages}, openImage},
+                                         {"new", 6, {30, 30, 2}, newImage},
+                                         {"activate", 15, {4}, activate},
+                                         {"save", 14, {3, Desk::kImages}, saveImage},
+                                         {"close", 12, {3, Desk::kImages}, closeImage},
+                                         {"revert", 5, {2}, revert},
+                                         {"attach", 15, {}, attach}};
+    return verbs;
+}
+
+} // namespace dyeworks

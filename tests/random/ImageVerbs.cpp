@@ -1,0 +1,171 @@
+#include "Desk.h"
+#include "ui/CMainFrame.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include <array>
+
+namespace dyeworks {
+
+namespace {
+
+constexpr std::array kCommands{ID_EDIT_SELECT_ALL,  ID_TOOL_SPUIT,    ID_FLIP_X,         ID_FLIP_Y,
+                               ID_CANCEL_SELECTION, ID_EDIT_COPY,     ID_EDIT_CUT,       ID_EDIT_PASTE,
+                               ID_EDIT_PASTE,       ID_ZOOM_IN,       ID_ZOOM_OUT,       ID_ZOOM_X1,
+                               ID_ZOOM_X4,          ID_ZOOM_X6,       ID_VIEW_GRID,      ID_TOOL_SELECT,
+                               ID_TOOL_PIXEL,       ID_TOOL_PEN,      ID_TOOL_LINE,      ID_TOOL_BOX,
+                               ID_TOOL_BOX_FILL,    ID_TOOL_CIRCLE,   ID_TOOL_ZOOM_LENS, ID_TOOL_CIRCLE_FILL,
+                               ID_TOOL_PAINT,       ID_TOOL_REPLACER, ID_TOOL_SELECT};
+
+constexpr std::array<std::pair<Qt::Key, Key>, 8> kKeys{{{Qt::Key_Escape, Key::Escape},
+                                                        {Qt::Key_Return, Key::Enter},
+                                                        {Qt::Key_Left, Key::Left},
+                                                        {Qt::Key_Up, Key::Up},
+                                                        {Qt::Key_Right, Key::Right},
+                                                        {Qt::Key_Down, Key::Down},
+                                                        {Qt::Key_I, Key::I},
+                                                        {Qt::Key_O, Key::O}}};
+
+// What a pointer event is: a texel, a little way outside the image too, where in it, and keys held down.
+const std::vector<int> kPointer{48, 48, 16, 16};
+constexpr int kMargin = 4;
+
+struct Event {
+    ViewModel::Pointer model;
+    QPoint client;
+    Qt::KeyboardModifiers modifiers;
+};
+
+Event eventOf(Desk& desk, const std::vector<int>& n) {
+    ViewModel& image = *desk.model.active;
+    const int zoom = image.zoom;
+    const Point texel{n[0] % (image.document.image().width + 2 * kMargin) - kMargin,
+                      n[1] % (image.document.image().height + 2 * kMargin) - kMargin};
+    Event event;
+    event.model.position = {texel.x * zoom + n[2] % zoom, texel.y * zoom + n[2] / 2 % zoom};
+    event.model.control = n[3] == 1 || n[3] == 3;
+    event.model.alt = n[3] == 2 || n[3] == 3;
+    event.modifiers.setFlag(Qt::ControlModifier, event.model.control);
+    event.modifiers.setFlag(Qt::AltModifier, event.model.alt);
+    event.client = QPoint(event.model.position.x, event.model.position.y) -
+                   static_cast<const ScrollView&>(*desk.view()).scrollPosition();
+    return event;
+}
+
+void send(Desk& desk, const Event& event, QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held) {
+    QWidget* const viewport = desk.view()->viewport();
+    QMouseEvent mouse(type, event.client, viewport->mapToGlobal(event.client), button, held, event.modifiers);
+    QCoreApplication::sendEvent(viewport, &mouse);
+}
+
+void press(Desk& desk, const std::vector<int>& n) {
+    if (desk.model.active == nullptr)
+        return;
+    const Event event = eventOf(desk, n);
+    const bool again = desk.model.active->dragging();
+    desk.model.active->press(event.model);
+    // A press while the button is held is one that a window manager has lost the release of.
+    send(desk, event, again ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress, Qt::LeftButton,
+         Qt::LeftButton);
+}
+
+void rightPress(Desk& desk, const std::vector<int>& n) {
+    if (desk.model.active == nullptr)
+        return;
+    const Event event = eventOf(desk, n);
+    desk.model.active->rightPress(event.model.position);
+    send(desk, event, QEvent::MouseButtonPress, Qt::RightButton, Qt::RightButton);
+    send(desk, event, QEvent::MouseButtonRelease, Qt::RightButton,
+         desk.model.active->dragging() ? Qt::LeftButton : Qt::NoButton);
+}
+
+void move(Desk& desk, const std::vector<int>& n) {
+    if (desk.model.active == nullptr)
+        return;
+    const Event event = eventOf(desk, n);
+    const bool drags = desk.model.active->dragging();
+    desk.model.active->move(event.model);
+    send(desk, event, QEvent::MouseMove, Qt::NoButton, drags ? Qt::LeftButton : Qt::NoButton);
+}
+
+void release(Desk& desk, const std::vector<int>& n) {
+    if (desk.model.active == nullptr)
+        return;
+    const Event event = eventOf(desk, n);
+    desk.model.active->release(event.model);
+    send(desk, event, QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+}
+
+void drag(Desk& desk, const std::vector<int>& n) {
+    press(desk, n);
+    move(desk, {n[4], n[5], n[2], n[3]});
+    move(desk, {n[6], n[7], n[2], n[3]});
+    release(desk, {n[6], n[7], n[2], n[3]});
+}
+
+void key(Desk& desk, const std::vector<int>& n) {
+    if (desk.model.active == nullptr)
+        return;
+    const auto& [qtKey, key] = kKeys[static_cast<std::size_t>(n[0]) % kKeys.size()];
+    ViewModel& image = *desk.model.active;
+    // Without a selection the arrows walk the texel cursor.
+    if (key >= Key::Left && key <= Key::Down && !image.exists())
+        return;
+    const bool shift = n[1] == 1 && key >= Key::Left && key <= Key::Down;
+    image.key(key, shift);
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, qtKey, shift ? Qt::ShiftModifier : Qt::NoModifier);
+        QCoreApplication::sendEvent(desk.view(), &event);
+    }
+}
+
+void undo(Desk& desk, const std::vector<int>& n) {
+    if (desk.model.active == nullptr)
+        return;
+    const bool back = n[0] > 0;
+    const bool enabled = desk.model.enabled(back ? ID_EDIT_UNDO : ID_EDIT_REDO).value_or(false);
+    const std::size_t asked = desk.model.messages;
+    ViewModel& image = *desk.model.active;
+    DeskModel& model = desk.model;
+    if (enabled)
+        model.undoImage(image, back, n[1]);
+    if (model.messages > asked)
+        desk.answerNext(n[1]);
+    desk.expectRun(back ? ID_EDIT_UNDO : ID_EDIT_REDO, enabled);
+}
+
+void command(Desk& desk, const std::vector<int>& n) {
+    const CommandId id = kCommands[static_cast<std::size_t>(n[0]) % kCommands.size()];
+    const bool enabled = desk.model.enabled(id).value_or(false);
+    desk.run(id);
+    if (enabled)
+        desk.model.active->run(id);
+}
+
+void cell(Desk& desk, const std::vector<int>& n) {
+    desk.app.imageHost().selectPaletteBarCell(n[0]);
+}
+
+void repaint(Desk& desk, const std::vector<int>& /*n*/) {
+    static_cast<void>(desk.frame().grab());
+}
+
+} // namespace
+
+const std::vector<Verb>& imageVerbs() {
+    static const std::vector<Verb> verbs{{"press", 120, kPointer, press},
+                                         {"move", 240, kPointer, move},
+                                         {"release", 120, kPointer, release},
+                                         {"right-press", 10, kPointer, rightPress},
+                                         {"drag", 150, {48, 48, 16, 16, 48, 48, 48, 48}, drag},
+                                         {"key", 80, {8, 3}, key},
+                                         {"command", 135, {27}, command},
+                                         {"undo", 20, {3, 2}, undo},
+                                         {"cell", 30, {256}, cell},
+                                         {"repaint", 2, {}, repaint}};
+    return verbs;
+}
+
+} // namespace dyeworks

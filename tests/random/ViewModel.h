@@ -1,0 +1,103 @@
+#pragma once
+
+#include "ImageModel.h"
+#include "framework/CommandIds.h"
+#include "paint/CurrentTool.h"
+#include "paint/KeyEvent.h"
+#include "paint/SelectionTracker.h"
+
+#include <optional>
+
+namespace dyeworks {
+
+/// What all views share.
+struct ToolModel {
+    Tool tool = Tool::Select;
+    std::optional<PlainImage> clipboard;
+    int cell = -1; ///< Of the palette bar; negative without one.
+    int firstEntry = 0;
+    int cells = 0;
+};
+
+/// The tool that a command chooses.
+[[nodiscard]] std::optional<Tool> toolOf(CommandId id);
+
+/// An image and what the pointer, keys and commands do in its view, with no thought for what is to be
+/// repainted. Pointer positions count in pixels from the image's corner.
+class ViewModel {
+public:
+    struct Pointer {
+        Point position;
+        bool control = false;
+        bool alt = false;
+    };
+
+    explicit ViewModel(ToolModel& shared)
+        : shared_(shared) {}
+
+    ImageModel document;
+    std::optional<Rect> selection;
+    std::optional<PlainImage> piece;
+    std::uint32_t value = 0;
+    int zoom = 1;
+    bool grid = true;
+    bool spuit = false;
+
+    /// For an image that has just been opened or made.
+    void begin();
+    void press(const Pointer& event);
+    void rightPress(Point position);
+    void move(const Pointer& event);
+    void release(const Pointer& event);
+    /// What the drag has done so far is taken back. True when that changed the image.
+    bool cancel();
+    /// Only keys that are to do something.
+    void key(Key key, bool shift);
+    /// An enabled command of the view but Undo and Redo, which may concern others.
+    void run(CommandId id);
+    /// Nothing for a command that is not the view's.
+    [[nodiscard]] std::optional<bool> enabled(CommandId id) const;
+    /// Before the image is saved, or closed without a question.
+    void settle();
+    /// What floats and is selected goes.
+    void drop();
+
+    [[nodiscard]] bool dragging() const { return dragging_; }
+    [[nodiscard]] bool exists() const {
+        return keepsSelection(atPress_) && selection && selection->right > selection->left &&
+               selection->bottom > selection->top;
+    }
+    [[nodiscard]] bool hasUnsavedChanges() const { return piece.has_value() || document.differsFromFile(); }
+    [[nodiscard]] bool canUndo() const { return !document.states.undone.empty() || opensEdit(); }
+
+private:
+    [[nodiscard]] Point texel(Point position) const { return {position.x / zoom, position.y / zoom}; }
+    [[nodiscard]] bool selecting() const { return dragging_ && atPress_ == Tool::Select; }
+    /// Whether the drag draws what only its end makes a step.
+    [[nodiscard]] bool opensEdit() const {
+        return dragging_ && atPress_ != Tool::Select && atPress_ != Tool::Pixel && atPress_ != Tool::ZoomLens;
+    }
+    void setSelection(Point from, Point to);
+    void commit();
+    void letFloat(PlainImage newPiece);
+    void pick(Point position);
+    void grab(Point position);
+    void dragSelection(Point at, bool control);
+    void follow(Point at);
+    void drawShape();
+    void zoomStep(bool out);
+    bool clearSelected();
+
+    ToolModel& shared_;
+    Tool atPress_ = Tool::Select;
+    bool dragging_ = false;
+    bool centred_ = false;
+    bool cut_ = false;
+    bool hasStep_ = false;
+    TrackerHit hit_ = TrackerHit::None;
+    Point anchor_, current_, previous_, start_;
+    std::optional<PlainImage> snapshot_;
+    std::optional<Rect> selectionBefore_;
+};
+
+} // namespace dyeworks
