@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace dyeworks {
 
@@ -67,6 +68,7 @@ CommandSearchBox::CommandSearchBox(QWidget& owner)
 
 void CommandSearchBox::open(std::vector<ListedCommand> commands) {
     leaving_ = false;
+    composed_.clear();
     model_.setCommands(std::move(commands));
     field_->clear();
     showFound();
@@ -97,7 +99,7 @@ void CommandSearchBox::placeOverOwner() {
 }
 
 void CommandSearchBox::showFound() {
-    model_.search(field_->text());
+    model_.search(field_->text().insert(field_->cursorPosition(), composed_));
     const bool found = model_.rowCount() > 0;
     list_->setVisible(found);
     none_->setVisible(!found);
@@ -162,6 +164,12 @@ bool CommandSearchBox::pressKey(int key, Qt::KeyboardModifiers modifiers) {
 }
 
 bool CommandSearchBox::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::InputMethod) {
+        const QString now = static_cast<QInputMethodEvent*>(event)->preeditString();
+        // Once the field has what it was given.
+        if (std::exchange(composed_, now) != now)
+            QMetaObject::invokeMethod(this, &CommandSearchBox::showFound, Qt::QueuedConnection);
+    }
     if (event->type() != QEvent::KeyPress)
         return QDialog::eventFilter(watched, event);
     const auto& key = *static_cast<QKeyEvent*>(event);

@@ -50,6 +50,7 @@ private:
     QLineEdit* field_;
     QListView* list_;
     QLabel* none_;
+    QString composed_;     ///< What an input method shows in the field and has not given it yet.
     bool leaving_ = false; ///< It was told so, and stays until it loses the keys.
 };
 

@@ -235,6 +235,13 @@ TEST_F(CommandSearchTest, RunsWhatIsTypedAndGivesTheKeysBack) {
     ASSERT_TRUE(hasKeys(tabs));
     ASSERT_TRUE(run(ID_COMMAND_SEARCH));
     ASSERT_TRUE(hasKeys(field));
+    QInputMethodEvent composing("os", {});
+    QTest::keyClicks(&field, "cl");
+    QCoreApplication::sendEvent(&field, &composing);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return current().starts_with("Close"); }));
+    QInputMethodEvent dropped;
+    QCoreApplication::sendEvent(&field, &dropped);
+    field.selectAll();
     QTest::keyClicks(&field, "zi");
     QTest::keyClick(&field, Qt::Key_Enter);
     EXPECT_TRUE(QTest::qWaitFor([&] { return view().view().zoom() > zoom; }));
