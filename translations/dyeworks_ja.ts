@@ -5054,7 +5054,7 @@ The file is no longer whole. Save under another name; until then what was to be 
     </message>
     <message>
         <source>%1 belongs to %2, which will lose it.</source>
-        <translation>%1 は「%2」のキーです。割り当てると「%2」から外れます。</translation>
+        <translation>%1 は「%2」のキーで、割り当てるとそこから外れます。</translation>
     </message>
     <message>
         <source>%2 has %1 already.</source>
@@ -5103,6 +5103,18 @@ The file is no longer whole. Save under another name; until then what was to be 
     <message>
         <source>Line %1: the command or its keys &quot;%2&quot; have come before.</source>
         <translation>%1 行目: コマンドかそのキー「%2」がすでに前の行にあります。</translation>
+    </message>
+    <message>
+        <source>not changed</source>
+        <translation>変更なし</translation>
+    </message>
+    <message>
+        <source>no keys</source>
+        <translation>キーなし</translation>
+    </message>
+    <message>
+        <source>The keys in &quot;%1&quot; cannot be taken over. %2</source>
+        <translation>「%1」のキーは取り込めません。%2</translation>
     </message>
 </context>
 </TS>

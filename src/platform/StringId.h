@@ -629,6 +629,8 @@ enum class StringId : int {
     ShortcutsColumnChanged,
     ShortcutsOtherGroup,
     ShortcutsChanged,
+    ShortcutsNotChanged,
+    ShortcutsNoKeys,
     ShortcutsNewKeys,
     ShortcutsNewKeysTip,
     ShortcutsPress,
@@ -654,6 +656,7 @@ enum class StringId : int {
     KeysMoveAbout,      ///< %1 keys
     KeysOpenMenus,      ///< %1 keys
     KeysZoomImages,     ///< %1 keys
+    ShortcutFileNotTaken, ///< %1 file, %2 why
     ShortcutFileNone,
     ShortcutFileNewer,
     ShortcutFileLine,     ///< %1 line

@@ -838,6 +838,8 @@ constexpr Row kRows[] = {
     Row{StringId::ShortcutsColumnChanged, QT_TRANSLATE_NOOP("Text", "Changed")},
     Row{StringId::ShortcutsOtherGroup, QT_TRANSLATE_NOOP("Text", "Other")},
     Row{StringId::ShortcutsChanged, QT_TRANSLATE_NOOP("Text", "yes")},
+    Row{StringId::ShortcutsNotChanged, QT_TRANSLATE_NOOP("Text", "not changed")},
+    Row{StringId::ShortcutsNoKeys, QT_TRANSLATE_NOOP("Text", "no keys")},
     Row{StringId::ShortcutsNewKeys, QT_TRANSLATE_NOOP("Text", "New &keys:")},
     Row{StringId::ShortcutsNewKeysTip,
         QT_TRANSLATE_NOOP("Text", "Press the keys here that the chosen command is to have. Backspace takes "
@@ -880,6 +882,8 @@ constexpr Row kRows[] = {
                           "%1 opens menus or belongs to the desktop, and cannot be given to a command.")},
     Row{StringId::KeysZoomImages,
         QT_TRANSLATE_NOOP("Text", "As long as no command has it, %1 zooms images.")},
+    Row{StringId::ShortcutFileNotTaken,
+        QT_TRANSLATE_NOOP("Text", "The keys in \"%1\" cannot be taken over. %2")},
     Row{StringId::ShortcutFileNone, QT_TRANSLATE_NOOP("Text", "This is no file of shortcuts.")},
     Row{StringId::ShortcutFileNewer,
         QT_TRANSLATE_NOOP("Text", "These shortcuts are from a newer version of the program.")},

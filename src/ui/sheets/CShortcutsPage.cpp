@@ -174,6 +174,8 @@ void CShortcutsPage::fill(const std::vector<ShortcutGroup>& groups) {
     for (const ShortcutGroup& group : groups) {
         auto* const top = new QTreeWidgetItem(list_, {QString::fromStdString(group.title)});
         top->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+        for (const int column : {kKeys, kChanged})
+            top->setData(column, Qt::AccessibleTextRole, top->text(kName));
         for (const ShortcutGroup::Row& row : group.rows) {
             auto* const item = new QTreeWidgetItem(top, {QString::fromStdString(row.name)});
             item->setData(kName, kCommandRole, row.command);
@@ -216,6 +218,11 @@ void CShortcutsPage::show(const Shortcuts& shortcuts) {
         const bool changed = !edited_.isAsGiven(command);
         item->setText(kKeys, listed(edited_.of(command)));
         item->setText(kChanged, changed ? shown(StringId::ShortcutsChanged) : QString());
+        // An empty cell would be read as nothing.
+        item->setData(kKeys, Qt::AccessibleTextRole,
+                      item->text(kKeys).isEmpty() ? shown(StringId::ShortcutsNoKeys) : QVariant());
+        item->setData(kChanged, Qt::AccessibleTextRole,
+                      changed ? QVariant() : shown(StringId::ShortcutsNotChanged));
         QFont font = list_->font();
         font.setBold(changed);
         for (const int column : {kName, kKeys, kChanged})
@@ -320,7 +327,8 @@ void CShortcutsPage::importFile() {
     bytes.resize(file.value()->read(bytes));
     const Result<ReadShortcuts, ShortcutFileError> read = parseShortcutFile(bytes);
     if (!read) {
-        applicationMessage(displayPath(*path) + "\n" + describe(read.error()));
+        applicationMessage(
+            text(StringId::ShortcutFileNotTaken, {displayPath(*path), describe(read.error())}));
         return;
     }
     show(read.value().shortcuts);
