@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <sstream>
 #include <utility>
 
@@ -84,6 +85,24 @@ void compareView(Differences& differences, const std::string& name, const CDyewo
     const auto piece = program.selection().floatingPiece();
     if (piece && model.piece)
         differences.compareImage(name + " piece", plain(*piece->texels), *model.piece);
+}
+
+/// The colours of a palette that the image shows from its first entry on.
+void compareColours(Differences& differences, const std::string& name, const TextureCanvas& program,
+                    const PaletteModel* palette) {
+    if (palette == nullptr || palette->stale)
+        return;
+    const std::size_t entries = palette->table().entries.size();
+    const std::span<const std::uint8_t> colours = program.colourTable();
+    if (program.bitsPerPixel() == 4 && entries > 16)
+        return;
+    for (std::size_t i = 0; i < std::min(entries, colours.size() / 4); ++i) {
+        const std::vector<std::uint8_t> shown = palette->table().shown(i);
+        const bool same =
+            colours[4 * i] == shown[2] && colours[4 * i + 1] == shown[1] && colours[4 * i + 2] == shown[0];
+        if (!same)
+            differences.tell(name + " shows another colour of entry " + std::to_string(i) + "\n");
+    }
 }
 
 void compareProject(Differences& differences, const CTPFDocument& program, const ProjectModel& model) {
@@ -253,6 +272,7 @@ std::string Desk::differences(bool all) {
                        image.document.states.redone.size());
         if (auto* const view = dynamic_cast<CDyeworksView*>(document.views().front()))
             compareView(found, name, *view, image);
+        compareColours(found, name, document.canvas(), model.paletteOf(image));
         found.compare(name + " is active", view() != nullptr && &view()->view().document() == &document,
                       model.active == &image);
     }
@@ -285,6 +305,15 @@ std::string Desk::differences(bool all) {
     for (const CommandId id : kCompared) {
         if (const std::optional<bool> enabled = model.enabled(id))
             found.compare("enabled " + std::to_string(id), app.router().state(id).enabled, *enabled);
+    }
+    if (model.active != nullptr) {
+        for (CommandId id = ID_TOOL_PIXEL; id <= ID_TOOL_REPLACER; ++id) {
+            if (const std::optional<Tool> tool = toolOf(id))
+                found.compare("checked " + std::to_string(id), app.router().state(id).checked.value_or(false),
+                              *tool == model.shared.tool);
+        }
+        found.compare("spuit", app.router().state(ID_TOOL_SPUIT).checked.value_or(false),
+                      model.active->spuit);
     }
     if (all) {
         for (const auto& [path, bytes] : model.files) {

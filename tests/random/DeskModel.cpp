@@ -31,6 +31,7 @@ void PaletteModel::edit(PlainTable table) {
 }
 
 void PaletteModel::setEntries(PlainTable table) {
+    stale = true;
     states.keep(std::exchange(states.now, std::move(table)));
     modified = true;
 }
@@ -130,6 +131,15 @@ std::optional<bool> DeskModel::enabled(CommandId id) {
 void DeskModel::refreshImages() {
     for (const auto& image : images) {
         if (paletteOf(*image) == nullptr)
+            image->document.attached.clear();
+    }
+    if (current() != nullptr)
+        current()->stale = false;
+}
+
+void DeskModel::refreshReplaced() {
+    for (const auto& image : images) {
+        if (std::exchange(image->replaced, false) && paletteOf(*image) == nullptr)
             image->document.attached.clear();
     }
 }
@@ -293,12 +303,17 @@ long DeskModel::Leg::jointAt(std::size_t n, bool back) const {
 
 void DeskModel::Leg::go(bool back) {
     for (; steps > 0; --steps) {
-        if (image == nullptr)
+        if (image == nullptr) {
             static_cast<void>(back ? palette->undo() : palette->redo());
-        else if (back)
-            image->document.undo();
+            continue;
+        }
+        ImageModel& document = image->document;
+        if (back)
+            document.undo();
         else
-            image->document.redo();
+            document.redo();
+        if ((back ? document.states.redone : document.states.undone).back().whole)
+            image->imageReplaced();
     }
 }
 
@@ -360,6 +375,7 @@ void DeskModel::move(const void* first, bool back, int answer) {
     }
     for (Leg& leg : legs)
         leg.go(back);
+    refreshReplaced();
     if (step != 0)
         refreshImages();
 }

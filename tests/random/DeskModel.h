@@ -19,6 +19,7 @@ struct PaletteModel {
     std::string path;
     std::string title; ///< With its mark, when it has one.
     bool modified = false;
+    bool stale = false; ///< Images do not show it yet.
 
     [[nodiscard]] const PlainTable& table() const { return states.now; }
     [[nodiscard]] bool unnamed() const { return path.front() == '*'; }
@@ -77,6 +78,8 @@ struct DeskModel {
 
     /// Images of palettes that are closed are attached to none from now on.
     void refreshImages();
+    /// The same of those that have been replaced.
+    void refreshReplaced();
     void openPalette(const std::string& path);
     void newPalette(int type, int count, int alpha);
     /// False when it stays open.

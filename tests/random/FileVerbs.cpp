@@ -90,6 +90,23 @@ void revert(Desk& desk, const std::vector<int>& n) {
     desk.model.revert(image, n[0]);
 }
 
+/// Nothing can be written just now.
+void failToSave(Desk& desk, const std::vector<int>& n) {
+    const PaletteModel* const palette = desk.model.current();
+    CommandId id = ID_PROJECT_SAVE;
+    if (n[0] == 0 && desk.model.active != nullptr && !desk.model.active->document.path.empty()) {
+        id = ID_FILE_SAVE;
+        desk.model.active->settle();
+    } else if (n[0] == 1 && palette != nullptr && !palette->unnamed()) {
+        id = ID_PALETTE_SAVE;
+    } else if (!desk.model.project) {
+        return;
+    }
+    ++desk.model.messages;
+    desk.fake.files.failNextWrite(FileError::NoSpace);
+    desk.run(id);
+}
+
 void attach(Desk& desk, const std::vector<int>& /*n*/) {
     const bool enabled = desk.model.enabled(ID_IMAGE_ATTACH).value_or(false);
     desk.run(ID_IMAGE_ATTACH);
@@ -106,6 +123,7 @@ const std::vector<Verb>& fileVerbs() {
                                          {"save", 14, {3, Desk::kImages}, saveImage},
                                          {"close", 12, {3, Desk::kImages}, closeImage},
                                          {"revert", 5, {2}, revert},
+                                         {"fail-to-save", 6, {3}, failToSave},
                                          {"attach", 15, {}, attach}};
     return verbs;
 }

@@ -17,7 +17,8 @@ struct WholeStates {
     struct Kept {
         State state;
         long number;
-        long joint = 0; ///< Of a step that is one with steps of other things; 0 for no such step.
+        long joint = 0;     ///< Of a step that is one with steps of other things; 0 for no such step.
+        bool whole = false; ///< Brought another image, maybe of another size.
     };
 
     State now{};
@@ -26,8 +27,8 @@ struct WholeStates {
     std::vector<Kept> undone, redone;
 
     /// What it was before the edit that has just been made.
-    void keep(State before, long joint = 0) {
-        undone.push_back({std::move(before), number, joint});
+    void keep(State before, long joint = 0, bool whole = false) {
+        undone.push_back({std::move(before), number, joint, whole});
         if (undone.size() > kCapacity)
             undone.erase(undone.begin());
         redone.clear();
@@ -62,7 +63,7 @@ private:
         if (from.empty())
             return false;
         to.push_back({std::exchange(now, std::move(from.back().state)),
-                      std::exchange(number, from.back().number), from.back().joint});
+                      std::exchange(number, from.back().number), from.back().joint, from.back().whole});
         from.pop_back();
         return true;
     }

@@ -11,13 +11,14 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::array kCommands{ID_EDIT_SELECT_ALL,  ID_TOOL_SPUIT,    ID_FLIP_X,         ID_FLIP_Y,
-                               ID_CANCEL_SELECTION, ID_EDIT_COPY,     ID_EDIT_CUT,       ID_EDIT_PASTE,
-                               ID_EDIT_PASTE,       ID_ZOOM_IN,       ID_ZOOM_OUT,       ID_ZOOM_X1,
-                               ID_ZOOM_X4,          ID_ZOOM_X6,       ID_VIEW_GRID,      ID_TOOL_SELECT,
-                               ID_TOOL_PIXEL,       ID_TOOL_PEN,      ID_TOOL_LINE,      ID_TOOL_BOX,
-                               ID_TOOL_BOX_FILL,    ID_TOOL_CIRCLE,   ID_TOOL_ZOOM_LENS, ID_TOOL_CIRCLE_FILL,
-                               ID_TOOL_PAINT,       ID_TOOL_REPLACER, ID_TOOL_SELECT};
+constexpr std::array kCommands{
+    ID_IMAGE_TURN_LEFT, ID_IMAGE_TURN_RIGHT, ID_IMAGE_TURN_HALF, ID_IMAGE_SHIFT_HALF, ID_IMAGE_CROP,
+    ID_EDIT_SELECT_ALL, ID_TOOL_SPUIT,       ID_FLIP_X,          ID_FLIP_Y,           ID_CANCEL_SELECTION,
+    ID_EDIT_COPY,       ID_EDIT_CUT,         ID_EDIT_PASTE,      ID_EDIT_PASTE,       ID_ZOOM_IN,
+    ID_ZOOM_OUT,        ID_ZOOM_X1,          ID_ZOOM_X4,         ID_ZOOM_X6,          ID_VIEW_GRID,
+    ID_TOOL_SELECT,     ID_TOOL_PIXEL,       ID_TOOL_PEN,        ID_TOOL_LINE,        ID_TOOL_BOX,
+    ID_TOOL_BOX_FILL,   ID_TOOL_CIRCLE,      ID_TOOL_ZOOM_LENS,  ID_TOOL_CIRCLE_FILL, ID_TOOL_PAINT,
+    ID_TOOL_REPLACER,   ID_TOOL_SELECT};
 
 constexpr std::array<std::pair<Qt::Key, Key>, 8> kKeys{{{Qt::Key_Escape, Key::Escape},
                                                         {Qt::Key_Return, Key::Enter},
@@ -142,6 +143,7 @@ void command(Desk& desk, const std::vector<int>& n) {
     desk.run(id);
     if (enabled)
         desk.model.active->run(id);
+    desk.model.refreshReplaced();
 }
 
 void cell(Desk& desk, const std::vector<int>& n) {
@@ -161,7 +163,7 @@ const std::vector<Verb>& imageVerbs() {
                                          {"right-press", 10, kPointer, rightPress},
                                          {"drag", 150, {48, 48, 16, 16, 48, 48, 48, 48}, drag},
                                          {"key", 80, {8, 3}, key},
-                                         {"command", 135, {27}, command},
+                                         {"command", 135, {static_cast<int>(kCommands.size())}, command},
                                          {"undo", 20, {3, 2}, undo},
                                          {"cell", 30, {256}, cell},
                                          {"repaint", 2, {}, repaint}};

@@ -13,6 +13,11 @@ namespace {
 
 void open(Desk& desk, const std::vector<int>& n) {
     const std::string path = Desk::palettePath(n[0]);
+    // A file that is slow to come has a dialog come up, for which what is dragged is let go of. So that it
+    // does not depend on that, it is now.
+    desk.app.giveUpDrags();
+    if (desk.model.active != nullptr)
+        desk.model.active->cancel();
     desk.fake.dialogs.answerWith(path);
     desk.run(ID_PALETTE_OPEN);
     desk.model.openPalette(path);

@@ -173,6 +173,24 @@ PlainImage PlainImage::part(Rect area) const {
     return cut;
 }
 
+PlainImage PlainImage::turned(bool right) const {
+    PlainImage made = blank(height, width, bits);
+    for (std::int32_t y = 0; y < made.height; ++y) {
+        for (std::int32_t x = 0; x < made.width; ++x)
+            made.put({x, y}, right ? at({y, height - 1 - x}) : at({width - 1 - y, x}));
+    }
+    return made;
+}
+
+PlainImage PlainImage::shifted(Point by) const {
+    PlainImage made = blank(width, height, bits);
+    for (std::int32_t y = 0; y < height; ++y) {
+        for (std::int32_t x = 0; x < width; ++x)
+            made.put({(x + by.x) % width, (y + by.y) % height}, at({x, y}));
+    }
+    return made;
+}
+
 void PlainImage::paste(const PlainImage& piece, Rect area) {
     const std::int32_t w = area.right - area.left + 1;
     const std::int32_t h = area.bottom - area.top + 1;

@@ -39,6 +39,10 @@ struct PlainImage {
     void replace(Rect area, Point like, std::uint32_t value);
     void flip(Rect area, bool across, bool down);
     [[nodiscard]] PlainImage part(Rect area) const;
+    /// By a quarter, clockwise or the other way.
+    [[nodiscard]] PlainImage turned(bool right) const;
+    /// What leaves it on one side comes in at the other.
+    [[nodiscard]] PlainImage shifted(Point by) const;
     /// Scales the piece to the area by nearest neighbours.
     void paste(const PlainImage& piece, Rect area);
 

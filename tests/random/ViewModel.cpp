@@ -61,6 +61,55 @@ void ViewModel::drop() {
     selection.reset();
 }
 
+void ViewModel::imageReplaced() {
+    replaced = true;
+    if (!piece)
+        selection.reset();
+}
+
+/// What floats is placed before.
+template <typename Make>
+void ViewModel::replaceImage(Make make) {
+    settle();
+    PlainImage made = make(document.image());
+    if (made == document.image())
+        return;
+    document.states.keep(std::exchange(document.image(), std::move(made)), 0, true);
+    document.modified = true;
+    imageReplaced();
+}
+
+/// What is selected is turned about its middle, by a quarter as a piece that floats.
+void ViewModel::turn(CommandId id) {
+    const bool half = id == ID_IMAGE_TURN_HALF;
+    const auto turned = [&](const PlainImage& image) {
+        if (!half)
+            return image.turned(id == ID_IMAGE_TURN_RIGHT);
+        PlainImage made = image;
+        made.flip(made.whole(), true, true);
+        return made;
+    };
+    if (!exists())
+        return replaceImage(turned);
+    if (half && !piece) {
+        document.edit([&](PlainImage& image) { image.flip(*selection, true, true); });
+        return;
+    }
+    const PlainImage lifted = piece ? *piece : document.image().part(*selection);
+    if (!piece)
+        clearSelected();
+    piece = turned(lifted);
+    const auto [l, t, r, b] = *selection;
+    anchor_ = half ? Point{l, t} : Point{l + (r - l - (b - t)) / 2, t + (b - t - (r - l)) / 2};
+    setSelection(anchor_, half ? Point{r, b} : Point{anchor_.x + b - t, anchor_.y + r - l});
+}
+
+void ViewModel::crop() {
+    const Rect kept = intersection(*selection, document.image().whole());
+    if (kept.right >= kept.left && kept.bottom >= kept.top)
+        replaceImage([&](const PlainImage& image) { return image.part(kept); });
+}
+
 void ViewModel::settle() {
     cancel();
     if (piece)
@@ -290,7 +339,13 @@ std::optional<bool> ViewModel::enabled(CommandId id) const {
     case ID_FLIP_Y:
     case ID_EDIT_COPY:
     case ID_EDIT_CUT:
+    case ID_IMAGE_CROP:
         return exists();
+    case ID_IMAGE_TURN_LEFT:
+    case ID_IMAGE_TURN_RIGHT:
+    case ID_IMAGE_TURN_HALF:
+    case ID_IMAGE_SHIFT_HALF:
+        return true;
     case ID_EDIT_PASTE:
         return shared_.clipboard.has_value();
     case ID_ZOOM_IN:
@@ -305,8 +360,9 @@ std::optional<bool> ViewModel::enabled(CommandId id) const {
 void ViewModel::run(CommandId id) {
     const std::optional<Tool> tool = toolOf(id);
     const bool draws = tool && !keepsSelection(*tool);
-    const bool ofSelected =
-        id == ID_CANCEL_SELECTION || id == ID_FLIP_X || id == ID_FLIP_Y || id == ID_EDIT_CUT;
+    const bool turns = id >= ID_IMAGE_TURN_LEFT && id <= ID_IMAGE_TURN_HALF;
+    const bool ofSelected = id == ID_CANCEL_SELECTION || id == ID_FLIP_X || id == ID_FLIP_Y ||
+                            id == ID_EDIT_CUT || id == ID_IMAGE_CROP || turns;
     if (id == ID_EDIT_SELECT_ALL || id == ID_EDIT_PASTE)
         cancel();
     if (tool) {
@@ -338,6 +394,14 @@ void ViewModel::run(CommandId id) {
         if (id == ID_EDIT_CUT)
             clearSelected();
     }
+    if (turns)
+        turn(id);
+    if (exists() && id == ID_IMAGE_CROP)
+        crop();
+    if (id == ID_IMAGE_SHIFT_HALF)
+        replaceImage([](const PlainImage& image) {
+            return image.shifted({image.width / 2, image.height / 2});
+        });
     if (id == ID_EDIT_PASTE)
         letFloat(*shared_.clipboard);
 }

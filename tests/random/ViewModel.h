@@ -42,6 +42,7 @@ public:
     int zoom = 1;
     bool grid = true;
     bool spuit = false;
+    bool replaced = false; ///< The image has been: its palette is to be looked for again.
 
     /// For an image that has just been opened or made.
     void begin();
@@ -61,6 +62,8 @@ public:
     void settle();
     /// What floats and is selected goes.
     void drop();
+    /// The image has become another: what was selected in it goes, unless it floats.
+    void imageReplaced();
 
     [[nodiscard]] bool dragging() const { return dragging_; }
     [[nodiscard]] bool exists() const {
@@ -87,6 +90,10 @@ private:
     void drawShape();
     void zoomStep(bool out);
     bool clearSelected();
+    void turn(CommandId id);
+    void crop();
+    template <typename Make>
+    void replaceImage(Make make);
 
     ToolModel& shared_;
     Tool atPress_ = Tool::Select;

@@ -20,7 +20,9 @@ std::string bounded(const char* text) {
     return {text, ::strnlen(text, kMaxLength)};
 }
 
-VersionRecord recordFrom(const DW_VersionInfo& info) {
+} // namespace
+
+VersionRecord versionRecord(const DW_VersionInfo& info) {
     VersionRecord record;
     std::ranges::copy(info.fileVersion, record.fileVersion.begin());
     const DW_VersionString* row = info.strings;
@@ -30,8 +32,6 @@ VersionRecord recordFrom(const DW_VersionInfo& info) {
     }
     return record;
 }
-
-} // namespace
 
 PosixVersionInfo::PosixVersionInfo(const Files& files, VersionRecord program)
     : files_(files)
@@ -44,7 +44,7 @@ std::optional<VersionRecord> PosixVersionInfo::read(const std::string& path) con
     const void* const object = ownObject(handle.get(), "DW_version_info", sizeof(DW_VersionInfo));
     if (object == nullptr)
         return std::nullopt;
-    return recordFrom(*static_cast<const DW_VersionInfo*>(object));
+    return versionRecord(*static_cast<const DW_VersionInfo*>(object));
 }
 
 } // namespace dyeworks

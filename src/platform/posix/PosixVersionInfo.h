@@ -3,7 +3,12 @@
 #include "platform/Files.h"
 #include "platform/VersionInfo.h"
 
+struct DW_VersionInfo;
+
 namespace dyeworks {
+
+/// A copy of what a library says of itself, as far as that makes sense: its texts need not end, nor its rows.
+[[nodiscard]] VersionRecord versionRecord(const DW_VersionInfo& info);
 
 /// Version information from the data symbol that the SDK's DW_VERSION_INFO puts into a library.
 class PosixVersionInfo final : public VersionInfo {
