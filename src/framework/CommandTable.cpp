@@ -306,6 +306,10 @@ constexpr CommandRow kRows[] = {
                QT_TRANSLATE_NOOP("Command", "Take back what was relinked, removed and added since the check, "
                                             "or repeat it\nRevert to Before Check"),
                "", ""},
+    CommandRow{
+        ID_VIEW_UNDO_LIST, QT_TRANSLATE_NOOP("Command", "U&ndo List"),
+        QT_TRANSLATE_NOOP("Command", "Show or hide the steps that can be taken back\nToggle Undo List"), "",
+        ""},
     CommandRow{ID_ENTRY_PREVIOUS, QT_TRANSLATE_NOOP("Command", "&Previous Entry"),
                QT_TRANSLATE_NOOP("Command", "Take the palette entry before the current one\nPrevious Entry"),
                ",", ""},

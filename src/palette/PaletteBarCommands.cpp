@@ -3,6 +3,7 @@
 #include "core/EntryText.h"
 #include "core/PaletteSet.h"
 #include "palette/PaletteBarState.h"
+#include "platform/StringId.h"
 
 namespace dyeworks {
 
@@ -46,12 +47,13 @@ void PaletteBarCommands::OnEditPalette() {
     const auto position = palettes.find(key);
     if (position == palettes.end())
         return;
-    state_.edit(*position->second, [&](TextureLookupTable& palette) {
+    const auto write = [&](TextureLookupTable& palette) {
         if (type == ColourType::Ia)
             palette.setEntryAlias(index, *chosen);
         else
             palette.setEntry(index, *chosen);
-    });
+    };
+    state_.edit(*position->second, write, StringId::StepEditEntry);
 }
 
 void PaletteBarCommands::OnUpdateEditPalette(CommandUi& ui) {
