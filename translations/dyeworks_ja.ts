@@ -1380,6 +1380,14 @@ Toggle Palette Cells Only</source>
 Search Commands</source>
         <translation>名前でコマンドを検索して実行します
 コマンドの検索</translation>
+        <source>U&amp;ndo List</source>
+        <translation>操作履歴(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Show or hide the steps that can be taken back
+Toggle Undo List</source>
+        <translation>取り消せる操作の一覧の表示と非表示を切り替えます。
+操作履歴の表示切り替え</translation>
     </message>
 </context>
 <context>
@@ -5115,6 +5123,188 @@ The file is no longer whole. Save under another name; until then what was to be 
     <message>
         <source>The keys in &quot;%1&quot; cannot be taken over. %2</source>
         <translation>「%1」のキーは取り込めません。%2</translation>
+        <source>Undo List</source>
+        <translation>操作履歴</translation>
+    </message>
+    <message>
+        <source>The steps of the active image or of the current palette, the oldest first. The mark tells where the document stands now; steps below it have been undone. Click a step, or go to it with the arrow keys and press Enter, and the document becomes what it was after that step.</source>
+        <translation>アクティブな画像か現在のパレットの操作を古い順に並べます。印は文書が今どこにあるかを示し、それより下の操作は取り消されています。操作をクリックするか、矢印キーで選んで Enter を押すと、文書はその操作の直後の状態になります。</translation>
+    </message>
+    <message>
+        <source>Whose steps</source>
+        <translation>どちらの操作か</translation>
+    </message>
+    <message>
+        <source>There is no image.</source>
+        <translation>画像がありません。</translation>
+    </message>
+    <message>
+        <source>There is no palette.</source>
+        <translation>パレットがありません。</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>%2 のうち %1: %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3, current</source>
+        <translation>%2 のうち %1: %3、現在</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3, undone</source>
+        <translation>%2 のうち %1: %3、取り消し済み</translation>
+    </message>
+    <message>
+        <source>A piece floats above the image. Place it with Enter, or drop it with Esc, before you go to another step.</source>
+        <translation>画像の上に浮いている部分があります。ほかの操作へ移る前に、Enter で置くか Esc で捨ててください。</translation>
+    </message>
+    <message>
+        <source>Opened</source>
+        <translation>開いたとき</translation>
+    </message>
+    <message>
+        <source>Earlier steps</source>
+        <translation>以前の操作</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>Pixel</source>
+        <translation>ドット</translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation>ペン</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>直線</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>四角形</translation>
+    </message>
+    <message>
+        <source>Box Fill</source>
+        <translation>四角形塗りつぶし</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>円</translation>
+    </message>
+    <message>
+        <source>Circle Fill</source>
+        <translation>円塗りつぶし</translation>
+    </message>
+    <message>
+        <source>Paint</source>
+        <translation>塗りつぶし</translation>
+    </message>
+    <message>
+        <source>Replacer</source>
+        <translation>色の置き換え</translation>
+    </message>
+    <message>
+        <source>Lift Selection</source>
+        <translation>選択範囲の切り離し</translation>
+    </message>
+    <message>
+        <source>Place Selection</source>
+        <translation>選択範囲の配置</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>切り取り</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>貼り付け</translation>
+    </message>
+    <message>
+        <source>Paste Matching Colours</source>
+        <translation>色を合わせて貼り付け</translation>
+    </message>
+    <message>
+        <source>Place Import</source>
+        <translation>インポートした絵の配置</translation>
+    </message>
+    <message>
+        <source>Flip X</source>
+        <translation>左右反転</translation>
+    </message>
+    <message>
+        <source>Flip Y</source>
+        <translation>上下反転</translation>
+    </message>
+    <message>
+        <source>Turn Left</source>
+        <translation>左に回転</translation>
+    </message>
+    <message>
+        <source>Turn Right</source>
+        <translation>右に回転</translation>
+    </message>
+    <message>
+        <source>Turn Half</source>
+        <translation>180 度回転</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>拡大・縮小</translation>
+    </message>
+    <message>
+        <source>Crop to Selection</source>
+        <translation>選択範囲で切り抜き</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>ずらす</translation>
+    </message>
+    <message>
+        <source>Shift by Half</source>
+        <translation>半分ずらす</translation>
+    </message>
+    <message>
+        <source>To 8 Bits</source>
+        <translation>8 ビットに変換</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>再読み込み</translation>
+    </message>
+    <message>
+        <source>Plug-In</source>
+        <translation>プラグイン</translation>
+    </message>
+    <message>
+        <source>Apply Entry</source>
+        <translation>エントリの適用</translation>
+    </message>
+    <message>
+        <source>Edit Entry</source>
+        <translation>エントリの編集</translation>
+    </message>
+    <message>
+        <source>Paste Entries</source>
+        <translation>エントリの貼り付け</translation>
+    </message>
+    <message>
+        <source>Ramp</source>
+        <translation>グラデーション</translation>
+    </message>
+    <message>
+        <source>Invert Entries</source>
+        <translation>エントリの色を反転</translation>
+    </message>
+    <message>
+        <source>Reverse Entries</source>
+        <translation>エントリを逆順に</translation>
+    </message>
+    <message>
+        <source>Fill Entries</source>
+        <translation>エントリの塗りつぶし</translation>
     </message>
 </context>
 </TS>

@@ -43,15 +43,22 @@ bool EditHistory::canRedo() const {
 
 void EditHistory::restart() {
     const bool saved = standsAtSavedPosition();
+    if (steps == nullptr || steps->count() > 0)
+        start_ = HistoryStart::Later;
     // First the old one goes: the user may have asked for this because memory is short.
     steps.reset();
     steps = std::make_unique<UndoHistory>();
     savedPosition_ = saved ? steps->position() : kUnreachable;
 }
 
-void EditHistory::restartSaved() {
+void EditHistory::restartSaved(HistoryStart start) {
     restart();
+    start_ = start;
     markSaved();
+}
+
+HistoryStart EditHistory::start() const {
+    return steps != nullptr && steps->firstPosition() != 0 ? HistoryStart::Later : start_;
 }
 
 void EditHistory::markSaved() {

@@ -8,6 +8,13 @@
 
 namespace dyeworks {
 
+/// What came before the first step of a history.
+enum class HistoryStart {
+    New,    ///< Something made in the program, or brought into it.
+    Opened, ///< What was read from a file.
+    Later   ///< Steps that are known no more.
+};
+
 /// The undo history of something that is kept in a file, and where in it the file stands.
 class EditHistory {
 public:
@@ -28,8 +35,10 @@ public:
 
     /// Starts a new, empty history, which stands at the saved position if the old one did.
     void restart();
-    /// The object is as it was read or written: a new, empty history that stands at the saved position.
-    void restartSaved();
+    /// The object is as it was read or made: a new, empty history that stands at the saved position.
+    void restartSaved(HistoryStart start = HistoryStart::New);
+    [[nodiscard]] HistoryStart start() const;
+    void setStart(HistoryStart start) noexcept { start_ = start; }
     /// The file now holds the state that the history stands at.
     void markSaved();
     /// The object has changed without a step: until the next save nothing leads to what the file holds.
@@ -44,6 +53,7 @@ private:
 
     MessageIcon icon_;
     std::int32_t savedPosition_ = 0;
+    HistoryStart start_ = HistoryStart::New;
 };
 
 } // namespace dyeworks

@@ -1,5 +1,6 @@
 #include "core/JointStep.h"
 
+#include "core/StepList.h"
 #include "platform/Platform.h"
 #include "platform/ProgramPath.h"
 #include "platform/StringId.h"
@@ -261,6 +262,41 @@ bool JointStep::move(JointDocument& document, StepWay way) {
             (*alive)->showMoved();
     }
     return true;
+}
+
+bool JointStep::moveTo(JointDocument& document, std::int32_t position) {
+    document.settle();
+    const std::weak_ptr<JointDocument*> self = document.handle();
+    const auto standsAt = [&] { return document.jointHistory().position(); };
+    const std::vector<StepRow> rows = stepsOf(document.jointHistory());
+    if (std::ranges::find(rows, position, &StepRow::position) == rows.end())
+        return false;
+    // Positions grow from each step to the next.
+    const StepWay way = position < standsAt() ? StepWay::Back : StepWay::Forward;
+    const auto isOnTheWay = [&] {
+        return way == StepWay::Back ? position < standsAt() : position > standsAt();
+    };
+    bool unshown = false;
+    while (isOnTheWay()) {
+        const UndoRecord* const record = atHand(document, way);
+        if (record == nullptr)
+            break;
+        if (stepOf(*record) == nullptr) {
+            if (!document.moveAlone(way))
+                break;
+            unshown = true;
+            continue;
+        }
+        // The user may be asked, and sees what has been done so far.
+        if (std::exchange(unshown, false))
+            document.showAlone();
+        if (self.expired() || !move(document, way) || self.expired())
+            return false;
+    }
+    const bool arrived = standsAt() == position;
+    if (unshown)
+        document.showAlone();
+    return arrived;
 }
 
 } // namespace dyeworks

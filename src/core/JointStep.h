@@ -3,6 +3,7 @@
 #include "core/EditHistory.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -63,6 +64,10 @@ public:
     /// it, the user is told which, and asked whether to take those steps, too. False when there is no step or
     /// the user left it; nothing has changed then.
     static bool move(JointDocument& document, StepWay way);
+    /// Takes steps of the document back, or does them again, one after another as `move` does, until its
+    /// history stands at `position`; what belongs to it alone is shown once. False when there is no such
+    /// position, and when it ended before because the user left a step.
+    static bool moveTo(JointDocument& document, std::int32_t position);
 
 private:
     class Tie;

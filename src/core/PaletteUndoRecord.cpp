@@ -51,6 +51,7 @@ bool PaletteUndoRecord::changesKind() const {
 std::unique_ptr<UndoRecord> PaletteUndoRecord::inverse() const {
     auto record = std::make_unique<PaletteUndoRecord>(after.get(), before.get());
     record->identifier = identifier;
+    record->name = name;
     return record;
 }
 

@@ -155,6 +155,7 @@ bool TextureLookupTable::open(const char* name) {
     if (!table.readTlf(path))
         return false;
     file_ = std::move(now);
+    edits_.setStart(HistoryStart::Opened);
     titleFromPath();
     markSaved();
     updateTitle();
@@ -169,7 +170,7 @@ bool TextureLookupTable::reloadFile() {
     if (!(read == table)) {
         beginEdit();
         table = std::move(read);
-        commitEdit();
+        commitEdit(StringId::StepReload);
     }
     file_ = std::move(now);
     title.resize(std::min(title.size(), title.find(kModifiedMark)));
@@ -310,10 +311,13 @@ bool TextureLookupTable::beginEdit() {
     return snapshot != nullptr;
 }
 
-bool TextureLookupTable::commitEdit() {
+bool TextureLookupTable::commitEdit(std::optional<StringId> name) {
     if (history == nullptr)
         return false;
-    return edits_.add(newRecord());
+    std::unique_ptr<UndoRecord> record = newRecord();
+    if (record != nullptr)
+        record->name = name;
+    return edits_.add(std::move(record));
 }
 
 bool TextureLookupTable::undo() {
@@ -322,6 +326,10 @@ bool TextureLookupTable::undo() {
 
 bool TextureLookupTable::redo() {
     return JointStep::move(*jointSide_, StepWay::Forward);
+}
+
+bool TextureLookupTable::goTo(std::int32_t position) {
+    return JointStep::moveTo(*jointSide_, position);
 }
 
 bool TextureLookupTable::canUndo() const {

@@ -82,14 +82,17 @@ public:
     void markUnsaved();
 
     /// Bracket every undoable edit. `beginEdit` keeps the table as it is: false when there is no memory for
-    /// that. `commitEdit` records what became of it: false without a history, and when there is no memory for
-    /// the record, in which case the user has been asked whether to start the history anew.
+    /// that. `commitEdit` records what became of it, under a name for the user: false without a history, and
+    /// when there is no memory for the record, in which case the user has been asked whether to start the
+    /// history anew.
     bool beginEdit();
-    bool commitEdit();
+    bool commitEdit(std::optional<StringId> name = {});
 
     /// A step that belongs to other documents, too, is taken back (done again) in all of them.
     bool undo();
     bool redo();
+    /// Steps until the history stands at `position`, as `JointStep::moveTo` does it.
+    bool goTo(std::int32_t position);
     [[nodiscard]] bool canUndo() const;
     [[nodiscard]] bool canRedo() const;
     /// Starts a new, empty history.

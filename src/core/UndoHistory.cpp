@@ -67,7 +67,7 @@ void UndoHistory::clear() {
 }
 
 std::int32_t UndoHistory::position() const noexcept {
-    return current_ != nullptr ? current_->identifier : droppedIdentifier_;
+    return current_ != nullptr ? current_->identifier : firstPosition();
 }
 
 /// Counted anew each time: what a record holds may change with each undo and redo.

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "platform/Text.h"
+
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 namespace dyeworks {
 
@@ -27,7 +30,7 @@ public:
     virtual bool undo(void* target) = 0;
     virtual bool redo(void* target) = 0;
 
-    /// A new record of the same kind and identifier that undoes what this one redoes, and the other way
+    /// A new record of the same kind, identifier and name that undoes what this one redoes, and the other way
     /// round.
     [[nodiscard]] virtual std::unique_ptr<UndoRecord> inverse() const = 0;
 
@@ -35,6 +38,7 @@ public:
     [[nodiscard]] virtual std::uint64_t bytes() const { return 0; }
 
     std::int32_t identifier = -1; ///< -1 until the record is added.
+    std::optional<StringId> name; ///< What the user knows the edit by.
     UndoRecord* previous = nullptr;
     UndoRecord* next = nullptr;
     std::unique_ptr<RecordTie> tie; ///< Mostly none.
@@ -72,12 +76,16 @@ public:
     /// The record that `undo` reverts next, or null; the one that `redo` applies next, or null.
     [[nodiscard]] UndoRecord* currentRecord() const noexcept { return current_; }
     [[nodiscard]] UndoRecord* redoRecord() const noexcept { return redo_; }
+    /// The oldest one that is held, or null; the others follow by their links.
+    [[nodiscard]] const UndoRecord* first() const noexcept { return first_; }
     [[nodiscard]] std::int32_t capacity() const noexcept { return capacity_; }
 
     /// Names the state that the edited object is in: the identifier of the last edit in effect, also when
     /// that edit has been dropped for capacity, and 0 before the first. Two equal positions of one history
     /// (between two `clear`) are the same state.
     [[nodiscard]] std::int32_t position() const noexcept;
+    /// The position before `first`; other than 0 when older records have been dropped.
+    [[nodiscard]] std::int32_t firstPosition() const noexcept { return droppedIdentifier_; }
 
 private:
     [[nodiscard]] std::uint64_t bytes() const;

@@ -171,6 +171,7 @@ inline constexpr CommandId ID_PROJECT_ADD_FOLDER = 33231;
 inline constexpr CommandId ID_PROJECT_REVERT_CHECK = 33232;
 
 inline constexpr CommandId ID_COMMAND_SEARCH = 33242;
+inline constexpr CommandId ID_VIEW_UNDO_LIST = 33244;
 
 inline constexpr CommandId ID_ENTRY_PREVIOUS = 33250;
 inline constexpr CommandId ID_ENTRY_NEXT = 33251;

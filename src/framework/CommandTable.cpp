@@ -309,6 +309,10 @@ constexpr CommandRow kRows[] = {
     CommandRow{ID_COMMAND_SEARCH, QT_TRANSLATE_NOOP("Command", "&Search Commands..."),
                QT_TRANSLATE_NOOP("Command", "Find a command by its name and run it\nSearch Commands"),
                "Ctrl+Shift+P", ""},
+    CommandRow{
+        ID_VIEW_UNDO_LIST, QT_TRANSLATE_NOOP("Command", "U&ndo List"),
+        QT_TRANSLATE_NOOP("Command", "Show or hide the steps that can be taken back\nToggle Undo List"), "",
+        ""},
     CommandRow{ID_ENTRY_PREVIOUS, QT_TRANSLATE_NOOP("Command", "&Previous Entry"),
                QT_TRANSLATE_NOOP("Command", "Take the palette entry before the current one\nPrevious Entry"),
                ",", ""},

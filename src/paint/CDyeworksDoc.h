@@ -12,6 +12,7 @@
 #include "paint/TexelCounts.h"
 #include "paint/TextureCanvas.h"
 #include "platform/DisplayPalette.h"
+#include "platform/Text.h"
 
 #include <array>
 #include <cstdint>
@@ -59,20 +60,20 @@ public:
     [[nodiscard]] ImageEdit* BeginEdit(ImageViewer* viewer);
     /// Shows what was drawn through the open edit in its viewer and in the previews, which may end it.
     void ShowEdit();
-    /// Makes the open edit one undo step and shows it in all views. One that leaves every texel as it was
-    /// records none.
-    void CommitEdit();
+    /// Makes the open edit one undo step of that name and shows it in all views. One that leaves every texel
+    /// as it was records none.
+    void CommitEdit(std::optional<StringId> name = {});
     /// Takes the open edit back.
     void DropEdit();
-    /// An edit from begin to commit. Without memory to undo it the user is asked first; false when it was
-    /// left then.
+    /// An edit from begin to commit, under a name for the user. Without memory to undo it the user is asked
+    /// first; false when it was left then.
     template <typename Draw>
-    bool Edit(ImageViewer* viewer, Draw draw) {
+    bool Edit(ImageViewer* viewer, Draw draw, std::optional<StringId> name = {}) {
         endOpenEdit();
         if (snapshot_.take(canvas_)) {
             ImageEdit edit(*this, canvas_, snapshot_, viewer);
             draw(canvas_);
-            edit.commit();
+            edit.commit(name);
             showEverywhere(viewer);
         } else {
             if (!goesWithoutUndo())
@@ -84,12 +85,13 @@ public:
     }
     /// Takes over the image's texels. False, changing nothing, unless size and depth are the document's and
     /// there is memory for it; the caller tells.
-    bool SetImage(const TmfImage& image);
+    bool SetImage(const TmfImage& image, std::optional<StringId> name = {});
     /// Makes the new image of the old one; null when there is no memory for it.
     using CanvasMaker = std::function<std::unique_ptr<TextureCanvas>(const TextureCanvas& canvas)>;
     struct Replacing {
-        std::optional<std::int32_t> firstEntry; ///< Becomes the palette value.
-        Point moved;                            ///< By how much the picture lies further right and down.
+        std::optional<StringId> name{};           ///< Of the step, for the user.
+        std::optional<std::int32_t> firstEntry{}; ///< Becomes the palette value.
+        Point moved{};                            ///< By how much the picture lies further right and down.
     };
     /// Gives the image another canvas, maybe of another size or depth, as one step of the history. Pieces
     /// that float are placed first, and nothing is selected any more. False, changing nothing, when a piece
@@ -108,6 +110,9 @@ public:
     bool Undo();
     [[nodiscard]] bool CanUndo() const { return openEdit_ != nullptr || edits_.canUndo(); }
     bool Redo();
+    /// Steps until the history stands at `position`, as `JointStep::moveTo` does it. False, changing nothing,
+    /// while an edit is open or a piece floats.
+    bool GoTo(std::int32_t position);
     /// For steps that this image shares with others.
     [[nodiscard]] JointDocument& jointSide() noexcept { return *this; }
     /// What its views show above it, in the order in which it would be placed.
@@ -206,7 +211,8 @@ private:
 
     void showDrawn(ImageViewer* viewer) override;
     void showTakenBack(ImageViewer* viewer) override;
-    bool recordStep(const TextureCanvas& before, const Rect& changed, const TouchedTiles& touched) override;
+    bool recordStep(const TextureCanvas& before, const Rect& changed, const TouchedTiles& touched,
+                    std::optional<StringId> name) override;
     void tellTexelsChanged();
     [[nodiscard]] std::string jointName() const override { return displayName(); }
     [[nodiscard]] const EditHistory& jointHistory() const override { return edits_; }
@@ -222,7 +228,7 @@ private:
     void texelsChanged();
     [[nodiscard]] static bool goesWithoutUndo();
     void editedWithoutUndo(ImageViewer* viewer);
-    void contentsAreSaved();
+    void contentsAreSaved(HistoryStart start);
     void contentsAreInFile();
     void contentsAreUnsaved();
 

@@ -42,11 +42,11 @@ void CDyeworksDoc::ShowEdit() {
         openEdit_->show();
 }
 
-void CDyeworksDoc::CommitEdit() {
+void CDyeworksDoc::CommitEdit(std::optional<StringId> name) {
     const std::unique_ptr<ImageEdit> edit = std::move(openEdit_);
     if (edit == nullptr)
         return;
-    edit->commit();
+    edit->commit(name);
     showEverywhere(edit->viewer());
 }
 
@@ -73,7 +73,7 @@ void CDyeworksDoc::editedWithoutUndo(ImageViewer* viewer) {
     showEverywhere(viewer);
 }
 
-bool CDyeworksDoc::SetImage(const TmfImage& image) {
+bool CDyeworksDoc::SetImage(const TmfImage& image, std::optional<StringId> name) {
     takeBackDrags();
     const TextureCanvas source(image);
     if (!openEdit(nullptr))
@@ -82,7 +82,7 @@ bool CDyeworksDoc::SetImage(const TmfImage& image) {
         openEdit_.reset();
         return false;
     }
-    CommitEdit();
+    CommitEdit(name);
     return true;
 }
 
@@ -113,11 +113,15 @@ void CDyeworksDoc::showTakenBack(ImageViewer* viewer) {
     canvas_.ResetChangedRect();
 }
 
-bool CDyeworksDoc::recordStep(const TextureCanvas& before, const Rect& changed, const TouchedTiles& touched) {
+bool CDyeworksDoc::recordStep(const TextureCanvas& before, const Rect& changed, const TouchedTiles& touched,
+                              std::optional<StringId> name) {
     historyMoved_ = true;
     counts_.change(before, canvas_, changed, touched);
     texelsChanged();
-    const bool recorded = edits_.add(makeRecord_(before, canvas_, changed));
+    std::unique_ptr<ImageUndoRecord> record = makeRecord_(before, canvas_, changed);
+    if (record != nullptr)
+        record->name = name;
+    const bool recorded = edits_.add(std::move(record));
     unrecorded_ = unrecorded_ || !recorded;
     return recorded;
 }
@@ -166,6 +170,7 @@ bool CDyeworksDoc::ReplaceImage(const CanvasMaker& make, const Replacing& how) {
         applicationWarning(text(StringId::NotEnoughMemory), text(StringId::MemoryAdvice));
         return false;
     }
+    record->name = how.name;
     record->redo(&canvas_);
     historyMoved_ = true;
     texelsChanged();
@@ -225,8 +230,8 @@ void CDyeworksDoc::takeBackDrags() {
 }
 
 /// The image is another one, which is what its file holds.
-void CDyeworksDoc::contentsAreSaved() {
-    edits_.restartSaved();
+void CDyeworksDoc::contentsAreSaved(HistoryStart start) {
+    edits_.restartSaved(start);
     counts_.forget();
     unrecorded_ = false;
     texelsChanged();

@@ -47,7 +47,7 @@ bool CDyeworksDoc::onNewDocument() {
         return false;
     }
     snapshot_.forget();
-    contentsAreSaved();
+    contentsAreSaved(HistoryStart::New);
     RefreshPalette();
     host_.AskUseProject();
     return true;
@@ -71,7 +71,7 @@ bool CDyeworksDoc::CreateFrom(const BmpImage& bitmap) {
 
 void CDyeworksDoc::contentsAreUnsaved() {
     snapshot_.forget();
-    contentsAreSaved();
+    contentsAreSaved(HistoryStart::New);
     // No step, and none that is undone, leads to what a file holds.
     edits_.loseSavedPosition();
     unrecorded_ = true;
@@ -82,7 +82,7 @@ bool CDyeworksDoc::onOpenDocument(const std::string& path) {
     if (!CDocument::onOpenDocument(path) || !loadCanvas(canvas_, path))
         return false;
     snapshot_.forget();
-    contentsAreSaved();
+    contentsAreSaved(HistoryStart::Opened);
     if (isBmpName(path))
         makePaletteOfColours();
     else
@@ -173,7 +173,7 @@ void CDyeworksDoc::Revert() {
     setFile(std::move(now));
     forEachViewer([](ImageViewer& viewer) { viewer.DropSelection(); });
     takeContents(saved);
-    contentsAreSaved();
+    contentsAreSaved(HistoryStart::Opened);
     historyMoved_ = false;
     setModified(false);
     host_.imageChanged(*this, Rect{0, 0, canvas_.width() - 1, canvas_.height() - 1});
@@ -189,8 +189,10 @@ bool CDyeworksDoc::reloadFile() {
                       loaded->bitsPerPixel() == canvas_.bitsPerPixel();
     // What is selected and where the window stands stay as they are, where they can.
     const bool taken =
-        fits ? Edit(nullptr, [&](TextureCanvas& canvas) { static_cast<void>(canvas.CopyFrom(*loaded)); })
-             : ReplaceImage([&](const TextureCanvas&) { return std::move(loaded); });
+        fits ? Edit(
+                   nullptr, [&](TextureCanvas& canvas) { static_cast<void>(canvas.CopyFrom(*loaded)); },
+                   StringId::StepReload)
+             : ReplaceImage([&](const TextureCanvas&) { return std::move(loaded); }, {StringId::StepReload});
     if (!taken)
         return false;
     setFile(std::move(now));

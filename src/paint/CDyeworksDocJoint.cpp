@@ -48,6 +48,23 @@ bool CDyeworksDoc::Redo() {
     return true;
 }
 
+bool CDyeworksDoc::GoTo(std::int32_t position) {
+    if (openEdit_ != nullptr || !floatingPieces().empty())
+        return false;
+    const bool back = position < edits_.position();
+    const std::uint16_t depth = canvas_.bitsPerPixel();
+    const std::weak_ptr<JointDocument*> self = handle();
+    const bool arrived = JointStep::moveTo(*this, position);
+    if (self.expired())
+        return false;
+    // As each step would have said it.
+    if (!back)
+        tellProject(depth);
+    else if (canvas_.bitsPerPixel() != depth)
+        host_.setStatusText("", kMessagePane);
+    return arrived;
+}
+
 bool CDyeworksDoc::moveAlone(StepWay way) {
     const bool back = way == StepWay::Back;
     if (!(back ? edits_.canUndo() : edits_.canRedo()))

@@ -1,6 +1,7 @@
 #include "paint/CDyeworksDoc.h"
 #include "paint/CanvasDifference.h"
 #include "paint/ImagePlugIns.h"
+#include "platform/StringId.h"
 
 #include <utility>
 
@@ -91,7 +92,7 @@ void CDyeworksDoc::ImportThrough(std::int32_t plugIn) {
     if (brought == nullptr || viewer == nullptr)
         return;
     viewer->RepaintNow();
-    viewer->SetFloatingPiece(std::move(brought));
+    viewer->SetFloatingPiece(std::move(brought), StringId::StepPlugInPiece);
 }
 
 void CDyeworksDoc::ExportThrough(std::int32_t plugIn) {

@@ -153,7 +153,7 @@ private:
     [[nodiscard]] std::optional<FloatingPiece> floatingPiece() const override {
         return selection_.floatingPiece();
     }
-    void SetFloatingPiece(std::unique_ptr<TextureCanvas> piece) override;
+    void SetFloatingPiece(std::unique_ptr<TextureCanvas> piece, StringId name) override;
     void RecolourFloatingPiece() override { selection_.recolourFloatingPiece(); }
     bool CommitFloatingPiece(bool redraw) override { return selection_.commitFloatingPiece(redraw); }
     void DropSelection() override;

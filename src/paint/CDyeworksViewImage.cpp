@@ -67,13 +67,14 @@ void CDyeworksView::OnResizeCanvas() {
     const Point place = anchored(sizeOf(document_.canvas()), wanted->size, wanted->anchor);
     document_.ReplaceImage(
         [&](const TextureCanvas& canvas) { return resized(canvas, wanted->size, place, wanted->fill); },
-        {std::nullopt, place});
+        {StringId::StepResize, std::nullopt, place});
 }
 
 void CDyeworksView::OnScaleImage() {
     CancelDrag();
     if (const auto wanted = ask(document_, ScaleImage{sizeOf(document_.canvas())}))
-        document_.ReplaceImage([&](const TextureCanvas& canvas) { return scaled(canvas, wanted->size); });
+        document_.ReplaceImage([&](const TextureCanvas& canvas) { return scaled(canvas, wanted->size); },
+                               {StringId::StepScale});
 }
 
 /// What is selected may have been moved across the edge of the image.
@@ -90,19 +91,22 @@ void CDyeworksView::OnCrop() {
         [&](const TextureCanvas& canvas) {
             return resized(canvas, {kept.right - kept.left + 1, kept.bottom - kept.top + 1}, place, 0);
         },
-        {std::nullopt, place});
+        {StringId::StepCrop, std::nullopt, place});
 }
 
 void CDyeworksView::OnShiftImage() {
     CancelDrag();
     if (const auto wanted = ask(document_, ShiftImage{}))
-        document_.ReplaceImage([&](const TextureCanvas& canvas) { return shifted(canvas, wanted->by); });
+        document_.ReplaceImage([&](const TextureCanvas& canvas) { return shifted(canvas, wanted->by); },
+                               {StringId::StepShift});
 }
 
 void CDyeworksView::OnShiftByHalf() {
-    document_.ReplaceImage([](const TextureCanvas& canvas) {
-        return shifted(canvas, {canvas.width() / 2, canvas.height() / 2});
-    });
+    document_.ReplaceImage(
+        [](const TextureCanvas& canvas) {
+            return shifted(canvas, {canvas.width() / 2, canvas.height() / 2});
+        },
+        {StringId::StepShiftHalf});
 }
 
 void CDyeworksView::OnTurn(CommandId id) {
@@ -113,7 +117,10 @@ void CDyeworksView::OnTurn(CommandId id) {
     if (selection_.exists())
         selection_.turn(turn);
     else
-        document_.ReplaceImage([&](const TextureCanvas& canvas) { return turned(canvas, turn); });
+        document_.ReplaceImage([&](const TextureCanvas& canvas) { return turned(canvas, turn); },
+                               {turn == Turn::Left    ? StringId::StepTurnLeft
+                                : turn == Turn::Right ? StringId::StepTurnRight
+                                                      : StringId::StepTurnHalf});
 }
 
 void CDyeworksView::OnToFourBits() {
@@ -143,7 +150,7 @@ void CDyeworksView::OnToFourBits() {
     const IndexMap map =
         nearestInBank(shownColours(document_.canvas(), document_.GetAttachedPalette()), bank);
     document_.ReplaceImage([&](const TextureCanvas& canvas) { return inFourBits(canvas, map, bank); },
-                           {bank * kBankEntries, {}});
+                           {StringId::StepTo4Bits, bank * kBankEntries});
 }
 
 /// The image shows the same bank of a large palette as before.
@@ -151,9 +158,11 @@ void CDyeworksView::OnToEightBits() {
     const TextureLookupTable* const palette = document_.GetAttachedPalette();
     const bool showsBank = palette != nullptr && palette->table.count == kBanks * kBankEntries;
     const std::int32_t bank = document_.paletteValue() / kBankEntries;
-    document_.ReplaceImage([&](const TextureCanvas& canvas) {
-        return inEightBits(canvas, showsBank && bank >= 0 && bank < kBanks ? bank : 0);
-    });
+    document_.ReplaceImage(
+        [&](const TextureCanvas& canvas) {
+            return inEightBits(canvas, showsBank && bank >= 0 && bank < kBanks ? bank : 0);
+        },
+        {StringId::StepTo8Bits});
 }
 
 void CDyeworksView::OnUpdateDepth(CommandUi& ui) {

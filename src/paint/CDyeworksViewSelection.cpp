@@ -53,8 +53,8 @@ void widen(std::int32_t& first, std::int32_t& last, std::int32_t length) {
 
 } // namespace
 
-void CDyeworksView::SetFloatingPiece(std::unique_ptr<TextureCanvas> piece) {
-    selection_.setFloatingPiece(std::move(piece));
+void CDyeworksView::SetFloatingPiece(std::unique_ptr<TextureCanvas> piece, StringId name) {
+    selection_.setFloatingPiece(std::move(piece), name);
 }
 
 void CDyeworksView::DropSelection() {
@@ -131,10 +131,12 @@ void CDyeworksView::OnFlip(CommandId id) {
     if (!selection_.exists())
         return;
     const Rect area = *selection_.texels();
-    document_.Edit(this, [&](TextureCanvas& canvas) {
+    const bool across = id == ID_FLIP_X;
+    const auto flip = [&](TextureCanvas& canvas) {
         canvas.Flip(area.left, area.top, area.right, area.bottom,
-                    id == ID_FLIP_X ? TextureCanvas::kFlipHorizontal : TextureCanvas::kFlipVertical);
-    });
+                    across ? TextureCanvas::kFlipHorizontal : TextureCanvas::kFlipVertical);
+    };
+    document_.Edit(this, flip, across ? StringId::StepFlipX : StringId::StepFlipY);
 }
 
 void CDyeworksView::OnCopy() {
@@ -156,9 +158,10 @@ void CDyeworksView::OnCut() {
     if (!copySelection())
         return;
     const Rect area = *selection_.texels();
-    document_.Edit(this, [&](TextureCanvas& canvas) {
+    const auto erase = [&](TextureCanvas& canvas) {
         canvas.FillBox(area.left, area.top, area.right, area.bottom, 0);
-    });
+    };
+    document_.Edit(this, erase, StringId::StepCut);
 }
 
 void CDyeworksView::OnUpdateSelected(CommandUi& ui) {
@@ -171,7 +174,7 @@ void CDyeworksView::OnPaste() {
     if (piece == nullptr && platform().clipboard().offers(ClipboardFormat::Bitmap))
         applicationWarning(text(StringId::CannotPaste), text(StringId::ClipboardAdvice));
     const bool differs = piece != nullptr && !keepsColours(*piece, document_.canvas());
-    SetFloatingPiece(std::move(piece));
+    SetFloatingPiece(std::move(piece), StringId::StepPaste);
     document_.host().setStatusText(differs ? text(StringId::PastedColoursDiffer) : std::string(),
                                    kMessagePane);
 }

@@ -37,7 +37,7 @@ void ImageEdit::takeBack() {
     host_.showTakenBack(viewer_);
 }
 
-bool ImageEdit::commit() {
+bool ImageEdit::commit(std::optional<StringId> name) {
     noteChanges();
     committed_ = true;
     if (!touched_)
@@ -48,7 +48,7 @@ bool ImageEdit::commit() {
         return false;
     const TextureCanvas& before = *snapshot_.canvas();
     const auto differing = differingRect(before, canvas_, intersection(*touched_, *written));
-    return differing && host_.recordStep(before, *differing, touchedTiles_);
+    return differing && host_.recordStep(before, *differing, touchedTiles_, name);
 }
 
 void ImageEdit::noteChanges() {

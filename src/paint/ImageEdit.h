@@ -4,6 +4,7 @@
 #include "paint/Rect.h"
 #include "paint/TextureCanvas.h"
 #include "paint/TouchedTiles.h"
+#include "platform/Text.h"
 
 #include <optional>
 
@@ -22,8 +23,8 @@ public:
     virtual void showTakenBack(ImageViewer* viewer) = 0;
     /// Adds the step from `before` to what the canvas is now within `changed` (inclusive), where nothing but
     /// what was touched differs. False when it could not be made, which the user has then been told.
-    virtual bool recordStep(const TextureCanvas& before, const Rect& changed,
-                            const TouchedTiles& touched) = 0;
+    virtual bool recordStep(const TextureCanvas& before, const Rect& changed, const TouchedTiles& touched,
+                            std::optional<StringId> name) = 0;
 };
 
 /// One change of an image, from its first texel to its undo step. It is drawn through, shown as often as
@@ -48,9 +49,10 @@ public:
     void show();
     /// Puts the image back to what it was when the edit began; it goes on from there.
     void takeBack();
-    /// Records what the edit has changed as one step of the history; the canvas's changed rectangle is then
-    /// all that it has touched. False when no texel differs, and when the step could not be made.
-    bool commit();
+    /// Records what the edit has changed as one step of the history, under a name for the user; the canvas's
+    /// changed rectangle is then all that it has touched. False when no texel differs, and when the step
+    /// could not be made.
+    bool commit(std::optional<StringId> name);
 
 private:
     void noteChanges();

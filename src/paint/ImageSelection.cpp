@@ -107,7 +107,7 @@ void ImageSelection::moveBy(Point step, bool edges) {
     window_.invalidateAll();
 }
 
-void ImageSelection::setFloatingPiece(std::unique_ptr<TextureCanvas> piece) {
+void ImageSelection::setFloatingPiece(std::unique_ptr<TextureCanvas> piece, StringId name) {
     if (piece == nullptr || piece->width() <= 0 || piece->height() <= 0)
         return;
     if (floatingPiece_ != nullptr && !commitFloatingPiece(true))
@@ -116,6 +116,7 @@ void ImageSelection::setFloatingPiece(std::unique_ptr<TextureCanvas> piece) {
                heldInside(anchor_.y, piece->height(), document_.canvas().height())};
     const Rect place{anchor_.x, anchor_.y, anchor_.x + piece->width() - 1, anchor_.y + piece->height() - 1};
     floatingPiece_ = std::move(piece);
+    pieceName_ = name;
     setCurrentTool(Tool::Select);
     setToolAtPress(Tool::Select);
     select(place, true);
@@ -158,7 +159,7 @@ bool ImageSelection::commitFloatingPiece(bool redraw) {
         const std::uint64_t before = document_.texelState();
         bool placed = false;
         try {
-            placed = document_.Edit(&viewer_, paste);
+            placed = document_.Edit(&viewer_, paste, pieceName_);
         } catch (const std::bad_alloc&) {
             // It would be nowhere then, unless only showing it has failed.
             if (document_.texelState() == before)
@@ -178,10 +179,11 @@ bool ImageSelection::commitFloatingPiece(bool redraw) {
 void ImageSelection::turn(Turn turn) {
     const Rect area = *texels_;
     if (turn == Turn::Half && floatingPiece_ == nullptr) {
-        document_.Edit(&viewer_, [&](TextureCanvas& canvas) {
+        const auto flip = [&](TextureCanvas& canvas) {
             canvas.Flip(area.left, area.top, area.right, area.bottom,
                         TextureCanvas::kFlipHorizontal | TextureCanvas::kFlipVertical);
-        });
+        };
+        document_.Edit(&viewer_, flip, StringId::StepTurnHalf);
         return;
     }
     std::unique_ptr<TextureCanvas> lifted;
@@ -196,8 +198,11 @@ void ImageSelection::turn(Turn turn) {
     const auto erase = [&](TextureCanvas& canvas) {
         canvas.FillBox(area.left, area.top, area.right, area.bottom, 0);
     };
-    if (floatingPiece_ == nullptr && !document_.Edit(&viewer_, erase))
-        return;
+    if (floatingPiece_ == nullptr) {
+        if (!document_.Edit(&viewer_, erase, StringId::StepLift))
+            return;
+        pieceName_ = turn == Turn::Left ? StringId::StepTurnLeft : StringId::StepTurnRight;
+    }
     floatingPiece_ = std::move(turnedPiece);
     Rect place = area;
     if (turn != Turn::Half) {

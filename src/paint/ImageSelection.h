@@ -7,6 +7,7 @@
 #include "paint/TextureCanvas.h"
 #include "paint/ViewGeometry.h"
 #include "paint/ViewRenderer.h"
+#include "platform/Text.h"
 
 #include <cstdint>
 #include <functional>
@@ -65,7 +66,7 @@ public:
     [[nodiscard]] bool hasFloatingPiece() const noexcept { return floatingPiece_ != nullptr; }
     [[nodiscard]] std::optional<FloatingPiece> floatingPiece() const;
     /// As `ImageViewer::SetFloatingPiece`. Nothing when the piece before it floats on.
-    void setFloatingPiece(std::unique_ptr<TextureCanvas> piece);
+    void setFloatingPiece(std::unique_ptr<TextureCanvas> piece, StringId name);
     /// As `ImageViewer::RecolourFloatingPiece`.
     void recolourFloatingPiece();
     /// Puts the floating piece, if there is one, into the image; then nothing is selected. False when it
@@ -110,6 +111,7 @@ private:
     std::optional<Rect> texels_;
     Tool toolAtPress_ = Tool::Select;
     std::unique_ptr<TextureCanvas> floatingPiece_;
+    StringId pieceName_{}; ///< Of the step that places it.
     Point anchor_;
     Rect dragRectangle_; ///< From the anchor of a drag to its current point.
     std::uint32_t trackerStyle_ = kSelectionStyle;

@@ -51,6 +51,7 @@ std::unique_ptr<ImageUndoRecord> ImageUndoRecord::clone() const {
     copy->left = left;
     copy->top = top;
     copy->identifier = identifier;
+    copy->name = name;
     return copy;
 }
 

@@ -24,7 +24,7 @@ public:
     /// Null when the pieces cannot be copied.
     [[nodiscard]] std::unique_ptr<UndoRecord> inverse() const override;
     [[nodiscard]] std::uint64_t bytes() const override;
-    /// A copy with the identifier of this one; null when the pieces cannot be copied.
+    /// A copy with the identifier and the name of this one; null when the pieces cannot be copied.
     [[nodiscard]] std::unique_ptr<ImageUndoRecord> clone() const;
 
     std::unique_ptr<TextureCanvas> before;

@@ -2,6 +2,7 @@
 
 #include "framework/DocumentView.h"
 #include "paint/Rect.h"
+#include "platform/Text.h"
 
 #include <memory>
 #include <optional>
@@ -36,7 +37,8 @@ public:
     [[nodiscard]] virtual std::optional<FloatingPiece> floatingPiece() const = 0;
     /// Lets the piece float from the anchor on, moved into the image as far as it fits, and selects it with
     /// the Select tool. One that floats already is committed. A null or empty piece changes nothing.
-    virtual void SetFloatingPiece(std::unique_ptr<TextureCanvas> piece) = 0;
+    /// `name` is that of the step that places it.
+    virtual void SetFloatingPiece(std::unique_ptr<TextureCanvas> piece, StringId name) = 0;
     /// Gives the floating piece, if there is one, the colours that its values have in the image.
     virtual void RecolourFloatingPiece() = 0;
     /// Puts the floating piece, if there is one, into the image; then nothing is selected. False when it

@@ -2,6 +2,7 @@
 
 #include "paint/CDyeworksDoc.h"
 #include "paint/ImageSelection.h"
+#include "platform/StringId.h"
 
 namespace dyeworks {
 
@@ -29,7 +30,7 @@ void PenTool::move(Point texel, const PointerEvent& /*event*/) {
 }
 
 void PenTool::release(Point /*texel*/, const PointerEvent& /*event*/) {
-    document().CommitEdit();
+    document().CommitEdit(StringId::StepPen);
 }
 
 void PenTool::cancel() {

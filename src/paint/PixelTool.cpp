@@ -2,6 +2,7 @@
 
 #include "paint/CDyeworksDoc.h"
 #include "paint/ImageSelection.h"
+#include "platform/StringId.h"
 
 namespace dyeworks {
 
@@ -10,7 +11,8 @@ bool PixelTool::press(Point texel, const PointerEvent& /*event*/) {
         return false;
     selection().setAnchor(texel);
     const std::int32_t before = document().edits().position();
-    document().Edit(&viewer(), [&](TextureCanvas& canvas) { drawingOn(canvas).point(texel); });
+    document().Edit(
+        &viewer(), [&](TextureCanvas& canvas) { drawingOn(canvas).point(texel); }, StringId::StepPixel);
     if (document().edits().position() != before)
         step_ = document().edits().position();
     return true;

@@ -66,6 +66,7 @@ std::unique_ptr<UndoRecord> RenumberRecord::inverse() const {
     inverted->forward_ = back_;
     inverted->back_ = forward_;
     inverted->identifier = identifier;
+    inverted->name = name;
     return inverted;
 }
 

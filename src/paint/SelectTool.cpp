@@ -2,6 +2,7 @@
 
 #include "paint/CDyeworksDoc.h"
 #include "paint/ImageSelection.h"
+#include "platform/StringId.h"
 
 #include <utility>
 
@@ -98,12 +99,12 @@ bool SelectTool::cutPiece(bool leaveImage) {
     const auto erase = [&](TextureCanvas& canvas) {
         CanvasDrawing(canvas, options, 0).filledBox({cut.left, cut.top}, {cut.right, cut.bottom});
     };
-    if (!leaveImage && !document().Edit(&viewer(), erase))
+    if (!leaveImage && !document().Edit(&viewer(), erase, StringId::StepLift))
         return false;
     if (document().edits().position() != before)
         step_ = document().edits().position();
     cut_ = true;
-    selection().setFloatingPiece(std::move(piece));
+    selection().setFloatingPiece(std::move(piece), StringId::StepPlace);
     const Rect placed = selection().texels().value_or(Rect{});
     anchor_ = {placed.left, placed.top};
     current_ = {placed.right, placed.bottom};

@@ -2,8 +2,28 @@
 
 #include "paint/CDyeworksDoc.h"
 #include "paint/ImageSelection.h"
+#include "platform/StringId.h"
 
 namespace dyeworks {
+
+namespace {
+
+StringId nameOf(Tool shape) {
+    switch (shape) {
+    case Tool::Box:
+        return StringId::StepBox;
+    case Tool::BoxFill:
+        return StringId::StepBoxFill;
+    case Tool::Circle:
+        return StringId::StepCircle;
+    case Tool::CircleFill:
+        return StringId::StepCircleFill;
+    default:
+        return StringId::StepLine;
+    }
+}
+
+} // namespace
 
 bool ShapeTool::press(Point texel, const PointerEvent& event) {
     centred_ = event.alt;
@@ -35,7 +55,7 @@ void ShapeTool::release(Point texel, const PointerEvent& /*event*/) {
     if (shape_ == Tool::Line)
         follow(texel);
     drawShape();
-    document().CommitEdit();
+    document().CommitEdit(nameOf(shape_));
 }
 
 void ShapeTool::cancel() {

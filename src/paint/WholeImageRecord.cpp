@@ -17,8 +17,10 @@ std::unique_ptr<UndoRecord> WholeImageRecord::inverse() const {
         return nullptr;
     std::unique_ptr<WholeImageRecord> inverted(new (std::nothrow)
                                                    WholeImageRecord(std::move(copy), firstEntry_, next_));
-    if (inverted != nullptr)
+    if (inverted != nullptr) {
         inverted->identifier = identifier;
+        inverted->name = name;
+    }
     return inverted;
 }
 

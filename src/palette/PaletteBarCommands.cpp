@@ -52,12 +52,13 @@ void PaletteBarCommands::OnEditPalette() {
     const auto position = palettes.find(key);
     if (position == palettes.end())
         return;
-    state_.edit(*position->second, [&](TextureLookupTable& palette) {
+    const auto write = [&](TextureLookupTable& palette) {
         if (type == ColourType::Ia)
             palette.setEntryAlias(index, *chosen);
         else
             palette.setEntry(index, *chosen);
-    });
+    };
+    state_.edit(*position->second, write, StringId::StepEditEntry);
 }
 
 void PaletteBarCommands::OnUpdateEditPalette(CommandUi& ui) {

@@ -2,6 +2,7 @@
 
 #include "core/PaletteSet.h"
 #include "palette/NumberText.h"
+#include "platform/StringId.h"
 
 #include <utility>
 
@@ -128,7 +129,9 @@ void PaletteBarState::StepCell(PaletteCells::Step step) {
 
 void PaletteBarState::GridChanged() {
     if (cells_.started() && palette_.exists())
-        edit(*palette_.get(), [this](TextureLookupTable& palette) { cells_.writeTo(palette); });
+        edit(
+            *palette_.get(), [this](TextureLookupTable& palette) { cells_.writeTo(palette); },
+            StringId::StepPasteEntries);
 }
 
 void PaletteBarState::PasteCells() {
@@ -155,17 +158,25 @@ void PaletteBarState::TakeRightEnd() {
 void PaletteBarState::Apply() {
     if (!editor_.CanApply())
         return;
-    edit(*palette_.get(), [index = *cells_.currentEntry(), value = entry().value()](
-                              TextureLookupTable& palette) { palette.setEntry(index, value); });
+    const auto write = [index = *cells_.currentEntry(), value = entry().value()](
+                           TextureLookupTable& palette) { palette.setEntry(index, value); };
+    edit(*palette_.get(), write, StringId::StepApplyEntry);
 }
 
-void PaletteBarState::edit(TextureLookupTable& palette,
-                           const std::function<void(TextureLookupTable&)>& write) {
+void PaletteBarState::edit(TextureLookupTable& palette, const std::function<void(TextureLookupTable&)>& write,
+                           StringId name) {
     palette.beginEdit();
     write(palette);
-    palette.commitEdit();
+    palette.commitEdit(name);
     palette.updateTitle();
     showStored();
+}
+
+void PaletteBarState::goTo(std::int32_t position) {
+    if (TextureLookupTable* const palette = palette_.get()) {
+        palette->goTo(position);
+        showStored();
+    }
 }
 
 void PaletteBarState::showPassing(const std::string& key, const TextureLookupTable& shown) {

@@ -4,6 +4,7 @@
 #include "palette/EntryEditor.h"
 #include "palette/GradientStrip.h"
 #include "palette/PaletteTabs.h"
+#include "platform/Text.h"
 
 #include <cstdint>
 #include <functional>
@@ -62,8 +63,11 @@ public:
     /// Writes the edited value to the palette, where that can be done.
     void Apply();
 
-    /// One undoable edit of a palette, then everything shows it.
-    void edit(TextureLookupTable& palette, const std::function<void(TextureLookupTable&)>& write);
+    /// One undoable edit of a palette, under a name for the user; then everything shows it.
+    void edit(TextureLookupTable& palette, const std::function<void(TextureLookupTable&)>& write,
+              StringId name);
+    /// Steps of the current palette until its history stands at `position`, then everything shows it.
+    void goTo(std::int32_t position);
     /// Lets the bar and the images show `shown` as the palette of that key, which stays what it is.
     void showPassing(const std::string& key, const TextureLookupTable& shown);
     /// After that: what they showed before, an edited value that was not applied included.

@@ -27,23 +27,24 @@ std::optional<EntryRange> RangeCommands::target() const {
     return state_.cells().selectedRange().value_or(EntryRange{0, palette->table.count - 1});
 }
 
-void RangeCommands::replace(TextureLookupTable& palette, const TlutData& table) {
+void RangeCommands::replace(TextureLookupTable& palette, const TlutData& table, StringId name) {
     if (table == palette.table)
         return;
-    state_.edit(palette, [&](TextureLookupTable& edited) {
+    const auto write = [&](TextureLookupTable& edited) {
         for (std::int32_t i = 0; i < table.count; ++i)
             edited.setEntry(i, table.getEntry(i));
-    });
+    };
+    state_.edit(palette, write, name);
 }
 
-void RangeCommands::change(const std::function<void(TlutData&, EntryRange)>& operation) {
+void RangeCommands::change(const std::function<void(TlutData&, EntryRange)>& operation, StringId name) {
     const auto range = target();
     if (!range)
         return;
     TextureLookupTable& palette = *state_.palette().get();
     TlutData table = palette.table;
     operation(table, *range);
-    replace(palette, table);
+    replace(palette, table, name);
 }
 
 void RangeCommands::OnUpdateRange(CommandUi& ui) {
@@ -54,7 +55,7 @@ void RangeCommands::OnUpdateRange(CommandUi& ui) {
 }
 
 void RangeCommands::OnRamp() {
-    change(rampEntries);
+    change(rampEntries, StringId::StepRamp);
 }
 
 void RangeCommands::OnUpdateRamp(CommandUi& ui) {
@@ -64,17 +65,18 @@ void RangeCommands::OnUpdateRamp(CommandUi& ui) {
 }
 
 void RangeCommands::OnInvert() {
-    change(invertEntries);
+    change(invertEntries, StringId::StepInvert);
 }
 
 void RangeCommands::OnReverse() {
-    change(reverseEntries);
+    change(reverseEntries, StringId::StepReverse);
 }
 
 void RangeCommands::OnFill() {
-    change([value = state_.entry().value()](TlutData& table, EntryRange range) {
+    const auto fill = [value = state_.entry().value()](TlutData& table, EntryRange range) {
         fillEntries(table, range, value);
-    });
+    };
+    change(fill, StringId::StepFillEntries);
 }
 
 void RangeCommands::OnUpdateFill(CommandUi& ui) {
@@ -91,7 +93,7 @@ void RangeCommands::OnAdjust() {
     if (!view_.askAdjustment(adjustment))
         return;
     if (TextureLookupTable* const palette = adjustment.palette())
-        replace(*palette, adjustment.result());
+        replace(*palette, adjustment.result(), StringId::StepAdjust);
 }
 
 } // namespace dyeworks

@@ -2,6 +2,7 @@
 
 #include "framework/CommandTarget.h"
 #include "palette/EntryRange.h"
+#include "platform/Text.h"
 
 #include <functional>
 #include <optional>
@@ -44,8 +45,8 @@ private:
 
     /// What the commands act on; nothing when there is nothing to act on.
     [[nodiscard]] std::optional<EntryRange> target() const;
-    void change(const std::function<void(TlutData&, EntryRange)>& operation);
-    void replace(TextureLookupTable& palette, const TlutData& table);
+    void change(const std::function<void(TlutData&, EntryRange)>& operation, StringId name);
+    void replace(TextureLookupTable& palette, const TlutData& table, StringId name);
 
     PaletteBarState& state_;
     PaletteBarHost& host_;

@@ -6,6 +6,7 @@
 #include "paint/CDyeworksDoc.h"
 #include "platform/CodePage932.h"
 #include "platform/Platform.h"
+#include "platform/StringId.h"
 #include "platform/TextCase.h"
 #include "plugin/PlugInHost.h"
 #include "plugin/PlugInRecords.h"
@@ -251,7 +252,7 @@ std::uint32_t DW_setTMF(const char* name, const ::TmfImage* image) {
     if (own == nullptr || name == nullptr || texels == nullptr)
         return 0;
     if (CDyeworksDoc* const document = own->findImage(name))
-        return document->SetImage(*texels) ? 1 : 0;
+        return document->SetImage(*texels, StringId::StepPlugIn) ? 1 : 0;
     return writeTmf(*texels, name) ? 0 : 1;
 }
 
@@ -278,7 +279,7 @@ std::uint32_t DW_setTLF(const char* name, const ::TlutData* table) {
         palette->beginEdit();
         if (palette->table.copyEntriesFrom(entries) == 0)
             return 0;
-        palette->commitEdit();
+        palette->commitEdit(StringId::StepPlugIn);
         palette->modified = true;
         paletteSet()->entriesChanged(*palette);
         return 1;

@@ -50,7 +50,7 @@ public:
         if (palette_ == nullptr || before_ == *table_)
             return false;
         palette_->snapshot = std::make_unique<TlutData>(std::move(before_));
-        palette_->commitEdit();
+        palette_->commitEdit(StringId::StepPlugIn);
         palette_->modified = true;
         return true;
     }

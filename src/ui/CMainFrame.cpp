@@ -106,6 +106,7 @@ CMainFrame::CMainFrame(MainFrameHost& host)
     makeBrushBar();
     makeFindings();
     makeBanksBar();
+    makeUndoList();
     actions_.addTo(*this);
     // An icon takes the place of the mark that says whether the bar is shown.
     for (const MenuItem& item : barsMenu())
@@ -226,6 +227,7 @@ void CMainFrame::attachActiveTo(const std::string& key) {
 
 void CMainFrame::imageChanged(const CDyeworksDoc& image, const std::optional<Rect>& texels) {
     banksBar_->imageChanged(image, texels);
+    undoList_->refreshSoon();
 }
 
 void CMainFrame::palettePreviewed(const std::string& key, const TextureLookupTable& palette) {
@@ -315,7 +317,7 @@ void CMainFrame::OnWalkPanes(CommandId id) {
     std::vector<QWidget*> panes{activeChild()};
     for (QToolBar* bar : findChildren<QToolBar*>(Qt::FindDirectChildrenOnly))
         panes.push_back(bar);
-    panes.insert(panes.end(), {findings_, banksBar_, paletteBar_});
+    panes.insert(panes.end(), {findings_, banksBar_, undoList_, paletteBar_});
     walkPanes(panes, id == ID_PANE_PREVIOUS);
 }
 

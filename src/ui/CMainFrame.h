@@ -8,6 +8,7 @@
 #include "ui/CommandSearching.h"
 #include "ui/PrintCommands.h"
 #include "ui/ShortcutOptions.h"
+#include "ui/UndoListDock.h"
 
 #include <cstdint>
 #include <map>
@@ -32,7 +33,7 @@ class StatusPanes;
 /// The main window: documents in the middle, menus, tool bars, project bar and status bar around them, the
 /// palette bar floating above. What it shows follows the application; its place and that of its bars are
 /// kept in the settings.
-class CMainFrame : public MdiFrame, private BanksBarHost {
+class CMainFrame : public MdiFrame, private BanksBarHost, private UndoListHost {
     Q_OBJECT
 
 public:
@@ -112,10 +113,15 @@ private:
     void makeBrushBar();
     void makeFindings();
     void makeBanksBar();
+    void makeUndoList();
     [[nodiscard]] CDyeworksDoc* activeImage() const override;
     [[nodiscard]] const PaletteSet& openPalettes() const override;
     void chooseBank(std::int32_t number) override;
     void attachActiveTo(const std::string& key) override;
+    [[nodiscard]] JointDocument* stepsOf(StepOwner owner) override;
+    [[nodiscard]] std::string nameOf(StepOwner owner) override;
+    void goTo(StepOwner owner, std::int32_t position) override;
+    [[nodiscard]] std::optional<StepOwner> ownerAt(const QWidget* widget) override;
     void restorePlacement();
     void savePlacement() const;
     /// What closing does before the window goes. False when the user cancels.
@@ -153,6 +159,7 @@ private:
     CPaletteBar* paletteBar_ = nullptr;
     FindingsDock* findings_ = nullptr;
     BanksBar* banksBar_ = nullptr;
+    UndoListDock* undoList_ = nullptr;
     FullScreen* fullScreen_ = nullptr;
     QByteArray firstLayout_;             ///< Of the docked bars.
     std::map<CommandId, QWidget*> bars_; ///< By the commands that show and hide them.

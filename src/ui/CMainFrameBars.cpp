@@ -1,7 +1,14 @@
+#include "core/PaletteSet.h"
+#include "framework/PathText.h"
+#include "framework/widgets/ChildFrame.h"
+#include "paint/CDyeworksDoc.h"
+#include "paint/widgets/ImageView.h"
+#include "platform/StringId.h"
 #include "ui/BarLayout.h"
 #include "ui/CMainFrame.h"
 #include "ui/CProjectBar.h"
 #include "ui/FullScreen.h"
+#include "ui/MainFrameHost.h"
 #include "ui/palettebar/CPaletteBar.h"
 
 #include <QScreen>
@@ -58,6 +65,54 @@ void CMainFrame::OnCellsOnly() {
 
 void CMainFrame::OnUpdateCellsOnly(CommandUi& ui) {
     ui.checked = paletteBar_->cellsOnly();
+}
+
+void CMainFrame::makeUndoList() {
+    undoList_ = new UndoListDock(*this);
+    addDockWidget(Qt::RightDockWidgetArea, undoList_);
+    addBar(ID_VIEW_UNDO_LIST, *undoList_);
+    undoList_->hide();
+    connect(this, &MdiFrame::activeChildChanged, undoList_, &UndoListDock::refreshSoon);
+    connect(paletteBar_, &CPaletteBar::shownAnew, undoList_, &UndoListDock::refreshSoon);
+}
+
+JointDocument* CMainFrame::stepsOf(StepOwner owner) {
+    if (owner == StepOwner::Image) {
+        CDyeworksDoc* const image = activeImage();
+        return image == nullptr ? nullptr : &image->jointSide();
+    }
+    TextureLookupTable* const palette = host_.paletteBarHost().paletteSet()->lookup("");
+    return palette == nullptr ? nullptr : &palette->jointSide();
+}
+
+std::string CMainFrame::nameOf(StepOwner owner) {
+    const JointDocument* const document = stepsOf(owner);
+    return document == nullptr ? std::string() : std::string(fileNameOf(document->jointName()));
+}
+
+void CMainFrame::goTo(StepOwner owner, std::int32_t position) {
+    if (owner == StepOwner::Palette) {
+        paletteBar_->state().goTo(position);
+        return;
+    }
+    CDyeworksDoc& image = *activeImage();
+    if (image.floatingPieces().empty())
+        image.GoTo(position);
+    else
+        SetStatusText(text(StringId::UndoListFloats), 0);
+}
+
+std::optional<StepOwner> CMainFrame::ownerAt(const QWidget* widget) {
+    if (widget == nullptr)
+        return std::nullopt;
+    if (paletteBar_->isAncestorOf(widget))
+        return StepOwner::Palette;
+    // The window that it is in need not be the active one yet.
+    for (; widget != nullptr; widget = widget->parentWidget()) {
+        if (qobject_cast<const ImageView*>(widget) != nullptr)
+            return StepOwner::Image;
+    }
+    return std::nullopt;
 }
 
 /// Buttons that a bar has no room for hide behind its end, where nobody looks for them.

@@ -31,6 +31,22 @@ bool speaksForItself(const EntryOrder& order, const TlutData& table, const Image
     return plan.canBeDone() && !leavesTexels && images.closedPictures().empty();
 }
 
+StringId nameOf(EntryOperation operation) {
+    switch (operation) {
+    case EntryOperation::Move:
+        return StringId::StepMoveEntries;
+    case EntryOperation::Swap:
+        return StringId::StepSwapEntries;
+    case EntryOperation::Sort:
+        return StringId::StepSortEntries;
+    case EntryOperation::MergeTwins:
+        return StringId::StepMergeTwins;
+    case EntryOperation::Compact:
+        break;
+    }
+    return StringId::StepCompact;
+}
+
 } // namespace
 
 EntryOrderCommands::EntryOrderCommands(Workspace& workspace)
@@ -123,7 +139,7 @@ void EntryOrderCommands::carryOut(EntryOrder order, Sheet sheet) {
         ImagesOfPalette now = find();
         const EntryOrderPlan plan = planOf(order, set.lookup(key)->table, now.openImages());
         if (plan.canBeDone()) {
-            const bool isDone = now.rearrange(*plan.map);
+            const bool isDone = now.rearrange(*plan.map, nameOf(order.operation));
             if (isDone && order.operation == EntryOperation::Move && set.currentKey == key)
                 workspace_.mainFrame().paletteBar().selectEntries(
                     {order.target, order.target + order.range.last - order.range.first});

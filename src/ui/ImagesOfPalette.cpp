@@ -72,7 +72,7 @@ std::vector<std::string> ImagesOfPalette::closedPictures() const {
     return closed;
 }
 
-bool ImagesOfPalette::rearrange(const EntryMap& map) {
+bool ImagesOfPalette::rearrange(const EntryMap& map, StringId name) {
     if (!std::ranges::all_of(attached_, [](CDyeworksDoc* image) { return image->settlePieces(); }))
         return false;
     std::vector<JointStep::Change> changes;
@@ -87,6 +87,10 @@ bool ImagesOfPalette::rearrange(const EntryMap& map) {
     }
     const bool hasMemory =
         std::ranges::all_of(changes, [](const auto& change) { return change.record != nullptr; });
+    for (const JointStep::Change& change : changes) {
+        if (change.record != nullptr)
+            change.record->name = name;
+    }
     if (!hasMemory || !JointStep::carryOut(std::move(changes))) {
         applicationWarning(text(StringId::NotEnoughMemory), text(StringId::MemoryAdvice));
         return false;

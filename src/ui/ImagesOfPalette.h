@@ -1,6 +1,7 @@
 #pragma once
 
 #include "palette/AttachedImage.h"
+#include "platform/Text.h"
 
 #include <string>
 #include <vector>
@@ -23,10 +24,10 @@ public:
     [[nodiscard]] std::vector<std::string> closedPictures() const override;
 
     /// Moves the entries and renumbers the texels of all open images by the map, as one step of all their
-    /// histories. Drags are taken back and pieces that float are placed first. False, with entries and texels
-    /// as they were, when a piece floats on, when texels of an image would leave what it can show, and
-    /// without memory, which the user has been told.
-    bool rearrange(const EntryMap& map);
+    /// histories, under a name for the user. Drags are taken back and pieces that float are placed first.
+    /// False, with entries and texels as they were, when a piece floats on, when texels of an image would
+    /// leave what it can show, and without memory, which the user has been told.
+    bool rearrange(const EntryMap& map, StringId name);
 
 private:
     TextureLookupTable& palette_;

@@ -137,16 +137,25 @@ constexpr std::array kBarsMenu{
     MenuItem{ID_VIEW_PALETTEBAR}, MenuItem{ID_VIEW_PROJECTBAR}, MenuItem{ID_VIEW_TOOLBAR},
     MenuItem{ID_VIEW_DRAWBAR},    MenuItem{ID_VIEW_VIEWBAR},    MenuItem{ID_VIEW_STATUS_BAR},
     MenuItem{ID_VIEW_BRUSHBAR},   MenuItem{ID_VIEW_FINDINGS},   MenuItem{ID_VIEW_BANKSBAR},
+    MenuItem{ID_VIEW_UNDO_LIST},
 };
 
 constexpr std::array kViewMenu{
-    MenuItem{ID_VIEW_PALETTEBAR},  MenuItem{ID_VIEW_PROJECTBAR},
-    MenuItem{ID_VIEW_TOOLBAR},     MenuItem{ID_VIEW_DRAWBAR},
-    MenuItem{ID_VIEW_VIEWBAR},     MenuItem{ID_VIEW_STATUS_BAR},
-    MenuItem{ID_VIEW_BRUSHBAR},    MenuItem{ID_VIEW_FINDINGS},
-    MenuItem{ID_VIEW_BANKSBAR},    kSeparator,
-    MenuItem{ID_VIEW_FULL_SCREEN}, MenuItem{ID_VIEW_RESET_LAYOUT},
-    MenuItem{ID_VIEW_START_PAGE},  MenuItem{ID_VIEW_CELLS_ONLY},
+    MenuItem{ID_VIEW_PALETTEBAR},
+    MenuItem{ID_VIEW_PROJECTBAR},
+    MenuItem{ID_VIEW_TOOLBAR},
+    MenuItem{ID_VIEW_DRAWBAR},
+    MenuItem{ID_VIEW_VIEWBAR},
+    MenuItem{ID_VIEW_STATUS_BAR},
+    MenuItem{ID_VIEW_BRUSHBAR},
+    MenuItem{ID_VIEW_FINDINGS},
+    MenuItem{ID_VIEW_BANKSBAR},
+    MenuItem{ID_VIEW_UNDO_LIST},
+    kSeparator,
+    MenuItem{ID_VIEW_FULL_SCREEN},
+    MenuItem{ID_VIEW_RESET_LAYOUT},
+    MenuItem{ID_VIEW_START_PAGE},
+    MenuItem{ID_VIEW_CELLS_ONLY},
 };
 
 constexpr std::array kImageViewMenu{

@@ -98,11 +98,12 @@ ImportedEntries PaletteFileCommands::importInto(const std::string& key, const Pa
         return {};
     ImportedEntries imported =
         entriesOf(colours, palette->table.colourType, palette->table.count - firstEntry);
-    workspace_.mainFrame().paletteBar().state().edit(*palette, [&](TextureLookupTable& edited) {
+    const auto write = [&](TextureLookupTable& edited) {
         std::int32_t index = firstEntry;
         for (const std::uint16_t entry : imported.entries)
             edited.setEntry(index++, entry);
-    });
+    };
+    workspace_.mainFrame().paletteBar().state().edit(*palette, write, StringId::StepImportPalette);
     return imported;
 }
 

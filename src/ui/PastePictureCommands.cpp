@@ -105,7 +105,7 @@ void PastePictureCommands::OnPasteMatching() {
     piece->ApplyPalette(into->palette, into->firstEntry);
     ImageViewer& viewer = into->view;
     viewer.CancelDrag();
-    viewer.SetFloatingPiece(std::move(piece));
+    viewer.SetFloatingPiece(std::move(piece), StringId::StepPasteMatching);
     workspace_.mainFrame().SetStatusText({}, 0);
 }
 

@@ -171,7 +171,7 @@ const std::vector<Operation> kOperations{
      },
      [](Workplace& work) {
          ImageViewer& viewer = work.view;
-         viewer.SetFloatingPiece(piece());
+         viewer.SetFloatingPiece(piece(), StringId{});
      }},
     {"turn", [](Workplace& work) { replace(work, [](const auto& old) { return turned(old, Turn::Left); }); }},
     {"resize",

@@ -1,5 +1,6 @@
 #include "CanvasTesting.h"
 #include "ViewTestWindow.h"
+#include "core/StepList.h"
 #include "paint/CanvasDepth.h"
 #include "paint/CanvasTransform.h"
 #include "platform/StringId.h"
@@ -75,7 +76,15 @@ protected:
         const int x2 = random.between(0, w - 1);
         const int y2 = random.between(0, h - 1);
         const auto become = [&](auto texel) { model.become(Plain::of(w, h, old.bits, texel)); };
-        switch (random.between(0, 18)) {
+        switch (random.between(0, 19)) {
+        case 19: {
+            const auto row =
+                static_cast<std::size_t>(random.between(0, static_cast<int>(model.states.size()) - 1));
+            EXPECT_TRUE(document.GoTo(stepsOf(document.edits()).at(row).position));
+            if (row != std::exchange(model.position, row))
+                model.modified = row != 0;
+            break;
+        }
         case 0:
             model.move(true);
             document.Undo();
@@ -297,6 +306,9 @@ protected:
         ASSERT_EQ(document.title(), model.modified ? "a.tmf * " : "a.tmf");
         ASSERT_EQ(document.edits().canUndo(), model.position > 0);
         ASSERT_EQ(document.edits().canRedo(), model.position + 1 < model.states.size());
+        const std::vector<StepRow> rows = stepsOf(document.edits());
+        ASSERT_EQ(rows.size(), model.states.size());
+        ASSERT_EQ(currentRow(rows, document.edits()), model.position);
     }
 
     /// Padding is what a file of the canvas holds, too.
@@ -360,7 +372,7 @@ TEST_F(ImageSize, WithoutMemoryEverythingStays) {
     EXPECT_EQ(pixels(), before);
     EXPECT_EQ(document.edits().steps->count(), 1);
     EXPECT_TRUE(view.selection().texels());
-    view.selection().setFloatingPiece(document.canvas().CopyRect(0, 0, 2, 2));
+    view.selection().setFloatingPiece(document.canvas().CopyRect(0, 0, 2, 2), StringId{});
     EXPECT_FALSE(document.ReplaceImage([](const auto&) { return nullptr; }));
     EXPECT_TRUE(view.selection().hasFloatingPiece());
     EXPECT_EQ(resized(document.canvas(), {65536, 65536}, {}, 0), nullptr);

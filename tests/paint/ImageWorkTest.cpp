@@ -80,7 +80,7 @@ TEST_F(ImageWorkCommands, IndexesOutsideTheBankAreAskedAboutAndTakeItsNearestCol
     run(ID_IMAGE_TO_4_BITS);
     EXPECT_EQ(host.questions, 1);
     EXPECT_EQ(pixels(), before);
-    view.selection().setFloatingPiece(document.canvas().CopyRect(0, 0, 2, 2));
+    view.selection().setFloatingPiece(document.canvas().CopyRect(0, 0, 2, 2), StringId{});
     run(ID_IMAGE_TO_4_BITS);
     EXPECT_TRUE(view.selection().hasFloatingPiece());
     host.answer = ReduceDepth{3};

@@ -113,7 +113,7 @@ TEST_F(ViewFixture, AButtonThatGoesUpWhileThePressIsPreviewedEndsTheDrag) {
     host.active = &document;
     document.runCommand(ID_PREVIEW1);
     for (const Tool tool : {Tool::Pen, Tool::Pixel, Tool::Box}) {
-        view.selection().setFloatingPiece(document.canvas().CopyRect(0, 0, 2, 2));
+        view.selection().setFloatingPiece(document.canvas().CopyRect(0, 0, 2, 2), StringId{});
         setCurrentTool(tool);
         host.plugIns.onPreview = [&] { release({5, 5}); };
         press({5, 5});
@@ -158,7 +158,7 @@ TEST_F(ViewFixture, APieceThatMayNotBePlacedFloatsOn) {
     document.setSnapshotFactory([](const auto&) { return nullptr; });
     document.setPathName("c:\\a.tmf");
     for (const Tool tool : {Tool::Select, Tool::Paint, Tool::Pixel}) {
-        view.selection().setFloatingPiece(document.canvas().CopyRect(0, 0, 3, 3));
+        view.selection().setFloatingPiece(document.canvas().CopyRect(0, 0, 3, 3), StringId{});
         const auto place = view.selection().texels();
         setCurrentTool(tool);
         platform.messages.answerWith(MessageAnswer::No);

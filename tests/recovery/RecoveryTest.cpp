@@ -232,7 +232,7 @@ TEST_F(Recovery, WhatFloatsIsKeptAsItWouldBePlaced) {
             piece->FillBox(0, 0, 6, 4, 200);
             piece->PutPixel(3, 2, 100);
             ImageViewer& viewer = view;
-            viewer.SetFloatingPiece(std::move(piece));
+            viewer.SetFloatingPiece(std::move(piece), StringId{});
             ASSERT_THAT(image.floatingPieces(), SizeIs(1));
             DrawingOptions options;
             options.wrap = wrap;

@@ -55,7 +55,7 @@ TEST_F(BarLayout, AtFirstTheBarsAreAtTheTopWithTheirButtonsAndThePaletteFloats) 
             EXPECT_EQ(button->icon().isNull(), button->isSeparator() || flat);
     }
     const std::unique_ptr<QMenu> menu(static_cast<QMainWindow&>(frame()).createPopupMenu());
-    EXPECT_EQ(menu->actions().size(), 9);
+    EXPECT_EQ(menu->actions().size(), 10);
     frame().commandActions().refresh();
     for (qsizetype i = 0; i < menu->actions().size(); ++i) {
         const QAction* const item = menu->actions().at(i);

@@ -1,4 +1,5 @@
 #include "../paint/DocTestHost.h"
+#include "core/StepList.h"
 #include "ui/ImagesOfPalette.h"
 
 #include <algorithm>
@@ -137,7 +138,7 @@ protected:
                 ASSERT_TRUE(map->to(entry) / 16 == entry / 16 || !order.insideBanks);
             }
         }
-        const bool done = images.rearrange(*map);
+        const bool done = images.rearrange(*map, StringId{});
         for (std::size_t i = 0; i < images_.size(); ++i)
             ASSERT_EQ(picture(*images_[i]), pictures[i]);
         if (!done)
@@ -193,6 +194,33 @@ protected:
         models_ = std::move(after);
     }
 
+    /// To any state of a document. Where the user leaves a step that others have to take, too, it is as if he
+    /// had chosen the state before that.
+    void jump() {
+        const auto document = static_cast<std::size_t>(below(static_cast<std::int32_t>(models_.size())));
+        Model& model = models_[document];
+        JointDocument& side = document == 0 ? palette_->jointSide() : images_[document - 1]->jointSide();
+        const std::vector<StepRow> rows = stepsOf(side.jointHistory());
+        ASSERT_EQ(rows.size(), model.states.size());
+        const auto row = static_cast<std::size_t>(below(static_cast<std::int32_t>(rows.size())));
+        const bool back = row < model.at;
+        const bool agrees = below(3) != 0;
+        platform_.messages.onShow = [&] {
+            platform_.messages.answerWith(agrees ? MessageAnswer::Yes : MessageAnswer::No);
+        };
+        const std::size_t asked = platform_.messages.shown.size();
+        const bool arrived = document == 0 ? palette_->goTo(rows[row].position)
+                                           : images_[document - 1]->GoTo(rows[row].position);
+        platform_.messages.onShow = nullptr;
+        ASSERT_EQ(arrived, agrees || platform_.messages.shown.size() == asked);
+        const std::size_t reached = currentRow(rows, side.jointHistory());
+        ASSERT_TRUE(arrived ? reached == row
+                    : back  ? reached > row && reached <= model.at
+                            : reached < row && reached >= model.at);
+        while (model.at != reached)
+            step(document, back, models_);
+    }
+
     void change() {
         const auto which = static_cast<std::size_t>(below(static_cast<std::int32_t>(images_.size())));
         CDyeworksDoc& image = *images_[which];
@@ -242,7 +270,7 @@ TEST_F(Rearranging, KeepsPicturesAndIsTakenBackEverywhereLikeThePlainModel) {
         makeAll();
         for (int n = 0; n < 24; ++n) {
             const std::int32_t what = below(10);
-            what < 3 ? rearrange() : what < 7 ? undoOrRedo() : change();
+            what < 3 ? rearrange() : what < 6 ? undoOrRedo() : what < 7 ? jump() : change();
             for (std::size_t document = 0; document < models_.size(); ++document)
                 ASSERT_EQ(state(document), models_[document].now())
                     << "step " << n << " document " << document;
