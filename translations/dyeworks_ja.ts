@@ -1376,10 +1376,6 @@ Toggle Palette Cells Only</source>
         <translation>コマンドの検索(&amp;S)...</translation>
     </message>
     <message>
-        <source>Find a command by its name and run it
-Search Commands</source>
-        <translation>名前でコマンドを検索して実行します
-コマンドの検索</translation>
         <source>U&amp;ndo List</source>
         <translation>操作履歴(&amp;N)</translation>
     </message>
@@ -1388,6 +1384,12 @@ Search Commands</source>
 Toggle Undo List</source>
         <translation>取り消せる操作の一覧の表示と非表示を切り替えます。
 操作履歴の表示切り替え</translation>
+    </message>
+    <message>
+        <source>Find a command by its name and run it
+Search Commands</source>
+        <translation>名前でコマンドを検索して実行します
+コマンドの検索</translation>
     </message>
 </context>
 <context>
@@ -5121,8 +5123,6 @@ The file is no longer whole. Save under another name; until then what was to be 
         <translation>キーなし</translation>
     </message>
     <message>
-        <source>The keys in &quot;%1&quot; cannot be taken over. %2</source>
-        <translation>「%1」のキーは取り込めません。%2</translation>
         <source>Undo List</source>
         <translation>操作履歴</translation>
     </message>
@@ -5305,6 +5305,10 @@ The file is no longer whole. Save under another name; until then what was to be 
     <message>
         <source>Fill Entries</source>
         <translation>エントリの塗りつぶし</translation>
+    </message>
+    <message>
+        <source>The keys in &quot;%1&quot; cannot be taken over. %2</source>
+        <translation>「%1」のキーは取り込めません。%2</translation>
     </message>
 </context>
 </TS>

@@ -23,8 +23,7 @@ const Ids kAlwaysEnabled{ID_PROJECT_NEW,      ID_PROJECT_OPEN,    ID_FILE_NEW,  
                          ID_PALETTE_IMPORT,   ID_VIEW_BRUSHBAR,   ID_VIEW_FINDINGS,    ID_VIEW_USAGE,
                          ID_VIEW_BANKSBAR,    ID_TEXTURE_NEW,     ID_VIEW_FULL_SCREEN, ID_VIEW_RESET_LAYOUT,
                          ID_VIEW_START_PAGE,  ID_VIEW_CELLS_ONLY, ID_PANE_NEXT,        ID_PANE_PREVIOUS,
-                         ID_COMMAND_SEARCH,
-                         ID_VIEW_UNDO_LIST};
+                         ID_COMMAND_SEARCH,   ID_VIEW_UNDO_LIST};
 
 /// Besides, with an unchanged project, in whose window the program is.
 const Ids kEnabledWithProject{
