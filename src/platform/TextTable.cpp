@@ -657,9 +657,8 @@ constexpr Row kRows[] = {
     Row{StringId::UndoListRowCurrent, QT_TRANSLATE_NOOP("Text", "%1 of %2: %3, current")},
     Row{StringId::UndoListRowUndone, QT_TRANSLATE_NOOP("Text", "%1 of %2: %3, undone")},
     Row{StringId::UndoListFloats,
-        QT_TRANSLATE_NOOP(
-            "Text",
-            "A piece floats above the image. Place it with Enter, or drop it with Esc, before you go to another step.")},
+        QT_TRANSLATE_NOOP("Text", "A piece floats above the image. Place it with Enter, or drop it with Esc, "
+                                  "before you go to another step.")},
     Row{StringId::StepNew, QT_TRANSLATE_NOOP("Text", "New")},
     Row{StringId::StepOpened, QT_TRANSLATE_NOOP("Text", "Opened")},
     Row{StringId::StepEarlier, QT_TRANSLATE_NOOP("Text", "Earlier steps")},
