@@ -15,7 +15,7 @@ void open(Desk& desk, const std::vector<int>& n) {
     const std::string path = Desk::palettePath(n[0]);
     // A file that is slow to come has a dialog come up, for which what is dragged is let go of. So that it
     // does not depend on that, it is now.
-    desk.app.giveUpDrags();
+    desk.app().giveUpDrags();
     if (desk.model.active != nullptr)
         desk.model.active->cancel();
     desk.fake.dialogs.answerWith(path);
@@ -78,7 +78,7 @@ void entry(Desk& desk, const std::vector<int>& n) {
     PlainTable table = palette->table();
     const std::size_t at = static_cast<std::size_t>(n[0]) % table.entries.size();
     CPaletteBar& bar = desk.frame().paletteBar();
-    desk.app.imageHost().selectPaletteBarCell(static_cast<int>(at));
+    desk.app().imageHost().selectPaletteBarCell(static_cast<int>(at));
     auto* const field = bar.findChild<QLineEdit*>(QStringLiteral("IDC_ENTRY"));
     field->setText(QString::number(n[1], 16));
     Q_EMIT field->textEdited(field->text());
