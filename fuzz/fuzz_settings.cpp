@@ -57,15 +57,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         profile.sync();
         writes = !profile.takeTrouble();
     }
-    if (writes) {
-        const QtProfile profile(path.toStdString());
+    // Under the same name one that is as long as before would not be read again.
+    const QString again = path + QStringLiteral(".again");
+    if (writes && QFile::copy(path, again)) {
+        const QtProfile profile(again.toStdString());
         require(profile.text("Settings", "added") == "one, two", "an entry that is added is kept");
         const Values now = valuesIn(profile);
         // What was no text may have become one.
         before.erase("Settings\nadded");
         require(std::ranges::includes(now, before), "the other entries stay");
     }
-    for (const char* const end : {"", ".damaged", ".lock"})
+    for (const char* const end : {"", ".damaged", ".lock", ".again", ".again.damaged"})
         QFile::remove(path + QLatin1String(end));
     return 0;
 }

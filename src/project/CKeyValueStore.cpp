@@ -110,10 +110,11 @@ std::string CKeyValueStore::FileText() const {
     if (codePage932_) {
         // A few texts in code page 932 would be taken for UTF-8 when they are read again.
         if (std::optional<std::string> japanese = toCodePage932(text); japanese && !isUtf8(*japanese))
-            text = std::move(*japanese);
-    } else if (byteOrderMark_) {
-        text.insert(0, kByteOrderMark);
+            return std::move(*japanese);
     }
+    // A line that begins like the mark, and has become the first, is not to be taken for one.
+    if ((byteOrderMark_ && !codePage932_) || text.starts_with(kByteOrderMark))
+        text.insert(0, kByteOrderMark);
     return text;
 }
 

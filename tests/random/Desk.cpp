@@ -4,14 +4,17 @@
 #include "project/CTPFDocument.h"
 #include "ui/CMainFrame.h"
 #include "ui/CommandLine.h"
+#include "ui/controls/dispatch/Dispatch.h"
 #include "ui/palettebar/CPaletteBar.h"
 
 #include <QApplication>
 #include <QDialog>
 #include <QTimer>
+#include <QVariant>
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <span>
 #include <sstream>
 #include <utility>
@@ -151,13 +154,30 @@ Desk::Desk() {
     fake.profile.sections["Settings"]["UseNotify_AskUseProject"] = "0";
     setCurrentTool(Tool::Select);
     putFiles();
+    start();
+}
+
+Desk::~Desk() {
+    end();
+}
+
+void Desk::start() {
+    app_ = std::make_unique<CDyeworksApp>();
     CommandLine commandLine;
     commandLine.noSplash = true;
-    if (!app.InitInstance(commandLine))
+    if (!app_->InitInstance(commandLine))
         wonder("the program does not start: " + fake.messages.lastText());
 }
 
-Desk::~Desk() = default;
+void Desk::end() {
+    app_.reset();
+    // A program starts with no companion control registered.
+    QCoreApplication* const application = QCoreApplication::instance();
+    for (const QByteArray& name : application->dynamicPropertyNames()) {
+        if (name.startsWith(kControlPropertyPrefix))
+            application->setProperty(name.constData(), QVariant());
+    }
+}
 
 void Desk::putFiles() {
     for (int i = 0; i < kImages; ++i) {
@@ -191,7 +211,7 @@ bool Desk::run(CommandId id) {
 }
 
 bool Desk::expectRun(CommandId id, bool expected) {
-    const bool ran = app.router().run(id);
+    const bool ran = app().router().run(id);
     if (ran != expected)
         wonder("command " + std::to_string(id) + (ran ? " runs" : " does not run"));
     return ran;
@@ -212,10 +232,18 @@ void Desk::withNextDialog(std::function<void(QDialog&)> use) {
 }
 
 void Desk::readBar() {
-    model.shared.cell = app.imageHost().paletteBarCell();
-    model.shared.firstEntry = app.imageHost().paletteBarFirstEntry();
+    model.shared.cell = app().imageHost().paletteBarCell();
+    model.shared.firstEntry = app().imageHost().paletteBarFirstEntry();
     const PaletteModel* const palette = model.current();
     model.shared.cells = palette == nullptr ? 0 : static_cast<int>(palette->table().entries.size());
+}
+
+const ViewModel* Desk::modelOf(const CDyeworksDoc* document) {
+    const auto documents = app().imageTemplate().documents();
+    const auto at = std::ranges::find(documents, static_cast<const CDocument*>(document)) - documents.begin();
+    return static_cast<std::size_t>(at) < model.images.size()
+               ? model.images[static_cast<std::size_t>(at)].get()
+               : nullptr;
 }
 
 void Desk::readActive() {
@@ -226,7 +254,7 @@ void Desk::readActive() {
         return;
     }
     const CDyeworksDoc& document = shown->view().document();
-    const auto documents = app.imageTemplate().documents();
+    const auto documents = app().imageTemplate().documents();
     const auto at =
         std::ranges::find(documents, static_cast<const CDocument*>(&document)) - documents.begin();
     if (static_cast<std::size_t>(at) < model.images.size())
@@ -257,7 +285,7 @@ std::string Desk::differences(bool all) {
                   std::size_t{0});
     found.compare("tool", static_cast<int>(currentTool()), static_cast<int>(model.shared.tool));
 
-    const std::vector<CDocument*> documents = app.imageTemplate().documents();
+    const std::vector<CDocument*> documents = app().imageTemplate().documents();
     found.compare("open images", documents.size(), model.images.size());
     for (std::size_t i = 0; i < std::min(documents.size(), model.images.size()); ++i) {
         auto& document = static_cast<CDyeworksDoc&>(*documents[i]);
@@ -277,7 +305,7 @@ std::string Desk::differences(bool all) {
                       model.active == &image);
     }
 
-    const PaletteSet& set = *app.paletteSet();
+    const PaletteSet& set = *app().paletteSet();
     found.compare("current palette", set.currentKey, model.currentPalette);
     found.compare("open palettes", set.palettes.size(), model.palettes.size());
     for (const auto& [key, palette] : set.palettes) {
@@ -298,21 +326,21 @@ std::string Desk::differences(bool all) {
         found.compare(key + " can undo", palette->canUndo(), !expected.states.undone.empty());
         found.compare(key + " can redo", palette->canRedo(), !expected.states.redone.empty());
     }
-    const CTPFDocument* const project = app.projectDocument();
+    const CTPFDocument* const project = app().projectDocument();
     found.compare("a project is open", project != nullptr, model.project.has_value());
     if (project != nullptr && model.project)
         compareProject(found, *project, *model.project);
     for (const CommandId id : kCompared) {
         if (const std::optional<bool> enabled = model.enabled(id))
-            found.compare("enabled " + std::to_string(id), app.router().state(id).enabled, *enabled);
+            found.compare("enabled " + std::to_string(id), app().router().state(id).enabled, *enabled);
     }
     if (model.active != nullptr) {
         for (CommandId id = ID_TOOL_PIXEL; id <= ID_TOOL_REPLACER; ++id) {
             if (const std::optional<Tool> tool = toolOf(id))
-                found.compare("checked " + std::to_string(id), app.router().state(id).checked.value_or(false),
-                              *tool == model.shared.tool);
+                found.compare("checked " + std::to_string(id),
+                              app().router().state(id).checked.value_or(false), *tool == model.shared.tool);
         }
-        found.compare("spuit", app.router().state(ID_TOOL_SPUIT).checked.value_or(false),
+        found.compare("spuit", app().router().state(ID_TOOL_SPUIT).checked.value_or(false),
                       model.active->spuit);
     }
     if (all) {

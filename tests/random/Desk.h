@@ -7,6 +7,7 @@
 #include "ui/CDyeworksApp.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -31,10 +32,13 @@ public:
 
     // For the verbs.
     FakePlatform fake;
-    CDyeworksApp app;
     DeskModel model;
 
-    [[nodiscard]] CMainFrame& frame() { return app.mainFrame(); }
+    [[nodiscard]] CDyeworksApp& app() { return *app_; }
+    // The program is left in order, but for that, and started with the settings that it leaves.
+    void start();
+    void end();
+    [[nodiscard]] CMainFrame& frame() { return app_->mainFrame(); }
     /// Null when no image is open.
     [[nodiscard]] ImageView* view();
     /// The state of the command is expected to be that of the model, and it is run.
@@ -47,6 +51,8 @@ public:
     void readBar();
     /// Which window comes to the front when one has gone is the window system's affair.
     void readActive();
+    /// Null for an image that the model does not have.
+    [[nodiscard]] const ViewModel* modelOf(const CDyeworksDoc* document);
     /// Something that the model has no word for.
     void wonder(const std::string& what) { wonders_ += what + '\n'; }
 
@@ -61,6 +67,7 @@ public:
 private:
     void putFiles();
 
+    std::unique_ptr<CDyeworksApp> app_;
     std::string wonders_;
 };
 

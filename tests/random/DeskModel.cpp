@@ -209,6 +209,35 @@ void DeskModel::rename(const std::string& key, const std::string& file) {
     currentPalette = file;
 }
 
+void DeskModel::remember(const ViewModel& image) {
+    if (!image.document.path.empty())
+        remembered[image.document.path] = {image.zoom, image.grid, image.document.attached};
+}
+
+std::size_t DeskModel::unsaved() {
+    std::size_t questions = project && project->modified ? 1 : 0;
+    for (const auto& [key, palette] : palettes)
+        questions += palette.hasUnsavedChanges() ? 1 : 0;
+    for (const auto& image : images)
+        questions += image->hasUnsavedChanges() ? 1 : 0;
+    return questions;
+}
+
+void DeskModel::leave() {
+    messages += unsaved();
+    if (!palettes.empty())
+        refreshImages();
+    for (const auto& image : images)
+        remember(*image);
+    images.clear();
+    palettes.clear();
+    project.reset();
+    active = lastActivated = nullptr;
+    projectInFront = false;
+    currentPalette.clear();
+    untitled = 0;
+}
+
 ViewModel& DeskModel::openImage(const std::string& path) {
     if (ViewModel* const open = imageOf(path)) {
         activated(*open);
@@ -266,8 +295,7 @@ bool DeskModel::closeImage(ViewModel& image, const Answers& answers) {
         if (answers.answer == 2 || (answers.answer == 0 && !saveImage(image, false, answers.file)))
             return false;
     }
-    if (!image.document.path.empty())
-        remembered[image.document.path] = {image.zoom, image.grid, image.document.attached};
+    remember(image);
     active = active == &image ? nullptr : active;
     lastActivated = lastActivated == &image ? nullptr : lastActivated;
     std::erase_if(images, [&](const auto& open) { return open.get() == &image; });

@@ -86,6 +86,11 @@ struct DeskModel {
     bool closePalette(const Answers& answers);
     bool savePalette(bool ask, const std::string& file);
 
+    /// How many questions come when the program is left, each of which is answered with No.
+    [[nodiscard]] std::size_t unsaved();
+    /// The program is left. What its settings keep stays.
+    void leave();
+
     ViewModel& openImage(const std::string& path);
     ViewModel& newImage(std::int32_t width, std::int32_t height, int bits);
     void activated(ViewModel& image);
@@ -106,6 +111,7 @@ struct DeskModel {
     void moveEntry(std::size_t entry, std::size_t place);
 
 private:
+    void remember(const ViewModel& image);
     /// What has a history, and how far it has to go.
     struct Leg {
         ViewModel* image;

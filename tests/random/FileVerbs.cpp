@@ -1,4 +1,5 @@
 #include "Desk.h"
+#include "core/PaletteSet.h"
 #include "ui/CMainFrame.h"
 
 #include <QAbstractButton>
@@ -46,7 +47,7 @@ void activate(Desk& desk, const std::vector<int>& n) {
         return;
     const std::size_t at = static_cast<std::size_t>(n[0]) % desk.model.images.size();
     desk.model.activated(*desk.model.images[at]);
-    desk.frame().activateWindowOf(*desk.app.imageTemplate().documents()[at]);
+    desk.frame().activateWindowOf(*desk.app().imageTemplate().documents()[at]);
 }
 
 void saveImage(Desk& desk, const std::vector<int>& n) {
@@ -85,7 +86,7 @@ void revert(Desk& desk, const std::vector<int>& n) {
     const bool asks = image.hasUnsavedChanges();
     if (asks)
         desk.answerNext(n[0]);
-    if (!desk.app.router().run(ID_FILE_REVERT))
+    if (!desk.app().router().run(ID_FILE_REVERT))
         desk.wonder("an image does not go back to its file");
     desk.model.revert(image, n[0]);
 }
@@ -107,6 +108,47 @@ void failToSave(Desk& desk, const std::vector<int>& n) {
     desk.run(id);
 }
 
+/// What was open is open again, as the files hold it. In which order its windows stand is theirs to say.
+void leaveAndStart(Desk& desk, const std::vector<int>& /*n*/) {
+    DeskModel& model = desk.model;
+    if (busy(desk))
+        return;
+    std::vector<std::string> palettes;
+    for (const auto& [key, palette] : model.palettes) {
+        if (!palette.unnamed())
+            palettes.push_back(key);
+    }
+    std::vector<std::string> images;
+    for (const auto& image : model.images) {
+        if (!image->document.path.empty())
+            images.push_back(image->document.path);
+    }
+    const std::string project = model.project ? model.project->path : "";
+    for (std::size_t i = 0; i < model.unsaved(); ++i)
+        desk.answerNext(1);
+    model.leave();
+    if (!desk.frame().close() || desk.app().ExitInstance() != 0)
+        desk.wonder("the program cannot be left");
+    desk.end();
+
+    desk.start();
+    for (const std::string& key : palettes)
+        model.openPalette(key);
+    for (const CDocument* const document : desk.app().imageTemplate().documents()) {
+        if (std::erase(images, document->pathName()) == 1)
+            model.openImage(document->pathName());
+    }
+    if (!images.empty())
+        desk.wonder("an image does not come back");
+    if (!project.empty())
+        model.project.emplace().read(project, model.files.at(project));
+    const ImageHost& host = desk.app().imageHost();
+    model.lastActivated = const_cast<ViewModel*>(desk.modelOf(host.lastActivatedImage()));
+    if (model.palettes.contains(desk.app().paletteSet()->currentKey))
+        model.currentPalette = desk.app().paletteSet()->currentKey;
+    desk.readActive();
+}
+
 void attach(Desk& desk, const std::vector<int>& /*n*/) {
     const bool enabled = desk.model.enabled(ID_IMAGE_ATTACH).value_or(false);
     desk.run(ID_IMAGE_ATTACH);
@@ -124,6 +166,7 @@ const std::vector<Verb>& fileVerbs() {
                                          {"close", 12, {3, Desk::kImages}, closeImage},
                                          {"revert", 5, {2}, revert},
                                          {"fail-to-save", 6, {3}, failToSave},
+                                         {"leave-and-start", 3, {}, leaveAndStart},
                                          {"attach", 15, {}, attach}};
     return verbs;
 }

@@ -106,6 +106,20 @@ void drag(Desk& desk, const std::vector<int>& n) {
     release(desk, {n[6], n[7], n[2], n[3]});
 }
 
+/// More steps than a history holds.
+void drawMuch(Desk& desk, const std::vector<int>& n) {
+    if (desk.model.active == nullptr || desk.model.active->dragging())
+        return;
+    desk.run(ID_TOOL_PIXEL);
+    desk.model.active->run(ID_TOOL_PIXEL);
+    for (int i = 0; i < 130; ++i) {
+        desk.app().imageHost().selectPaletteBarCell((n[0] + i) % 16);
+        desk.readBar();
+        press(desk, {n[1] + i, n[2] + i / 5, 0, 0});
+        release(desk, {n[1] + i, n[2] + i / 5, 0, 0});
+    }
+}
+
 void key(Desk& desk, const std::vector<int>& n) {
     if (desk.model.active == nullptr)
         return;
@@ -147,7 +161,7 @@ void command(Desk& desk, const std::vector<int>& n) {
 }
 
 void cell(Desk& desk, const std::vector<int>& n) {
-    desk.app.imageHost().selectPaletteBarCell(n[0]);
+    desk.app().imageHost().selectPaletteBarCell(n[0]);
 }
 
 void repaint(Desk& desk, const std::vector<int>& /*n*/) {
@@ -166,6 +180,7 @@ const std::vector<Verb>& imageVerbs() {
                                          {"command", 135, {static_cast<int>(kCommands.size())}, command},
                                          {"undo", 20, {3, 2}, undo},
                                          {"cell", 30, {256}, cell},
+                                         {"draw-much", 2, {16, 48, 48}, drawMuch},
                                          {"repaint", 2, {}, repaint}};
     return verbs;
 }

@@ -7,6 +7,8 @@
 #include <QLineEdit>
 #include <QTabBar>
 
+#include <algorithm>
+
 namespace dyeworks {
 
 namespace {
@@ -15,7 +17,7 @@ void open(Desk& desk, const std::vector<int>& n) {
     const std::string path = Desk::palettePath(n[0]);
     // A file that is slow to come has a dialog come up, for which what is dragged is let go of. So that it
     // does not depend on that, it is now.
-    desk.app.giveUpDrags();
+    desk.app().giveUpDrags();
     if (desk.model.active != nullptr)
         desk.model.active->cancel();
     desk.fake.dialogs.answerWith(path);
@@ -78,7 +80,7 @@ void entry(Desk& desk, const std::vector<int>& n) {
     PlainTable table = palette->table();
     const std::size_t at = static_cast<std::size_t>(n[0]) % table.entries.size();
     CPaletteBar& bar = desk.frame().paletteBar();
-    desk.app.imageHost().selectPaletteBarCell(static_cast<int>(at));
+    desk.app().imageHost().selectPaletteBarCell(static_cast<int>(at));
     auto* const field = bar.findChild<QLineEdit*>(QStringLiteral("IDC_ENTRY"));
     field->setText(QString::number(n[1], 16));
     Q_EMIT field->textEdited(field->text());
@@ -111,6 +113,34 @@ void moveEntry(Desk& desk, const std::vector<int>& n) {
     Q_EMIT desk.frame().paletteBar().entriesDropped(entry, entry, place);
 }
 
+/// Turns the colours of a few entries round, or their order.
+void changeRange(Desk& desk, const std::vector<int>& n) {
+    PaletteModel* const palette = desk.model.current();
+    if (palette == nullptr)
+        return;
+    PlainTable table = palette->table();
+    const int count = static_cast<int>(table.entries.size());
+    // One cell alone is no range.
+    const int first = n[0] % (count - 1);
+    const int last = std::min(first + 1 + n[1], count - 1);
+    const bool inverts = n[2] == 0;
+    const auto begin = table.entries.begin() + first;
+    const auto end = table.entries.begin() + last + 1;
+    if (inverts) {
+        // All bits of the colour, none of alpha.
+        for (auto entry = begin; entry != end; ++entry)
+            *entry = static_cast<std::uint16_t>(*entry ^ (table.type == 0 ? 0xFFFEU : 0xFF00U));
+    } else {
+        std::reverse(begin, end);
+    }
+    desk.frame().paletteBar().selectEntries({first, last});
+    desk.expectRun(inverts ? ID_RANGE_INVERT : ID_RANGE_REVERSE, true);
+    if (table == palette->table())
+        return;
+    palette->edit(std::move(table));
+    desk.model.refreshImages();
+}
+
 } // namespace
 
 const std::vector<Verb>& paletteVerbs() {
@@ -121,7 +151,8 @@ const std::vector<Verb>& paletteVerbs() {
                                          {"tab", 10, {8}, tab},
                                          {"entry", 40, {256, 65536}, entry},
                                          {"undo-entry", 25, {2, 2}, undo},
-                                         {"move-entry", 15, {256, 256}, moveEntry}};
+                                         {"move-entry", 15, {256, 256}, moveEntry},
+                                         {"change-range", 10, {256, 20, 2}, changeRange}};
     return verbs;
 }
 

@@ -1,10 +1,6 @@
 #include "Play.h"
 
 #include "Desk.h"
-#include "ui/controls/dispatch/Dispatch.h"
-
-#include <QCoreApplication>
-#include <QVariant>
 
 #include <random>
 
@@ -15,21 +11,9 @@ namespace {
 /// Files are compared after so many steps.
 constexpr std::size_t kFilesEvery = 16;
 
-/// A program starts with no companion control registered.
-void forgetControls() {
-    QCoreApplication* const application = QCoreApplication::instance();
-    for (const QByteArray& name : application->dynamicPropertyNames()) {
-        if (name.startsWith(kControlPropertyPrefix))
-            application->setProperty(name.constData(), QVariant());
-    }
-}
-
 class Player {
 public:
     Player() { played.difference = desk_.differences(true); }
-    ~Player() { forgetControls(); }
-    Player(const Player&) = delete;
-    Player& operator=(const Player&) = delete;
 
     /// False when it is to end.
     bool play(const Step& step) {

@@ -90,7 +90,7 @@ void openPicture(Desk& desk, const std::vector<int>& n) {
     if (desk.model.images.size() >= Desk::kMostImages &&
         desk.model.imageOf(folder + picture.image) == nullptr)
         return;
-    desk.app.projectDocument()->OnNodeDoubleClick("\\Project\\Picture\\" + name);
+    desk.app().projectDocument()->OnNodeDoubleClick("\\Project\\Picture\\" + name);
     desk.model.openPalette(folder + picture.palette);
     ViewModel& image = desk.model.openImage(folder + picture.image);
     desk.model.currentPalette = folder + picture.palette;
@@ -107,7 +107,7 @@ void drop(Desk& desk, const std::vector<int>& n) {
     if (name == target && !copies)
         return;
     const std::string node = "\\Project\\Picture\\";
-    CTPFDocument& document = *desk.app.projectDocument();
+    CTPFDocument& document = *desk.app().projectDocument();
     std::string text;
     expect(desk, "a drag", document.NodeToString(node + name, text) ? 1 : 0, true);
     document.DropOnNode(node + target, text, copies ? drop_effect::kCopy : drop_effect::kMove);
