@@ -3,6 +3,7 @@
 #include "bench/Cases.h"
 #include "core/PaletteSet.h"
 #include "paint/CDyeworksDoc.h"
+#include "platform/StringId.h"
 #include "ui/ImagesOfPalette.h"
 
 #include <benchmark/benchmark.h>
@@ -138,7 +139,7 @@ void addSort(std::uint16_t bits) {
         for (auto _ : state) {
             order.reversed = !order.reversed;
             const auto map = mapOf(order, palette.table, {});
-            if (!map || !ImagesOfPalette(palette, images, nullptr).rearrange(*map))
+            if (!map || !ImagesOfPalette(palette, images, nullptr).rearrange(*map, StringId::StepSortEntries))
                 state.SkipWithError("not sorted");
             benchmark::ClobberMemory();
         }

@@ -709,13 +709,13 @@ enum class StringId : int {
     ShortcutsExport,
     ShortcutsExportTip,
     ShortcutsFilter,
-    ShortcutsTakenFrom, ///< %1 keys, %2 command
-    ShortcutsHasThem,   ///< %1 keys, %2 command
-    ShortcutsFree,      ///< %1 keys
-    ShortcutsUnknown,   ///< %1 how many
-    KeysMoveAbout,      ///< %1 keys
-    KeysOpenMenus,      ///< %1 keys
-    KeysZoomImages,     ///< %1 keys
+    ShortcutsTakenFrom,   ///< %1 keys, %2 command
+    ShortcutsHasThem,     ///< %1 keys, %2 command
+    ShortcutsFree,        ///< %1 keys
+    ShortcutsUnknown,     ///< %1 how many
+    KeysMoveAbout,        ///< %1 keys
+    KeysOpenMenus,        ///< %1 keys
+    KeysZoomImages,       ///< %1 keys
     ShortcutFileNotTaken, ///< %1 file, %2 why
     ShortcutFileNone,
     ShortcutFileNewer,

@@ -9,7 +9,8 @@
 
 namespace dyeworks {
 
-/// The commands that a search has found, a row for each. The row's accessible text and its tool tip tell all of it.
+/// The commands that a search has found, a row for each. The row's accessible text and its tool tip tell all
+/// of it.
 class CommandSearchModel : public QAbstractListModel {
     Q_OBJECT
 
