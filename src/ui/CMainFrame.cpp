@@ -129,7 +129,10 @@ CMainFrame::CMainFrame(MainFrameHost& host)
     restorePlacement();
 }
 
-CMainFrame::~CMainFrame() = default;
+CMainFrame::~CMainFrame() {
+    // It asks this window where the keys go, also while the rest of the widgets ends.
+    delete undoList_;
+}
 
 void CMainFrame::makeToolBar(const char* name, CommandId id, StringId title, StringId help,
                              std::span<const MenuItem> items) {

@@ -118,6 +118,10 @@ TEST_F(EntryDialogs, ScrollBarsStepAsTabled) {
     EXPECT_EQ(dialog_->GetValue() >> 1 & 31, 21);
     QTest::keyClick(&bar, Qt::Key_Home);
     EXPECT_EQ(shown("IDC_BLUE"), "20");
+    for (const auto& [key, value] : {std::pair{Qt::Key_Left, "19"}, {Qt::Key_Right, "20"}}) {
+        QTest::keyClick(&bar, key);
+        EXPECT_EQ(shown("IDC_BLUE"), value);
+    }
 }
 
 TEST_F(EntryDialogs, GradientEndsOutliveTheDialog) {

@@ -75,6 +75,8 @@ ColourScrollBar::ColourScrollBar(const QColor& trough, QWidget* parent)
     : QScrollBar(Qt::Horizontal, parent)
     , trough_(trough) {
     setFocusPolicy(Qt::StrongFocus);
+    // Else the left arrow key steps to the right.
+    setInvertedControls(false);
 }
 
 QSize ColourScrollBar::sizeHint() const {
