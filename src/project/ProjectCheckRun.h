@@ -8,7 +8,7 @@
 namespace dyeworks {
 
 class CTPFFile;
-class TextureRules;
+struct TextureRules;
 
 /// A `ProjectCheck` on a thread of its own, so that folders which do not answer hold up nobody. Its end lets
 /// go of what is not done: that stops at its next step, or hangs in the host for as long as it takes.
