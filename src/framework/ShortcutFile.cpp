@@ -20,16 +20,6 @@ constexpr int kVersion = 1;
 
 using Error = ShortcutFileError;
 
-/// "Save As" of "Save &As...".
-std::string plainName(const CommandRow& row) {
-    std::string name;
-    for (const char* at = row.menuText; *at != '\0'; ++at) {
-        if (*at != '&' || at[1] == '&')
-            name += *at;
-    }
-    return name.substr(0, name.find("..."));
-}
-
 std::string_view trimmed(std::string_view text) {
     constexpr std::string_view kBlank = " \t\r";
     const std::size_t first = text.find_first_not_of(kBlank);
@@ -103,7 +93,7 @@ std::string shortcutFile(const Shortcuts& shortcuts) {
     std::string all = std::string(kTitle) + std::to_string(kVersion) + "\n";
     for (const CommandRow& row : commandTable()) {
         if (Shortcuts::mayHaveKeys(row.id))
-            all += "\n# " + plainName(row) + "\n" + std::to_string(row.id) + " = " +
+            all += "\n# " + withoutMnemonic(row.menuText) + "\n" + std::to_string(row.id) + " = " +
                    joinedKeys(shortcuts.of(row.id)) + "\n";
     }
     return all;

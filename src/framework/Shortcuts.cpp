@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <charconv>
 #include <optional>
-#include <sstream>
+#include <string_view>
 #include <utility>
 
 namespace dyeworks {
@@ -132,10 +132,12 @@ std::string joinedKeys(const Shortcuts::Keys& keys) {
 
 Shortcuts::Keys splitKeys(const std::string& text) {
     Shortcuts::Keys keys;
-    std::istringstream words(text);
-    for (std::string word; words >> word;) {
-        if (std::optional<std::string> each = normalKeys(word))
+    std::string_view rest = text;
+    while (!rest.empty()) {
+        const std::size_t end = std::min(rest.find(' '), rest.size());
+        if (std::optional<std::string> each = normalKeys(rest.substr(0, end)))
             keys.push_back(std::move(*each));
+        rest.remove_prefix(std::min(end + 1, rest.size()));
     }
     return keys;
 }

@@ -30,10 +30,6 @@ Wording wording(const char* context, const char* english) {
     return {withoutMnemonic(platform().texts().translate(context, english)), withoutMnemonic(english)};
 }
 
-std::string trail(const std::string& outer, const std::string& inner) {
-    return outer.empty() ? inner : text(StringId::CommandPlace, {outer, inner});
-}
-
 /// What is shown, how it is read, what it is in English; each once.
 std::vector<std::string> waysToSay(const Wording& words) {
     std::vector<std::string> ways{words.shown};
@@ -67,7 +63,8 @@ public:
             const CommandRow* const row = findCommand(item.id);
             if (item.title != nullptr) {
                 const Wording title = wording(kMenuContext, item.title);
-                addMenu(item.items, {trail(place.shown, title.shown), trail(place.english, title.english)});
+                addMenu(item.items,
+                        {placeInside(place.shown, title.shown), placeInside(place.english, title.english)});
             } else if (item.id == kWindowList.id) {
                 windows_ = place;
             } else if (row != nullptr && told_.insert(row->id).second) {
@@ -141,6 +138,10 @@ std::vector<ListedCommand> listCommands(std::span<const std::span<const MenuItem
             lister.addWindow(*child);
     }
     return lister.take();
+}
+
+std::string placeInside(const std::string& outer, const std::string& inner) {
+    return outer.empty() ? inner : text(StringId::CommandPlace, {outer, inner});
 }
 
 std::string spoken(const ListedCommand& command) {

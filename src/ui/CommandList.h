@@ -37,6 +37,9 @@ listCommands(std::span<const std::span<const MenuItem>> bars, const CommandRoute
              const CommandActions& actions, const MdiFrame& frame, const CommandUsage& usage,
              const std::function<std::string(const CommandUi&)>& why);
 
+/// "View > Zoom" of "View" and "Zoom"; the inner one alone where nothing is around it.
+[[nodiscard]] std::string placeInside(const std::string& outer, const std::string& inner);
+
 /// "Zoom In, View, Ctrl++, disabled: no image is open", as it is read out.
 [[nodiscard]] std::string spoken(const ListedCommand& command);
 

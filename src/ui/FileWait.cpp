@@ -5,7 +5,6 @@
 #include "platform/Platform.h"
 #include "platform/StringId.h"
 #include "platform/posix/HostFile.h"
-#include "platform/qt/QtPlatform.h"
 #include "platform/qt/WaitDialog.h"
 
 #include <QProgressDialog>
@@ -71,13 +70,6 @@ std::string wordsFor(const Reading& reading, const std::string& path) {
 }
 
 } // namespace
-
-std::string pathWithoutDrive(const std::string& path) {
-    if (path.size() < 2 || path[1] != ':')
-        return path;
-    const std::optional<std::string> folder = mappedDrive(platform().profile(), path.front());
-    return folder ? platform().files().fromHostPath(*folder) + path.substr(2) : std::string();
-}
 
 bool waitForFile(const std::string& path, QWidget* owner) {
     const auto reading = std::make_shared<Reading>();

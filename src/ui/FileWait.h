@@ -12,7 +12,4 @@ namespace dyeworks {
 /// stopped it.
 [[nodiscard]] bool waitForFile(const std::string& path, QWidget* owner);
 
-/// The path without a drive; "" for a drive that stands for nothing. No file system is asked.
-[[nodiscard]] std::string pathWithoutDrive(const std::string& path);
-
 } // namespace dyeworks

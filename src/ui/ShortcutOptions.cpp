@@ -4,6 +4,7 @@
 #include "framework/widgets/CommandActions.h"
 #include "platform/Platform.h"
 #include "platform/StringId.h"
+#include "ui/CommandList.h"
 #include "ui/MainMenus.h"
 #include "ui/sheets/CShortcutsPage.h"
 
@@ -56,9 +57,9 @@ private:
     void addRows(ShortcutGroup& group, std::span<const MenuItem> items, const std::string& place) {
         for (const MenuItem& item : items) {
             if (item.title != nullptr)
-                addRows(
-                    group, item.items,
-                    inside(place, withoutMnemonic(platform().texts().translate(kMenuContext, item.title))));
+                addRows(group, item.items,
+                        placeInside(place,
+                                    withoutMnemonic(platform().texts().translate(kMenuContext, item.title))));
             else if (const CommandRow* const row = findCommand(item.id))
                 addRow(group, *row, place);
         }
@@ -66,11 +67,7 @@ private:
 
     void addRow(ShortcutGroup& group, const CommandRow& row, const std::string& place) {
         if (Shortcuts::mayHaveKeys(row.id) && told_.insert(row.id).second)
-            group.rows.push_back({row.id, inside(place, withoutMnemonic(menuText(row)))});
-    }
-
-    static std::string inside(const std::string& place, const std::string& name) {
-        return place.empty() ? name : text(StringId::CommandPlace, {place, name});
+            group.rows.push_back({row.id, placeInside(place, withoutMnemonic(menuText(row)))});
     }
 
     std::vector<ShortcutGroup> groups_;

@@ -3,9 +3,9 @@
 #include "framework/PathText.h"
 #include "framework/widgets/CommandActions.h"
 #include "framework/widgets/CommandIcon.h"
+#include "platform/Platform.h"
 #include "platform/StringId.h"
 #include "platform/TextCase.h"
-#include "ui/FileWait.h"
 #include "ui/ThumbnailButton.h"
 #include "ui/sheets/SheetControls.h"
 
@@ -25,12 +25,6 @@ namespace {
 constexpr int kColumns = 4;
 constexpr int kCardLetters = 5;
 constexpr qreal kHeadingSize = 1.25;
-
-/// The path as people write it, made without asking the file system, which may not answer.
-QString written(const std::string& path) {
-    QString text = QString::fromStdString(pathWithoutDrive(path));
-    return text.isEmpty() ? QString::fromStdString(path) : text.replace(u'\\', u'/');
-}
 
 QLabel* heading(const QString& text) {
     auto* label = new QLabel(text);
@@ -154,7 +148,7 @@ void StartPage::addFiles(QVBoxLayout& page, const QString& title, const std::vec
 ThumbnailButton* StartPage::makeCard(const StartFile& file) {
     auto* card = new ThumbnailButton(this);
     card->setText(QString::fromStdString(std::string(fileNameOf(file.path))));
-    card->setToolTip(written(file.path));
+    card->setToolTip(QString::fromStdString(displayPath(file.path)));
     const QSize size = card->sizeFor(kCardLetters);
     card->setFixedSize(size.width() * 3 / 2, size.height());
     const QSize room = card->pictureRoom();

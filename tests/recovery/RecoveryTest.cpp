@@ -90,6 +90,12 @@ protected:
         keeper_->imageChanged(image, Rect{0, 0, image.canvas().width() - 1, image.canvas().height() - 1});
     }
 
+    /// The first image's first texel.
+    void edit(std::uint32_t value) {
+        images_.front()->Edit(nullptr, [=](TextureCanvas& canvas) { canvas.PutPixel(0, 0, value); });
+        changed(*images_.front());
+    }
+
     void workOnPalettes() {
         if (host_.palettes.palettes.size() < 3)
             host_.palettes.newPalette(any(2) == 0 ? 16 : 256, ColourType::Rgba, 1);
@@ -168,12 +174,7 @@ TEST_F(Recovery, RandomWorkIsOfferedAsItWasAndNothingElse) {
 
 TEST_F(Recovery, WaitsForAPauseButNotForEver) {
     open();
-    CDyeworksDoc& image = *images_.front();
     RecoveryKeeper::Clock::time_point now;
-    const auto edit = [&](std::uint32_t value) {
-        image.Edit(nullptr, [=](TextureCanvas& canvas) { canvas.PutPixel(0, 0, value); });
-        changed(image);
-    };
     // A change each second: kept after fifteen, with what was changed by then.
     for (std::uint32_t second = 1; second < 15; ++second) {
         edit(second);
@@ -204,10 +205,6 @@ TEST_F(Recovery, AnOrderlyEndAndASaveLeaveNothing) {
 TEST_F(Recovery, WhatTheFileHasOutgrownIsNotOffered) {
     open();
     CDyeworksDoc& image = *images_.front();
-    const auto edit = [&](std::uint32_t value) {
-        image.Edit(nullptr, [=](TextureCanvas& canvas) { canvas.PutPixel(0, 0, value); });
-        changed(image);
-    };
     edit(3);
     keeper_->keepNow();
     ASSERT_TRUE(image.onSaveDocument(image.pathName()));
@@ -262,11 +259,6 @@ TEST_F(Recovery, WhatFloatsIsKeptAsItWouldBePlaced) {
 
 TEST_F(Recovery, WhatHangsIsKeptAsItWasWhenItWasCalled) {
     open();
-    CDyeworksDoc& image = *images_.front();
-    const auto edit = [&](std::uint32_t value) {
-        image.Edit(nullptr, [=](TextureCanvas& canvas) { canvas.PutPixel(0, 0, value); });
-        changed(image);
-    };
     edit(3);
     keeper_->mayHang(nullptr);
     keeper_->mayHang(nullptr);
@@ -286,7 +278,7 @@ TEST_F(Recovery, WhatHangsIsKeptAsItWasWhenItWasCalled) {
 TEST_F(Recovery, FoldersThatCannotBeWrittenAreToldAndTriedAgainAndOtherFilesPassedOver) {
     std::ofstream(base_) << "a file where the folder should be";
     open();
-    images_.front()->Edit(nullptr, [](TextureCanvas& canvas) { canvas.PutPixel(0, 0, 3); });
+    edit(3);
     keeper_->keepNow();
     EXPECT_TRUE(keeper_->failure());
     std::filesystem::remove(base_);

@@ -96,19 +96,9 @@ std::string PatientFiles::displayPath(const std::string& path) const {
     if (!spelt.answer.valid()) {
         if (!spelt.latest.empty() && Clock::now() - spelt.asked < kBelieved)
             return spelt.latest;
-        const auto answer = std::make_shared<std::promise<std::string>>();
-        const auto ask = [this, path, answer]() noexcept {
-            std::string shown;
-            try {
-                shown = PosixFiles::displayPath(path);
-            } catch (const std::bad_alloc&) {
-                shown.clear();
-            }
-            answer->set_value(std::move(shown));
-        };
-        if (!runLoosely(ask))
+        spelt.answer = askLoosely([this, path] { return PosixFiles::displayPath(path); });
+        if (!spelt.answer.valid())
             return PosixFiles::displayPath(path);
-        spelt.answer = answer->get_future();
         spelt.asked = Clock::now();
         spelt.answer.wait_for(kSpellingPatience);
     }
@@ -122,13 +112,10 @@ bool PatientFiles::wait(const std::string& path, const std::function<bool()>& is
 }
 
 bool PatientFiles::answers(const std::string& path) const {
-    const auto answered = std::make_shared<std::promise<void>>();
-    const std::future<void> answer = answered->get_future();
-    const auto ask = [this, path, answered] {
-        static_cast<void>(exists(path));
-        answered->set_value();
-    };
-    if (!mayWait() || !runLoosely(ask))
+    if (!mayWait())
+        return true;
+    const std::future<bool> answer = askLoosely([this, path] { return exists(path); });
+    if (!answer.valid())
         return true;
     const auto isDone = [&answer] { return answer.wait_for(0s) == std::future_status::ready; };
     return answer.wait_for(kWaitPatience) == std::future_status::ready || wait(path, isDone);

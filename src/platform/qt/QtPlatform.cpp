@@ -8,6 +8,10 @@
 
 namespace dyeworks {
 
+namespace {
+
+/// The host folder that the settings keep for a drive ("c:" in the section "Drives"), letters compared
+/// without regard to case.
 std::optional<std::string> mappedDrive(const Profile& profile, char letter) {
     const auto code = static_cast<unsigned char>(letter);
     for (const int spelling : {std::tolower(code), std::toupper(code)}) {
@@ -17,6 +21,8 @@ std::optional<std::string> mappedDrive(const Profile& profile, char letter) {
     }
     return std::nullopt;
 }
+
+} // namespace
 
 QtPlatform::QtPlatform(const std::string& settingsFile)
     : profile_(settingsFile)

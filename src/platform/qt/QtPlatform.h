@@ -66,8 +66,4 @@ private:
     QtTexts texts_;
 };
 
-/// The host folder that the settings keep for a drive ("c:" in the section "Drives"), letters compared
-/// without regard to case.
-[[nodiscard]] std::optional<std::string> mappedDrive(const Profile& profile, char letter);
-
 } // namespace dyeworks
