@@ -57,6 +57,8 @@ void CDyeworksView::pressed(const PointerEvent& event) {
         scrollDragging_ = true;
         scrollDragPoint_ = event.position;
         scrollDragStart_ = window_.scrollPosition();
+        const Point corner = geometry().origin();
+        selection_.setAnchor({scrollDragStart_.x - corner.x, scrollDragStart_.y - corner.y});
         window_.capturePointer();
         showBrush(event.position);
         updateCursor(event.position, event.shift, event.control);

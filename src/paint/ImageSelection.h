@@ -81,6 +81,7 @@ public:
     /// changes, and the user is told.
     void turn(Turn turn);
     /// Where the next floating piece is placed: the texel that the last drag began at, or as far as it came.
+    /// After one that scrolled it is the number of pixels that the image was scrolled by at its press.
     void setAnchor(Point texel) noexcept { anchor_ = texel; }
 
     /// A shape is being dragged between two corners: its frame shows in the next paint, which `redrawRequest`

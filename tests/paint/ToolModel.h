@@ -139,7 +139,7 @@ struct ToolModel : WholeImages {
         if (e.shift) {
             dragging = scrolling = true;
             previous = e.position;
-            scrollBefore = scroll;
+            scrollBefore = anchor = scroll;
             return;
         }
         atPress = tool;
