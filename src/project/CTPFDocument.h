@@ -101,8 +101,8 @@ public:
     void RevertCheck();
     /// Whether the file, in full, is the image of a picture.
     [[nodiscard]] bool holdsImage(const std::string& path) const;
-    /// Opens the picture's palette and image and attaches one to the other. False when that failed, which has
-    /// been reported.
+    /// Opens the picture's palette and image, as far as they can be opened, which is reported, and attaches
+    /// one to the other. False when there is no such picture.
     bool OpenPicture(const std::string& name);
 
     // What the tree asks.

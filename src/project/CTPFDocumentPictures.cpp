@@ -195,7 +195,8 @@ bool CTPFDocument::OpenPicture(const std::string& name) {
     if (image == nullptr)
         return true;
     PaletteSet* const set = image->host().paletteSet();
-    if (paletteIsOpen && set != nullptr) {
+    // What the picture names may be a file of another kind, opened as such.
+    if (paletteIsOpen && set != nullptr && set->lookup(palette) != nullptr) {
         // Opening an image that is attached already has made another palette the current one.
         set->setCurrent(palette);
         image->Attach();

@@ -97,6 +97,20 @@ TEST_F(FilesProject, PicturesAreClosedTogetherAfterOneQuestionForEach) {
 std::function<void()> onEnd;     // Of a project.
 std::function<void()> onPreview; // Of an image.
 
+TEST_F(FilesProject, APictureIsShownInThePaletteThatItNames) {
+    openAttached(texels(2, 2, [](int, int) { return 1U; }), 4, 256);
+    putImages(fake_, {"c:\\tex\\a.tmf", "c:\\tex\\b.tmf"});
+    CTPFDocument& project = openProject();
+    ASSERT_TRUE(project.AddPicture("A", "c:\\tex\\a.tmf", "c:\\tex\\pic.tlf", 3, std::nullopt, true));
+    ASSERT_TRUE(project.AddPicture("B", "c:\\tex\\b.tmf", "c:\\tex\\a.tmf", 3, std::nullopt, true));
+    EXPECT_TRUE(project.OpenPicture("A"));
+    EXPECT_EQ(image().attachedName(), "c:\\tex\\pic.tlf");
+    EXPECT_EQ(image().paletteValue(), 48);
+    EXPECT_TRUE(project.OpenPicture("B"));
+    EXPECT_EQ(image().pathName(), "c:\\tex\\b.tmf");
+    EXPECT_FALSE(image().IsAttached()) << "what it names is no palette";
+}
+
 TEST_F(Launch, LeavingAsksForWhatPlugInsChangeMeanwhile) {
     const std::string plugIn = "c:\\program\\PlugIns\\p.so";
     fake_.files.putFile(plugIn, "");

@@ -216,8 +216,8 @@ DW_HOST uint32_t DW_setTLFDir(const char* directories);
 DW_HOST TmfImage* DW_getTMF(const char* name);
 DW_HOST uint32_t DW_setTMF(const char* name, const TmfImage* image);
 /* A palette: the open one, by its whole path, or the current one for the empty name; otherwise the file of
- * that name in the project's palette folders, which must be there, as it was last saved. An open palette
- * shows what was set at its next refresh. */
+ * that name in the project's palette folders, which must be there, as it was last saved. The palette bar
+ * shows at once what was set of an open palette, images at their next refresh. */
 DW_HOST TlutData* DW_getTLF(const char* name);
 DW_HOST uint32_t DW_setTLF(const char* name, const TlutData* table);
 
