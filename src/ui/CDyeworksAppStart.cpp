@@ -73,8 +73,6 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
     if (!createMainFrame())
         return false;
     programFolder_ = platform().files().programFolder();
-    if (commandLine.isInteractive())
-        static_cast<void>(platform().shell().registerFileTypes({kFileTypes.begin(), kFileTypes.end()}));
     listenForOpenRequests(commandLine);
     if (!createPaletteSet())
         return false;
@@ -87,6 +85,9 @@ bool CDyeworksApp::InitInstance(const CommandLine& commandLine) {
     if (commandLine.task == CommandLine::Task::Serve || !processCommandLine(commandLine))
         return false;
     showMainFrame();
+    // At the first start this writes many files, which nobody has to wait for.
+    if (commandLine.isInteractive())
+        static_cast<void>(platform().shell().registerFileTypes({kFileTypes.begin(), kFileTypes.end()}));
     tellProfileTrouble();
     if (commandLine.task == CommandLine::Task::Nothing && !commandLine.renders() && !ResumeDocuments())
         applicationMessage(text(StringId::ResumeFailed), MessageIcon::Information);
