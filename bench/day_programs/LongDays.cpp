@@ -186,10 +186,9 @@ public:
         if (number % 10 == 7)
             program_.run(ID_WINDOW_NEW);
         program_.settle();
-        // Two stay open until the next one is.
-        if (number % 3 != 0)
-            return;
-        closeAll();
+        // Some stay open for a while.
+        if (number % 3 == 0)
+            closeAll();
         if (number % 10 == 9)
             closePalette();
     }

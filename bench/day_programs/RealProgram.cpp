@@ -43,6 +43,15 @@ void tell(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QStri
 
 std::string latestDialog; ///< What it says.
 
+/// An event of the left button, which is held while the pointer moves. QTest takes the origin for the middle
+/// of the widget, and has nothing held in a move.
+void point(QWidget& widget, QEvent::Type type, QPoint place) {
+    const bool moves = type == QEvent::MouseMove;
+    QMouseEvent event(type, place, widget.mapToGlobal(place), moves ? Qt::NoButton : Qt::LeftButton,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
 void write(const QString& file, std::initializer_list<std::span<const std::byte>> parts) {
     QFile out(file);
     RealProgram::check(out.open(QIODevice::WriteOnly), "a file cannot be made");
@@ -159,20 +168,15 @@ QPoint RealProgram::at(QPoint texel) {
 }
 
 void RealProgram::press(QPoint texel) {
-    QTest::mousePress(view().viewport(), Qt::LeftButton, {}, at(texel));
+    point(*view().viewport(), QEvent::MouseButtonPress, at(texel));
 }
 
-/// QTest::mouseMove reports no button.
 void RealProgram::move(QPoint texel) {
-    QWidget* const viewport = view().viewport();
-    const QPoint place = at(texel);
-    QMouseEvent event(QEvent::MouseMove, place, viewport->mapToGlobal(place), Qt::NoButton, Qt::LeftButton,
-                      Qt::NoModifier);
-    QCoreApplication::sendEvent(viewport, &event);
+    point(*view().viewport(), QEvent::MouseMove, at(texel));
 }
 
 void RealProgram::release(QPoint texel) {
-    QTest::mouseRelease(view().viewport(), Qt::LeftButton, {}, at(texel));
+    point(*view().viewport(), QEvent::MouseButtonRelease, at(texel));
 }
 
 void RealProgram::drag(std::initializer_list<QPoint> texels) {
@@ -203,16 +207,6 @@ void RealProgram::clickCell(int cell, Qt::KeyboardModifiers held) {
     QTest::mouseClick(grid().controlWindow(), Qt::LeftButton, held, placeOf(cell));
 }
 
-void RealProgram::dragCell(int from, int to) {
-    QWidget* const window = grid().controlWindow();
-    const QPoint end = placeOf(to);
-    QTest::mousePress(window, Qt::LeftButton, {}, placeOf(from));
-    QMouseEvent move(QEvent::MouseMove, end, window->mapToGlobal(end), Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QCoreApplication::sendEvent(window, &move);
-    QTest::mouseRelease(window, Qt::LeftButton, {}, end);
-}
-
 void RealProgram::enter(const PaletteBarId& field, const QString& text) {
     auto* const edit = frame().paletteBar().findChild<QLineEdit*>(QString::fromLatin1(field.name));
     edit->selectAll();
@@ -230,13 +224,10 @@ void RealProgram::dragSlider(const PaletteBarId& slider, double from, double to)
     const auto place = [&](double share) {
         return QPoint(static_cast<int>(share * (window->width() - 1)), window->height() / 2);
     };
-    QTest::mousePress(window, Qt::LeftButton, {}, place(from));
-    for (const double share : {(from + to) / 2, to}) {
-        QMouseEvent move(QEvent::MouseMove, place(share), window->mapToGlobal(place(share)), Qt::NoButton,
-                         Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(window, &move);
-    }
-    QTest::mouseRelease(window, Qt::LeftButton, {}, place(to));
+    point(*window, QEvent::MouseButtonPress, place(from));
+    for (const double share : {(from + to) / 2, to})
+        point(*window, QEvent::MouseMove, place(share));
+    point(*window, QEvent::MouseButtonRelease, place(to));
 }
 
 void RealProgram::answerNext(std::function<void(QDialog&)> answer) {

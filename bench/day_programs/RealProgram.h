@@ -58,7 +58,6 @@ public:
     void move(QPoint texel);
     void release(QPoint texel);
     void clickCell(int cell, Qt::KeyboardModifiers held = {});
-    void dragCell(int from, int to);
     void enter(const PaletteBarId& field, const QString& text);
     void clickButton(const PaletteBarId& button);
     void dragSlider(const PaletteBarId& slider, double from, double to);
