@@ -499,13 +499,17 @@ int run(int argc, char** argv) {
         return play(argv[2], argc, argv, argv[3]);
     static constexpr std::array kCases{"image", "recover", "wide", "high", "project", "palettes"};
     const std::vector<std::string_view> wanted(argv + 1, argv + argc);
-    const QTemporaryDir home;
+    QTemporaryDir home;
     bool all = true;
     std::puts(
         "| | fastest, ms | slowest, ms | resident then, MiB | at most, MiB |\n|---|---:|---:|---:|---:|");
     for (const char* const name : kCases) {
-        if (wanted.empty() || std::ranges::find(wanted, name) != wanted.end())
-            all = runCase(name, home.path()) && all;
+        if (!wanted.empty() && std::ranges::find(wanted, name) == wanted.end())
+            continue;
+        // What one leaves unsaved is offered to the next one that has its home.
+        if (std::string_view(name) != "recover")
+            home = QTemporaryDir();
+        all = runCase(name, home.path()) && all;
     }
     return all ? 0 : 1;
 }
