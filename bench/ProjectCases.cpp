@@ -36,6 +36,7 @@ public:
     }
     bool openPalette(const std::string& /*path*/) override { return false; }
     CDyeworksDoc* openImage(const std::string& /*path*/) override { return nullptr; }
+    std::vector<std::string> openFiles() override { return {}; }
     bool ClosePictureDocuments(const std::vector<std::string>& /*paths*/,
                                const std::function<bool()>& /*mayGoOn*/) override {
         return true;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/LargeBlock.h"
+
 #include <cstddef>
 #include <cstdlib>
 
@@ -18,8 +20,10 @@ template <typename T>
 /// `count` elements of undefined value, for a reader that is about to fill them; otherwise the same.
 template <typename T>
 [[nodiscard]] T* allocateUnfilledPlainArray(std::size_t count) noexcept {
-    return static_cast<T*>(
-        std::malloc(count == 0 ? 1 : count * sizeof(T))); // NOLINT(cppcoreguidelines-no-malloc)
+    // NOLINTNEXTLINE(cppcoreguidelines-no-malloc)
+    void* const array = std::malloc(count == 0 ? 1 : count * sizeof(T));
+    prepareBlock(array, count * sizeof(T));
+    return static_cast<T*>(array);
 }
 
 template <typename T>

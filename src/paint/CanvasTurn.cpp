@@ -2,6 +2,7 @@
 #include "paint/CanvasTransform.h"
 #include "paint/PixelRuns.h"
 #include "paint/TextureCanvas.h"
+#include "platform/LargeBlock.h"
 
 #include <algorithm>
 #include <array>
@@ -143,6 +144,7 @@ std::unique_ptr<TextureCanvas> turned(const TextureCanvas& canvas, Turn turn) {
     if (!canHaveSize(size, canvas.bitsPerPixel()) || made == nullptr ||
         !made->Create(size.width, size.height, canvas.planes(), canvas.bitsPerPixel()))
         return nullptr;
+    prepareBlock(made->pixelRows().data(), made->pixelRows().size());
     made->copyColourTableFrom(canvas);
     visitDepth<QuarterTurn>(canvas.bitsPerPixel(),
                             [&](auto quarter) { quarter.run(canvas, *made, turn == Turn::Right); });

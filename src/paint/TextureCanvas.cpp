@@ -1,6 +1,7 @@
 #include "paint/TextureCanvas.h"
 
 #include "paint/PixelAccess.h"
+#include "platform/LargeBlock.h"
 #include "platform/LittleEndian.h"
 
 #include <algorithm>
@@ -63,6 +64,8 @@ bool TextureCanvas::allocate(std::int32_t width, std::int32_t height, std::uint1
     block_ = allocateCanvasBlock(*size, contents);
     if (block_ == nullptr)
         return false;
+    if (contents == BlockContents::Undefined)
+        prepareBlock(block_.get(), *size);
     blockSize_ = *size;
     pixelOffset_ = pixelOffsetFor(bitsPerPixel);
     stride_ = static_cast<std::uint32_t>(bmp::stride(width, bitsPerPixel));

@@ -18,6 +18,9 @@ public:
     /// In the order of their names.
     [[nodiscard]] virtual std::vector<std::string> names() const = 0;
     [[nodiscard]] virtual Result<ByteBuffer, FileError> read(const std::string& name) const = 0;
+    /// Its first bytes: so many, or all there are.
+    [[nodiscard]] virtual Result<ByteBuffer, FileError> readStart(const std::string& name,
+                                                                  std::size_t most) const = 0;
     /// Takes one file away for ever.
     virtual void remove(const std::string& name) = 0;
     /// Takes all of it away for ever.

@@ -10,6 +10,8 @@
 #include "project/PathHelpers.h"
 
 #include <algorithm>
+#include <string>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -204,7 +206,7 @@ bool CTPFDocument::mayClose() {
             answered = changes();
             return settled;
         };
-        agreed = host_.ClosePictureDocuments(pictureFiles(), isAnswered) && isAnswered();
+        agreed = host_.ClosePictureDocuments(openPictureFiles(), isAnswered) && isAnswered();
         if (!agreed && plugInHandles_.empty())
             RestartPlugIns();
     }
@@ -231,15 +233,25 @@ void CTPFDocument::RestartPlugIns() {
     updateAllViews(nullptr, kHintPlugIns);
 }
 
-/// Those that are there, in the order of the pictures.
-std::vector<std::string> CTPFDocument::pictureFiles() const {
+/// Those that may be open, in the order of the pictures. To look for the files of thousands of pictures would
+/// take a while; few are called like one that is open.
+std::vector<std::string> CTPFDocument::openPictureFiles() const {
+    std::unordered_set<std::u32string> openNames;
+    for (const std::string& path : host_.openFiles())
+        openNames.insert(foldedCase(fileNameOf(path)));
     std::vector<std::string> paths;
+    const auto add = [&](const std::string& directories, const std::string& name) {
+        if (!openNames.contains(foldedCase(fileNameOf(name))))
+            return;
+        if (std::string path = findFile(directories, name); !path.empty())
+            paths.push_back(std::move(path));
+    };
     for (const std::string& name : projectFile_.order) {
-        PictureFiles files = FilesOf(name);
-        for (std::string* path : {&files.image, &files.palette}) {
-            if (!path->empty())
-                paths.push_back(std::move(*path));
-        }
+        PictureEntry entry;
+        if (openNames.empty() || !projectFile_.GetPicture(name, entry))
+            continue;
+        add(projectFile_.tmfDir, entry.tmfFile);
+        add(projectFile_.tlfDir, entry.tlfFile);
     }
     return paths;
 }

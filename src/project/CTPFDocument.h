@@ -137,7 +137,7 @@ private:
     [[nodiscard]] bool create(const ProjectSettings& settings);
     [[nodiscard]] bool write(const std::string& path, std::optional<FileError>* why = nullptr);
     void updateTitle();
-    [[nodiscard]] std::vector<std::string> pictureFiles() const;
+    [[nodiscard]] std::vector<std::string> openPictureFiles() const;
     [[nodiscard]] std::string findFile(const std::string& directories, const std::string& name) const;
     bool askForPicture(PictureSettings& settings, const std::string& ownName);
     [[nodiscard]] PictureField check(const PictureSettings& settings, const std::string& ownName) const;

@@ -67,6 +67,8 @@ public:
     virtual bool openPalette(const std::string& path) = 0;
     /// Opens the image. Null when it could not be opened, which has been reported.
     virtual CDyeworksDoc* openImage(const std::string& path) = 0;
+    /// The files of the images and palettes that are open; more may be among them.
+    [[nodiscard]] virtual std::vector<std::string> openFiles() = 0;
     /// Closes the images and palettes of these paths that are open, if the user agrees. False, with all of
     /// them still open, when the user cancels a question about their changes, or when `mayGoOn`, which is
     /// asked last and also when nothing is to be closed, answers so.

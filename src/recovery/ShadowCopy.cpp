@@ -1,6 +1,7 @@
 #include "recovery/ShadowCopy.h"
 
 #include "paint/TextureCanvas.h"
+#include "platform/LargeBlock.h"
 
 #include <algorithm>
 #include <cstring>
@@ -43,7 +44,11 @@ void ShadowCopy::markBytes(std::size_t first, std::size_t last) {
 
 void ShadowCopy::restart(const TextureCanvas& canvas) {
     const std::size_t size = canvas.block().size();
-    bytes_.resize(size);
+    // Not filled with anything: of a large image that alone would take longer than anybody should wait.
+    if (bytes_.size() != size) {
+        bytes_ = ByteBuffer(size);
+        prepareBlock(bytes_.data(), size);
+    }
     marked_.assign((size + kPiece - 1) / kPiece, true);
     next_ = 0;
     whole_ = false;

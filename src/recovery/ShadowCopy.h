@@ -1,6 +1,7 @@
 #pragma once
 
 #include "paint/Rect.h"
+#include "platform/ByteBuffer.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -28,13 +29,13 @@ public:
     void cover(const TextureCanvas& canvas, const TextureCanvas& rows, std::int32_t top);
 
     /// A bitmap file once `bringUp` was true, until something is marked.
-    [[nodiscard]] std::span<const std::byte> bytes() const noexcept { return bytes_; }
+    [[nodiscard]] std::span<const std::byte> bytes() const noexcept { return bytes_.bytes(); }
 
 private:
     void restart(const TextureCanvas& canvas);
     void markBytes(std::size_t first, std::size_t last);
 
-    std::vector<std::byte> bytes_;
+    ByteBuffer bytes_;
     std::vector<bool> marked_; ///< By pieces of the block.
     std::size_t next_ = 0;     ///< No piece before this one is marked.
     bool whole_ = true;

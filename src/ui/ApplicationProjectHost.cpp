@@ -1,5 +1,6 @@
 #include "ui/ApplicationProjectHost.h"
 
+#include "core/PaletteSet.h"
 #include "framework/CommandRouter.h"
 #include "paint/CDyeworksDoc.h"
 #include "ui/CMainFrame.h"
@@ -74,6 +75,15 @@ bool ApplicationProjectHost::openPalette(const std::string& path) {
 
 CDyeworksDoc* ApplicationProjectHost::openImage(const std::string& path) {
     return dynamic_cast<CDyeworksDoc*>(workspace_.OpenDocumentFile(path).document());
+}
+
+std::vector<std::string> ApplicationProjectHost::openFiles() {
+    std::vector<std::string> files;
+    for (const CDocument* const document : workspace_.documents())
+        files.push_back(document->pathName());
+    for (const auto& [key, palette] : workspace_.paletteSet()->palettes)
+        files.push_back(key);
+    return files;
 }
 
 bool ApplicationProjectHost::ClosePictureDocuments(const std::vector<std::string>& paths,

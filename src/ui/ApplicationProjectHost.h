@@ -27,6 +27,7 @@ public:
                     const std::function<PictureField(const PictureSettings&)>& check) override;
     bool openPalette(const std::string& path) override;
     CDyeworksDoc* openImage(const std::string& path) override;
+    std::vector<std::string> openFiles() override;
     bool ClosePictureDocuments(const std::vector<std::string>& paths,
                                const std::function<bool()>& mayGoOn) override;
     void SetPaletteBarNumber(std::int32_t number) override;

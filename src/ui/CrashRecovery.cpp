@@ -33,6 +33,8 @@ constexpr int kBetweenLooks = 500; // Milliseconds.
 constexpr int kPictureSide = 96;
 /// What takes longer to read than a list should take to show has no picture in it.
 constexpr std::size_t kLargestShown = std::size_t{64} << 20U;
+/// What stands before the contents is smaller.
+constexpr std::size_t kHead = std::size_t{64} << 10U;
 
 QImage pictureOf(const TlutData& table) {
     constexpr int kColumns = 16;
@@ -164,7 +166,7 @@ void CrashRecovery::find() {
     states_ = platform().stateFolder().left();
     for (const auto& state : *states_) {
         for (const std::string& name : state->names()) {
-            const auto file = state->read(name);
+            const auto file = state->readStart(name, kHead);
             if (!file)
                 continue;
             if (auto read = parseRecoveryItem(file.value().bytes()))
@@ -185,7 +187,7 @@ void CrashRecovery::offer() {
     while (!left_.empty()) {
         std::vector<RecoverySheet::Row> rows;
         for (const Left& left : left_) {
-            const auto file = left.state->read(left.name);
+            const auto file = left.state->readStart(left.name, kLargestShown + kHead);
             const auto read = file ? parseRecoveryItem(file.value().bytes()) : std::nullopt;
             const bool inFile = !left.item.path.empty() && !left.item.path.starts_with('*');
             rows.push_back({read ? iconOf(read->item, read->contents) : QIcon(),

@@ -79,7 +79,10 @@ void FullScreen::showHint() {
     const int gap = hint->fontMetrics().height();
     hint->move(gap, gap);
     hint->show();
-    QTimer::singleShot(kHintTime, hint, &QObject::deleteLater);
+    // It ends with the hint, however soon that goes.
+    auto* const end = new QTimer(hint);
+    connect(end, &QTimer::timeout, hint, &QObject::deleteLater);
+    end->start(kHintTime);
 }
 
 bool FullScreen::eventFilter(QObject* watched, QEvent* event) {

@@ -259,6 +259,11 @@ TEST_F(Project, OpensWhatIsThereOfAPicture) {
     EXPECT_THAT(host_.take(), IsEmpty());
 
     ASSERT_TRUE(document_.save());
+    EXPECT_TRUE(document_.mayClose()) << "nothing of it is open";
+    EXPECT_EQ(host_.take().front(), "ask");
+    document_.RestartPlugIns();
+    static_cast<void>(host_.take());
+    host_.open = {"c:\\p\\A.TLF", "c:\\p\\tex\\a.tmf"};
     const std::string ask = "ask c:\\p\\tex\\a.tmf c:\\p\\a.tlf c:\\p\\a.tlf";
     host_.closes = false;
     EXPECT_FALSE(document_.mayClose());

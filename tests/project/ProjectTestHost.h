@@ -52,6 +52,7 @@ public:
         log.push_back("image " + path);
         return nullptr;
     }
+    std::vector<std::string> openFiles() override { return open; }
     bool ClosePictureDocuments(const std::vector<std::string>& paths,
                                const std::function<bool()>& mayGoOn) override {
         std::string line = "ask";
@@ -69,6 +70,7 @@ public:
 
     CTPFDocument* project = nullptr;
     bool closes = true;
+    std::vector<std::string> open;           ///< Paths.
     std::deque<ProjectSettings> newProjects; ///< What the sheets answer; cancelled when there is none left.
     std::deque<PictureSettings> pictures;
     PictureSettings proposed; ///< What the picture dialog started with.

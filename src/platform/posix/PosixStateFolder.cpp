@@ -69,6 +69,16 @@ public:
     [[nodiscard]] Result<ByteBuffer, FileError> read(const std::string& name) const override {
         return readHostFile(folder_ + '/' + name);
     }
+    [[nodiscard]] Result<ByteBuffer, FileError> readStart(const std::string& name,
+                                                          std::size_t most) const override {
+        const auto file = openHostFile(folder_ + '/' + name);
+        if (!file)
+            return file.error();
+        ByteBuffer start(static_cast<std::size_t>(std::min<std::uint64_t>(file.value()->size(), most)));
+        if (file.value()->read(start.bytes()) < start.size())
+            return FileError::Other;
+        return start;
+    }
     void remove(const std::string& name) override { (void)::unlink((folder_ + '/' + name).c_str()); }
     void discard() override { removeWhole(folder_); }
 

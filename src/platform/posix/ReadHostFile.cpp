@@ -1,3 +1,4 @@
+#include "platform/LargeBlock.h"
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/HostFile.h"
 
@@ -54,6 +55,7 @@ Result<ByteBuffer, FileError> readLonger(int descriptor, const ByteBuffer& start
 
 Result<ByteBuffer, FileError> readAll(int descriptor, std::size_t size) {
     ByteBuffer buffer(size);
+    prepareBlock(buffer.data(), size);
     const ssize_t count = readInto(descriptor, buffer.bytes());
     if (count < 0)
         return fileErrorFrom(errno);

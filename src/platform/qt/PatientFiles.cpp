@@ -1,5 +1,7 @@
 #include "platform/qt/PatientFiles.h"
 
+#include "platform/ByteBuffer.h"
+#include "platform/LargeBlock.h"
 #include "platform/LooseThread.h"
 #include "platform/StringId.h"
 #include "platform/Text.h"
@@ -9,6 +11,7 @@
 #include <QCoreApplication>
 #include <QThread>
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <functional>
@@ -16,7 +19,6 @@
 #include <memory>
 #include <new>
 #include <utility>
-#include <vector>
 
 namespace dyeworks {
 
@@ -38,7 +40,7 @@ struct Writing {
     /// Its form for the host; empty: there is none. Looking for it may hang, too.
     std::function<std::string()> find;
     std::string file;
-    std::vector<std::byte> bytes;
+    ByteBuffer bytes;
     std::promise<std::optional<FileError>> done;
     std::atomic<bool> stopped = false;
 
@@ -46,7 +48,7 @@ struct Writing {
         std::optional<FileError> error;
         try {
             file = find();
-            const std::span<const std::byte> piece = bytes;
+            const std::span<const std::byte> piece = bytes.bytes();
             error = file.empty() ? FileError::NotFound
                                  : writeHostFile(file, FilePieces(&piece, 1), Flush::Yes, &stopped);
         } catch (const std::bad_alloc&) {
@@ -68,9 +70,11 @@ std::shared_ptr<Writing> start(std::function<std::string()> find, FilePieces pie
         std::size_t size = 0;
         for (const std::span<const std::byte> piece : pieces)
             size += piece.size();
-        writing->bytes.reserve(size);
+        writing->bytes = ByteBuffer(size);
+        prepareBlock(writing->bytes.data(), size);
+        std::byte* end = writing->bytes.data();
         for (const std::span<const std::byte> piece : pieces)
-            writing->bytes.insert(writing->bytes.end(), piece.begin(), piece.end());
+            end = std::ranges::copy(piece, end).out;
         return runLoosely([writing] { writing->run(); }) ? writing : nullptr;
     } catch (const std::bad_alloc&) {
         return nullptr;

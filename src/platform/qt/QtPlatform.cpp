@@ -1,5 +1,7 @@
 #include "platform/qt/QtPlatform.h"
 
+#include "platform/LargeBlock.h"
+#include "platform/posix/HugePages.h"
 #include "platform/qt/ProgramVersion.h"
 
 #include <QCoreApplication>
@@ -33,7 +35,9 @@ QtPlatform::QtPlatform(const std::string& settingsFile)
     , fileDialogs_(windows_, files_, messages_)
     , library_(files_)
     , versionInfo_(files_, programVersion())
-    , shell_(files_, profile_.fileName()) {}
+    , shell_(files_, profile_.fileName()) {
+    setPrepareBlock(askForHugePages);
+}
 
 QtPlatform::~QtPlatform() = default;
 

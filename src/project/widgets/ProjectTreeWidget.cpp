@@ -99,7 +99,8 @@ void ProjectTreeWidget::closing(ChildFrame& /*frame*/) {
 }
 
 bool ProjectTreeWidget::isExpanded(const ProjectNode& node) const {
-    return QTreeView::isExpanded(model_.indexOf(&node));
+    // To find the row of each of many pictures would take a while.
+    return !node.children.empty() && QTreeView::isExpanded(model_.indexOf(&node));
 }
 
 void ProjectTreeWidget::expand(const ProjectNode& node) {
