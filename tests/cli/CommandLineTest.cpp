@@ -82,6 +82,8 @@ const std::vector<Refused> kRefused{
     {{"palette", "move", "a.tlf", "--to", "16"}, 3, "a.tlf: "},
     {{"palette", "sort", "a.tlf", "--range", "9-4"}, 2, "dyeworks-cli palette sort: "},
     {{"palette", "sort", "a.tlf", "cut.tmf"}, 3, "cut.tmf: "},
+    {{"check", "a.tmf", "--rules", "none.tpf"}, 3, "none.tpf: "},
+    {{"check", "a.tmf", "-p", "cut.tlf"}, 3, "cut.tlf: "},
     {{"render", "a.tmf"}, 2, "dyeworks-cli render: "},
     {{"render", "a.tmf", "-o", "b.png", "--zoom", "17"}, 2, "dyeworks-cli render: "},
     {{"render", "a.tmf", "-o", "b.png", "-p", "none.tlf"}, 3, "none.tlf: "},
