@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 namespace dyeworks {
@@ -40,6 +41,8 @@ TEST(PaletteFile, ReadsTheFormsThatAreFound) {
         const auto colours = read(c.file, c.name);
         ASSERT_TRUE(colours) << c.file;
         EXPECT_EQ(colours.value().colours, c.colours) << c.file;
+        const bool isClear = std::ranges::any_of(c.colours, [](Colour each) { return each.alpha != 255; });
+        EXPECT_EQ(colours.value().hasAlpha, isClear) << c.file;
     }
 }
 
