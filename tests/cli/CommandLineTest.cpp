@@ -28,6 +28,11 @@ struct CommandLine : testing::Test {
     CommandLine() {
         folder.write("a.tmf", image());
         folder.write("a.tlf", palette());
+        // Each entry another colour; from entry 64 on they are transparent.
+        std::vector<unsigned> wide;
+        for (unsigned i = 0; i < 256; ++i)
+            wide.push_back(i < 64 ? 0x8001 + 96 * i : 0x3000 + 18 * i);
+        folder.write("wide.tlf", tlfFile(wide, false));
         folder.write("cut.tmf", image().substr(0, 40));
         folder.write("cut.tlf", palette().substr(0, 70));
         folder.write("text", "no texture");
@@ -77,6 +82,8 @@ const std::vector<Refused> kRefused{
     {{"palette", "move", "a.tlf", "--to", "16"}, 3, "a.tlf: "},
     {{"palette", "sort", "a.tlf", "--range", "9-4"}, 2, "dyeworks-cli palette sort: "},
     {{"palette", "sort", "a.tlf", "cut.tmf"}, 3, "cut.tmf: "},
+    {{"check", "a.tmf", "--rules", "none.tpf"}, 3, "none.tpf: "},
+    {{"check", "a.tmf", "-p", "cut.tlf"}, 3, "cut.tlf: "},
     {{"render", "a.tmf"}, 2, "dyeworks-cli render: "},
     {{"render", "a.tmf", "-o", "b.png", "--zoom", "17"}, 2, "dyeworks-cli render: "},
     {{"render", "a.tmf", "-o", "b.png", "-p", "none.tlf"}, 3, "none.tlf: "},
@@ -154,6 +161,54 @@ TEST_F(CommandLine, GoesOnAfterAFileThatFails) {
     EXPECT_EQ(folder.run({"build", "gone.tpf", "-o", "built", "-q"}).code, 3);
     EXPECT_THAT(folder.read("built/Two.png"), StartsWith("\x89PNG"));
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "built/One.png"));
+}
+
+TEST_F(CommandLine, InfoTellsWhatFilesHold) {
+    for (const Arguments& words :
+         std::vector<Arguments>{{"convert", "a.tmf", "-p", "wide.tlf", "-b", "3", "-o", "a.png"},
+                                {"convert", "a.png", "-o", "a.bmp"},
+                                {"convert", "wide.tlf", "-o", "w.gpl"},
+                                {"convert", "wide.tlf", "-o", "w.hex"},
+                                {"render", "a.tmf", "-p", "wide.tlf", "-o", "r.png"}})
+        EXPECT_EQ(folder.run(words).code, 0);
+    const ProgramRun run =
+        folder.run({"info", "a.tmf", "a.tlf", "wide.tlf", "p.tpf", "a.bmp", "w.gpl", "w.hex"});
+    EXPECT_EQ(run.out, "a.tmf: TMF, 8 x 8, 4 bits, 1 colours used, 96 bytes\n"
+                       "a.tlf: TLF, 16 entries (1 different), 16bit RGBA, 96 bytes\n"
+                       "wide.tlf: TLF, 256 entries (256 different), 16bit RGBA, 576 bytes\n"
+                       "p.tpf: TPF, 1 pictures, 36 bytes\n"
+                       "a.bmp: BMP, 8 x 8, 4 bits, 1 colours used, 16 entries (16 different), 150 bytes\n"
+                       "w.gpl: GPL, 256 entries (256 different), " +
+                           std::to_string(folder.read("w.gpl").size()) + " bytes\n" +
+                           "w.hex: HEX, 256 entries (256 different), 2304 bytes\n");
+    EXPECT_THAT(
+        folder.run({"info", "a.png"}).out,
+        StartsWith("a.png: PNG, 8 x 8, 4 bits, 1 colours used, 256 entries (256 different), 16bit RGBA, "
+                   "bank 3, "));
+    EXPECT_THAT(folder.run({"info", "r.png"}).out, StartsWith("r.png: PNG, 8 x 8, 1 colours used, "));
+    EXPECT_THAT(
+        folder.run({"info", "--json", "a.png"}).out,
+        HasSubstr("\"bits\": 4,\n    \"coloursUsed\": 1,\n    \"entries\": 256,\n"
+                  "    \"differentEntries\": 256,\n    \"colourType\": \"rgba\",\n    \"bank\": 3\n"));
+}
+
+TEST_F(CommandLine, SheetShowsEachPictureInItsBank) {
+    const auto colour = [&](const Arguments& drawn) {
+        EXPECT_EQ(folder.run(drawn).code, 0);
+        return folder
+            .run({"b.png", "-gravity", "center", "-crop", "1x1+0+0", "-depth", "8", "rgb:-"},
+                 {.program = "convert"})
+            .out;
+    };
+    for (const char* const bank : {"0", "3", "15"}) {
+        folder.write("sheet.tpf", std::string("PICT.0=One,a.tmf,wide.tlf,") + bank + "\nPICT_NUM=1\n");
+        EXPECT_EQ(colour({"render", "sheet.tpf", "-o", "b.png", "--side", "8", "--columns", "1"}),
+                  colour({"render", "a.tmf", "-p", "wide.tlf", "-b", bank, "-o", "b.png"}))
+            << bank;
+    }
+    folder.write("rules.tpf", "Rules.FirstEntryTransparent=1\n");
+    EXPECT_NE(folder.run({"check", "--rules", "rules.tpf", "-p", "wide.tlf", "-b", "3", "a.tmf"}).out, "");
+    EXPECT_EQ(folder.run({"check", "--rules", "rules.tpf", "-p", "wide.tlf", "-b", "4", "a.tmf"}).out, "");
 }
 
 TEST_F(CommandLine, CheckNamesTheFileThePlaceAndWhatIsWrong) {

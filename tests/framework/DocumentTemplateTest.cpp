@@ -34,9 +34,12 @@ struct Templates : testing::Test {
 };
 
 TEST_F(Templates, OpenDocumentIsFoundByAnySpellingOfItsPath) {
+    std::vector<std::string> told;
+    textures.setPathListener([&](const std::string& path) { told.push_back(path); });
     CDocument* sky = textures.openDocument("tex\\Sky.tmf");
     ASSERT_NE(sky, nullptr);
     EXPECT_THAT(windows.opened, ElementsAre("Sky.tmf"));
+    EXPECT_THAT(told, ElementsAre("c:\\tex\\Sky.tmf"));
     for (const char* path :
          {"c:\\tex\\Sky.tmf", "C:\\TEX\\SKY.TMF", "tex/sky.tmf", "c:\\tex\\..\\tex\\.\\sky.tmf"})
         EXPECT_EQ(textures.findDocument(path), sky) << path;

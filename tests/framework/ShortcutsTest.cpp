@@ -93,6 +93,7 @@ TEST(Shortcut, KeysBelongToOneCommandWhateverIsDoneWithThem) {
             }
         }
         ASSERT_EQ(now, model) << step;
+        EXPECT_EQ(shortcuts.isAsGiven(command), shortcuts.of(command) == Shortcuts::given(command));
         if (step % 10 != 0)
             continue;
         shortcuts.save();

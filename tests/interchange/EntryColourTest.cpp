@@ -1,5 +1,6 @@
 #include "interchange/EntryColour.h"
 
+#include "interchange/PerceptualSpace.h"
 #include "interchange/Texture.h"
 
 #include <gtest/gtest.h>
@@ -28,6 +29,22 @@ TEST(EntryColour, FiveBitsComeBackFromEitherWideningAndOthersAreRounded) {
         exact += isWidened ? 1 : 0;
     }
     EXPECT_EQ(exact, 2 * 32 - 4);
+}
+
+TEST(PerceptualSpace, HoldsColoursWhereAnotherProgramComputesThem) {
+    // None that an entry is exactly, which would be taken as the display shows it.
+    const struct {
+        Colour colour;
+        Triple point;
+    } cases[] = {{{254, 1, 3}, {56.856F, 44.831F, -14.055F}},
+                 {{2, 3, 253}, {35.654F, -27.775F, -37.888F}},
+                 {{10, 200, 30}, {73.558F, 4.444F, 43.896F}},
+                 {{250, 251, 252}, {98.767F, -0.927F, -0.132F}},
+                 {{3, 2, 1}, {0.686F, 0.738F, 0.105F}}};
+    for (const auto& [colour, point] : cases) {
+        const Triple away = pointOf(ColourType::Rgba, lightOf(ColourType::Rgba, colour)) - point;
+        EXPECT_LT(squared(away), 0.0004F) << int{colour.red};
+    }
 }
 
 TEST(EntryColour, GreysThatFiveBitsLoseMakeAPaletteOfIntensities) {

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 namespace dyeworks {
@@ -40,6 +41,8 @@ TEST(PaletteFile, ReadsTheFormsThatAreFound) {
         const auto colours = read(c.file, c.name);
         ASSERT_TRUE(colours) << c.file;
         EXPECT_EQ(colours.value().colours, c.colours) << c.file;
+        const bool isClear = std::ranges::any_of(c.colours, [](Colour each) { return each.alpha != 255; });
+        EXPECT_EQ(colours.value().hasAlpha, isClear) << c.file;
     }
 }
 
@@ -74,7 +77,8 @@ TEST(PaletteFile, RandomPalettesComeBack) {
     for (const auto& [format, name] : {std::pair{PaletteFormat::Gimp, "a.gpl"},
                                        {PaletteFormat::Jasc, "a.pal"},
                                        {PaletteFormat::Act, "a.act"},
-                                       {PaletteFormat::Hex, "a.hex"}}) {
+                                       {PaletteFormat::Hex, "a.hex"},
+                                       {PaletteFormat::Png, "a.png"}}) {
         for (int round = 0; round < 40; ++round) {
             TlutData palette;
             ASSERT_TRUE(palette.create(256, round % 2 == 0 ? ColourType::Rgba : ColourType::Ia));
@@ -82,12 +86,16 @@ TEST(PaletteFile, RandomPalettesComeBack) {
                 palette.setEntry(i, static_cast<std::uint16_t>(random()));
             const auto first = static_cast<std::int32_t>(random() % 256);
             const auto count = round == 0 ? 256 - first : 1;
+            for (const auto& [from, size] : {std::pair{-1, 1}, {first, 0}, {first, -1}, {first, 257 - first}})
+                ASSERT_FALSE(writePaletteFile(format, palette, from, size, "x"));
             const auto file = writePaletteFile(format, palette, first, count, "x");
             ASSERT_TRUE(file);
             const auto again = readPaletteFile(file.value(), name);
             ASSERT_TRUE(again);
-            ASSERT_EQ(again.value().colours.size(), static_cast<std::size_t>(count));
-            const bool keepsAlpha = format == PaletteFormat::Jasc || format == PaletteFormat::Hex;
+            // A palette of ours, which a PNG file holds, has 16 entries or 256.
+            const int held = format != PaletteFormat::Png ? count : count <= 16 ? 16 : 256;
+            ASSERT_EQ(again.value().colours.size(), static_cast<std::size_t>(held));
+            const bool keepsAlpha = format != PaletteFormat::Gimp && format != PaletteFormat::Act;
             for (std::int32_t i = 0; i < count; ++i) {
                 Colour colour = again.value().colours[static_cast<std::size_t>(i)];
                 const Colour shown = colourOf(palette, first + i);

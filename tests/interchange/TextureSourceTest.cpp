@@ -24,12 +24,12 @@ constexpr const char* kProgram = R"(#include "a.h"
 #include <stdio.h>
 int main(void) {
     int i;
-    for (i = 0; i < A_TEXEL_BYTES; ++i)
-        printf("%d ", a_texels[i]);
-    for (i = 0; i < A_PALETTE_COUNT; ++i)
-        printf("%d %d ", a_palette[i] >> 8, a_palette[i] & 255);
-    printf("%d %d %d %d", A_WIDTH, A_HEIGHT, A_BITS, A_PALETTE_FIRST);
-    return (uintptr_t)a_texels % ALIGNMENT != 0 || (uintptr_t)a_palette % ALIGNMENT != 0;
+    for (i = 0; i < A_2_TEXEL_BYTES; ++i)
+        printf("%d ", a_2_texels[i]);
+    for (i = 0; i < A_2_PALETTE_COUNT; ++i)
+        printf("%d %d ", a_2_palette[i] >> 8, a_2_palette[i] & 255);
+    printf("%d %d %d %d", A_2_WIDTH, A_2_HEIGHT, A_2_BITS, A_2_PALETTE_FIRST);
+    return (uintptr_t)a_2_texels % ALIGNMENT != 0 || (uintptr_t)a_2_palette % ALIGNMENT != 0;
 }
 )";
 
@@ -50,7 +50,7 @@ TEST(TextureSource, CompilesAsCAndCppAndHoldsTheImage) {
                 ASSERT_TRUE(palette.create(256, ColourType::Rgba));
                 for (std::int32_t i = 0; i < 256; ++i)
                     palette.setEntry(i, static_cast<std::uint16_t>(random()));
-                const SourceOptions options{"a", alignment, true, true, whole};
+                const SourceOptions options{"a 2", alignment, true, true, whole};
                 const bool isPair = ++round % 2 == 0;
                 write(folder / "a.c", "");
                 if (isPair) {
@@ -92,6 +92,7 @@ TEST(TextureSource, NamesBecomeValid) {
                                      {"int", "int_"},
                                      {"\xE7\xA9\xBA", "texture"},
                                      {"", "texture"},
+                                     {"-z", "_z"},
                                      {"a \xE7\xA9\xBA"
                                       "b",
                                       "a_b"}})

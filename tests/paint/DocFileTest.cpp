@@ -166,6 +166,11 @@ TEST_F(DocFile, WhatCannotBeOpenedIsToldWithTheReasonAndLeavesNothingBehind) {
         EXPECT_EQ(platform.messages.shown.size(), 1U) << "told once";
         EXPECT_EQ(platform.messages.lastText(), message);
     }
+    EXPECT_FALSE(document.CreateFrom(TmfImage()));
+    BmpImage huge;
+    huge.width = huge.height = BmpImage::kLongestSide;
+    huge.bitsPerPixel = 32;
+    EXPECT_FALSE(document.CreateFrom(huge));
     EXPECT_TRUE(host.palettes.palettes.empty());
 }
 

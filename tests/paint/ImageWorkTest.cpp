@@ -55,6 +55,7 @@ TEST_F(ImageWorkCommands, ADepthShowsWhatTheEyeSawThereAndBack) {
     EXPECT_EQ(host.questions, 0);
     EXPECT_EQ(document.canvas().bitsPerPixel(), 4);
     EXPECT_EQ(document.canvas().GetPixel(1, 2), 0xCU);
+    EXPECT_EQ(countIndexes(document.canvas()), IndexCounts{}) << "of 8 bits alone";
     EXPECT_EQ(document.paletteValue(), 0x30);
     EXPECT_EQ(host.panes[2], "(6, 4) 4bit");
     EXPECT_EQ(seen(), before);

@@ -40,6 +40,8 @@ TEST(EntryUsage, RemarksTwinsOfTheSameGroupAndClearEntriesInUse) {
     const auto said = [&](std::int32_t group, std::size_t entry) {
         return describe(entryRemarks(table, usage, group).at(entry));
     };
+    usage[0] = 3;
+    EXPECT_EQ(said(16, 0), "3 texels");
     EXPECT_EQ(said(16, 2), "12 texels, same as entry 9");
     EXPECT_EQ(said(16, 18), "1 texel");
     EXPECT_EQ(said(32, 18), "1 texel, same as entry 2");

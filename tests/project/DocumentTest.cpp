@@ -86,8 +86,9 @@ TEST_F(Project, MarksItsTitleWhileItIsModified) {
     EXPECT_THAT(fake_.files.textOf("c:\\p\\lake.tpf").value(), HasSubstr("Note.1\t=\tx\r\n"));
     EXPECT_FALSE(document_.RemoveKey("Note.2"));
     EXPECT_FALSE(document_.isModified());
+    EXPECT_TRUE(document_.RemoveKey("Note.1"));
+    EXPECT_TRUE(document_.isModified());
 
-    document_.setModified(true);
     fake_.files.failNextWrite(FileError::NoSpace);
     fake_.dialogs.answerWith("c:\\p\\full.tpf");
     EXPECT_FALSE(document_.saveAs());

@@ -28,6 +28,9 @@ TEST_F(PosixLibraryTest, FindsEntryPointsByTheirDecoratedNames) {
     ASSERT_NE(isAvail, nullptr);
     EXPECT_EQ(isAvail(0x01000200), 0x01000201U);
     EXPECT_EQ(sample->find("_DWPI_import@8"), nullptr);
+    EXPECT_EQ(undecorated("_a@4"), "a");
+    for (const std::string plain : {"", "a@4", "_@4", "_a@", "_a", "_a@4b"})
+        EXPECT_EQ(undecorated(plain), plain);
 }
 
 TEST_F(PosixLibraryTest, LooksForBareNamesInTheProgramFolderOnly) {
