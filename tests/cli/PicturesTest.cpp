@@ -182,6 +182,14 @@ TEST(Pictures, LookTheSameWhenTheirPaletteIsArranged) {
     const std::string before = folder.read("a.tlf") + folder.read("b.tmf");
     EXPECT_EQ(folder.run({"palette", "move", "--range", "0-11", "--to", "100", "a.tlf", "b.tmf"}).code, 3);
     EXPECT_EQ(folder.read("a.tlf") + folder.read("b.tmf"), before);
+    // What was written before the file that fails is taken back.
+    folder.write("large.tmf", tmfFile(40, 40, 8, random.numbers(1600, 2)));
+    EXPECT_EQ(folder
+                  .run({"palette", "swap", "--range", "0-1", "--to", "6", "a.tlf", "b.tmf", "large.tmf"},
+                       {.tinyFiles = true})
+                  .code,
+              3);
+    EXPECT_EQ(folder.read("a.tlf") + folder.read("b.tmf"), before);
 }
 
 } // namespace
