@@ -109,6 +109,19 @@ TEST(Pictures, OfColoursComeIntoFewAndIntoGivenOnes) {
             folder.run({"convert", name, "-p", "grey.tlf", "-o", "g.png", "--palette-out", "g.tlf"}).code, 0);
         EXPECT_EQ(folder.read("g.tlf"), folder.read("grey.tlf"));
     }
+    // The same colours in another order.
+    Random random(4);
+    folder.write("i.tmf", tmfFile(10, 6, 8, random.numbers(60, 256)));
+    std::vector<unsigned> entries = random.numbers(256, 65536);
+    std::ranges::for_each(entries, [](unsigned& entry) { entry |= 1; });
+    folder.write("i.tlf", tlfFile(entries, false));
+    std::ranges::reverse(entries);
+    folder.write("j.tlf", tlfFile(entries, false));
+    ASSERT_EQ(folder.run({"convert", "i.tmf", "-p", "i.tlf", "-o", "i.png"}).code, 0);
+    ASSERT_EQ(folder.run({"convert", "i.png", "-p", "j.tlf", "-o", "j.tmf"}).code, 0);
+    ASSERT_EQ(folder.run({"render", "i.png", "-o", "one.png"}).code, 0);
+    ASSERT_EQ(folder.run({"render", "j.tmf", "-p", "j.tlf", "-o", "other.png"}).code, 0);
+    EXPECT_EQ(difference(folder, "one.png", "other.png"), "0");
 }
 
 TEST(Pictures, OfBitmapsHaveTheColoursThatTheEditorGivesThem) {
@@ -181,6 +194,14 @@ TEST(Pictures, LookTheSameWhenTheirPaletteIsArranged) {
     // Out of the bank that the image shows no texel can go, and then nothing changes.
     const std::string before = folder.read("a.tlf") + folder.read("b.tmf");
     EXPECT_EQ(folder.run({"palette", "move", "--range", "0-11", "--to", "100", "a.tlf", "b.tmf"}).code, 3);
+    EXPECT_EQ(folder.read("a.tlf") + folder.read("b.tmf"), before);
+    // What was written before the file that fails is taken back.
+    folder.write("large.tmf", tmfFile(40, 40, 8, random.numbers(1600, 2)));
+    EXPECT_EQ(folder
+                  .run({"palette", "swap", "--range", "0-1", "--to", "6", "a.tlf", "b.tmf", "large.tmf"},
+                       {.tinyFiles = true})
+                  .code,
+              3);
     EXPECT_EQ(folder.read("a.tlf") + folder.read("b.tmf"), before);
 }
 
