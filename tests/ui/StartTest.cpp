@@ -52,11 +52,8 @@ TEST_F(Start, GoesThroughItsStepsInOrder) {
         return make(host);
     };
     parts_.makePaletteSet = [&, make = parts_.makePaletteSet] {
-        std::vector<std::string> kinds;
-        for (const FileTypeRegistration& type : fake_.shell.registered)
-            kinds.push_back(type.typeName + type.extension);
-        EXPECT_THAT(kinds, ElementsAre("TMF.Document.tmf", "TPF.Document.tpf", "TLF.Document.tlf"));
         EXPECT_TRUE(fake_.shell.deliverOpenRequest({})) << "open requests are taken";
+        EXPECT_THAT(fake_.shell.registered, IsEmpty()) << "nobody waits for it";
         EXPECT_FALSE(frame().isVisible());
         steps.emplace_back("palettes");
         return make();
@@ -65,6 +62,10 @@ TEST_F(Start, GoesThroughItsStepsInOrder) {
     EXPECT_THAT(steps, ElementsAre("services", "frame", "palettes"));
     EXPECT_EQ(applicationPaletteSet(), app_->paletteSet());
     EXPECT_TRUE(frame().isVisible());
+    std::vector<std::string> kinds;
+    for (const FileTypeRegistration& type : fake_.shell.registered)
+        kinds.push_back(type.typeName + type.extension);
+    EXPECT_THAT(kinds, ElementsAre("TMF.Document.tmf", "TPF.Document.tpf", "TLF.Document.tlf"));
     EXPECT_THAT(texts(fake_), IsEmpty());
 }
 
