@@ -58,9 +58,9 @@ protected:
         program_.attach();
         program_.settle();
     }
-    /// What has changed is not to be kept.
+    /// What has changed is not to be kept. The last window of an image asks.
     void closeImage() {
-        if (program_.image().hasUnsavedChanges())
+        if (program_.image().hasUnsavedChanges() && program_.image().views().size() == 1)
             program_.answerNext(Qt::Key_N);
         program_.key(Qt::Key_W, Qt::ControlModifier);
         program_.settle();
@@ -77,8 +77,8 @@ protected:
     RealProgram& program_;
 };
 
-/// Every tool, selections and keys, with undo and redo among them.
-class Edits : public Work {
+/// Work on one painted image and its palette, which changes nearly each time.
+class ChangesOfOne : public Work {
 public:
     using Work::Work;
 
@@ -87,8 +87,24 @@ public:
         closeImage();
         closePalette();
         // Some change nothing, as a fill with the value that is there.
-        RealProgram::check(changed_ * 10 > done_ * 9, "too few edits changed the image");
+        RealProgram::check(changed_ * 10 > done_ * 9, "too little of the work changed anything");
     }
+
+protected:
+    void count(bool hasChanged) {
+        ++done_;
+        changed_ += hasChanged ? 1 : 0;
+    }
+
+private:
+    int done_ = 0;
+    int changed_ = 0;
+};
+
+/// Every tool, selections and keys, with undo and redo among them.
+class Edits : public ChangesOfOne {
+public:
+    using ChangesOfOne::ChangesOfOne;
 
     void doOne(int number) override {
         const std::int32_t before = program_.image().edits().position();
@@ -100,8 +116,7 @@ public:
         const int y = number * 7 % (kSide - 16);
         edit(kind, {x, y}, {x + 15, y + 9});
         program_.settle();
-        ++done_;
-        changed_ += program_.image().edits().position() != before ? 1 : 0;
+        count(program_.image().edits().position() != before);
         if (number % 1000 == 999)
             program_.key(Qt::Key_S, Qt::ControlModifier);
     }
@@ -158,9 +173,6 @@ private:
             return program_.key(Qt::Key_Y, Qt::ControlModifier);
         }
     }
-
-    int done_ = 0;
-    int changed_ = 0;
 };
 
 /// Images with palettes, most of them painted in, are opened and closed; a few are open at a time.
@@ -201,13 +213,8 @@ public:
 private:
     void closeAll() {
         while (program_.frame().activeImageView() != nullptr) {
-            // The last window of a document asks.
-            if (program_.image().hasUnsavedChanges() && program_.image().views().size() == 1)
-                program_.answerNext(Qt::Key_N);
             const CDyeworksView* const view = &program_.view().view();
-            program_.key(Qt::Key_W, Qt::ControlModifier);
-            program_.settle();
-            RealProgram::check(program_.allAnswered(), "nothing was asked when an image closed");
+            closeImage();
             const ImageView* const next = program_.frame().activeImageView();
             RealProgram::check(next == nullptr || &const_cast<ImageView*>(next)->view() != view,
                                "an image does not close");
@@ -216,16 +223,9 @@ private:
 };
 
 /// Entries are typed, dragged, moved and turned round, while an image shows them.
-class PaletteEdits : public Work {
+class PaletteEdits : public ChangesOfOne {
 public:
-    using Work::Work;
-
-    void begin() override { openPainted(); }
-    void end() override {
-        closeImage();
-        closePalette();
-        RealProgram::check(changed_ * 10 > done_ * 9, "too few edits changed the palette");
-    }
+    using ChangesOfOne::ChangesOfOne;
 
     void doOne(int number) override {
         const std::vector<std::uint16_t> before = entries();
@@ -261,8 +261,7 @@ public:
             program_.run(ID_PALETTE_REDO);
         }
         program_.settle();
-        ++done_;
-        changed_ += entries() != before ? 1 : 0;
+        count(entries() != before);
         if (number % 500 == 499)
             program_.run(ID_PALETTE_SAVE);
     }
@@ -275,9 +274,6 @@ private:
             all.push_back(table.getEntry(i));
         return all;
     }
-
-    int done_ = 0;
-    int changed_ = 0;
 };
 
 /// Projects are opened, walked through, one of their pictures opened, and closed.

@@ -30,9 +30,9 @@ bool isPicture(QRgb pixel) {
 }
 
 bool isSeen(QScreen& screen) {
+    const QRect room = screen.geometry();
     int found = 0;
     for (const double row : kRows) {
-        const QRect room = screen.geometry();
         const QImage line = screen.grabWindow(0, 0, static_cast<int>(room.height() * row), room.width(), 1)
                                 .toImage()
                                 .convertToFormat(QImage::Format_RGB32);
