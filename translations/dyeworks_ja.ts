@@ -5310,5 +5310,9 @@ The file is no longer whole. Save under another name; until then what was to be 
         <source>The keys in &quot;%1&quot; cannot be taken over. %2</source>
         <translation>「%1」のキーは取り込めません。%2</translation>
     </message>
+    <message>
+        <source>Clear the field</source>
+        <translation>欄を空にする</translation>
+    </message>
 </context>
 </TS>

@@ -9,7 +9,7 @@ namespace dyeworks::plugins {
 namespace {
 
 constexpr int kMostHeadingLevels = 6;
-constexpr QLatin1Char kSeparator('\\');
+constexpr QLatin1Char kPathSeparator('\\');
 
 /// One line, so that it reads as it was typed.
 QString escaped(const QString& line) {
@@ -69,18 +69,19 @@ QByteArray markdownOf(const NoteTree& notes, const QString& projectName) {
 }
 
 QString projectNameOf(const QString& projectPath) {
-    const QString file = projectPath.mid(projectPath.lastIndexOf(kSeparator) + 1);
+    const QString file = projectPath.mid(projectPath.lastIndexOf(kPathSeparator) + 1);
     const qsizetype dot = file.lastIndexOf(QLatin1Char('.'));
     return dot > 0 ? file.left(dot) : file;
 }
 
 QString markdownFileFor(const QString& projectPath) {
     const QString file = projectNameOf(projectPath) + QStringLiteral(".md");
-    const bool isHere = projectPath.startsWith(kSeparator) && !projectPath.startsWith(QStringLiteral("\\\\"));
+    const bool isHere =
+        projectPath.startsWith(kPathSeparator) && !projectPath.startsWith(QStringLiteral("\\\\"));
     if (!isHere)
         return file;
-    QString folder = projectPath.left(projectPath.lastIndexOf(kSeparator) + 1);
-    return folder.replace(kSeparator, QLatin1Char('/')) + file;
+    QString folder = projectPath.left(projectPath.lastIndexOf(kPathSeparator) + 1);
+    return folder.replace(kPathSeparator, QLatin1Char('/')) + file;
 }
 
 } // namespace dyeworks::plugins

@@ -9,7 +9,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-std::string textOf(const Json& json) {
+std::string jsonText(const Json& json) {
     constexpr int kIndent = 2;
     return json.dump(kIndent, ' ', false, Json::error_handler_t::replace) + "\n";
 }
@@ -45,7 +45,7 @@ std::string jsonOf(const std::vector<NamedInfo>& files) {
         json.update(jsonOf(file.info));
         list.push_back(std::move(json));
     }
-    return textOf(list);
+    return jsonText(list);
 }
 
 std::string jsonOf(const std::vector<Finding>& findings) {
@@ -57,7 +57,7 @@ std::string jsonOf(const std::vector<Finding>& findings) {
                         {"place", finding.place},
                         {"check", finding.check},
                         {"reason", finding.reason}});
-    return textOf(list);
+    return jsonText(list);
 }
 
 std::string jsonOf(const BuildState& state) {
@@ -73,7 +73,7 @@ std::string jsonOf(const BuildState& state) {
                             {"bits", picture.bits},
                             {"bank", picture.bank}});
     }
-    return textOf({{"pictures", std::move(pictures)}});
+    return jsonText({{"pictures", std::move(pictures)}});
 }
 
 } // namespace dyeworks

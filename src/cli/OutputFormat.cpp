@@ -16,7 +16,7 @@ namespace {
 
 using Written = Result<OutputFiles, std::string>;
 
-std::string textOf(std::span<const std::byte> bytes) {
+std::string bytesText(std::span<const std::byte> bytes) {
     return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
@@ -32,7 +32,7 @@ Written tmfOf(const TmfImage& image) {
     const std::optional<TmfFile> file = layOutTmf(image);
     if (!file)
         return say(CliText::ImageTooLarge);
-    return one(OutputFormat::Tmf, textOf(file->header) + textOf(file->body));
+    return one(OutputFormat::Tmf, bytesText(file->header) + bytesText(file->body));
 }
 
 Written bmpOf(const TmfImage& image, const TlutData* palette, std::int32_t firstEntry) {
@@ -49,14 +49,14 @@ Written bmpOf(const TmfImage& image, const TlutData* palette, std::int32_t first
             std::fill_n(table.begin() + static_cast<std::ptrdiff_t>(4 * i), 3,
                         static_cast<std::uint8_t>(i * 255 / (colours - 1)));
     }
-    return one(OutputFormat::Bmp, textOf(canvas.block()));
+    return one(OutputFormat::Bmp, bytesText(canvas.block()));
 }
 
 template <typename Read>
 Written written(OutputFormat format, const Read& bytes) {
     if (!bytes)
         return describe(bytes.error());
-    return one(format, textOf(std::as_bytes(std::span(bytes.value()))));
+    return one(format, bytesText(std::as_bytes(std::span(bytes.value()))));
 }
 
 Written sourceOf(const TmfImage& image, const TlutData* palette, std::int32_t firstEntry,
@@ -138,7 +138,7 @@ Written outputOf(OutputFormat format, const TlutData& palette, std::int32_t firs
         return bytes.empty() ? Written(say(CliText::NoPalette)) : one(format, std::move(bytes));
     }
     case OutputFormat::Raw:
-        return one(format, textOf(rawPalette(part, 0, count)));
+        return one(format, bytesText(rawPalette(part, 0, count)));
     case OutputFormat::Tmf:
     case OutputFormat::Bmp:
     case OutputFormat::Source:

@@ -21,7 +21,7 @@ namespace dyeworks {
 
 namespace {
 
-std::string textOf(const ByteBuffer& file) {
+std::string fileText(const ByteBuffer& file) {
     return {reinterpret_cast<const char*>(file.data()), file.size()};
 }
 
@@ -75,7 +75,7 @@ bool PaletteFiles::readPalette(const std::string& name, Console& console) {
         return false;
     }
     name_ = name;
-    paletteBytes_ = textOf(file.value());
+    paletteBytes_ = fileText(file.value());
     palette_ = std::move(palette).value();
     return true;
 }
@@ -106,7 +106,7 @@ bool PaletteFiles::readImage(const std::string& name, std::int32_t bank, Console
     }
     auto added = std::make_unique<Image>(image.value());
     added->name = name;
-    added->bytes = textOf(file.value());
+    added->bytes = fileText(file.value());
     added->bank = shown;
     images_.push_back(std::move(added));
     return true;

@@ -9,8 +9,8 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::size_t kHeaderSize = 64;
-constexpr std::size_t kReservedSize = 52;
+constexpr std::size_t kTlfHeaderSize = 64;
+constexpr std::size_t kTlfReservedSize = 52;
 
 /// The tag of a file with `count` entries, or 0 when no file has that many.
 std::uint32_t tagFor(std::int32_t count) {
@@ -27,9 +27,9 @@ std::uint32_t tagFor(std::int32_t count) {
 } // namespace
 
 Result<TlutData, TlfError> parseTlf(std::span<const std::byte> file) {
-    if (file.size() < kHeaderSize)
+    if (file.size() < kTlfHeaderSize)
         return TlfError::ShortHeader;
-    ByteReader header(file.first(kHeaderSize));
+    ByteReader header(file.first(kTlfHeaderSize));
     const std::uint32_t tag = header.be32();
     const std::int32_t count = header.signed32();
     const auto colourType = static_cast<ColourType>(header.be32());
@@ -41,7 +41,7 @@ Result<TlutData, TlfError> parseTlf(std::span<const std::byte> file) {
     if (!table.create(count, colourType))
         return TlfError::NoMemory;
 
-    ByteReader body(file.subspan(kHeaderSize));
+    ByteReader body(file.subspan(kTlfHeaderSize));
     if (body.left() < static_cast<std::size_t>(count) * sizeof(std::uint16_t))
         return TlfError::ShortBody;
     for (std::int32_t i = 0; i < count; ++i)
@@ -55,12 +55,12 @@ std::optional<ByteBuffer> serialiseTlf(const TlutData& table) {
         return std::nullopt;
 
     const auto count = static_cast<std::size_t>(table.count);
-    ByteBuffer file(kHeaderSize + count * sizeof(std::uint16_t));
+    ByteBuffer file(kTlfHeaderSize + count * sizeof(std::uint16_t));
     ByteWriter writer(file.bytes());
     writer.be32(tag);
     writer.be32(static_cast<std::uint32_t>(table.count));
     writer.be32(static_cast<std::uint32_t>(table.colourType));
-    writer.zeroes(kReservedSize);
+    writer.zeroes(kTlfReservedSize);
     for (std::int32_t i = 0; i < table.count; ++i)
         writer.be16(table.getEntry(i));
     return file;

@@ -7,6 +7,10 @@
 
 namespace dyeworks {
 
+/// Entries that a 4-bit image shows, and the last of the banks in which a palette of 256 has them.
+inline constexpr std::int32_t kBankSize = 16;
+inline constexpr std::int32_t kLastBank = 15;
+
 /// A palette's table. It is handed to plug-ins as it stands, so the fields and their order are fixed.
 ///
 /// Setters and getters (all but `getEntry`) check 0 <= index < count first: outside it a setter changes

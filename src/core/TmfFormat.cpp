@@ -16,8 +16,7 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::size_t kHeaderSize = 64;
-constexpr std::size_t kReservedSize = 48;
+constexpr std::size_t kTmfReservedSize = 48;
 constexpr std::uint32_t kTag4Bit = 0x00120200;
 constexpr std::uint32_t kTag8Bit = 0x00120300;
 
@@ -53,7 +52,7 @@ std::uint64_t packedRowsOf(const TmfHeader& header) {
 }
 
 std::uint64_t bodySizeOf(std::uint64_t fileSize) {
-    return fileSize - std::min<std::uint64_t>(fileSize, kHeaderSize);
+    return fileSize - std::min<std::uint64_t>(fileSize, kTmfHeaderSize);
 }
 
 /// Packed rows stand at the start of the block: moves each to its place, from the last one on, and clears
@@ -123,9 +122,9 @@ void report(const TmfError& error, const std::string& path) {
 } // namespace
 
 Result<TmfHeader, TmfError> parseTmfHeader(std::span<const std::byte> file) {
-    if (file.size() < kHeaderSize)
+    if (file.size() < kTmfHeaderSize)
         return TmfError{TmfError::Kind::ShortHeader};
-    ByteReader reader(file.first(kHeaderSize));
+    ByteReader reader(file.first(kTmfHeaderSize));
     TmfHeader header;
     header.tag = reader.be32();
     header.width = reader.signed32();
@@ -137,7 +136,7 @@ Result<TmfHeader, TmfError> parseTmfHeader(std::span<const std::byte> file) {
 }
 
 Result<TmfHeader, TmfError> readTmfHeader(FileReader& file) {
-    std::array<std::byte, kHeaderSize> start;
+    std::array<std::byte, kTmfHeaderSize> start;
     return parseTmfHeader(std::span(start).first(file.read(start)));
 }
 
@@ -157,7 +156,7 @@ Result<TmfImage, TmfError> parseTmf(std::span<const std::byte> file) {
     const auto header = parseTmfHeader(file);
     if (!header)
         return header.error();
-    ByteReader body(file.subspan(kHeaderSize));
+    ByteReader body(file.subspan(kTmfHeaderSize));
     TmfImage image;
     const auto error =
         readBody(header.value(), body.left(), roomIn(image), [&body](std::span<std::byte> part) {
@@ -209,7 +208,7 @@ std::optional<TmfFile> layOutTmf(const TmfImage& image) {
     header.be32(static_cast<std::uint32_t>(image.width));
     header.be32(static_cast<std::uint32_t>(image.height));
     header.be32(static_cast<std::uint32_t>(image.bits));
-    header.zeroes(kReservedSize);
+    header.zeroes(kTmfReservedSize);
 
     const Layout layout(image);
     const bool unusedNibbles = image.bits == 4 && image.width % 2 != 0;

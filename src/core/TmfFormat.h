@@ -15,6 +15,8 @@
 
 namespace dyeworks {
 
+inline constexpr std::size_t kTmfHeaderSize = 64; ///< In bytes.
+
 /// What the 64-byte, big-endian header of a TMF file declares. The sides are as they stand in the file.
 struct TmfHeader {
     std::uint32_t tag = 0;

@@ -11,8 +11,8 @@ namespace dyeworks {
 
 namespace {
 
-constexpr const char* kSection = "Command Search";
-constexpr const char* kEntry = "Used";
+constexpr const char* kUsageSection = "Command Search";
+constexpr const char* kUsageEntry = "Used";
 
 /// A command of its own, which is the same tomorrow.
 bool isSingle(CommandId id) {
@@ -25,7 +25,7 @@ bool isSingle(CommandId id) {
 void CommandUsage::load() {
     used_.clear();
     // "32777:5 57603:2"
-    std::istringstream in(platform().profile().textOr(kSection, kEntry, {}));
+    std::istringstream in(platform().profile().textOr(kUsageSection, kUsageEntry, {}));
     Used used{};
     char colon = 0;
     while (used_.size() < kMost && in >> used.id >> colon >> used.count) {
@@ -66,7 +66,7 @@ void CommandUsage::save() const {
     std::ostringstream out;
     for (const Used& each : used_)
         out << (&each == &used_.front() ? "" : " ") << each.id << ':' << each.count;
-    platform().profile().setText(kSection, kEntry, out.str());
+    platform().profile().setText(kUsageSection, kUsageEntry, out.str());
 }
 
 } // namespace dyeworks

@@ -6,17 +6,17 @@ namespace dyeworks {
 
 namespace {
 
-constexpr const char* kSection = "Outside Changes";
-constexpr const char* kEntry = "ReloadUnchanged";
+constexpr const char* kReloadSection = "Outside Changes";
+constexpr const char* kReloadEntry = "ReloadUnchanged";
 
 } // namespace
 
 bool reloadsUnchanged() {
-    return platform().profile().integer(kSection, kEntry, 0) != 0;
+    return platform().profile().integer(kReloadSection, kReloadEntry, 0) != 0;
 }
 
 void setReloadsUnchanged(bool reloads) {
-    platform().profile().setInteger(kSection, kEntry, reloads ? 1 : 0);
+    platform().profile().setInteger(kReloadSection, kReloadEntry, reloads ? 1 : 0);
 }
 
 } // namespace dyeworks

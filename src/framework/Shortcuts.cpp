@@ -15,7 +15,7 @@ namespace dyeworks {
 
 namespace {
 
-constexpr const char* kSection = "Shortcuts";
+constexpr const char* kShortcutSection = "Shortcuts";
 
 std::optional<CommandId> commandOf(const std::string& entry) {
     CommandId command = 0;
@@ -103,9 +103,9 @@ void Shortcuts::set(CommandId command, const Keys& keys) {
 Shortcuts Shortcuts::load() {
     Shortcuts shortcuts;
     const Profile& profile = platform().profile();
-    for (const std::string& entry : profile.entries(kSection)) {
+    for (const std::string& entry : profile.entries(kShortcutSection)) {
         const std::optional<CommandId> command = commandOf(entry);
-        const std::optional<std::string> keys = profile.text(kSection, entry);
+        const std::optional<std::string> keys = profile.text(kShortcutSection, entry);
         if (command && keys && mayHaveKeys(*command))
             shortcuts.put(*command, splitKeys(*keys));
     }
@@ -114,13 +114,13 @@ Shortcuts Shortcuts::load() {
 
 void Shortcuts::save() const {
     Profile& profile = platform().profile();
-    for (const std::string& entry : profile.entries(kSection)) {
+    for (const std::string& entry : profile.entries(kShortcutSection)) {
         const std::optional<CommandId> command = commandOf(entry);
         if (!command || !changed_.contains(*command))
-            profile.remove(kSection, entry);
+            profile.remove(kShortcutSection, entry);
     }
     for (const auto& [command, keys] : changed_)
-        profile.setText(kSection, std::to_string(command), joinedKeys(keys));
+        profile.setText(kShortcutSection, std::to_string(command), joinedKeys(keys));
 }
 
 std::string joinedKeys(const Shortcuts::Keys& keys) {

@@ -11,7 +11,7 @@ namespace dyeworks {
 
 namespace {
 
-constexpr const char* kSection = "Settings";
+constexpr const char* kPlacementSection = "Settings";
 
 constexpr std::array kFields{&WindowPlacement::flags, &WindowPlacement::showCommand, &WindowPlacement::minX,
                              &WindowPlacement::minY,  &WindowPlacement::maxX,        &WindowPlacement::maxY,
@@ -59,12 +59,12 @@ std::optional<WindowPlacement> parseWindowPlacement(const std::string& text) {
 }
 
 std::optional<WindowPlacement> readWindowPlacement(const std::string& entry) {
-    const std::optional<std::string> text = platform().profile().text(kSection, entry);
+    const std::optional<std::string> text = platform().profile().text(kPlacementSection, entry);
     return text ? parseWindowPlacement(*text) : std::nullopt;
 }
 
 void writeWindowPlacement(const std::string& entry, const WindowPlacement& placement) {
-    platform().profile().setText(kSection, entry, formatWindowPlacement(placement));
+    platform().profile().setText(kPlacementSection, entry, formatWindowPlacement(placement));
 }
 
 } // namespace dyeworks

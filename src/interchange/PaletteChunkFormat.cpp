@@ -7,7 +7,6 @@ namespace dyeworks {
 namespace {
 
 constexpr std::size_t kHeaderSize = 6;
-constexpr std::int32_t kBankSize = 16;
 
 std::size_t sizeFor(std::int32_t count) {
     return kHeaderSize + static_cast<std::size_t>(count) * sizeof(std::uint16_t);

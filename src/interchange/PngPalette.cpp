@@ -12,7 +12,6 @@ namespace dyeworks {
 namespace {
 
 constexpr std::size_t kMostColours = 256;
-constexpr std::int32_t kBankSize = 16;
 
 /// The different colours in the order in which they come; one more than 256 when there are more.
 std::vector<Colour> coloursIn(const std::vector<Colour>& pixels) {

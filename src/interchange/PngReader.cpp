@@ -25,7 +25,7 @@ std::uint8_t highestOf(const std::uint8_t* row, std::size_t size) noexcept {
     return highest;
 }
 
-enum class Outcome { Done, Failed, Stopped };
+enum class ReadOutcome { Done, Failed, Stopped };
 
 class Reader {
 public:
@@ -133,12 +133,12 @@ public:
     }
 
     /// Every pass of an interlaced file is laid over the rows of those before.
-    [[nodiscard]] Outcome readRows(std::uint8_t* to, std::size_t rowSize, bool withHighest,
-                                   const Progress& progress) {
+    [[nodiscard]] ReadOutcome readRows(std::uint8_t* to, std::size_t rowSize, bool withHighest,
+                                       const Progress& progress) {
         const png_uint_32 rows = height();
         RowProgress told(progress, std::int64_t{rows} * passes_);
         if (setjmp(png_jmpbuf(png_)) != 0)
-            return Outcome::Failed;
+            return ReadOutcome::Failed;
         for (int pass = 1; pass <= passes_; ++pass) {
             std::uint8_t* row = to;
             for (png_uint_32 y = 0; y < rows; ++y, row += rowSize) {
@@ -146,11 +146,11 @@ public:
                 if (withHighest && pass == passes_)
                     highest_ = std::max(highest_, highestOf(row, rowSize));
                 if (!told.next())
-                    return Outcome::Stopped;
+                    return ReadOutcome::Stopped;
             }
         }
         png_read_end(png_, info_);
-        return Outcome::Done;
+        return ReadOutcome::Done;
     }
 
     /// Ours, wherever in the file it was.
@@ -228,11 +228,11 @@ Result<PngPicture, InterchangeError> read(std::span<const std::byte> file, const
     const auto colours = static_cast<std::int64_t>(png.picture.colours.size());
     const bool mayExceed = indexed && colours < std::int64_t{1} << png.bits;
     switch (reader.readRows(to, reader.width() * (indexed ? 1 : sizeof(Colour)), mayExceed, progress)) {
-    case Outcome::Failed:
+    case ReadOutcome::Failed:
         return damaged(reader);
-    case Outcome::Stopped:
+    case ReadOutcome::Stopped:
         return InterchangeError{Kind::Cancelled, {}, 0, 0};
-    case Outcome::Done:
+    case ReadOutcome::Done:
         break;
     }
     if (mayExceed && reader.highest() >= colours)

@@ -8,7 +8,7 @@ namespace dyeworks {
 
 namespace {
 
-using Outcome = Result<Texture, InterchangeError>;
+using TextureOutcome = Result<Texture, InterchangeError>;
 
 InterchangeError noMemory() {
     return {InterchangeError::Kind::NoMemory, {}, 0, 0};

@@ -38,7 +38,7 @@ PngColours coloursOf(std::int32_t bits, const TlutData* palette, std::int32_t fi
     return result;
 }
 
-enum class Outcome { Done, Failed, NoMemory, Stopped };
+enum class WriteOutcome { Done, Failed, NoMemory, Stopped };
 
 class Writer {
 public:
@@ -55,8 +55,8 @@ public:
     [[nodiscard]] const char* reason() const noexcept { return failure_.reason.data(); }
 
     /// What stands before the pixels, ours last so that it follows the palette that it speaks of.
-    [[nodiscard]] Outcome writeInfo(const TmfImage& image, const PngColours& colours, bool isRgba,
-                                    std::span<const std::byte> chunk) {
+    [[nodiscard]] WriteOutcome writeInfo(const TmfImage& image, const PngColours& colours, bool isRgba,
+                                         std::span<const std::byte> chunk) {
         if (setjmp(png_jmpbuf(png_)) != 0)
             return failed();
         png_set_write_fn(png_, this, writeBytes, flushBytes);
@@ -78,11 +78,11 @@ public:
         if (!chunk.empty())
             png_write_chunk(png_, reinterpret_cast<png_const_bytep>(kPaletteChunkType),
                             reinterpret_cast<png_const_bytep>(chunk.data()), chunk.size());
-        return Outcome::Done;
+        return WriteOutcome::Done;
     }
 
     /// The rows need no conversion: both formats have the first of two texels in the high half of a byte.
-    [[nodiscard]] Outcome writeRows(const TmfImage& image, const Progress& progress) {
+    [[nodiscard]] WriteOutcome writeRows(const TmfImage& image, const Progress& progress) {
         const std::int64_t stride = image.stride();
         RowProgress told(progress, image.height);
         if (setjmp(png_jmpbuf(png_)) != 0)
@@ -91,10 +91,10 @@ public:
         for (std::int32_t y = 0; y < image.height; ++y, row -= stride) {
             png_write_row(png_, row);
             if (!told.next())
-                return Outcome::Stopped;
+                return WriteOutcome::Stopped;
         }
         png_write_end(png_, nullptr);
-        return Outcome::Done;
+        return WriteOutcome::Done;
     }
 
 private:
@@ -115,7 +115,9 @@ private:
     }
     static void flushBytes(png_structp /*png*/) {}
 
-    [[nodiscard]] Outcome failed() const noexcept { return isFull_ ? Outcome::NoMemory : Outcome::Failed; }
+    [[nodiscard]] WriteOutcome failed() const noexcept {
+        return isFull_ ? WriteOutcome::NoMemory : WriteOutcome::Failed;
+    }
 
     std::vector<std::byte>& to_;
     bool isFull_ = false;
@@ -137,19 +139,19 @@ Result<std::vector<std::byte>, InterchangeError> write(const TmfImage& image, co
     Writer writer(file);
     if (!writer.isReady())
         return InterchangeError{Kind::NoMemory, {}, 0, 0};
-    Outcome outcome =
+    WriteOutcome outcome =
         writer.writeInfo(image, coloursOf(image.bits, palette, first), isRgba,
                          chunk ? std::span<const std::byte>(*chunk) : std::span<const std::byte>());
-    if (outcome == Outcome::Done)
+    if (outcome == WriteOutcome::Done)
         outcome = writer.writeRows(image, progress);
     switch (outcome) {
-    case Outcome::Failed:
+    case WriteOutcome::Failed:
         return InterchangeError{Kind::Damaged, writer.reason(), 0, 0};
-    case Outcome::NoMemory:
+    case WriteOutcome::NoMemory:
         return InterchangeError{Kind::NoMemory, {}, 0, 0};
-    case Outcome::Stopped:
+    case WriteOutcome::Stopped:
         return InterchangeError{Kind::Cancelled, {}, 0, 0};
-    case Outcome::Done:
+    case WriteOutcome::Done:
         break;
     }
     return file;

@@ -9,8 +9,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::int32_t kBankSize = 16;
-
 bool hasTexels(const TmfImage& image) {
     return (image.bits == 4 || image.bits == 8) && image.width > 0 && image.height > 0 && image.holdsTexels();
 }

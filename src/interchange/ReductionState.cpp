@@ -11,8 +11,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::int32_t kBankSize = 16;
-constexpr std::int32_t kLastBank = 15;
 constexpr std::int32_t kLargePalette = 256;
 
 constexpr const char* kSection = "Settings\\Reduce Colours";

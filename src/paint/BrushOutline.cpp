@@ -6,9 +6,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::uint32_t kBlack = 0xff000000;
-constexpr std::uint32_t kWhite = 0xffffffff;
-
 void drawDots(const Surface& surface, const Rect& clip, const Rect& line) {
     const Rect shown = intersection(line, clip);
     for (std::int32_t y = shown.top; y < shown.bottom; ++y) {

@@ -11,7 +11,7 @@ namespace dyeworks {
 
 namespace {
 
-constexpr const char* kExtension = ".bmp";
+constexpr const char* kBmpExtension = ".bmp";
 
 } // namespace
 
@@ -42,13 +42,13 @@ void CDyeworksDoc::ExportBmp() {
     const std::string stem = name.substr(0, name.size() - extensionOf(name).size());
     const auto chosen = askForFileToSave({.title = text(StringId::ExportBmpCaption),
                                           .filter = text(StringId::BitmapFiles) + " (*.bmp)|*.bmp||",
-                                          .defaultExtension = kExtension,
-                                          .initialName = stem + kExtension});
+                                          .defaultExtension = kBmpExtension,
+                                          .initialName = stem + kBmpExtension});
     if (!chosen)
         return;
     std::string target = *chosen;
     if (!isBmpName(target)) {
-        target += kExtension;
+        target += kBmpExtension;
         // The dialog has asked about the name without the extension.
         if (platform().files().exists(target) &&
             applicationMessage(text(StringId::ReplaceFileQuestion, {displayPath(target)}),

@@ -11,12 +11,6 @@
 
 namespace dyeworks {
 
-namespace {
-
-constexpr int kMessagePane = 0;
-
-} // namespace
-
 void CDyeworksDoc::texelsChanged() {
     static std::uint64_t latest = 0;
     texelState_ = ++latest;

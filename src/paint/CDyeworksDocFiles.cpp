@@ -17,10 +17,7 @@ namespace dyeworks {
 namespace {
 
 constexpr const char* kFilter = "Image Files (*.tmf)|*.tmf||";
-constexpr const char* kExtension = ".tmf";
-
-constexpr int kPositionPane = 1;
-constexpr int kSizePane = 2;
+constexpr const char* kTmfExtension = ".tmf";
 
 /// Asks for what is to be added to a project to be saved; the dialog starts in the project's folder for it.
 template <typename Save>
@@ -96,7 +93,7 @@ bool CDyeworksDoc::onSaveDocument(const std::string& path) {
     std::string target = path;
     if (target.empty()) {
         const auto chosen = askForFileToSave(
-            {.filter = kFilter, .defaultExtension = kExtension, .initialName = nameToSaveUnder()});
+            {.filter = kFilter, .defaultExtension = kTmfExtension, .initialName = nameToSaveUnder()});
         if (!chosen)
             return false;
         target = *chosen;

@@ -9,8 +9,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr int kMessagePane = 0;
-
 /// The texels (inclusive) that undoing or redoing a step changes; nothing when that cannot be told.
 std::optional<Rect> texelsOf(const UndoRecord* record, const TextureCanvas& canvas) {
     const auto* const edit = dynamic_cast<const ImageUndoRecord*>(record);

@@ -12,8 +12,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr int kSizePane = 2;
-
 std::string pair(std::int32_t first, std::int32_t second) {
     return "(" + std::to_string(first) + ", " + std::to_string(second) + ") ";
 }

@@ -14,8 +14,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr int kMessagePane = 0;
-
 /// Whether a tool that is pressed and let go at once has done all it can do.
 bool needsNoDrag(Tool tool) {
     return tool == Tool::Pixel || tool == Tool::ZoomLens;

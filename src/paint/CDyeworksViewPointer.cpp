@@ -10,12 +10,6 @@
 
 namespace dyeworks {
 
-namespace {
-
-constexpr int kPositionPane = 1;
-
-} // namespace
-
 void CDyeworksView::PointerPressed(const PointerEvent& event) {
     // What the keys have drawn so far stays.
     letToolGo();

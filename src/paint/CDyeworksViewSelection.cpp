@@ -15,8 +15,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr int kMessagePane = 0;
-
 /// Whether the piece looks the same when it has been placed in the image, by values as it is.
 bool keepsColours(const TextureCanvas& piece, const TextureCanvas& image) {
     if (piece.holdsColours() || image.holdsColours())

@@ -4,16 +4,16 @@ namespace dyeworks {
 
 namespace {
 
-Tool chosen = Tool::Select;
+Tool chosenTool = Tool::Select;
 
 } // namespace
 
 Tool currentTool() noexcept {
-    return chosen;
+    return chosenTool;
 }
 
 void setCurrentTool(Tool tool) noexcept {
-    chosen = tool;
+    chosenTool = tool;
 }
 
 } // namespace dyeworks

@@ -17,12 +17,12 @@ constexpr const char* kAcrossEntry = "MirrorAcross";
 constexpr const char* kDownEntry = "MirrorDown";
 constexpr const char* kWrapEntry = "Wrap";
 
-DrawingOptions chosen;
+DrawingOptions chosenOptions;
 std::vector<DrawingOptionsListener*> listeners;
 
 void choose(DrawingOptions options) {
     options.brush.size = std::clamp(options.brush.size, 1, Brush::kMaxSize);
-    if (std::exchange(chosen, options) == options)
+    if (std::exchange(chosenOptions, options) == options)
         return;
     for (DrawingOptionsListener* listener : std::vector(listeners))
         listener->drawingOptionsChanged();
@@ -31,17 +31,17 @@ void choose(DrawingOptions options) {
 } // namespace
 
 const DrawingOptions& drawingOptions() noexcept {
-    return chosen;
+    return chosenOptions;
 }
 
 void setDrawingOptions(const DrawingOptions& options) {
     choose(options);
     Profile& profile = platform().profile();
-    profile.setInteger(kSection, kSizeEntry, chosen.brush.size);
-    profile.setInteger(kSection, kRoundEntry, chosen.brush.round ? 1 : 0);
-    profile.setInteger(kSection, kAcrossEntry, chosen.mirrorAcross ? 1 : 0);
-    profile.setInteger(kSection, kDownEntry, chosen.mirrorDown ? 1 : 0);
-    profile.setInteger(kSection, kWrapEntry, chosen.wrap ? 1 : 0);
+    profile.setInteger(kSection, kSizeEntry, chosenOptions.brush.size);
+    profile.setInteger(kSection, kRoundEntry, chosenOptions.brush.round ? 1 : 0);
+    profile.setInteger(kSection, kAcrossEntry, chosenOptions.mirrorAcross ? 1 : 0);
+    profile.setInteger(kSection, kDownEntry, chosenOptions.mirrorDown ? 1 : 0);
+    profile.setInteger(kSection, kWrapEntry, chosenOptions.wrap ? 1 : 0);
 }
 
 void restoreDrawingOptions() {

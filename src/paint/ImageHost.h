@@ -16,6 +16,11 @@ class OpenProject;
 class PaletteSet;
 class TextureCanvas;
 
+/// Panes of the status line: messages, the pointer's position, and the image's size and depth.
+inline constexpr int kMessagePane = 0;
+inline constexpr int kPositionPane = 1;
+inline constexpr int kSizePane = 2;
+
 /// What a new image is to be like.
 struct NewImage {
     std::int32_t width = 0; ///< In texels.
@@ -44,7 +49,6 @@ public:
     /// that it then has; nothing when that was cancelled or failed.
     [[nodiscard]] virtual std::optional<std::string> savePaletteAs(const std::string& key) = 0;
 
-    /// Pane 0 is for messages, 1 is the pointer position, pane 2 the image's size and depth.
     virtual void setStatusText(const std::string& text, int pane) = 0;
 
     /// Whether `document` is the one in the active window, whose bank the palette bar shows.

@@ -4,13 +4,6 @@
 
 namespace dyeworks {
 
-namespace {
-
-constexpr std::uint32_t kBlack = 0xff000000;
-constexpr std::uint32_t kWhite = 0xffffffff;
-
-} // namespace
-
 std::array<Rect, 8> SelectionTracker::handles() const {
     const std::int32_t width = frame_.right - frame_.left;
     const std::int32_t height = frame_.bottom - frame_.top;

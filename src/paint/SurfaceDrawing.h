@@ -10,6 +10,9 @@
 // lie on the surface.
 namespace dyeworks {
 
+inline constexpr std::uint32_t kBlack = 0xff000000;
+inline constexpr std::uint32_t kWhite = 0xffffffff;
+
 [[nodiscard]] inline Rect grown(const Rect& area, std::int32_t by) {
     return {area.left - by, area.top - by, area.right + by, area.bottom + by};
 }

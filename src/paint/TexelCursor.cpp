@@ -8,8 +8,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::uint32_t kBlack = 0xff000000;
-constexpr std::uint32_t kWhite = 0xffffffff;
 /// Pixels within the lines at least, so that they stay apart where a texel is small.
 constexpr std::int32_t kSmallestInside = 7;
 

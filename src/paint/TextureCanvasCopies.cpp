@@ -135,13 +135,13 @@ void TextureCanvas::copyToByRuns(TextureCanvas& target, std::int32_t x, std::int
 
 std::unique_ptr<TextureCanvas> TextureCanvas::CopyRect(std::int32_t x1, std::int32_t y1, std::int32_t x2,
                                                        std::int32_t y2) const {
-    constexpr std::int64_t kLongestSide = std::numeric_limits<std::int32_t>::max();
+    constexpr std::int64_t kLongestCopy = std::numeric_limits<std::int32_t>::max();
     const std::int64_t width = std::int64_t{x2} - x1 + 1;
     const std::int64_t height = std::int64_t{y2} - y1 + 1;
     // Every byte of the rows is written once when all of them come from this canvas.
     const bool inside = isPlain() && depthMask() != 0 && x1 >= 0 && y1 >= 0 && x2 < width_ && y2 < height_;
     std::unique_ptr<TextureCanvas> copy = newCanvas();
-    if (copy == nullptr || width < 0 || height < 0 || width > kLongestSide || height > kLongestSide ||
+    if (copy == nullptr || width < 0 || height < 0 || width > kLongestCopy || height > kLongestCopy ||
         !copy->allocate(static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), planes_,
                         bitsPerPixel_, inside ? BlockContents::Undefined : BlockContents::Zeroed))
         return nullptr;

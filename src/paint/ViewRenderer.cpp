@@ -17,7 +17,7 @@ namespace {
 constexpr std::int32_t kGridTexels = 8;
 /// Side of the pattern that grid lines are drawn with; it repeats from the logical origin on.
 constexpr std::int32_t kPatternSide = 8;
-constexpr std::uint32_t kWhite = 0x00ffffff;
+constexpr std::uint32_t kBareWhite = 0x00ffffff;
 constexpr std::uint32_t kOpaque = 0xff000000;
 /// Pixels of a dash of a mirror line; a power of two.
 constexpr std::int32_t kMirrorDash = 4;
@@ -147,11 +147,11 @@ void ViewRenderer::drawGrid(const Surface& surface, const Rect& area) const {
         const bool horizontal = y % step == 0 && y > 0;
         if (y % period == rest && !(horizontal && look_.zoom == 1)) {
             for (std::int32_t x = firstLine; x < area.right; x += step)
-                row[x - area.left] |= kWhite;
+                row[x - area.left] |= kBareWhite;
         }
         if (horizontal) {
             for (std::int32_t x = firstWhite; x < area.right; x += period)
-                row[x - area.left] |= kWhite;
+                row[x - area.left] |= kBareWhite;
         }
     }
 }
@@ -159,7 +159,7 @@ void ViewRenderer::drawGrid(const Surface& surface, const Rect& area) const {
 /// Dashes of two colours, one of which is seen on any image.
 void ViewRenderer::drawMirrorLines(const Surface& surface, const Rect& area) const {
     const auto colourAt = [](std::int32_t along) {
-        return (along & kMirrorDash) == 0 ? kOpaque | kWhite : kOpaque;
+        return (along & kMirrorDash) == 0 ? kOpaque | kBareWhite : kOpaque;
     };
     const Rect image = imageArea();
     const std::int32_t x = image.right / 2;
@@ -204,7 +204,7 @@ void ViewRenderer::drawSelection(const Surface& surface, const Rect& visible) co
     drawOutline(surface, grown(frame, 1), visible,
                 [whiteRest](std::int32_t x, std::int32_t y, std::uint32_t& pixel) {
                     const bool white = (((x >> 1) + (y >> 1)) & 1) == whiteRest;
-                    pixel = white ? kOpaque | kWhite : kOpaque;
+                    pixel = white ? kOpaque | kBareWhite : kOpaque;
                 });
 }
 

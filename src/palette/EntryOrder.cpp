@@ -11,8 +11,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::int32_t kBankSize = 16;
-
 /// Below this a colour is seen as a grey, whose hue means nothing.
 constexpr double kLeastChroma = 4;
 

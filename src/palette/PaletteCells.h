@@ -16,9 +16,6 @@ namespace dyeworks {
 /// Without a current palette there is no cell.
 class PaletteCells {
 public:
-    static constexpr std::int32_t kBankSize = 16;
-    static constexpr std::int32_t kLastBank = 15;
-
     /// Both must outlive the cells.
     PaletteCells(PaletteBarHost& host, const CurrentPalette& palette)
         : host_(host)

@@ -547,6 +547,7 @@ enum class StringId : int {
     CommandSearchField,
     CommandSearchHint,
     CommandSearchList,
+    ClearField,
     CommandSearchNone,
     HelpCommandSearch,
     CommandPlace,    ///< Menus around a command: %1 the outer, %2 the inner

@@ -736,6 +736,7 @@ constexpr Row kRows[] = {
     Row{StringId::CommandSearchField, QT_TRANSLATE_NOOP("Text", "Command to search for")},
     Row{StringId::CommandSearchHint, QT_TRANSLATE_NOOP("Text", "Name of a command")},
     Row{StringId::CommandSearchList, QT_TRANSLATE_NOOP("Text", "Commands found")},
+    Row{StringId::ClearField, QT_TRANSLATE_NOOP("Text", "Clear the field")},
     Row{StringId::CommandSearchNone, QT_TRANSLATE_NOOP("Text", "No command has such a name.")},
     Row{StringId::HelpCommandSearch,
         QT_TRANSLATE_NOOP("Text", "Type some of a command's name, beginnings of its words or their first "

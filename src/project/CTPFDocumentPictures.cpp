@@ -18,14 +18,13 @@ namespace dyeworks {
 namespace {
 
 constexpr std::string_view kBelowProject = "\\Project\\";
-constexpr std::string_view kPictures = "\\Project\\Picture\\";
 constexpr std::string_view kPictureNodes = "\\Project\\Picture";
 
 /// The name of the picture that the node is; nothing for any other node.
 std::optional<std::string> pictureOf(const std::string& node) {
-    if (!node.starts_with(kPictures))
+    if (!node.starts_with(kBelowPictures))
         return std::nullopt;
-    return node.substr(kPictures.size());
+    return node.substr(kBelowPictures.size());
 }
 
 /// A project of another host may name drives that stand for nothing here.
@@ -231,7 +230,7 @@ std::uint32_t CTPFDocument::DragOverNode(const std::string& target, const std::o
     const std::string dragged = keyOf(*data);
     if (!target.starts_with(kPictureNodes))
         return host_.projectPlugIns().TPF_IsDroppable(plugInHandles_, target, dragged, keyState);
-    if (!dragged.starts_with(kPictures))
+    if (!dragged.starts_with(kBelowPictures))
         return drop_effect::kNone;
     if ((keyState & drag_key::kControl) != 0)
         return drop_effect::kCopy;

@@ -4,6 +4,7 @@
 #include "platform/StringId.h"
 #include "platform/TextCase.h"
 #include "project/CTPFDocument.h"
+#include "project/PictureName.h"
 
 #include <algorithm>
 #include <vector>
@@ -12,7 +13,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::string_view kPictures = "\\Project\\Picture\\";
 constexpr const char* kCountEntry = "count";
 /// Expanded nodes that are remembered; damaged settings may tell of more than there are.
 constexpr int kMostExpanded = 65536;
@@ -212,8 +212,8 @@ bool CTPFTreeView::selectPicture(const std::string& name) {
 
 void CTPFTreeView::chooseSelectedPicture() {
     std::string path;
-    if (GetNodePath(tree_.selected(), path) && beginsIgnoringCase(path, kPictures))
-        document_.host().SelectPicture(path.substr(kPictures.size()));
+    if (GetNodePath(tree_.selected(), path) && beginsIgnoringCase(path, kBelowPictures))
+        document_.host().SelectPicture(path.substr(kBelowPictures.size()));
 }
 
 void CTPFTreeView::SelectionChanged(const ProjectNode* node) {

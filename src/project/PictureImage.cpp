@@ -15,7 +15,6 @@ namespace dyeworks {
 namespace {
 
 /// Entries of a palette that a 4-bit image shows.
-constexpr std::int32_t kBankSize = 16;
 /// Bytes that are read while somebody waits for a small picture.
 constexpr std::uint64_t kLargestImage = std::uint64_t{65} << 20;
 

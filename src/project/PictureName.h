@@ -2,8 +2,12 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 namespace dyeworks {
+
+/// What the path of a picture's node begins with.
+inline constexpr std::string_view kBelowPictures = "\\Project\\Picture\\";
 
 /// Whether a picture may be given the name: the file can hold it, and so can the paths of nodes.
 [[nodiscard]] bool isPictureName(const std::string& name);

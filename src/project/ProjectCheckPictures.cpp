@@ -16,7 +16,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::int32_t kBankSize = 16;
 constexpr std::int32_t kMostBanks = 16;
 constexpr std::int32_t kMostEntries = 256;
 

@@ -10,7 +10,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::int32_t kBankSize = 16;
 constexpr std::int32_t kEntryBytes = 2;
 constexpr std::int32_t kFullAlpha = 255;
 constexpr std::int32_t kRows = 64; // Of a step, where no rule cuts the image into blocks.

@@ -19,7 +19,7 @@ namespace dyeworks {
 
 namespace {
 
-constexpr const char* kSection = "BarState";
+constexpr const char* kBarSection = "BarState";
 constexpr const char* kDockedEntry = "Docked";
 constexpr const char* kStatusBarEntry = "StatusBar"; // Which the state of the docked bars leaves out.
 constexpr const char* kPaletteBarEntry = "PaletteBar";
@@ -38,7 +38,7 @@ QByteArray sealOf(const QByteArray& state) {
 /// Empty unless the bytes are those that were saved: Qt believes the numbers in a damaged state, and may make
 /// millions of bars.
 QByteArray readDocked() {
-    const std::string text = platform().profile().textOr(kSection, kDockedEntry, "");
+    const std::string text = platform().profile().textOr(kBarSection, kDockedEntry, "");
     const QByteArray bytes = QByteArray::fromBase64(QByteArray::fromStdString(text));
     const qsizetype sealSize = sealOf({}).size();
     const QByteArray state = bytes.mid(sealSize);
@@ -61,14 +61,14 @@ void placeFirst(CPaletteBar& bar) {
 void saveBarLayout(QMainWindow& frame, CPaletteBar& paletteBar) {
     Profile& settings = platform().profile();
     const QByteArray state = frame.saveState(kVersion);
-    settings.setText(kSection, kDockedEntry, (sealOf(state) + state).toBase64().toStdString());
-    settings.setInteger(kSection, kBrushBarEntry, 1);
-    settings.setInteger(kSection, kCellsOnlyEntry, paletteBar.cellsOnly() ? 1 : 0);
-    settings.setInteger(kSection, kStatusBarEntry, frame.statusBar()->isHidden() ? 0 : 1);
+    settings.setText(kBarSection, kDockedEntry, (sealOf(state) + state).toBase64().toStdString());
+    settings.setInteger(kBarSection, kBrushBarEntry, 1);
+    settings.setInteger(kBarSection, kCellsOnlyEntry, paletteBar.cellsOnly() ? 1 : 0);
+    settings.setInteger(kBarSection, kStatusBarEntry, frame.statusBar()->isHidden() ? 0 : 1);
     WindowPlacement placement = windowPlacement(paletteBar);
     if (!paletteBar.isShown())
         placement.showCommand = WindowPlacement::kHidden;
-    settings.setText(kSection, kPaletteBarEntry, formatWindowPlacement(placement));
+    settings.setText(kBarSection, kPaletteBarEntry, formatWindowPlacement(placement));
 }
 
 void restoreBarLayout(QMainWindow& frame, CPaletteBar& paletteBar) {
@@ -76,13 +76,13 @@ void restoreBarLayout(QMainWindow& frame, CPaletteBar& paletteBar) {
     const bool restored = frame.restoreState(readDocked(), kVersion);
     // A bar that the state does not tell of comes to the end of the last row, without room for its buttons.
     auto* const brushBar = frame.findChild<QToolBar*>(QStringLiteral("ID_VIEW_BRUSHBAR"));
-    if (restored && brushBar != nullptr && settings.integer(kSection, kBrushBarEntry, 0) == 0)
+    if (restored && brushBar != nullptr && settings.integer(kBarSection, kBrushBarEntry, 0) == 0)
         frame.insertToolBarBreak(brushBar);
-    frame.statusBar()->setVisible(settings.integer(kSection, kStatusBarEntry, 1) != 0);
+    frame.statusBar()->setVisible(settings.integer(kBarSection, kStatusBarEntry, 1) != 0);
     const std::optional<WindowPlacement> placement =
-        parseWindowPlacement(settings.textOr(kSection, kPaletteBarEntry, ""));
+        parseWindowPlacement(settings.textOr(kBarSection, kPaletteBarEntry, ""));
     if (placement && placement->hasRectangle()) {
-        paletteBar.setCellsOnly(settings.integer(kSection, kCellsOnlyEntry, 0) != 0);
+        paletteBar.setCellsOnly(settings.integer(kBarSection, kCellsOnlyEntry, 0) != 0);
         setWindowPlacement(paletteBar, *placement);
     } else
         placeFirst(paletteBar);

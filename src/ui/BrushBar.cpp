@@ -1,7 +1,7 @@
 #include "ui/BrushBar.h"
 
 #include "platform/StringId.h"
-#include "platform/Text.h"
+#include "ui/sheets/SheetControls.h"
 
 #include <QLabel>
 #include <QLayout>
@@ -9,14 +9,6 @@
 #include <QSpinBox>
 
 namespace dyeworks {
-
-namespace {
-
-QString shown(StringId id) {
-    return QString::fromStdString(text(id));
-}
-
-} // namespace
 
 BrushBar::BrushBar()
     : QToolBar(shown(StringId::BarBrush))

@@ -169,7 +169,6 @@ void CDyeworksApp::RefreshAllImages() {
 }
 
 void CDyeworksApp::showMessage(const std::string& text) {
-    constexpr int kMessagePane = 0;
     if (mainFrame_ != nullptr)
         mainFrame_->SetStatusText(text, kMessagePane);
 }

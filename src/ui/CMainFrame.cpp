@@ -28,6 +28,7 @@
 #include "ui/PaneWalk.h"
 #include "ui/StatusPanes.h"
 #include "ui/palettebar/CPaletteBar.h"
+#include "ui/sheets/SheetControls.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -57,10 +58,6 @@ constexpr double kShareOfScreen = 0.9; // The rest is for the title bar and the 
 
 /// Number of the project bar's button that names and opens the chosen picture.
 constexpr CommandId IDC_PICTURE_BUTTON = 1045; // NOLINT(readability-identifier-naming)
-
-QString shown(StringId id) {
-    return QString::fromStdString(text(id));
-}
 
 /// The local files that are dragged, as the program writes paths.
 std::vector<std::string> filesIn(const QMimeData& data) {

@@ -6,6 +6,7 @@
 #include "platform/Text.h"
 #include "project/CTPFDocument.h"
 #include "ui/CurrentProject.h"
+#include "ui/sheets/SheetControls.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -25,10 +26,6 @@ namespace {
 constexpr int kListLetters = 16; // That the list has room for.
 constexpr int kButtonLetters = 30;
 constexpr qsizetype kTipLetters = 127;
-
-QString shown(StringId id) {
-    return QString::fromStdString(text(id));
-}
 
 std::vector<std::string> picturesOf(const CTPFDocument* project) {
     return project == nullptr ? std::vector<std::string>() : project->pictureNames();

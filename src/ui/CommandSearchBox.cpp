@@ -42,7 +42,7 @@ CommandSearchBox::CommandSearchBox(QWidget& owner)
     field_->setPlaceholderText(shown(StringId::CommandSearchHint));
     field_->setToolTip(shown(StringId::CommandSearchHint));
     field_->setWhatsThis(shown(StringId::HelpCommandSearch));
-    field_->setClearButtonEnabled(true);
+    addClearButton(*field_);
     field_->installEventFilter(this);
     list_->setObjectName(QStringLiteral("IDC_COMMANDS_FOUND"));
     list_->setAccessibleName(shown(StringId::CommandSearchList));

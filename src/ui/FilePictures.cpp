@@ -28,11 +28,11 @@ constexpr auto kLook = 40ms;
 constexpr auto kPatience = 10s;
 /// Larger ones would cost more memory and time than a small picture is worth.
 constexpr std::uint64_t kLargestFile = std::uint64_t{32} << 20U;
-constexpr std::uint32_t kOpaque = 0xff000000;
+constexpr std::uint32_t kSolid = 0xff000000;
 
 std::uint32_t shownColour(const TlutData& palette, std::int64_t index) {
     const Colour colour = colourOf(palette, index);
-    return kOpaque | std::uint32_t{colour.red} << 16U | std::uint32_t{colour.green} << 8U | colour.blue;
+    return kSolid | std::uint32_t{colour.red} << 16U | std::uint32_t{colour.green} << 8U | colour.blue;
 }
 
 std::optional<TlutData> readPalette(const std::string& path) {
@@ -50,7 +50,7 @@ IndexThumbnail::Colours coloursOf(const std::optional<TlutData>& palette, std::i
     const std::uint32_t last = bits == 4 ? 15 : 255;
     for (std::uint32_t i = 0; i <= last; ++i) {
         const std::uint32_t grey = i * 255 / last;
-        colours[i] = palette ? shownColour(*palette, i) : kOpaque | grey * 0x010101U;
+        colours[i] = palette ? shownColour(*palette, i) : kSolid | grey * 0x010101U;
     }
     return colours;
 }

@@ -12,7 +12,7 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::int32_t kBanks = PaletteCells::kLastBank + 1;
+constexpr std::int32_t kBanks = kLastBank + 1;
 constexpr std::uint32_t kOpaque = 0xff000000;
 
 /// What the values of an image show from an entry on; black where the palette has ended.
@@ -38,7 +38,7 @@ std::uint32_t valuesOf(const CDyeworksDoc& image) {
 /// The first entry of the image's bank, or 0 where the palette does not reach that far.
 std::int32_t firstEntryIn(const TextureLookupTable& palette, const CDyeworksDoc& image) {
     const auto values = static_cast<std::int32_t>(valuesOf(image));
-    const std::int32_t first = values == PaletteCells::kBankSize ? image.paletteValue() : 0;
+    const std::int32_t first = values == kBankSize ? image.paletteValue() : 0;
     return first >= 0 && first <= palette.table.count - values ? first : 0;
 }
 
@@ -55,9 +55,9 @@ std::optional<StringId> noPalettesReason(const CDyeworksDoc* image) {
 std::optional<StringId> noBanksReason(const CDyeworksDoc* image) {
     if (const auto reason = noPalettesReason(image))
         return reason;
-    if (valuesOf(*image) != static_cast<std::uint32_t>(PaletteCells::kBankSize))
+    if (valuesOf(*image) != static_cast<std::uint32_t>(kBankSize))
         return StringId::BanksEightBits;
-    if (image->GetAttachedPalette()->table.count < kBanks * PaletteCells::kBankSize)
+    if (image->GetAttachedPalette()->table.count < kBanks * kBankSize)
         return StringId::BanksSmallPalette;
     return std::nullopt;
 }
@@ -68,12 +68,12 @@ std::vector<ImageVariant> bankVariants(const CDyeworksDoc& image, const ShownPal
     const std::int32_t own = image.firstEntryFor(palette);
     std::vector<ImageVariant> variants;
     for (std::int32_t bank = 0; bank < kBanks; ++bank) {
-        const std::int32_t first = bank * PaletteCells::kBankSize;
+        const std::int32_t first = bank * kBankSize;
         const std::string number = std::to_string(bank);
-        variants.push_back({number, text(StringId::BankName, {number}),
-                            text(StringId::BankTip, {number, std::to_string(first),
-                                                     std::to_string(first + PaletteCells::kBankSize - 1)}),
-                            stored.path, coloursFrom(palette, first, valuesOf(image)), first == own});
+        variants.push_back(
+            {number, text(StringId::BankName, {number}),
+             text(StringId::BankTip, {number, std::to_string(first), std::to_string(first + kBankSize - 1)}),
+             stored.path, coloursFrom(palette, first, valuesOf(image)), first == own});
     }
     return variants;
 }

@@ -17,8 +17,8 @@ namespace dyeworks {
 
 namespace {
 
-constexpr const char* kSection = "Usage";
-constexpr const char* kShownEntry = "Shown";
+constexpr const char* kUsageSection = "Usage";
+constexpr const char* kUsageEntry = "Shown";
 
 } // namespace
 
@@ -34,7 +34,7 @@ PaletteUsage::PaletteUsage(Workspace& workspace)
 PaletteUsage::~PaletteUsage() = default;
 
 void PaletteUsage::start(CPaletteBar& bar) {
-    on_ = platform().profile().integer(kSection, kShownEntry, 0) != 0;
+    on_ = platform().profile().integer(kUsageSection, kUsageEntry, 0) != 0;
     QObject::connect(&bar, &CPaletteBar::shownAnew, &soon_, [this] { refreshSoon(); });
 }
 
@@ -76,7 +76,7 @@ void PaletteUsage::refresh() {
     // Entries of two banks never show in one image.
     const bool banked = bar.state().cells().inBankMode();
     bar.showRemarks(entryRemarks(palette->table, usage(workspace_.paletteSet()->currentKey),
-                                 banked ? PaletteCells::kBankSize : palette->table.count));
+                                 banked ? kBankSize : palette->table.count));
 }
 
 void PaletteUsage::standOut(bool standsOut) {
@@ -98,7 +98,7 @@ std::int32_t PaletteUsage::currentEntry() const {
 
 void PaletteUsage::OnToggle() {
     on_ = !on_;
-    platform().profile().setInteger(kSection, kShownEntry, on_ ? 1 : 0);
+    platform().profile().setInteger(kUsageSection, kUsageEntry, on_ ? 1 : 0);
     refresh();
 }
 

@@ -23,7 +23,7 @@ namespace dyeworks {
 
 namespace {
 
-constexpr const char* kSection = "Settings";
+constexpr const char* kPrintSection = "Settings";
 constexpr const char* kPreviewPagesEntry = "PreviewPages"; // Side by side: 1 or 2.
 
 /// Shows how far a long printing is and lets it be stopped.
@@ -153,11 +153,11 @@ void PrintCommands::OnFilePrintPreview() {
     dialog.resize(window_.size());
     Profile& profile = platform().profile();
     auto* facingPages = dialog.findChild<QAction*>(QStringLiteral("facingModeAction"));
-    if (facingPages != nullptr && profile.integer(kSection, kPreviewPagesEntry, 1) > 1)
+    if (facingPages != nullptr && profile.integer(kPrintSection, kPreviewPagesEntry, 1) > 1)
         facingPages->trigger();
     dialog.exec();
     if (facingPages != nullptr)
-        profile.setInteger(kSection, kPreviewPagesEntry, facingPages->isChecked() ? 2 : 1);
+        profile.setInteger(kPrintSection, kPreviewPagesEntry, facingPages->isChecked() ? 2 : 1);
 }
 
 void PrintCommands::OnFilePrintSetup() {

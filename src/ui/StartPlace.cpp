@@ -18,12 +18,12 @@ namespace dyeworks {
 
 namespace {
 
-constexpr const char* kSection = "Start Page";
+constexpr const char* kStartSection = "Start Page";
 constexpr const char* kShownEntry = "Shown";
 constexpr const char* kFirstSteps = "..\\doc\\first-steps.html";
 
 bool isWanted() {
-    return platform().profile().integer(kSection, kShownEntry, 1) != 0;
+    return platform().profile().integer(kStartSection, kShownEntry, 1) != 0;
 }
 
 /// Where the samples lie from the program's folder: installed, and beside the sources of a build.
@@ -137,7 +137,7 @@ std::vector<StartFile> StartPlace::recentFiles() const {
 }
 
 void StartPlace::OnToggle() {
-    platform().profile().setInteger(kSection, kShownEntry, isWanted() ? 0 : 1);
+    platform().profile().setInteger(kStartSection, kShownEntry, isWanted() ? 0 : 1);
     waits_ = false;
     follow();
 }

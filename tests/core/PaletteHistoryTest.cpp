@@ -9,13 +9,13 @@
 namespace dyeworks {
 namespace {
 
-constexpr const char* kPath = "c:\\sky.tlf";
+constexpr const char* kHistoryPath = "c:\\sky.tlf";
 
 class PaletteHistory : public testing::Test {
 protected:
     PaletteHistory() {
         EXPECT_TRUE(palette.create(16, ColourType::Rgba));
-        EXPECT_TRUE(palette.save(kPath, false));
+        EXPECT_TRUE(palette.save(kHistoryPath, false));
     }
 
     /// Whether closing the palette would ask; the question is answered with Cancel.
@@ -43,7 +43,7 @@ protected:
             {"cannot-save",
              [&] { return fake.files.failNextWrite(FileError::NoSpace), !palette.save(nullptr, false); }},
             {"answer-yes", [&] { return fake.messages.answerWith(MessageAnswer::Yes), palette.querySave(); }},
-            {"open", [&] { return palette.open(kPath); }},
+            {"open", [&] { return palette.open(kHistoryPath); }},
             {"undo", [&] { return palette.undo(); }},
             {"redo", [&] { return palette.redo(); }},
             {"reset", [&] { return palette.resetHistory(), true; }},

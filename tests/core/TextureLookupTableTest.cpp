@@ -6,7 +6,7 @@
 namespace dyeworks {
 namespace {
 
-const std::string kPath = "c:\\tex\\sky.tlf";
+const std::string kTablePath = "c:\\tex\\sky.tlf";
 
 class Palette : public testing::Test {
 protected:
@@ -84,11 +84,11 @@ TEST_F(PaletteFile, SaveAsksOnlyWhenThereIsNoFileOrItIsTold) {
 
 TEST_F(PaletteFile, OpenTakesTheNameThenThePathThenAsks) {
     palette.setEntry(3, 0x1234);
-    ASSERT_TRUE(palette.save(kPath.c_str(), false));
+    ASSERT_TRUE(palette.save(kTablePath.c_str(), false));
 
     TextureLookupTable named, unnamed, asked;
-    EXPECT_TRUE(named.open(kPath.c_str()));
-    EXPECT_EQ(named.path + " " + named.title, kPath + " sky");
+    EXPECT_TRUE(named.open(kTablePath.c_str()));
+    EXPECT_EQ(named.path + " " + named.title, kTablePath + " sky");
     EXPECT_EQ(named.table.getEntry(3), 0x1234);
     EXPECT_FALSE(named.modified);
 
@@ -99,26 +99,26 @@ TEST_F(PaletteFile, OpenTakesTheNameThenThePathThenAsks) {
 
     asked.title = "suggested";
     EXPECT_FALSE(asked.open("")) << "cancelled";
-    fake.dialogs.answerWith(kPath);
+    fake.dialogs.answerWith(kTablePath);
     EXPECT_TRUE(asked.open(nullptr));
-    EXPECT_EQ(asked.path, kPath);
+    EXPECT_EQ(asked.path, kTablePath);
     EXPECT_EQ(fake.dialogs.shown[0].kind, FakeFileDialogs::Kind::Open);
     EXPECT_EQ(fake.dialogs.shown[0].request.initialName, "suggested");
     EXPECT_TRUE(fake.dialogs.shown[0].request.fileMustExist);
 }
 
 TEST_F(PaletteFile, OnlyChangesMarkItModifiedAndThenItRefusesToOpen) {
-    ASSERT_TRUE(palette.save(kPath.c_str(), false));
+    ASSERT_TRUE(palette.save(kTablePath.c_str(), false));
     EXPECT_FALSE(palette.setIntensity(0, 1) || palette.setEntry(16, 1));
     EXPECT_FALSE(palette.modified);
     EXPECT_TRUE(palette.setEntryAlias(15, 1));
     EXPECT_TRUE(palette.modified);
-    EXPECT_FALSE(palette.open(kPath.c_str()));
+    EXPECT_FALSE(palette.open(kTablePath.c_str()));
     EXPECT_THAT(fake.messages.shown, IsEmpty());
 }
 
 TEST_F(PaletteFile, QuestionBeforeClosingHasThreeAnswers) {
-    ASSERT_TRUE(palette.save(kPath.c_str(), false));
+    ASSERT_TRUE(palette.save(kTablePath.c_str(), false));
     EXPECT_TRUE(palette.querySave());
     EXPECT_THAT(fake.messages.shown, IsEmpty());
 

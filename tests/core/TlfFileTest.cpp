@@ -6,7 +6,7 @@ namespace {
 
 constexpr std::uint32_t kTag16 = 0x00200100;
 constexpr std::uint32_t kTag256 = 0x00200200;
-const std::string kPath = "c:\\sky.tlf";
+const std::string kTlfPath = "c:\\sky.tlf";
 
 std::string file(std::uint32_t tag, std::uint32_t count, std::uint32_t colourType, int entries) {
     std::string bytes = header({tag, count, colourType});
@@ -27,39 +27,39 @@ TEST_F(TlfWriter, WritesHeaderAndEntriesHighByteFirst) {
         ASSERT_TRUE(table.create(count, static_cast<ColourType>(type)));
         for (int i = 0; i < count; ++i)
             table.setEntry(i, static_cast<std::uint16_t>(0x1200 + i));
-        ASSERT_TRUE(table.saveTlf(kPath));
-        EXPECT_EQ(fake.files.textOf(kPath), file(tag, static_cast<std::uint32_t>(count), type, count));
+        ASSERT_TRUE(table.saveTlf(kTlfPath));
+        EXPECT_EQ(fake.files.textOf(kTlfPath), file(tag, static_cast<std::uint32_t>(count), type, count));
     }
     EXPECT_THAT(fake.messages.shown, IsEmpty());
     // No reader takes a file of this type, and it is written all the same.
     ASSERT_TRUE(table.create(16, static_cast<ColourType>(2)));
-    EXPECT_TRUE(table.saveTlf(kPath));
+    EXPECT_TRUE(table.saveTlf(kTlfPath));
 }
 
 TEST_F(TlfWriter, RefusesOtherCountsAndReportsWhateverFailsAsOpening) {
-    fake.files.putFile(kPath, "old");
+    fake.files.putFile(kTlfPath, "old");
     ASSERT_TRUE(table.create(32, ColourType::Rgba));
-    EXPECT_FALSE(table.saveTlf(kPath));
+    EXPECT_FALSE(table.saveTlf(kTlfPath));
     TlutData hollow;
     hollow.count = 16;
-    EXPECT_FALSE(hollow.saveTlf(kPath));
+    EXPECT_FALSE(hollow.saveTlf(kTlfPath));
     ASSERT_TRUE(table.create(16, ColourType::Rgba));
     fake.files.failNextWrite(FileError::NoSpace);
-    EXPECT_FALSE(table.saveTlf(kPath));
-    EXPECT_EQ(fake.files.textOf(kPath), "old");
+    EXPECT_FALSE(table.saveTlf(kTlfPath));
+    EXPECT_EQ(fake.files.textOf(kTlfPath), "old");
     EXPECT_THAT(fake.messages.shown, ElementsAre(Reports("[TLF]", "Illegal color number = 32.\n"),
                                                  Reports("[TLF]", "Illegal color number = 16.\n"),
-                                                 Reports("[TLF]", "[" + kPath + "] file open failed.\n")));
+                                                 Reports("[TLF]", "[" + kTlfPath + "] file open failed.\n")));
 }
 
 TEST_F(TlfReader, ReadsBothSizesAndIgnoresWhatIsReservedOrFollows) {
-    fake.files.putFile(kPath, file(kTag16, 16, 1, 16).replace(12, 52, 52, '\xFF') + "more");
-    ASSERT_TRUE(table.readTlf(kPath));
+    fake.files.putFile(kTlfPath, file(kTag16, 16, 1, 16).replace(12, 52, 52, '\xFF') + "more");
+    ASSERT_TRUE(table.readTlf(kTlfPath));
     EXPECT_EQ(table.colourType, ColourType::Ia);
     EXPECT_EQ(table.count, 16);
     EXPECT_EQ(table.getEntry(15), 0x120F);
-    fake.files.putFile(kPath, file(kTag256, 256, 0, 256));
-    ASSERT_TRUE(table.readTlf(kPath));
+    fake.files.putFile(kTlfPath, file(kTag256, 256, 0, 256));
+    ASSERT_TRUE(table.readTlf(kTlfPath));
     EXPECT_EQ(table.colourType, ColourType::Rgba);
     EXPECT_EQ(table.getEntry(255), 0x12FF);
     EXPECT_THAT(fake.messages.shown, IsEmpty());
@@ -89,11 +89,11 @@ TEST_F(TlfReader, RefusalsSayWhyAndOnlyAShortBodyEmptiesTheRecord) {
         SCOPED_TRACE(&c - cases);
         fake.messages.shown.clear();
         if (c.file)
-            fake.files.putFile(kPath, *c.file);
+            fake.files.putFile(kTlfPath, *c.file);
         ASSERT_TRUE(table.create(3, ColourType::Ia));
-        EXPECT_FALSE(table.readTlf(kPath));
+        EXPECT_FALSE(table.readTlf(kTlfPath));
         EXPECT_THAT(fake.messages.shown,
-                    ElementsAre(Reports("[TLF]", "[" + fake.files.hostPath(kPath) + "] " + c.why)));
+                    ElementsAre(Reports("[TLF]", "[" + fake.files.hostPath(kTlfPath) + "] " + c.why)));
         EXPECT_EQ(table.count, c.countAfter);
         EXPECT_EQ(table.entries != nullptr, c.countAfter != 0);
     }

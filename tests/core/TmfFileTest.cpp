@@ -10,7 +10,7 @@ using namespace std::string_literals;
 
 constexpr std::uint32_t kTag4 = 0x00120200;
 constexpr std::uint32_t kTag8 = 0x00120300;
-const std::string kPath = "c:\\sky.tmf";
+const std::string kTmfPath = "c:\\sky.tmf";
 
 /// An image whose texels are 1, 2, 3 … row by row from the top.
 TmfImage counted(std::int32_t width, std::int32_t height, std::int32_t bits) {
@@ -39,25 +39,25 @@ TEST_F(TmfWriter, PacksRowsFromTheBottomUpAndPadsTheBody) {
         {0, 3, 8, header({kTag8, 0, 3, 8})},
     };
     for (const auto& c : cases) {
-        ASSERT_TRUE(counted(c.width, c.height, c.bits).saveTmf(kPath));
-        EXPECT_EQ(fake.files.textOf(kPath), c.file);
+        ASSERT_TRUE(counted(c.width, c.height, c.bits).saveTmf(kTmfPath));
+        EXPECT_EQ(fake.files.textOf(kTmfPath), c.file);
     }
     // The nibble behind an odd row, whatever the block holds there.
     TmfImage image = counted(3, 2, 4);
     std::fill_n(image.texels, image.blockSize(), std::uint8_t{0xFF});
-    ASSERT_TRUE(image.saveTmf(kPath));
-    EXPECT_EQ(fake.files.textOf(kPath), header({kTag4, 3, 2, 4}) + "\xFF\xF0\xFF\xF0");
+    ASSERT_TRUE(image.saveTmf(kTmfPath));
+    EXPECT_EQ(fake.files.textOf(kTmfPath), header({kTag4, 3, 2, 4}) + "\xFF\xF0\xFF\xF0");
 }
 
 TEST_F(TmfWriter, FailsWithoutAWordAndLeavesTheFileAlone) {
-    fake.files.putFile(kPath, "old");
-    EXPECT_FALSE(counted(3, 2, 16).saveTmf(kPath));
+    fake.files.putFile(kTmfPath, "old");
+    EXPECT_FALSE(counted(3, 2, 16).saveTmf(kTmfPath));
     TmfImage hollow;
     hollow.width = hollow.height = hollow.bits = 8;
-    EXPECT_FALSE(hollow.saveTmf(kPath));
+    EXPECT_FALSE(hollow.saveTmf(kTmfPath));
     fake.files.failNextWrite(FileError::AccessDenied);
-    EXPECT_FALSE(counted(3, 2, 4).saveTmf(kPath));
-    EXPECT_EQ(fake.files.textOf(kPath), "old");
+    EXPECT_FALSE(counted(3, 2, 4).saveTmf(kTmfPath));
+    EXPECT_EQ(fake.files.textOf(kTmfPath), "old");
     EXPECT_THAT(fake.messages.shown, IsEmpty());
 }
 
@@ -82,9 +82,9 @@ TEST_F(TmfReader, TellsPackedRowsFromPaddedOnesByTheSizeOfTheBody) {
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
-        fake.files.putFile(kPath, c.file);
+        fake.files.putFile(kTmfPath, c.file);
         TmfImage image;
-        ASSERT_TRUE(image.readTmf(kPath));
+        ASSERT_TRUE(image.readTmf(kTmfPath));
         std::vector<std::uint32_t> texels;
         for (std::int32_t i = 0; i < image.width * image.height; ++i)
             texels.push_back(image.getTexel(i % image.width, i / image.width));
@@ -94,7 +94,7 @@ TEST_F(TmfReader, TellsPackedRowsFromPaddedOnesByTheSizeOfTheBody) {
 }
 
 TEST_F(TmfReader, RefusalsSayWhyAndClearTheRecord) {
-    const std::string tooShort = "[" + kPath + "] file read failed.\n";
+    const std::string tooShort = "[" + kTmfPath + "] file read failed.\n";
     const std::string noMemory = "not enough memory for create TMF.\n";
     const std::pair<std::string, std::string> cases[] = {
         {"", tooShort},
@@ -109,9 +109,9 @@ TEST_F(TmfReader, RefusalsSayWhyAndClearTheRecord) {
     };
     for (const auto& [bytes, text] : cases) {
         fake.messages.shown.clear();
-        fake.files.putFile(kPath, bytes);
+        fake.files.putFile(kTmfPath, bytes);
         TmfImage image = counted(2, 2, 8);
-        EXPECT_FALSE(image.readTmf(kPath));
+        EXPECT_FALSE(image.readTmf(kTmfPath));
         EXPECT_THAT(fake.messages.shown, ElementsAre(Reports("[TMF]", text)));
         EXPECT_EQ(image.texels, nullptr);
         EXPECT_EQ(image.width + image.height + image.bits, 0);

@@ -178,14 +178,14 @@ TEST_F(PngFile, EntriesThatWereChangedSinceAreTakenAndTold) {
     expectSame(read, texture);
 }
 
-struct Kind {
+struct PictureKind {
     const char* arguments;
     std::int32_t bits; ///< Of the image that is made, or 0 for a picture of direct colours.
     ColourType type = ColourType::Rgba;
 };
 
 TEST_F(PngFile, KeepsTheOrderOfEveryPaletteAndTheStepsOfGrey) {
-    const Kind kinds[] = {
+    const PictureKind kinds[] = {
         {"-size 9x7 pattern:checkerboard -colorspace gray -depth 1 -type bilevel", 4, ColourType::Rgba},
         {"-size 31x17 gradient: -depth 4 -type grayscale -define png:color-type=0 -define png:bit-depth=4", 4,
          ColourType::Ia},
@@ -199,7 +199,7 @@ TEST_F(PngFile, KeepsTheOrderOfEveryPaletteAndTheStepsOfGrey) {
         {"-size 20x20 radial-gradient:red-none -define png:color-type=6 -interlace PNG", 0},
         {"-size 20x20 gradient: -alpha set -channel A -evaluate set 30% -define png:color-type=4", 0},
     };
-    for (const Kind& kind : kinds) {
+    for (const PictureKind& kind : kinds) {
         ASSERT_TRUE(runs(std::string("convert ") + kind.arguments + " made.png")) << kind.arguments;
         // An independent reading: 8 bits of red, green, blue and alpha of each pixel.
         ASSERT_TRUE(runs("convert made.png -depth 8 rgba:raw")) << kind.arguments;

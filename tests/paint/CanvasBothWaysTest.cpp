@@ -41,7 +41,7 @@ Way randomWay(unsigned seed, std::uint16_t bitsPerPixel, std::uint16_t partnerBi
     return way;
 }
 
-struct Primitive {
+struct PaintingPrimitive {
     const char* name;
     std::function<bool(TextureCanvas&, TextureCanvas&, Random&)> run;
 };
@@ -60,7 +60,7 @@ std::uint32_t anyValue(Random& random) {
 
 using Shape = void (TextureCanvas::*)(std::int32_t, std::int32_t, std::int32_t, std::int32_t, std::uint32_t);
 
-Primitive shape(const char* name, Shape draw) {
+PaintingPrimitive shape(const char* name, Shape draw) {
     return {name, [draw](TextureCanvas& canvas, TextureCanvas&, Random& random) {
                 const std::int32_t x = near(random);
                 const std::int32_t y = near(random);
@@ -70,9 +70,9 @@ Primitive shape(const char* name, Shape draw) {
             }};
 }
 
-const std::vector<Primitive>& primitives() {
+const std::vector<PaintingPrimitive>& primitives() {
     using Canvas = TextureCanvas;
-    static const std::vector<Primitive> all = {
+    static const std::vector<PaintingPrimitive> all = {
         shape("DrawBox", &Canvas::DrawBox),
         shape("FillBox", &Canvas::FillBox),
         shape("DrawEllipse", &Canvas::DrawEllipse),
@@ -145,7 +145,7 @@ class CanvasBothWays : public testing::TestWithParam<std::uint16_t> {};
 TEST_P(CanvasBothWays, GiveTheSameBytesChangedRectangleAndResult) {
     const std::uint16_t bitsPerPixel = GetParam();
     for (unsigned seed = 0; seed < 1200; ++seed) {
-        const Primitive& primitive = primitives()[seed % primitives().size()];
+        const PaintingPrimitive& primitive = primitives()[seed % primitives().size()];
         SCOPED_TRACE(testing::Message() << primitive.name << ", seed " << seed);
         Random choice(seed);
         const auto partnerBits = choice.once(6) ? std::uint16_t{8} : bitsPerPixel;

@@ -15,13 +15,12 @@ void PrintTo(const ToolCommand& tool, std::ostream* out) {
 
 namespace {
 
-constexpr const char* kPath = "c:\\a [b] * c.tmf";
-constexpr std::uint32_t kOutside = PaintingWindow::kOutside;
+constexpr const char* kScriptPath = "c:\\a [b] * c.tmf";
 constexpr CommandId kOfSelected[] = {ID_CANCEL_SELECTION, ID_FLIP_X, ID_FLIP_Y, ID_EDIT_COPY, ID_EDIT_CUT};
 
-constexpr CommandId kCommands[] = {ID_EDIT_UNDO,  ID_EDIT_UNDO,        ID_EDIT_REDO,  ID_EDIT_SELECT_ALL,
-                                   ID_TOOL_SPUIT, ID_CANCEL_SELECTION, ID_FLIP_X,     ID_FLIP_Y,
-                                   ID_EDIT_COPY,  ID_EDIT_CUT,         ID_EDIT_PASTE, ID_EDIT_PASTE};
+constexpr CommandId kEditCommands[] = {ID_EDIT_UNDO,  ID_EDIT_UNDO,        ID_EDIT_REDO,  ID_EDIT_SELECT_ALL,
+                                       ID_TOOL_SPUIT, ID_CANCEL_SELECTION, ID_FLIP_X,     ID_FLIP_Y,
+                                       ID_EDIT_COPY,  ID_EDIT_CUT,         ID_EDIT_PASTE, ID_EDIT_PASTE};
 
 constexpr Key kKeys[] = {Key::Escape, Key::Enter, Key::Left,    Key::Up,           Key::Right, Key::Down,
                          Key::I,      Key::O,     Key::Numpad9, Key::NumpadDivide, Key::Other};
@@ -35,7 +34,7 @@ protected:
         document.canvas().Create(15, 12, 1, bits);
         window.view = &view;
         openPalette(256);
-        document.setPathName(kPath);
+        document.setPathName(kScriptPath);
         document.Attach();
         view.InitialUpdate();
         otherWindow.view = &other;
@@ -110,7 +109,7 @@ protected:
             EXPECT_EQ(view.KeyPressed(key), taken) << lastEvent();
             followZoom(taken && model.zooms(key.key), key.key == Key::O || key.key == Key::NumpadDivide);
         } else if (dice < 91) {
-            run(below(3) == 0 ? oneOf(kToolCommands).command : oneOf(kCommands));
+            run(below(3) == 0 ? oneOf(kToolCommands).command : oneOf(kEditCommands));
         } else if (dice < 94) {
             model.cell = host.cell = below(64) - 1;
         } else if (dice < 96) {
@@ -141,7 +140,7 @@ protected:
             EXPECT_TRUE(document.save());
             EXPECT_FALSE(document.hasUnsavedChanges());
             TextureCanvas saved;
-            EXPECT_TRUE(saved.LoadTmf(kPath));
+            EXPECT_TRUE(saved.LoadTmf(kScriptPath));
             EXPECT_EQ(rowsOf(saved), rowsOf(*model.image));
         } else {
             log_ << "tool chosen in another window";
@@ -174,7 +173,7 @@ protected:
     std::vector<std::uint32_t> expectedPicture() const {
         ViewLook look;
         look.zoom = model.zoom;
-        look.outsideColour = kOutside;
+        look.outsideColour = PaintingWindow::kOutside;
         // A frame is shown while it is drawn out, also around what is too small to be a selection.
         if (model.exists() || model.piece != nullptr || (model.selecting() && model.selection != Rect{}))
             look.selection = {model.selection, model.piece.get(), 10, model.antsPhase};

@@ -5,15 +5,15 @@
 namespace dyeworks {
 namespace {
 
-constexpr const char* kPath = "c:\\tex\\sky.tmf";
+constexpr const char* kViewedPath = "c:\\tex\\sky.tmf";
 constexpr const char* kSection = "Settings\\Images\\c:\\tex\\sky.tmf";
 constexpr WindowPlacement kPlace{0, 1, -1, -1, -1, -1, 10, 20, 310, 220};
 
 class ViewSettings : public ViewFixture {
 protected:
     ViewSettings() {
-        platform.files.putFile(kPath, "");
-        document.setPathName(kPath);
+        platform.files.putFile(kViewedPath, "");
+        document.setPathName(kViewedPath);
         window.place = kPlace;
     }
 
@@ -22,7 +22,7 @@ protected:
         explicit Reopened(ViewSettings& first)
             : document(first.host) {
             document.canvas().Create(16, 12, 1, 4);
-            document.setPathName(kPath);
+            document.setPathName(kViewedPath);
             view.InitialUpdate();
         }
         CDyeworksDoc document;
@@ -87,9 +87,9 @@ TEST_F(ViewSettings, CountOnlyBesideAPlacementAndWithinTheirRanges) {
         platform.profile.setInteger(kSection, "zoom", c.zoom);
         platform.profile.setInteger(kSection, "x", -40);
         platform.profile.setInteger(kSection, "y", 9999);
-        platform.profile.remove("Settings", kPath);
+        platform.profile.remove("Settings", kViewedPath);
         EXPECT_EQ(Reopened(*this).view.zoom(), 1);
-        writeWindowPlacement(kPath, kPlace);
+        writeWindowPlacement(kViewedPath, kPlace);
         Reopened again(*this);
         EXPECT_EQ(again.view.zoom(), c.held);
         EXPECT_EQ(again.window.scroll, (Point{0, std::max(12 * c.held - 30, 0)}));

@@ -13,17 +13,17 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr const char* kPath = "c:\\p\\sea.tpf";
+constexpr const char* kFilePath = "c:\\p\\sea.tpf";
 
 class ProjectFile : public testing::Test {
 protected:
     ProjectFile() { fake_.files.createDirectory("c:\\p\\tex"); }
 
     void read(const std::string& bytes) {
-        fake_.files.putFile(kPath, bytes);
-        ASSERT_TRUE(file_.Read(kPath));
+        fake_.files.putFile(kFilePath, bytes);
+        ASSERT_TRUE(file_.Read(kFilePath));
     }
-    [[nodiscard]] std::string written(const std::string& path = kPath) {
+    [[nodiscard]] std::string written(const std::string& path = kFilePath) {
         EXPECT_TRUE(file_.Write(path));
         return fake_.files.textOf(path).value_or("no file");
     }
@@ -49,7 +49,7 @@ protected:
 };
 
 TEST_F(ProjectFile, IsWrittenInItsOrder) {
-    ASSERT_TRUE(file_.Create(kPath, "c:\\p", "c:\\p\\tex", ""));
+    ASSERT_TRUE(file_.Create(kFilePath, "c:\\p", "c:\\p\\tex", ""));
     EXPECT_FALSE(file_.IsModified());
     PictureEntry entry{"c:\\p\\tex\\a.tmf", "c:\\p\\a.tlf", 0};
     file_.SetPicture("Picture0", entry, std::nullopt);
@@ -157,7 +157,7 @@ TEST_F(ProjectFile, MayStandInARoot) {
 }
 
 TEST_F(ProjectFile, TellsOfFoldersThatAreMissing) {
-    EXPECT_FALSE(file_.Create(kPath, "c:\\p", "x", "y"));
+    EXPECT_FALSE(file_.Create(kFilePath, "c:\\p", "x", "y"));
     EXPECT_EQ(file_.tpfDir, "c:\\p") << "what exists stays set";
     EXPECT_FALSE(file_.IsModified());
     EXPECT_EQ(file_.store, nullptr);
@@ -207,12 +207,12 @@ TEST_F(ProjectFile, UnsavedChangesAreNotOverwritten) {
     fake_.files.failNextWrite(FileError::NoSpace);
     EXPECT_FALSE(file_.Write("c:\\elsewhere\\q.tpf"));
     EXPECT_TRUE(file_.IsModified());
-    EXPECT_EQ(file_.pathName + file_.tpfDir, kPath + folder);
-    EXPECT_FALSE(file_.Read(kPath));
+    EXPECT_EQ(file_.pathName + file_.tpfDir, kFilePath + folder);
+    EXPECT_FALSE(file_.Read(kFilePath));
     EXPECT_THAT(file_.order, ElementsAre("B", "A"));
-    EXPECT_TRUE(file_.Write(kPath));
+    EXPECT_TRUE(file_.Write(kFilePath));
     file_.Clear();
-    EXPECT_FALSE(file_.Write(kPath));
+    EXPECT_FALSE(file_.Write(kFilePath));
     std::optional<FileError> why;
     EXPECT_FALSE(file_.Read("", &why) || why);
     EXPECT_FALSE(file_.Read("c:\\p\\none.tpf", &why));
@@ -223,9 +223,9 @@ TEST_F(ProjectFile, WritesNothingThatWouldBeReadOtherwise) {
     const std::string lines = "PICT_NUM = 1\nPICT.0 = A,a\n";
     read(lines);
     set("a#b");
-    EXPECT_FALSE(file_.Write(kPath));
+    EXPECT_FALSE(file_.Write(kFilePath));
     EXPECT_TRUE(file_.IsModified());
-    EXPECT_EQ(fake_.files.textOf(kPath), lines);
+    EXPECT_EQ(fake_.files.textOf(kFilePath), lines);
     for (const char* field : {"a,b", "$(X)"}) {
         EXPECT_FALSE(CTPFFile::holdsPicture(field, {}) || CTPFFile::holdsPicture("A", {field, "", 0}) ||
                      CTPFFile::holdsPicture("A", {"", field, 0}))

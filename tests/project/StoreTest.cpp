@@ -12,17 +12,17 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr const char* kPath = "c:\\sea.tpf";
+constexpr const char* kStorePath = "c:\\sea.tpf";
 
 class Store : public testing::Test {
 protected:
     void load(const std::string& bytes) {
-        fake_.files.putFile(kPath, bytes);
-        ASSERT_TRUE(store_.LoadFile(kPath));
+        fake_.files.putFile(kStorePath, bytes);
+        ASSERT_TRUE(store_.LoadFile(kStorePath));
     }
     [[nodiscard]] std::string saved() const {
-        EXPECT_TRUE(store_.SaveFile(kPath));
-        return fake_.files.textOf(kPath).value_or("no file");
+        EXPECT_TRUE(store_.SaveFile(kStorePath));
+        return fake_.files.textOf(kStorePath).value_or("no file");
     }
     [[nodiscard]] std::string value(const std::string& name) const {
         std::string value = "none";
@@ -147,12 +147,12 @@ TEST_F(Store, StaysInTheEncodingOfItsFile) {
     EXPECT_EQ(saved(), "A\t=\t\xEF\xBE\x83\xEF\xBD\xBD\r\n");
 
     CKeyValueStore marked;
-    fake_.files.putFile(kPath, "\xEF\xBB\xBF"
-                               "A = \xE8\xA1\xA8\n");
-    ASSERT_TRUE(marked.LoadFile(kPath));
-    ASSERT_TRUE(marked.SaveFile(kPath));
-    EXPECT_EQ(fake_.files.textOf(kPath), "\xEF\xBB\xBF"
-                                         "A\t=\t\xE8\xA1\xA8\r\n");
+    fake_.files.putFile(kStorePath, "\xEF\xBB\xBF"
+                                    "A = \xE8\xA1\xA8\n");
+    ASSERT_TRUE(marked.LoadFile(kStorePath));
+    ASSERT_TRUE(marked.SaveFile(kStorePath));
+    EXPECT_EQ(fake_.files.textOf(kStorePath), "\xEF\xBB\xBF"
+                                              "A\t=\t\xE8\xA1\xA8\r\n");
 }
 
 TEST_F(Store, KeepsBytesOfNoEncoding) {

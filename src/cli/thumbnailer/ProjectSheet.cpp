@@ -17,7 +17,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::size_t kHeaderSize = 64;
 constexpr std::int32_t kLeastSide = 24; ///< Of a picture that can be told from others.
 constexpr std::int32_t kMostColumns = 8;
 /// To look for a file that is not there takes its whole folder.
@@ -52,7 +51,7 @@ std::optional<Picture> shown(const Place& place, std::int32_t side) {
     const auto file = openHostFile(place.image);
     if (!file)
         return std::nullopt;
-    std::array<std::byte, kHeaderSize> header;
+    std::array<std::byte, kTmfHeaderSize> header;
     Result<TexelRows, std::string> rows =
         TexelRows::behind(std::span(header).first(file.value()->read(header)), *file.value());
     if (!rows)

@@ -22,7 +22,6 @@ namespace {
 
 using Made = Result<Picture, std::string>;
 
-constexpr std::size_t kHeaderSize = 64;
 constexpr std::uint64_t kMostProjectBytes = 4U << 20U;
 
 /// The header, which was read already, and what follows it up to `most` bytes in all.
@@ -66,7 +65,7 @@ Made ofProject(std::span<const std::byte> start, HostFileReader& file, const std
 
 Result<Picture, std::string> thumbnail(HostFileReader& file, const std::string& path, std::int32_t side,
                                        const EditorSettings& settings) {
-    std::array<std::byte, kHeaderSize> header;
+    std::array<std::byte, kTmfHeaderSize> header;
     const std::span<const std::byte> start = std::span(header).first(file.read(header));
     switch (kindOf(start, path)) {
     case FileKind::Image:

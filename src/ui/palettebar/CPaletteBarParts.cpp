@@ -27,7 +27,7 @@ namespace dyeworks {
 
 namespace {
 
-constexpr IntegerField::Range kBanks{0, PaletteCells::kLastBank};
+constexpr IntegerField::Range kBanks{0, kLastBank};
 
 void describe(QWidget& widget, StringId name, StringId tip) {
     widget.setAccessibleName(shown(name));

@@ -23,7 +23,7 @@ namespace dyeworks {
 namespace {
 
 /// A heading and the width of its column in pixels.
-using Column = std::pair<QString, int>;
+using VersionColumn = std::pair<QString, int>;
 
 /// Name, class, company.
 constexpr const char* kCredits[][3] = {
@@ -47,7 +47,7 @@ QString versionLine() {
            dotted(platform().versionInfo().program().fileVersion);
 }
 
-void setColumns(QTreeWidget& list, const std::vector<Column>& columns) {
+void setColumns(QTreeWidget& list, const std::vector<VersionColumn>& columns) {
     list.setColumnCount(static_cast<int>(columns.size()));
     for (int i = 0; i < list.columnCount(); ++i) {
         const auto& [heading, width] = columns[static_cast<std::size_t>(i)];

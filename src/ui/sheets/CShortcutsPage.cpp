@@ -29,7 +29,7 @@ namespace dyeworks {
 
 namespace {
 
-enum Column { kName, kKeys, kChanged };
+enum ShortcutColumn { kName, kKeys, kChanged };
 constexpr int kCommandRole = Qt::UserRole;
 
 // In letters and lines of the font.
@@ -78,7 +78,7 @@ CShortcutsPage::CShortcutsPage(const std::vector<ShortcutGroup>& groups)
         control->setWhatsThis(shown(tip));
     };
     name(find_, "IDC_SHORTCUT_FIND", StringId::ShortcutsFind, StringId::ShortcutsFindTip);
-    find_->setClearButtonEnabled(true);
+    addClearButton(*find_);
     connect(find_, &QLineEdit::textChanged, this, &CShortcutsPage::showFitting);
     name(preset_, "IDC_SHORTCUT_PRESET", StringId::ShortcutsPreset, StringId::ShortcutsPresetTip);
     for (const ShortcutPreset& preset : shortcutPresets())

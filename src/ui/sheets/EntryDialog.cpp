@@ -1,8 +1,8 @@
 #include "ui/sheets/EntryDialog.h"
 
 #include "platform/StringId.h"
-#include "platform/Text.h"
 #include "ui/sheets/ColourControls.h"
+#include "ui/sheets/SheetControls.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -17,10 +17,6 @@ namespace dyeworks {
 namespace {
 
 constexpr int kReadOutLength = 2;
-
-QString shown(StringId id, std::initializer_list<std::string> arguments = {}) {
-    return QString::fromStdString(text(id, arguments));
-}
 
 QLineEdit* numberEdit(const char* id) {
     // A sign can be typed, because it may come in with a number from the clipboard.

@@ -14,7 +14,6 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::int32_t kBankSize = 16;
 constexpr const char* kSection = "Settings\\Export Palette";
 constexpr const char* kFormatEntry = "Format";
 

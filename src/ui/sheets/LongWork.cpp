@@ -18,10 +18,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// What is done sooner needs no dialog.
-constexpr auto kPatience = 300ms;
 constexpr auto kLook = 50ms;
-constexpr int kWhole = 1000;
 
 } // namespace
 
@@ -35,7 +32,7 @@ void runLongWork(QWidget* owner, const QString& what, const std::function<void(c
             return !stopped.load();
         });
     });
-    if (running.wait_for(kPatience) == std::future_status::ready)
+    if (running.wait_for(kProgressPatience) == std::future_status::ready)
         return;
     const OrdinaryPointerScope pointer;
     // The files of the command line are opened before the main window is shown.
@@ -44,7 +41,7 @@ void runLongWork(QWidget* owner, const QString& what, const std::function<void(c
     QProgressDialog dialog(owner);
     dialog.setWindowTitle(shown(StringId::ApplicationTitle));
     dialog.setLabelText(what);
-    dialog.setRange(0, kWhole);
+    dialog.setRange(0, kProgressWhole);
     dialog.setWindowModality(Qt::ApplicationModal);
     dialog.setMinimumDuration(0);
     dialog.setAutoClose(false);

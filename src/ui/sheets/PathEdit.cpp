@@ -11,7 +11,7 @@ namespace {
 
 constexpr char kListSeparator = ';';
 // Widths of the edit in characters: as it likes to be, and as it is on a small screen at least.
-constexpr int kColumns = 44;
+constexpr int kLetters = 44;
 constexpr int kLeastColumns = 30;
 
 template <typename Change>
@@ -52,7 +52,7 @@ std::string PathEdit::path() const {
 }
 
 QSize PathEdit::sizeHint() const {
-    return {kColumns * fontMetrics().averageCharWidth(), QLineEdit::sizeHint().height()};
+    return {kLetters * fontMetrics().averageCharWidth(), QLineEdit::sizeHint().height()};
 }
 
 QSize PathEdit::minimumSizeHint() const {

@@ -24,7 +24,7 @@ namespace dyeworks {
 
 namespace {
 
-constexpr int kColumns = 24; // Of the list, in letters.
+constexpr int kListLetters = 24;
 
 QString shownName(const std::string& name) {
     return QString::fromStdString(isRooted(name) ? displayPath(name) : name);
@@ -43,7 +43,7 @@ PictureFileRow::PictureFileRow(const Kind& kind, std::string directories, const 
     list_->setInsertPolicy(QComboBox::NoInsert);
     // A new file's name may begin like another's.
     list_->setCompleter(nullptr);
-    list_->setMinimumContentsLength(kColumns);
+    list_->setMinimumContentsLength(kListLetters);
     list_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     list_->setAccessibleName(shown(kind.title));
     list_->setToolTip(shown(kind.name));

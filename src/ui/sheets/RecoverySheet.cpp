@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kPictureSide = 48;
 constexpr QSize kFirstSize{640, 400};
-enum Column { kName, kFile, kTime, kColumns };
+enum LostColumn { kName, kFile, kTime, kColumns };
 
 } // namespace
 

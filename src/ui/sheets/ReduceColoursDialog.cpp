@@ -3,6 +3,7 @@
 #include "interchange/EntryColour.h"
 #include "platform/Platform.h"
 #include "platform/StringId.h"
+#include "ui/sheets/LongWork.h"
 #include "ui/sheets/PicturePreview.h"
 #include "ui/sheets/SheetControls.h"
 
@@ -21,18 +22,10 @@
 #include <QStandardItemModel>
 
 #include <algorithm>
-#include <chrono>
 
 namespace dyeworks {
 
 namespace {
-
-using namespace std::chrono_literals;
-
-/// What is done sooner needs no bar.
-constexpr auto kPatience = 300ms;
-constexpr int kWhole = 1000;
-constexpr int kLastBank = 15;
 
 QRgb displayOf(const Colour& colour) {
     return qRgba(colour.red, colour.green, colour.blue, colour.alpha);
@@ -150,7 +143,7 @@ void ReduceColoursDialog::makeFields() {
                         StringId::ReduceActualSizeTip);
     note_->setObjectName(QStringLiteral("IDC_REDUCE_NOTE"));
     progress_->setObjectName(QStringLiteral("IDC_REDUCE_PROGRESS"));
-    progress_->setRange(0, kWhole);
+    progress_->setRange(0, kProgressWhole);
     progress_->setAccessibleName(shown(StringId::ReduceProgress));
     // The note's place is kept when the bar comes and goes.
     QSizePolicy kept = progress_->sizePolicy();
@@ -241,7 +234,7 @@ void ReduceColoursDialog::start() {
         return;
     }
     worker_.start(state_);
-    patience_.start(kPatience);
+    patience_.start(kProgressPatience);
 }
 
 void ReduceColoursDialog::showOutcome() {

@@ -6,8 +6,10 @@
 #include <QFontMetrics>
 #include <QFormLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QLocale>
 #include <QRadioButton>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace dyeworks {
@@ -21,6 +23,12 @@ QRadioButton* choiceButton(const char* name, StringId caption, StringId tip) {
     button->setObjectName(QString::fromLatin1(name));
     button->setToolTip(shown(tip));
     return button;
+}
+
+void addClearButton(QLineEdit& field) {
+    field.setClearButtonEnabled(true);
+    for (auto* button : field.findChildren<QToolButton*>())
+        button->setAccessibleName(shown(StringId::ClearField));
 }
 
 void addChoices(QFormLayout& form, StringId label, std::initializer_list<QRadioButton*> buttons) {

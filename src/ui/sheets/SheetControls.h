@@ -10,6 +10,7 @@
 #include <string>
 
 class QFormLayout;
+class QLineEdit;
 class QRadioButton;
 
 namespace dyeworks {
@@ -21,6 +22,9 @@ namespace dyeworks {
 [[nodiscard]] QRadioButton* choiceButton(const char* name, StringId caption, StringId tip);
 /// Adds a row with the buttons below each other. Its label is also what screen readers call the group.
 void addChoices(QFormLayout& form, StringId label, std::initializer_list<QRadioButton*> buttons);
+
+/// Gives the field a button that empties it, which screen readers can name.
+void addClearButton(QLineEdit& field);
 
 /// "2,048", the way the user's country writes numbers.
 [[nodiscard]] std::string localNumeral(std::int64_t value);
