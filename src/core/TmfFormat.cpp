@@ -198,8 +198,11 @@ bool readTmfRows(const std::string& path, const TmfRoom& room) {
     return !error;
 }
 
-std::optional<TmfFile> layOutTmf(const TmfImage& image) {
-    if ((image.bits != 4 && image.bits != 8) || !image.holdsTexels())
+std::optional<TmfFile> layOutTmf(const TmfRows& image) {
+    if ((image.bits != 4 && image.bits != 8) || !TmfImage::canBe(image.width, image.height, image.bits))
+        return std::nullopt;
+    const Layout layout(image);
+    if (image.block.data() == nullptr || image.block.size() != layout.stride * layout.rows)
         return std::nullopt;
 
     TmfFile file;
@@ -210,10 +213,9 @@ std::optional<TmfFile> layOutTmf(const TmfImage& image) {
     header.be32(static_cast<std::uint32_t>(image.bits));
     header.zeroes(kTmfReservedSize);
 
-    const Layout layout(image);
     const bool unusedNibbles = image.bits == 4 && image.width % 2 != 0;
     if (layout.rowSize == layout.stride && !unusedNibbles) {
-        file.body = image.block();
+        file.body = image.block;
         return file;
     }
     try {
@@ -222,7 +224,7 @@ std::optional<TmfFile> layOutTmf(const TmfImage& image) {
         return std::nullopt;
     }
     ByteWriter body(file.packed.bytes());
-    ByteReader block(image.block());
+    ByteReader block(image.block);
     for (std::size_t row = 0; row < layout.rows; ++row)
         body.copy(block.take(layout.stride).first(layout.rowSize));
     body.zeroes(layout.packedSize - layout.rowSize * layout.rows);
@@ -232,7 +234,7 @@ std::optional<TmfFile> layOutTmf(const TmfImage& image) {
     return file;
 }
 
-std::optional<FileError> writeTmf(const TmfImage& image, const std::string& path) {
+std::optional<FileError> writeTmf(const TmfRows& image, const std::string& path) {
     const std::optional<TmfFile> file = layOutTmf(image);
     if (!file)
         return FileError::TooLarge;

@@ -76,20 +76,38 @@ using TmfRoom =
 /// then.
 bool readTmfRows(const std::string& path, const TmfRoom& room);
 
+/// An image as it is read: its rows from the bottom up, each padded to 4 bytes, wherever they stand.
+struct TmfRows {
+    TmfRows(std::int32_t itsWidth, std::int32_t itsHeight, std::int32_t itsBits,
+            std::span<const std::byte> itsBlock) noexcept
+        : width(itsWidth)
+        , height(itsHeight)
+        , bits(itsBits)
+        , block(itsBlock) {}
+    /// Of the whole image; no block unless it holds texels.
+    TmfRows(const TmfImage& image) // NOLINT(google-explicit-constructor): wherever rows are wanted.
+        : TmfRows(image.width, image.height, image.bits, image.block()) {}
+
+    std::int32_t width;
+    std::int32_t height;
+    std::int32_t bits;
+    std::span<const std::byte> block;
+};
+
 /// A TMF file laid out for writing: header, then the rows from the bottom up without what pads them in
 /// memory, then zeroes up to a multiple of 4 bytes.
 struct TmfFile {
     std::array<std::byte, 64> header;
-    ByteBuffer packed;               ///< The body, where it differs from the image's block.
-    std::span<const std::byte> body; ///< Stands in `packed` or in the image.
+    ByteBuffer packed;               ///< The body, where it differs from the block.
+    std::span<const std::byte> body; ///< Stands in `packed` or in the block.
 };
 
-/// The file that holds `image`, which must stay as it is meanwhile. Nothing for a depth other than 4 or 8
-/// bits, for a record without texels or with sides that no image has, or when there is no memory.
-[[nodiscard]] std::optional<TmfFile> layOutTmf(const TmfImage& image);
+/// The file that holds the image, whose block must stay as it is meanwhile. Nothing for a depth other than 4
+/// or 8 bits, for sides that no image has or without their block, or when there is no memory.
+[[nodiscard]] std::optional<TmfFile> layOutTmf(const TmfRows& image);
 
 /// Writes the image. Nothing: written; otherwise why not, TooLarge standing for an image that no file can
 /// hold or memory cannot lay out.
-[[nodiscard]] std::optional<FileError> writeTmf(const TmfImage& image, const std::string& path);
+[[nodiscard]] std::optional<FileError> writeTmf(const TmfRows& image, const std::string& path);
 
 } // namespace dyeworks

@@ -1,6 +1,5 @@
 #include "paint/CanvasFile.h"
 
-#include "core/TmfFormat.h"
 #include "paint/TextureCanvas.h"
 #include "platform/FileMessages.h"
 #include "platform/Platform.h"
@@ -62,8 +61,7 @@ std::optional<std::string> saveCanvas(const TextureCanvas& canvas, const std::st
         return reasonOf(platform().files().write(path, canvas.block()), advice);
     if (canvas.bitsPerPixel() != 4 && canvas.bitsPerPixel() != 8)
         return text(StringId::DepthTakesABitmap, {std::to_string(canvas.bitsPerPixel())});
-    const std::unique_ptr<TmfImage> image = canvas.ToImage();
-    return reasonOf(image == nullptr ? FileError::TooLarge : writeTmf(*image, path), advice);
+    return reasonOf(canvas.writeTmfFile(path), advice);
 }
 
 } // namespace dyeworks

@@ -122,6 +122,9 @@ public:
     /// Reads (writes) a TMF file; a file that cannot be read has been reported and leaves the canvas empty.
     virtual bool LoadTmf(const std::string& path);
     virtual bool SaveTmf(const std::string& path) const;
+    /// The same, telling why it was not written; nothing when it was. TooLarge stands for a depth or sides
+    /// that no file can hold, and for too little memory.
+    [[nodiscard]] std::optional<FileError> writeTmfFile(const std::string& path) const;
 
     /// Puts the pixels of the rectangle (inclusive) with the colour table on the clipboard, as a packed
     /// bitmap. False, leaving the clipboard alone, when that cannot be done.

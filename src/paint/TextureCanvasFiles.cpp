@@ -19,26 +19,6 @@ bool hasCanvasRows(const TmfImage& image) {
     return (image.bits == 4 || image.bits == 8) && image.holdsTexels();
 }
 
-/// An image whose texels belong to somebody else.
-class BorrowedTexels {
-public:
-    BorrowedTexels(std::int32_t width, std::int32_t height, std::int32_t bits,
-                   std::span<const std::uint8_t> rows) {
-        image_.width = width;
-        image_.height = height;
-        image_.bits = bits;
-        image_.texels = const_cast<std::uint8_t*>(rows.data());
-    }
-    ~BorrowedTexels() { image_.texels = nullptr; }
-    BorrowedTexels(const BorrowedTexels&) = delete;
-    BorrowedTexels& operator=(const BorrowedTexels&) = delete;
-
-    [[nodiscard]] const TmfImage& image() const noexcept { return image_; }
-
-private:
-    TmfImage image_;
-};
-
 } // namespace
 
 std::unique_ptr<TmfImage> TextureCanvas::ToImage() const {
@@ -129,12 +109,15 @@ void TextureCanvas::clearRowPadding() {
 }
 
 bool TextureCanvas::SaveTmf(const std::string& path) const {
+    return !writeTmfFile(path);
+}
+
+std::optional<FileError> TextureCanvas::writeTmfFile(const std::string& path) const {
     // An image's rows lie as a canvas's do.
-    if (const BorrowedTexels own(width_, height_, bitsPerPixel_, pixelRows());
-        isPlain() && hasCanvasRows(own.image()))
-        return own.image().saveTmf(path);
+    if (isPlain() && (bitsPerPixel_ == 4 || bitsPerPixel_ == 8))
+        return writeTmf({width_, height_, bitsPerPixel_, std::as_bytes(pixelRows())}, path);
     const std::unique_ptr<TmfImage> image = ToImage();
-    return image != nullptr && image->saveTmf(path);
+    return image == nullptr ? FileError::TooLarge : writeTmf(*image, path);
 }
 
 std::optional<TextureCanvas::BmpFailure> TextureCanvas::ReadBmp(const std::string& path) {

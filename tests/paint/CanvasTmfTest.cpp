@@ -22,9 +22,9 @@ std::string anyFile(Random& random, int bits, int width, int height) {
     return file;
 }
 
-TEST(CanvasTmf, RowsReadStraightInAreThoseOfTheImage) {
+TEST(CanvasTmf, RowsReadAndWrittenStraightAreThoseOfTheImage) {
     FakePlatform fake;
-    for (unsigned seed = 0; seed < 600; ++seed) {
+    for (unsigned seed = 0; seed < 200; ++seed) {
         Random random(seed);
         const int bits = random.once(2) ? 4 : 8;
         fake.files.putFile("c:\\a.tmf", anyFile(random, bits, random.between(0, 21), random.between(0, 9)));
@@ -35,6 +35,8 @@ TEST(CanvasTmf, RowsReadStraightInAreThoseOfTheImage) {
         ASSERT_TRUE(canvas.LoadTmf("c:\\a.tmf"));
         ASSERT_TRUE(std::ranges::equal(canvas.block(), expected.block())) << seed;
         ASSERT_EQ(canvas.changedRect(), expected.changedRect()) << seed;
+        ASSERT_TRUE(canvas.SaveTmf("c:\\b.tmf") && image.saveTmf("c:\\c.tmf")) << seed;
+        ASSERT_EQ(fake.files.textOf("c:\\b.tmf"), fake.files.textOf("c:\\c.tmf")) << seed;
     }
 }
 
