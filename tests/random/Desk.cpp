@@ -1,6 +1,7 @@
 #include "Desk.h"
 
 #include "core/PaletteSet.h"
+#include "paint/DrawingOptions.h"
 #include "project/CTPFDocument.h"
 #include "ui/CMainFrame.h"
 #include "ui/CommandLine.h"
@@ -284,6 +285,9 @@ std::string Desk::differences(bool all) {
     found.compare("answers left", fake.messages.unusedAnswers() + fake.dialogs.unusedAnswers(),
                   std::size_t{0});
     found.compare("tool", static_cast<int>(currentTool()), static_cast<int>(model.shared.tool));
+    const PlainPen& pen = model.shared.pen;
+    if (drawingOptions() != DrawingOptions{{pen.size, pen.round}, pen.across, pen.down, pen.wrap})
+        found.tell("drawing options differ\n");
 
     const std::vector<CDocument*> documents = app().imageTemplate().documents();
     found.compare("open images", documents.size(), model.images.size());

@@ -18,7 +18,8 @@ constexpr std::array kCommands{
     ID_ZOOM_OUT,        ID_ZOOM_X1,          ID_ZOOM_X4,         ID_ZOOM_X6,          ID_VIEW_GRID,
     ID_TOOL_SELECT,     ID_TOOL_PIXEL,       ID_TOOL_PEN,        ID_TOOL_LINE,        ID_TOOL_BOX,
     ID_TOOL_BOX_FILL,   ID_TOOL_CIRCLE,      ID_TOOL_ZOOM_LENS,  ID_TOOL_CIRCLE_FILL, ID_TOOL_PAINT,
-    ID_TOOL_REPLACER,   ID_TOOL_SELECT};
+    ID_TOOL_REPLACER,   ID_TOOL_SELECT,      ID_MIRROR_ACROSS,   ID_MIRROR_DOWN,      ID_DRAW_WRAP,
+    ID_BRUSH_SQUARE,    ID_BRUSH_ROUND};
 
 constexpr std::array<std::pair<Qt::Key, Key>, 8> kKeys{{{Qt::Key_Escape, Key::Escape},
                                                         {Qt::Key_Return, Key::Enter},
@@ -160,6 +161,14 @@ void command(Desk& desk, const std::vector<int>& n) {
     desk.model.refreshReplaced();
 }
 
+void brush(Desk& desk, const std::vector<int>& n) {
+    const CommandId id = n[0] == 0 ? ID_BRUSH_LARGER : ID_BRUSH_SMALLER;
+    for (int i = 0; i <= n[1]; ++i) {
+        if (desk.run(id))
+            desk.model.active->run(id);
+    }
+}
+
 void cell(Desk& desk, const std::vector<int>& n) {
     desk.app().imageHost().selectPaletteBarCell(n[0]);
 }
@@ -180,6 +189,7 @@ const std::vector<Verb>& imageVerbs() {
                                          {"command", 135, {static_cast<int>(kCommands.size())}, command},
                                          {"undo", 20, {3, 2}, undo},
                                          {"cell", 30, {256}, cell},
+                                         {"brush", 20, {3, 5}, brush},
                                          {"draw-much", 2, {16, 48, 48}, drawMuch},
                                          {"repaint", 2, {}, repaint}};
     return verbs;

@@ -46,13 +46,22 @@ void ViewModel::setSelection(Point from, Point to) {
     selection = wanted == Rect{} ? std::nullopt : std::optional(wanted);
 }
 
-bool ViewModel::clearSelected() {
-    return document.edit([this](PlainImage& image) { image.filledBox(selection.value_or(Rect{}), 0); });
+bool ViewModel::clearSelected(bool wrap) {
+    PlainPen pen;
+    pen.wrap = wrap;
+    return document.edit([&](PlainImage& image) { image.filledBox(selection.value_or(Rect{}), pen); });
+}
+
+PlainPen ViewModel::pen() const {
+    PlainPen pen = shared_.pen;
+    pen.value = value;
+    return pen;
 }
 
 void ViewModel::commit() {
     if (const std::optional<PlainImage> placed = std::exchange(piece, std::nullopt))
-        document.edit([&](PlainImage& image) { image.paste(*placed, selection.value_or(Rect{})); });
+        document.edit(
+            [&](PlainImage& image) { image.paste(*placed, selection.value_or(Rect{}), shared_.pen.wrap); });
     selection.reset();
 }
 
@@ -97,7 +106,7 @@ void ViewModel::turn(CommandId id) {
     }
     const PlainImage lifted = piece ? *piece : document.image().part(*selection);
     if (!piece)
-        clearSelected();
+        clearSelected(false);
     piece = turned(lifted);
     const auto [l, t, r, b] = *selection;
     anchor_ = half ? Point{l, t} : Point{l + (r - l - (b - t)) / 2, t + (b - t - (r - l)) / 2};
@@ -160,16 +169,16 @@ void ViewModel::press(const Pointer& event) {
         return;
     commit();
     if (tool == Tool::Paint) {
-        document.edit([this](PlainImage& image) { image.flood(start_, value); });
+        document.edit([this](PlainImage& image) { image.flood(start_, pen()); });
         return;
     }
     anchor_ = current_ = previous_ = start_;
     centred_ = event.alt;
     snapshot_ = document.image();
     if (tool == Tool::Pixel)
-        hasStep_ = document.edit([this](PlainImage& image) { image.put(start_, value); });
+        hasStep_ = document.edit([this](PlainImage& image) { image.dot(start_, pen()); });
     else if (tool == Tool::Pen)
-        document.image().put(start_, value);
+        document.image().dot(start_, pen());
     else
         drawShape();
 }
@@ -205,7 +214,7 @@ void ViewModel::move(const Pointer& event) {
             dragSelection(at, event.control);
     } else if (atPress_ == Tool::Pen) {
         if (anchor_ != at)
-            document.image().line(anchor_, at, value);
+            document.image().line(anchor_, at, pen());
         anchor_ = at;
     } else if (previous_ != at) {
         follow(at);
@@ -218,9 +227,9 @@ void ViewModel::move(const Pointer& event) {
 void ViewModel::dragSelection(Point at, bool control) {
     if (hit_ == TrackerHit::Inside) {
         if (!piece) {
-            PlainImage copy = document.image().part(selection.value_or(Rect{}));
+            PlainImage copy = document.image().part(selection.value_or(Rect{}), shared_.pen.wrap);
             cut_ = true;
-            hasStep_ = !control && clearSelected();
+            hasStep_ = !control && clearSelected(shared_.pen.wrap);
             letFloat(std::move(copy));
         }
         const Point way = minus(at, std::exchange(start_, at));
@@ -245,13 +254,13 @@ void ViewModel::drawShape() {
     PlainImage& image = document.image();
     const Rect corners{anchor_.x, anchor_.y, current_.x, current_.y};
     if (atPress_ == Tool::Line)
-        image.line(anchor_, current_, value);
+        image.line(anchor_, current_, pen());
     else if (atPress_ == Tool::Box)
-        image.box(corners, value);
+        image.box(corners, pen());
     else if (atPress_ == Tool::BoxFill)
-        image.filledBox(corners, value);
+        image.filledBox(corners, pen());
     else
-        image.ellipse(corners, value, atPress_ == Tool::CircleFill);
+        image.ellipse(corners, pen(), atPress_ == Tool::CircleFill);
 }
 
 void ViewModel::release(const Pointer& event) {
@@ -325,6 +334,12 @@ void ViewModel::zoomStep(bool out) {
 }
 
 std::optional<bool> ViewModel::enabled(CommandId id) const {
+    if (id == ID_BRUSH_SMALLER)
+        return shared_.pen.size > 1;
+    if (id == ID_BRUSH_LARGER)
+        return shared_.pen.size < 16;
+    if ((id >= ID_BRUSH_SQUARE && id <= ID_MIRROR_DOWN) || id == ID_DRAW_WRAP)
+        return true;
     if (toolOf(id) || id == ID_TOOL_SPUIT || id == ID_VIEW_GRID || (id >= ID_ZOOM_X1 && id <= ID_ZOOM_X16))
         return true;
     switch (id) {
@@ -383,6 +398,17 @@ void ViewModel::run(CommandId id) {
         spuit = !spuit;
     if (id == ID_VIEW_GRID)
         grid = !grid;
+    PlainPen& pen = shared_.pen;
+    if (id == ID_BRUSH_SMALLER || id == ID_BRUSH_LARGER)
+        pen.size += id == ID_BRUSH_LARGER ? 1 : -1;
+    if (id == ID_BRUSH_SQUARE || id == ID_BRUSH_ROUND)
+        pen.round = id == ID_BRUSH_ROUND;
+    if (id == ID_MIRROR_ACROSS)
+        pen.across = !pen.across;
+    if (id == ID_MIRROR_DOWN)
+        pen.down = !pen.down;
+    if (id == ID_DRAW_WRAP)
+        pen.wrap = !pen.wrap;
     if (id == ID_ZOOM_IN || id == ID_ZOOM_OUT)
         zoomStep(id == ID_ZOOM_OUT);
     if (id >= ID_ZOOM_X1 && id <= ID_ZOOM_X16)
@@ -392,7 +418,7 @@ void ViewModel::run(CommandId id) {
     if (exists() && (id == ID_EDIT_COPY || id == ID_EDIT_CUT)) {
         shared_.clipboard = document.image().part(*selection);
         if (id == ID_EDIT_CUT)
-            clearSelected();
+            clearSelected(false);
     }
     if (turns)
         turn(id);

@@ -13,6 +13,7 @@ namespace dyeworks {
 /// What all views share.
 struct ToolModel {
     Tool tool = Tool::Select;
+    PlainPen pen; ///< Without its value.
     std::optional<PlainImage> clipboard;
     int cell = -1; ///< Of the palette bar; negative without one.
     int firstEntry = 0;
@@ -89,7 +90,8 @@ private:
     void follow(Point at);
     void drawShape();
     void zoomStep(bool out);
-    bool clearSelected();
+    bool clearSelected(bool wrap);
+    [[nodiscard]] PlainPen pen() const;
     void turn(CommandId id);
     void crop();
     template <typename Make>
