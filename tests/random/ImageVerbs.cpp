@@ -1,8 +1,11 @@
 #include "Desk.h"
 #include "ui/CMainFrame.h"
 
+#include <QAbstractButton>
 #include <QCoreApplication>
+#include <QDialog>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 
 #include <array>
@@ -169,6 +172,47 @@ void brush(Desk& desk, const std::vector<int>& n) {
     }
 }
 
+/// Resize Canvas, Scale or Shift.
+void resize(Desk& desk, const std::vector<int>& n) {
+    if (desk.model.active == nullptr)
+        return;
+    ViewModel& image = *desk.model.active;
+    struct Sheet {
+        CommandId id;
+        const char *first, *second, *button;
+    };
+    static constexpr Sheet kSheets[] = {
+        {ID_IMAGE_RESIZE, "IDC_RESIZE_WIDTH", "IDC_RESIZE_HEIGHT", "IDC_RESIZE_ANCHOR_"},
+        {ID_IMAGE_SCALE, "IDC_SCALE_WIDTH", "IDC_SCALE_HEIGHT", "IDC_SCALE_LOCK"},
+        {ID_IMAGE_SHIFT, "IDC_SHIFT_RIGHT", "IDC_SHIFT_DOWN", nullptr}};
+    const Sheet& used = kSheets[n[0] % 3];
+    const int fill = n[4] & static_cast<int>(image.document.image().mask());
+    const Point numbers = n[0] % 3 == 2 ? Point{n[1] - 20, n[2] - 20} : Point{n[1] + 1, n[2] + 1};
+    desk.withNextDialog([&](QDialog& sheet) {
+        const auto type = [&](const char* name, int number) {
+            auto* const field = sheet.findChild<QWidget*>(QLatin1String(name));
+            field->findChild<QLineEdit*>()->setText(QString::number(number));
+        };
+        if (n[0] % 3 == 0)
+            type("IDC_RESIZE_FILL", fill);
+        if (used.button != nullptr)
+            sheet
+                .findChild<QAbstractButton*>(used.button +
+                                             (n[0] % 3 == 0 ? QString::number(n[3]) : QString()))
+                ->click();
+        type(used.first, numbers.x);
+        type(used.second, numbers.y);
+        sheet.findChild<QAbstractButton*>(QStringLiteral("IDOK"))->click();
+    });
+    desk.run(used.id);
+    image.replaceImage([&](const PlainImage& old) {
+        return n[0] % 3 == 0   ? old.resized(numbers, n[3], static_cast<std::uint32_t>(fill))
+               : n[0] % 3 == 1 ? old.scaled(numbers)
+                               : old.shifted(numbers);
+    });
+    desk.model.refreshReplaced();
+}
+
 void cell(Desk& desk, const std::vector<int>& n) {
     desk.app().imageHost().selectPaletteBarCell(n[0]);
 }
@@ -190,6 +234,7 @@ const std::vector<Verb>& imageVerbs() {
                                          {"undo", 20, {3, 2}, undo},
                                          {"cell", 30, {256}, cell},
                                          {"brush", 20, {3, 5}, brush},
+                                         {"resize", 12, {3, 40, 40, 9, 256}, resize},
                                          {"draw-much", 2, {16, 48, 48}, drawMuch},
                                          {"repaint", 2, {}, repaint}};
     return verbs;

@@ -224,7 +224,31 @@ PlainImage PlainImage::shifted(Point by) const {
     PlainImage made = blank(width, height, bits);
     for (std::int32_t y = 0; y < height; ++y) {
         for (std::int32_t x = 0; x < width; ++x)
-            made.put({(x + by.x) % width, (y + by.y) % height}, at({x, y}));
+            made.put(folded({x + by.x, y + by.y}), at({x, y}));
+    }
+    return made;
+}
+
+PlainImage PlainImage::resized(Point size, int anchor, std::uint32_t fill) const {
+    PlainImage made = blank(size.x, size.y, bits);
+    const auto moved = [](std::int32_t room, int part) {
+        return part == 0 ? 0 : part == 2 ? room : (room + 1000) / 2 - 500;
+    };
+    const Point place{moved(size.x - width, anchor % 3), moved(size.y - height, anchor / 3)};
+    for (std::int32_t y = 0; y < made.height; ++y) {
+        for (std::int32_t x = 0; x < made.width; ++x) {
+            const Point old{x - place.x, y - place.y};
+            made.put({x, y}, holds(old) ? at(old) : fill);
+        }
+    }
+    return made;
+}
+
+PlainImage PlainImage::scaled(Point size) const {
+    PlainImage made = blank(size.x, size.y, bits);
+    for (std::int32_t y = 0; y < made.height; ++y) {
+        for (std::int32_t x = 0; x < made.width; ++x)
+            made.put({x, y}, at({(2 * x + 1) * width / (2 * size.x), (2 * y + 1) * height / (2 * size.y)}));
     }
     return made;
 }

@@ -59,6 +59,11 @@ struct PlainImage {
     [[nodiscard]] PlainImage part(Rect area, bool wrap = false) const;
     /// By a quarter, clockwise or the other way.
     [[nodiscard]] PlainImage turned(bool right) const;
+    /// `anchor` counts the nine places where the old image may stay, row by row; half a texel goes to the
+    /// left and to the top.
+    [[nodiscard]] PlainImage resized(Point size, int anchor, std::uint32_t fill) const;
+    /// A texel shows what lies under its middle.
+    [[nodiscard]] PlainImage scaled(Point size) const;
     /// What leaves it on one side comes in at the other.
     [[nodiscard]] PlainImage shifted(Point by) const;
     /// Scales the piece to the area by nearest neighbours. Where one that wraps covers itself, its top left

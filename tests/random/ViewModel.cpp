@@ -76,18 +76,6 @@ void ViewModel::imageReplaced() {
         selection.reset();
 }
 
-/// What floats is placed before.
-template <typename Make>
-void ViewModel::replaceImage(Make make) {
-    settle();
-    PlainImage made = make(document.image());
-    if (made == document.image())
-        return;
-    document.states.keep(std::exchange(document.image(), std::move(made)), 0, true);
-    document.modified = true;
-    imageReplaced();
-}
-
 /// What is selected is turned about its middle, by a quarter as a piece that floats.
 void ViewModel::turn(CommandId id) {
     const bool half = id == ID_IMAGE_TURN_HALF;
@@ -356,6 +344,9 @@ std::optional<bool> ViewModel::enabled(CommandId id) const {
     case ID_EDIT_CUT:
     case ID_IMAGE_CROP:
         return exists();
+    case ID_IMAGE_RESIZE:
+    case ID_IMAGE_SCALE:
+    case ID_IMAGE_SHIFT:
     case ID_IMAGE_TURN_LEFT:
     case ID_IMAGE_TURN_RIGHT:
     case ID_IMAGE_TURN_HALF:

@@ -63,6 +63,17 @@ public:
     void settle();
     /// What floats and is selected goes.
     void drop();
+    /// The image becomes what `make` makes of it; what floats is placed before.
+    template <typename Make>
+    void replaceImage(Make make) {
+        settle();
+        PlainImage made = make(document.image());
+        if (made == document.image())
+            return;
+        document.states.keep(std::exchange(document.image(), std::move(made)), 0, true);
+        document.modified = true;
+        imageReplaced();
+    }
     /// The image has become another: what was selected in it goes, unless it floats.
     void imageReplaced();
 
@@ -94,8 +105,6 @@ private:
     [[nodiscard]] PlainPen pen() const;
     void turn(CommandId id);
     void crop();
-    template <typename Make>
-    void replaceImage(Make make);
 
     ToolModel& shared_;
     Tool atPress_ = Tool::Select;
