@@ -219,7 +219,7 @@ std::size_t DeskModel::unsaved() {
     for (const auto& [key, palette] : palettes)
         questions += palette.hasUnsavedChanges() ? 1 : 0;
     for (const auto& image : images)
-        questions += image->hasUnsavedChanges() ? 1 : 0;
+        questions += image->isFirst() && image->hasUnsavedChanges() ? 1 : 0;
     return questions;
 }
 
@@ -232,7 +232,8 @@ void DeskModel::leave() {
     images.clear();
     palettes.clear();
     project.reset();
-    active = lastActivated = nullptr;
+    active = nullptr;
+    lastActivated = nullptr;
     projectInFront = false;
     currentPalette.clear();
     untitled = 0;
@@ -243,22 +244,36 @@ ViewModel& DeskModel::openImage(const std::string& path) {
         activated(*open);
         return *open;
     }
-    ViewModel& view = *images.emplace_back(std::make_unique<ViewModel>(shared));
+    ViewModel& view =
+        *images.emplace_back(std::make_unique<ViewModel>(shared, std::make_shared<ImageModel>()));
     view.document.states.restart(readImageFile(files.at(path)));
     view.document.path = path;
     view.document.name = fileNameOf(path);
-    view.begin();
-    if (const auto found = remembered.find(path); found != remembered.end()) {
-        view.zoom = found->second.zoom;
-        view.grid = found->second.grid;
+    begin(view);
+    if (const auto found = remembered.find(path); found != remembered.end())
         view.document.attached = found->second.attached;
-    }
     activated(view);
     return view;
 }
 
+void DeskModel::begin(ViewModel& view) {
+    view.begin();
+    if (const auto found = remembered.find(view.document.path); found != remembered.end()) {
+        view.zoom = found->second.zoom;
+        view.grid = found->second.grid;
+    }
+}
+
+void DeskModel::newWindow() {
+    const auto last =
+        std::ranges::find(images, active->document.views.back(), &std::unique_ptr<ViewModel>::get);
+    begin(**images.insert(last + 1, std::make_unique<ViewModel>(shared, active->owned)));
+    activated(*active->document.views.back());
+}
+
 ViewModel& DeskModel::newImage(std::int32_t width, std::int32_t height, int bits) {
-    ViewModel& view = *images.emplace_back(std::make_unique<ViewModel>(shared));
+    ViewModel& view =
+        *images.emplace_back(std::make_unique<ViewModel>(shared, std::make_shared<ImageModel>()));
     view.document.states.restart(PlainImage::blank(width, height, bits));
     view.document.name = "Texture" + std::to_string(++untitled);
     view.begin();
@@ -269,7 +284,7 @@ ViewModel& DeskModel::newImage(std::int32_t width, std::int32_t height, int bits
 void DeskModel::activated(ViewModel& image) {
     active = &image;
     projectInFront = false;
-    if (std::exchange(lastActivated, &image) != &image && paletteOf(image) != nullptr)
+    if (std::exchange(lastActivated, &image.document) != &image.document && paletteOf(image) != nullptr)
         currentPalette = image.document.attached;
 }
 
@@ -277,7 +292,7 @@ bool DeskModel::saveImage(ViewModel& image, bool ask, const std::string& file) {
     image.settle();
     ImageModel& document = image.document;
     const std::string target = ask || document.path.empty() ? file : document.path;
-    if (const ViewModel* const other = imageOf(target); other != nullptr && other != &image) {
+    if (const ViewModel* const other = imageOf(target); other != nullptr && other->owned != image.owned) {
         ++messages;
         return false;
     }
@@ -290,14 +305,17 @@ bool DeskModel::saveImage(ViewModel& image, bool ask, const std::string& file) {
 }
 
 bool DeskModel::closeImage(ViewModel& image, const Answers& answers) {
-    if (image.hasUnsavedChanges()) {
+    const bool last = image.document.views.size() == 1;
+    if (!last)
+        image.close();
+    if (last && image.hasUnsavedChanges()) {
         ++messages;
         if (answers.answer == 2 || (answers.answer == 0 && !saveImage(image, false, answers.file)))
             return false;
     }
     remember(image);
     active = active == &image ? nullptr : active;
-    lastActivated = lastActivated == &image ? nullptr : lastActivated;
+    lastActivated = last && lastActivated == &image.document ? nullptr : lastActivated;
     std::erase_if(images, [&](const auto& open) { return open.get() == &image; });
     return true;
 }
@@ -350,7 +368,7 @@ void DeskModel::undoImage(ViewModel& image, bool back, int answer) {
     const bool tookBack = image.cancel();
     const auto& steps = back ? image.document.states.undone : image.document.states.redone;
     if ((!back || !tookBack) && !steps.empty())
-        move(&image, back, answer);
+        move(image.document.views.front(), back, answer);
 }
 
 void DeskModel::undoPalette(bool back, int answer) {
@@ -364,8 +382,10 @@ void DeskModel::undoPalette(bool back, int answer) {
 /// Goes on until everything that has a part in a joint step on somebody's way goes through it, too.
 void DeskModel::move(const void* first, bool back, int answer) {
     std::vector<Leg> legs;
-    for (const auto& image : images)
-        legs.push_back({image.get(), nullptr});
+    for (const auto& image : images) {
+        if (image->isFirst())
+            legs.push_back({image.get(), nullptr});
+    }
     for (auto& [key, palette] : palettes)
         legs.push_back({nullptr, &palette});
     const auto isFirst = [&](const Leg& leg) { return leg.image == first || leg.palette == first; };
@@ -441,7 +461,7 @@ void DeskModel::moveEntry(std::size_t entry, std::size_t place) {
     palette.move(std::move(table), step);
     ++parts;
     for (const auto& image : images) {
-        if (image->document.attached != currentPalette)
+        if (!image->isFirst() || image->document.attached != currentPalette)
             continue;
         image->settle();
         // Part of the step also with no texel that shows it, because of what is drawn later.

@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QLineEdit>
 
+#include <algorithm>
 #include <array>
 
 namespace dyeworks {
@@ -24,6 +25,15 @@ void openImage(Desk& desk, const std::vector<int>& n) {
     desk.fake.dialogs.answerWith(path);
     desk.run(ID_FILE_OPEN);
     desk.model.openImage(path);
+    // Of its windows the foremost.
+    desk.readActive();
+}
+
+void newWindow(Desk& desk, const std::vector<int>& /*n*/) {
+    if (busy(desk) || desk.model.images.size() >= Desk::kMostImages || desk.model.active == nullptr)
+        return;
+    desk.expectRun(ID_WINDOW_NEW, true);
+    desk.model.newWindow();
 }
 
 void newImage(Desk& desk, const std::vector<int>& n) {
@@ -47,7 +57,7 @@ void activate(Desk& desk, const std::vector<int>& n) {
         return;
     const std::size_t at = static_cast<std::size_t>(n[0]) % desk.model.images.size();
     desk.model.activated(*desk.model.images[at]);
-    desk.frame().activateWindowOf(*desk.app().imageTemplate().documents()[at]);
+    desk.activate(*desk.views()[at]);
 }
 
 void saveImage(Desk& desk, const std::vector<int>& n) {
@@ -67,7 +77,7 @@ void closeImage(Desk& desk, const std::vector<int>& n) {
         return;
     ViewModel& image = *desk.model.active;
     const Answers answers{n[0], Desk::imagePath(n[1])};
-    if (image.hasUnsavedChanges()) {
+    if (image.hasUnsavedChanges() && image.document.views.size() == 1) {
         desk.answerNext(answers.answer);
         if (answers.answer == 0 && image.document.path.empty())
             desk.fake.dialogs.answerWith(answers.file);
@@ -111,7 +121,8 @@ void failToSave(Desk& desk, const std::vector<int>& n) {
 /// What was open is open again, as the files hold it. In which order its windows stand is theirs to say.
 void leaveAndStart(Desk& desk, const std::vector<int>& /*n*/) {
     DeskModel& model = desk.model;
-    if (busy(desk))
+    // Of several windows of an image, which one is remembered depends on the order in which they close.
+    if (busy(desk) || std::ranges::any_of(model.images, [](const auto& image) { return !image->isFirst(); }))
         return;
     std::vector<std::string> palettes;
     for (const auto& [key, palette] : model.palettes) {
@@ -143,7 +154,8 @@ void leaveAndStart(Desk& desk, const std::vector<int>& /*n*/) {
     if (!project.empty())
         model.project.emplace().read(project, model.files.at(project));
     const ImageHost& host = desk.app().imageHost();
-    model.lastActivated = const_cast<ViewModel*>(desk.modelOf(host.lastActivatedImage()));
+    const ViewModel* const last = desk.modelOf(host.lastActivatedImage());
+    model.lastActivated = last == nullptr ? nullptr : &last->document;
     if (model.palettes.contains(desk.app().paletteSet()->currentKey))
         model.currentPalette = desk.app().paletteSet()->currentKey;
     desk.readActive();
@@ -160,6 +172,7 @@ void attach(Desk& desk, const std::vector<int>& /*n*/) {
 
 const std::vector<Verb>& fileVerbs() {
     static const std::vector<Verb> verbs{{"open", 25, {Desk::kImages}, openImage},
+                                         {"new-window", 12, {}, newWindow},
                                          {"new", 6, {30, 30, 2}, newImage},
                                          {"activate", 15, {4}, activate},
                                          {"save", 14, {3, Desk::kImages}, saveImage},

@@ -66,14 +66,23 @@ void ViewModel::commit() {
 }
 
 void ViewModel::drop() {
-    piece.reset();
-    selection.reset();
+    for (ViewModel* const view : document.views) {
+        view->piece.reset();
+        view->selection.reset();
+    }
 }
 
 void ViewModel::imageReplaced() {
     replaced = true;
-    if (!piece)
-        selection.reset();
+    for (ViewModel* const view : document.views) {
+        if (!view->piece)
+            view->selection.reset();
+    }
+}
+
+bool ViewModel::hasUnsavedChanges() const {
+    return document.differsFromFile() ||
+           std::ranges::any_of(document.views, [](const ViewModel* view) { return view->piece.has_value(); });
 }
 
 /// What is selected is turned about its middle, by a quarter as a piece that floats.
@@ -109,8 +118,8 @@ void ViewModel::crop() {
 
 void ViewModel::settle() {
     cancel();
-    if (piece)
-        commit();
+    for (ViewModel* const view : document.views)
+        view->close();
 }
 
 void ViewModel::letFloat(PlainImage newPiece) {
@@ -271,6 +280,13 @@ void ViewModel::release(const Pointer& event) {
 }
 
 bool ViewModel::cancel() {
+    bool changed = false;
+    for (ViewModel* const view : document.views)
+        changed = view->cancelOwn() || changed;
+    return changed;
+}
+
+bool ViewModel::cancelOwn() {
     if (!dragging_)
         return false;
     const bool open = opensEdit();
