@@ -2,12 +2,14 @@
 #include "ui/CMainFrame.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 
+#include <algorithm>
 #include <array>
 
 namespace dyeworks {
@@ -213,6 +215,55 @@ void resize(Desk& desk, const std::vector<int>& n) {
     desk.model.refreshReplaced();
 }
 
+/// To 8 bits, or to 4. Where texels lie outside the bank there is a question, of which a yes can be foretold
+/// only where the palette gives all colours.
+void depth(Desk& desk, const std::vector<int>& n) {
+    if (desk.model.active == nullptr)
+        return;
+    ViewModel& image = *desk.model.active;
+    const PaletteModel* const palette = desk.model.paletteOf(image);
+    const bool whole = palette != nullptr && palette->table().entries.size() == 256;
+    image.cancel();
+    const PlainImage seen = image.seen();
+    if (seen.bits == 4) {
+        const int value = desk.view()->view().document().paletteValue();
+        desk.run(ID_IMAGE_TO_8_BITS);
+        const int first = whole && value >= 0 && value < 256 ? value / 16 * 16 : 0;
+        image.replaceImage(
+            [&](const PlainImage& old) { return old.inDepth(8, [&](int texel) { return texel + first; }); });
+        return desk.model.refreshReplaced();
+    }
+    const auto inBank = [&](std::size_t bank) {
+        return std::ranges::count_if(seen.texels, [&](unsigned texel) { return texel / 16 == bank; });
+    };
+    const std::size_t banks = palette == nullptr ? 16 : palette->table().entries.size() / 16;
+    std::size_t bank = 0;
+    for (std::size_t other = 1; other < banks; ++other)
+        bank = inBank(other) > inBank(bank) ? other : bank;
+    const bool asks = inBank(bank) < std::ssize(seen.texels);
+    const bool agrees = whole && n[0] > 0;
+    if (asks && agrees && n[0] > 1)
+        bank = static_cast<std::size_t>(n[1]);
+    if (asks) {
+        desk.withNextDialog([&](QDialog& sheet) {
+            if (agrees)
+                sheet.findChild<QComboBox*>(QStringLiteral("IDC_REDUCE_BANK"))
+                    ->setCurrentIndex(static_cast<int>(bank));
+            sheet.findChild<QAbstractButton*>(agrees ? QStringLiteral("IDOK") : QStringLiteral("IDCANCEL"))
+                ->click();
+        });
+    }
+    desk.run(ID_IMAGE_TO_4_BITS);
+    if (asks && !agrees)
+        return;
+    image.replaceImage([&](const PlainImage& old) {
+        return old.inDepth(4, [&](std::size_t texel) {
+            return asks ? palette->table().nearestInBank(texel, bank) : texel % 16;
+        });
+    });
+    desk.model.refreshReplaced();
+}
+
 void cell(Desk& desk, const std::vector<int>& n) {
     desk.app().imageHost().selectPaletteBarCell(n[0]);
 }
@@ -235,6 +286,7 @@ const std::vector<Verb>& imageVerbs() {
                                          {"cell", 30, {256}, cell},
                                          {"brush", 20, {3, 5}, brush},
                                          {"resize", 12, {3, 40, 40, 9, 256}, resize},
+                                         {"depth", 12, {3, 16}, depth},
                                          {"draw-much", 2, {16, 48, 48}, drawMuch},
                                          {"repaint", 2, {}, repaint}};
     return verbs;

@@ -64,6 +64,14 @@ struct PlainImage {
     [[nodiscard]] PlainImage resized(Point size, int anchor, std::uint32_t fill) const;
     /// A texel shows what lies under its middle.
     [[nodiscard]] PlainImage scaled(Point size) const;
+    /// Of another depth, with another value for each.
+    template <typename ValueOf>
+    [[nodiscard]] PlainImage inDepth(std::int32_t newBits, ValueOf valueOf) const {
+        PlainImage made{width, height, newBits, {}};
+        for (const std::uint8_t value : texels)
+            made.texels.push_back(static_cast<std::uint8_t>(valueOf(value)));
+        return made;
+    }
     /// What leaves it on one side comes in at the other.
     [[nodiscard]] PlainImage shifted(Point by) const;
     /// Scales the piece to the area by nearest neighbours. Where one that wraps covers itself, its top left

@@ -58,6 +58,13 @@ PlainPen ViewModel::pen() const {
     return pen;
 }
 
+PlainImage ViewModel::seen() const {
+    PlainImage all = document.image();
+    if (piece)
+        all.paste(*piece, selection.value_or(Rect{}), shared_.pen.wrap);
+    return all;
+}
+
 void ViewModel::commit() {
     if (const std::optional<PlainImage> placed = std::exchange(piece, std::nullopt))
         document.edit(
@@ -77,6 +84,7 @@ void ViewModel::imageReplaced() {
     for (ViewModel* const view : document.views) {
         if (!view->piece)
             view->selection.reset();
+        view->value &= document.image().mask();
     }
 }
 
@@ -351,6 +359,9 @@ std::optional<bool> ViewModel::enabled(CommandId id) const {
         return canUndo();
     case ID_EDIT_REDO:
         return !document.states.redone.empty();
+    case ID_IMAGE_TO_4_BITS:
+    case ID_IMAGE_TO_8_BITS:
+        return document.image().bits == (id == ID_IMAGE_TO_4_BITS ? 8 : 4);
     case ID_EDIT_SELECT_ALL:
         return keepsSelection(atPress_);
     case ID_CANCEL_SELECTION:

@@ -53,6 +53,8 @@ public:
     bool spuit = false;
     bool replaced = false; ///< The image has been: its palette is to be looked for again.
 
+    /// The image with what floats in this view.
+    [[nodiscard]] PlainImage seen() const;
     /// For an image that has just been opened or made.
     void begin();
     void press(const Pointer& event);
