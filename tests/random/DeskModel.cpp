@@ -329,6 +329,8 @@ void DeskModel::revert(ViewModel& image, int answer) {
     }
     image.drop();
     image.document.states.restart(readImageFile(files.at(image.document.path)));
+    for (ViewModel* const view : image.document.views)
+        view->value &= image.document.image().mask();
     image.document.modified = false;
     if (paletteOf(image) == nullptr)
         image.document.attached.clear();
