@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 
 namespace dyeworks {
 
@@ -121,8 +122,7 @@ void failToSave(Desk& desk, const std::vector<int>& n) {
 /// What was open is open again, as the files hold it. In which order its windows stand is theirs to say.
 void leaveAndStart(Desk& desk, const std::vector<int>& /*n*/) {
     DeskModel& model = desk.model;
-    // Of several windows of an image, which one is remembered depends on the order in which they close.
-    if (busy(desk) || std::ranges::any_of(model.images, [](const auto& image) { return !image->isFirst(); }))
+    if (busy(desk))
         return;
     std::vector<std::string> palettes;
     for (const auto& [key, palette] : model.palettes) {
@@ -130,8 +130,11 @@ void leaveAndStart(Desk& desk, const std::vector<int>& /*n*/) {
             palettes.push_back(key);
     }
     std::vector<std::string> images;
+    std::set<std::string> inWindows;
     for (const auto& image : model.images) {
-        if (!image->document.path.empty())
+        if (!image->isFirst())
+            inWindows.insert(image->document.path);
+        if (!image->document.path.empty() && image->isFirst())
             images.push_back(image->document.path);
     }
     const std::string project = model.project ? model.project->path : "";
@@ -146,8 +149,15 @@ void leaveAndStart(Desk& desk, const std::vector<int>& /*n*/) {
     for (const std::string& key : palettes)
         model.openPalette(key);
     for (const CDocument* const document : desk.app().imageTemplate().documents()) {
-        if (std::erase(images, document->pathName()) == 1)
-            model.openImage(document->pathName());
+        if (std::erase(images, document->pathName()) == 0)
+            continue;
+        // Of several windows the one that closed last is remembered, which is theirs to say, too.
+        if (inWindows.contains(document->pathName())) {
+            const auto& shown = dynamic_cast<const CDyeworksView&>(*document->views().front());
+            model.remembered.at(document->pathName()).zoom = shown.zoom();
+            model.remembered.at(document->pathName()).grid = shown.gridShown();
+        }
+        model.openImage(document->pathName());
     }
     if (!images.empty())
         desk.wonder("an image does not come back");
