@@ -395,28 +395,37 @@ void DeskModel::move(const void* first, bool back, int answer) {
     own.steps = 1;
     const long step = own.jointAt(1, back);
     bool gone = false;
-    for (bool farther = true; farther;) {
-        farther = false;
-        for (const Leg& leg : legs) {
-            for (std::size_t n = 1; n <= leg.steps; ++n) {
-                const long passed = leg.jointAt(n, back);
-                std::size_t parts = 0;
-                for (Leg& other : legs) {
-                    const std::size_t way = passed == 0 ? 0 : other.wayThrough(passed, back);
-                    parts += way > 0 ? 1 : 0;
-                    farther = farther || way > other.steps;
-                    other.steps = std::max(other.steps, way);
+    const auto reach = [&] {
+        for (bool farther = true; farther;) {
+            farther = false;
+            for (const Leg& leg : legs) {
+                for (std::size_t n = 1; n <= leg.steps; ++n) {
+                    const long passed = leg.jointAt(n, back);
+                    std::size_t parts = 0;
+                    for (Leg& other : legs) {
+                        const std::size_t way = passed == 0 ? 0 : other.wayThrough(passed, back);
+                        parts += way > 0 ? 1 : 0;
+                        farther = farther || way > other.steps;
+                        other.steps = std::max(other.steps, way);
+                    }
+                    gone = gone || (passed != 0 && parts < joint.at(passed));
                 }
-                gone = gone || (passed != 0 && parts < joint.at(passed));
             }
         }
+    };
+    reach();
+    // What is dragged there is no step, whatever it has drawn so far.
+    for (Leg& leg : legs) {
+        if (step != 0 && leg.image != nullptr && leg.steps > 0)
+            leg.image->cancel();
+        leg.steps = &leg == &own ? 1 : 0;
     }
+    gone = false;
+    reach();
     bool others = false;
     for (const Leg& leg : legs) {
         const std::size_t way = step == 0 ? leg.steps : leg.wayThrough(step, back);
         others = others || (step != 0 && leg.steps > (way > 0 ? 1U : 0U));
-        if (step != 0 && leg.image != nullptr && leg.steps > 0)
-            leg.image->cancel();
     }
     if (gone || others) {
         ++messages;
