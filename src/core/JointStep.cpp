@@ -230,6 +230,8 @@ bool JointStep::move(JointDocument& document, StepWay way) {
     Walk walk(document, way);
     for (JointDocument* other : walk.documents())
         other->settle();
+    // What was dragged there may have been a step, which is none any more.
+    walk = Walk(document, way);
     const std::weak_ptr<JointDocument*> self = document.handle();
 
     const std::vector<std::string> others = walk.others();

@@ -174,7 +174,8 @@ void CDyeworksDoc::Revert() {
     historyMoved_ = false;
     setModified(false);
     host_.imageChanged(*this, Rect{0, 0, canvas_.width() - 1, canvas_.height() - 1});
-    RefreshPalette();
+    // Of another depth it has lost its colours, also those of a palette that is not the current one.
+    RefreshOwnPalette();
 }
 
 bool CDyeworksDoc::reloadFile() {

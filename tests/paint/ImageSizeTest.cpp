@@ -6,7 +6,6 @@
 #include "platform/StringId.h"
 
 #include <cstdlib>
-#include <numeric>
 
 namespace dyeworks {
 namespace {
@@ -73,11 +72,8 @@ protected:
         const int x = random.between(-2, w + 1);
         const int y = random.between(-2, h + 1);
         const auto value = random.bits() & (old.bits == 4 ? 15U : 255U);
-        const int x2 = random.between(0, w - 1);
-        const int y2 = random.between(0, h - 1);
-        const auto become = [&](auto texel) { model.become(Plain::of(w, h, old.bits, texel)); };
-        switch (random.between(0, 19)) {
-        case 19: {
+        switch (random.between(0, 12)) {
+        case 5: {
             const auto row =
                 static_cast<std::size_t>(random.between(0, static_cast<int>(model.states.size()) - 1));
             EXPECT_TRUE(document.GoTo(stepsOf(document.edits()).at(row).position));
@@ -111,82 +107,6 @@ protected:
                 return i >= x && j >= std::min(y, h / 2) && j <= std::max(y, h / 2) ? value : old.at(i, j);
             }));
             break;
-        case 5:
-            document.Edit(&view, [&](TextureCanvas& canvas) { canvas.Flip(x2, y2, w - 1, 0, 1); });
-            become(
-                [&](int i, int j) { return i >= x2 && j <= y2 ? old.at(w - 1 + x2 - i, j) : old.at(i, j); });
-            break;
-        case 13: {
-            document.Edit(&view, [&](TextureCanvas& canvas) { canvas.DrawLine(x, y, x2, y2, value); });
-            const bool wide = std::abs(x2 - x) >= std::abs(y2 - y);
-            const int n = std::max(std::abs(x2 - x), std::abs(y2 - y));
-            const int rise = std::min(std::abs(x2 - x), std::abs(y2 - y));
-            become([&](int i, int j) {
-                const int right = x < x2 ? i - x : x - i;
-                const int down = y < y2 ? j - y : y - j;
-                const int along = wide ? right : down;
-                const int across = (n / 2 + along * rise) / std::max(n, 1);
-                return along >= 0 && along <= n && (wide ? down : right) == across ? value : old.at(i, j);
-            });
-            break;
-        }
-        case 14:
-            document.Edit(&view, [&](TextureCanvas& canvas) {
-                canvas.ReplaceColor({x2, y2, w - 1, h - 1}, x, y, value);
-            });
-            become([&](int i, int j) {
-                return old.has(x, y) && x >= x2 && y >= y2 && i >= x2 && j >= y2 &&
-                               old.at(i, j) == old.at(x, y)
-                           ? value
-                           : old.at(i, j);
-            });
-            break;
-        case 15: {
-            document.Edit(&view, [&](TextureCanvas& canvas) { canvas.FloodFill(x2, y2, value); });
-            Plain filled = Plain::of(w, h, 1, [&](int i, int j) { return i == x2 && j == y2 ? 1U : 0U; });
-            const auto reached = [&](int i, int j) { return filled.has(i, j) && filled.at(i, j) == 1; };
-            for (Plain before; before.rows != filled.rows;) {
-                before = filled;
-                filled = Plain::of(w, h, 1, [&](int i, int j) {
-                    const bool is = reached(i, j) || reached(i - 1, j) || reached(i + 1, j) ||
-                                    reached(i, j - 1) || reached(i, j + 1);
-                    return is && old.at(i, j) == old.at(x2, y2) ? 1U : 0U;
-                });
-            }
-            become([&](int i, int j) { return reached(i, j) ? value : old.at(i, j); });
-            break;
-        }
-        case 16:
-            document.Edit(&view, [&](TextureCanvas& canvas) { canvas.DrawBox(x, y, x2, y2, value); });
-            become([&](int i, int j) {
-                const bool inside = std::min(x, x2) <= i && i <= std::max(x, x2) && std::min(y, y2) <= j &&
-                                    j <= std::max(y, y2);
-                return inside && (i == x || i == x2 || j == y || j == y2) ? value : old.at(i, j);
-            });
-            break;
-        case 17: {
-            const bool filled = random.once(2);
-            document.Edit(&view, [&](TextureCanvas& canvas) {
-                filled ? canvas.FillEllipse(x, y, x2, y2, value) : canvas.DrawEllipse(x, y, x2, y2, value);
-            });
-            model.become(withEllipse(old, {x, y, x2, y2}, filled, value));
-            break;
-        }
-        case 18: {
-            const auto piece = document.canvas().CopyRect(0, 0, w / 2, h / 2);
-            document.Edit(&view, [&](TextureCanvas& canvas) {
-                return canvas.StretchPaste(*piece, x, y, x2 + 1, y2 + 1);
-            });
-            const auto from = [](int part, int to, int size) {
-                return static_cast<int>(part * (static_cast<double>(size) / to));
-            };
-            become([&](int i, int j) {
-                const bool inside = i >= x && j >= y && i <= x2 && j <= y2;
-                return inside ? old.at(from(i - x, x2 + 1 - x, w / 2 + 1), from(j - y, y2 + 1 - y, h / 2 + 1))
-                              : old.at(i, j);
-            });
-            break;
-        }
         case 6:
         case 7: {
             const Size size{random.between(1, 20), random.between(1, 20)};
@@ -243,50 +163,6 @@ protected:
             }));
         }
         }
-    }
-
-    /// Steps along each of the two regions of the inscribed ellipse, on all four sides at once.
-    static Plain withEllipse(Plain plain, const Rect& corners, bool filled, std::uint32_t value) {
-        const Rect box = corners.normalised();
-        const double a = (box.right - box.left) / 2.0;
-        const double b = (box.bottom - box.top) / 2.0;
-        const auto row = [&](double left, double right, double at) {
-            const int first = static_cast<int>(left);
-            const int last = static_cast<int>(right);
-            for (int i = first; i <= last; ++i) {
-                if ((filled || i == first || i == last) && plain.has(i, static_cast<int>(at)))
-                    plain.rows[static_cast<std::size_t>(at)][static_cast<std::size_t>(i)] = value;
-            }
-        };
-        const auto both = [&](double u, double up, double down) {
-            row(box.left + a - u, box.left + a + 0.5 + u, box.top + b + up);
-            row(box.left + a - u, box.left + a + 0.5 + u, box.top + b + down);
-        };
-        if (a == 0 || b == 0)
-            return plain;
-        double in = a;
-        double d = -b;
-        for (double w = 0; d <= 0 || w == 0;) {
-            both(in, 0.5 + w, -w);
-            w += 1;
-            d += 2 * w * a / b;
-            if (d >= 0) {
-                in -= 1;
-                d -= 2 * in * b / a;
-            }
-        }
-        in = b;
-        d = -a;
-        for (double u = 0; d <= 0 || u == 0;) {
-            both(u, in, 0.5 - in);
-            u += 1;
-            d += 2 * u * b / a;
-            if (d >= 0) {
-                in -= 1;
-                d -= 2 * in * a / b;
-            }
-        }
-        return plain;
     }
 
     void replace(const CDyeworksDoc::CanvasMaker& make) { EXPECT_TRUE(document.ReplaceImage(make)); }

@@ -1,6 +1,8 @@
 #include "Desk.h"
 
 #include "core/PaletteSet.h"
+#include "framework/widgets/ChildFrame.h"
+#include "paint/DrawingOptions.h"
 #include "project/CTPFDocument.h"
 #include "ui/CMainFrame.h"
 #include "ui/CommandLine.h"
@@ -238,12 +240,30 @@ void Desk::readBar() {
     model.shared.cells = palette == nullptr ? 0 : static_cast<int>(palette->table().entries.size());
 }
 
+std::vector<CDyeworksView*> Desk::views() {
+    std::vector<CDyeworksView*> all;
+    for (const CDocument* const document : app().imageTemplate().documents()) {
+        for (DocumentView* const view : document->views())
+            all.push_back(dynamic_cast<CDyeworksView*>(view));
+    }
+    return all;
+}
+
+void Desk::activate(const CDyeworksView& wanted) {
+    for (ChildFrame* const child : frame().childFrames()) {
+        if (auto* const image = qobject_cast<ImageView*>(child->widget());
+            image != nullptr && &image->view() == &wanted)
+            frame().activateChild(*child);
+    }
+}
+
 const ViewModel* Desk::modelOf(const CDyeworksDoc* document) {
-    const auto documents = app().imageTemplate().documents();
-    const auto at = std::ranges::find(documents, static_cast<const CDocument*>(document)) - documents.begin();
-    return static_cast<std::size_t>(at) < model.images.size()
-               ? model.images[static_cast<std::size_t>(at)].get()
-               : nullptr;
+    const auto open = views();
+    for (std::size_t i = 0; i < std::min(open.size(), model.images.size()); ++i) {
+        if (&open[i]->document() == document)
+            return model.images[i].get();
+    }
+    return nullptr;
 }
 
 void Desk::readActive() {
@@ -253,10 +273,8 @@ void Desk::readActive() {
         model.projectInFront = frame().activeChild() != nullptr;
         return;
     }
-    const CDyeworksDoc& document = shown->view().document();
-    const auto documents = app().imageTemplate().documents();
-    const auto at =
-        std::ranges::find(documents, static_cast<const CDocument*>(&document)) - documents.begin();
+    const auto open = views();
+    const auto at = std::ranges::find(open, &shown->view()) - open.begin();
     if (static_cast<std::size_t>(at) < model.images.size())
         model.activated(*model.images[static_cast<std::size_t>(at)]);
 }
@@ -284,11 +302,14 @@ std::string Desk::differences(bool all) {
     found.compare("answers left", fake.messages.unusedAnswers() + fake.dialogs.unusedAnswers(),
                   std::size_t{0});
     found.compare("tool", static_cast<int>(currentTool()), static_cast<int>(model.shared.tool));
+    const PlainPen& pen = model.shared.pen;
+    if (drawingOptions() != DrawingOptions{{pen.size, pen.round}, pen.across, pen.down, pen.wrap})
+        found.tell("drawing options differ\n");
 
-    const std::vector<CDocument*> documents = app().imageTemplate().documents();
-    found.compare("open images", documents.size(), model.images.size());
-    for (std::size_t i = 0; i < std::min(documents.size(), model.images.size()); ++i) {
-        auto& document = static_cast<CDyeworksDoc&>(*documents[i]);
+    const std::vector<CDyeworksView*> open = views();
+    found.compare("windows of images", open.size(), model.images.size());
+    for (std::size_t i = 0; i < std::min(open.size(), model.images.size()); ++i) {
+        CDyeworksDoc& document = open[i]->document();
         ViewModel& image = *model.images[i];
         const std::string name = "image " + std::to_string(i);
         found.compare(name + " path", document.pathName(), image.document.path);
@@ -298,10 +319,9 @@ std::string Desk::differences(bool all) {
         found.compareImage(name, plain(document.canvas()), image.document.image());
         compareHistory(found, name, document.edits(), image.document.states.undone.size(),
                        image.document.states.redone.size());
-        if (auto* const view = dynamic_cast<CDyeworksView*>(document.views().front()))
-            compareView(found, name, *view, image);
+        compareView(found, name, *open[i], image);
         compareColours(found, name, document.canvas(), model.paletteOf(image));
-        found.compare(name + " is active", view() != nullptr && &view()->view().document() == &document,
+        found.compare(name + " is active", view() != nullptr && &view()->view() == open[i],
                       model.active == &image);
     }
 

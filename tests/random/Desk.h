@@ -41,6 +41,9 @@ public:
     [[nodiscard]] CMainFrame& frame() { return app_->mainFrame(); }
     /// Null when no image is open.
     [[nodiscard]] ImageView* view();
+    /// All of images, as the model counts them.
+    [[nodiscard]] std::vector<CDyeworksView*> views();
+    void activate(const CDyeworksView& wanted);
     /// The state of the command is expected to be that of the model, and it is run.
     bool run(CommandId id);
     /// The same where the model has gone ahead.

@@ -219,7 +219,7 @@ std::size_t DeskModel::unsaved() {
     for (const auto& [key, palette] : palettes)
         questions += palette.hasUnsavedChanges() ? 1 : 0;
     for (const auto& image : images)
-        questions += image->hasUnsavedChanges() ? 1 : 0;
+        questions += image->isFirst() && image->hasUnsavedChanges() ? 1 : 0;
     return questions;
 }
 
@@ -232,7 +232,8 @@ void DeskModel::leave() {
     images.clear();
     palettes.clear();
     project.reset();
-    active = lastActivated = nullptr;
+    active = nullptr;
+    lastActivated = nullptr;
     projectInFront = false;
     currentPalette.clear();
     untitled = 0;
@@ -243,22 +244,36 @@ ViewModel& DeskModel::openImage(const std::string& path) {
         activated(*open);
         return *open;
     }
-    ViewModel& view = *images.emplace_back(std::make_unique<ViewModel>(shared));
+    ViewModel& view =
+        *images.emplace_back(std::make_unique<ViewModel>(shared, std::make_shared<ImageModel>()));
     view.document.states.restart(readImageFile(files.at(path)));
     view.document.path = path;
     view.document.name = fileNameOf(path);
-    view.begin();
-    if (const auto found = remembered.find(path); found != remembered.end()) {
-        view.zoom = found->second.zoom;
-        view.grid = found->second.grid;
+    begin(view);
+    if (const auto found = remembered.find(path); found != remembered.end())
         view.document.attached = found->second.attached;
-    }
     activated(view);
     return view;
 }
 
+void DeskModel::begin(ViewModel& view) {
+    view.begin();
+    if (const auto found = remembered.find(view.document.path); found != remembered.end()) {
+        view.zoom = found->second.zoom;
+        view.grid = found->second.grid;
+    }
+}
+
+void DeskModel::newWindow() {
+    const auto last =
+        std::ranges::find(images, active->document.views.back(), &std::unique_ptr<ViewModel>::get);
+    begin(**images.insert(last + 1, std::make_unique<ViewModel>(shared, active->owned)));
+    activated(*active->document.views.back());
+}
+
 ViewModel& DeskModel::newImage(std::int32_t width, std::int32_t height, int bits) {
-    ViewModel& view = *images.emplace_back(std::make_unique<ViewModel>(shared));
+    ViewModel& view =
+        *images.emplace_back(std::make_unique<ViewModel>(shared, std::make_shared<ImageModel>()));
     view.document.states.restart(PlainImage::blank(width, height, bits));
     view.document.name = "Texture" + std::to_string(++untitled);
     view.begin();
@@ -269,7 +284,7 @@ ViewModel& DeskModel::newImage(std::int32_t width, std::int32_t height, int bits
 void DeskModel::activated(ViewModel& image) {
     active = &image;
     projectInFront = false;
-    if (std::exchange(lastActivated, &image) != &image && paletteOf(image) != nullptr)
+    if (std::exchange(lastActivated, &image.document) != &image.document && paletteOf(image) != nullptr)
         currentPalette = image.document.attached;
 }
 
@@ -277,7 +292,7 @@ bool DeskModel::saveImage(ViewModel& image, bool ask, const std::string& file) {
     image.settle();
     ImageModel& document = image.document;
     const std::string target = ask || document.path.empty() ? file : document.path;
-    if (const ViewModel* const other = imageOf(target); other != nullptr && other != &image) {
+    if (const ViewModel* const other = imageOf(target); other != nullptr && other->owned != image.owned) {
         ++messages;
         return false;
     }
@@ -290,14 +305,17 @@ bool DeskModel::saveImage(ViewModel& image, bool ask, const std::string& file) {
 }
 
 bool DeskModel::closeImage(ViewModel& image, const Answers& answers) {
-    if (image.hasUnsavedChanges()) {
+    const bool last = image.document.views.size() == 1;
+    if (!last)
+        image.close();
+    if (last && image.hasUnsavedChanges()) {
         ++messages;
         if (answers.answer == 2 || (answers.answer == 0 && !saveImage(image, false, answers.file)))
             return false;
     }
     remember(image);
     active = active == &image ? nullptr : active;
-    lastActivated = lastActivated == &image ? nullptr : lastActivated;
+    lastActivated = last && lastActivated == &image.document ? nullptr : lastActivated;
     std::erase_if(images, [&](const auto& open) { return open.get() == &image; });
     return true;
 }
@@ -311,6 +329,8 @@ void DeskModel::revert(ViewModel& image, int answer) {
     }
     image.drop();
     image.document.states.restart(readImageFile(files.at(image.document.path)));
+    for (ViewModel* const view : image.document.views)
+        view->value &= image.document.image().mask();
     image.document.modified = false;
     if (paletteOf(image) == nullptr)
         image.document.attached.clear();
@@ -350,7 +370,7 @@ void DeskModel::undoImage(ViewModel& image, bool back, int answer) {
     const bool tookBack = image.cancel();
     const auto& steps = back ? image.document.states.undone : image.document.states.redone;
     if ((!back || !tookBack) && !steps.empty())
-        move(&image, back, answer);
+        move(image.document.views.front(), back, answer);
 }
 
 void DeskModel::undoPalette(bool back, int answer) {
@@ -364,8 +384,10 @@ void DeskModel::undoPalette(bool back, int answer) {
 /// Goes on until everything that has a part in a joint step on somebody's way goes through it, too.
 void DeskModel::move(const void* first, bool back, int answer) {
     std::vector<Leg> legs;
-    for (const auto& image : images)
-        legs.push_back({image.get(), nullptr});
+    for (const auto& image : images) {
+        if (image->isFirst())
+            legs.push_back({image.get(), nullptr});
+    }
     for (auto& [key, palette] : palettes)
         legs.push_back({nullptr, &palette});
     const auto isFirst = [&](const Leg& leg) { return leg.image == first || leg.palette == first; };
@@ -373,28 +395,37 @@ void DeskModel::move(const void* first, bool back, int answer) {
     own.steps = 1;
     const long step = own.jointAt(1, back);
     bool gone = false;
-    for (bool farther = true; farther;) {
-        farther = false;
-        for (const Leg& leg : legs) {
-            for (std::size_t n = 1; n <= leg.steps; ++n) {
-                const long passed = leg.jointAt(n, back);
-                std::size_t parts = 0;
-                for (Leg& other : legs) {
-                    const std::size_t way = passed == 0 ? 0 : other.wayThrough(passed, back);
-                    parts += way > 0 ? 1 : 0;
-                    farther = farther || way > other.steps;
-                    other.steps = std::max(other.steps, way);
+    const auto reach = [&] {
+        for (bool farther = true; farther;) {
+            farther = false;
+            for (const Leg& leg : legs) {
+                for (std::size_t n = 1; n <= leg.steps; ++n) {
+                    const long passed = leg.jointAt(n, back);
+                    std::size_t parts = 0;
+                    for (Leg& other : legs) {
+                        const std::size_t way = passed == 0 ? 0 : other.wayThrough(passed, back);
+                        parts += way > 0 ? 1 : 0;
+                        farther = farther || way > other.steps;
+                        other.steps = std::max(other.steps, way);
+                    }
+                    gone = gone || (passed != 0 && parts < joint.at(passed));
                 }
-                gone = gone || (passed != 0 && parts < joint.at(passed));
             }
         }
+    };
+    reach();
+    // What is dragged there is no step, whatever it has drawn so far.
+    for (Leg& leg : legs) {
+        if (step != 0 && leg.image != nullptr && leg.steps > 0)
+            leg.image->cancel();
+        leg.steps = &leg == &own ? 1 : 0;
     }
+    gone = false;
+    reach();
     bool others = false;
     for (const Leg& leg : legs) {
         const std::size_t way = step == 0 ? leg.steps : leg.wayThrough(step, back);
         others = others || (step != 0 && leg.steps > (way > 0 ? 1U : 0U));
-        if (step != 0 && leg.image != nullptr && leg.steps > 0)
-            leg.image->cancel();
     }
     if (gone || others) {
         ++messages;
@@ -441,7 +472,7 @@ void DeskModel::moveEntry(std::size_t entry, std::size_t place) {
     palette.move(std::move(table), step);
     ++parts;
     for (const auto& image : images) {
-        if (image->document.attached != currentPalette)
+        if (!image->isFirst() || image->document.attached != currentPalette)
             continue;
         image->settle();
         // Part of the step also with no texel that shows it, because of what is drawn later.

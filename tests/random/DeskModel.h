@@ -55,9 +55,10 @@ struct DeskModel {
     };
 
     ToolModel shared;
-    std::vector<std::unique_ptr<ViewModel>> images; ///< In the order in which they came.
+    std::vector<std::unique_ptr<ViewModel>>
+        images; ///< Their windows; images stand in the order in which they came.
     ViewModel* active = nullptr;
-    ViewModel* lastActivated = nullptr;
+    const ImageModel* lastActivated = nullptr;
     std::map<std::string, PaletteModel> palettes;
     std::string currentPalette;
     std::optional<ProjectModel> project;
@@ -93,6 +94,8 @@ struct DeskModel {
 
     ViewModel& openImage(const std::string& path);
     ViewModel& newImage(std::int32_t width, std::int32_t height, int bits);
+    /// Another window of the active image.
+    void newWindow();
     void activated(ViewModel& image);
     bool saveImage(ViewModel& image, bool ask, const std::string& file);
     /// False when it stays open.
@@ -111,6 +114,7 @@ struct DeskModel {
     void moveEntry(std::size_t entry, std::size_t place);
 
 private:
+    void begin(ViewModel& view);
     void remember(const ViewModel& image);
     /// What has a history, and how far it has to go.
     struct Leg {

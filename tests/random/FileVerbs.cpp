@@ -6,7 +6,9 @@
 #include <QDialog>
 #include <QLineEdit>
 
+#include <algorithm>
 #include <array>
+#include <set>
 
 namespace dyeworks {
 
@@ -24,6 +26,15 @@ void openImage(Desk& desk, const std::vector<int>& n) {
     desk.fake.dialogs.answerWith(path);
     desk.run(ID_FILE_OPEN);
     desk.model.openImage(path);
+    // Of its windows the foremost.
+    desk.readActive();
+}
+
+void newWindow(Desk& desk, const std::vector<int>& /*n*/) {
+    if (busy(desk) || desk.model.images.size() >= Desk::kMostImages || desk.model.active == nullptr)
+        return;
+    desk.expectRun(ID_WINDOW_NEW, true);
+    desk.model.newWindow();
 }
 
 void newImage(Desk& desk, const std::vector<int>& n) {
@@ -47,7 +58,7 @@ void activate(Desk& desk, const std::vector<int>& n) {
         return;
     const std::size_t at = static_cast<std::size_t>(n[0]) % desk.model.images.size();
     desk.model.activated(*desk.model.images[at]);
-    desk.frame().activateWindowOf(*desk.app().imageTemplate().documents()[at]);
+    desk.activate(*desk.views()[at]);
 }
 
 void saveImage(Desk& desk, const std::vector<int>& n) {
@@ -67,7 +78,7 @@ void closeImage(Desk& desk, const std::vector<int>& n) {
         return;
     ViewModel& image = *desk.model.active;
     const Answers answers{n[0], Desk::imagePath(n[1])};
-    if (image.hasUnsavedChanges()) {
+    if (image.hasUnsavedChanges() && image.document.views.size() == 1) {
         desk.answerNext(answers.answer);
         if (answers.answer == 0 && image.document.path.empty())
             desk.fake.dialogs.answerWith(answers.file);
@@ -119,8 +130,11 @@ void leaveAndStart(Desk& desk, const std::vector<int>& /*n*/) {
             palettes.push_back(key);
     }
     std::vector<std::string> images;
+    std::set<std::string> inWindows;
     for (const auto& image : model.images) {
-        if (!image->document.path.empty())
+        if (!image->isFirst())
+            inWindows.insert(image->document.path);
+        if (!image->document.path.empty() && image->isFirst())
             images.push_back(image->document.path);
     }
     const std::string project = model.project ? model.project->path : "";
@@ -135,15 +149,23 @@ void leaveAndStart(Desk& desk, const std::vector<int>& /*n*/) {
     for (const std::string& key : palettes)
         model.openPalette(key);
     for (const CDocument* const document : desk.app().imageTemplate().documents()) {
-        if (std::erase(images, document->pathName()) == 1)
-            model.openImage(document->pathName());
+        if (std::erase(images, document->pathName()) == 0)
+            continue;
+        // Of several windows the one that closed last is remembered, which is theirs to say, too.
+        if (inWindows.contains(document->pathName())) {
+            const auto& shown = dynamic_cast<const CDyeworksView&>(*document->views().front());
+            model.remembered.at(document->pathName()).zoom = shown.zoom();
+            model.remembered.at(document->pathName()).grid = shown.gridShown();
+        }
+        model.openImage(document->pathName());
     }
     if (!images.empty())
         desk.wonder("an image does not come back");
     if (!project.empty())
         model.project.emplace().read(project, model.files.at(project));
     const ImageHost& host = desk.app().imageHost();
-    model.lastActivated = const_cast<ViewModel*>(desk.modelOf(host.lastActivatedImage()));
+    const ViewModel* const last = desk.modelOf(host.lastActivatedImage());
+    model.lastActivated = last == nullptr ? nullptr : &last->document;
     if (model.palettes.contains(desk.app().paletteSet()->currentKey))
         model.currentPalette = desk.app().paletteSet()->currentKey;
     desk.readActive();
@@ -160,6 +182,7 @@ void attach(Desk& desk, const std::vector<int>& /*n*/) {
 
 const std::vector<Verb>& fileVerbs() {
     static const std::vector<Verb> verbs{{"open", 25, {Desk::kImages}, openImage},
+                                         {"new-window", 12, {}, newWindow},
                                          {"new", 6, {30, 30, 2}, newImage},
                                          {"activate", 15, {4}, activate},
                                          {"save", 14, {3, Desk::kImages}, saveImage},

@@ -71,8 +71,11 @@ private:
     long last_ = 0;
 };
 
-/// An open image, without its view.
+class ViewModel;
+
+/// An open image, without its views.
 struct ImageModel {
+    std::vector<ViewModel*> views; ///< In the order in which they came.
     WholeStates<PlainImage> states;
     bool modified = false;
     std::string path; ///< "" before it is saved.

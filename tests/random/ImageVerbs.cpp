@@ -1,10 +1,15 @@
 #include "Desk.h"
 #include "ui/CMainFrame.h"
 
+#include <QAbstractButton>
+#include <QComboBox>
 #include <QCoreApplication>
+#include <QDialog>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 
+#include <algorithm>
 #include <array>
 
 namespace dyeworks {
@@ -18,7 +23,8 @@ constexpr std::array kCommands{
     ID_ZOOM_OUT,        ID_ZOOM_X1,          ID_ZOOM_X4,         ID_ZOOM_X6,          ID_VIEW_GRID,
     ID_TOOL_SELECT,     ID_TOOL_PIXEL,       ID_TOOL_PEN,        ID_TOOL_LINE,        ID_TOOL_BOX,
     ID_TOOL_BOX_FILL,   ID_TOOL_CIRCLE,      ID_TOOL_ZOOM_LENS,  ID_TOOL_CIRCLE_FILL, ID_TOOL_PAINT,
-    ID_TOOL_REPLACER,   ID_TOOL_SELECT};
+    ID_TOOL_REPLACER,   ID_TOOL_SELECT,      ID_MIRROR_ACROSS,   ID_MIRROR_DOWN,      ID_DRAW_WRAP,
+    ID_BRUSH_SQUARE,    ID_BRUSH_ROUND};
 
 constexpr std::array<std::pair<Qt::Key, Key>, 8> kKeys{{{Qt::Key_Escape, Key::Escape},
                                                         {Qt::Key_Return, Key::Enter},
@@ -160,6 +166,104 @@ void command(Desk& desk, const std::vector<int>& n) {
     desk.model.refreshReplaced();
 }
 
+void brush(Desk& desk, const std::vector<int>& n) {
+    const CommandId id = n[0] == 0 ? ID_BRUSH_LARGER : ID_BRUSH_SMALLER;
+    for (int i = 0; i <= n[1]; ++i) {
+        if (desk.run(id))
+            desk.model.active->run(id);
+    }
+}
+
+/// Resize Canvas, Scale or Shift.
+void resize(Desk& desk, const std::vector<int>& n) {
+    if (desk.model.active == nullptr)
+        return;
+    ViewModel& image = *desk.model.active;
+    struct Sheet {
+        CommandId id;
+        const char *first, *second, *button;
+    };
+    static constexpr Sheet kSheets[] = {
+        {ID_IMAGE_RESIZE, "IDC_RESIZE_WIDTH", "IDC_RESIZE_HEIGHT", "IDC_RESIZE_ANCHOR_"},
+        {ID_IMAGE_SCALE, "IDC_SCALE_WIDTH", "IDC_SCALE_HEIGHT", "IDC_SCALE_LOCK"},
+        {ID_IMAGE_SHIFT, "IDC_SHIFT_RIGHT", "IDC_SHIFT_DOWN", nullptr}};
+    const Sheet& used = kSheets[n[0] % 3];
+    const int fill = n[4] & static_cast<int>(image.document.image().mask());
+    const Point numbers = n[0] % 3 == 2 ? Point{n[1] - 20, n[2] - 20} : Point{n[1] + 1, n[2] + 1};
+    desk.withNextDialog([&](QDialog& sheet) {
+        const auto type = [&](const char* name, int number) {
+            auto* const field = sheet.findChild<QWidget*>(QLatin1String(name));
+            field->findChild<QLineEdit*>()->setText(QString::number(number));
+        };
+        if (n[0] % 3 == 0)
+            type("IDC_RESIZE_FILL", fill);
+        if (used.button != nullptr)
+            sheet
+                .findChild<QAbstractButton*>(used.button +
+                                             (n[0] % 3 == 0 ? QString::number(n[3]) : QString()))
+                ->click();
+        type(used.first, numbers.x);
+        type(used.second, numbers.y);
+        sheet.findChild<QAbstractButton*>(QStringLiteral("IDOK"))->click();
+    });
+    desk.run(used.id);
+    image.replaceImage([&](const PlainImage& old) {
+        return n[0] % 3 == 0   ? old.resized(numbers, n[3], static_cast<std::uint32_t>(fill))
+               : n[0] % 3 == 1 ? old.scaled(numbers)
+                               : old.shifted(numbers);
+    });
+    desk.model.refreshReplaced();
+}
+
+/// To 8 bits, or to 4. Where texels lie outside the bank there is a question, of which a yes can be foretold
+/// only where the palette gives all colours.
+void depth(Desk& desk, const std::vector<int>& n) {
+    if (desk.model.active == nullptr)
+        return;
+    ViewModel& image = *desk.model.active;
+    const PaletteModel* const palette = desk.model.paletteOf(image);
+    const bool whole = palette != nullptr && palette->table().entries.size() == 256;
+    image.cancel();
+    const PlainImage seen = image.seen();
+    if (seen.bits == 4) {
+        const int value = desk.view()->view().document().paletteValue();
+        desk.run(ID_IMAGE_TO_8_BITS);
+        const int first = whole && value >= 0 && value < 256 ? value / 16 * 16 : 0;
+        image.replaceImage(
+            [&](const PlainImage& old) { return old.inDepth(8, [&](int texel) { return texel + first; }); });
+        return desk.model.refreshReplaced();
+    }
+    const auto inBank = [&](std::size_t bank) {
+        return std::ranges::count_if(seen.texels, [&](unsigned texel) { return texel / 16 == bank; });
+    };
+    const std::size_t banks = palette == nullptr ? 16 : palette->table().entries.size() / 16;
+    std::size_t bank = 0;
+    for (std::size_t other = 1; other < banks; ++other)
+        bank = inBank(other) > inBank(bank) ? other : bank;
+    const bool asks = inBank(bank) < std::ssize(seen.texels);
+    const bool agrees = whole && n[0] > 0;
+    if (asks && agrees && n[0] > 1)
+        bank = static_cast<std::size_t>(n[1]);
+    if (asks) {
+        desk.withNextDialog([&](QDialog& sheet) {
+            if (agrees)
+                sheet.findChild<QComboBox*>(QStringLiteral("IDC_REDUCE_BANK"))
+                    ->setCurrentIndex(static_cast<int>(bank));
+            sheet.findChild<QAbstractButton*>(agrees ? QStringLiteral("IDOK") : QStringLiteral("IDCANCEL"))
+                ->click();
+        });
+    }
+    desk.run(ID_IMAGE_TO_4_BITS);
+    if (asks && !agrees)
+        return;
+    image.replaceImage([&](const PlainImage& old) {
+        return old.inDepth(4, [&](std::size_t texel) {
+            return asks ? palette->table().nearestInBank(texel, bank) : texel % 16;
+        });
+    });
+    desk.model.refreshReplaced();
+}
+
 void cell(Desk& desk, const std::vector<int>& n) {
     desk.app().imageHost().selectPaletteBarCell(n[0]);
 }
@@ -180,6 +284,9 @@ const std::vector<Verb>& imageVerbs() {
                                          {"command", 135, {static_cast<int>(kCommands.size())}, command},
                                          {"undo", 20, {3, 2}, undo},
                                          {"cell", 30, {256}, cell},
+                                         {"brush", 20, {3, 5}, brush},
+                                         {"resize", 12, {3, 40, 40, 9, 256}, resize},
+                                         {"depth", 12, {3, 16}, depth},
                                          {"draw-much", 2, {16, 48, 48}, drawMuch},
                                          {"repaint", 2, {}, repaint}};
     return verbs;

@@ -102,6 +102,10 @@ void undo(Desk& desk, const std::vector<int>& n) {
 }
 
 void moveEntry(Desk& desk, const std::vector<int>& n) {
+    // What is dragged is taken back before the texels are looked at.
+    desk.app().giveUpDrags();
+    if (desk.model.active != nullptr)
+        desk.model.active->cancel();
     if (desk.model.current() == nullptr || !desk.model.movesSilently())
         return;
     const int count = static_cast<int>(desk.model.current()->table().entries.size());

@@ -46,6 +46,31 @@ std::vector<std::uint8_t> PlainTable::shown(std::size_t entry) const {
     return {byte((value >> 11) * 8), byte((value >> 6 & 31U) * 8), byte((value >> 1 & 31U) * 8)};
 }
 
+int PlainTable::alpha(std::size_t entry) const {
+    return type == 1 ? entries[entry] & 255 : entries[entry] % 2 * 255;
+}
+
+/// By red, green, blue and alpha, which count 3, 6, 1 and 4; what is transparent is like nothing that is not.
+std::size_t PlainTable::nearestInBank(std::size_t entry, std::size_t bank) const {
+    const auto distance = [this, entry](std::size_t other) {
+        const int away = alpha(entry) - alpha(other);
+        double sum = 4.0 * away * away + ((alpha(entry) == 0) == (alpha(other) == 0) ? 0 : 1e9);
+        for (std::size_t i = 0; i < 3; ++i) {
+            const int step = shown(entry)[i] - shown(other)[i];
+            sum += (i == 0 ? 3.0 : i == 1 ? 6.0 : 1.0) * step * step;
+        }
+        return sum;
+    };
+    if (entry / 16 == bank)
+        return entry % 16;
+    std::size_t nearest = 0;
+    for (std::size_t i = 1; i < 16; ++i) {
+        if (distance(16 * bank + i) < distance(16 * bank + nearest))
+            nearest = i;
+    }
+    return nearest;
+}
+
 std::string imageFile(const PlainImage& image) {
     std::string bytes =
         big(image.bits == 4 ? 0x00120200U : 0x00120300U) + big(static_cast<std::uint32_t>(image.width)) +

@@ -19,6 +19,10 @@ struct PlainTable {
     static PlainTable fresh(int type, int count, int alpha);
     /// Red, green and blue that the entry shows as.
     [[nodiscard]] std::vector<std::uint8_t> shown(std::size_t entry) const;
+    /// 0 to 255.
+    [[nodiscard]] int alpha(std::size_t entry) const;
+    /// The place in the bank of what looks most like the entry; of an entry of the bank its own.
+    [[nodiscard]] std::size_t nearestInBank(std::size_t entry, std::size_t bank) const;
 };
 
 // The files, byte by byte.

@@ -34,7 +34,40 @@ void PlainImage::put(Point where, std::uint32_t value) {
         texels[placeOf(*this, where)] = static_cast<std::uint8_t>(value & mask());
 }
 
-void PlainImage::line(Point from, Point to, std::uint32_t value) {
+Point PlainImage::folded(Point where) const {
+    return {(where.x % width + width) % width, (where.y % height + height) % height};
+}
+
+std::vector<Point> PlainImage::mirrored(Point where, const PlainPen& pen) const {
+    std::vector<Point> all;
+    for (const bool down : {false, true}) {
+        for (const bool across : {false, true}) {
+            if (across <= pen.across && down <= pen.down)
+                all.push_back(
+                    {across ? width - 1 - where.x : where.x, down ? height - 1 - where.y : where.y});
+        }
+    }
+    return all;
+}
+
+/// A round one falls short of half its size by an eighth of a texel. An even one reaches farther to the right
+/// and down.
+void PlainImage::dot(Point where, const PlainPen& pen) {
+    const double middle = (pen.size - 1) / 2.0;
+    const double radius = pen.size / 2.0 - 0.125;
+    for (std::int32_t j = 0; j < pen.size; ++j) {
+        for (std::int32_t i = 0; i < pen.size; ++i) {
+            const double distance = (i - middle) * (i - middle) + (j - middle) * (j - middle);
+            if (pen.round && distance > radius * radius)
+                continue;
+            const Point touched{where.x + i - (pen.size - 1) / 2, where.y + j - (pen.size - 1) / 2};
+            for (const Point at : mirrored(touched, pen))
+                put(pen.wrap ? folded(at) : at, pen.value);
+        }
+    }
+}
+
+void PlainImage::line(Point from, Point to, const PlainPen& pen) {
     const std::int32_t dx = std::abs(to.x - from.x);
     const std::int32_t dy = std::abs(to.y - from.y);
     const std::int32_t sx = from.x < to.x ? 1 : -1;
@@ -43,7 +76,7 @@ void PlainImage::line(Point from, Point to, std::uint32_t value) {
     const std::int32_t steps = std::max(dx, dy);
     std::int32_t error = steps / 2;
     for (std::int32_t i = 0; i < steps; ++i) {
-        put(from, value);
+        dot(from, pen);
         error += std::min(dx, dy);
         const bool aside = error >= steps;
         if (aside)
@@ -51,29 +84,33 @@ void PlainImage::line(Point from, Point to, std::uint32_t value) {
         from.x += flat || aside ? sx : 0;
         from.y += !flat || aside ? sy : 0;
     }
-    put(to, value);
+    dot(to, pen);
 }
 
-void PlainImage::box(Rect corners, std::uint32_t value) {
+void PlainImage::box(Rect corners, const PlainPen& pen) {
     const Rect r = corners.normalised();
-    line({r.left, r.top}, {r.right, r.top}, value);
-    line({r.left, r.bottom}, {r.right, r.bottom}, value);
-    line({r.left, r.top}, {r.left, r.bottom}, value);
-    line({r.right, r.top}, {r.right, r.bottom}, value);
+    line({r.left, r.top}, {r.right, r.top}, pen);
+    line({r.left, r.bottom}, {r.right, r.bottom}, pen);
+    line({r.left, r.top}, {r.left, r.bottom}, pen);
+    line({r.right, r.top}, {r.right, r.bottom}, pen);
 }
 
-void PlainImage::filledBox(Rect corners, std::uint32_t value) {
+void PlainImage::filledBox(Rect corners, const PlainPen& pen) {
     const Rect r = corners.normalised();
     for (std::int32_t y = r.top; y <= r.bottom; ++y) {
         for (std::int32_t x = r.left; x <= r.right; ++x)
-            put({x, y}, value);
+            dot({x, y}, pen.thin());
     }
 }
 
-void PlainImage::ellipse(Rect corners, std::uint32_t value, bool filled) {
-    const Rect r = corners.normalised();
+void PlainImage::ellipse(Rect corners, const PlainPen& pen, bool filled) {
+    Rect r = corners.normalised();
     if (r.left == r.right || r.top == r.bottom)
         return;
+    // Fractions are cut off towards zero. So that all copies of the image get the same, zero is far away
+    // then.
+    if (pen.wrap)
+        r = {r.left + 1000 * width, r.top + 1000 * height, r.right + 1000 * width, r.bottom + 1000 * height};
     const double a = (r.right - r.left) / 2.0;
     const double b = (r.bottom - r.top) / 2.0;
     const double cx = r.left + a;
@@ -82,11 +119,11 @@ void PlainImage::ellipse(Rect corners, std::uint32_t value, bool filled) {
         const std::int32_t first = truncated(cx - u);
         const std::int32_t last = truncated(cx + 0.5 + u);
         if (!filled) {
-            put({first, y}, value);
-            put({last, y}, value);
+            dot({first, y}, pen);
+            dot({last, y}, pen);
         }
         for (std::int32_t x = first; filled && x <= last; ++x)
-            put({x, y}, value);
+            dot({x, y}, pen.thin());
     };
     double u = a;
     double w = 0;
@@ -116,19 +153,19 @@ void PlainImage::ellipse(Rect corners, std::uint32_t value, bool filled) {
     } while (d <= 0);
 }
 
-void PlainImage::flood(Point from, std::uint32_t value) {
-    const std::uint32_t target = at(from);
-    if (!holds(from) || target == (value & mask()))
-        return;
-    std::vector<Point> waiting{from};
-    while (!waiting.empty()) {
-        const Point next = waiting.back();
-        waiting.pop_back();
-        if (!holds(next) || at(next) != target)
-            continue;
-        put(next, value);
-        for (const Point step : {Point{1, 0}, Point{-1, 0}, Point{0, 1}, Point{0, -1}})
-            waiting.push_back({next.x + step.x, next.y + step.y});
+void PlainImage::flood(Point from, const PlainPen& pen) {
+    for (const Point seed : mirrored(from, pen)) {
+        std::vector<Point> waiting{pen.wrap ? folded(seed) : seed};
+        const std::uint32_t target = at(waiting.front());
+        while (target != (pen.value & mask()) && !waiting.empty()) {
+            const Point next = pen.wrap ? folded(waiting.back()) : waiting.back();
+            waiting.pop_back();
+            if (!holds(next) || at(next) != target)
+                continue;
+            put(next, pen.value);
+            for (const Point step : {Point{1, 0}, Point{-1, 0}, Point{0, 1}, Point{0, -1}})
+                waiting.push_back({next.x + step.x, next.y + step.y});
+        }
     }
 }
 
@@ -164,11 +201,12 @@ void PlainImage::flip(Rect area, bool across, bool down) {
     }
 }
 
-PlainImage PlainImage::part(Rect area) const {
+PlainImage PlainImage::part(Rect area, bool wrap) const {
     PlainImage cut = blank(area.right - area.left + 1, area.bottom - area.top + 1, bits);
     for (std::int32_t y = 0; y < cut.height; ++y) {
         for (std::int32_t x = 0; x < cut.width; ++x)
-            cut.put({x, y}, at({area.left + x, area.top + y}));
+            cut.put({x, y},
+                    at(wrap ? folded({area.left + x, area.top + y}) : Point{area.left + x, area.top + y}));
     }
     return cut;
 }
@@ -186,19 +224,45 @@ PlainImage PlainImage::shifted(Point by) const {
     PlainImage made = blank(width, height, bits);
     for (std::int32_t y = 0; y < height; ++y) {
         for (std::int32_t x = 0; x < width; ++x)
-            made.put({(x + by.x) % width, (y + by.y) % height}, at({x, y}));
+            made.put(folded({x + by.x, y + by.y}), at({x, y}));
     }
     return made;
 }
 
-void PlainImage::paste(const PlainImage& piece, Rect area) {
+PlainImage PlainImage::resized(Point size, int anchor, std::uint32_t fill) const {
+    PlainImage made = blank(size.x, size.y, bits);
+    const auto moved = [](std::int32_t room, int part) {
+        return part == 0 ? 0 : part == 2 ? room : (room + 1000) / 2 - 500;
+    };
+    const Point place{moved(size.x - width, anchor % 3), moved(size.y - height, anchor / 3)};
+    for (std::int32_t y = 0; y < made.height; ++y) {
+        for (std::int32_t x = 0; x < made.width; ++x) {
+            const Point old{x - place.x, y - place.y};
+            made.put({x, y}, holds(old) ? at(old) : fill);
+        }
+    }
+    return made;
+}
+
+PlainImage PlainImage::scaled(Point size) const {
+    PlainImage made = blank(size.x, size.y, bits);
+    for (std::int32_t y = 0; y < made.height; ++y) {
+        for (std::int32_t x = 0; x < made.width; ++x)
+            made.put({x, y}, at({(2 * x + 1) * width / (2 * size.x), (2 * y + 1) * height / (2 * size.y)}));
+    }
+    return made;
+}
+
+void PlainImage::paste(const PlainImage& piece, Rect area, bool wrap) {
     const std::int32_t w = area.right - area.left + 1;
     const std::int32_t h = area.bottom - area.top + 1;
     const double sx = static_cast<double>(piece.width) / w;
     const double sy = static_cast<double>(piece.height) / h;
-    for (std::int32_t j = 0; j < h; ++j) {
-        for (std::int32_t i = 0; i < w; ++i)
-            put({area.left + i, area.top + j}, piece.at({truncated(i * sx), truncated(j * sy)}));
+    for (std::int32_t j = h - 1; j >= 0; --j) {
+        for (std::int32_t i = w - 1; i >= 0; --i) {
+            const Point to{area.left + i, area.top + j};
+            put(wrap ? folded(to) : to, piece.at({truncated(i * sx), truncated(j * sy)}));
+        }
     }
 }
 

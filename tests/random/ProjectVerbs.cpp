@@ -95,6 +95,7 @@ void openPicture(Desk& desk, const std::vector<int>& n) {
     ViewModel& image = desk.model.openImage(folder + picture.image);
     desk.model.currentPalette = folder + picture.palette;
     desk.model.attach(image);
+    desk.readActive();
 }
 
 void drop(Desk& desk, const std::vector<int>& n) {

@@ -46,37 +46,51 @@ void ViewModel::setSelection(Point from, Point to) {
     selection = wanted == Rect{} ? std::nullopt : std::optional(wanted);
 }
 
-bool ViewModel::clearSelected() {
-    return document.edit([this](PlainImage& image) { image.filledBox(selection.value_or(Rect{}), 0); });
+bool ViewModel::clearSelected(bool wrap) {
+    PlainPen pen;
+    pen.wrap = wrap;
+    return document.edit([&](PlainImage& image) { image.filledBox(selection.value_or(Rect{}), pen); });
+}
+
+PlainPen ViewModel::pen() const {
+    PlainPen pen = shared_.pen;
+    pen.value = value;
+    return pen;
+}
+
+PlainImage ViewModel::seen() const {
+    PlainImage all = document.image();
+    if (piece)
+        all.paste(*piece, selection.value_or(Rect{}), shared_.pen.wrap);
+    return all;
 }
 
 void ViewModel::commit() {
     if (const std::optional<PlainImage> placed = std::exchange(piece, std::nullopt))
-        document.edit([&](PlainImage& image) { image.paste(*placed, selection.value_or(Rect{})); });
+        document.edit(
+            [&](PlainImage& image) { image.paste(*placed, selection.value_or(Rect{}), shared_.pen.wrap); });
     selection.reset();
 }
 
 void ViewModel::drop() {
-    piece.reset();
-    selection.reset();
+    for (ViewModel* const view : document.views) {
+        view->piece.reset();
+        view->selection.reset();
+    }
 }
 
 void ViewModel::imageReplaced() {
     replaced = true;
-    if (!piece)
-        selection.reset();
+    for (ViewModel* const view : document.views) {
+        if (!view->piece)
+            view->selection.reset();
+        view->value &= document.image().mask();
+    }
 }
 
-/// What floats is placed before.
-template <typename Make>
-void ViewModel::replaceImage(Make make) {
-    settle();
-    PlainImage made = make(document.image());
-    if (made == document.image())
-        return;
-    document.states.keep(std::exchange(document.image(), std::move(made)), 0, true);
-    document.modified = true;
-    imageReplaced();
+bool ViewModel::hasUnsavedChanges() const {
+    return document.differsFromFile() ||
+           std::ranges::any_of(document.views, [](const ViewModel* view) { return view->piece.has_value(); });
 }
 
 /// What is selected is turned about its middle, by a quarter as a piece that floats.
@@ -97,7 +111,7 @@ void ViewModel::turn(CommandId id) {
     }
     const PlainImage lifted = piece ? *piece : document.image().part(*selection);
     if (!piece)
-        clearSelected();
+        clearSelected(false);
     piece = turned(lifted);
     const auto [l, t, r, b] = *selection;
     anchor_ = half ? Point{l, t} : Point{l + (r - l - (b - t)) / 2, t + (b - t - (r - l)) / 2};
@@ -112,8 +126,8 @@ void ViewModel::crop() {
 
 void ViewModel::settle() {
     cancel();
-    if (piece)
-        commit();
+    for (ViewModel* const view : document.views)
+        view->close();
 }
 
 void ViewModel::letFloat(PlainImage newPiece) {
@@ -160,16 +174,16 @@ void ViewModel::press(const Pointer& event) {
         return;
     commit();
     if (tool == Tool::Paint) {
-        document.edit([this](PlainImage& image) { image.flood(start_, value); });
+        document.edit([this](PlainImage& image) { image.flood(start_, pen()); });
         return;
     }
     anchor_ = current_ = previous_ = start_;
     centred_ = event.alt;
     snapshot_ = document.image();
     if (tool == Tool::Pixel)
-        hasStep_ = document.edit([this](PlainImage& image) { image.put(start_, value); });
+        hasStep_ = document.edit([this](PlainImage& image) { image.dot(start_, pen()); });
     else if (tool == Tool::Pen)
-        document.image().put(start_, value);
+        document.image().dot(start_, pen());
     else
         drawShape();
 }
@@ -205,7 +219,7 @@ void ViewModel::move(const Pointer& event) {
             dragSelection(at, event.control);
     } else if (atPress_ == Tool::Pen) {
         if (anchor_ != at)
-            document.image().line(anchor_, at, value);
+            document.image().line(anchor_, at, pen());
         anchor_ = at;
     } else if (previous_ != at) {
         follow(at);
@@ -218,9 +232,9 @@ void ViewModel::move(const Pointer& event) {
 void ViewModel::dragSelection(Point at, bool control) {
     if (hit_ == TrackerHit::Inside) {
         if (!piece) {
-            PlainImage copy = document.image().part(selection.value_or(Rect{}));
+            PlainImage copy = document.image().part(selection.value_or(Rect{}), shared_.pen.wrap);
             cut_ = true;
-            hasStep_ = !control && clearSelected();
+            hasStep_ = !control && clearSelected(shared_.pen.wrap);
             letFloat(std::move(copy));
         }
         const Point way = minus(at, std::exchange(start_, at));
@@ -245,13 +259,13 @@ void ViewModel::drawShape() {
     PlainImage& image = document.image();
     const Rect corners{anchor_.x, anchor_.y, current_.x, current_.y};
     if (atPress_ == Tool::Line)
-        image.line(anchor_, current_, value);
+        image.line(anchor_, current_, pen());
     else if (atPress_ == Tool::Box)
-        image.box(corners, value);
+        image.box(corners, pen());
     else if (atPress_ == Tool::BoxFill)
-        image.filledBox(corners, value);
+        image.filledBox(corners, pen());
     else
-        image.ellipse(corners, value, atPress_ == Tool::CircleFill);
+        image.ellipse(corners, pen(), atPress_ == Tool::CircleFill);
 }
 
 void ViewModel::release(const Pointer& event) {
@@ -274,6 +288,13 @@ void ViewModel::release(const Pointer& event) {
 }
 
 bool ViewModel::cancel() {
+    bool changed = false;
+    for (ViewModel* const view : document.views)
+        changed = view->cancelOwn() || changed;
+    return changed;
+}
+
+bool ViewModel::cancelOwn() {
     if (!dragging_)
         return false;
     const bool open = opensEdit();
@@ -325,6 +346,12 @@ void ViewModel::zoomStep(bool out) {
 }
 
 std::optional<bool> ViewModel::enabled(CommandId id) const {
+    if (id == ID_BRUSH_SMALLER)
+        return shared_.pen.size > 1;
+    if (id == ID_BRUSH_LARGER)
+        return shared_.pen.size < 16;
+    if ((id >= ID_BRUSH_SQUARE && id <= ID_MIRROR_DOWN) || id == ID_DRAW_WRAP)
+        return true;
     if (toolOf(id) || id == ID_TOOL_SPUIT || id == ID_VIEW_GRID || (id >= ID_ZOOM_X1 && id <= ID_ZOOM_X16))
         return true;
     switch (id) {
@@ -332,6 +359,9 @@ std::optional<bool> ViewModel::enabled(CommandId id) const {
         return canUndo();
     case ID_EDIT_REDO:
         return !document.states.redone.empty();
+    case ID_IMAGE_TO_4_BITS:
+    case ID_IMAGE_TO_8_BITS:
+        return document.image().bits == (id == ID_IMAGE_TO_4_BITS ? 8 : 4);
     case ID_EDIT_SELECT_ALL:
         return keepsSelection(atPress_);
     case ID_CANCEL_SELECTION:
@@ -341,6 +371,9 @@ std::optional<bool> ViewModel::enabled(CommandId id) const {
     case ID_EDIT_CUT:
     case ID_IMAGE_CROP:
         return exists();
+    case ID_IMAGE_RESIZE:
+    case ID_IMAGE_SCALE:
+    case ID_IMAGE_SHIFT:
     case ID_IMAGE_TURN_LEFT:
     case ID_IMAGE_TURN_RIGHT:
     case ID_IMAGE_TURN_HALF:
@@ -383,6 +416,17 @@ void ViewModel::run(CommandId id) {
         spuit = !spuit;
     if (id == ID_VIEW_GRID)
         grid = !grid;
+    PlainPen& pen = shared_.pen;
+    if (id == ID_BRUSH_SMALLER || id == ID_BRUSH_LARGER)
+        pen.size += id == ID_BRUSH_LARGER ? 1 : -1;
+    if (id == ID_BRUSH_SQUARE || id == ID_BRUSH_ROUND)
+        pen.round = id == ID_BRUSH_ROUND;
+    if (id == ID_MIRROR_ACROSS)
+        pen.across = !pen.across;
+    if (id == ID_MIRROR_DOWN)
+        pen.down = !pen.down;
+    if (id == ID_DRAW_WRAP)
+        pen.wrap = !pen.wrap;
     if (id == ID_ZOOM_IN || id == ID_ZOOM_OUT)
         zoomStep(id == ID_ZOOM_OUT);
     if (id >= ID_ZOOM_X1 && id <= ID_ZOOM_X16)
@@ -392,7 +436,7 @@ void ViewModel::run(CommandId id) {
     if (exists() && (id == ID_EDIT_COPY || id == ID_EDIT_CUT)) {
         shared_.clipboard = document.image().part(*selection);
         if (id == ID_EDIT_CUT)
-            clearSelected();
+            clearSelected(false);
     }
     if (turns)
         turn(id);

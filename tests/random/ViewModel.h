@@ -6,6 +6,7 @@
 #include "paint/KeyEvent.h"
 #include "paint/SelectionTracker.h"
 
+#include <memory>
 #include <optional>
 
 namespace dyeworks {
@@ -13,6 +14,7 @@ namespace dyeworks {
 /// What all views share.
 struct ToolModel {
     Tool tool = Tool::Select;
+    PlainPen pen; ///< Without its value.
     std::optional<PlainImage> clipboard;
     int cell = -1; ///< Of the palette bar; negative without one.
     int firstEntry = 0;
@@ -32,10 +34,17 @@ public:
         bool alt = false;
     };
 
-    explicit ViewModel(ToolModel& shared)
-        : shared_(shared) {}
+    ViewModel(ToolModel& shared, std::shared_ptr<ImageModel> shown)
+        : owned(std::move(shown))
+        , shared_(shared) {
+        document.views.push_back(this);
+    }
+    ~ViewModel() { std::erase(document.views, this); }
+    ViewModel(const ViewModel&) = delete;
+    ViewModel& operator=(const ViewModel&) = delete;
 
-    ImageModel document;
+    const std::shared_ptr<ImageModel> owned;
+    ImageModel& document = *owned;
     std::optional<Rect> selection;
     std::optional<PlainImage> piece;
     std::uint32_t value = 0;
@@ -44,13 +53,16 @@ public:
     bool spuit = false;
     bool replaced = false; ///< The image has been: its palette is to be looked for again.
 
+    /// The image with what floats in this view.
+    [[nodiscard]] PlainImage seen() const;
     /// For an image that has just been opened or made.
     void begin();
     void press(const Pointer& event);
     void rightPress(Point position);
     void move(const Pointer& event);
     void release(const Pointer& event);
-    /// What the drag has done so far is taken back. True when that changed the image.
+    /// What a drag has done so far, in any view of the image, is taken back. True when that changed the
+    /// image.
     bool cancel();
     /// Only keys that are to do something.
     void key(Key key, bool shift);
@@ -60,8 +72,24 @@ public:
     [[nodiscard]] std::optional<bool> enabled(CommandId id) const;
     /// Before the image is saved, or closed without a question.
     void settle();
-    /// What floats and is selected goes.
+    /// In a view that closes while others stay, what floats goes into the image.
+    void close() {
+        if (piece)
+            commit();
+    }
+    /// What floats and is selected goes, in all views.
     void drop();
+    /// The image becomes what `make` makes of it; what floats is placed before.
+    template <typename Make>
+    void replaceImage(Make make) {
+        settle();
+        PlainImage made = make(document.image());
+        if (made == document.image())
+            return;
+        document.states.keep(std::exchange(document.image(), std::move(made)), 0, true);
+        document.modified = true;
+        imageReplaced();
+    }
     /// The image has become another: what was selected in it goes, unless it floats.
     void imageReplaced();
 
@@ -70,7 +98,9 @@ public:
         return keepsSelection(atPress_) && selection && selection->right > selection->left &&
                selection->bottom > selection->top;
     }
-    [[nodiscard]] bool hasUnsavedChanges() const { return piece.has_value() || document.differsFromFile(); }
+    /// Of a view that stands for all of its image.
+    [[nodiscard]] bool isFirst() const { return document.views.front() == this; }
+    [[nodiscard]] bool hasUnsavedChanges() const;
     [[nodiscard]] bool canUndo() const { return !document.states.undone.empty() || opensEdit(); }
 
 private:
@@ -80,6 +110,7 @@ private:
     [[nodiscard]] bool opensEdit() const {
         return dragging_ && atPress_ != Tool::Select && atPress_ != Tool::Pixel && atPress_ != Tool::ZoomLens;
     }
+    bool cancelOwn();
     void setSelection(Point from, Point to);
     void commit();
     void letFloat(PlainImage newPiece);
@@ -89,11 +120,10 @@ private:
     void follow(Point at);
     void drawShape();
     void zoomStep(bool out);
-    bool clearSelected();
+    bool clearSelected(bool wrap);
+    [[nodiscard]] PlainPen pen() const;
     void turn(CommandId id);
     void crop();
-    template <typename Make>
-    void replaceImage(Make make);
 
     ToolModel& shared_;
     Tool atPress_ = Tool::Select;

@@ -34,8 +34,11 @@ MdiFrame::MdiFrame()
 }
 
 MdiFrame::~MdiFrame() {
-    // While they go, child frames still find a whole main frame, and nobody is told of activations.
+    // While they go, child frames still find a whole main frame, and nobody is told of activations, nor that
+    // a document has one window less in its title.
     area_->disconnect(this);
+    for (ChildFrame* child : childFrames())
+        disconnect(child, &QWidget::windowTitleChanged, nullptr, nullptr);
     for (ChildFrame* child : childFrames())
         delete child;
 }
