@@ -56,6 +56,7 @@ const std::vector<Refused> kRefused{
     {{"palette", "draw"}, 2, "dyeworks-cli palette: "},
     {{"info"}, 2, "dyeworks-cli info: "},
     {{"info", "--colour", "a.tmf"}, 2, "dyeworks-cli info: "},
+    {{"info", "--drive", "c:.", "a.tmf"}, 2, "dyeworks-cli info: "},
     {{"info", "none.tmf"}, 3, "none.tmf: "},
     {{"info", "."}, 3, ".: "},
     {{"info", "text"}, 3, "text: "},
@@ -142,6 +143,7 @@ TEST_F(CommandLine, ReadsAndWritesStreams) {
     folder.write("b.png", png.out);
     EXPECT_EQ(folder.run({"convert", "b.png", "-o", "-", "-f", "tmf"}).out, image());
     EXPECT_THAT(folder.run({"info", "-"}, {.input = png.out}).out, StartsWith("-: PNG, 8 x 8, 4 bits"));
+    EXPECT_EQ(folder.run({"convert", "wide.tlf", "-o", "-", "-f", "tlf"}).out, folder.read("wide.tlf"));
 }
 
 TEST_F(CommandLine, LeavesTheOldFileWhenTheDiskIsFull) {
