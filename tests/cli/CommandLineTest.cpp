@@ -120,6 +120,19 @@ TEST_F(CommandLine, HelpHasNoEnglishHeadingsInJapanese) {
     }
 }
 
+TEST_F(CommandLine, SpeaksTheFirstLanguageThatItKnows) {
+    for (const auto& [wished, locale, isJapanese] : {std::tuple{"fr:ja", "de_DE.UTF-8", true},
+                                                     {"en:ja", "ja_JP.UTF-8", false},
+                                                     {"ja", "C", false},
+                                                     {"fr:de", "japanese", true}})
+        EXPECT_EQ(folder
+                      .run({std::string("LANGUAGE=") + wished, DYEWORKS_CLI, "--help"},
+                           {.language = locale, .program = "env"})
+                      .out,
+                  folder.run({"--help"}, {.language = isJapanese ? "ja_JP" : "C"}).out)
+            << wished << locale;
+}
+
 TEST_F(CommandLine, TakesFilesOfAnyName) {
     const std::vector<std::string> names{"a b", "\n",       "-x",   "--help", "[a,b]", "b]",
                                          "%%",  "\xff\xfe", "a\\b", "=",      "#",     "日本"};
@@ -208,6 +221,8 @@ TEST_F(CommandLine, SheetShowsEachPictureInItsBank) {
                   colour({"render", "a.tmf", "-p", "wide.tlf", "-b", bank, "-o", "b.png"}))
             << bank;
     }
+    EXPECT_EQ(colour({"render", "a.tmf", "-p", "wide.tlf", "-b", "4", "--checkerboard", "-o", "b.png"}),
+              "\xcc\xcc\xcc");
     folder.write("rules.tpf", "Rules.FirstEntryTransparent=1\n");
     EXPECT_NE(folder.run({"check", "--rules", "rules.tpf", "-p", "wide.tlf", "-b", "3", "a.tmf"}).out, "");
     EXPECT_EQ(folder.run({"check", "--rules", "rules.tpf", "-p", "wide.tlf", "-b", "4", "a.tmf"}).out, "");
