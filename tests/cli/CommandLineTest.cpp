@@ -118,6 +118,10 @@ TEST_F(CommandLine, HelpHasNoEnglishHeadingsInJapanese) {
         for (const char* const english : {"Usage", "Options", "OPTIONS", "REQUIRED", "Print", "Arguments"})
             EXPECT_THAT(japanese.out, Not(HasSubstr(english)));
     }
+    EXPECT_THAT(
+        folder.run({"convert", "--help"}).out,
+        HasSubstr("\n  -b, --bank NUMBER           Bank of a palette of 256 entries that an image of 4 bits "
+                  "shows, 0 to\n                              15\n"));
 }
 
 TEST_F(CommandLine, SpeaksTheFirstLanguageThatItKnows) {
@@ -202,9 +206,11 @@ TEST_F(CommandLine, InfoTellsWhatFilesHold) {
                    "bank 3, "));
     EXPECT_THAT(folder.run({"info", "r.png"}).out, StartsWith("r.png: PNG, 8 x 8, 1 colours used, "));
     EXPECT_THAT(
-        folder.run({"info", "--json", "a.png"}).out,
-        HasSubstr("\"bits\": 4,\n    \"coloursUsed\": 1,\n    \"entries\": 256,\n"
-                  "    \"differentEntries\": 256,\n    \"colourType\": \"rgba\",\n    \"bank\": 3\n"));
+        folder.run({"info", "--json", "a.png", "p.tpf"}).out,
+        HasSubstr("    \"width\": 8,\n    \"height\": 8,\n    \"bits\": 4,\n    \"coloursUsed\": 1,\n"
+                  "    \"entries\": 256,\n    \"differentEntries\": 256,\n    \"colourType\": \"rgba\",\n"
+                  "    \"bank\": 3\n  },\n  {\n    \"file\": \"p.tpf\",\n    \"format\": \"tpf\",\n"
+                  "    \"bytes\": 36,\n    \"pictures\": 1\n  }\n]\n"));
 }
 
 TEST_F(CommandLine, SheetShowsEachPictureInItsBank) {

@@ -1,6 +1,7 @@
 #include "interchange/PaletteFile.h"
 
 #include "interchange/EntryColour.h"
+#include "interchange/PngFile.h"
 
 #include <gtest/gtest.h>
 
@@ -70,6 +71,8 @@ TEST(PaletteFile, SaysWhatIsWrong) {
         EXPECT_EQ(colours.error().kind, c.kind) << c.file;
         EXPECT_EQ(colours.error().first, c.line) << c.file;
     }
+    const std::string beginning(39, 'x');
+    EXPECT_EQ(read("GIMP Palette\n" + beginning + "\xC3\xA9\n", "a").error().detail, beginning);
 }
 
 TEST(PaletteFile, RandomPalettesComeBack) {
@@ -102,6 +105,11 @@ TEST(PaletteFile, RandomPalettesComeBack) {
                 if (!keepsAlpha)
                     colour.alpha = shown.alpha;
                 ASSERT_EQ(colour, shown);
+            }
+            if (format == PaletteFormat::Png) {
+                const auto texels = readPng(file.value()).value().picture.indices;
+                for (std::int32_t i = 0; i < count; ++i)
+                    ASSERT_EQ(texels[static_cast<std::size_t>(i)], i);
             }
         }
     }
