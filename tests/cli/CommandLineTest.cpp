@@ -38,6 +38,9 @@ struct CommandLine : testing::Test {
         folder.write("text", "no texture");
         folder.write("p.tpf", "PICT.0=One,a.tmf,a.tlf,0\nPICT_NUM=1\n");
         folder.write("gone.tpf", "PICT.0=One,a.tmf,none.tlf,0\nPICT.1=Two,a.tmf,a.tlf,0\nPICT_NUM=2\n");
+        std::filesystem::create_directory(folder.path() / "sub");
+        folder.write("sub.tpf", "PICT.0=One,sub,a.tlf,0\nPICT_NUM=1\n");
+        folder.write("cut.tpf", "PICT.0=One,cut.tmf,a.tlf,0\nPICT_NUM=1\n");
         folder.write("same.tpf", "PICT.0=a/b,a.tmf,a.tlf,0\nPICT.1=a_b,a.tmf,a.tlf,0\nPICT_NUM=2\n");
     }
     TestFolder folder;
@@ -79,6 +82,8 @@ const std::vector<Refused> kRefused{
     {{"build", "none.tpf", "-o", "out"}, 3, "none.tpf: "},
     {{"build", "p.tpf", "-o", "text"}, 3, "text: "},
     {{"build", "same.tpf", "-o", "out"}, 3, "a_b: "},
+    {{"build", "sub.tpf", "-o", "out", "--dry-run"}, 3, "/"},
+    {{"build", "cut.tpf", "-o", "out"}, 3, "/"},
     {{"palette", "move", "a.tlf"}, 2, "dyeworks-cli palette move: "},
     {{"palette", "move", "a.tlf", "--to", "16"}, 3, "a.tlf: "},
     {{"palette", "sort", "a.tlf", "--range", "9-4"}, 2, "dyeworks-cli palette sort: "},
@@ -229,6 +234,8 @@ TEST_F(CommandLine, SheetShowsEachPictureInItsBank) {
     }
     EXPECT_EQ(colour({"render", "a.tmf", "-p", "wide.tlf", "-b", "4", "--checkerboard", "-o", "b.png"}),
               "\xcc\xcc\xcc");
+    EXPECT_EQ(colour({"render", "a.tmf", "-p", "wide.tlf", "-b", "3", "--alpha", "-o", "b.png"}),
+              "\xff\xff\xff");
     folder.write("rules.tpf", "Rules.FirstEntryTransparent=1\n");
     EXPECT_NE(folder.run({"check", "--rules", "rules.tpf", "-p", "wide.tlf", "-b", "3", "a.tmf"}).out, "");
     EXPECT_EQ(folder.run({"check", "--rules", "rules.tpf", "-p", "wide.tlf", "-b", "4", "a.tmf"}).out, "");
