@@ -60,6 +60,7 @@ TEST(PaletteFile, SaysWhatIsWrong) {
         {"a.pal", "RIFF....PAL ", Kind::UnknownFormat, 0},
         {"a", "JASC-PAL\n0100\n0\n", Kind::NoColours, 0},
         {"a", "JASC-PAL\r\n0\r\n1\r\n1\r\n", Kind::BadLine, 4},
+        {"a", "JASC-PAL\n0100\n1\n1 2\n", Kind::BadLine, 4},
         {"a", "JASC-PAL\r\n0100\r\n16\r\n1 2 3\r\n4 5 6\r\n", Kind::EndsTooEarly, 0},
         {"a.hex", "12345\n", Kind::BadLine, 1},
         {"a.hex", "-12", Kind::BadLine, 1},
