@@ -185,6 +185,11 @@ TEST_F(CommandLine, GoesOnAfterAFileThatFails) {
     EXPECT_EQ(folder.run({"build", "gone.tpf", "-o", "built", "-q"}).code, 3);
     EXPECT_THAT(folder.read("built/Two.png"), StartsWith("\x89PNG"));
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "built/One.png"));
+    EXPECT_EQ(folder.run({"build", "p.tpf", "-o", "built"}).code, 0);
+    EXPECT_EQ(folder.read("built/index.json"),
+              "{\n  \"pictures\": [\n    {\n      \"name\": \"One\",\n      \"files\": [\n"
+              "        \"One.png\"\n      ],\n      \"width\": 8,\n      \"height\": 8,\n      \"bits\": 4,\n"
+              "      \"bank\": 0\n    }\n  ]\n}\n");
 }
 
 TEST_F(CommandLine, InfoTellsWhatFilesHold) {
