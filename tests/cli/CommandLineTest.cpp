@@ -185,7 +185,9 @@ TEST_F(CommandLine, GoesOnAfterAFileThatFails) {
     EXPECT_EQ(folder.run({"build", "gone.tpf", "-o", "built", "-q"}).code, 3);
     EXPECT_THAT(folder.read("built/Two.png"), StartsWith("\x89PNG"));
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "built/One.png"));
-    EXPECT_EQ(folder.run({"build", "p.tpf", "-o", "built"}).code, 0);
+    folder.write("drive.tpf", "PICT.0=One,d:\\a.tmf,D:\\a.tlf,0\nPICT_NUM=1\n");
+    EXPECT_EQ(folder.run({"build", "drive.tpf", "-o", "built", "--drive", "c=."}).code, 3);
+    EXPECT_EQ(folder.run({"build", "drive.tpf", "-o", "built", "--drive", "c=/", "--drive", "d=."}).code, 0);
     EXPECT_EQ(folder.read("built/index.json"),
               "{\n  \"pictures\": [\n    {\n      \"name\": \"One\",\n      \"files\": [\n"
               "        \"One.png\"\n      ],\n      \"width\": 8,\n      \"height\": 8,\n      \"bits\": 4,\n"
