@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <sstream>
 
 namespace dyeworks {
 namespace {
@@ -122,6 +123,10 @@ TEST_F(CommandLine, HelpHasNoEnglishHeadingsInJapanese) {
         EXPECT_EQ(japanese.code, 0);
         for (const char* const english : {"Usage", "Options", "OPTIONS", "REQUIRED", "Print", "Arguments"})
             EXPECT_THAT(japanese.out, Not(HasSubstr(english)));
+        // 30 columns, and 70 in which a letter of three bytes takes two.
+        std::istringstream lines(japanese.out);
+        for (std::string line; std::getline(lines, line);)
+            EXPECT_TRUE(line.size() <= 140 || !line.starts_with("  ")) << line;
     }
     EXPECT_THAT(
         folder.run({"convert", "--help"}).out,
@@ -185,6 +190,8 @@ TEST_F(CommandLine, GoesOnAfterAFileThatFails) {
     EXPECT_EQ(folder.run({"build", "gone.tpf", "-o", "built", "-q"}).code, 3);
     EXPECT_THAT(folder.read("built/Two.png"), StartsWith("\x89PNG"));
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "built/One.png"));
+    folder.write("list.tpf", "TMF_DIR=sub;.\nPICT.0=One,a.tmf,a.tlf,0\nPICT_NUM=1\n");
+    EXPECT_EQ(folder.run({"build", "list.tpf", "-o", "built", "--dry-run"}).code, 0);
     folder.write("drive.tpf", "PICT.0=One,d:\\a.tmf,D:\\a.tlf,0\nPICT_NUM=1\n");
     EXPECT_EQ(folder.run({"build", "drive.tpf", "-o", "built", "--drive", "c=."}).code, 3);
     EXPECT_EQ(folder.run({"build", "drive.tpf", "-o", "built", "--drive", "c=/", "--drive", "d=."}).code, 0);

@@ -76,6 +76,14 @@ TEST(PaletteFile, SaysWhatIsWrong) {
     EXPECT_EQ(read("GIMP Palette\n" + beginning + "\xC3\xA9\n", "a").error().detail, beginning);
 }
 
+TEST(PaletteFile, ReadsAsManyColoursAsAPaletteCanHave) {
+    for (std::string file : {"GIMP Palette\n", "JASC-PAL\n0100\n65539\n"}) {
+        for (int i = 0; i < 65539; ++i)
+            file += "1 2 3\n";
+        EXPECT_EQ(read(file, "a").value().colours.size(), 65536U);
+    }
+}
+
 TEST(PaletteFile, RandomPalettesComeBack) {
     std::mt19937 random(5);
     for (const auto& [format, name] : {std::pair{PaletteFormat::Gimp, "a.gpl"},
