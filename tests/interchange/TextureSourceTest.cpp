@@ -113,6 +113,8 @@ TEST(TextureSource, RawPaletteStartsAligned) {
     EXPECT_EQ(bytes.value()[1], std::byte{0x30});
     EXPECT_EQ(bytes.value()[8], std::byte{0x12});
     EXPECT_EQ(bytes.value()[9], std::byte{0x34});
+    const auto source = headerWithData(image, &palette, 0, {"a", 8, true, true, false});
+    EXPECT_NE(source.value().find(" * palette: 16 entries of 16 bits, "), std::string::npos);
     EXPECT_FALSE(rawBytes(image, nullptr, 0, {"", 8, false, true, false})) << "nothing is wanted";
 }
 
