@@ -29,6 +29,8 @@ struct ReductionChoices {
     std::string kept; ///< Entries of the current palette that stay in the new one: "0, 4-7".
     std::int32_t alphaThreshold = 128;
     Dither dither = Dither::None;
+
+    bool operator==(const ReductionChoices&) const = default;
 };
 
 /// What of a reduction can be chosen when, and what comes of it. The sheet shows it.

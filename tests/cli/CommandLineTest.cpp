@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <sstream>
 
 namespace dyeworks {
 namespace {
@@ -38,6 +39,9 @@ struct CommandLine : testing::Test {
         folder.write("text", "no texture");
         folder.write("p.tpf", "PICT.0=One,a.tmf,a.tlf,0\nPICT_NUM=1\n");
         folder.write("gone.tpf", "PICT.0=One,a.tmf,none.tlf,0\nPICT.1=Two,a.tmf,a.tlf,0\nPICT_NUM=2\n");
+        std::filesystem::create_directory(folder.path() / "sub");
+        folder.write("sub.tpf", "PICT.0=One,sub,a.tlf,0\nPICT_NUM=1\n");
+        folder.write("cut.tpf", "PICT.0=One,cut.tmf,a.tlf,0\nPICT_NUM=1\n");
         folder.write("same.tpf", "PICT.0=a/b,a.tmf,a.tlf,0\nPICT.1=a_b,a.tmf,a.tlf,0\nPICT_NUM=2\n");
     }
     TestFolder folder;
@@ -56,6 +60,7 @@ const std::vector<Refused> kRefused{
     {{"palette", "draw"}, 2, "dyeworks-cli palette: "},
     {{"info"}, 2, "dyeworks-cli info: "},
     {{"info", "--colour", "a.tmf"}, 2, "dyeworks-cli info: "},
+    {{"info", "--drive", "c:.", "a.tmf"}, 2, "dyeworks-cli info: "},
     {{"info", "none.tmf"}, 3, "none.tmf: "},
     {{"info", "."}, 3, ".: "},
     {{"info", "text"}, 3, "text: "},
@@ -78,6 +83,8 @@ const std::vector<Refused> kRefused{
     {{"build", "none.tpf", "-o", "out"}, 3, "none.tpf: "},
     {{"build", "p.tpf", "-o", "text"}, 3, "text: "},
     {{"build", "same.tpf", "-o", "out"}, 3, "a_b: "},
+    {{"build", "sub.tpf", "-o", "out", "--dry-run"}, 3, "/"},
+    {{"build", "cut.tpf", "-o", "out"}, 3, "/"},
     {{"palette", "move", "a.tlf"}, 2, "dyeworks-cli palette move: "},
     {{"palette", "move", "a.tlf", "--to", "16"}, 3, "a.tlf: "},
     {{"palette", "sort", "a.tlf", "--range", "9-4"}, 2, "dyeworks-cli palette sort: "},
@@ -116,7 +123,28 @@ TEST_F(CommandLine, HelpHasNoEnglishHeadingsInJapanese) {
         EXPECT_EQ(japanese.code, 0);
         for (const char* const english : {"Usage", "Options", "OPTIONS", "REQUIRED", "Print", "Arguments"})
             EXPECT_THAT(japanese.out, Not(HasSubstr(english)));
+        // 30 columns, and 70 in which a letter of three bytes takes two.
+        std::istringstream lines(japanese.out);
+        for (std::string line; std::getline(lines, line);)
+            EXPECT_TRUE(line.size() <= 140 || !line.starts_with("  ")) << line;
     }
+    EXPECT_THAT(
+        folder.run({"convert", "--help"}).out,
+        HasSubstr("\n  -b, --bank NUMBER           Bank of a palette of 256 entries that an image of 4 bits "
+                  "shows, 0 to\n                              15\n"));
+}
+
+TEST_F(CommandLine, SpeaksTheFirstLanguageThatItKnows) {
+    for (const auto& [wished, locale, isJapanese] : {std::tuple{"fr:ja", "de_DE.UTF-8", true},
+                                                     {"en:ja", "ja_JP.UTF-8", false},
+                                                     {"ja", "C", false},
+                                                     {"fr:de", "japanese", true}})
+        EXPECT_EQ(folder
+                      .run({std::string("LANGUAGE=") + wished, DYEWORKS_CLI, "--help"},
+                           {.language = locale, .program = "env"})
+                      .out,
+                  folder.run({"--help"}, {.language = isJapanese ? "ja_JP" : "C"}).out)
+            << wished << locale;
 }
 
 TEST_F(CommandLine, TakesFilesOfAnyName) {
@@ -142,6 +170,7 @@ TEST_F(CommandLine, ReadsAndWritesStreams) {
     folder.write("b.png", png.out);
     EXPECT_EQ(folder.run({"convert", "b.png", "-o", "-", "-f", "tmf"}).out, image());
     EXPECT_THAT(folder.run({"info", "-"}, {.input = png.out}).out, StartsWith("-: PNG, 8 x 8, 4 bits"));
+    EXPECT_EQ(folder.run({"convert", "wide.tlf", "-o", "-", "-f", "tlf"}).out, folder.read("wide.tlf"));
 }
 
 TEST_F(CommandLine, LeavesTheOldFileWhenTheDiskIsFull) {
@@ -161,6 +190,15 @@ TEST_F(CommandLine, GoesOnAfterAFileThatFails) {
     EXPECT_EQ(folder.run({"build", "gone.tpf", "-o", "built", "-q"}).code, 3);
     EXPECT_THAT(folder.read("built/Two.png"), StartsWith("\x89PNG"));
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "built/One.png"));
+    folder.write("list.tpf", "TMF_DIR=sub;.\nPICT.0=One,a.tmf,a.tlf,0\nPICT_NUM=1\n");
+    EXPECT_EQ(folder.run({"build", "list.tpf", "-o", "built", "--dry-run"}).code, 0);
+    folder.write("drive.tpf", "PICT.0=One,d:\\a.tmf,D:\\a.tlf,0\nPICT_NUM=1\n");
+    EXPECT_EQ(folder.run({"build", "drive.tpf", "-o", "built", "--drive", "c=."}).code, 3);
+    EXPECT_EQ(folder.run({"build", "drive.tpf", "-o", "built", "--drive", "c=/", "--drive", "d=."}).code, 0);
+    EXPECT_EQ(folder.read("built/index.json"),
+              "{\n  \"pictures\": [\n    {\n      \"name\": \"One\",\n      \"files\": [\n"
+              "        \"One.png\"\n      ],\n      \"width\": 8,\n      \"height\": 8,\n      \"bits\": 4,\n"
+              "      \"bank\": 0\n    }\n  ]\n}\n");
 }
 
 TEST_F(CommandLine, InfoTellsWhatFilesHold) {
@@ -187,9 +225,11 @@ TEST_F(CommandLine, InfoTellsWhatFilesHold) {
                    "bank 3, "));
     EXPECT_THAT(folder.run({"info", "r.png"}).out, StartsWith("r.png: PNG, 8 x 8, 1 colours used, "));
     EXPECT_THAT(
-        folder.run({"info", "--json", "a.png"}).out,
-        HasSubstr("\"bits\": 4,\n    \"coloursUsed\": 1,\n    \"entries\": 256,\n"
-                  "    \"differentEntries\": 256,\n    \"colourType\": \"rgba\",\n    \"bank\": 3\n"));
+        folder.run({"info", "--json", "a.png", "p.tpf"}).out,
+        HasSubstr("    \"width\": 8,\n    \"height\": 8,\n    \"bits\": 4,\n    \"coloursUsed\": 1,\n"
+                  "    \"entries\": 256,\n    \"differentEntries\": 256,\n    \"colourType\": \"rgba\",\n"
+                  "    \"bank\": 3\n  },\n  {\n    \"file\": \"p.tpf\",\n    \"format\": \"tpf\",\n"
+                  "    \"bytes\": 36,\n    \"pictures\": 1\n  }\n]\n"));
 }
 
 TEST_F(CommandLine, SheetShowsEachPictureInItsBank) {
@@ -206,6 +246,10 @@ TEST_F(CommandLine, SheetShowsEachPictureInItsBank) {
                   colour({"render", "a.tmf", "-p", "wide.tlf", "-b", bank, "-o", "b.png"}))
             << bank;
     }
+    EXPECT_EQ(colour({"render", "a.tmf", "-p", "wide.tlf", "-b", "4", "--checkerboard", "-o", "b.png"}),
+              "\xcc\xcc\xcc");
+    EXPECT_EQ(colour({"render", "a.tmf", "-p", "wide.tlf", "-b", "3", "--alpha", "-o", "b.png"}),
+              "\xff\xff\xff");
     folder.write("rules.tpf", "Rules.FirstEntryTransparent=1\n");
     EXPECT_NE(folder.run({"check", "--rules", "rules.tpf", "-p", "wide.tlf", "-b", "3", "a.tmf"}).out, "");
     EXPECT_EQ(folder.run({"check", "--rules", "rules.tpf", "-p", "wide.tlf", "-b", "4", "a.tmf"}).out, "");

@@ -99,9 +99,10 @@ TEST(Pictures, OfColoursComeIntoFewAndIntoGivenOnes) {
     const TestFolder folder;
     folder.run({"-size", "40x30", "gradient:red-blue", "PNG24:a.png"}, {.program = "convert"});
     folder.run({"a.png", "BMP3:a.bmp"}, {.program = "convert"});
+    folder.run({"a.png", "a.jpg"}, {.program = "convert"});
     folder.write("grey.tlf",
                  tlfFile({0x0001, 0x4211, 0x8421, 0xc631, 0xffff, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1}, false));
-    for (const std::string name : {"a.png", "a.bmp"}) {
+    for (const std::string name : {"a.png", "a.bmp", "a.jpg"}) {
         ASSERT_EQ(folder.run({"convert", name, "-o", "b.tmf", "--colours", "5"}).code, 0);
         EXPECT_THAT(folder.run({"info", "b.tmf"}).out,
                     StartsWith("b.tmf: TMF, 40 x 30, 4 bits, 5 colours used"));

@@ -23,7 +23,7 @@ public:
 private:
     void OnRun() { log_.push_back(name_); }
     void OnUpdate(CommandUi& ui) {
-        ui.enabled = enabled;
+        ui.require(enabled, StringId{});
         ui.checked = true;
     }
     void OnRange(CommandId id) { log_.push_back(name_ + std::to_string(id)); }

@@ -125,6 +125,7 @@ TEST(CommandSearch, RanksByFitThenNameThenWhatTheUserDoes) {
     };
     for (const auto& each : kCases)
         EXPECT_EQ(search.find(each.typed), each.found) << each.typed;
+    EXPECT_EQ(kanaReading("上回る"), " うえ まわる");
 }
 
 TEST(CommandUsage, KeepsTheLastOnesAndOutlivesWhatStandsInTheSettings) {

@@ -251,6 +251,9 @@ TEST_F(ColourReduction, StopsWhenToldAndIsToldAtMostAHundredTimes) {
         EXPECT_EQ(again.value().indices, whole.value().indices);
         EXPECT_EQ(again.value().entries, whole.value().entries);
     }
+    std::vector<int> told;
+    (void)reduceColours(anyPicture(3, 2), {}, [&](int now) { return told.push_back(now), true; });
+    EXPECT_EQ(told, (std::vector{100, 500, 750}));
 }
 
 } // namespace

@@ -45,6 +45,8 @@ TEST(PerceptualSpace, HoldsColoursWhereAnotherProgramComputesThem) {
         const Triple away = pointOf(ColourType::Rgba, lightOf(ColourType::Rgba, colour)) - point;
         EXPECT_LT(squared(away), 0.0004F) << int{colour.red};
     }
+    const Triple grey = pointOf(ColourType::Ia, lightOf(ColourType::Ia, {119, 119, 119, 255}));
+    EXPECT_LT(squared(grey - Triple{50.034F, 50.034F, 1.5636F}), 0.0004F);
 }
 
 TEST(EntryColour, GreysThatFiveBitsLoseMakeAPaletteOfIntensities) {

@@ -1,6 +1,7 @@
 #include "interchange/PaletteFile.h"
 
 #include "interchange/EntryColour.h"
+#include "interchange/PngFile.h"
 
 #include <gtest/gtest.h>
 
@@ -59,6 +60,7 @@ TEST(PaletteFile, SaysWhatIsWrong) {
         {"a.pal", "RIFF....PAL ", Kind::UnknownFormat, 0},
         {"a", "JASC-PAL\n0100\n0\n", Kind::NoColours, 0},
         {"a", "JASC-PAL\r\n0\r\n1\r\n1\r\n", Kind::BadLine, 4},
+        {"a", "JASC-PAL\n0100\n1\n1 2\n", Kind::BadLine, 4},
         {"a", "JASC-PAL\r\n0100\r\n16\r\n1 2 3\r\n4 5 6\r\n", Kind::EndsTooEarly, 0},
         {"a.hex", "12345\n", Kind::BadLine, 1},
         {"a.hex", "-12", Kind::BadLine, 1},
@@ -69,6 +71,16 @@ TEST(PaletteFile, SaysWhatIsWrong) {
         ASSERT_FALSE(colours) << c.file;
         EXPECT_EQ(colours.error().kind, c.kind) << c.file;
         EXPECT_EQ(colours.error().first, c.line) << c.file;
+    }
+    const std::string beginning(39, 'x');
+    EXPECT_EQ(read("GIMP Palette\n" + beginning + "\xC3\xA9\n", "a").error().detail, beginning);
+}
+
+TEST(PaletteFile, ReadsAsManyColoursAsAPaletteCanHave) {
+    for (std::string file : {"GIMP Palette\n", "JASC-PAL\n0100\n65539\n"}) {
+        for (int i = 0; i < 65539; ++i)
+            file += "1 2 3\n";
+        EXPECT_EQ(read(file, "a").value().colours.size(), 65536U);
     }
 }
 
@@ -102,6 +114,11 @@ TEST(PaletteFile, RandomPalettesComeBack) {
                 if (!keepsAlpha)
                     colour.alpha = shown.alpha;
                 ASSERT_EQ(colour, shown);
+            }
+            if (format == PaletteFormat::Png) {
+                const auto texels = readPng(file.value()).value().picture.indices;
+                for (std::int32_t i = 0; i < count; ++i)
+                    ASSERT_EQ(texels[static_cast<std::size_t>(i)], i);
             }
         }
     }

@@ -3,6 +3,7 @@
 #include "core/TlfFormat.h"
 #include "core/TmfFormat.h"
 #include "interchange/EntryColour.h"
+#include "interchange/JpegFile.h"
 #include "interchange/PaletteFormats.h"
 
 #include <gtest/gtest.h>
@@ -240,6 +241,30 @@ TEST_F(PngFile, KeepsTheOrderOfEveryPaletteAndTheStepsOfGrey) {
                                              static_cast<std::int32_t>(i) / picture.width),
                       picture.indices[i]);
     }
+}
+
+TEST_F(PngFile, PhotographsAreTurnedAsAnotherProgramTurnsThem) {
+    using namespace std::string_literals;
+    ASSERT_TRUE(runs("convert -size 19x11 plasma: a.jpg"));
+    const Bytes photo = kept("a.jpg");
+    for (char turn = 0; turn <= 9; ++turn) {
+        // Before what turns it stands another entry.
+        const std::string exif = "\xFF\xE1\0.Exif\0\0II*\0\x08\0\0\0\2\0"
+                                 "\1\1\3\0\1\0\0\0\7\0\0\0\x12\1\3\0\1\0\0\0"s +
+                                 turn + "\0\0\0\0\0\0\0"s;
+        const auto bytes = std::as_bytes(std::span(exif));
+        Bytes turned = photo;
+        turned.insert(turned.begin() + 2, bytes.begin(), bytes.end());
+        keep("b.jpg", turned);
+        ASSERT_TRUE(runs("convert b.jpg -auto-orient -depth 8 rgba:raw"));
+        const auto read = readJpeg(turned);
+        ASSERT_TRUE(read.ok()) << read.error().detail;
+        const auto pixels = std::as_bytes(std::span(read.value().pixels));
+        EXPECT_TRUE(std::ranges::equal(pixels, kept("raw"))) << int{turn};
+        EXPECT_EQ(read.value().width, turn >= 5 && turn <= 8 ? 11 : 19);
+    }
+    for (std::size_t size = 0; size < photo.size(); size += 7)
+        EXPECT_FALSE(readJpeg(std::span(photo).first(size)).ok()) << size;
 }
 
 TEST_F(PngFile, DamagedFilesAreRefusedOrHoldWhatTheySay) {

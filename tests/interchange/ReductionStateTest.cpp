@@ -1,5 +1,7 @@
 #include "interchange/ReductionState.h"
 
+#include "platform/fake/FakeProfile.h"
+
 #include <gtest/gtest.h>
 
 namespace dyeworks {
@@ -36,6 +38,16 @@ TEST(ReductionState, OffersWhatCanBeHadTogether) {
         EXPECT_EQ(state.choices().colours, c.bits == 4 ? 16 : 256);
         EXPECT_EQ(state.firstEntry(), c.had == Target::CurrentBank ? 0x30 : 0);
         EXPECT_EQ(state.options().locked.size(), state.offersKept() ? 3U : 0U);
+        FakeProfile profile;
+        state.save(profile);
+        ReductionState again(current, 0x30);
+        again.load(profile);
+        EXPECT_EQ(again.choices(), state.choices());
+        for (const auto& [bank, had] : {std::pair{-1, 0}, {16, 15}}) {
+            wanted.bank = bank;
+            state.choose(wanted);
+            EXPECT_EQ(state.choices().bank, had);
+        }
         for (const char* wrong : {"16-", "4-3", "x", "1 2", "256", "-1", "1,,2"}) {
             wanted.kept = wrong;
             state.choose(wanted);

@@ -61,6 +61,9 @@ TEST(TextureSource, CompilesAsCAndCppAndHoldsTheImage) {
                     write(folder / "a.h", headerWithData(image, &palette, 32, options).value());
                 }
                 write(folder / "main.c", kProgram);
+                std::ifstream lines(folder / (isPair ? "a.c" : "a.h"));
+                for (std::string line; std::getline(lines, line);)
+                    ASSERT_LE(line.size(), 100U) << line;
                 // By hand, and not by the functions that the writer uses.
                 std::ostringstream wanted;
                 for (std::int32_t y = 0; y < 3; ++y)
@@ -110,6 +113,9 @@ TEST(TextureSource, RawPaletteStartsAligned) {
     EXPECT_EQ(bytes.value()[1], std::byte{0x30});
     EXPECT_EQ(bytes.value()[8], std::byte{0x12});
     EXPECT_EQ(bytes.value()[9], std::byte{0x34});
+    const auto source = headerWithData(image, &palette, 0, {"a", 8, true, true, false});
+    EXPECT_NE(source.value().find(" * palette: 16 entries of 16 bits, "), std::string::npos);
+    EXPECT_FALSE(rawBytes(image, nullptr, 0, {"", 8, false, true, false})) << "nothing is wanted";
 }
 
 } // namespace

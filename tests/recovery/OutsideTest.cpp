@@ -63,10 +63,11 @@ protected:
         palettes().setListener(nullptr);
         for (auto [path, bytes] : {std::pair("c:\\a.tmf", imageOf(1)),
                                    {"c:\\b.tlf", paletteOf(1)},
+                                   {"c:\\d.tlf", paletteOf(1)},
                                    {"c:\\c.tpf", std::string("A = 1\r\nNOTE = 1\r\n")}})
             fake_.files.putFile(path, bytes);
         EXPECT_TRUE(image_.onOpenDocument("c:\\a.tmf") && palettes().openPalette("c:\\b.tlf") &&
-                    project_.onOpenDocument("c:\\c.tpf"));
+                    palettes().openPalette("c:\\d.tlf") && project_.onOpenDocument("c:\\c.tpf"));
         image_.setPathName("c:\\a.tmf");
         EXPECT_TRUE(project_.save());
         projectText_ = fake_.files.textOf("c:\\c.tpf").value();
@@ -75,8 +76,6 @@ protected:
     ~Outside() override { projectHost_.project = nullptr; }
 
     PaletteSet& palettes() { return host_.palettes; }
-    TextureLookupTable& palette() { return *palettes().lookup("c:\\b.tlf"); }
-
     void makeSubjects() {
         subjects_.push_back({"c:\\a.tmf", &image_, imageOf,
                              [this] {
@@ -91,16 +90,7 @@ protected:
                              },
                              [this] { image_.Undo(); }, [this] { return image_.save(); },
                              [this] { return image_.hasUnsavedChanges(); }});
-        subjects_.push_back({"c:\\b.tlf", nullptr, paletteOf,
-                             [this] { return static_cast<int>(palette().table.getEntry(0)); },
-                             [this](int value) {
-                                 ASSERT_TRUE(palette().beginEdit());
-                                 palette().setEntry(0, static_cast<std::uint16_t>(value));
-                                 palette().commitEdit();
-                             },
-                             [this] { palette().undo(); },
-                             [this] { return palettes().savePalette("c:\\b.tlf", true); },
-                             [this] { return palette().hasUnsavedChanges(); }});
+        addPalette("c:\\b.tlf");
         subjects_.push_back({"c:\\c.tpf", &project_,
                              [this](int value) {
                                  std::string text = projectText_;
@@ -115,6 +105,19 @@ protected:
                              [this](int value) { project_.SetValue("NOTE", std::to_string(value)); }, nullptr,
                              [this] { return project_.save(); },
                              [this] { return project_.hasUnsavedChanges(); }});
+        addPalette("c:\\d.tlf");
+    }
+    void addPalette(const std::string& path) {
+        TextureLookupTable& palette = *palettes().lookup(path);
+        subjects_.push_back(
+            {path, nullptr, paletteOf, [&palette] { return static_cast<int>(palette.table.getEntry(0)); },
+             [&palette](int value) {
+                 ASSERT_TRUE(palette.beginEdit());
+                 palette.setEntry(0, static_cast<std::uint16_t>(value));
+                 palette.commitEdit();
+             },
+             [&palette] { palette.undo(); }, [this, path] { return palettes().savePalette(path, true); },
+             [&palette] { return palette.hasUnsavedChanges(); }});
     }
 
     int any(int below) { return static_cast<int>(random_() % static_cast<unsigned>(below)); }
@@ -131,7 +134,7 @@ protected:
     void settle() { EXPECT_FALSE(watch_.look(false) && watch_.look(false)); }
     const OutsideWatch::Notice* noticeOf(const Subject& subject) const {
         for (const OutsideWatch::Notice& notice : watch_.notices()) {
-            if (notice.document == subject.document)
+            if (notice.path == subject.path)
                 return &notice;
         }
         return nullptr;
@@ -274,8 +277,8 @@ protected:
 
 TEST_F(Outside, RandomWorkOfSeveralNeitherLosesNorReportsWhatItShouldNot) {
     remember();
-    for (int i = 0; i < 600 && !HasFatalFailure(); ++i) {
-        Subject& subject = subjects_[static_cast<std::size_t>(any(3))];
+    for (int i = 0; i < 800 && !HasFatalFailure(); ++i) {
+        Subject& subject = subjects_[static_cast<std::size_t>(any(4))];
         step(subject);
         if (any(2) == 0) {
             settle();
@@ -324,7 +327,7 @@ TEST_F(Outside, WhatIsUnchangedFollowsItsFileByItselfOnceThatIsWhole) {
     (void)watch_.look(true);
     EXPECT_THAT(watch_.takeReloaded(), ElementsAre("c:\\a.tmf"));
     EXPECT_THAT(fake_.messages.shown, IsEmpty());
-    EXPECT_THAT(fake_.fileWatcher.watched, ElementsAre("c:\\a.tmf", "c:\\b.tlf", "c:\\c.tpf"));
+    EXPECT_THAT(fake_.fileWatcher.watched, ElementsAre("c:\\a.tmf", "c:\\b.tlf", "c:\\c.tpf", "c:\\d.tlf"));
 }
 
 } // namespace

@@ -175,13 +175,22 @@ TEST_F(Recovery, RandomWorkIsOfferedAsItWasAndNothingElse) {
 TEST_F(Recovery, WaitsForAPauseButNotForEver) {
     open();
     RecoveryKeeper::Clock::time_point now;
+    edit(20);
+    (void)keeper_->look(now);
+    (void)keeper_->look(now += milliseconds(1999));
+    EXPECT_FALSE(std::filesystem::exists(base_)) << "the pause is too short";
+    (void)keeper_->look(now += milliseconds(1));
+    crash();
+    EXPECT_THAT(offered(), SizeIs(1));
+    PosixStateFolder(base_).left().front()->discard();
+    start();
     // A change each second: kept after fifteen, with what was changed by then.
-    for (std::uint32_t second = 1; second < 15; ++second) {
+    for (std::uint32_t second = 1; second < 16; ++second) {
         edit(second);
         (void)keeper_->look(now += milliseconds(1000));
     }
-    EXPECT_FALSE(std::filesystem::exists(base_)) << "nothing has been written yet";
-    (void)keeper_->look(now += milliseconds(1000));
+    EXPECT_TRUE(std::filesystem::is_empty(base_)) << "nothing has been written yet";
+    edit(0);
     (void)keeper_->look(now += milliseconds(1000));
     crash();
     EXPECT_THAT(offered(), SizeIs(1));
