@@ -25,6 +25,8 @@ struct Sums {
     }
 
     [[nodiscard]] double error() const noexcept {
+        if (weight <= 0)
+            return 0;
         return std::max(0.0,
                         squares - (point[0] * point[0] + point[1] * point[1] + point[2] * point[2]) / weight);
     }

@@ -303,6 +303,7 @@ void RecoveryKeeper::mayHang(std::function<void()> then) {
 }
 
 void RecoveryKeeper::holdUnsaved() {
+    settleHeld();
     // A copy that is being written must stay as it is. What cannot be had soon is kept as it last was.
     if (!writer_.waitUntilIdle(kPatience))
         return;
