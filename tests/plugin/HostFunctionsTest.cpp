@@ -107,6 +107,7 @@ TEST_F(HostFunctions, HandOutCopiesAndTakeOnlyWhatCanBeUsed) {
     ASSERT_NE(table, nullptr);
     table->entries[3] = 0x1234;
     EXPECT_NE(palettes_.lookup("")->table.getEntry(3), 0x1234);
+    EXPECT_EQ(DW_setTLF("", nullptr), 0U);
     const std::string key = palettes_.currentKey;
     palettes_.setListener(this);
     EXPECT_EQ(DW_setTLF("", table.get()), 1U);

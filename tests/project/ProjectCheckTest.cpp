@@ -4,6 +4,8 @@
 #include "core/TmfFormat.h"
 #include "platform/fake/FakePlatform.h"
 #include "project/CTPFFile.h"
+#include "project/ProjectCheckRun.h"
+#include "project/TextureFolders.h"
 
 #include <gtest/gtest.h>
 
@@ -17,6 +19,7 @@
 #include <set>
 #include <span>
 #include <string>
+#include <thread>
 #include <unistd.h>
 #include <vector>
 
@@ -208,6 +211,32 @@ TEST(ProjectCheck, TellsOfFoldersAndFollowsNoLinkInCircles) {
                                                    {P::FolderMissing, "", "c:\\gone"},
                                                    {P::FolderOutside, "", "c:\\gone"},
                                                    {P::FolderOutside, "", "c:\\out", true}}));
+    ProjectCheckRun run(file, {});
+    while (!run.isDone())
+        std::this_thread::yield();
+    EXPECT_EQ(run.takeFindings(), *found);
+    EXPECT_EQ(run.thousandths(), 1000);
+}
+
+TEST(TextureFolders, AreSearchedAsDeepAsToldWhileTheyHoldFew) {
+    FakePlatform fake;
+    fake.files.putFile("c:\\p\\a.tmf", "");
+    fake.files.putFile("c:\\p\\q\\B.TLF", "");
+    fake.files.putFile("c:\\p\\q\\r\\c.tmf", "");
+    fake.files.putFile("c:\\p\\q\\.git\\c.tmf", "");
+    const auto found = [](int depth, std::size_t most) {
+        TextureFolders folders;
+        folders.setMostEntries(most);
+        folders.add("c:\\p", depth);
+        while (folders.step()) {
+        }
+        return folders.files().size();
+    };
+    EXPECT_EQ(found(0, 99), 1U);
+    EXPECT_EQ(found(1, 99), 2U);
+    EXPECT_EQ(found(9, 99), 3U);
+    EXPECT_EQ(found(9, 4), 2U) << "two entries in each of the first two folders";
+    EXPECT_EQ(found(9, 1), 1U);
 }
 
 } // namespace
