@@ -183,8 +183,15 @@ TEST(ProjectCheck, FindsExactlyWhatWasDamaged) {
         DamagedProject project(seed);
         TextureRules rules;
         rules.powersOfTwo = true;
-        const auto found = checkProject(project.file, rules);
+        std::vector<int> thousandths{0};
+        const auto found = checkProject(project.file, rules, [&](int now) {
+            thousandths.push_back(now);
+            return true;
+        });
         ASSERT_TRUE(found);
+        EXPECT_TRUE(std::ranges::is_sorted(thousandths));
+        EXPECT_EQ(thousandths.back(), 1000);
+        EXPECT_GT(std::set(thousandths.begin(), thousandths.end()).size(), 60U);
         std::multiset<std::string> words;
         for (const ProjectFinding& each : *found)
             words.insert(DamagedProject::words(each));

@@ -88,6 +88,15 @@ TEST_P(MovedFolders, AreFoundFromOneOfTheirFilesAndGoBackByteByByte) {
     EXPECT_EQ(document_.projectFile().fileText(), before);
     document_.RevertCheck();
     EXPECT_EQ(document_.projectFile().fileText(), after);
+    // Further repairs go back together with it, those of the next check alone.
+    document_.Repair({});
+    document_.RevertCheck();
+    EXPECT_EQ(document_.projectFile().fileText(), before);
+    document_.RevertCheck();
+    document_.BeginCheck();
+    document_.Repair({});
+    document_.RevertCheck();
+    EXPECT_EQ(document_.projectFile().fileText(), after);
 }
 
 INSTANTIATE_TEST_SUITE_P(Moves, MovedFolders, testing::Range(0U, 4U));
