@@ -123,6 +123,23 @@ TEST_F(ViewOptions, RepeatKeepsTheImageWhereItIsAndComesBack) {
     EXPECT_EQ(shown.scroll, (Point{30, 50}));
 }
 
+TEST(DrawingOptions, ReturnFromTheSettings) {
+    const FakePlatform fake;
+    restoreDrawingOptions();
+    EXPECT_TRUE(drawingOptions().plain());
+    for (int n = 0; n < 16; ++n) {
+        const DrawingOptions wanted{{n + 1, (n & 1) != 0}, (n & 2) != 0, (n & 4) != 0, (n & 8) != 0};
+        setDrawingOptions(wanted);
+        {
+            const FakePlatform other;
+            setDrawingOptions({});
+        }
+        restoreDrawingOptions();
+        EXPECT_EQ(drawingOptions(), wanted) << n;
+    }
+    setDrawingOptions({});
+}
+
 TEST(BrushOutline, IsTheRingOfPixelsAroundTheTexels) {
     constexpr std::int32_t kSide = 60;
     constexpr std::uint32_t kGrey = 0xff808080;
