@@ -174,6 +174,14 @@ TEST_F(DocFile, WhatCannotBeOpenedIsToldWithTheReasonAndLeavesNothingBehind) {
     EXPECT_TRUE(host.palettes.palettes.empty());
 }
 
+TEST_F(DocFile, WhatCameFromElsewhereIsUnsavedWithAllItsStepsTakenBack) {
+    TmfImage image;
+    ASSERT_TRUE(image.create(4, 4, 4) && document.CreateFrom(image));
+    pixel(1, 1, 5);
+    EXPECT_TRUE(document.Undo() && document.hasUnsavedChanges());
+    EXPECT_TRUE(document.title().ends_with(" * "));
+}
+
 TEST_F(DocFile, EveryDepthOpensAndIsSavedAsABitmapOnly) {
     for (const int bits : {1, 16, 24, 32}) {
         SCOPED_TRACE(bits);

@@ -2,11 +2,14 @@
 
 #include "core/TlfFormat.h"
 #include "core/TmfFormat.h"
+#include "framework/PathText.h"
 #include "platform/fake/FakePlatform.h"
 #include "project/CTPFFile.h"
+#include "project/FindingTexts.h"
 #include "project/ProjectCheckRun.h"
 #include "project/TextureFolders.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -28,6 +31,7 @@ namespace {
 
 using P = ProjectProblem;
 
+const Numeral kPlain = [](std::int64_t number) { return std::to_string(number); };
 const std::string kTex = "c:\\p\\tex\\";
 const std::string kPal = "c:\\p\\pal\\";
 
@@ -195,6 +199,14 @@ TEST(ProjectCheck, FindsExactlyWhatWasDamaged) {
         std::multiset<std::string> words;
         for (const ProjectFinding& each : *found)
             words.insert(DamagedProject::words(each));
+        for (const ProjectFinding& each : *found) {
+            const FindingWords said = wordsOf(each, project.file, kPlain);
+            PictureEntry entry;
+            const bool ofPicture = project.file.GetPicture(each.picture, entry);
+            EXPECT_EQ(said.source, fileNameOf(ofPicture ? entry.tmfFile : each.file));
+            EXPECT_THAT(said.place, testing::HasSubstr(ofPicture ? each.picture : displayPath("c:\\p\\tex")));
+            EXPECT_EQ(said.place.find(".t"), std::string::npos);
+        }
         std::vector<std::string> differ;
         std::ranges::set_symmetric_difference(words, project.expected, std::back_inserter(differ));
         EXPECT_EQ(differ, std::vector<std::string>()) << seed;
@@ -218,6 +230,8 @@ TEST(ProjectCheck, TellsOfFoldersAndFollowsNoLinkInCircles) {
                                                    {P::FolderMissing, "", "c:\\gone"},
                                                    {P::FolderOutside, "", "c:\\gone"},
                                                    {P::FolderOutside, "", "c:\\out", true}}));
+    for (const ProjectFinding& each : *found)
+        EXPECT_EQ(wordsOf(each, file, kPlain).place, displayPath(each.file));
     ProjectCheckRun run(file, {});
     while (!run.isDone())
         std::this_thread::yield();
