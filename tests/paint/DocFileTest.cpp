@@ -174,6 +174,30 @@ TEST_F(DocFile, WhatCannotBeOpenedIsToldWithTheReasonAndLeavesNothingBehind) {
     EXPECT_TRUE(host.palettes.palettes.empty());
 }
 
+TEST_F(DocFile, ReloadingTakesWhatTheFileHoldsWhateverItsKindAndIsAStep) {
+    ASSERT_TRUE(document.save());
+    for (const std::uint16_t bits : {std::uint16_t{8}, std::uint16_t{4}}) {
+        for (const std::int32_t height : {12, 9}) {
+            CDyeworksDoc other(host);
+            other.canvas().Create(16, height, 1, bits);
+            other.canvas().PutPixel(3, 3, 9);
+            other.setPathName(document.pathName());
+            ASSERT_TRUE(other.save());
+            document.ClearUndo();
+            const auto before = pixels();
+            ASSERT_TRUE(document.reloadFile());
+            EXPECT_EQ(document.canvas().bitsPerPixel(), bits);
+            EXPECT_TRUE(std::ranges::equal(document.canvas().pixelRows(), other.canvas().pixelRows()));
+            EXPECT_FALSE(document.hasUnsavedChanges());
+            EXPECT_EQ(document.edits().steps->count(), 1);
+            document.Undo();
+            EXPECT_EQ(pixels(), before);
+            EXPECT_TRUE(document.hasUnsavedChanges());
+            document.Redo();
+        }
+    }
+}
+
 TEST_F(DocFile, WhatCameFromElsewhereIsUnsavedWithAllItsStepsTakenBack) {
     TmfImage image;
     ASSERT_TRUE(image.create(4, 4, 4) && document.CreateFrom(image));
