@@ -1,4 +1,5 @@
 #include "DocTestHost.h"
+#include "paint/BmpFormat.h"
 
 #include <gmock/gmock.h>
 
@@ -199,11 +200,20 @@ TEST_F(DocFile, ReloadingTakesWhatTheFileHoldsWhateverItsKindAndIsAStep) {
 }
 
 TEST_F(DocFile, WhatCameFromElsewhereIsUnsavedWithAllItsStepsTakenBack) {
+    fill(0, 0, 7);
+    document.setPathName("c:\\x.bmp");
+    ASSERT_TRUE(document.save());
+    const auto bytes = platform.files.bytesOf("c:\\x.bmp");
+    const auto bitmap = parseBmp(*bytes);
     TmfImage image;
-    ASSERT_TRUE(image.create(4, 4, 4) && document.CreateFrom(image));
-    pixel(1, 1, 5);
-    EXPECT_TRUE(document.Undo() && document.hasUnsavedChanges());
-    EXPECT_TRUE(document.title().ends_with(" * "));
+    ASSERT_TRUE(bitmap && image.create(4, 4, 4));
+    for (const bool plain : {true, false}) {
+        ASSERT_TRUE(plain ? document.CreateFrom(image) : document.CreateFrom(bitmap.value()));
+        EXPECT_EQ(document.canvas().GetPixel(3, 3), plain ? 0U : 7U);
+        pixel(1, 1, 5);
+        EXPECT_TRUE(document.Undo() && document.hasUnsavedChanges());
+        EXPECT_TRUE(document.title().ends_with(" * "));
+    }
 }
 
 TEST_F(DocFile, EveryDepthOpensAndIsSavedAsABitmapOnly) {
