@@ -239,6 +239,15 @@ TEST(ProjectCheck, TellsOfFoldersAndFollowsNoLinkInCircles) {
     EXPECT_EQ(run.thousandths(), 1000);
 }
 
+TEST(RuleTexts, OneTexelHasAnIndexAndSeveralAreCounted) {
+    const FakePlatform fake;
+    const auto said = [](std::int64_t texels) {
+        return reasonText({Rule::IndexesInPalette, {}, {}, {7, texels, 4}}, kPlain);
+    };
+    EXPECT_EQ(said(1), "Has index 7, the palette has 4 entries");
+    EXPECT_EQ(said(2), "2 texels have index 7, the palette has 4 entries");
+}
+
 TEST(TextureFolders, AreSearchedAsDeepAsToldWhileTheyHoldFew) {
     FakePlatform fake;
     fake.files.putFile("c:\\p\\a.tmf", "");
