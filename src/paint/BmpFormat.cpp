@@ -3,6 +3,7 @@
 #include "platform/LittleEndian.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace dyeworks {
 
@@ -12,7 +13,7 @@ namespace {
 /// rows begin.
 Result<BmpImage, BmpError> cutOut(std::span<const std::byte> bitmap, const BitmapHeader& header,
                                   std::int64_t tableCount, std::int64_t rowsAt) {
-    const std::int64_t height = header.height < 0 ? -header.height : header.height;
+    const std::int64_t height = std::abs(header.height);
     if (header.width < 0 || header.width > BmpImage::kLongestSide || height > BmpImage::kLongestSide)
         return BmpError::BadSize;
 

@@ -42,7 +42,7 @@ struct EntryOrder {
     EntrySortKey key = EntrySortKey::Lightness;
     bool reversed = false;    ///< Sort: the other way round; what is equal keeps its order.
     bool insideBanks = false; ///< Sort, MergeTwins, Compact: each bank of 16 entries by itself.
-    EntrySet kept;            ///< Sort, MergeTwins, Compact: these stay, and so do their texels.
+    EntrySet kept = 0;        ///< Sort, MergeTwins, Compact: these stay, and so do their texels.
 };
 
 /// Where the entries go. Nothing when range or target do not lie in the palette, and when ranges that are to

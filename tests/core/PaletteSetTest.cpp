@@ -58,6 +58,10 @@ TEST_F(Palettes, NewOnesTakeTheAlphaAndStayUnmodified) {
     EXPECT_EQ(entry(15), 0xFFFE);
     EXPECT_FALSE(set.newPalette(-1, ColourType::Rgba, 0));
     EXPECT_EQ(set.palettes.size(), 3U);
+    EXPECT_TRUE(state().ends_with(" tctc"));
+    set.setListener(nullptr);
+    ASSERT_TRUE(set.newPalette(16, ColourType::Ia, 0));
+    EXPECT_TRUE(state().ends_with(" "));
 }
 
 TEST_F(Palettes, OpeningAnOpenFileKeepsItsEditsAndMakesItCurrent) {

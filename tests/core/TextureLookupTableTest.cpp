@@ -107,6 +107,23 @@ TEST_F(PaletteFile, OpenTakesTheNameThenThePathThenAsks) {
     EXPECT_TRUE(fake.dialogs.shown[0].request.fileMustExist);
 }
 
+TEST_F(PaletteFile, ReloadingIsAStepWhereTheFileHoldsSomethingElse) {
+    ASSERT_TRUE(palette.save(kTablePath.c_str(), false));
+    TextureLookupTable other;
+    ASSERT_TRUE(other.open(kTablePath.c_str()));
+    EXPECT_TRUE(palette.reloadFile());
+    EXPECT_FALSE(palette.canUndo());
+    ASSERT_TRUE(other.setEntry(3, 0x1234) && other.save(nullptr, false));
+    palette.setEntry(4, 7);
+    EXPECT_TRUE(palette.reloadFile());
+    EXPECT_EQ(palette.table, other.table);
+    EXPECT_FALSE(palette.hasUnsavedChanges());
+    EXPECT_TRUE(palette.undo() && palette.hasUnsavedChanges());
+    EXPECT_EQ(palette.table.getEntry(4), 7);
+    fake.files.remove(kTablePath);
+    EXPECT_FALSE(palette.reloadFile());
+}
+
 TEST_F(PaletteFile, OnlyChangesMarkItModifiedAndThenItRefusesToOpen) {
     ASSERT_TRUE(palette.save(kTablePath.c_str(), false));
     EXPECT_FALSE(palette.setIntensity(0, 1) || palette.setEntry(16, 1));

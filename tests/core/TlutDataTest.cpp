@@ -82,4 +82,5 @@ TEST(TlutData, CopiesTheEntriesThatBothHave) {
     EXPECT_THAT(entriesOf(large), ElementsAre(7, 7, 9, 9));
     EXPECT_EQ(small.copyEntriesFrom(large), 2);
     EXPECT_EQ(small.copyEntriesFrom(nullptr) + small.copyEntriesFrom(TlutData()), 0);
+    EXPECT_EQ(TlutData(), TlutData());
 }

@@ -1,5 +1,9 @@
 #include "core/UndoHistory.h"
 
+#include "core/JointStep.h"
+#include "core/StepList.h"
+#include "platform/fake/FakePlatform.h"
+
 #include <gmock/gmock.h>
 
 #include <map>
@@ -27,6 +31,32 @@ struct Assignment : UndoRecord {
     std::uint64_t bytes() const override { return 10; }
 
     int before, after;
+};
+
+/// A value with a history.
+struct Counter : JointDocument {
+    explicit Counter(std::string path)
+        : name(std::move(path)) {}
+
+    std::string jointName() const override { return name; }
+    const EditHistory& jointHistory() const override { return history; }
+    void settle() override {}
+    bool moveAlone(StepWay way) override {
+        const bool can = way == StepWay::Back ? history.canUndo() : history.canRedo();
+        return (way == StepWay::Back ? history.undo(&value) : history.redo(&value)), can;
+    }
+    void take(std::unique_ptr<UndoRecord> record) override {
+        record->redo(&value);
+        history.add(std::move(record));
+    }
+    void showMoved() override { ++shown; }
+    void showAlone() override { ++shown; }
+    void set(int to) { take(std::make_unique<Assignment>(value, to)); }
+
+    std::string name;
+    EditHistory history{MessageIcon::Warning};
+    int value = 0;
+    int shown = 0;
 };
 
 } // namespace
@@ -70,4 +100,73 @@ TEST(UndoHistory, AgreesWithAListOfStatesOverRandomSteps) {
             ASSERT_EQ(valueAtPosition.try_emplace(history.position(), value).first->second, value);
         }
     }
+}
+
+TEST(JointStep, AsksWithTheDocumentsThatHaveToGoAlong) {
+    FakePlatform fake;
+    Counter a("c:\\a\\x.tmf"), b("c:\\b\\x.tmf");
+    auto c = std::make_unique<Counter>("c:\\y.tlf");
+    const auto values = [&] { return std::vector{a.value, b.value, c == nullptr ? -1 : c->value}; };
+    const auto move = [&](Counter& document, StepWay way, MessageAnswer answer) {
+        fake.messages.shown.clear();
+        fake.messages.onShow = [&, answer] { fake.messages.answerWith(answer); };
+        return JointStep::move(document, way);
+    };
+    const auto undo = [&](Counter& document, MessageAnswer answer = MessageAnswer::No) {
+        return move(document, StepWay::Back, answer);
+    };
+    const auto redo = [&](Counter& document, MessageAnswer answer = MessageAnswer::No) {
+        return move(document, StepWay::Forward, answer);
+    };
+    const auto asked = [&] { return fake.messages.lastText(); };
+    c->set(5);
+    std::vector<JointStep::Change> changes;
+    for (Counter* each : {&a, &b, c.get()})
+        changes.push_back({each, std::make_unique<Assignment>(each->value, 1)});
+    ASSERT_TRUE(JointStep::carryOut(std::move(changes)));
+    EXPECT_EQ(a.shown, 1);
+    b.set(2);
+    b.set(3);
+    c->set(2);
+    EXPECT_FALSE(redo(a));
+    EXPECT_FALSE(undo(a));
+    EXPECT_EQ(values(), (std::vector{1, 3, 2}));
+    EXPECT_EQ(asked(), "This step changed several documents together.\n\nThere are later steps in:\n    "
+                       "c:\\b\\x.tmf (2)\n    y.tlf (1)\n\nDo you want to take those back, too?");
+    EXPECT_TRUE(undo(a, MessageAnswer::Yes));
+    EXPECT_EQ(values(), (std::vector{0, 0, 5}));
+    EXPECT_EQ(b.shown, 2);
+    EXPECT_TRUE(undo(*c));
+    EXPECT_FALSE(redo(b));
+    EXPECT_EQ(asked(), "This step changes several documents together.\n\nEarlier steps have been taken back "
+                       "in:\n    y.tlf (1)\n\nDo you want to do those again, too?");
+    EXPECT_TRUE(redo(b, MessageAnswer::Yes));
+    EXPECT_TRUE(redo(b));
+    EXPECT_EQ(values(), (std::vector{1, 2, 1}));
+    EXPECT_TRUE(undo(b));
+    EXPECT_TRUE(undo(b));
+    EXPECT_TRUE(redo(a));
+    EXPECT_EQ(asked(), "") << "all stand at it";
+    EXPECT_EQ(values(), (std::vector{1, 1, 1}));
+
+    c.reset();
+    a.set(4);
+    const auto positionOf = [&](std::size_t row) { return stepsOf(a.history).at(row).position; };
+    fake.messages.onShow = [&] { fake.messages.answerWith(MessageAnswer::No); };
+    EXPECT_FALSE(JointStep::moveTo(a, positionOf(0)));
+    EXPECT_EQ(a.shown, 6) << "what was done is seen before the question";
+    EXPECT_EQ(values(), (std::vector{1, 1, -1}));
+    EXPECT_EQ(asked(), "This step changed several documents together.\n\nNo longer part of it, and left as "
+                       "they are, because they were closed or their history has dropped the step:\n    "
+                       "y.tlf\n\nDo you want to take it back in the others?");
+    fake.messages.onShow = [&] { fake.messages.answerWith(MessageAnswer::Yes); };
+    EXPECT_TRUE(JointStep::moveTo(a, positionOf(0)));
+    EXPECT_EQ(values(), (std::vector{0, 0, -1}));
+    EXPECT_FALSE(redo(a));
+    EXPECT_THAT(asked(), testing::EndsWith("Do you want to do it again in the others?"));
+    EXPECT_FALSE(JointStep::moveTo(a, 99));
+    fake.messages.onShow = [&] { fake.messages.answerWith(MessageAnswer::Yes); };
+    EXPECT_TRUE(JointStep::moveTo(a, positionOf(2)));
+    EXPECT_EQ(values(), (std::vector{4, 1, -1}));
+    EXPECT_EQ(a.shown, 9);
 }

@@ -1,4 +1,5 @@
 #include "DocTestHost.h"
+#include "paint/BmpFormat.h"
 
 #include <gmock/gmock.h>
 
@@ -172,6 +173,47 @@ TEST_F(DocFile, WhatCannotBeOpenedIsToldWithTheReasonAndLeavesNothingBehind) {
     huge.bitsPerPixel = 32;
     EXPECT_FALSE(document.CreateFrom(huge));
     EXPECT_TRUE(host.palettes.palettes.empty());
+}
+
+TEST_F(DocFile, ReloadingTakesWhatTheFileHoldsWhateverItsKindAndIsAStep) {
+    ASSERT_TRUE(document.save());
+    for (const std::uint16_t bits : {std::uint16_t{8}, std::uint16_t{4}}) {
+        for (const std::int32_t height : {12, 9}) {
+            CDyeworksDoc other(host);
+            other.canvas().Create(16, height, 1, bits);
+            other.canvas().PutPixel(3, 3, 9);
+            other.setPathName(document.pathName());
+            ASSERT_TRUE(other.save());
+            document.ClearUndo();
+            const auto before = pixels();
+            ASSERT_TRUE(document.reloadFile());
+            EXPECT_EQ(document.canvas().bitsPerPixel(), bits);
+            EXPECT_TRUE(std::ranges::equal(document.canvas().pixelRows(), other.canvas().pixelRows()));
+            EXPECT_FALSE(document.hasUnsavedChanges());
+            EXPECT_EQ(document.edits().steps->count(), 1);
+            document.Undo();
+            EXPECT_EQ(pixels(), before);
+            EXPECT_TRUE(document.hasUnsavedChanges());
+            document.Redo();
+        }
+    }
+}
+
+TEST_F(DocFile, WhatCameFromElsewhereIsUnsavedWithAllItsStepsTakenBack) {
+    fill(0, 0, 7);
+    document.setPathName("c:\\x.bmp");
+    ASSERT_TRUE(document.save());
+    const auto bytes = platform.files.bytesOf("c:\\x.bmp");
+    const auto bitmap = parseBmp(*bytes);
+    TmfImage image;
+    ASSERT_TRUE(bitmap && image.create(4, 4, 4));
+    for (const bool plain : {true, false}) {
+        ASSERT_TRUE(plain ? document.CreateFrom(image) : document.CreateFrom(bitmap.value()));
+        EXPECT_EQ(document.canvas().GetPixel(3, 3), plain ? 0U : 7U);
+        pixel(1, 1, 5);
+        EXPECT_TRUE(document.Undo() && document.hasUnsavedChanges());
+        EXPECT_TRUE(document.title().ends_with(" * "));
+    }
 }
 
 TEST_F(DocFile, EveryDepthOpensAndIsSavedAsABitmapOnly) {

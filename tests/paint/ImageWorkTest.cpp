@@ -75,6 +75,7 @@ TEST_F(ImageWorkCommands, ADepthShowsWhatTheEyeSawThereAndBack) {
 }
 
 TEST_F(ImageWorkCommands, IndexesOutsideTheBankAreAskedAboutAndTakeItsNearestColour) {
+    host.palettes.lookup("")->setAlpha(0x38, 0);
     fill(0, 0, 0x35);
     pixel(1, 2, 0x96);
     const auto before = pixels();
@@ -87,8 +88,8 @@ TEST_F(ImageWorkCommands, IndexesOutsideTheBankAreAskedAboutAndTakeItsNearestCol
     host.answer = ReduceDepth{3};
     run(ID_IMAGE_TO_4_BITS);
     EXPECT_EQ(document.canvas().GetPixel(0, 0), 5U);
-    // Red 22 and green 18: entry 8 of the bank has 24 and 7, entry 6 has 22 and 6.
-    EXPECT_EQ(document.canvas().GetPixel(1, 2), 8U);
+    // Red 22 and green 18: entry 6 of the bank has 22 and 6; entry 8, 24 and 7, is transparent.
+    EXPECT_EQ(document.canvas().GetPixel(1, 2), 6U);
 
     std::array<ShownColour, 256> colours{};
     colours[0x20] = {9, 9, 9, 0};

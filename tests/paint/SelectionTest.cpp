@@ -1,5 +1,6 @@
 #include "CanvasTesting.h"
 #include "ViewTestWindow.h"
+#include "platform/StringId.h"
 
 #include <gmock/gmock.h>
 
@@ -95,19 +96,33 @@ TEST_F(Selecting, WhatFloatsIsPartOfTheWork) {
 }
 
 TEST_F(Selecting, WhatFloatsTakesTheColoursThatTheImageTakes) {
-    openPalette(256);
-    document.Attach();
-    TextureLookupTable& palette = *host.palettes.lookup("");
-    ASSERT_TRUE(document.canvas().CopyToClipboard({2, 2, 4, 3}));
-    view.runCommand(ID_EDIT_PASTE);
-    const auto redOf7 = [&] { return view.selection().look(0)->floating->colourTable()[7 * 4 + 2]; };
-    TextureLookupTable passing(palette);
-    passing.table.setRed(7, 4);
-    document.PaletteChanged(document.attachedName(), &passing);
-    EXPECT_EQ(redOf7(), 4 << 3) << "previewed";
-    palette.table.setRed(7, 5);
-    document.RefreshPalette();
-    EXPECT_EQ(redOf7(), 5 << 3);
+    for (const std::uint16_t bits : {std::uint16_t{4}, std::uint16_t{8}}) {
+        document.canvas().Create(16, 12, 1, bits);
+        fill(0, 0, 7);
+        openPalette(256);
+        document.Attach();
+        TextureLookupTable& palette = *host.palettes.lookup("");
+        ASSERT_TRUE(document.canvas().CopyToClipboard({2, 2, 4, 3}));
+        view.runCommand(ID_EDIT_PASTE);
+        EXPECT_EQ(host.panes[kMessagePane], "");
+        const auto redOf7 = [&] { return view.selection().look(0)->floating->colourTable()[7 * 4 + 2]; };
+        TextureLookupTable passing(palette);
+        passing.table.setRed(7, 4);
+        document.PaletteChanged(document.attachedName(), &passing);
+        EXPECT_EQ(redOf7(), 4 << 3) << "previewed";
+        palette.table.setRed(7, 5);
+        document.RefreshPalette();
+        EXPECT_EQ(redOf7(), 5 << 3);
+        view.runCommand(ID_EDIT_PASTE);
+        EXPECT_EQ(host.panes[kMessagePane], text(StringId::PastedColoursDiffer));
+        // Of colours that no texel has.
+        document.canvas().FillBox(2, 2, 4, 3, 8);
+        ASSERT_TRUE(document.canvas().CopyToClipboard({2, 2, 4, 3}));
+        palette.table.setRed(7, 6);
+        document.RefreshPalette();
+        view.runCommand(ID_EDIT_PASTE);
+        EXPECT_EQ(host.panes[kMessagePane], "");
+    }
 }
 
 TEST_F(Selecting, CutLeavesWhatTheClipboardDoesNotTake) {

@@ -1,6 +1,10 @@
 #include "DocTestHost.h"
+#include "core/JointStep.h"
 #include "paint/IndexThumbnail.h"
+#include "paint/RenumberRecord.h"
 
+#include <algorithm>
+#include <numeric>
 #include <random>
 
 namespace dyeworks {
@@ -36,7 +40,7 @@ protected:
     std::int32_t upTo(std::int32_t end) {
         return static_cast<std::int32_t>(random_() % static_cast<unsigned>(end));
     }
-    std::uint32_t value() { return static_cast<std::uint32_t>(upTo(GetParam() == 4 ? 16 : 256)); }
+    std::uint32_t value() { return static_cast<std::uint32_t>(upTo(1 << GetParam())); }
 
     void stroke(bool commit) {
         TextureCanvas& canvas = document_.canvas();
@@ -52,8 +56,17 @@ protected:
         }
         commit ? document_.CommitEdit() : document_.DropEdit();
     }
+    std::vector<std::uint32_t> texels() const {
+        const TextureCanvas& canvas = document_.canvas();
+        std::vector<std::uint32_t> all;
+        for (std::int32_t y = 0; y < canvas.height(); ++y) {
+            for (std::int32_t x = 0; x < canvas.width(); ++x)
+                all.push_back(canvas.GetPixel(x, y));
+        }
+        return all;
+    }
     void anyStep() {
-        switch (upTo(9)) {
+        switch (upTo(10)) {
         case 0:
             document_.Undo();
             break;
@@ -82,6 +95,28 @@ protected:
                 canvas.FillBox(upTo(200), upTo(200), upTo(200), upTo(200), value());
             });
             break;
+        case 6: { // With a way back, or two values come together.
+            ByteTable map;
+            std::iota(map.begin(), map.end(), std::uint8_t{0});
+            const std::uint32_t from = value();
+            const std::uint32_t to = value();
+            map.at(from) = static_cast<std::uint8_t>(to);
+            if (upTo(2) == 0)
+                map.at(to) = static_cast<std::uint8_t>(from);
+            const std::vector<std::uint32_t> before = texels();
+            std::vector<JointStep::Change> changes;
+            changes.push_back({&document_.jointSide(),
+                               RenumberRecord::make(document_.canvas(), document_.texelCounts(), map)});
+            ASSERT_TRUE(JointStep::carryOut(std::move(changes)));
+            std::vector<std::uint32_t> wanted = before;
+            std::ranges::for_each(wanted, [&](std::uint32_t& texel) { texel = map.at(texel); });
+            ASSERT_EQ(texels(), wanted);
+            document_.Undo();
+            ASSERT_EQ(texels(), before);
+            document_.Redo();
+            ASSERT_EQ(texels(), wanted);
+            break;
+        }
         default:
             stroke(upTo(4) != 0);
         }
@@ -128,7 +163,7 @@ TEST_P(Counts, AnySequenceOfEditsLeavesWhatAFreshCountFinds) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Depths, Counts, testing::Values(std::uint16_t{4}, std::uint16_t{8}));
+INSTANTIATE_TEST_SUITE_P(Depths, Counts, testing::Values(1, 4, 8));
 
 } // namespace
 } // namespace dyeworks

@@ -216,6 +216,8 @@ TEST(TexelCursor, WalksToTheEdgesAndNoFurther) {
 }
 
 TEST_F(TexelCursorPlace, BeginsAtThePointerAndGoesWithItsFirstMove) {
+    EXPECT_TRUE(key(Key::Right));
+    EXPECT_EQ(keys.host.panes[1], "(14, 10) 100%") << "or else in the middle";
     keys.window.pointer = {7, 9};
     keys.view.PointerMoved({{7, 9}});
     EXPECT_EQ(keys.view.toldTexel(), "");

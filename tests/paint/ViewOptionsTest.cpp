@@ -1,5 +1,6 @@
 #include "CanvasTesting.h"
 #include "ViewTestWindow.h"
+#include "paint/BrushOutline.h"
 #include "paint/DrawingOptions.h"
 
 namespace dyeworks {
@@ -120,6 +121,60 @@ TEST_F(ViewOptions, RepeatKeepsTheImageWhereItIsAndComesBack) {
     again.view = nullptr;
     seen.runCommand(ID_VIEW_REPEAT);
     EXPECT_EQ(shown.scroll, (Point{30, 50}));
+}
+
+TEST(DrawingOptions, ReturnFromTheSettings) {
+    const FakePlatform fake;
+    restoreDrawingOptions();
+    EXPECT_TRUE(drawingOptions().plain());
+    for (int n = 0; n < 16; ++n) {
+        const DrawingOptions wanted{{n + 1, (n & 1) != 0}, (n & 2) != 0, (n & 4) != 0, (n & 8) != 0};
+        setDrawingOptions(wanted);
+        {
+            const FakePlatform other;
+            setDrawingOptions({});
+        }
+        restoreDrawingOptions();
+        EXPECT_EQ(drawingOptions(), wanted) << n;
+    }
+    setDrawingOptions({});
+}
+
+TEST(BrushOutline, IsTheRingOfPixelsAroundTheTexels) {
+    constexpr std::int32_t kSide = 60;
+    constexpr std::uint32_t kGrey = 0xff808080;
+    for (int n = 0; n < 2 * 3 * Brush::kMaxSize; ++n) {
+        const Brush brush{1 + n / 6, n % 2 == 0};
+        const std::int32_t zoom = 1 + n / 2 % 3;
+        std::vector<std::uint32_t> seen(kSide * kSide, kGrey), covered(kSide * kSide);
+        const auto at = [](std::vector<std::uint32_t> & pixels, std::int32_t x, std::int32_t y) -> auto& {
+            return pixels.at(static_cast<std::size_t>(y * kSide + x));
+        };
+        const Rect clip{3, 0, kSide, kSide};
+        drawBrushOutline({seen.data(), kSide, kSide, kSide, 0, 0}, clip, brush, {24, 27}, zoom);
+        for (const Rect& box : BrushSpot(brush).boxes()) {
+            for (std::int32_t y = 27 + box.top * zoom; y < 27 + (box.bottom + 1) * zoom; ++y) {
+                for (std::int32_t x = 24 + box.left * zoom; x < 24 + (box.right + 1) * zoom; ++x)
+                    at(covered, x, y) = 1;
+            }
+        }
+        Rect area{kSide, kSide, 0, 0};
+        for (std::int32_t y = 1; y < kSide - 1; ++y) {
+            for (std::int32_t x = 1; x < kSide - 1; ++x) {
+                bool ring = false;
+                for (std::int32_t i = 0; i < 9; ++i)
+                    ring = ring || at(covered, x - 1 + i % 3, y - 1 + i / 3) == 1;
+                ring = ring && at(covered, x, y) == 0;
+                if (ring)
+                    area = {std::min(area.left, x), std::min(area.top, y), std::max(area.right, x + 1),
+                            std::max(area.bottom, y + 1)};
+                const std::uint32_t dot = x / 2 % 2 == y / 2 % 2 ? 0xffffffff : 0xff000000;
+                ASSERT_EQ(at(seen, x, y), ring && x >= clip.left ? dot : kGrey)
+                    << x << ' ' << y << " of " << brush.size << " at " << zoom;
+            }
+        }
+        EXPECT_EQ(brushOutlineArea(brush, {24, 27}, zoom), area);
+    }
 }
 
 TEST_F(ViewOptions, WindowShowsWhatAPaintOfAllOfItWould) {

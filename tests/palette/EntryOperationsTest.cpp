@@ -36,13 +36,15 @@ TEST(EntryOperations, DoToARangeWhatTheChannelsOfEachEntrySay) {
         const EntryRange range{first, first + below(static_cast<int>(before.size()) - first)};
         const int length = range.last - range.first;
         const auto fill = static_cast<std::uint16_t>(below(65536));
-        TlutData ramp = tableOf(type, before), inverted = ramp, reversed = ramp, filled = ramp, same = ramp;
+        TlutData ramp = tableOf(type, before), inverted = ramp, reversed = ramp, filled = ramp, same = ramp,
+                 bright = ramp;
         rampEntries(ramp, range);
         invertEntries(inverted, range);
         reverseEntries(reversed, range);
         fillEntries(filled, range, fill);
         adjustEntries(same, range, {.channel = Channel::Blue});
         EXPECT_EQ(same, tableOf(type, before));
+        adjustEntries(bright, range, {.brightness = 100});
         const auto at = [&](int i) { return channelsOf(type, before[static_cast<std::size_t>(i)]); };
         for (int i = 0; i < static_cast<int>(before.size()); ++i) {
             const bool inside = i >= range.first && i <= range.last;
@@ -53,6 +55,7 @@ TEST(EntryOperations, DoToARangeWhatTheChannelsOfEachEntrySay) {
             // Alpha is the low bit of one kind and the low byte of the other; all above it is colour.
             const int colour = !inside ? 0 : type == ColourType::Rgba ? 0xfffe : 0xff00;
             EXPECT_EQ(inverted.getEntry(i), old ^ colour);
+            EXPECT_EQ(bright.getEntry(i), old | colour);
             if (!inside || length == 0) {
                 EXPECT_EQ(ramp.getEntry(i), old);
                 continue;

@@ -120,6 +120,7 @@ TEST_F(HostFunctions, HandOutCopiesAndTakeOnlyWhatCanBeUsed) {
     palettes_.setListener(nullptr);
     EXPECT_EQ(DW_setTLF("new.tlf", table.get()), 0U) << "only files that are there are written";
     fake_.files.putFile("c:\\p\\new.tlf", "");
+    EXPECT_EQ(DW_setTLF("new.tlf", nullptr), 0U);
     EXPECT_EQ(DW_setTLF("new.tlf", table.get()), 1U);
     const std::unique_ptr<::TlutData, void (*)(::TlutData*)> again(DW_getTLF("new.tlf"), DW_freePalette);
     ASSERT_NE(again, nullptr);

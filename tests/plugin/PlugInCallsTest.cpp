@@ -112,6 +112,15 @@ TEST_F(PlugInCalls, ImportTakesOnlyWhatIsNewAndRight) {
         std::fill_n(palette->entries, count, std::uint16_t{0x3F});
         return palette;
     };
+    const auto changes = []<typename Record, typename Value>(Value Record::*member,
+                                                             std::type_identity_t<Value> to) {
+        return [=](PictureIn in, auto) {
+            if constexpr (std::is_same_v<Record, ::TmfImage>)
+                in->image->*member = to;
+            else
+                in->palette->*member = to;
+        };
+    };
     struct Outcome {
         int texel = 0;
         int canvas = -1;   ///< Blue of its second colour.
@@ -177,12 +186,13 @@ TEST_F(PlugInCalls, ImportTakesOnlyWhatIsNewAndRight) {
              std::free(std::exchange(out->image->texels, in->image->texels));
          },
          {.failed = true}},
-        {"changed",
-         [](PictureIn in, auto) { in->image->height = 9, in->image->texels = nullptr; },
-         {.failed = true}},
-        {"changed palette",
-         [](PictureIn in, auto) { in->palette->count = 16, in->palette->entries = nullptr; },
-         {.failed = true}},
+        {"changed width", changes(&::TmfImage::width, 9), {.failed = true}},
+        {"changed height", changes(&::TmfImage::height, 9), {.failed = true}},
+        {"changed depth", changes(&::TmfImage::bits, 8), {.failed = true}},
+        {"changed texels", changes(&::TmfImage::texels, nullptr), {.failed = true}},
+        {"changed type", changes(&::TlutData::colourType, 0), {.failed = true}},
+        {"changed count", changes(&::TlutData::count, 16), {.failed = true}},
+        {"changed entries", changes(&::TlutData::entries, nullptr), {.failed = true}},
         {"throw",
          [](PictureIn in, auto) { DW_setTexel(in->image, 1, 0, 9), throw kThrows; },
          {.texel = 9, .failed = true}},

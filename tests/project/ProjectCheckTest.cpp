@@ -2,9 +2,14 @@
 
 #include "core/TlfFormat.h"
 #include "core/TmfFormat.h"
+#include "framework/PathText.h"
 #include "platform/fake/FakePlatform.h"
 #include "project/CTPFFile.h"
+#include "project/FindingTexts.h"
+#include "project/ProjectCheckRun.h"
+#include "project/TextureFolders.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -17,6 +22,7 @@
 #include <set>
 #include <span>
 #include <string>
+#include <thread>
 #include <unistd.h>
 #include <vector>
 
@@ -25,6 +31,7 @@ namespace {
 
 using P = ProjectProblem;
 
+const Numeral kPlain = [](std::int64_t number) { return std::to_string(number); };
 const std::string kTex = "c:\\p\\tex\\";
 const std::string kPal = "c:\\p\\pal\\";
 
@@ -180,11 +187,26 @@ TEST(ProjectCheck, FindsExactlyWhatWasDamaged) {
         DamagedProject project(seed);
         TextureRules rules;
         rules.powersOfTwo = true;
-        const auto found = checkProject(project.file, rules);
+        std::vector<int> thousandths{0};
+        const auto found = checkProject(project.file, rules, [&](int now) {
+            thousandths.push_back(now);
+            return true;
+        });
         ASSERT_TRUE(found);
+        EXPECT_TRUE(std::ranges::is_sorted(thousandths));
+        EXPECT_EQ(thousandths.back(), 1000);
+        EXPECT_GT(std::set(thousandths.begin(), thousandths.end()).size(), 60U);
         std::multiset<std::string> words;
         for (const ProjectFinding& each : *found)
             words.insert(DamagedProject::words(each));
+        for (const ProjectFinding& each : *found) {
+            const FindingWords said = wordsOf(each, project.file, kPlain);
+            PictureEntry entry;
+            const bool ofPicture = project.file.GetPicture(each.picture, entry);
+            EXPECT_EQ(said.source, fileNameOf(ofPicture ? entry.tmfFile : each.file));
+            EXPECT_THAT(said.place, testing::HasSubstr(ofPicture ? each.picture : displayPath("c:\\p\\tex")));
+            EXPECT_EQ(said.place.find(".t"), std::string::npos);
+        }
         std::vector<std::string> differ;
         std::ranges::set_symmetric_difference(words, project.expected, std::back_inserter(differ));
         EXPECT_EQ(differ, std::vector<std::string>()) << seed;
@@ -208,6 +230,43 @@ TEST(ProjectCheck, TellsOfFoldersAndFollowsNoLinkInCircles) {
                                                    {P::FolderMissing, "", "c:\\gone"},
                                                    {P::FolderOutside, "", "c:\\gone"},
                                                    {P::FolderOutside, "", "c:\\out", true}}));
+    for (const ProjectFinding& each : *found)
+        EXPECT_EQ(wordsOf(each, file, kPlain).place, displayPath(each.file));
+    ProjectCheckRun run(file, {});
+    while (!run.isDone())
+        std::this_thread::yield();
+    EXPECT_EQ(run.takeFindings(), *found);
+    EXPECT_EQ(run.thousandths(), 1000);
+}
+
+TEST(RuleTexts, OneTexelHasAnIndexAndSeveralAreCounted) {
+    const FakePlatform fake;
+    const auto said = [](std::int64_t texels) {
+        return reasonText({Rule::IndexesInPalette, {}, {}, {7, texels, 4}}, kPlain);
+    };
+    EXPECT_EQ(said(1), "Has index 7, the palette has 4 entries");
+    EXPECT_EQ(said(2), "2 texels have index 7, the palette has 4 entries");
+}
+
+TEST(TextureFolders, AreSearchedAsDeepAsToldWhileTheyHoldFew) {
+    FakePlatform fake;
+    fake.files.putFile("c:\\p\\a.tmf", "");
+    fake.files.putFile("c:\\p\\q\\B.TLF", "");
+    fake.files.putFile("c:\\p\\q\\r\\c.tmf", "");
+    fake.files.putFile("c:\\p\\q\\.git\\c.tmf", "");
+    const auto found = [](int depth, std::size_t most) {
+        TextureFolders folders;
+        folders.setMostEntries(most);
+        folders.add("c:\\p", depth);
+        while (folders.step()) {
+        }
+        return folders.files().size();
+    };
+    EXPECT_EQ(found(0, 99), 1U);
+    EXPECT_EQ(found(1, 99), 2U);
+    EXPECT_EQ(found(9, 99), 3U);
+    EXPECT_EQ(found(9, 4), 2U) << "two entries in each of the first two folders";
+    EXPECT_EQ(found(9, 1), 1U);
 }
 
 } // namespace

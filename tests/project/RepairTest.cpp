@@ -88,6 +88,15 @@ TEST_P(MovedFolders, AreFoundFromOneOfTheirFilesAndGoBackByteByByte) {
     EXPECT_EQ(document_.projectFile().fileText(), before);
     document_.RevertCheck();
     EXPECT_EQ(document_.projectFile().fileText(), after);
+    // Further repairs go back together with it, those of the next check alone.
+    document_.Repair({});
+    document_.RevertCheck();
+    EXPECT_EQ(document_.projectFile().fileText(), before);
+    document_.RevertCheck();
+    document_.BeginCheck();
+    document_.Repair({});
+    document_.RevertCheck();
+    EXPECT_EQ(document_.projectFile().fileText(), after);
 }
 
 INSTANTIATE_TEST_SUITE_P(Moves, MovedFolders, testing::Range(0U, 4U));
@@ -100,18 +109,26 @@ TEST_F(Repairs, LeaveTheFolderWhereNotAllOfItsFilesAreAccepted) {
     auto files = filesOfMove(document_.projectFile(), "P1", false, "c:\\p\\new\\" + entry.tmfFile);
     ASSERT_EQ(files.size(), 40U);
     std::ranges::find(files, "P7", &RelinkedFile::picture)->accepted = false;
+    rename("c:\\p\\pal", "c:\\p\\away");
+    auto palettes = filesOfMove(document_.projectFile(), "P1", true, "c:\\p\\away\\" + entry.tlfFile);
+    std::ranges::find(palettes, "P8", &RelinkedFile::picture)->accepted = false;
+    files.insert(files.end(), palettes.begin(), palettes.end());
     document_.Repair(relink(document_.projectFile(), files).repair);
-    EXPECT_EQ(missing(), std::vector<std::string>{"P7"});
+    EXPECT_EQ(missing(), (std::vector<std::string>{"P7", "P8"}));
     EXPECT_EQ(document_.projectFile().tmfDir, "c:\\p\\tex");
 }
 
 TEST_F(Repairs, PutAFolderInThePlaceOfAMissingOne) {
     openRandom(3);
     rename("c:\\p\\pal", "c:\\q");
-    const auto files = filesOfFolder(document_.projectFile(), "c:\\p\\pal", "c:\\q");
+    auto files = filesOfFolder(document_.projectFile(), "c:\\p\\pal", "c:\\q");
     EXPECT_EQ(files.size(), 40U);
+    // One that lay elsewhere does not hold it up.
+    files.push_back(files.back());
+    files.back().from = "c:\\elsewhere\\x.tlf";
     document_.Repair(relink(document_.projectFile(), files).repair);
     EXPECT_EQ(missing(), std::vector<std::string>());
+    EXPECT_EQ(document_.projectFile().tlfDir, "c:\\q");
     // With nothing in it that is missed.
     document_.Repair(relinkFolder(document_.projectFile(), "c:\\q", "c:\\r"));
     EXPECT_EQ(document_.projectFile().tlfDir, "c:\\r");
