@@ -49,13 +49,13 @@ std::optional<Point> TexelCursor::walked(Point texel, const KeyEvent& key, Size 
         texel.x = 0;
         break;
     case Key::End:
-        texel.x = image.width;
+        texel.x = image.width - 1;
         break;
     case Key::PageUp:
         texel.y = 0;
         break;
     case Key::PageDown:
-        texel.y = image.height;
+        texel.y = image.height - 1;
         break;
     default:
         return std::nullopt;

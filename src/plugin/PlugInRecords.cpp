@@ -60,6 +60,7 @@ PlainTable handedOut(TlutData&& table) noexcept {
     record->colourType = static_cast<std::uint32_t>(table.colourType);
     record->count = table.count;
     record->entries = std::exchange(table.entries, nullptr);
+    table.count = 0;
     return record;
 }
 
