@@ -152,7 +152,8 @@ TEST(BrushOutline, IsTheRingOfPixelsAroundTheTexels) {
         };
         const Rect clip{3, 0, kSide, kSide};
         drawBrushOutline({seen.data(), kSide, kSide, kSide, 0, 0}, clip, brush, {24, 27}, zoom);
-        for (const Rect& box : BrushSpot(brush).boxes()) {
+        const BrushSpot spot(brush);
+        for (const Rect& box : spot.boxes()) {
             for (std::int32_t y = 27 + box.top * zoom; y < 27 + (box.bottom + 1) * zoom; ++y) {
                 for (std::int32_t x = 24 + box.left * zoom; x < 24 + (box.right + 1) * zoom; ++x)
                     at(covered, x, y) = 1;
