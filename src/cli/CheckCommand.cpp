@@ -99,7 +99,7 @@ void CheckCommand::checkImage(const std::string& name, std::span<const std::byte
              {},
              say(CliText::CheckTexelsMissing, {std::to_string(missing)})});
     const auto report = checkRules(rules_, TextureCanvas(image.value()), table_ ? &*table_ : nullptr,
-                                   image.value().bits == 4 ? kBankEntries * bank_.value_or(0) : 0);
+                                   image.value().bits == 4 ? kBankSize * bank_.value_or(0) : 0);
     for (const RuleFindings& findings : report.value_or(RuleReport{})) {
         for (const RuleFinding& finding : findings.first)
             add({Severity::Warning, name, placeText(finding, plainNumber), ruleName(finding.rule),

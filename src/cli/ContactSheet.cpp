@@ -35,9 +35,9 @@ Result<LoadedPicture, MissingPicture> load(PictureFiles& files, const PictureEnt
     Result<TlutData, std::string> palette = loadPalette(paletteFile.value().bytes(), paletteName);
     if (!palette)
         return MissingPicture{paletteName, palette.error()};
-    const std::int32_t banks = palette.value().count / kBankEntries;
+    const std::int32_t banks = palette.value().count / kBankSize;
     picture.value().firstEntry =
-        entry.paletteNo > 0 && entry.paletteNo < banks ? kBankEntries * entry.paletteNo : 0;
+        entry.paletteNo > 0 && entry.paletteNo < banks ? kBankSize * entry.paletteNo : 0;
     picture.value().palette = std::move(palette).value();
     return std::move(picture).value();
 }

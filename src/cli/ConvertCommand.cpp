@@ -141,10 +141,10 @@ bool ConvertCommand::convert(const std::string& input, const Place& place, Conso
             return false;
         }
         const std::int32_t count = palette.value().count;
-        const bool isBank = work_.bank && count > kBankEntries;
+        const bool isBank = work_.bank && count > kBankSize;
         return write(input, place,
-                     outputOf(place.format, palette.value(), isBank ? kBankEntries * *work_.bank : 0,
-                              isBank ? kBankEntries : count, stem),
+                     outputOf(place.format, palette.value(), isBank ? kBankSize * *work_.bank : 0,
+                              isBank ? kBankSize : count, stem),
                      console);
     }
     Result<LoadedPicture, std::string> loaded = loadPicture(bytes, input);

@@ -92,7 +92,7 @@ bool PaletteFiles::readImage(const std::string& name, std::int32_t bank, Console
         return false;
     }
     const std::int32_t shown = image.value().bits == 4 ? bank : 0;
-    if (shown >= std::max(palette_.count / kBankEntries, 1)) {
+    if (shown >= std::max(palette_.count / kBankSize, 1)) {
         console.fail(name, say(CliText::NoSuchBank, {std::to_string(shown)}));
         return false;
     }
@@ -124,7 +124,7 @@ bool PaletteFiles::readProject(const std::string& name, Console& console) {
         if (entry.tlfFile.empty() || !isSameFile(files.palette(entry.tlfFile).path, name_))
             continue;
         // A palette without such a bank shows its first, as a view does.
-        const bool isBank = entry.paletteNo >= 0 && entry.paletteNo < palette_.count / kBankEntries;
+        const bool isBank = entry.paletteNo >= 0 && entry.paletteNo < palette_.count / kBankSize;
         if (!readImage(files.image(entry.tmfFile).path, isBank ? entry.paletteNo : 0, console))
             return false;
     }
@@ -134,7 +134,7 @@ bool PaletteFiles::readProject(const std::string& name, Console& console) {
 std::vector<AttachedImage> PaletteFiles::images() const {
     std::vector<AttachedImage> attached;
     for (const auto& image : images_)
-        attached.push_back({image->name, 1 << image->bits, image->bits == 4 ? kBankEntries * image->bank : 0,
+        attached.push_back({image->name, 1 << image->bits, image->bits == 4 ? kBankSize * image->bank : 0,
                             TexelCounts::of(image->canvas)});
     return attached;
 }

@@ -21,7 +21,7 @@ std::optional<TlutData> readPaletteOption(const std::string& name, std::int32_t 
         console.fail(name, palette.error());
         return std::nullopt;
     }
-    if (bank > 0 && bank >= palette.value().count / kBankEntries) {
+    if (bank > 0 && bank >= palette.value().count / kBankSize) {
         console.fail(name, say(CliText::NoSuchBank, {std::to_string(bank)}));
         return std::nullopt;
     }

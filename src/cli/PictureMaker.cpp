@@ -56,14 +56,13 @@ private:
         const TlutData* const palette = picture.palette.empty() ? nullptr : &palette_;
         // A palette without such a bank shows its first, as a view does.
         const bool isBank =
-            palette != nullptr && picture.bank >= 0 && picture.bank < palette->count / kBankEntries;
+            palette != nullptr && picture.bank >= 0 && picture.bank < palette->count / kBankSize;
         SourceOptions source;
         source.name = picture.name;
         source.alignment = options_.alignment;
         source.wholePalette = options_.wholePalette;
-        Result<OutputFiles, std::string> files =
-            outputOf(options_.format, image.value(), palette, isBank ? kBankEntries * picture.bank : 0,
-                     source, job.stem);
+        Result<OutputFiles, std::string> files = outputOf(
+            options_.format, image.value(), palette, isBank ? kBankSize * picture.bank : 0, source, job.stem);
         if (!files)
             return fail(job, picture.image, files.error());
         if (options_.format == OutputFormat::Tmf && palette != nullptr)

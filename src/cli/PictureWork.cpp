@@ -122,18 +122,18 @@ bool showsSameIn(const LoadedPicture& picture, const TlutData& palette, std::int
 Fault reduce(LoadedPicture& picture, const PictureWork& work) {
     const bool isGiven = work.palette.has_value();
     const std::int32_t bank = work.bank.value_or(0);
-    ReductionState state(isGiven ? *work.palette : TlutData(), kBankEntries * bank);
+    ReductionState state(isGiven ? *work.palette : TlutData(), kBankSize * bank);
     ReductionChoices choices;
-    const std::int32_t most = isGiven && work.bank ? kBankEntries
+    const std::int32_t most = isGiven && work.bank ? kBankSize
                               : isGiven            ? work.palette->count
                                                    : work.colours.value_or(256);
-    choices.bits = work.bits.value_or(most <= kBankEntries ? 4 : 8);
-    choices.colours = std::min(work.colours.value_or(256), choices.bits == 4 ? kBankEntries : 256);
+    choices.bits = work.bits.value_or(most <= kBankSize ? 4 : 8);
+    choices.colours = std::min(work.colours.value_or(256), choices.bits == 4 ? kBankSize : 256);
     choices.colourType = work.type.value_or(ColourType::Rgba);
     choices.dither = work.dither;
     choices.bank = bank;
     if (isGiven)
-        choices.target = choices.bits == 4 && work.palette->count > kBankEntries
+        choices.target = choices.bits == 4 && work.palette->count > kBankSize
                              ? ReductionTarget::CurrentBank
                              : ReductionTarget::CurrentPalette;
     state.choose(choices);
@@ -165,7 +165,7 @@ Fault toFourBits(LoadedPicture& picture, std::optional<std::int32_t> wished) {
     const TextureCanvas canvas(picture.image);
     const IndexCounts counts = countIndexes(canvas);
     const bool hasPalette = picture.palette.has_value();
-    const std::int32_t banks = hasPalette ? std::max(picture.palette->count / kBankEntries, 1) : 16;
+    const std::int32_t banks = hasPalette ? std::max(picture.palette->count / kBankSize, 1) : 16;
     const std::int32_t bank = wished.value_or(fullestBank(counts, banks));
     if (!hasPalette && countOutside(counts, bank) > 0)
         return say(CliText::DepthNeedsPalette);
@@ -174,7 +174,7 @@ Fault toFourBits(LoadedPicture& picture, std::optional<std::int32_t> wished) {
         const Colour colour = colourOf(*picture.palette, i);
         colours[static_cast<std::size_t>(i)] = {colour.red, colour.green, colour.blue, colour.alpha};
     }
-    picture.firstEntry = kBankEntries * bank;
+    picture.firstEntry = kBankSize * bank;
     return takeDepth(picture, inFourBits(canvas, nearestInBank(colours, bank), bank));
 }
 
@@ -183,7 +183,7 @@ Fault toDepth(LoadedPicture& picture, const PictureWork& work) {
         return std::nullopt;
     if (*work.bits == 4)
         return toFourBits(picture, work.bank);
-    const std::int32_t bank = picture.firstEntry / kBankEntries;
+    const std::int32_t bank = picture.firstEntry / kBankSize;
     picture.firstEntry = 0;
     return takeDepth(picture, inEightBits(TextureCanvas(picture.image), bank));
 }
@@ -193,7 +193,7 @@ bool needsReduction(const LoadedPicture& picture, const PictureWork& work) {
     if (!picture.palette)
         return false;
     if (work.palette)
-        return !showsSameIn(picture, *work.palette, kBankEntries * work.bank.value_or(0));
+        return !showsSameIn(picture, *work.palette, kBankSize * work.bank.value_or(0));
     const auto counts = countsOf(picture.image);
     return work.colours && std::ranges::count_if(counts, [](std::uint64_t count) { return count > 0; }) >
                                std::int64_t{*work.colours};
@@ -226,7 +226,7 @@ Fault workOn(LoadedPicture& picture, const PictureWork& work) {
         return reduce(picture, work);
     if (work.palette) {
         picture.palette = work.palette;
-        picture.firstEntry = kBankEntries * work.bank.value_or(0);
+        picture.firstEntry = kBankSize * work.bank.value_or(0);
     }
     return toDepth(picture, work);
 }

@@ -35,7 +35,7 @@ bool RenderCommand::attach(LoadedPicture& picture, Console& console) const {
     picture.palette = readPaletteOption(*palette_, bank_.value_or(0), console);
     if (!picture.palette)
         return false;
-    picture.firstEntry = kBankEntries * bank_.value_or(0);
+    picture.firstEntry = kBankSize * bank_.value_or(0);
     return true;
 }
 

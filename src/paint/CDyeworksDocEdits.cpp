@@ -180,7 +180,7 @@ void CDyeworksDoc::tellProject(std::uint16_t depthBefore) const {
     const OpenProject* const project = host_.openProject();
     if (project == nullptr || pathName().empty() || canvas_.bitsPerPixel() == depthBefore)
         return;
-    const std::int32_t number = canvas_.bitsPerPixel() == 4 ? paletteValue_ / kBankEntries : 0;
+    const std::int32_t number = canvas_.bitsPerPixel() == 4 ? paletteValue_ / kBankSize : 0;
     const std::vector<std::string> names = project->PicturesOfOtherNumber(pathName(), number);
     host_.setStatusText(names.empty()
                             ? std::string()

@@ -14,7 +14,7 @@ namespace dyeworks {
 
 namespace {
 
-constexpr std::int32_t kBanks = 16;
+constexpr std::int32_t kBanks = kLastBank + 1;
 constexpr int kWidening = 3; ///< From 5 bits a channel to 8.
 
 Size sizeOf(const TextureCanvas& canvas) {
@@ -138,7 +138,7 @@ void CDyeworksView::OnToFourBits() {
     const TextureCanvas& seen = placed ? *placed : document_.canvas();
     const TextureLookupTable* const palette = document_.GetAttachedPalette();
     const std::int32_t banks =
-        palette == nullptr ? kBanks : std::clamp(palette->table.count / kBankEntries, 1, kBanks);
+        palette == nullptr ? kBanks : std::clamp(palette->table.count / kBankSize, 1, kBanks);
     const IndexCounts counts = countIndexes(seen);
     std::int32_t bank = fullestBank(counts, banks);
     if (countOutside(counts, bank) != 0) {
@@ -150,14 +150,14 @@ void CDyeworksView::OnToFourBits() {
     const IndexMap map =
         nearestInBank(shownColours(document_.canvas(), document_.GetAttachedPalette()), bank);
     document_.ReplaceImage([&](const TextureCanvas& canvas) { return inFourBits(canvas, map, bank); },
-                           {StringId::StepTo4Bits, bank * kBankEntries});
+                           {StringId::StepTo4Bits, bank * kBankSize});
 }
 
 /// The image shows the same bank of a large palette as before.
 void CDyeworksView::OnToEightBits() {
     const TextureLookupTable* const palette = document_.GetAttachedPalette();
-    const bool showsBank = palette != nullptr && palette->table.count == kBanks * kBankEntries;
-    const std::int32_t bank = document_.paletteValue() / kBankEntries;
+    const bool showsBank = palette != nullptr && palette->table.count == kBanks * kBankSize;
+    const std::int32_t bank = document_.paletteValue() / kBankSize;
     document_.ReplaceImage(
         [&](const TextureCanvas& canvas) {
             return inEightBits(canvas, showsBank && bank >= 0 && bank < kBanks ? bank : 0);

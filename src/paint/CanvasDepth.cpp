@@ -1,5 +1,6 @@
 #include "paint/CanvasDepth.h"
 
+#include "core/TlutData.h"
 #include "paint/CanvasRows.h"
 #include "paint/TextureCanvas.h"
 
@@ -22,7 +23,7 @@ std::unique_ptr<TextureCanvas> inDepth(const TextureCanvas& canvas, std::uint16_
 
 /// Puts as many colours as both have room for at another place.
 void moveColours(std::span<const std::uint8_t> from, std::span<std::uint8_t> to) {
-    std::copy_n(from.begin(), std::min({from.size(), to.size(), kBankEntries * kColourSize}), to.begin());
+    std::copy_n(from.begin(), std::min({from.size(), to.size(), kBankSize * kColourSize}), to.begin());
 }
 
 std::int32_t distance(const ShownColour& a, const ShownColour& b) {
@@ -54,7 +55,7 @@ IndexCounts countIndexes(const TextureCanvas& canvas) {
 std::int64_t countOutside(const IndexCounts& counts, std::int32_t bank) {
     std::int64_t outside = 0;
     for (std::size_t i = 0; i < counts.size(); ++i)
-        outside += static_cast<std::int32_t>(i) / kBankEntries == bank ? 0 : counts[i];
+        outside += static_cast<std::int32_t>(i) / kBankSize == bank ? 0 : counts[i];
     return outside;
 }
 
@@ -69,14 +70,14 @@ std::int32_t fullestBank(const IndexCounts& counts, std::int32_t banks) {
 
 IndexMap nearestInBank(std::span<const ShownColour, 256> colours, std::int32_t bank) {
     IndexMap map{};
-    const std::size_t first = static_cast<std::size_t>(bank) * kBankEntries;
+    const std::size_t first = static_cast<std::size_t>(bank) * kBankSize;
     for (std::size_t index = 0; index < map.size(); ++index) {
-        if (index >= first && index < first + kBankEntries) {
+        if (index >= first && index < first + kBankSize) {
             map[index] = static_cast<std::uint8_t>(index - first);
             continue;
         }
         std::int32_t nearest = std::numeric_limits<std::int32_t>::max();
-        for (std::size_t i = 0; i < kBankEntries; ++i) {
+        for (std::size_t i = 0; i < kBankSize; ++i) {
             const std::int32_t away = distance(colours[index], colours[first + i]);
             if (away < nearest) {
                 nearest = away;
@@ -103,7 +104,7 @@ std::unique_ptr<TextureCanvas> inFourBits(const TextureCanvas& canvas, const Ind
         if (width % 2 != 0)
             row[width / 2] = static_cast<std::uint8_t>(map[source[width - 1]] << 4U);
     }
-    const std::size_t first = kColourSize * kBankEntries * static_cast<std::size_t>(bank);
+    const std::size_t first = kColourSize * kBankSize * static_cast<std::size_t>(bank);
     const std::span<const std::uint8_t> colours = canvas.colourTable();
     if (first < colours.size())
         moveColours(colours.subspan(first), made->colourTable());
@@ -117,7 +118,7 @@ std::unique_ptr<TextureCanvas> inEightBits(const TextureCanvas& canvas, std::int
     const ReadRows from(canvas);
     const WriteRows to(*made);
     const std::int64_t width = canvas.width();
-    const auto first = static_cast<std::uint8_t>(bank * kBankEntries);
+    const auto first = static_cast<std::uint8_t>(bank * kBankSize);
     for (std::int64_t y = canvas.height() - 1; y >= 0; --y) {
         const std::uint8_t* source = from[y];
         std::uint8_t* row = to[y];

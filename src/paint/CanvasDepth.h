@@ -11,8 +11,6 @@ class TextureCanvas;
 
 // From 8 bits to 4 and back. An image of 4 bits shows one bank, 16 entries, of a palette of 256.
 
-constexpr std::int32_t kBankEntries = 16;
-
 /// A colour as it is told from others; 8 bits a channel.
 struct ShownColour {
     std::uint8_t red = 0;

@@ -18,7 +18,6 @@ constexpr std::int32_t kGridTexels = 8;
 /// Side of the pattern that grid lines are drawn with; it repeats from the logical origin on.
 constexpr std::int32_t kPatternSide = 8;
 constexpr std::uint32_t kBareWhite = 0x00ffffff;
-constexpr std::uint32_t kOpaque = 0xff000000;
 /// Pixels of a dash of a mirror line; a power of two.
 constexpr std::int32_t kMirrorDash = 4;
 /// Rows that are finished before the next ones are begun, so that the grid finds them in the cache.
@@ -158,9 +157,7 @@ void ViewRenderer::drawGrid(const Surface& surface, const Rect& area) const {
 
 /// Dashes of two colours, one of which is seen on any image.
 void ViewRenderer::drawMirrorLines(const Surface& surface, const Rect& area) const {
-    const auto colourAt = [](std::int32_t along) {
-        return (along & kMirrorDash) == 0 ? kOpaque | kBareWhite : kOpaque;
-    };
+    const auto colourAt = [](std::int32_t along) { return (along & kMirrorDash) == 0 ? kWhite : kBlack; };
     const Rect image = imageArea();
     const std::int32_t x = image.right / 2;
     const std::int32_t y = image.bottom / 2;
@@ -204,7 +201,7 @@ void ViewRenderer::drawSelection(const Surface& surface, const Rect& visible) co
     drawOutline(surface, grown(frame, 1), visible,
                 [whiteRest](std::int32_t x, std::int32_t y, std::uint32_t& pixel) {
                     const bool white = (((x >> 1) + (y >> 1)) & 1) == whiteRest;
-                    pixel = white ? kOpaque | kBareWhite : kOpaque;
+                    pixel = white ? kWhite : kBlack;
                 });
 }
 

@@ -58,8 +58,8 @@ std::optional<Picture> shown(const Place& place, std::int32_t side) {
         return std::nullopt;
     const std::optional<TlutData> palette = readPalette(place.palette);
     const std::int32_t bits = rows.value().bits();
-    const bool hasBank = palette && bits == 4 && place.bank > 0 && place.bank < palette->count / kBankEntries;
-    const TexelColours colours = texelColours(palette, bits, hasBank ? kBankEntries * place.bank : 0);
+    const bool hasBank = palette && bits == 4 && place.bank > 0 && place.bank < palette->count / kBankSize;
+    const TexelColours colours = texelColours(palette, bits, hasBank ? kBankSize * place.bank : 0);
     Result<Picture, std::string> picture = reduced(std::move(rows).value(), colours, {side, side});
     return picture ? std::optional(std::move(picture).value()) : std::nullopt;
 }

@@ -25,7 +25,7 @@ namespace dyeworks {
 
 namespace {
 
-constexpr IntegerField::Range kBanks{0, 15};
+constexpr IntegerField::Range kBanks{0, kLastBank};
 /// Of the preview, in heights of a letter.
 constexpr int kPreviewSide = 10;
 
