@@ -6,6 +6,7 @@
 #include "platform/Version.h"
 #include "platform/posix/HostFile.h"
 #include "platform/qt/DesktopEntries.h"
+#include "platform/qt/FontsAhead.h"
 #include "platform/qt/Language.h"
 #include "platform/qt/QtPlatform.h"
 #include "ui/CDyeworksApp.h"
@@ -141,6 +142,7 @@ int runDyeworks(int argc, char** argv) {
             return *exitCode;
     }
 
+    FontsAhead fonts;
     // A maximized image window puts its buttons into the menu bar, which is therefore the main window's own.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     Application application(argc, argv);
@@ -172,6 +174,7 @@ int runDyeworks(int argc, char** argv) {
     };
     CDyeworksApp program(std::move(parts));
     application.setProgram(&program);
+    fonts.wait();
     const bool started = program.InitInstance(commandLine);
     const bool rendered =
         !started || !commandLine.renders() || renderWindow(program.mainFrame(), commandLine.renderTo);
