@@ -2,8 +2,10 @@
 
 namespace dyeworks {
 
-/// Texts of the program that are not part of a menu or a form. Their English wording stands in TextTable.cpp.
+/// Texts of the program that are not part of a menu or a form. Their English wording stands in the files that
+/// TextTable.cpp names.
 enum class StringId : int {
+    // FileTexts.h
     ApplicationTitle,
 
     FileErrorNotFound,
@@ -130,6 +132,8 @@ enum class StringId : int {
     PictureOpened, ///< %1 name, %2 and %3 numbers
     PastedName,    ///< Of an image from the clipboard.
     PastedColoursDiffer,
+
+    // OrderTexts.h
     JointUndo,
     JointRedo,
     JointGone,         ///< %1 lines of names
@@ -181,6 +185,8 @@ enum class StringId : int {
     OrderNothing,
     OrderMoved,  ///< %1 number
     OrderMerged, ///< %1 number
+
+    // ExchangeTexts.h
     ImportPaletteCaption,
     ImportColourCount, ///< %1 number
     ImportAsNew,
@@ -254,6 +260,7 @@ enum class StringId : int {
     ChosenFileMissing,   ///< %1 file
     ReplaceFileQuestion, ///< %1 file
 
+    // ImageTexts.h
     BarTool,
     BarView,
     BarDraw,
@@ -329,6 +336,8 @@ enum class StringId : int {
     BarBrush,
     BrushSize,
     BrushSizeTip,
+
+    // FindingTexts.h
     FindingsCaption,
     FindingsHelp,
     FindingsImage,
@@ -422,6 +431,8 @@ enum class StringId : int {
     CheckListNone,
     CheckListNoneTip,
     ProjectRepeatChanges, ///< In the place of the command, once it was used.
+
+    // BarTexts.h
     BarBanks,
     BanksTab,
     PalettesTab,
@@ -478,6 +489,8 @@ enum class StringId : int {
     UndoListRowCurrent,
     UndoListRowUndone,
     UndoListFloats,
+
+    // StepTexts.h
     StepNew, ///< Names of steps in the undo list; the first three are the state before the first one
     StepOpened,
     StepEarlier,
@@ -552,6 +565,8 @@ enum class StringId : int {
     HelpCommandSearch,
     CommandPlace,    ///< Menus around a command: %1 the outer, %2 the inner
     CommandDisabled, ///< %1 why
+
+    // ReasonTexts.h
     WhyNoImage,
     WhyImageBehind,
     WhyNoDocument,
@@ -595,6 +610,7 @@ enum class StringId : int {
     NeededControlMissing, ///< %1 file; the program ends.
     ControlMissing,       ///< %1 file
 
+    // PaletteTexts.h
     RgbaDialogCaption,
     IaDialogCaption,
     EntryRed,
@@ -645,6 +661,7 @@ enum class StringId : int {
     AdjustReset,
     AdjustResetTip,
 
+    // SheetTexts.h
     NewProjectTab,
     NewProjectName,
     NewProjectDirectory,
@@ -676,6 +693,8 @@ enum class StringId : int {
     OptionsAskUseProject,
     OptionsAskUseProjectTip,
     OptionsRulesTab,
+
+    // ShortcutTexts.h
     ShortcutsTab,
     ShortcutsFind,
     ShortcutsFindTip,
@@ -724,6 +743,8 @@ enum class StringId : int {
     ShortcutFileKeys,     ///< %1 line, %2 keys
     ShortcutFileReserved, ///< %1 line, %2 keys
     ShortcutFileTwice,    ///< %1 line, %2 keys or nothing
+
+    // RuleTexts.h
     RulesCaption,
     RulesForPictures,
     RulesForOthers,
@@ -752,6 +773,8 @@ enum class StringId : int {
     RuleBytesUnit,
     RuleColoursUnit,
     RuleBlockUnit,
+
+    // ProjectTexts.h
     UseProjectCaption,
     UseProjectQuestion,
     UseProjectNew,
