@@ -1,8 +1,10 @@
+#include "core/PaletteSet.h"
 #include "paint/CDyeworksDoc.h"
 #include "paint/CanvasDifference.h"
 #include "paint/ImagePlugIns.h"
 #include "platform/StringId.h"
 
+#include <string>
 #include <utility>
 
 namespace dyeworks {
@@ -72,8 +74,11 @@ void CDyeworksDoc::ImportThrough(std::int32_t plugIn) {
     const std::unique_ptr<TmfImage> image = canvas_.ToImage();
     if (image == nullptr)
         return;
+    const PaletteSet* const set = host_.paletteSet();
+    const std::string current = set == nullptr ? "" : set->currentKey;
+    const std::int32_t firstEntry = firstEntryForPlugIns();
     std::unique_ptr<TextureCanvas> brought =
-        host_.imagePlugIns().ImportImage(plugIn, image.get(), attachedTable(), firstEntryForPlugIns());
+        host_.imagePlugIns().ImportImage(plugIn, image.get(), attachedTable(), firstEntry);
 
     const std::unique_ptr<TextureCanvas> before = canvas_.Clone();
     canvas_.FromImage(*image);
@@ -83,8 +88,12 @@ void CDyeworksDoc::ImportThrough(std::int32_t plugIn) {
     if (before == nullptr || differingRect(*before, canvas_, whole))
         edits_.loseSavedPosition();
     host_.imageChanged(*this, whole);
-    if (!IsAttached())
+    if (!IsAttached()) {
+        // A palette that was brought has its colours from the entry on that the plug-in was told.
+        if (set != nullptr && set->currentKey != current)
+            paletteValue_ = firstEntry;
         Attach();
+    }
     // The plug-in may have changed it while the bar shows another one.
     RefreshOwnPalette();
 

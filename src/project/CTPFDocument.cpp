@@ -5,6 +5,7 @@
 #include "platform/AskForFile.h"
 #include "platform/FileMessages.h"
 #include "platform/Platform.h"
+#include "platform/ProgramPath.h"
 #include "platform/StringId.h"
 #include "platform/TextCase.h"
 #include "project/PathHelpers.h"
@@ -45,6 +46,11 @@ ProjectSettings absolute(ProjectSettings settings) {
             PathAbsolute(*folder, settings.projectDirectory);
     }
     return settings;
+}
+
+/// What a file of a picture is called without its folder: "d:x.tmf" is "x.tmf" on a drive. Asks no disk.
+std::string nameWithoutFolder(const std::string& file) {
+    return std::string(fileNameOf(isRooted(file) ? platform().files().fullPath(file) : file));
 }
 
 } // namespace
@@ -241,7 +247,7 @@ std::vector<std::string> CTPFDocument::openPictureFiles() const {
         openNames.insert(foldedCase(fileNameOf(path)));
     std::vector<std::string> paths;
     const auto add = [&](const std::string& directories, const std::string& name) {
-        if (!openNames.contains(foldedCase(fileNameOf(name))))
+        if (!openNames.contains(foldedCase(nameWithoutFolder(name))))
             return;
         if (std::string path = findFile(directories, name); !path.empty())
             paths.push_back(std::move(path));
@@ -274,7 +280,7 @@ bool CTPFDocument::holdsImage(const std::string& path) const {
     const std::string_view name = fileNameOf(path);
     return std::ranges::any_of(projectFile_.pictures, [&](const auto& picture) {
         // Only what may be it is looked for on the disk.
-        return equalIgnoringCase(fileNameOf(picture.second.tmfFile), name) &&
+        return equalIgnoringCase(nameWithoutFolder(picture.second.tmfFile), name) &&
                equalIgnoringCase(findFile(projectFile_.tmfDir, picture.second.tmfFile), path);
     });
 }

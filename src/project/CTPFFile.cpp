@@ -250,7 +250,11 @@ bool CTPFFile::Write(const std::string& path, std::optional<FileError>* why) {
 }
 
 std::optional<std::string> CTPFFile::fileText() const {
-    const std::optional<Values> assignments = valuesIn(tpfDir);
+    // `tpfDir` need not be the file's folder: plug-ins may have set another one.
+    std::string folder;
+    std::string name;
+    PathSplitFolder(pathName, folder, name);
+    const std::optional<Values> assignments = valuesIn(folder);
     if (store == nullptr || !assignments)
         return std::nullopt;
     CKeyValueStore written = *store;

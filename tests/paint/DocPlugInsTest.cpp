@@ -121,10 +121,12 @@ TEST_F(DocPlugIns, BankCountsOnlyForSmallImagesInPalettesThatHaveBanks) {
 }
 
 TEST_F(DocPlugIns, ImportKeepsWhatThePlugInChangedWithoutAStep) {
-    openPalette();
+    document.setPaletteValue(48);
+    host.plugIns.onImport = [this] { openPalette(256); };
     document.runCommand(ID_IMPORT_FIRST);
     EXPECT_FALSE(document.hasUnsavedChanges());
     EXPECT_TRUE(document.IsAttached());
+    EXPECT_EQ(document.paletteValue(), 0) << "as the plug-in was told";
 
     host.plugIns.texelOnImport = 6;
     document.runCommand(ID_IMPORT_FIRST);

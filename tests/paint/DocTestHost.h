@@ -28,6 +28,8 @@ public:
         note("import", index, image, palette, paletteNumber);
         if (texelOnImport != 0)
             image->setTexel(0, 0, texelOnImport);
+        if (onImport)
+            onImport();
         return nullptr;
     }
     bool ExportImage(std::int32_t index, TmfImage* image, TlutData* palette,
@@ -57,6 +59,7 @@ public:
     std::vector<std::string> calls;
     std::uint32_t texelOnImport = 0;
     std::int32_t failingPreview = -1;
+    std::function<void()> onImport;
     std::function<void()> onPreview; ///< What a preview lets happen before it returns.
 };
 

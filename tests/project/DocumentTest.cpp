@@ -242,9 +242,10 @@ TEST_F(Project, DropsMoveCopyAndReorderPictures) {
 TEST_F(Project, OpensWhatIsThereOfAPicture) {
     fake_.files.putFile("c:\\p\\tex\\a.tmf", "x");
     fake_.files.putFile("c:\\p\\a.tlf", "x");
-    open("TMF_DIR = tex\nPICT_NUM = 2\nPICT.0 = A,a.tmf,a.tlf,3\nPICT.1 = B,b.tmf,a.tlf,3\n");
+    fake_.files.putFile("c:\\d.tlf", "x");
+    open("TMF_DIR = tex\nPICT_NUM = 2\nPICT.0 = A,a.tmf,c:d.tlf,3\nPICT.1 = B,b.tmf,a.tlf,3\n");
     document_.OnNodeDoubleClick("\\Project\\Picture\\A");
-    EXPECT_THAT(host_.take(), ElementsAre("palette c:\\p\\a.tlf", "image c:\\p\\tex\\a.tmf"));
+    EXPECT_THAT(host_.take(), ElementsAre("palette c:\\d.tlf", "image c:\\p\\tex\\a.tmf"));
     EXPECT_THAT(messages(), IsEmpty());
     EXPECT_TRUE(document_.OpenPicture("B"));
     EXPECT_THAT(host_.take(), ElementsAre("palette c:\\p\\a.tlf"));
@@ -264,8 +265,8 @@ TEST_F(Project, OpensWhatIsThereOfAPicture) {
     EXPECT_EQ(host_.take().front(), "ask");
     document_.RestartPlugIns();
     static_cast<void>(host_.take());
-    host_.open = {"c:\\p\\A.TLF", "c:\\p\\tex\\a.tmf"};
-    const std::string ask = "ask c:\\p\\tex\\a.tmf c:\\p\\a.tlf c:\\p\\a.tlf";
+    host_.open = {"c:\\p\\A.TLF", "c:\\p\\tex\\a.tmf", "c:\\d.tlf"};
+    const std::string ask = "ask c:\\p\\tex\\a.tmf c:\\d.tlf c:\\p\\a.tlf";
     host_.closes = false;
     EXPECT_FALSE(document_.mayClose());
     EXPECT_THAT(host_.take(), ElementsAre(ask));

@@ -313,6 +313,8 @@ TEST(RecoveryOfProjects, AreWhatTheirFileWouldBe) {
     ASSERT_TRUE(project.Read("c:\\a.tpf"));
     PictureEntry entry{"sea.tmf", "sea.tlf", 1};
     project.SetPicture("sea", entry, "sky");
+    project.tpfDir = "c:\\x"; // As a plug-in may set it.
+    project.tmfDir = "c:\\x\\tex";
     const std::optional<std::string> text = project.fileText();
     ASSERT_TRUE(text);
     CTPFFile recovered;
