@@ -90,8 +90,9 @@ void ImageSelection::select(const std::optional<Rect>& texels, bool redraw) {
         window_.startTicking(kAntsInterval);
 }
 
-void ImageSelection::dragEnded() {
-    if (!exists())
+void ImageSelection::setDragged(bool dragged) {
+    dragged_ = dragged;
+    if (texels_ && !exists())
         window_.invalidate(areaOf(geometry_(), texels_).value_or(Rect{}));
 }
 

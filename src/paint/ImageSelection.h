@@ -56,10 +56,9 @@ public:
     /// Selects the texels between two corners, or nothing. With `redraw` the window shows it before the call
     /// returns. The first texel alone counts as nothing.
     void select(const std::optional<Rect>& texels, bool redraw);
-    /// While it is dragged out every paint shows it, also when it is too little to work with.
-    void setDragged(bool dragged) noexcept { dragged_ = dragged; }
-    /// It is not dragged any more: a frame around too little to work with goes from the window.
-    void dragEnded();
+    /// While it is dragged every paint shows it, also when it is too little to work with; the frame around
+    /// that comes and goes with the drag.
+    void setDragged(bool dragged);
     /// Moves it, or with `edges` its right and its bottom edge alone, by texels.
     void moveBy(Point step, bool edges);
 

@@ -111,10 +111,6 @@ bool SelectTool::cutPiece(bool leaveImage) {
     return true;
 }
 
-void SelectTool::release(Point /*texel*/, const PointerEvent& /*event*/) {
-    selection().dragEnded();
-}
-
 void SelectTool::cancel() {
     if (cut_) {
         selection().dropFloatingPiece();
@@ -122,7 +118,7 @@ void SelectTool::cancel() {
             document().Undo();
     }
     selection().select(before_, true);
-    selection().dragEnded();
+    selection().setDragged(false);
 }
 
 } // namespace dyeworks

@@ -16,7 +16,6 @@ public:
     using DrawTool::DrawTool;
     bool press(Point texel, const PointerEvent& event) override;
     void move(Point texel, const PointerEvent& event) override;
-    void release(Point texel, const PointerEvent& event) override;
     void cancel() override;
 
 private:

@@ -222,7 +222,7 @@ private:
 TEST_P(ToolScript, DoesWhatTheModelDoesAndShowsIt) {
     for (int turn = 0; turn < 1200; ++turn) {
         if (turn % 300 == 0)
-            zoomTo(1 + turn / 300);
+            zoomTo(1 + turn / 300 * 3);
         // Other tools come in between, but soon it is this one's turn again.
         if (turn % 12 == 0)
             run(GetParam().command);
