@@ -19,6 +19,9 @@ public:
     /// Called from the event loop, maybe several times for one change and for changes of others in the same
     /// folders. Null: nobody listens.
     virtual void setListener(std::function<void()> listener) = 0;
+
+    /// How long files are left alone after that before they are looked at, in milliseconds.
+    [[nodiscard]] virtual int patience() const { return 250; }
 };
 
 } // namespace dyeworks

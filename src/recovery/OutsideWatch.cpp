@@ -142,10 +142,9 @@ bool OutsideWatch::look(bool reloadsUnchanged, const std::set<std::string>* answ
         if (answering == nullptr || answering->contains(file.path()))
             goesOn = file.look() == State::Unsettled || goesOn;
     }
-    takeNotice();
     if (!reloadsUnchanged)
         return goesOn;
-    for (const Notice& notice : std::vector(notices_)) {
+    for (const Notice& notice : notices()) {
         if (!notice.offersReload() || notice.unsaved || !canBeReloaded(notice.path, notice.document))
             continue;
         if (reload(notice))
@@ -154,13 +153,14 @@ bool OutsideWatch::look(bool reloadsUnchanged, const std::set<std::string>* answ
     return goesOn;
 }
 
-void OutsideWatch::takeNotice() {
-    notices_.clear();
+std::vector<OutsideWatch::Notice> OutsideWatch::notices() const {
+    std::vector<Notice> notices;
     for (const Subject& subject : subjects()) {
         KnownFile& file = subject.file();
         if (file.asks())
-            notices_.push_back({file.path(), subject.document, file.state(), subject.isUnsaved()});
+            notices.push_back({file.path(), subject.document, file.state(), subject.isUnsaved()});
     }
+    return notices;
 }
 
 std::vector<std::string> OutsideWatch::takeReloaded() {
@@ -168,28 +168,23 @@ std::vector<std::string> OutsideWatch::takeReloaded() {
 }
 
 bool OutsideWatch::reload(const Notice& notice) {
-    bool reloaded = false;
     // It may have been closed meanwhile.
     for (const Subject& subject : subjects()) {
-        if (subject.isOf(notice)) {
-            reloaded = subject.reload();
-            break;
-        }
+        if (subject.isOf(notice))
+            return subject.reload();
     }
-    takeNotice();
-    return reloaded;
+    return false;
 }
 
 void OutsideWatch::keep(const Notice& notice) {
     for (const Subject& subject : subjects()) {
         if (!subject.isOf(notice))
             continue;
+        subject.file().keep();
         if (notice.state != State::Back)
             subject.markUnsaved();
-        subject.file().keep();
-        break;
+        return;
     }
-    takeNotice();
 }
 
 } // namespace dyeworks

@@ -53,7 +53,8 @@ public:
     /// by itself what can be read.
     bool look(bool reloadsUnchanged, const std::set<std::string>* answering = nullptr);
 
-    [[nodiscard]] const std::vector<Notice>& notices() const noexcept { return notices_; }
+    /// What the user has to decide about as things stand now: what asked may have been closed or saved since.
+    [[nodiscard]] std::vector<Notice> notices() const;
     /// Paths of what was reloaded by itself since this was last asked.
     [[nodiscard]] std::vector<std::string> takeReloaded();
 
@@ -67,12 +68,10 @@ private:
     struct Subject;
 
     [[nodiscard]] std::vector<Subject> subjects() const;
-    void takeNotice();
 
     FileWatcher& watcher_;
     Open open_;
     std::vector<std::string> watched_;
-    std::vector<Notice> notices_;
     std::vector<std::string> reloaded_;
 };
 

@@ -20,8 +20,6 @@ namespace dyeworks {
 namespace {
 
 constexpr int kFollowMilliseconds = 700;
-/// Between two looks; a change is told once it has been the same in two.
-constexpr int kSoonMilliseconds = 250;
 constexpr int kAnswerMilliseconds = 10;
 /// After so many times that long, those are looked at that have answered.
 constexpr int kMostAnswers = 50;
@@ -71,9 +69,10 @@ void OutsideChanges::follow() {
     show();
 }
 
+/// A change is told once it has been the same in two looks.
 void OutsideChanges::lookSoon() {
     if (!soon_.isActive())
-        soon_.start(kSoonMilliseconds);
+        soon_.start(platform().fileWatcher().patience());
 }
 
 /// Before they are looked at, so that nobody waits for those that do not answer.
@@ -123,7 +122,7 @@ std::optional<OutsideBar*> OutsideChanges::barFor(const OutsideWatch::Notice* no
 }
 
 void OutsideChanges::show() {
-    const auto& notices = watch_->notices();
+    const std::vector<OutsideWatch::Notice> notices = watch_->notices();
     for (ChildFrame* const frame : workspace_.mainFrame().childFrames()) {
         if (frame->document() == nullptr)
             continue;
@@ -137,8 +136,9 @@ void OutsideChanges::show() {
 
 /// The bar speaks of the current palette first, then of the others.
 void OutsideChanges::showForPalettes() {
+    const std::vector<OutsideWatch::Notice> notices = watch_->notices();
     const OutsideWatch::Notice* chosen = nullptr;
-    for (const OutsideWatch::Notice& notice : watch_->notices()) {
+    for (const OutsideWatch::Notice& notice : notices) {
         if (notice.document == nullptr &&
             (chosen == nullptr || notice.path == workspace_.paletteSet()->currentKey))
             chosen = &notice;

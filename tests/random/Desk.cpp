@@ -86,6 +86,7 @@ void compareView(Differences& differences, const std::string& name, const CDyewo
     differences.compare(name + " value", program.drawingValue(), model.value);
     differences.compare(name + " zoom", program.zoom(), model.zoom);
     differences.compare(name + " grid", program.gridShown(), model.grid);
+    differences.compare(name + " repeats", program.repeated(), model.repeated);
     differences.compare(name + " drags", program.dragging(), model.dragging());
     const auto piece = program.selection().floatingPiece();
     if (piece && model.piece)
@@ -154,6 +155,7 @@ Desk::Desk() {
         fake.library.defineFile(control, std::string(DYEWORKS_CONTROL_FOLDER "/") + control);
     fake.profile.sections["Start Page"]["Shown"] = "0";
     fake.profile.sections["Settings"]["UseNotify_AskUseProject"] = "0";
+    fake.fileWatcher.patienceToHave = 0;
     setCurrentTool(Tool::Select);
     putFiles();
     start();
@@ -374,7 +376,8 @@ std::string Desk::differences(bool all) {
 
 std::vector<const Verb*> allVerbs() {
     std::vector<const Verb*> all;
-    for (const auto* const verbs : {&imageVerbs(), &fileVerbs(), &paletteVerbs(), &projectVerbs()}) {
+    for (const auto* const verbs :
+         {&imageVerbs(), &fileVerbs(), &paletteVerbs(), &projectVerbs(), &outsideVerbs()}) {
         for (const Verb& verb : *verbs)
             all.push_back(&verb);
     }

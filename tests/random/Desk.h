@@ -85,6 +85,7 @@ struct Verb {
 [[nodiscard]] const std::vector<Verb>& fileVerbs();
 [[nodiscard]] const std::vector<Verb>& paletteVerbs();
 [[nodiscard]] const std::vector<Verb>& projectVerbs();
+[[nodiscard]] const std::vector<Verb>& outsideVerbs();
 [[nodiscard]] std::vector<const Verb*> allVerbs();
 
 } // namespace dyeworks

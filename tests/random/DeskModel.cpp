@@ -7,70 +7,11 @@ namespace dyeworks {
 
 namespace {
 
-constexpr const char* kMark = " * ";
-
-std::string withoutMark(const std::string& title) {
-    return title.substr(0, title.find(kMark));
-}
-
 std::string fileNameOf(const std::string& path) {
     return path.substr(path.rfind('\\') + 1);
 }
 
-std::string paletteTitle(const std::string& path) {
-    const std::string name = fileNameOf(path);
-    return name.substr(0, name.rfind('.'));
-}
-
 } // namespace
-
-/// An entry that is set marks the palette, but not its title; the title follows the history alone.
-void PaletteModel::edit(PlainTable table) {
-    setEntries(std::move(table));
-    followHistory();
-}
-
-void PaletteModel::setEntries(PlainTable table) {
-    stale = true;
-    states.keep(std::exchange(states.now, std::move(table)));
-    modified = true;
-}
-
-void PaletteModel::move(PlainTable table, long joint) {
-    states.keep(std::exchange(states.now, std::move(table)), joint);
-    followHistory();
-}
-
-bool PaletteModel::undo() {
-    if (!states.undo())
-        return false;
-    followHistory();
-    return true;
-}
-
-bool PaletteModel::redo() {
-    if (!states.redo())
-        return false;
-    followHistory();
-    return true;
-}
-
-void PaletteModel::followHistory() {
-    const bool clean = states.undone.empty();
-    if (clean && modified)
-        title = withoutMark(title);
-    if (!clean && !modified)
-        title = withoutMark(title) + kMark;
-    modified = !clean;
-}
-
-void PaletteModel::named(const std::string& file) {
-    path = file;
-    title = paletteTitle(file);
-    modified = false;
-    states.saved = states.number;
-    inFile = states.now;
-}
 
 PaletteModel* DeskModel::current() {
     const auto found = palettes.find(currentPalette);
@@ -86,7 +27,7 @@ std::string DeskModel::titleOf(const ViewModel& image) {
     std::string title = image.document.name;
     if (const PaletteModel* const palette = paletteOf(image))
         title += " [" + palette->title + "]";
-    return title + (image.document.modified ? kMark : "");
+    return title + (image.document.modified ? " * " : "");
 }
 
 ViewModel* DeskModel::imageOf(const std::string& path) {
@@ -149,6 +90,7 @@ void DeskModel::openPalette(const std::string& path) {
         PaletteModel& palette = palettes[path];
         palette.states.restart(readPaletteFile(files.at(path)));
         palette.named(path);
+        knows(path);
     }
     currentPalette = path;
     refreshImages();
@@ -174,6 +116,8 @@ bool DeskModel::closePalette(const Answers& answers) {
                 ++messages;
                 return false;
             }
+            if (!palette.unnamed() && !mayReplace(file))
+                return false;
             files[file] = paletteFile(palette.table());
         }
     }
@@ -190,8 +134,11 @@ bool DeskModel::savePalette(bool ask, const std::string& file) {
         ++messages;
         return false;
     }
+    if (target == palette.path && !mayReplace(target))
+        return false;
     files[target] = paletteFile(palette.table());
     palette.named(target);
+    knows(target);
     if (target != currentPalette)
         rename(currentPalette, target);
     refreshImages();
@@ -211,7 +158,7 @@ void DeskModel::rename(const std::string& key, const std::string& file) {
 
 void DeskModel::remember(const ViewModel& image) {
     if (!image.document.path.empty())
-        remembered[image.document.path] = {image.zoom, image.grid, image.document.attached};
+        remembered[image.document.path] = {image.zoom, image.grid, image.document.attached, image.repeated};
 }
 
 std::size_t DeskModel::unsaved() {
@@ -249,6 +196,7 @@ ViewModel& DeskModel::openImage(const std::string& path) {
     view.document.states.restart(readImageFile(files.at(path)));
     view.document.path = path;
     view.document.name = fileNameOf(path);
+    knows(path);
     begin(view);
     if (const auto found = remembered.find(path); found != remembered.end())
         view.document.attached = found->second.attached;
@@ -261,6 +209,7 @@ void DeskModel::begin(ViewModel& view) {
     if (const auto found = remembered.find(view.document.path); found != remembered.end()) {
         view.zoom = found->second.zoom;
         view.grid = found->second.grid;
+        view.repeated = found->second.repeated;
     }
 }
 
@@ -292,6 +241,8 @@ bool DeskModel::saveImage(ViewModel& image, bool ask, const std::string& file) {
     image.settle();
     ImageModel& document = image.document;
     const std::string target = ask || document.path.empty() ? file : document.path;
+    if (target == document.path && !mayReplace(target))
+        return false;
     if (const ViewModel* const other = imageOf(target); other != nullptr && other->owned != image.owned) {
         ++messages;
         return false;
@@ -299,8 +250,8 @@ bool DeskModel::saveImage(ViewModel& image, bool ask, const std::string& file) {
     files[target] = imageFile(document.image());
     document.path = target;
     document.name = fileNameOf(target);
-    document.modified = false;
-    document.states.saved = document.states.number;
+    document.isInFile();
+    knows(target);
     return true;
 }
 
@@ -331,7 +282,8 @@ void DeskModel::revert(ViewModel& image, int answer) {
     image.document.states.restart(readImageFile(files.at(image.document.path)));
     for (ViewModel* const view : image.document.views)
         view->value &= image.document.image().mask();
-    image.document.modified = false;
+    image.document.isInFile();
+    knows(image.document.path);
     if (paletteOf(image) == nullptr)
         image.document.attached.clear();
 }

@@ -33,6 +33,7 @@ struct PaletteModel {
     void move(PlainTable table, long joint);
     bool undo();
     bool redo();
+    void reload(PlainTable table);
     /// The file holds it now.
     void named(const std::string& file);
 
@@ -46,12 +47,25 @@ struct Answers {
     std::string file;
 };
 
+/// The file of something that is open, and what others make of it.
+struct FileModel {
+    std::string known;               ///< That was read or written last.
+    std::optional<std::string> seen; ///< Nothing: it has been removed.
+    bool answered = false;           ///< What is seen is to stay the file's affair.
+    bool isBack = false;             ///< As it was, after it had been removed.
+
+    void look(const std::optional<std::string>& now);
+    [[nodiscard]] bool offersReload() const { return seen && seen != known; }
+    [[nodiscard]] bool asks() const { return !answered && (isBack || seen != known); }
+};
+
 /// Everything that is open in the program, and the files.
 struct DeskModel {
     struct Remembered {
         int zoom;
         bool grid;
         std::string attached;
+        bool repeated = false;
     };
 
     ToolModel shared;
@@ -64,9 +78,12 @@ struct DeskModel {
     std::optional<ProjectModel> project;
     bool projectInFront = false;
     std::map<std::string, std::string> files;
+    std::map<std::string, FileModel> outside;     ///< By path, of what is open.
+    bool savesOver = false;                       ///< What others have made of a file.
     std::map<std::string, Remembered> remembered; ///< By the image's file.
     std::size_t messages = 0;                     ///< Shown so far.
-    std::map<long, std::size_t> joint;            ///< Steps that are one, and of how many things.
+    std::vector<std::uint32_t> copiedCells;
+    std::map<long, std::size_t> joint; ///< Steps that are one, and of how many things.
     int untitled = 0;
     static inline int palettesMade = 0; ///< In the whole run of the program.
 
@@ -102,6 +119,21 @@ struct DeskModel {
     bool closeImage(ViewModel& image, const Answers& answers);
     void revert(ViewModel& image, int answer);
     void attach(ViewModel& image);
+
+    /// What is open holds now what the file does.
+    void knows(const std::string& path);
+    /// Whether the file may be saved over. Where others have changed it that is a question.
+    bool mayReplace(const std::string& path);
+    [[nodiscard]] bool asksToReplace(const std::string& path) const;
+    /// Files of what is open.
+    [[nodiscard]] std::vector<std::string> openFiles() const;
+    [[nodiscard]] bool isUnsaved(const std::string& path);
+    /// `answer` is for the question of a project with unsaved changes.
+    void reload(const std::string& path, int answer);
+    void keep(const std::string& path);
+
+    void openProject(const std::string& path);
+    bool saveProject();
 
     /// Undo and Redo of an image. `answer`, 0 for yes, is for the question that comes where others have to go
     /// along, or are no longer there to go along.

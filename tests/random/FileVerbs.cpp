@@ -106,14 +106,18 @@ void revert(Desk& desk, const std::vector<int>& n) {
 void failToSave(Desk& desk, const std::vector<int>& n) {
     const PaletteModel* const palette = desk.model.current();
     CommandId id = ID_PROJECT_SAVE;
-    if (n[0] == 0 && desk.model.active != nullptr && !desk.model.active->document.path.empty()) {
+    std::string path = desk.model.project ? desk.model.project->path : "";
+    if (n[0] == 0 && desk.model.active != nullptr) {
         id = ID_FILE_SAVE;
-        desk.model.active->settle();
-    } else if (n[0] == 1 && palette != nullptr && !palette->unnamed()) {
+        path = desk.model.active->document.path;
+    } else if (n[0] == 1 && palette != nullptr) {
         id = ID_PALETTE_SAVE;
-    } else if (!desk.model.project) {
-        return;
+        path = palette->unnamed() ? "" : palette->path;
     }
+    if (path.empty() || desk.model.asksToReplace(path))
+        return;
+    if (id == ID_FILE_SAVE)
+        desk.model.active->settle();
     ++desk.model.messages;
     desk.fake.files.failNextWrite(FileError::NoSpace);
     desk.run(id);
@@ -156,13 +160,14 @@ void leaveAndStart(Desk& desk, const std::vector<int>& /*n*/) {
             const auto& shown = dynamic_cast<const CDyeworksView&>(*document->views().front());
             model.remembered.at(document->pathName()).zoom = shown.zoom();
             model.remembered.at(document->pathName()).grid = shown.gridShown();
+            model.remembered.at(document->pathName()).repeated = shown.repeated();
         }
         model.openImage(document->pathName());
     }
     if (!images.empty())
         desk.wonder("an image does not come back");
     if (!project.empty())
-        model.project.emplace().read(project, model.files.at(project));
+        model.openProject(project);
     const ImageHost& host = desk.app().imageHost();
     const ViewModel* const last = desk.modelOf(host.lastActivatedImage());
     model.lastActivated = last == nullptr ? nullptr : &last->document;

@@ -78,8 +78,9 @@ struct ImageModel {
     std::vector<ViewModel*> views; ///< In the order in which they came.
     WholeStates<PlainImage> states;
     bool modified = false;
-    std::string path; ///< "" before it is saved.
-    std::string name; ///< In its title.
+    bool inNoFile = false; ///< Whatever step it goes back to, until it is saved.
+    std::string path;      ///< "" before it is saved.
+    std::string name;      ///< In its title.
     std::string attached;
 
     [[nodiscard]] PlainImage& image() { return states.now; }
@@ -100,11 +101,15 @@ struct ImageModel {
     /// The mark follows the history, wherever in it the file was written.
     void undo() {
         if (states.undo())
-            modified = !states.undone.empty();
+            modified = !states.undone.empty() || inNoFile;
     }
     void redo() {
         if (states.redo())
             modified = true;
+    }
+    void isInFile() {
+        modified = inNoFile = false;
+        states.saved = states.number;
     }
     [[nodiscard]] bool differsFromFile() const { return modified || states.number != states.saved; }
 };

@@ -11,6 +11,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
+#include <optional>
 
 namespace dyeworks {
 
@@ -24,8 +26,21 @@ constexpr std::array kCommands{
     ID_TOOL_SELECT,     ID_TOOL_PIXEL,       ID_TOOL_PEN,        ID_TOOL_LINE,        ID_TOOL_BOX,
     ID_TOOL_BOX_FILL,   ID_TOOL_CIRCLE,      ID_TOOL_ZOOM_LENS,  ID_TOOL_CIRCLE_FILL, ID_TOOL_PAINT,
     ID_TOOL_REPLACER,   ID_TOOL_SELECT,      ID_MIRROR_ACROSS,   ID_MIRROR_DOWN,      ID_DRAW_WRAP,
-    ID_BRUSH_SQUARE,    ID_BRUSH_ROUND};
+    ID_BRUSH_SQUARE,    ID_BRUSH_ROUND,      ID_VIEW_REPEAT};
 
+// Where keys lead; the image ends before.
+struct Walk {
+    Qt::Key key;
+    Point way;
+};
+constexpr std::array<Walk, 8> kWalks{{{Qt::Key_Left, {-1, 0}},
+                                      {Qt::Key_Right, {1, 0}},
+                                      {Qt::Key_Up, {0, -1}},
+                                      {Qt::Key_Down, {0, 1}},
+                                      {Qt::Key_Home, {-99, 0}},
+                                      {Qt::Key_End, {99, 0}},
+                                      {Qt::Key_PageUp, {0, -99}},
+                                      {Qt::Key_PageDown, {0, 99}}}};
 constexpr std::array<std::pair<Qt::Key, Key>, 8> kKeys{{{Qt::Key_Escape, Key::Escape},
                                                         {Qt::Key_Return, Key::Enter},
                                                         {Qt::Key_Left, Key::Left},
@@ -56,7 +71,9 @@ Event eventOf(Desk& desk, const std::vector<int>& n) {
     event.model.alt = n[3] == 2 || n[3] == 3;
     event.modifiers.setFlag(Qt::ControlModifier, event.model.control);
     event.modifiers.setFlag(Qt::AltModifier, event.model.alt);
-    event.client = QPoint(event.model.position.x, event.model.position.y) -
+    const PlainImage& shown = image.document.image();
+    const QPoint corner = image.repeated ? QPoint(shown.width, shown.height) * zoom : QPoint();
+    event.client = QPoint(event.model.position.x, event.model.position.y) + corner -
                    static_cast<const ScrollView&>(*desk.view()).scrollPosition();
     return event;
 }
@@ -71,6 +88,8 @@ void press(Desk& desk, const std::vector<int>& n) {
     if (desk.model.active == nullptr)
         return;
     const Event event = eventOf(desk, n);
+    if (desk.model.active->heldByKeys())
+        desk.model.active->letGo();
     const bool again = desk.model.active->dragging();
     desk.model.active->press(event.model);
     // A press while the button is held is one that a window manager has lost the release of.
@@ -82,6 +101,8 @@ void rightPress(Desk& desk, const std::vector<int>& n) {
     if (desk.model.active == nullptr)
         return;
     const Event event = eventOf(desk, n);
+    if (desk.model.active->heldByKeys())
+        desk.model.active->letGo();
     desk.model.active->rightPress(event.model.position);
     send(desk, event, QEvent::MouseButtonPress, Qt::RightButton, Qt::RightButton);
     send(desk, event, QEvent::MouseButtonRelease, Qt::RightButton,
@@ -92,8 +113,10 @@ void move(Desk& desk, const std::vector<int>& n) {
     if (desk.model.active == nullptr)
         return;
     const Event event = eventOf(desk, n);
-    const bool drags = desk.model.active->dragging();
-    desk.model.active->move(event.model);
+    const bool byKeys = desk.model.active->heldByKeys();
+    const bool drags = desk.model.active->dragging() && !byKeys;
+    if (!byKeys)
+        desk.model.active->move(event.model);
     send(desk, event, QEvent::MouseMove, Qt::NoButton, drags ? Qt::LeftButton : Qt::NoButton);
 }
 
@@ -101,7 +124,8 @@ void release(Desk& desk, const std::vector<int>& n) {
     if (desk.model.active == nullptr)
         return;
     const Event event = eventOf(desk, n);
-    desk.model.active->release(event.model);
+    if (!desk.model.active->heldByKeys())
+        desk.model.active->release(event.model);
     send(desk, event, QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
 }
 
@@ -132,7 +156,7 @@ void key(Desk& desk, const std::vector<int>& n) {
     const auto& [qtKey, key] = kKeys[static_cast<std::size_t>(n[0]) % kKeys.size()];
     ViewModel& image = *desk.model.active;
     // Without a selection the arrows walk the texel cursor.
-    if (key >= Key::Left && key <= Key::Down && !image.exists())
+    if (key >= Key::Left && key <= Key::Down && (!image.exists() || image.heldByKeys()))
         return;
     const bool shift = n[1] == 1 && key >= Key::Left && key <= Key::Down;
     image.key(key, shift);
@@ -140,6 +164,63 @@ void key(Desk& desk, const std::vector<int>& n) {
         QKeyEvent event(type, qtKey, shift ? Qt::ShiftModifier : Qt::NoModifier);
         QCoreApplication::sendEvent(desk.view(), &event);
     }
+}
+
+/// Where it stands; nothing when it is not shown.
+std::optional<Point> texelCursor(Desk& desk) {
+    Point at;
+    if (std::sscanf(desk.view()->view().toldTexel().c_str(), "%d, %d", &at.x, &at.y) != 2)
+        return std::nullopt;
+    return at;
+}
+
+/// Walks the texel cursor, holds a tool down there or lets it go. Where it is shown first is the window's
+/// affair. To an image without colours keys do nothing.
+void cursorKey(Desk& desk, const std::vector<int>& n) {
+    if (desk.model.active == nullptr)
+        return;
+    ViewModel& image = *desk.model.active;
+    const bool blank = n[0] >= static_cast<int>(kWalks.size());
+    const Walk& walk = kWalks[static_cast<std::size_t>(n[0]) % kWalks.size()];
+    const Qt::Key key = blank ? Qt::Key_Space : walk.key;
+    const bool works = desk.model.paletteOf(image) != nullptr && (!image.dragging() || image.heldByKeys());
+    const bool control = n[1] == 1;
+    const bool centred = blank && n[1] == 2;
+    const int step = control ? 8 : 1;
+    Qt::KeyboardModifiers modifiers;
+    modifiers.setFlag(Qt::ControlModifier, control);
+    modifiers.setFlag(Qt::ShiftModifier, centred);
+    modifiers.setFlag(Qt::AltModifier, !blank && image.exists());
+    std::optional<Point> at = texelCursor(desk);
+    const bool wasShown = at.has_value();
+    // Held down until the next time, or let go of.
+    const bool presses = !blank || n[2] < 3;
+    const bool releases = !blank || n[2] != 1;
+    const auto send = [&](QEvent::Type type) {
+        QKeyEvent event(type, key, modifiers);
+        QCoreApplication::sendEvent(desk.view(), &event);
+    };
+    if (presses) {
+        send(QEvent::KeyPress);
+        if (!works || !wasShown)
+            at = texelCursor(desk);
+        else if (!blank)
+            at = {std::clamp(at->x + step * walk.way.x, 0, image.document.image().width - 1),
+                  std::clamp(at->y + step * walk.way.y, 0, image.document.image().height - 1)};
+        if (works && !blank && image.heldByKeys())
+            image.walk(*at);
+        else if (works && blank && image.heldByKeys())
+            image.letGo();
+        else if (works && blank && wasShown)
+            image.hold(*at, control, centred);
+    }
+    if (releases) {
+        if (blank && image.hasWalked())
+            image.letGo();
+        send(QEvent::KeyRelease);
+    }
+    if (const auto now = texelCursor(desk); now.has_value() != at.has_value() || (now && *now != *at))
+        desk.wonder("the texel cursor stands elsewhere");
 }
 
 void undo(Desk& desk, const std::vector<int>& n) {
@@ -281,6 +362,7 @@ const std::vector<Verb>& imageVerbs() {
                                          {"right-press", 10, kPointer, rightPress},
                                          {"drag", 150, {48, 48, 16, 16, 48, 48, 48, 48}, drag},
                                          {"key", 80, {8, 3}, key},
+                                         {"cursor-key", 80, {14, 4, 4}, cursorKey},
                                          {"command", 135, {static_cast<int>(kCommands.size())}, command},
                                          {"undo", 20, {3, 2}, undo},
                                          {"cell", 30, {256}, cell},

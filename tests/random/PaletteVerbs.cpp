@@ -145,6 +145,44 @@ void changeRange(Desk& desk, const std::vector<int>& n) {
     desk.model.refreshImages();
 }
 
+void copyCells(Desk& desk, const std::vector<int>& n) {
+    const PaletteModel* const palette = desk.model.current();
+    if (palette == nullptr)
+        return;
+    const int count = static_cast<int>(palette->table().entries.size());
+    const int first = n[0] % (count - 1);
+    const int last = std::min(first + 1 + n[1], count - 1);
+    desk.frame().paletteBar().selectEntries({first, last});
+    desk.expectRun(ID_PALETTE_COPY, true);
+    desk.model.copiedCells.clear();
+    for (int entry = first; entry <= last; ++entry)
+        desk.model.copiedCells.push_back(palette->table().cell(static_cast<std::size_t>(entry)));
+}
+
+/// What does not fit behind its place stays away. Cells that look the same are no step.
+void pasteCells(Desk& desk, const std::vector<int>& n) {
+    PaletteModel* const palette = desk.model.current();
+    if (palette == nullptr || desk.model.copiedCells.empty())
+        return;
+    PlainTable table = palette->table();
+    const int count = static_cast<int>(table.entries.size());
+    const int place = n[0] % (count - 1);
+    desk.frame().paletteBar().selectEntries({place, place + 1});
+    desk.expectRun(ID_PALETTE_PASTE, true);
+    bool any = false;
+    auto at = static_cast<std::size_t>(place);
+    for (const std::uint32_t value : desk.model.copiedCells) {
+        if (at < table.entries.size()) {
+            any = any || value != table.cell(at);
+            table.setCell(at++, value);
+        }
+    }
+    if (!any)
+        return;
+    palette->edit(std::move(table));
+    desk.model.refreshImages();
+}
+
 } // namespace
 
 const std::vector<Verb>& paletteVerbs() {
@@ -156,7 +194,9 @@ const std::vector<Verb>& paletteVerbs() {
                                          {"entry", 40, {256, 65536}, entry},
                                          {"undo-entry", 25, {2, 2}, undo},
                                          {"move-entry", 15, {256, 256}, moveEntry},
-                                         {"change-range", 10, {256, 20, 2}, changeRange}};
+                                         {"change-range", 10, {256, 20, 2}, changeRange},
+                                         {"copy-cells", 10, {256, 20}, copyCells},
+                                         {"paste-cells", 12, {256}, pasteCells}};
     return verbs;
 }
 

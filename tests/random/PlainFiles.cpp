@@ -50,6 +50,25 @@ int PlainTable::alpha(std::size_t entry) const {
     return type == 1 ? entries[entry] & 255 : entries[entry] % 2 * 255;
 }
 
+std::uint32_t PlainTable::cell(std::size_t entry) const {
+    const std::uint32_t value = entries[entry];
+    if (type == 1)
+        return (value & 255U) << 24 | (value >> 8) * 0x10101U;
+    const auto widened = [](std::uint32_t five) { return five << 3 | five >> 2; };
+    return (value % 2 * 255U) << 24 | widened(value >> 1 & 31U) << 16 | widened(value >> 6 & 31U) << 8 |
+           widened(value >> 11);
+}
+
+/// Red is the intensity, and of alpha the lowest bit stays.
+void PlainTable::setCell(std::size_t entry, std::uint32_t value) {
+    const std::uint32_t red = value & 255U;
+    const std::uint32_t green = value >> 8 & 255U;
+    const std::uint32_t blue = value >> 16 & 255U;
+    const std::uint32_t alpha = value >> 24;
+    entries[entry] = static_cast<std::uint16_t>(
+        type == 1 ? red << 8 | alpha : red >> 3 << 11 | green >> 3 << 6 | blue >> 3 << 1 | (alpha & 1U));
+}
+
 /// By red, green, blue and alpha, which count 3, 6, 1 and 4; what is transparent is like nothing that is not.
 std::size_t PlainTable::nearestInBank(std::size_t entry, std::size_t bank) const {
     const auto distance = [this, entry](std::size_t other) {

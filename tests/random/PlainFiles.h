@@ -21,6 +21,9 @@ struct PlainTable {
     [[nodiscard]] std::vector<std::uint8_t> shown(std::size_t entry) const;
     /// 0 to 255.
     [[nodiscard]] int alpha(std::size_t entry) const;
+    /// As palettes of any type give it to each other: alpha, blue, green and red, of 8 bits.
+    [[nodiscard]] std::uint32_t cell(std::size_t entry) const;
+    void setCell(std::size_t entry, std::uint32_t value);
     /// The place in the bank of what looks most like the entry; of an entry of the bank its own.
     [[nodiscard]] std::size_t nearestInBank(std::size_t entry, std::size_t bank) const;
 };

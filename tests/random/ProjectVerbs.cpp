@@ -42,14 +42,14 @@ void open(Desk& desk, const std::vector<int>& n) {
     desk.fake.dialogs.answerWith(path);
     desk.run(ID_PROJECT_OPEN);
     if (!desk.model.project)
-        desk.model.project.emplace().read(path, desk.model.files.at(path));
+        desk.model.openProject(path);
     desk.readActive();
 }
 
 void save(Desk& desk, const std::vector<int>& /*n*/) {
     desk.run(ID_PROJECT_SAVE);
-    if (std::optional<ProjectModel>& project = desk.model.project)
-        desk.model.files[project->path] = project->write();
+    if (desk.model.project)
+        desk.model.saveProject();
 }
 
 void close(Desk& desk, const std::vector<int>& n) {
@@ -60,9 +60,7 @@ void close(Desk& desk, const std::vector<int>& n) {
     if (project->modified) {
         desk.answerNext(n[0]);
         ++desk.model.messages;
-        closes = n[0] != 2;
-        if (n[0] == 0)
-            desk.model.files[project->path] = project->write();
+        closes = n[0] == 1 || (n[0] == 0 && desk.model.saveProject());
     }
     bool anyOpen = false;
     for (const auto& [name, picture] : project->pictures) {

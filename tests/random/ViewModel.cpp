@@ -142,7 +142,8 @@ void ViewModel::letFloat(PlainImage newPiece) {
 }
 
 void ViewModel::pick(Point position) {
-    const Point at = texel(position);
+    const Point seen = texel(position);
+    const Point at = minus(seen, copyWith(seen));
     if (!document.image().holds(at))
         return;
     value = document.image().at(at);
@@ -163,7 +164,11 @@ void ViewModel::press(const Pointer& event) {
         return pick(event.position);
     if (shared_.cell >= 0)
         value = static_cast<std::uint32_t>(shared_.cell - shared_.firstEntry) & document.image().mask();
-    start_ = texel(event.position);
+    // What is selected lies in the image itself.
+    const bool grabs = tool == Tool::Select && hitAt(event.position) != TrackerHit::None;
+    copy_ = grabs ? Point{} : copyWith(texel(event.position));
+    start_ = minus(texel(event.position), copy_);
+    byKeys_ = false;
     dragging_ = tool != Tool::Paint && tool != Tool::Replacer;
     if (tool == Tool::Select)
         grab(event.position);
@@ -188,14 +193,19 @@ void ViewModel::press(const Pointer& event) {
         drawShape();
 }
 
-/// The corner opposite to the one that was hit stays.
-void ViewModel::grab(Point position) {
+TrackerHit ViewModel::hitAt(Point position) const {
     const auto [l, t, r, b] = selection.value_or(Rect{});
     const Rect frame{l * zoom + 1, t * zoom + 1, r * zoom + zoom - 1, b * zoom + zoom - 1};
-    hit_ = selection
+    return selection
                ? SelectionTracker(frame, SelectionTracker::kDottedLine | SelectionTracker::kResizeInside)
                      .hitTest(position)
                : TrackerHit::None;
+}
+
+/// The corner opposite to the one that was hit stays.
+void ViewModel::grab(Point position) {
+    const auto [l, t, r, b] = selection.value_or(Rect{});
+    hit_ = hitAt(position);
     cut_ = hasStep_ = false;
     selectionBefore_ = hit_ == TrackerHit::None && piece ? std::nullopt : selection;
     const bool left =
@@ -211,7 +221,7 @@ void ViewModel::grab(Point position) {
 }
 
 void ViewModel::move(const Pointer& event) {
-    const Point at = texel(event.position);
+    const Point at = minus(texel(event.position), copy_);
     if (!dragging_ || atPress_ == Tool::Pixel || atPress_ == Tool::ZoomLens)
         return;
     if (atPress_ == Tool::Select) {
@@ -280,7 +290,7 @@ void ViewModel::release(const Pointer& event) {
         return;
     if (atPress_ != Tool::Pen) {
         if (atPress_ == Tool::Line)
-            follow(texel(event.position));
+            follow(minus(texel(event.position), copy_));
         document.image() = *snapshot_;
         drawShape();
     }
@@ -312,31 +322,6 @@ bool ViewModel::cancelOwn() {
     return open || recorded;
 }
 
-void ViewModel::key(Key key, bool shift) {
-    if (key == Key::Escape && dragging_) {
-        cancel();
-        return;
-    }
-    if (key == Key::Escape || key == Key::Enter) {
-        if (!exists() && !piece)
-            return;
-        if (selecting())
-            dragging_ = false;
-        if (key == Key::Escape)
-            piece.reset();
-        commit();
-        return;
-    }
-    if (key == Key::I || key == Key::O)
-        return zoomStep(key == Key::O);
-    if (!exists())
-        return;
-    const Point way{(key == Key::Right ? 1 : 0) - (key == Key::Left ? 1 : 0),
-                    (key == Key::Down ? 1 : 0) - (key == Key::Up ? 1 : 0)};
-    selection = Rect{selection->left + (shift ? 0 : way.x), selection->top + (shift ? 0 : way.y),
-                     selection->right + way.x, selection->bottom + way.y};
-}
-
 void ViewModel::zoomStep(bool out) {
     const auto at = std::ranges::find(kZooms, zoom);
     if (out && at != kZooms.begin())
@@ -352,7 +337,8 @@ std::optional<bool> ViewModel::enabled(CommandId id) const {
         return shared_.pen.size < 16;
     if ((id >= ID_BRUSH_SQUARE && id <= ID_MIRROR_DOWN) || id == ID_DRAW_WRAP)
         return true;
-    if (toolOf(id) || id == ID_TOOL_SPUIT || id == ID_VIEW_GRID || (id >= ID_ZOOM_X1 && id <= ID_ZOOM_X16))
+    if (toolOf(id) || id == ID_TOOL_SPUIT || id == ID_VIEW_GRID || id == ID_VIEW_REPEAT ||
+        (id >= ID_ZOOM_X1 && id <= ID_ZOOM_X16))
         return true;
     switch (id) {
     case ID_EDIT_UNDO:
@@ -416,6 +402,10 @@ void ViewModel::run(CommandId id) {
         spuit = !spuit;
     if (id == ID_VIEW_GRID)
         grid = !grid;
+    if (id == ID_VIEW_REPEAT) {
+        cancelOwn();
+        repeated = !repeated;
+    }
     PlainPen& pen = shared_.pen;
     if (id == ID_BRUSH_SMALLER || id == ID_BRUSH_LARGER)
         pen.size += id == ID_BRUSH_LARGER ? 1 : -1;

@@ -51,6 +51,7 @@ public:
     int zoom = 1;
     bool grid = true;
     bool spuit = false;
+    bool repeated = false;
     bool replaced = false; ///< The image has been: its palette is to be looked for again.
 
     /// The image with what floats in this view.
@@ -66,6 +67,10 @@ public:
     bool cancel();
     /// Only keys that are to do something.
     void key(Key key, bool shift);
+    /// At the texel cursor a tool goes down, is led on and goes up.
+    void hold(Point texel, bool control, bool alt);
+    void walk(Point texel);
+    void letGo();
     /// An enabled command of the view but Undo and Redo, which may concern others.
     void run(CommandId id);
     /// Nothing for a command that is not the view's.
@@ -94,6 +99,9 @@ public:
     void imageReplaced();
 
     [[nodiscard]] bool dragging() const { return dragging_; }
+    [[nodiscard]] bool heldByKeys() const { return dragging_ && byKeys_; }
+    /// The cursor has been elsewhere since.
+    [[nodiscard]] bool hasWalked() const { return heldByKeys() && walked_; }
     [[nodiscard]] bool exists() const {
         return keepsSelection(atPress_) && selection && selection->right > selection->left &&
                selection->bottom > selection->top;
@@ -104,7 +112,11 @@ public:
     [[nodiscard]] bool canUndo() const { return !document.states.undone.empty() || opensEdit(); }
 
 private:
-    [[nodiscard]] Point texel(Point position) const { return {position.x / zoom, position.y / zoom}; }
+    [[nodiscard]] Point texel(Point position) const;
+    /// The way to the copy of the image that has the texel.
+    [[nodiscard]] Point copyWith(Point texel) const;
+    [[nodiscard]] Point pointedAt(Point texel) const;
+    [[nodiscard]] TrackerHit hitAt(Point position) const;
     [[nodiscard]] bool selecting() const { return dragging_ && atPress_ == Tool::Select; }
     /// Whether the drag draws what only its end makes a step.
     [[nodiscard]] bool opensEdit() const {
@@ -133,6 +145,11 @@ private:
     bool hasStep_ = false;
     TrackerHit hit_ = TrackerHit::None;
     Point anchor_, current_, previous_, start_;
+    Point copy_; ///< That the drag began in.
+    bool byKeys_ = false;
+    bool walked_ = false;
+    Point heldAt_;
+    Pointer heldWith_;
     std::optional<PlainImage> snapshot_;
     std::optional<Rect> selectionBefore_;
 };

@@ -132,12 +132,12 @@ protected:
     }
     /// Whoever looks has seen all that was done until now.
     void settle() { EXPECT_FALSE(watch_.look(false) && watch_.look(false)); }
-    const OutsideWatch::Notice* noticeOf(const Subject& subject) const {
+    std::optional<OutsideWatch::Notice> noticeOf(const Subject& subject) const {
         for (const OutsideWatch::Notice& notice : watch_.notices()) {
             if (notice.path == subject.path)
-                return &notice;
+                return notice;
         }
-        return nullptr;
+        return std::nullopt;
     }
 
     void change(Subject& subject, bool inPlace) {
@@ -182,9 +182,9 @@ protected:
         const State now = expected(subject);
         if (subject.kept && (*subject.kept != subject.file || now == State::Same))
             subject.kept.reset();
-        const OutsideWatch::Notice* const notice = noticeOf(subject);
+        const std::optional<OutsideWatch::Notice> notice = noticeOf(subject);
         const bool asks = now != State::Same && !subject.kept;
-        ASSERT_EQ(notice != nullptr, asks) << subject.path << " " << static_cast<int>(now);
+        ASSERT_EQ(notice.has_value(), asks) << subject.path << " " << static_cast<int>(now);
         subject.told = now;
         if (!asks)
             return;
@@ -218,7 +218,7 @@ protected:
             subject.kept = subject.file;
             EXPECT_TRUE(subject.isUnsaved()) << subject.path;
         }
-        EXPECT_EQ(noticeOf(subject), nullptr);
+        EXPECT_FALSE(noticeOf(subject));
     }
 
     void step(Subject& subject) {
