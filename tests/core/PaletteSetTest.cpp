@@ -64,16 +64,6 @@ TEST_F(Palettes, NewOnesTakeTheAlphaAndStayUnmodified) {
     EXPECT_TRUE(state().ends_with(" "));
 }
 
-TEST_F(Palettes, OpeningAnOpenFileKeepsItsEditsAndMakesItCurrent) {
-    open({"c:\\a.tlf", "c:\\b.tlf"});
-    set.lookup("c:\\a.tlf")->setEntry(0, 99);
-    EXPECT_TRUE(set.openPalette("a.tlf"));
-    EXPECT_EQ(state(), ">c:\\a.tlf c:\\b.tlf tc");
-    EXPECT_EQ(entry(0), 99);
-    EXPECT_FALSE(set.openPalette("c:\\none.tlf"));
-    EXPECT_EQ(state(), ">c:\\a.tlf c:\\b.tlf ");
-}
-
 TEST_F(PaletteSetKeys, TakenOnesAreNumbered) {
     const struct {
         const char *path, *key, *title;
@@ -183,22 +173,6 @@ TEST_F(PaletteSetRekey, AllAtOnceWhileKeysMove) {
     EXPECT_EQ(entry(0), 2);
     EXPECT_FALSE(set.rekeyAll());
     EXPECT_EQ(state(), ">c:\\a c:\\c c:\\z t");
-}
-
-TEST_F(PaletteSetClose, FirstRemainingKeyBecomesCurrent) {
-    open({"c:\\a", "c:\\c", "c:\\b"});
-    EXPECT_TRUE(set.closePalette("c:\\c", true));
-    EXPECT_EQ(state(), "c:\\a >c:\\b tc");
-    EXPECT_TRUE(set.closePalette(set.currentKey, false));
-    EXPECT_EQ(state(), ">c:\\a ");
-
-    set.lookup("")->setRed(0, 7);
-    fake.messages.answerWith({MessageAnswer::Cancel, MessageAnswer::No});
-    EXPECT_FALSE(set.closePalette("", true));
-    EXPECT_EQ(state(), ">c:\\a ");
-    EXPECT_TRUE(set.closePalette(set.lookup("")->path, true));
-    EXPECT_EQ(state(), "tc");
-    EXPECT_FALSE(set.closePalette("", true));
 }
 
 TEST_F(PaletteSetClose, AskingForAllStopsAtTheFirstRefusalAndKeepsWhatWasSaved) {

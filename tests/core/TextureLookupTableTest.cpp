@@ -134,25 +134,6 @@ TEST_F(PaletteFile, OnlyChangesMarkItModifiedAndThenItRefusesToOpen) {
     EXPECT_THAT(fake.messages.shown, IsEmpty());
 }
 
-TEST_F(PaletteFile, QuestionBeforeClosingHasThreeAnswers) {
-    ASSERT_TRUE(palette.save(kTablePath.c_str(), false));
-    EXPECT_TRUE(palette.querySave());
-    EXPECT_THAT(fake.messages.shown, IsEmpty());
-
-    palette.setRed(0, 9);
-    fake.messages.answerWith({MessageAnswer::Cancel, MessageAnswer::No, MessageAnswer::Yes});
-    EXPECT_FALSE(palette.querySave());
-    EXPECT_THAT(fake.messages.shown,
-                ElementsAre(Asks("\"sky\" (TLF) is modified. save now?", MessageButtons::YesNoCancel)));
-    EXPECT_TRUE(palette.querySave());
-    fake.files.failNextWrite(FileError::Other);
-    EXPECT_FALSE(palette.querySave()) << "the save failed";
-    EXPECT_TRUE(palette.modified);
-    fake.messages.answerWith(MessageAnswer::Yes);
-    EXPECT_TRUE(palette.querySave());
-    EXPECT_FALSE(palette.modified);
-}
-
 TEST_F(PaletteColours, AreWidenedWithZeroesOrShowTheAlphaPlane) {
     const struct {
         ColourType type;

@@ -1,10 +1,33 @@
-#include "TestDocument.h"
+#include "framework/DocumentTemplate.h"
+
+#include "framework/CDocument.h"
+#include "platform/fake/FakePlatform.h"
+
+#include <gmock/gmock.h>
 
 using namespace dyeworks;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
+
+/// A document whose file operations do as they are told.
+class TestDocument : public CDocument {
+public:
+    using CDocument::CDocument;
+
+    bool openSucceeds = true;
+    bool changesWhenRead = false;
+    bool newSucceeds = true;
+
+    bool onNewDocument() override { return CDocument::onNewDocument() && newSucceeds; }
+    bool onOpenDocument(const std::string& path) override {
+        const bool opened = CDocument::onOpenDocument(path) && openSucceeds;
+        setModified(changesWhenRead);
+        return opened;
+    }
+    bool onSaveDocument(const std::string& /*path*/) override { return false; }
+};
 
 struct TestWindows : DocumentWindows {
     bool succeed = true;
@@ -62,24 +85,6 @@ TEST_F(Templates, FileThatCannotBeReadOrShownLeavesNoDocument) {
     EXPECT_EQ(textures.openDocument("c:\\tex\\sky.tmf"), nullptr);
     EXPECT_EQ(textures.newDocument(), nullptr);
     EXPECT_THAT(textures.documents(), IsEmpty());
-}
-
-TEST_F(Templates, AbandonedNewDocumentUsesUpNoNumber) {
-    textures.newDocument();
-    nextSucceeds = false;
-    textures.newDocument();
-    nextSucceeds = true;
-    textures.newDocument();
-    EXPECT_THAT(windows.opened, ElementsAre("Texture1", "Texture2"));
-    EXPECT_EQ(textures.findDocument(""), nullptr);
-}
-
-TEST_F(Templates, ClaimsFilesByTheLastExtensionOfTheirName) {
-    EXPECT_TRUE(textures.matches("c:\\tex\\sky.tmf"));
-    EXPECT_TRUE(textures.matches("/tex/sky.bmp.TMF"));
-    EXPECT_FALSE(textures.matches("c:\\tex\\sky.tmf.bmp"));
-    EXPECT_FALSE(textures.matches("c:\\old.tmf\\sky"));
-    EXPECT_FALSE(textures.matches("c:\\tex\\skytmf"));
 }
 
 } // namespace

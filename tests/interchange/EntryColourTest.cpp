@@ -1,7 +1,6 @@
 #include "interchange/EntryColour.h"
 
 #include "interchange/PerceptualSpace.h"
-#include "interchange/Texture.h"
 
 #include <gtest/gtest.h>
 
@@ -54,15 +53,6 @@ TEST(EntryColour, GreysThatFiveBitsLoseMakeAPaletteOfIntensities) {
     EXPECT_EQ(colourTypeFor({{9, 9, 9}}), ColourType::Ia);
     EXPECT_EQ(colourTypeFor({{8, 8, 8, 127}}), ColourType::Ia);
     EXPECT_EQ(colourTypeFor({{9, 9, 9}, {8, 8, 9}}), ColourType::Rgba);
-}
-
-TEST(Texture, TexelsOfOddWidthStandWhereTheyStood) {
-    const std::uint8_t indices[] = {1, 2, 3, 4, 5, 6};
-    for (const std::int32_t bits : {4, 8}) {
-        const TmfImage image = imageOf(3, 2, bits, indices);
-        for (std::int32_t i = 0; i < 6; ++i)
-            EXPECT_EQ(image.getTexel(i % 3, i / 3), indices[i]) << bits;
-    }
 }
 
 } // namespace

@@ -1,31 +1,19 @@
+#include "../png_plugins/PlugInDialogs.h"
 #include "FakeHost.h"
 
-#include <QApplication>
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QLabel>
-#include <QLibrary>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QTimer>
 
 #include <array>
 
 namespace dyeworks::plugins {
 namespace {
-
-/// Answers the dialog that opens next, from inside its loop.
-template <class Answer>
-void answerNext(Answer answer) {
-    QTimer::singleShot(0, qApp, [answer] {
-        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialog, nullptr);
-        answer(*dialog);
-    });
-}
 
 QPushButton& ok(QDialog& dialog) {
     return *dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
@@ -43,10 +31,7 @@ auto press(QMessageBox::StandardButton button) {
     return [=](QDialog& dialog) { static_cast<QMessageBox&>(dialog).button(button)->click(); };
 }
 
-template <class Function>
-Function* entryPoint(const char* name) {
-    return reinterpret_cast<Function*>(QLibrary::resolve(QStringLiteral(DYEWORKS_NOTES_LIBRARY), name));
-}
+const QString kNotes = QStringLiteral(DYEWORKS_NOTES_LIBRARY);
 
 class NotesPlugIn : public NotesTest {
 protected:
@@ -68,12 +53,15 @@ protected:
     }
 
     decltype(DWPI_TPF_onUpdateNodes)* onUpdateNodes_ =
-        entryPoint<decltype(DWPI_TPF_onUpdateNodes)>("DWPI_TPF_onUpdateNodes");
-    decltype(DWPI_TPF_onDelete)* onDelete_ = entryPoint<decltype(DWPI_TPF_onDelete)>("DWPI_TPF_onDelete");
-    decltype(DWPI_TPF_onCommand)* onCommand_ = entryPoint<decltype(DWPI_TPF_onCommand)>("DWPI_TPF_onCommand");
-    decltype(DWPI_TPF_toString)* toString_ = entryPoint<decltype(DWPI_TPF_toString)>("DWPI_TPF_toString");
-    decltype(DWPI_TPF_export)* export_ = entryPoint<decltype(DWPI_TPF_export)>("DWPI_TPF_export");
-    DwHandle handle_ = entryPoint<decltype(DWPI_TPF_onNew)>("DWPI_TPF_onNew")();
+        entryPoint<decltype(DWPI_TPF_onUpdateNodes)>(kNotes, "DWPI_TPF_onUpdateNodes");
+    decltype(DWPI_TPF_onDelete)* onDelete_ =
+        entryPoint<decltype(DWPI_TPF_onDelete)>(kNotes, "DWPI_TPF_onDelete");
+    decltype(DWPI_TPF_onCommand)* onCommand_ =
+        entryPoint<decltype(DWPI_TPF_onCommand)>(kNotes, "DWPI_TPF_onCommand");
+    decltype(DWPI_TPF_toString)* toString_ =
+        entryPoint<decltype(DWPI_TPF_toString)>(kNotes, "DWPI_TPF_toString");
+    decltype(DWPI_TPF_export)* export_ = entryPoint<decltype(DWPI_TPF_export)>(kNotes, "DWPI_TPF_export");
+    DwHandle handle_ = entryPoint<decltype(DWPI_TPF_onNew)>(kNotes, "DWPI_TPF_onNew")();
 };
 
 TEST_F(NotesPlugIn, CommandsAndDragsAreThoseOfTheNode) {

@@ -21,29 +21,6 @@ std::vector<int> numbers(std::span<const std::uint8_t> bytes) {
     return numbers(std::as_bytes(bytes));
 }
 
-TEST(CanvasLayout, BlockIsABmpFile) {
-    TextureCanvas canvas;
-    ASSERT_TRUE(canvas.Create(3, 2, 1, 4));
-    canvas.SetPixel(0, 0, 0xA1);
-    canvas.SetPixel(1, 0, 0xB2);
-    canvas.SetPixel(2, 1, 3);
-    std::vector<int> expected(126, 0);
-    const auto put = [&](std::size_t offset, std::initializer_list<int> bytes) {
-        std::copy(bytes.begin(), bytes.end(), expected.begin() + static_cast<std::ptrdiff_t>(offset));
-    };
-    put(0, {'B', 'M', 126});
-    put(10, {118});
-    put(14, {40});
-    put(18, {3});
-    put(22, {2});
-    put(26, {1, 0, 4});
-    put(46, {16});
-    put(118, {0x00, 0x30, 0, 0, 0x12, 0, 0, 0});
-    EXPECT_THAT(numbers(canvas.block()), ElementsAreArray(expected));
-    EXPECT_EQ(canvas.packedBitmap().data(), canvas.block().data() + 14);
-    EXPECT_EQ(canvas.packedBitmap().size(), 112U);
-}
-
 TEST(CanvasLayout, PixelsLieWhereTheirDepthPutsThem) {
     const struct {
         std::uint16_t bits;

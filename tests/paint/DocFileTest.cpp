@@ -4,7 +4,6 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <functional>
 #include <utility>
 
 namespace dyeworks {
@@ -69,47 +68,6 @@ TEST_F(DocFixture, SaveOfANewImageAsksForItsFile) {
     EXPECT_TRUE(request.hideReadOnly && request.overwritePrompt);
     EXPECT_EQ(document.pathName(), "c:\\new.tmf");
     EXPECT_EQ(document.title(), "new.tmf");
-}
-
-TEST_F(DocFile, SaveQuestionIsAskedWhereverTheFileDiffers) {
-    const auto draw = [this](std::uint32_t value) { pixel(1, 1, value); };
-    const auto save = [this] { ASSERT_TRUE(document.save()); };
-    const auto undo = [this] { ASSERT_TRUE(document.Undo()); };
-    struct Case {
-        const char* name;
-        std::function<void()> steps;
-        bool modified;
-        bool asks;
-    };
-    const std::vector<Case> cases{
-        {"untouched", [] {}, false, false},
-        {"drawn and undone", [&] { draw(1), undo(); }, false, false},
-        {"saved, then undone to the start", [&] { draw(1), save(), undo(); }, false, true},
-        {"saved, undone, then another edit undone", [&] { draw(1), save(), undo(), draw(2), undo(); }, false,
-         true},
-        {"back at the saved step", [&] { draw(1), save(), undo(), document.Redo(); }, true, true},
-        {"history cleared where it was saved", [&] { draw(1), save(), document.ClearUndo(); }, false, false},
-        {"history cleared elsewhere", [&] { draw(1), save(), undo(), document.ClearUndo(), draw(3), undo(); },
-         false, true},
-        {"start dropped for capacity",
-         [&] {
-             for (std::uint32_t n = 1; n <= 101; ++n)
-                 draw(1 + n % 2);
-             while (document.Undo()) {
-             }
-         },
-         false, true},
-    };
-    for (const Case& step : cases) {
-        SCOPED_TRACE(step.name);
-        document.canvas().Create(16, 12, 1, 4);
-        ASSERT_TRUE(document.save());
-        ASSERT_TRUE(document.onOpenDocument("c:\\tex.tmf"));
-        EXPECT_FALSE(document.edits().canUndo());
-        step.steps();
-        EXPECT_EQ(document.isModified(), step.modified);
-        EXPECT_EQ(document.hasUnsavedChanges(), step.asks);
-    }
 }
 
 TEST_F(DocFile, ColoursOfABitmapBecomeTheCurrentPalette) {
@@ -289,35 +247,15 @@ TEST_F(DocFile, ExportedBitmapIsACopyAndTheDocumentKeepsItsFile) {
     EXPECT_TRUE(document.hasUnsavedChanges());
 }
 
-TEST_F(DocFile, RevertGoesBackToTheFileAndKeepsThePalette) {
-    openPalette();
-    document.Attach();
-    const auto canRevert = [&] { return stateOf(document, ID_FILE_REVERT).enabled; };
-    pixel(1, 1, 5);
+TEST_F(DocFile, RevertOfAFileThatCannotBeReadLeavesWhatThereIs) {
     ASSERT_TRUE(document.save());
-    const auto saved = pixels();
-    const std::string title = document.title();
-    openPalette(256); // another one is current now
-    EXPECT_FALSE(canRevert());
-    document.canvas().Create(40, 50, 1, 4); // the file has another size
     fill(0, 0, 3);
-    EXPECT_TRUE(canRevert());
     const auto edited = pixels();
-    document.runCommand(ID_FILE_REVERT); // the question is answered with no
-    EXPECT_EQ(pixels(), edited);
     platform.messages.answerWith({MessageAnswer::Yes, MessageAnswer::Ok});
     platform.files.failNextRead(FileError::AccessDenied);
     document.runCommand(ID_FILE_REVERT);
     EXPECT_EQ(pixels(), edited);
     EXPECT_TRUE(document.edits().canUndo());
-    platform.messages.answerWith(MessageAnswer::Yes);
-    document.runCommand(ID_FILE_REVERT);
-    EXPECT_EQ(pixels(), saved);
-    EXPECT_EQ(document.title(), title);
-    EXPECT_FALSE(document.hasUnsavedChanges() || document.edits().canUndo() || canRevert());
-    pixel(15, 11, 2);
-    document.Undo();
-    EXPECT_EQ(pixels(), saved);
 }
 
 TEST_F(DocFixture, AddToProjectAsksForWhatIsMissing) {

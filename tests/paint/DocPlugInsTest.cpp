@@ -57,13 +57,6 @@ TEST_F(DocPlugIns, PreviewsThatAreOnFollowImageAndPalette) {
     EXPECT_THAT(calls(), ElementsAre("preview 0 texel 7 of 256 from 48", "preview 1 texel 7 of 256 from 48"));
 }
 
-TEST_F(DocPlugIns, PreviewIsShownWhatItMakesOfTheImageAndNotWhatItMakesOfThat) {
-    std::int32_t made = 0;
-    host.plugIns.onPreview = [&] { pixel(++made, 1, 5); };
-    document.runCommand(ID_PREVIEW1);
-    EXPECT_EQ(made, 2);
-}
-
 TEST_F(DocPlugIns, FailingPreviewIsSwitchedOff) {
     document.runCommand(ID_PREVIEW1);
     EXPECT_TRUE(checked(ID_PREVIEW1));

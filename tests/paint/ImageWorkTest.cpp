@@ -100,27 +100,9 @@ TEST_F(ImageWorkCommands, IndexesOutsideTheBankAreAskedAboutAndTakeItsNearestCol
     EXPECT_EQ(map[0x30], 0);
 }
 
-TEST_F(ImageWorkCommands, AQuarterTurnLiftsTheSelectionAndFourBringItBack) {
-    for (std::int32_t n = 0; n < 24; ++n)
-        pixel(n % 6, n / 6, static_cast<std::uint32_t>(n + 1));
-    const auto before = pixels();
-    view.selection().select(Rect{1, 1, 4, 2}, false);
-    run(ID_IMAGE_TURN_RIGHT);
-    EXPECT_TRUE(view.selection().hasFloatingPiece());
-    EXPECT_EQ(view.selection().texels(), (Rect{2, 0, 3, 3}));
-    EXPECT_EQ(document.canvas().GetPixel(1, 1), 0U);
-    for (int n = 0; n < 3; ++n)
-        run(ID_IMAGE_TURN_RIGHT);
-    EXPECT_TRUE(view.selection().commitFloatingPiece(true));
-    EXPECT_EQ(pixels(), before);
-
-    // A piece that floats is placed before the image is cropped to it.
+TEST_F(ImageWorkCommands, ThePointersTexelIsToldAnewWhereTheImageGrows) {
     view.selection().select(Rect{0, 0, 1, 1}, false);
-    run(ID_IMAGE_TURN_LEFT);
     run(ID_IMAGE_CROP);
-    EXPECT_FALSE(view.selection().hasFloatingPiece() || view.selection().texels());
-    EXPECT_EQ(document.canvas().width(), 2);
-    EXPECT_EQ(document.canvas().GetPixel(0, 0), 2U);
     EXPECT_EQ(window.content, (Size{2, 2}));
     window.pointer = {5, 3};
     run(ID_EDIT_UNDO);

@@ -61,7 +61,7 @@ TEST_F(Selecting, EachHandleShowsWhichSidesItMoves) {
         EXPECT_EQ(cursorAt(middleOf(target)), shape) << "as long as it is dragged";
         release(middleOf({12, 11}));
         EXPECT_EQ(view.selection().texels().value_or(Rect{}), selected);
-        view.KeyPressed({Key::Enter});
+        EXPECT_TRUE(view.KeyPressed({Key::Enter}));
     }
 }
 
@@ -80,19 +80,6 @@ TEST_F(Selecting, TheCursorFollowsToolAndKeys) {
     EXPECT_EQ(window.cursor, CursorShape::ZoomIn);
     view.KeyPressed({Key::Control, 1, false, true});
     EXPECT_EQ(window.cursor, CursorShape::ZoomOut);
-}
-
-TEST_F(Selecting, WhatFloatsIsPartOfTheWork) {
-    document.setPathName("c:\\a.tmf");
-    ASSERT_TRUE(document.save());
-    EXPECT_FALSE(stateOf(view, ID_EDIT_PASTE).enabled);
-    ASSERT_TRUE(document.canvas().CopyToClipboard({2, 2, 4, 3}));
-    EXPECT_TRUE(stateOf(view, ID_EDIT_PASTE).enabled);
-    view.runCommand(ID_EDIT_PASTE);
-    EXPECT_EQ(document.title(), "a.tmf");
-    EXPECT_FALSE(document.saveModified()) << "cancelled";
-    EXPECT_EQ(platform.messages.shown.size(), 1U);
-    EXPECT_TRUE(view.selection().hasFloatingPiece());
 }
 
 TEST_F(Selecting, WhatFloatsTakesTheColoursThatTheImageTakes) {

@@ -194,27 +194,6 @@ INSTANTIATE_TEST_SUITE_P(Seeds, TexelCursors, testing::Range(1U, 9U));
 
 using TexelCursorPlace = TexelCursors;
 
-TEST(TexelCursor, WalksToTheEdgesAndNoFurther) {
-    const struct {
-        Key key;
-        bool far;
-        Point from;
-        Point to;
-    } cases[] = {
-        {Key::Left, false, {0, 2}, {0, 2}},     {Key::Left, true, {9, 2}, {1, 2}},
-        {Key::Right, false, {8, 2}, {9, 2}},    {Key::Right, false, {9, 2}, {9, 2}},
-        {Key::Right, true, {4, 2}, {9, 2}},     {Key::Up, false, {4, 0}, {4, 0}},
-        {Key::Up, true, {4, 4}, {4, 0}},        {Key::Down, false, {4, 3}, {4, 4}},
-        {Key::Down, false, {4, 4}, {4, 4}},     {Key::Home, false, {4, 2}, {0, 2}},
-        {Key::End, false, {4, 2}, {9, 2}},      {Key::PageUp, false, {4, 2}, {4, 0}},
-        {Key::PageDown, false, {4, 2}, {4, 4}},
-    };
-    for (const auto& [key, far, from, to] : cases)
-        EXPECT_EQ(TexelCursor::walked(from, {.key = key, .control = far}, {10, 5}), to)
-            << static_cast<int>(key);
-    EXPECT_EQ(TexelCursor::walked({1, 1}, {.key = Key::Space}, {10, 5}), std::nullopt);
-}
-
 TEST_F(TexelCursorPlace, BeginsAtThePointerAndGoesWithItsFirstMove) {
     EXPECT_TRUE(key(Key::Right));
     EXPECT_EQ(keys.host.panes[1], "(14, 10) 100%") << "or else in the middle";

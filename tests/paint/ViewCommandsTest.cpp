@@ -109,6 +109,26 @@ TEST_F(ViewFixture, ActivationShowsTheDocumentOncePerChange) {
     EXPECT_EQ(host.panes[1], "(8, 2) 100%");
 }
 
+TEST_F(ViewFixture, ADragWithShiftScrollsAsFarAsThereIsImageAndEscapeScrollsBack) {
+    view.SetZoom(4); // 64 by 48 pixels in 40 by 30.
+    setCurrentTool(Tool::Pen);
+    for (const bool escaped : {false, true}) {
+        window.scroll = {10, 10};
+        press({20, 20}, {.shift = true});
+        move({15, 28});
+        EXPECT_EQ(window.scroll, (Point{15, 2}));
+        move({-99, -99});
+        EXPECT_EQ(window.scroll, (Point{24, 18}));
+        if (escaped)
+            EXPECT_TRUE(view.KeyPressed({Key::Escape}));
+        else
+            release({-99, -99});
+        EXPECT_EQ(window.scroll, escaped ? (Point{10, 10}) : (Point{24, 18}));
+        EXPECT_FALSE(view.dragging() || window.captured || document.edits().canUndo());
+    }
+    setCurrentTool(Tool::Select);
+}
+
 TEST_F(ViewFixture, AButtonThatGoesUpWhileThePressIsPreviewedEndsTheDrag) {
     host.active = &document;
     document.runCommand(ID_PREVIEW1);

@@ -2,23 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
-
 namespace dyeworks {
 namespace {
-
-TEST(ViewGeometry, ZoomStepsThroughItsFactorsAndBack) {
-    std::vector<std::int32_t> in{1};
-    while (ViewGeometry::zoomedIn(in.back()) != in.back())
-        in.push_back(ViewGeometry::zoomedIn(in.back()));
-    std::vector<std::int32_t> out{16};
-    while (ViewGeometry::zoomedOut(out.back()) != out.back())
-        out.push_back(ViewGeometry::zoomedOut(out.back()));
-    const std::vector<std::int32_t> factors(ViewGeometry::kZoomFactors.begin(),
-                                            ViewGeometry::kZoomFactors.end());
-    EXPECT_EQ(in, factors);
-    EXPECT_EQ(std::vector(out.rbegin(), out.rend()), factors);
-}
 
 TEST(ViewGeometry, ZoomsBetweenTheFactorsStayInRange) {
     struct Case {

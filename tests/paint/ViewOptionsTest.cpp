@@ -19,12 +19,14 @@ protected:
         shown.resize({60, 40});
         shown.view = &seen;
         seen.InitialUpdate();
+        otherShown.view = &other;
+        other.InitialUpdate();
         host.cell = 9;
     }
     ~ViewOptions() override {
         setDrawingOptions({});
         setCurrentTool(Tool::Select);
-        shown.view = nullptr;
+        shown.view = otherShown.view = nullptr;
     }
 
     void pressIn(Point at) { seen.PointerPressed(event(at, PointerButton::Left, {})); }
@@ -33,6 +35,8 @@ protected:
 
     PaintingWindow shown;
     CDyeworksView seen{document, shown};
+    PaintingWindow otherShown;
+    CDyeworksView other{document, otherShown};
 };
 
 TEST_F(ViewOptions, RepeatedShowsNinePlainPicturesAndAllElseInTheMiddle) {
@@ -178,7 +182,7 @@ TEST(BrushOutline, IsTheRingOfPixelsAroundTheTexels) {
     }
 }
 
-TEST_F(ViewOptions, WindowShowsWhatAPaintOfAllOfItWould) {
+TEST_F(ViewOptions, WindowsShowWhatAPaintOfAllOfThemWould) {
     Random random(7);
     constexpr Tool kTools[] = {Tool::Select, Tool::Select,     Tool::Pen,
                                Tool::Box,    Tool::CircleFill, Tool::Paint};
@@ -203,8 +207,10 @@ TEST_F(ViewOptions, WindowShowsWhatAPaintOfAllOfItWould) {
             seen.runCommand(kCommands[random.between(0, 17)]);
         } else if (dice < 93) {
             seen.KeyPressed({random.once(2) ? Key::Escape : Key::Right, 1, false, false});
+        } else if (dice < 94) {
+            document.RefreshPalette();
         } else if (dice < 95) {
-            seen.PointerLeft();
+            random.once(2) ? seen.PointerLeft() : seen.PointerCaptureLost();
         } else if (dice < 97) {
             shown.scrollTo({random.between(0, 20), random.between(0, 20)});
             seen.Scrolled();
@@ -212,9 +218,11 @@ TEST_F(ViewOptions, WindowShowsWhatAPaintOfAllOfItWould) {
             seen.Tick();
         }
         shown.repaintNow();
+        otherShown.repaintNow();
         if (seen.dragging() && seen.selection().toolAtPress() != Tool::Select)
             continue;
         ASSERT_EQ(shown.shown, shown.painted(0)) << "turn " << turn << ", " << dice;
+        ASSERT_EQ(otherShown.shown, otherShown.painted(0)) << "turn " << turn << ", " << dice;
     }
 }
 

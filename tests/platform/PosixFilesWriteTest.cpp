@@ -101,22 +101,6 @@ TEST_F(PosixFilesWrite, ReplacesTheFileThatDiffersOnlyInCase) {
     EXPECT_EQ(fake.files.textOf("c:\\tex\\Cloud.tlf"), "");
 }
 
-TEST_F(PosixFilesWrite, KeepsTheOldFileWhenTheDiskIsFull) {
-    fake.files.putFile("c:\\sky.tlf", "old");
-    rlimit before{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    const rlimit small{1000, before.rlim_max};
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-    const std::optional<FileError> replaced = write("c:\\sky.tlf", std::string(4000, 'x'));
-    const std::optional<FileError> created = write("c:\\new.tlf", std::string(4000, 'x'));
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
-
-    EXPECT_EQ(replaced, FileError::NoSpace);
-    EXPECT_EQ(created, FileError::NoSpace);
-    EXPECT_EQ(fake.files.textOf("c:\\sky.tlf"), "old");
-    EXPECT_EQ(entryCount(), entriesBefore + 1) << "a temporary file or a half-written one stayed behind";
-}
-
 TEST_F(PosixFilesWrite, TakesAWriteOfNothingForAFailure) {
     fake.files.putFile("c:\\sky.tlf", "old");
     emptyWrites = 3;

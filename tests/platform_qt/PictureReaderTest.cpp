@@ -49,29 +49,6 @@ TEST(PictureReader, TablesKeepTheirOrderAndTwins) {
     EXPECT_EQ(picture.colours[1], (Colour{255, 0, 0}));
 }
 
-TEST(PictureReader, PhotosStandUpright) {
-    QImage image(14, 10, QImage::Format_RGB32);
-    image.fill(Qt::black);
-    for (int y = 0; y < 10; ++y)
-        image.setPixel(0, y, qRgb(255, 255, 255));
-    QByteArray file = fileOf(image, "JPG", 100);
-    // Orientation 6: what the file has on the left belongs at the top.
-    const QByteArray exif("\xFF\xE1\x00\x22"
-                          "Exif\0\0MM\0*\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01\0\x06\0\0\0\0\0\0",
-                          36);
-    file.insert(2, exif);
-    const auto read = dyeworks::read(file);
-    ASSERT_TRUE(read.ok());
-    const Picture& picture = read.value();
-    EXPECT_FALSE(picture.isIndexed());
-    ASSERT_EQ(picture.width, 10);
-    ASSERT_EQ(picture.height, 14);
-    for (std::size_t x = 0; x < 10; ++x) {
-        EXPECT_GT(picture.pixels[x].green, 200);
-        EXPECT_LT(picture.pixels[13 * 10 + x].green, 50);
-    }
-}
-
 TEST(PictureReader, RefusesWhatItCannotTakeWhole) {
     EXPECT_EQ(read("GIMP Palette\n").error().kind, PictureError::Kind::UnknownFormat);
     QImage image(33, 9, QImage::Format_RGB32);

@@ -114,29 +114,5 @@ TEST_F(ImagePlugIns, PreviewIsOffWhereTheActiveImageDoesNotShowInIt) {
     EXPECT_EQ(seen(), Lines{off});
 }
 
-TEST_F(ImagePlugIns, APreviewThatSetsTheImageEndsTheStrokeThatItShows) {
-    install("Previews", "a.so");
-    start();
-    openImage();
-    ASSERT_TRUE(run(ID_PREVIEW1));
-    for (const CommandId tool : {ID_TOOL_PEN, ID_TOOL_LINE, ID_TOOL_BOX}) {
-        ASSERT_TRUE(run(tool));
-        QWidget* const viewport = view().viewport();
-        QTest::mousePress(viewport, Qt::LeftButton, {}, {2, 2});
-        QMouseEvent move(QEvent::MouseMove, {8, 3}, viewport->mapToGlobal(QPoint(8, 3)), Qt::NoButton,
-                         Qt::LeftButton, {});
-        QCoreApplication::sendEvent(viewport, &move);
-        EXPECT_FALSE(view().view().dragging()) << tool;
-        QTest::mouseRelease(viewport, Qt::LeftButton, {}, {8, 3});
-    }
-    ASSERT_TRUE(run(ID_PREVIEW1));
-    while (image().edits().canUndo())
-        image().Undo();
-    for (int y = 0; y < 8; ++y) {
-        for (int x = 0; x < 24; ++x)
-            EXPECT_EQ(texel(x, y), 1U) << x << ' ' << y;
-    }
-}
-
 } // namespace
 } // namespace dyeworks

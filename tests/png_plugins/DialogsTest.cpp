@@ -1,41 +1,24 @@
 #include "FakeHost.h"
+#include "PlugInDialogs.h"
 #include "PngFiles.h"
 
 #include <QAbstractButton>
-#include <QApplication>
-#include <QDialog>
 #include <QImage>
-#include <QLibrary>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace dyeworks::plugins {
 namespace {
-
-/// Answers the dialog that opens next, from inside its loop.
-template <class Answer>
-void answerNext(Answer answer) {
-    QTimer::singleShot(0, qApp, [answer] {
-        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialog, nullptr);
-        answer(*dialog);
-    });
-}
 
 void enterFile(QDialog& dialog, const QString& path) {
     dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
     dialog.accept();
 }
 
-template <class Function>
-Function* entryPoint(const char* library, const char* name) {
-    return reinterpret_cast<Function*>(
-        QLibrary::resolve(QStringLiteral(DYEWORKS_PLUGIN_FOLDER "/") + QString::fromLatin1(library), name));
-}
+const QString kPng = QStringLiteral(DYEWORKS_PLUGIN_FOLDER "/Png");
+const QString kPictures = QStringLiteral(DYEWORKS_PLUGIN_FOLDER "/Pictures");
 
 class PngDialogs : public testing::Test {
 protected:
@@ -43,8 +26,8 @@ protected:
     ImageRecord image_ = imageOf(5, 3, 4, [](int x, int y) { return static_cast<unsigned>(x + y); });
     PlugInPicture picture_{image_.get(), nullptr, 0, 0};
     PlugInPicture out_{nullptr, nullptr, 0, 0};
-    decltype(DWPI_export)* export_ = entryPoint<decltype(DWPI_export)>("Png", "DWPI_export");
-    decltype(DWPI_import)* import_ = entryPoint<decltype(DWPI_import)>("Png", "DWPI_import");
+    decltype(DWPI_export)* export_ = entryPoint<decltype(DWPI_export)>(kPng, "DWPI_export");
+    decltype(DWPI_import)* import_ = entryPoint<decltype(DWPI_import)>(kPng, "DWPI_import");
 };
 
 TEST_F(PngDialogs, ExportThenImport) {
@@ -88,7 +71,7 @@ TEST_F(PngDialogs, SaysWhyAFileIsRefused) {
 }
 
 TEST_F(PngDialogs, PicturesReplaceFilesOnlyWhenTheyMay) {
-    auto* const exportProject = entryPoint<decltype(DWPI_TPF_export)>("Pictures", "DWPI_TPF_export");
+    auto* const exportProject = entryPoint<decltype(DWPI_TPF_export)>(kPictures, "DWPI_TPF_export");
     host = {{{"sea", "\\sea.tmf", "", 0}}, {{"\\sea.tmf", 4}}, {}};
     const QString path = folder_.filePath(QStringLiteral("sea.png"));
     writeBytes(path, "old");

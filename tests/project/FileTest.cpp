@@ -11,7 +11,6 @@ namespace dyeworks {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr const char* kFilePath = "c:\\p\\sea.tpf";
 
@@ -39,27 +38,14 @@ protected:
         }
         return list;
     }
-    void set(const std::string& name, const std::optional<std::string>& after = std::nullopt) {
+    void set(const std::string& name) {
         PictureEntry entry{name + ".tmf", name + ".tlf", 1};
-        EXPECT_TRUE(file_.SetPicture(name, entry, after));
+        EXPECT_TRUE(file_.SetPicture(name, entry, std::nullopt));
     }
 
     FakePlatform fake_;
     CTPFFile file_;
 };
-
-TEST_F(ProjectFile, IsWrittenInItsOrder) {
-    ASSERT_TRUE(file_.Create(kFilePath, "c:\\p", "c:\\p\\tex", ""));
-    EXPECT_FALSE(file_.IsModified());
-    PictureEntry entry{"c:\\p\\tex\\a.tmf", "c:\\p\\a.tlf", 0};
-    file_.SetPicture("Picture0", entry, std::nullopt);
-    EXPECT_EQ(entry.tmfFile, "a.tmf");
-    EXPECT_TRUE(file_.IsModified());
-    EXPECT_EQ(written(), "TPF_DIR\t=\tc:\\p\r\nTMF_DIR\t=\ttex\r\nTLF_DIR\t=\t\r\n"
-                         "PICT.0\t=\tPicture0,a.tmf,a.tlf,0\r\nPICT_NUM\t=\t1\r\n");
-    EXPECT_FALSE(file_.IsModified());
-    EXPECT_EQ(file_.projectName, "sea");
-}
 
 TEST_F(ProjectFile, KeepsWhatOthersWroteAndWhereItStands) {
     read("# mine\nPICT.0\nPICT.0 = A,a.tmf\nPICT_NUM = 3\n\nNote.1 = x\nPICT.2 = B,,b.tlf,0x1F,more\nPICT.7 "
@@ -174,30 +160,6 @@ TEST_F(ProjectFile, TellsOfFoldersThatAreMissing) {
     file_.SetModified(false);
     EXPECT_TRUE(file_.SetDirectories(".", "c:\\p\\", "c:/p/tex"));
     EXPECT_FALSE(file_.IsModified()) << "the same folders";
-}
-
-TEST_F(ProjectFile, PicturesGoBehindTheNamedOneOrToTheHead) {
-    read("");
-    set("A");
-    set("B");
-    set("C", "B");
-    EXPECT_THAT(file_.order, ElementsAre("B", "C", "A"));
-    set("A", "B");
-    EXPECT_THAT(file_.order, ElementsAre("B", "A", "C"));
-    set("C");
-    set("B", "B");
-    EXPECT_THAT(file_.order, ElementsAre("B", "C", "A"));
-    set("a", "nobody");
-    EXPECT_THAT(file_.order, ElementsAre("a", "B", "C", "A"));
-    file_.SetModified(false);
-    EXPECT_FALSE(file_.RemovePicture("c"));
-    EXPECT_FALSE(file_.IsModified());
-    EXPECT_TRUE(file_.RemovePicture("C"));
-    EXPECT_TRUE(file_.IsModified());
-    EXPECT_THAT(listed(), ElementsAre("a,a.tmf,a.tlf,1", "B,B.tmf,B.tlf,1", "A,A.tmf,A.tlf,1"));
-    std::vector<std::string> names{"left over"};
-    EXPECT_EQ(file_.GetPictureNames(names), 3U);
-    EXPECT_EQ(names, file_.order);
 }
 
 TEST_F(ProjectFile, UnsavedChangesAreNotOverwritten) {

@@ -1,12 +1,30 @@
-#include "FakeTreeWindow.h"
 #include "ProjectTestHost.h"
+#include "project/CTPFTreeView.h"
+#include "project/ProjectTreeWindow.h"
 
 #include <gmock/gmock.h>
+
+#include <optional>
+#include <set>
 
 namespace dyeworks {
 namespace {
 
 using testing::ElementsAre;
+
+/// A window that remembers what is expanded, and selects what it is told to.
+class FakeTreeWindow : public ProjectTreeWindow {
+public:
+    [[nodiscard]] bool isExpanded(const ProjectNode& node) const override { return expanded.contains(&node); }
+    void expand(const ProjectNode& node) override { expanded.insert(&node); }
+    void select(const ProjectNode* node) override { view->SelectionChanged(node); }
+    [[nodiscard]] std::optional<WindowPlacement> placement() const override { return place; }
+    void setPlacement(const WindowPlacement& placement) override { place = placement; }
+
+    CTPFTreeView* view = nullptr;
+    std::set<const ProjectNode*> expanded;
+    std::optional<WindowPlacement> place;
+};
 
 /// Of one project, shown in a window that can be opened again.
 class TreeView : public ProjectFixture {

@@ -211,18 +211,6 @@ TEST_F(Recovery, AnOrderlyEndAndASaveLeaveNothing) {
     EXPECT_THAT(fake_.files.enumerate(fake_.files.fromHostPath(base_) + "\\*"), IsEmpty());
 }
 
-TEST_F(Recovery, WhatTheFileHasOutgrownIsNotOffered) {
-    open();
-    CDyeworksDoc& image = *images_.front();
-    edit(3);
-    keeper_->keepNow();
-    ASSERT_TRUE(image.onSaveDocument(image.pathName()));
-    edit(4);
-    (void)keeper_->look(RecoveryKeeper::Clock::now());
-    crash();
-    EXPECT_THAT(offered(), testing::AnyOf(IsEmpty(), testing::Eq(unsaved())));
-}
-
 TEST_F(Recovery, WhatFloatsIsKeptAsItWouldBePlaced) {
     for (const bool wrap : {false, true}) {
         for (const Point at : {Point{0, 0}, Point{-3, 7}, Point{12, -4}, Point{13, 9}}) {

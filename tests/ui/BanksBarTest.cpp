@@ -18,10 +18,6 @@ protected:
         ASSERT_TRUE(run(ID_VIEW_BANKSBAR));
         settle();
     }
-    static void settle() {
-        for (int i = 0; i < 5; ++i)
-            QCoreApplication::processEvents();
-    }
     [[nodiscard]] BanksBar& bar() { return *frame().findChild<BanksBar*>(); }
     [[nodiscard]] ThumbnailButton& button(const char* sheet, int index) {
         return *bar().findChild<QWidget*>(sheet)->findChildren<ThumbnailButton*>().at(index);

@@ -17,17 +17,6 @@ constexpr const char* kAskProject = "Save changes to c:\\proj\\sea.tpf?";
 constexpr const char* kAskImage = "Save changes to c:\\tex\\pic.tmf?";
 constexpr const char* kAskClose = "Do you close all pictures?";
 
-TEST_F(FilesProject, ClosesOnlyAfterItsQuestion) {
-    openProject().setModified(true);
-    ASSERT_TRUE(run(ID_PROJECT_CLOSE)); // cancelled
-    EXPECT_NE(app_.projectDocument(), nullptr);
-    fake_.messages.answerWith(MessageAnswer::Yes);
-    ASSERT_TRUE(run(ID_PROJECT_CLOSE));
-    EXPECT_EQ(app_.projectDocument(), nullptr);
-    EXPECT_THAT(texts(fake_), ElementsAre(kAskProject, kAskProject));
-    EXPECT_THAT(fake_.files.written(), ElementsAre("c:\\proj\\sea.tpf"));
-}
-
 TEST_F(FilesProject, PalettesThenProjectThenImagesAreAskedForOnceEach) {
     openBlank();
     drawPixel({1, 1}, 5);

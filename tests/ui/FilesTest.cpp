@@ -12,8 +12,6 @@
 namespace dyeworks {
 namespace {
 
-constexpr const char* kPalette = "c:\\tex\\pic.tlf";
-
 class FilesTest : public Program {
 protected:
     void openAndDraw() {
@@ -91,49 +89,10 @@ TEST_F(FilesTest, ClosingAPaletteLeavesItsImagesWithoutOne) {
     EXPECT_EQ(shown(), words) << "the words scroll away";
 }
 
-TEST_F(FilesTest, APaletteThatIsOpenedAgainOrChangesColoursItsImages) {
+TEST_F(FilesTest, NoSaveReplacesTheFileOfAnotherWindow) {
     openAndDraw();
-    TextureLookupTable& attached = *app_.paletteSet()->lookup("");
-    fake_.files.putFile("c:\\q.tlf", paletteFile(256, [](int) { return 1U; }));
-    ASSERT_TRUE(app_.OpenDocumentFile("c:\\q.tlf"));
-    const auto green = [this] { return image().canvas().colourTable()[4 * 5 + 1]; };
-    attached.setEntry(5, 31 << 6); // pure green, 248 as it is displayed
-    ASSERT_NE(green(), 248) << "the other palette is current";
-    ASSERT_TRUE(app_.OpenDocumentFile(kPalette));
-    EXPECT_EQ(green(), 248);
-    TextureLookupTable black;
-    ASSERT_TRUE(black.create(256, ColourType::Rgba));
-    black.setEntry(5, 0);
-    app_.BroadcastPaletteChange("c:\\q.tlf", black);
-    EXPECT_EQ(green(), 248) << "of another key";
-    app_.BroadcastPaletteChange(kPalette, black);
-    EXPECT_EQ(green(), 0);
-}
-
-TEST_F(FilesTest, ASavedPaletteLosesItsMarkInTheTitleOfItsImageToo) {
-    openAndDraw();
-    changePalette();
-    app_.paletteSet()->lookup("")->undo();
-    app_.paletteSet()->lookup("")->redo();
-    app_.RefreshImagePalettes();
-    ASSERT_NE(image().title().find("[pic * ]"), std::string::npos) << image().title();
-    ASSERT_TRUE(run(ID_PALETTE_SAVE));
-    EXPECT_NE(image().title().find("[pic]"), std::string::npos) << image().title();
-}
-
-TEST_F(FilesTest, SaveAsGivesThePaletteAndTheImageNewNames) {
-    openAndDraw();
-    const std::string palette = *fake_.files.textOf(kPalette);
-    fake_.dialogs.answerWith("c:\\tex\\new.tlf");
-    ASSERT_TRUE(run(ID_PALETTE_SAVE_AS));
-    EXPECT_EQ(fake_.files.textOf("c:\\tex\\new.tlf"), palette);
-    EXPECT_EQ(app_.paletteSet()->currentKey, "c:\\tex\\new.tlf");
-    EXPECT_EQ(image().attachedName(), "c:\\tex\\new.tlf") << "it stays attached";
     fake_.dialogs.answerWith("c:\\tex\\new.tmf");
     ASSERT_TRUE(run(ID_FILE_SAVE_AS));
-    EXPECT_EQ(image().pathName(), "c:\\tex\\new.tmf");
-    EXPECT_EQ(fake_.files.textOf("c:\\tex\\new.tmf")->size(), 64U + 64U);
-
     putImages(fake_, {"c:\\other.tmf"});
     ASSERT_TRUE(app_.OpenDocumentFile("c:\\other.tmf"));
     fake_.dialogs.answerWith("c:\\tex\\NEW.tmf");

@@ -10,7 +10,6 @@ namespace {
 
 class Usage : public Program {
 protected:
-    static void settle() { QCoreApplication::processEvents(); }
     /// What a screen reader says of a cell, without its colour.
     [[nodiscard]] std::string said(int cell) {
         QWidget* const grid =

@@ -73,6 +73,11 @@ protected:
 
     [[nodiscard]] CMainFrame& frame() { return app_.mainFrame(); }
     bool run(CommandId id) { return app_.router().run(id); }
+    /// Lets bars and docks show what has happened.
+    static void settle() {
+        for (int i = 0; i < 5; ++i)
+            QCoreApplication::processEvents();
+    }
     [[nodiscard]] bool enabled(CommandId id) { return app_.router().state(id).enabled; }
     /// The client point in the middle of a texel.
     [[nodiscard]] QPoint at(int x, int y);
@@ -99,6 +104,10 @@ protected:
         app_.reset();
         app_ = std::make_unique<CDyeworksApp>(std::move(parts));
         return app_->InitInstance(commandLine_);
+    }
+    /// A path as it comes in from the host, where there are no drives.
+    [[nodiscard]] std::string fromHost(const std::string& path) const {
+        return fake_.files.fromHostPath(fake_.files.hostPath(path));
     }
     /// Asks for files on the command line.
     void ask(const std::vector<std::string>& paths) {

@@ -29,10 +29,6 @@ protected:
         }
         return nullptr;
     }
-    /// As a settings file without drives has it.
-    [[nodiscard]] std::string fromHost(const std::string& path) const {
-        return fake_.files.fromHostPath(fake_.files.hostPath(path));
-    }
 };
 
 TEST_F(StartPages, ShowsWhileNothingIsOpenAndTheOptionIsOn) {

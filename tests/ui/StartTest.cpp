@@ -11,10 +11,6 @@ namespace {
 
 class Start : public Launch {
 protected:
-    /// A path as it comes in from the command line, where there are no drives.
-    [[nodiscard]] std::string fromHost(const std::string& path) const {
-        return fake_.files.fromHostPath(fake_.files.hostPath(path));
-    }
     void putPalette(const char* path) {
         fake_.files.putFile(path, paletteFile(16, [](int i) { return static_cast<unsigned>(i) * 99; }));
     }

@@ -26,10 +26,6 @@ protected:
         ASSERT_TRUE(run(ID_VIEW_UNDO_LIST));
         settle();
     }
-    static void settle() {
-        for (int i = 0; i < 5; ++i)
-            QCoreApplication::processEvents();
-    }
     [[nodiscard]] QListView& list() { return *frame().findChild<QListView*>("IDC_UNDO_LIST"); }
     [[nodiscard]] QTabBar& tabs() { return *frame().findChild<QTabBar*>("IDC_UNDO_LIST_OWNER"); }
     /// The rows as screen readers tell them.

@@ -17,9 +17,7 @@ protected:
         ASSERT_NE(first_, second_);
         ASSERT_EQ(first_->document(), second_->document());
     }
-    static ImageView& viewIn(ChildFrame& child) { return *qobject_cast<ImageView*>(child.widget()); }
     static std::string titleOf(const ChildFrame& child) { return child.windowTitle().toStdString(); }
-    static QImage shown(ChildFrame& child) { return viewIn(child).viewport()->grab().toImage(); }
 
     ChildFrame* first_ = nullptr;
     ChildFrame* second_ = nullptr;
@@ -44,23 +42,6 @@ TEST_F(Windows, EachWindowOfAnImageHasItsNumberUntilItIsAlone) {
 
     ASSERT_TRUE(run(ID_FILE_CLOSE));
     EXPECT_EQ(titleOf(*second_), "pic.tmf [pic]");
-}
-
-TEST_F(Windows, EachHasItsZoomAndAllShowWhatIsPainted) {
-    openTwoWindows();
-    ASSERT_TRUE(run(ID_ZOOM_X8));
-    EXPECT_EQ(viewIn(*first_).view().zoom(), 1);
-    const QImage before = shown(*first_);
-    drawPixel({3, 5}, 200);
-    EXPECT_EQ(titleOf(*first_), "pic.tmf [pic] * :1");
-    const QImage after = shown(*first_);
-    EXPECT_NE(after.pixel(3, 5), before.pixel(3, 5));
-    EXPECT_EQ(after.pixel(3, 5), shown(*second_).pixel(3 * 8 + 4, 5 * 8 + 4));
-
-    frame().activateChild(*first_);
-    ASSERT_TRUE(run(ID_EDIT_UNDO)) << "the history is the image's, whichever window asks";
-    EXPECT_EQ(shown(*first_), before);
-    EXPECT_EQ(titleOf(*second_), "pic.tmf [pic]:2");
 }
 
 TEST_F(Windows, FramesRealizeColoursThatChangedWhoeverSaysSoButThemselves) {
