@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <utility>
+
 namespace dyeworks {
 namespace {
 
@@ -63,6 +65,17 @@ TEST_F(Selecting, EachHandleShowsWhichSidesItMoves) {
         EXPECT_EQ(view.selection().texels().value_or(Rect{}), selected);
         EXPECT_TRUE(view.KeyPressed({Key::Enter}));
     }
+}
+
+TEST_F(Selecting, TooLittleHasAFrameWhileItIsGrabbed) {
+    press(middleOf({2, 2}));
+    move(middleOf({2, 5}));
+    release(middleOf({2, 5}));
+    window.invalidated.clear();
+    press(middleOf({2, 3}));
+    EXPECT_EQ(std::exchange(window.invalidated, {}).size(), 1U) << "to come";
+    release(middleOf({2, 3}));
+    EXPECT_EQ(window.invalidated.size(), 1U) << "to go";
 }
 
 TEST_F(Selecting, TheCursorFollowsToolAndKeys) {
