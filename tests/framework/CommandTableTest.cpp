@@ -1,13 +1,10 @@
 #include "framework/CommandTable.h"
 
-#include "framework/KeyText.h"
 #include "platform/fake/FakePlatform.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <set>
-#include <sstream>
 #include <string>
 
 using namespace dyeworks;
@@ -27,15 +24,6 @@ TEST(CommandTable, EveryRowHasItsTextsAndReachesToItsLastNumber) {
     }
     EXPECT_EQ(findCommand(ID_RECENT_IMAGE_FIRST + 7), findCommand(ID_RECENT_IMAGE_LAST));
     EXPECT_EQ(findCommand(ID_ZOOM_X4 + 1), nullptr);
-}
-
-TEST(CommandTable, NoShortcutStandsForTwoCommands) {
-    std::set<std::string> seen;
-    for (const CommandRow& row : commandTable()) {
-        std::istringstream shortcuts(row.shortcut);
-        for (std::string shortcut; shortcuts >> shortcut;)
-            EXPECT_TRUE(seen.insert(comparableKeys(shortcut)).second) << shortcut << " of " << row.id;
-    }
 }
 
 TEST(CommandTable, TranslatedPromptIsSplitAtItsOwnLineBreak) {

@@ -51,6 +51,35 @@ TEST(CanvasShapes, BoxesOfTheFarthestCornersAreCut) {
     EXPECT_EQ(rowsOf(*canvas), (Rows{"444", "444", "444"}));
 }
 
+TEST(CanvasShapes, FillReachesExactlyTheConnectedRegion) {
+    for (unsigned seed = 0; seed < 60; ++seed) {
+        Random random(seed);
+        TextureCanvas canvas;
+        ASSERT_TRUE(canvas.Create(random.between(1, 40), random.between(1, 40), 1, seed % 2 == 0 ? 4 : 8));
+        for (std::int32_t i = 0; i < canvas.width() * canvas.height(); ++i)
+            canvas.SetPixel(i % canvas.width(), i / canvas.width(), random.once(3) ? 1 : 0);
+        const Point start{random.between(0, canvas.width() - 1), random.between(0, canvas.height() - 1)};
+        const std::uint32_t target = canvas.GetPixel(start.x, start.y);
+
+        Rows expected = rowsOf(canvas);
+        std::vector<Point> open{start};
+        while (!open.empty()) {
+            const auto [x, y] = open.back();
+            open.pop_back();
+            if (x < 0 || y < 0 || x >= canvas.width() || y >= canvas.height())
+                continue;
+            char& pixel = expected[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)];
+            if (pixel != (target == 0 ? '.' : '1'))
+                continue;
+            pixel = '9';
+            for (const Point next : {Point{x - 1, y}, Point{x + 1, y}, Point{x, y - 1}, Point{x, y + 1}})
+                open.push_back(next);
+        }
+        canvas.FloodFill(start.x, start.y, 9);
+        ASSERT_EQ(rowsOf(canvas), expected) << "seed " << seed;
+    }
+}
+
 template <typename Canvas>
 void fillBetweenCombs(std::uint16_t bitsPerPixel) {
     // Every other pixel of the outer rows can be reached from the middle one alone, some 5000 on each side.

@@ -14,7 +14,6 @@ class DocPlugIns : public DocFixture {
 protected:
     DocPlugIns() { host.active = &document; }
     std::vector<std::string> calls() { return host.plugIns.take(); }
-    bool checked(CommandId id) { return stateOf(document, id).checked.value(); }
 };
 
 TEST_F(DocPlugIns, PreviewsThatAreOnFollowImageAndPalette) {
@@ -55,20 +54,6 @@ TEST_F(DocPlugIns, PreviewsThatAreOnFollowImageAndPalette) {
     host.active = &document;
     fill(0, 0, 7);
     EXPECT_THAT(calls(), ElementsAre("preview 0 texel 7 of 256 from 48", "preview 1 texel 7 of 256 from 48"));
-}
-
-TEST_F(DocPlugIns, FailingPreviewIsSwitchedOff) {
-    document.runCommand(ID_PREVIEW1);
-    EXPECT_TRUE(checked(ID_PREVIEW1));
-    host.plugIns.failingPreview = 1;
-    document.runCommand(ID_PREVIEW2);
-    EXPECT_FALSE(checked(ID_PREVIEW2));
-    EXPECT_TRUE(checked(ID_PREVIEW1));
-    EXPECT_EQ(calls().back(), "off 1");
-    document.runCommand(ID_PREVIEW1);
-    EXPECT_FALSE(checked(ID_PREVIEW1));
-    pixel(1, 1, 5);
-    EXPECT_THAT(calls(), ElementsAre("off 0"));
 }
 
 TEST_F(DocPlugIns, CommandsStandForThePlugInsOfTheirNumbers) {

@@ -68,6 +68,9 @@ TEST_F(FilesTest, OneBadFileDoesNotKeepTheOthersFromOpening) {
     EXPECT_FALSE(app_.OpenFiles({"c:\\a.tmf", "c:\\gone.tmf", "c:\\p.tlf"}, true));
     EXPECT_EQ(windows(), 1U);
     EXPECT_EQ(image().attachedName(), "c:\\p.tlf") << "waited for the palette behind it";
+    app_.paletteSet()->lookup("")->setEntry(1, 31 << 6);
+    ASSERT_TRUE(app_.OpenDocumentFile("c:\\p.tlf"));
+    EXPECT_EQ(image().canvas().colourTable()[4 + 1], 248) << "opened again, it colours its images";
 }
 
 TEST_F(FilesTest, ClosingAPaletteLeavesItsImagesWithoutOne) {
