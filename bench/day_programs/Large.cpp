@@ -7,6 +7,8 @@
 #include "core/TmfFormat.h"
 #include "core/TmfImage.h"
 #include "framework/widgets/ScrollView.h"
+#include "paint/CanvasBlock.h"
+#include "platform/posix/HugePages.h"
 #include "project/CTPFDocument.h"
 #include "project/widgets/ProjectTreeWidget.h"
 #include "ui/CMainFrame.h"
@@ -492,16 +494,18 @@ bool runCase(const char* name, const QString& home) {
     return child > 0 && waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
-/// A virtual machine may have to fetch memory that it has never used from its host, at a tenth of the speed.
-/// What the largest case uses is used once in a process that ends, so that no case pays for being the first.
+/// A virtual machine may have to fetch memory that it has not used of late from its host, at a tenth of the
+/// speed. As much as the largest case uses is used once, in pages as large, so that no case pays for being
+/// the first.
 void useMachineMemory() {
-    constexpr std::size_t kBytes = std::size_t{3} << 30U;
-    constexpr std::size_t kPage = 4096;
+    constexpr std::size_t kBytes = std::size_t{4} << 30U;
     const pid_t child = fork();
     if (child == 0) {
-        auto* const bytes = static_cast<char*>(std::malloc(kBytes)); // NOLINT(cppcoreguidelines-no-malloc)
-        for (std::size_t at = 0; bytes != nullptr && at < kBytes; at += kPage)
-            static_cast<volatile char*>(bytes)[at] = 1;
+        const CanvasBlock block = allocateCanvasBlock(kBytes, BlockContents::Undefined);
+        if (block != nullptr) {
+            askForHugePages(block.get(), kBytes);
+            std::memset(block.get(), 1, kBytes);
+        }
         std::_Exit(0);
     }
     if (child > 0)
